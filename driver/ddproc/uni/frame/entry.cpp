@@ -1,0 +1,37 @@
+// Start-up and shut-down order of the module.
+#include "frame/entry.h"
+
+#include "frame/module_handles.h"
+
+namespace {
+
+void LoadResourceModule() {
+    wchar_t path[kPathCapacity];
+    if (SiblingPath(ModuleInstance(), L"TELMAR_S.DLL", path))
+        SetResourceModule(LoadLibraryW(path));
+}
+
+void FreeResourceModule() {
+    if (ResourceModule() != nullptr)
+        FreeLibrary(ResourceModule());
+    SetResourceModule(nullptr);
+}
+
+void Attach(HINSTANCE instance) {
+    SetModuleInstance(instance);
+    LoadResourceModule();
+}
+
+void Detach() {
+    FreeResourceModule();
+}
+
+} // namespace
+
+BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* /*reserved*/) {
+    if (reason == DLL_PROCESS_ATTACH)
+        Attach(instance);
+    else if (reason == DLL_PROCESS_DETACH)
+        Detach();
+    return TRUE;
+}

@@ -1,0 +1,51 @@
+// The exports that the frame itself answers, and those that have no answer yet.
+#include "frame/exports.h"
+
+#include "picture/device_capabilities.h"
+
+extern "C" {
+
+void WINAPI MIB_FreeOverlayInfo(void* block) {
+    if (block != nullptr)
+        LocalFree(block);
+}
+
+void* WINAPI DDProc_FeatureNameItemTable() {
+    return nullptr;
+}
+
+BOOL WINAPI DDProc_DeviceCapabilities(const DeviceTable* device, const FeatureRecord* features,
+                                      const void* reserved, const FeatureSettings* settings, WORD capability,
+                                      void* output, DWORD* answer) {
+    return AnswerDeviceCapability(device, features, reserved, settings, capability, output, answer);
+}
+
+// Not built yet: FALSE, 0 or null, whatever the arguments. The README lists them.
+#define NO_ANSWER(name)                                                                                      \
+    INT_PTR WINAPI name() {                                                                                  \
+        return 0;                                                                                            \
+    }
+
+NO_ANSWER(DrawPrinterView)
+NO_ANSWER(DDProc_IsCommunicateDevice)
+NO_ANSWER(DDProc_IsEnableBdcLib)
+NO_ANSWER(MIB_ModelCheckInfo)
+NO_ANSWER(MIB_OptionReqInfo)
+NO_ANSWER(MIB_MrkSupReqInfo)
+NO_ANSWER(MIB_OvlReqInfo)
+NO_ANSWER(MIB_CMProfReqInfo)
+NO_ANSWER(MIB_IsAccessOK)
+NO_ANSWER(MIB_IsModelOK)
+NO_ANSWER(MIB_OptionRequest)
+NO_ANSWER(MIB_MrkSupRequest)
+NO_ANSWER(MIB_OverlayRequest)
+NO_ANSWER(MIB_ProfileRequest)
+NO_ANSWER(GET_MrkSupItemList)
+NO_ANSWER(DrawLogoImage)
+NO_ANSWER(DrawLogoVersionTab)
+NO_ANSWER(DDProc_DlgProc)
+NO_ANSWER(DDProc_GetPrinterIPAddress)
+NO_ANSWER(DDProc_OptionRequest)
+NO_ANSWER(DDProc_InputTrayStatus)
+#undef NO_ANSWER
+}

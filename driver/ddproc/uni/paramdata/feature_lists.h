@@ -1,0 +1,25 @@
+// The item lists of the printing features: built from the file into the device table, in stages, and released.
+#ifndef PARAMDATA_FEATURE_LISTS_H
+#define PARAMDATA_FEATURE_LISTS_H
+
+#include "paramdata/device_table.h"
+
+// The stages of building; each builds its lists in the order of the table in feature_lists.cpp.
+enum class ListStage {
+    Paper,     // paper sizes, output paper sizes, media types, input trays
+    Output,    // output trays, media weights, media colours, resolutions
+    Finishing, // combinations to per-page staples
+    Location,  // output methods, overlay and profile locations
+    Page,      // tab paper sizes, collate, transparency interleave, paper arrangement
+};
+void BuildLists(PrmFile& file, DeviceTable& table, ListStage stage);
+
+// Builds the tray selection list of one feature into the table's field that the bit selects: 1 "FCoverTray",
+// 2 "BCoverTray", 4 "SeparatePageTray", 8 "OHPIntTray", 16 "PIFrontCover", 32 "PIBackCover",
+// 64 "PerPageListPaperSrc". Any other bit builds nothing, a null table neither.
+void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* feature, uint32_t featureBit);
+
+// Releases every list of the table, the tray rows included.
+void FreeLists(DeviceTable& table);
+
+#endif

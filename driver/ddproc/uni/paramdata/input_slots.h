@@ -1,0 +1,41 @@
+// The model's paper sources, and by which item keys the tray selection features name them. Compiled in; bin numbers
+// and tray texts are updated from the parameter data file while the device table is built.
+#ifndef PARAMDATA_INPUT_SLOTS_H
+#define PARAMDATA_INPUT_SLOTS_H
+
+#include <cstddef>
+#include <cstdint>
+
+struct PrmFile;
+
+// The features that select a tray, in the order of their columns below and of their lists in the device table.
+inline constexpr const char* kTraySelectionFeatures[] = {
+    "FCoverTray",   "BCoverTray",  "SeparatePageTray",    "OHPIntTray",
+    "PIFrontCover", "PIBackCover", "PerPageListPaperSrc",
+};
+constexpr size_t kTraySelectionCount = sizeof(kTraySelectionFeatures) / sizeof(kTraySelectionFeatures[0]);
+
+#pragma pack(push, 1)
+struct TraySourceRecord {
+    char key[32];
+    uint16_t bin;
+    char text[128];
+    uint16_t reserved;
+    char selectionKeys[kTraySelectionCount][32]; // empty: the feature does not offer this source
+};
+static_assert(sizeof(TraySourceRecord) == 388 && offsetof(TraySourceRecord, bin) == 32
+              && offsetof(TraySourceRecord, text) == 34 && offsetof(TraySourceRecord, reserved) == 162
+              && offsetof(TraySourceRecord, selectionKeys) == 164);
+#pragma pack(pop)
+
+// Ends at an empty key. The first row is the automatic choice.
+extern TraySourceRecord inputSlots[12];
+
+// Takes bin numbers and tray texts from the file's "ALL_InTray".
+void UpdateInputSlots(const PrmFile& file);
+
+// Bin number of the paper source that a tray selection feature's item names. False, and `value` untouched, when the
+// feature or the item is unknown or the item key empty.
+bool TraySelectionValue(const char* feature, const char* itemKey, uint32_t& value);
+
+#endif

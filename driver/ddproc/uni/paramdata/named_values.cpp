@@ -1,0 +1,129 @@
+// Name/value tables of the parameter data file. Each row of the file is held against every name of the builder, so a
+// later row of the same name overwrites an earlier one, and one row may set two fields.
+#include "paramdata/named_values.h"
+
+#include "paramdata/device_table.h"
+#include "paramdata/prm_readers.h"
+#include "paramdata/text.h"
+
+namespace {
+
+constexpr size_t kValueCapacity =
+    sizeof(PrmTableRow::value) + 1; // a full value has no terminator in the file
+
+// Calls visit(row) for each row of the entry's table. A table that announces more rows than the file could hold
+// counts as missing.
+template <typename Visit>
+void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
+    PrmItems items;
+    if (!PrmFindItems(file, entry, items))
+        return;
+    PrmTableHeader header = {};
+    PrmReadBlock(file, PrmItemOffset(file, items, 0), sizeof(header), &header);
+    if (header.rowCount > file.size / sizeof(PrmTableRow))
+        return;
+    for (uint32_t i = 0; i < header.rowCount; ++i) {
+        PrmTableRow row = {};
+        PrmReadBlock(file, header.firstRow + uint64_t{sizeof(row)} * i, sizeof(row), &row);
+        visit(row);
+    }
+}
+
+// The number n, 1 to kMostSwitchType, of a value "TYPEn"; 1 for any other value. Leading zeros don't count as "TYPEn".
+uint32_t SwitchType(const char* value) {
+    constexpr size_t kPrefix = 4;
+    if (TextLength(value) <= kPrefix || !SameCharacters(value, "TYPE", kPrefix) || value[kPrefix] == '0')
+        return 1;
+    uint32_t number = 0;
+    for (const char* digit = value + kPrefix; *digit != 0; ++digit) {
+        if (!IsDigit(*digit))
+            return 1;
+        number = number * 10 + static_cast<uint32_t>(*digit - '0');
+        if (number > kMostSwitchType)
+            return 1;
+    }
+    return number;
+}
+
+// Leading spaces, an optional sign, then digits; 0 when there are none.
+uint32_t DecimalNumber(const char* text) {
+    while (*text == ' ')
+        ++text;
+    const bool negative = *text == '-';
+    if (*text == '-' || *text == '+')
+        ++text;
+    const uint32_t number = IsDigit(*text) ? PrmParseFirstNumber(text) : 0;
+    return negative ? 0 - number : number;
+}
+
+uint8_t PrintRateUnit(const char* value) {
+    constexpr const char* kUnits[] = {"CPS", "LPM", "IPM"};
+    for (uint8_t i = 0; i < 3; ++i)
+        if (SameText(value, kUnits[i]))
+            return static_cast<uint8_t>(2 + i);
+    return 1;
+}
+
+void StorePdlTypes(DeviceTable& table, const char* value) {
+    uint16_t first = 0;
+    uint16_t second = 0;
+    PrmParseTwoNumbers(value, first, second);
+    table.pdlTypeA = first;
+    table.pdlTypeB = second;
+}
+
+struct NamedValue {
+    const char* name;
+    void (*store)(DeviceTable& table, const char* value);
+};
+
+// clang-format off
+constexpr NamedValue kDeviceFacts[] = {
+    {"PrintRatePPM",      [](DeviceTable& table, const char* value) { table.printRatePpm = DecimalNumber(value); }},
+    {"PrintRate",         [](DeviceTable& table, const char* value) { table.printRate = DecimalNumber(value); }},
+    {"PrintRateUnit",     [](DeviceTable& table, const char* value) { table.printRateUnit = PrintRateUnit(value); }},
+    {"Staple",            [](DeviceTable& table, const char* value) { table.stapler = SameText(value, "TRUE"); }},
+    {"ColorDevice",       [](DeviceTable& table, const char* value) { table.colorDevice = SameText(value, "TRUE"); }},
+    {"PDLType",           StorePdlTypes},
+    {"MachineEncryption", [](DeviceTable& table, const char* value) { table.machineEncryption = SameText(value, "AES") ? 1 : 2; }},
+};
+
+constexpr NamedValue kFigureType[] = {
+    {"FigureType",        [](DeviceTable& table, const char* value) { table.figureType |= SameText(value, "MFP") ? 1 : 0; }},
+};
+// clang-format on
+
+template <size_t Count>
+void BuildNamedValues(const PrmFile& file, const char* entry, const NamedValue (&names)[Count],
+                      DeviceTable& table) {
+    ForEachRow(file, entry, [&](const PrmTableRow& row) {
+        char value[kValueCapacity];
+        CopyText(value, row.value);
+        for (const NamedValue& named : names)
+            if (SameText(row.name, named.name))
+                named.store(table, value);
+    });
+}
+
+} // namespace
+
+void BuildFeatureSwitches(const PrmFile& file, DeviceTable& table) {
+    ForEachRow(file, "FeatureSetting", [&](const PrmTableRow& row) {
+        char value[kValueCapacity];
+        CopyText(value, row.value);
+        for (size_t i = 0; i < kFeatureSwitchCount; ++i) {
+            const FeatureSwitchRow& feature = kFeatureSwitches[i];
+            if (SameText(row.name, feature.name))
+                table.switches[i] = feature.enablingValue != nullptr ? SameText(value, feature.enablingValue)
+                                                                     : SwitchType(value);
+        }
+    });
+}
+
+void BuildDeviceFacts(const PrmFile& file, DeviceTable& table) {
+    BuildNamedValues(file, "DevInfo", kDeviceFacts, table);
+}
+
+void BuildFigureType(const PrmFile& file, DeviceTable& table) {
+    BuildNamedValues(file, "PaperSizeFigure", kFigureType, table);
+}

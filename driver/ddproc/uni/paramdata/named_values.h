@@ -1,0 +1,17 @@
+// Builders of the device table's fields that come from name/value tables: feature switches and device facts.
+#ifndef PARAMDATA_NAMED_VALUES_H
+#define PARAMDATA_NAMED_VALUES_H
+
+struct DeviceTable;
+struct PrmFile;
+
+// "FeatureSetting": the feature switches.
+void BuildFeatureSwitches(const PrmFile& file, DeviceTable& table);
+
+// "DevInfo": print rate, stapler, colour, page description languages, encryption.
+void BuildDeviceFacts(const PrmFile& file, DeviceTable& table);
+
+// "PaperSizeFigure": the figure type.
+void BuildFigureType(const PrmFile& file, DeviceTable& table);
+
+#endif

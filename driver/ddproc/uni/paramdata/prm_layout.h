@@ -1,0 +1,197 @@
+// Layout of the parameter data file TELMAR_D.PRM: the header, the entry chain and every kind of record that
+// an entry may carry. Shared by the reader, the builders and the file's compiler; needs no platform header.
+//
+// All numbers are little-endian, all offsets absolute from the start of the file. Text fields are 8-bit and may
+// lack their terminator when they are full. Fields called `unread` belong to the file's producer.
+#ifndef PARAMDATA_PRM_LAYOUT_H
+#define PARAMDATA_PRM_LAYOUT_H
+
+#include <cstddef>
+#include <cstdint>
+
+constexpr uint32_t kPrmFirstEntry = 8;    // offset of the first entry, directly behind the header
+constexpr size_t kPrmMostTextBytes = 290; // longest 8-bit text that is read, without its terminator
+constexpr size_t kPrmMostTextChars = 291; // longest UTF-16 text that is read, without its terminator
+
+#pragma pack(push, 1)
+
+struct PrmHeader {
+    uint32_t unread;
+    uint32_t chainEnd; // a next-entry offset at or beyond this one ends the chain
+};
+static_assert(sizeof(PrmHeader) == 8 && offsetof(PrmHeader, chainEnd) == 4);
+
+// One named entry. Its PrmEntryInfo follows directly.
+struct PrmEntry {
+    char name[32];
+    uint32_t firstItem; // start of the item chain
+    uint8_t unread[12];
+    uint32_t next; // offset of the next entry
+};
+static_assert(sizeof(PrmEntry) == 52 && offsetof(PrmEntry, firstItem) == 32
+              && offsetof(PrmEntry, next) == 48);
+
+struct PrmEntryInfo {
+    uint32_t itemCount;
+    uint32_t defaultRecord; // a record of the items' kind; its first field is the default item's key offset
+    uint32_t itemOffsets;   // array of itemCount offsets, in item order
+};
+static_assert(sizeof(PrmEntryInfo) == 12 && offsetof(PrmEntryInfo, defaultRecord) == 4
+              && offsetof(PrmEntryInfo, itemOffsets) == 8);
+
+// Every item record starts with these fields.
+struct PrmItemHead {
+    uint32_t key; // offset of an 8-bit text
+    uint32_t unread;
+    uint32_t display; // offset of a UTF-16 text
+};
+static_assert(sizeof(PrmItemHead) == 12 && offsetof(PrmItemHead, display) == 8);
+
+// Plain item.
+struct PrmItemDescriptor {
+    PrmItemHead head;
+    uint32_t next; // the item chain: offset of the next item's descriptor
+};
+static_assert(sizeof(PrmItemDescriptor) == 16 && offsetof(PrmItemDescriptor, next) == 12);
+
+// Item with text: finishing, media attributes, output, locations.
+struct PrmTextItem {
+    PrmItemHead head;
+    uint32_t value;
+    char text[128];
+    uint8_t unread[4];
+};
+static_assert(sizeof(PrmTextItem) == 148 && offsetof(PrmTextItem, value) == 12
+              && offsetof(PrmTextItem, text) == 16);
+
+// Tray and media item; the text area holds one text, or two of 64 bytes (collate).
+struct PrmMediaItem {
+    PrmItemHead head;
+    uint32_t value;
+    uint8_t unread[8];
+    uint32_t extra; // enable flag (input trays) or extra value (collate)
+    union {
+        char text[128];
+        char texts[2][64];
+    };
+};
+static_assert(sizeof(PrmMediaItem) == 156 && offsetof(PrmMediaItem, value) == 12
+              && offsetof(PrmMediaItem, extra) == 24 && offsetof(PrmMediaItem, text) == 28);
+
+struct PrmTabPaper {
+    PrmItemHead head;
+    uint32_t value;
+    uint32_t values[3];
+};
+static_assert(sizeof(PrmTabPaper) == 28 && offsetof(PrmTabPaper, value) == 12
+              && offsetof(PrmTabPaper, values) == 16);
+
+struct PrmResolution {
+    PrmItemHead head;
+    uint8_t unread[8];
+    uint32_t values[3];
+};
+static_assert(sizeof(PrmResolution) == 32 && offsetof(PrmResolution, values) == 20);
+
+struct PrmOutputPaper {
+    PrmItemHead head;
+    uint8_t unread1[4];
+    uint32_t value;
+    uint8_t unread2[4];
+    uint32_t width; // tenths of a millimetre, as the length; read for the default record only
+    uint32_t length;
+    uint8_t unread3[276];
+    uint32_t secondDisplay; // offset of a UTF-16 text
+    uint32_t values[2];
+};
+static_assert(sizeof(PrmOutputPaper) == 320 && offsetof(PrmOutputPaper, value) == 16
+              && offsetof(PrmOutputPaper, width) == 24 && offsetof(PrmOutputPaper, length) == 28
+              && offsetof(PrmOutputPaper, secondDisplay) == 308 && offsetof(PrmOutputPaper, values) == 312);
+
+// Geometry sets and margins are stored with the device table's paper sizes; each counts only when its flag is
+// not 0.
+struct PrmPaper {
+    PrmItemHead head;
+    uint8_t unread1[4];
+    uint32_t value;
+    uint8_t unread2[4];
+    uint32_t width; // tenths of a millimetre, as the length
+    uint32_t length;
+    uint32_t furtherSizes[2];
+    uint32_t flag1;
+    uint8_t set1[72];
+    uint8_t unread3[8];
+    uint32_t flag2;
+    uint32_t set2[2];
+    uint32_t set3[4]; // margins
+    uint8_t set4[120];
+    uint32_t set5[4];
+    uint32_t flag3;
+    uint32_t flag4;
+    uint32_t flag5;
+    uint8_t unread4[8];
+    uint32_t secondDisplay; // offset of a UTF-16 text
+    char text[128];
+    uint32_t values[2];
+    char shortName[32];
+    uint32_t longValues[3];
+    char longText[128];
+};
+static_assert(sizeof(PrmPaper) == 620 && offsetof(PrmPaper, value) == 16 && offsetof(PrmPaper, width) == 24
+              && offsetof(PrmPaper, length) == 28 && offsetof(PrmPaper, furtherSizes) == 32
+              && offsetof(PrmPaper, flag1) == 40 && offsetof(PrmPaper, set1) == 44
+              && offsetof(PrmPaper, flag2) == 124 && offsetof(PrmPaper, set2) == 128
+              && offsetof(PrmPaper, set3) == 136 && offsetof(PrmPaper, set4) == 152
+              && offsetof(PrmPaper, set5) == 272 && offsetof(PrmPaper, flag3) == 288
+              && offsetof(PrmPaper, flag4) == 292 && offsetof(PrmPaper, flag5) == 296
+              && offsetof(PrmPaper, secondDisplay) == 308 && offsetof(PrmPaper, text) == 312
+              && offsetof(PrmPaper, values) == 440 && offsetof(PrmPaper, shortName) == 448
+              && offsetof(PrmPaper, longValues) == 480 && offsetof(PrmPaper, longText) == 492);
+
+// Name/value tables: the entry's first item offset leads to the header, the rows follow one another.
+struct PrmTableHeader {
+    uint32_t rowCount;
+    uint32_t unread;
+    uint32_t firstRow;
+};
+static_assert(sizeof(PrmTableHeader) == 12 && offsetof(PrmTableHeader, firstRow) == 8);
+
+struct PrmTableRow {
+    char name[32];
+    char value[32];
+};
+static_assert(sizeof(PrmTableRow) == 64 && offsetof(PrmTableRow, value) == 32);
+
+// Numeric block of a range entry, directly behind its PrmEntryInfo.
+struct PrmRange {
+    uint8_t unread[3][12];
+    uint32_t valueB; // device table range B
+    uint32_t valueA; // device table range A
+    uint32_t defaultValue;
+};
+static_assert(sizeof(PrmRange) == 48 && offsetof(PrmRange, valueB) == 36 && offsetof(PrmRange, valueA) == 40
+              && offsetof(PrmRange, defaultValue) == 44);
+
+// Machine information: an item and the sub-records that it leads to.
+struct PrmMachine {
+    char name[16];
+    uint32_t detailCount;
+    uint32_t firstDetail; // offset of the first PrmMachineDetail; they follow one another
+};
+static_assert(sizeof(PrmMachine) == 24 && offsetof(PrmMachine, detailCount) == 16
+              && offsetof(PrmMachine, firstDetail) == 20);
+
+struct PrmMachineDetail {
+    char texts[2][16];
+};
+static_assert(sizeof(PrmMachineDetail) == 32);
+
+struct PrmCountry {
+    uint32_t value;
+    uint32_t unread;
+};
+static_assert(sizeof(PrmCountry) == 8);
+
+#pragma pack(pop)
+
+#endif

@@ -1,0 +1,106 @@
+// Typed readers of the parameter data file: see the header.
+#include "paramdata/prm_readers.h"
+
+#include "paramdata/text.h"
+
+#include <cstring>
+
+bool PrmReadEntry(const PrmFile& file, uint64_t offset, PrmEntry& entry) {
+    return offset != 0 && PrmRead(file, &entry, sizeof(entry), offset) > 0;
+}
+
+bool PrmReadEntryInfo(const PrmFile& file, uint64_t offset, PrmEntryInfo& info) {
+    return PrmRead(file, &info, sizeof(info), offset) > 0;
+}
+
+bool PrmReadBlock(const PrmFile& file, uint64_t offset, uint32_t count, void* to) {
+    return PrmRead(file, to, count, offset) >= 0;
+}
+
+bool PrmReadDword(const PrmFile& file, uint64_t offset, uint32_t& to) {
+    return PrmReadBlock(file, offset, sizeof(to), &to);
+}
+
+bool PrmReadString(const PrmFile& file, uint64_t offset, PrmText& to) {
+    PrmText text = {}; // beyond the end of the file it stays terminated
+    if (!PrmReadBlock(file, offset, sizeof(text), text) || TextLength(text) > kPrmMostTextBytes)
+        return false;
+    CopyText(to, text);
+    return true;
+}
+
+bool PrmReadWideString(const PrmFile& file, uint64_t offset, PrmWideText& to) {
+    PrmWideText text = {};
+    if (!PrmReadBlock(file, offset, kPrmMostTextChars * sizeof(text[0]), text) || text[0] == 0)
+        return false;
+    CopyText(to, text);
+    return true;
+}
+
+bool PrmReadRange(const PrmFile& file, uint64_t offset, uint32_t (&values)[3]) {
+    PrmRange range = {};
+    if (PrmRead(file, &range, sizeof(range), offset)
+        <= static_cast<int32_t>(offsetof(PrmRange, defaultValue)))
+        return false;
+    values[0] = range.valueA;
+    values[1] = range.valueB;
+    values[2] = range.defaultValue;
+    return true;
+}
+
+bool PrmReadStringValue(const PrmFile& file, const char* name, char* to, size_t capacity) {
+    memset(to, 0, capacity);
+    PrmItems items;
+    if (!PrmFindItems(file, name, items))
+        return false;
+    PrmItemDescriptor record = {};
+    PrmReadRecord16(file, items.defaultRecord, record);
+    PrmText text = {};
+    PrmReadString(file, record.head.key, text);
+    const size_t length = TextLength(text);
+    if (length + 1 >= capacity)
+        return false;
+    memcpy(to, text, length);
+    return true;
+}
+
+bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items) {
+    const uint32_t offset = PrmFindEntry(file, name);
+    PrmEntry entry = {};
+    if (!PrmReadEntry(file, offset, entry))
+        return false;
+    PrmEntryInfo info = {};
+    PrmReadEntryInfo(file, offset + uint64_t{sizeof(PrmEntry)}, info);
+    if (info.itemCount > file.size / sizeof(uint32_t))
+        return false;
+    items = {offset, entry.firstItem, info.itemCount, info.defaultRecord, info.itemOffsets};
+    return true;
+}
+
+uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t position) {
+    uint32_t offset = 0;
+    PrmReadDword(file, items.offsets + uint64_t{sizeof(offset)} * position, offset);
+    return offset;
+}
+
+uint32_t PrmParseFirstNumber(const char* text) {
+    while (*text != 0 && !IsDigit(*text))
+        ++text;
+    uint32_t number = 0;
+    for (; IsDigit(*text); ++text)
+        number = number * 10 + static_cast<uint32_t>(*text - '0');
+    return number;
+}
+
+void PrmParseTwoNumbers(const char* text, uint16_t& first, uint16_t& second) {
+    uint16_t* const destinations[] = {&first, &second};
+    for (uint16_t* destination : destinations) {
+        while (*text != 0 && !IsDigit(*text))
+            ++text;
+        if (*text == 0)
+            return;
+        *destination = static_cast<uint16_t>(PrmParseFirstNumber(text));
+        while (IsDigit(*text))
+            ++text;
+    }
+}

@@ -1,0 +1,55 @@
+// Texts in fixed fields: bounded copies and comparisons, for every subsystem. Nobody copies a text in another way.
+// A text is given as an array, which it may fill without a terminator, or as a pointer to a terminated text.
+#ifndef PARAMDATA_TEXT_H
+#define PARAMDATA_TEXT_H
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+// Characters that a text may have at most.
+template <typename Text>
+inline constexpr size_t kTextCapacity = std::is_array_v<Text> ? std::extent_v<Text> : SIZE_MAX;
+
+// Characters before the terminator.
+template <typename Text>
+constexpr size_t TextLength(const Text& text) {
+    size_t length = 0;
+    while (length < kTextCapacity<Text> && text[length] != 0)
+        ++length;
+    return length;
+}
+
+// Copies what fits and always terminates; the rest of the destination stays as it is.
+template <typename Char, size_t Capacity, typename Text>
+constexpr void CopyText(Char (&to)[Capacity], const Text& from) {
+    size_t length = 0;
+    for (; length < Capacity - 1 && length < kTextCapacity<Text> && from[length] != 0; ++length)
+        to[length] = from[length];
+    to[length] = 0;
+}
+
+constexpr char FoldCase(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+// Whether the first `length` characters are the same, ASCII case ignored. Neither text may be shorter.
+constexpr bool SameCharacters(const char* a, const char* b, size_t length) {
+    for (size_t i = 0; i < length; ++i)
+        if (FoldCase(a[i]) != FoldCase(b[i]))
+            return false;
+    return true;
+}
+
+// Whether two texts are the same in full, ASCII case ignored.
+template <typename TextA, typename TextB>
+constexpr bool SameText(const TextA& a, const TextB& b) {
+    const size_t length = TextLength(a);
+    return length == TextLength(b) && SameCharacters(a, b, length);
+}
+
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+#endif
