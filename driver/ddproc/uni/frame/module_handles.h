@@ -1,5 +1,5 @@
-// The module's process-wide handles, and paths beside its file. Ground floor of the module: every subsystem may
-// include this header. Written while the process attaches or detaches, only read in between.
+// The module's process-wide handles, and paths beside its file. Ground floor of the module: every subsystem
+// may include this header. Written while the process attaches or detaches, only read in between.
 #ifndef FRAME_MODULE_HANDLES_H
 #define FRAME_MODULE_HANDLES_H
 

@@ -1,5 +1,5 @@
-// The device table: the order in which its parts are built, the builders of its ranges, machine information and
-// country, and its release.
+// The device table: the order in which its parts are built, the builders of its ranges, machine information
+// and country, and its release.
 #include "paramdata/device_table.h"
 
 #include "paramdata/feature_lists.h"

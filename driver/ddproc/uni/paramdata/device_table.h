@@ -1,8 +1,8 @@
-// Chief header of the parameter data: the layouts of the device table and of every list record that it refers to.
-// The user-interface module builds and reads the same records, so no field moves.
+// Chief header of the parameter data: the layouts of the device table and of every list record that it refers
+// to. The user-interface module builds and reads the same records, so no field moves.
 //
-// Every list is one block of the global heap, owned by the device table; it ends at the first record whose key is
-// empty. Keys and texts are 8-bit, display names UTF-16, all terminated.
+// Every list is one block of the global heap, owned by the device table; it ends at the first record whose
+// key is empty. Keys and texts are 8-bit, display names UTF-16, all terminated.
 #ifndef PARAMDATA_DEVICE_TABLE_H
 #define PARAMDATA_DEVICE_TABLE_H
 
@@ -259,9 +259,9 @@ static_assert(sizeof(DeviceTable) == 818 && offsetof(DeviceTable, copiesA) == 34
 
 struct PrmFile;
 
-// Builds the model's device table from an open parameter data file. Entries that the file lacks leave their fields
-// 0 and their lists null. Also updates the compiled-in input slots from the file. The caller frees the table.
-// Null when there is no memory for the table itself.
+// Builds the model's device table from an open parameter data file. Entries that the file lacks leave their
+// fields 0 and their lists null. Also updates the compiled-in input slots from the file. The caller frees the
+// table. Null when there is no memory for the table itself.
 DeviceTable* BuildDeviceTable(PrmFile& file);
 
 // Releases the table and every list that it refers to. Null is accepted.

@@ -1,5 +1,5 @@
-// The common list build: one loop over the items of an entry, one fill per pair of file record and list record, one
-// table that says which list is built from what.
+// The common list build: one loop over the items of an entry, one fill per pair of file record and list
+// record, one table that says which list is built from what.
 #include "paramdata/feature_lists.h"
 
 #include "paramdata/prm_readers.h"

@@ -1,4 +1,5 @@
-// The item lists of the printing features: built from the file into the device table, in stages, and released.
+// The item lists of the printing features: built from the file into the device table, in stages, and
+// released.
 #ifndef PARAMDATA_FEATURE_LISTS_H
 #define PARAMDATA_FEATURE_LISTS_H
 

@@ -1,5 +1,5 @@
-// The model's paper sources, and by which item keys the tray selection features name them. Compiled in; bin numbers
-// and tray texts are updated from the parameter data file while the device table is built.
+// The model's paper sources, and by which item keys the tray selection features name them. Compiled in; bin
+// numbers and tray texts are updated from the parameter data file while the device table is built.
 #ifndef PARAMDATA_INPUT_SLOTS_H
 #define PARAMDATA_INPUT_SLOTS_H
 
@@ -8,7 +8,8 @@
 
 struct PrmFile;
 
-// The features that select a tray, in the order of their columns below and of their lists in the device table.
+// The features that select a tray, in the order of their columns below and of their lists in the device
+// table.
 inline constexpr const char* kTraySelectionFeatures[] = {
     "FCoverTray",   "BCoverTray",  "SeparatePageTray",    "OHPIntTray",
     "PIFrontCover", "PIBackCover", "PerPageListPaperSrc",
@@ -34,8 +35,8 @@ extern TraySourceRecord inputSlots[12];
 // Takes bin numbers and tray texts from the file's "ALL_InTray".
 void UpdateInputSlots(const PrmFile& file);
 
-// Bin number of the paper source that a tray selection feature's item names. False, and `value` untouched, when the
-// feature or the item is unknown or the item key empty.
+// Bin number of the paper source that a tray selection feature's item names. False, and `value` untouched,
+// when the feature or the item is unknown or the item key empty.
 bool TraySelectionValue(const char* feature, const char* itemKey, uint32_t& value);
 
 #endif

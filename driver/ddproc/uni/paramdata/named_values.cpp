@@ -1,5 +1,5 @@
-// Name/value tables of the parameter data file. Each row of the file is held against every name of the builder, so a
-// later row of the same name overwrites an earlier one, and one row may set two fields.
+// Name/value tables of the parameter data file. Each row of the file is held against every name of the
+// builder, so a later row of the same name overwrites an earlier one, and one row may set two fields.
 #include "paramdata/named_values.h"
 
 #include "paramdata/device_table.h"
@@ -11,8 +11,8 @@ namespace {
 constexpr size_t kValueCapacity =
     sizeof(PrmTableRow::value) + 1; // a full value has no terminator in the file
 
-// Calls visit(row) for each row of the entry's table. A table that announces more rows than the file could hold
-// counts as missing.
+// Calls visit(row) for each row of the entry's table. A table that announces more rows than the file could
+// hold counts as missing.
 template <typename Visit>
 void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     PrmItems items;
@@ -29,7 +29,8 @@ void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     }
 }
 
-// The number n, 1 to kMostSwitchType, of a value "TYPEn"; 1 for any other value. Leading zeros don't count as "TYPEn".
+// The number n, 1 to kMostSwitchType, of a value "TYPEn"; 1 for any other value. Leading zeros don't count as
+// "TYPEn".
 uint32_t SwitchType(const char* value) {
     constexpr size_t kPrefix = 4;
     if (TextLength(value) <= kPrefix || !SameCharacters(value, "TYPE", kPrefix) || value[kPrefix] == '0')

@@ -1,5 +1,5 @@
-// Parameter data file: see the header. Normally the whole file is one image in memory; the road without an image
-// gives the same results, only slower.
+// Parameter data file: see the header. Normally the whole file is one image in memory; the road without an
+// image gives the same results, only slower.
 #include "paramdata/prm_file.h"
 
 #include "paramdata/text.h"

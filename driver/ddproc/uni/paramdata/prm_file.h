@@ -1,5 +1,5 @@
-// Parameter data file: open, close, bytes at an offset, entries by name. The file is untrusted: no content makes a
-// read leave the file, a search run on for ever or a builder allocate out of proportion.
+// Parameter data file: open, close, bytes at an offset, entries by name. The file is untrusted: no content
+// makes a read leave the file, a search run on for ever or a builder allocate out of proportion.
 #ifndef PARAMDATA_PRM_FILE_H
 #define PARAMDATA_PRM_FILE_H
 
@@ -30,15 +30,16 @@ PrmFile* PrmOpenW(const wchar_t* path);
 // Closes the file and releases the handle. Null is accepted.
 void PrmClose(PrmFile* file);
 
-// Reads up to `count` bytes at the offset. Result: bytes delivered, 0 at or beyond the end, -1 when a read failed.
-// Offsets are 64 bits wide so that sums of file values can't wrap.
+// Reads up to `count` bytes at the offset. Result: bytes delivered, 0 at or beyond the end, -1 when a read
+// failed. Offsets are 64 bits wide so that sums of file values can't wrap.
 int32_t PrmRead(const PrmFile& file, void* to, uint32_t count, uint64_t offset);
 
 // Offset of the entry with this name (ASCII case ignored); 0 when there is none.
 uint32_t PrmFindEntry(const PrmFile& file, const char* name);
 
-// Zero-filled global-heap block of `count` records that the file announces, terminator included. Null when there is
-// no memory, or when honest contents of a file of this size could not need so much. The caller frees it.
+// Zero-filled global-heap block of `count` records that the file announces, terminator included. Null when
+// there is no memory, or when honest contents of a file of this size could not need so much. The caller frees
+// it.
 void* PrmAllocateRecords(PrmFile& file, uint64_t count, size_t recordSize);
 
 #endif

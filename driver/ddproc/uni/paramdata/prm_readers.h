@@ -31,15 +31,16 @@ inline constexpr auto& PrmReadRecord620 = PrmReadRecord<PrmPaper>;
 bool PrmReadBlock(const PrmFile& file, uint64_t offset, uint32_t count, void* to);
 bool PrmReadDword(const PrmFile& file, uint64_t offset, uint32_t& to);
 
-// Text up to its terminator; the end of the file terminates too. False, and `to` untouched, when a read failed or
-// the text is longer than kPrmMostTextBytes.
+// Text up to its terminator; the end of the file terminates too. False, and `to` untouched, when a read
+// failed or the text is longer than kPrmMostTextBytes.
 bool PrmReadString(const PrmFile& file, uint64_t offset, PrmText& to);
 
-// Text up to its terminator, or its first kPrmMostTextChars characters. False, and `to` untouched, when it is empty or
-// a read failed.
+// Text up to its terminator, or its first kPrmMostTextChars characters. False, and `to` untouched, when it is
+// empty or a read failed.
 bool PrmReadWideString(const PrmFile& file, uint64_t offset, PrmWideText& to);
 
-// The same into a field: cut to fit; a text that can't be read, and an empty display name, leave it as it was.
+// The same into a field: cut to fit; a text that can't be read, and an empty display name, leave it as it
+// was.
 template <size_t Capacity>
 void PrmReadKey(const PrmFile& file, uint64_t offset, char (&key)[Capacity]) {
     PrmText text;
@@ -53,11 +54,12 @@ void PrmReadDisplay(const PrmFile& file, uint64_t offset, wchar_t (&display)[Cap
         CopyText(display, text);
 }
 
-// The three values of a numeric block: [0] range A, [1] range B, [2] the default. False when any field is missing.
+// The three values of a numeric block: [0] range A, [1] range B, [2] the default. False when any field is
+// missing.
 bool PrmReadRange(const PrmFile& file, uint64_t offset, uint32_t (&values)[3]);
 
-// Key of the entry's default item. Clears the destination first. False when the entry is missing or the key has
-// capacity - 1 bytes or more; a key that can't be read is empty and succeeds.
+// Key of the entry's default item. Clears the destination first. False when the entry is missing or the key
+// has capacity - 1 bytes or more; a key that can't be read is empty and succeeds.
 bool PrmReadStringValue(const PrmFile& file, const char* name, char* to, size_t capacity);
 
 // An entry that was found: where its items are. The count fits a file of this size.
@@ -69,15 +71,15 @@ struct PrmItems {
     uint32_t offsets; // array of `count` item offsets
 };
 
-// Finds an entry and reads where its items are. False when it is missing; an entry that announces more items than
-// the file could hold counts as missing.
+// Finds an entry and reads where its items are. False when it is missing; an entry that announces more items
+// than the file could hold counts as missing.
 bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items);
 
 // Offset of the item at this position; 0 beyond the end of the file.
 uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t position);
 
-// Calls visit(head, key) for each plain item along the item chain, which may lead anywhere in the file, backwards too:
-// only the number of steps is bounded, by the item count and by what the file could hold.
+// Calls visit(head, key) for each plain item along the item chain, which may lead anywhere in the file,
+// backwards too: only the number of steps is bounded, by the item count and by what the file could hold.
 template <typename Visit>
 void PrmForEachInChain(const PrmFile& file, const PrmItems& items, Visit visit) {
     const uint32_t mostSteps = file.size / sizeof(PrmItemDescriptor);
@@ -95,7 +97,8 @@ void PrmForEachInChain(const PrmFile& file, const PrmItems& items, Visit visit) 
 // First run of decimal digits as a number, 0 without one. A sign is not looked at.
 uint32_t PrmParseFirstNumber(const char* text);
 
-// First and second run of decimal digits, as 16-bit numbers. What is not found leaves its destination as it was.
+// First and second run of decimal digits, as 16-bit numbers. What is not found leaves its destination as it
+// was.
 void PrmParseTwoNumbers(const char* text, uint16_t& first, uint16_t& second);
 
 #endif

@@ -1,5 +1,6 @@
-// Texts in fixed fields: bounded copies and comparisons, for every subsystem. Nobody copies a text in another way.
-// A text is given as an array, which it may fill without a terminator, or as a pointer to a terminated text.
+// Texts in fixed fields: bounded copies and comparisons, for every subsystem. Nobody copies a text in another
+// way. A text is given as an array, which it may fill without a terminator, or as a pointer to a terminated
+// text.
 #ifndef PARAMDATA_TEXT_H
 #define PARAMDATA_TEXT_H
 

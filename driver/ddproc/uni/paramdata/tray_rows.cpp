@@ -6,7 +6,8 @@
 
 namespace {
 
-// Rows beyond this many keep their names: each item is held against every row, and no device has so many trays.
+// Rows beyond this many keep their names: each item is held against every row, and no device has so many
+// trays.
 constexpr uint32_t kMostNamedRows = 1024;
 
 uint32_t CountTrays(const InputSlotRecord* trays) {

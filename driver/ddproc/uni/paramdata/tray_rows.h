@@ -5,8 +5,8 @@
 struct DeviceTable;
 struct PrmFile;
 
-// Builds the tray rows from the input tray list; "MediaTypeList_Tray" gives them their keys and display names.
-// Nothing is built without either of the two.
+// Builds the tray rows from the input tray list; "MediaTypeList_Tray" gives them their keys and display
+// names. Nothing is built without either of the two.
 void BuildTrayRows(PrmFile& file, DeviceTable& table);
 
 #endif

@@ -9,7 +9,8 @@ namespace {
 
 using BinName = wchar_t[24];
 
-// A paper source without an option feature is always there; one that has such a feature when the option is installed.
+// A paper source without an option feature is always there; one that has such a feature when the option is
+// installed.
 bool IsUsable(const InputSlotRecord& slot, const FeatureRecord* features, const FeatureSettings* settings) {
     constexpr char kInstalled[] = "EnaOpInTray";
     char optionKey[2 + sizeof(slot.head.key) + 1] = "Op";

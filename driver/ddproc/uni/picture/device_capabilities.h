@@ -6,9 +6,9 @@
 
 #include <windows.h>
 
-// Answers DC_BINS, DC_BINNAMES, DC_DUPLEX and DC_STAPLE from the caller's tables. FALSE for every other capability,
-// with answer and output untouched. A null output asks for the count only; otherwise it takes one 16-bit bin number
-// (DC_BINS) or one field of 24 UTF-16 characters (DC_BINNAMES) per usable paper source.
+// Answers DC_BINS, DC_BINNAMES, DC_DUPLEX and DC_STAPLE from the caller's tables. FALSE for every other
+// capability, with answer and output untouched. A null output asks for the count only; otherwise it takes one
+// 16-bit bin number (DC_BINS) or one field of 24 UTF-16 characters (DC_BINNAMES) per usable paper source.
 BOOL AnswerDeviceCapability(const DeviceTable* device, const FeatureRecord* features, const void* reserved,
                             const FeatureSettings* settings, WORD capability, void* output, DWORD* answer);
 
