@@ -95,18 +95,17 @@ void Fill(const Item& item, const PrmOutputPaper& from, OutputPaperSizeRecord& t
 }
 
 // Copies a block that counts only when its flag is not 0; the destination is 0 otherwise.
-template <typename Block>
-void CopyFlagged(uint32_t flag, const Block& from, Block& to) {
+void CopyFlagged(uint32_t flag, void* to, const void* from, size_t size) {
     if (flag != 0)
-        memcpy(&to, &from, sizeof(to));
+        memcpy(to, from, size);
 }
 
 void StoreUserPaper(const PrmPaper& from, DeviceTable& table) {
     const uint32_t size[] = {from.width, from.furtherSizes[0], from.length, from.furtherSizes[1]};
     memcpy(table.userPaperSize, size, sizeof(size));
-    CopyFlagged(from.flag3, from.set3, table.userPaperMargins);
-    CopyFlagged(from.flag4, from.set4, table.userPaperSet4);
-    CopyFlagged(from.flag5, from.set5, table.userPaperSet5);
+    CopyFlagged(from.flag3, table.userPaperMargins, from.set3, sizeof(from.set3));
+    CopyFlagged(from.flag4, table.userPaperSet4, from.set4, sizeof(from.set4));
+    CopyFlagged(from.flag5, table.userPaperSet5, from.set5, sizeof(from.set5));
 }
 
 void Fill(const Item& item, const PrmPaper& from, PaperSizeRecord& to) {
@@ -116,12 +115,12 @@ void Fill(const Item& item, const PrmPaper& from, PaperSizeRecord& to) {
     to.width = from.width;
     to.length = from.length;
     to.flag1 = from.flag1;
-    CopyFlagged(from.flag1, from.set1, to.set1);
+    CopyFlagged(from.flag1, to.set1, from.set1, sizeof(from.set1));
     to.flag2 = from.flag2;
-    CopyFlagged(from.flag2, from.set2, to.set2);
-    CopyFlagged(from.flag3, from.set3, to.set3);
-    CopyFlagged(from.flag4, from.set4, to.set4);
-    CopyFlagged(from.flag5, from.set5, to.set5);
+    CopyFlagged(from.flag2, to.set2, from.set2, sizeof(from.set2));
+    CopyFlagged(from.flag3, to.set3, from.set3, sizeof(from.set3));
+    CopyFlagged(from.flag4, to.set4, from.set4, sizeof(from.set4));
+    CopyFlagged(from.flag5, to.set5, from.set5, sizeof(from.set5));
     to.flag3 = from.flag3;
     to.flag4 = from.flag4;
     to.flag5 = from.flag5;
@@ -231,7 +230,7 @@ void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* featu
             continue;
         ListDescription list = kTraySelection;
         list.entry = feature;
-        list.field += i * sizeof(ItemRecord*);
+        list.field += i * sizeof(void*);
         BuildList(file, *table, list);
     }
 }
@@ -246,6 +245,6 @@ void FreeLists(DeviceTable& table) {
     for (const auto& row : kLists)
         release(row.list.field);
     for (size_t i = 0; i < kTraySelectionCount; ++i)
-        release(kTraySelection.field + i * sizeof(ItemRecord*));
+        release(kTraySelection.field + i * sizeof(void*));
     release(offsetof(DeviceTable, trayRows));
 }

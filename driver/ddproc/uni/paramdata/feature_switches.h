@@ -12,7 +12,7 @@ struct FeatureSwitchRow {
 };
 
 inline constexpr FeatureSwitchRow kFeatureSwitches[] = {
-  // clang-format off
+    // clang-format off
     /*  0 */ {"SeparatePagePrint",       "Driver"},
     /*  1 */ {"OHP_Interleave",          "Enable"},
     /*  2 */ {"ColorAdjustment",         "Enable"},
@@ -98,7 +98,7 @@ inline constexpr FeatureSwitchRow kFeatureSwitches[] = {
     /* 82 */ {"ExpenseCodePassword",     "Enable"},
     /* 83 */ {"Dlg_MediaType",           nullptr},
     /* 84 */ {"InterimAuthenticSetting", "Enable"},
-  // clang-format on
+    // clang-format on
 };
 constexpr size_t kFeatureSwitchCount = sizeof(kFeatureSwitches) / sizeof(kFeatureSwitches[0]);
 static_assert(kFeatureSwitchCount == 85);

@@ -148,7 +148,8 @@ static_assert(sizeof(PrmPaper) == 620 && offsetof(PrmPaper, value) == 16 && offs
               && offsetof(PrmPaper, values) == 440 && offsetof(PrmPaper, shortName) == 448
               && offsetof(PrmPaper, longValues) == 480 && offsetof(PrmPaper, longText) == 492);
 
-// Name/value tables: the entry's first item offset leads to the header, the rows follow one another.
+// Name/value tables: the entry's item offset array has one element, which leads to the header, the rows
+// follow one another.
 struct PrmTableHeader {
     uint32_t rowCount;
     uint32_t unread;

@@ -24,8 +24,9 @@ constexpr size_t TextLength(const Text& text) {
 // Copies what fits and always terminates; the rest of the destination stays as it is.
 template <typename Char, size_t Capacity, typename Text>
 constexpr void CopyText(Char (&to)[Capacity], const Text& from) {
+    constexpr size_t kMost = kTextCapacity<Text> < Capacity - 1 ? kTextCapacity<Text> : Capacity - 1;
     size_t length = 0;
-    for (; length < Capacity - 1 && length < kTextCapacity<Text> && from[length] != 0; ++length)
+    for (; length < kMost && from[length] != 0; ++length)
         to[length] = from[length];
     to[length] = 0;
 }
@@ -45,8 +46,11 @@ constexpr bool SameCharacters(const char* a, const char* b, size_t length) {
 // Whether two texts are the same in full, ASCII case ignored.
 template <typename TextA, typename TextB>
 constexpr bool SameText(const TextA& a, const TextB& b) {
-    const size_t length = TextLength(a);
-    return length == TextLength(b) && SameCharacters(a, b, length);
+    size_t i = 0;
+    while (i < kTextCapacity<TextA> && i < kTextCapacity<TextB> && a[i] != 0 && b[i] != 0
+           && FoldCase(a[i]) == FoldCase(b[i]))
+        ++i;
+    return (i == kTextCapacity<TextA> || a[i] == 0) && (i == kTextCapacity<TextB> || b[i] == 0);
 }
 
 constexpr bool IsDigit(char c) {

@@ -8,7 +8,7 @@ namespace {
 
 // Rows beyond this many keep their names: each item is held against every row, and no device has so many
 // trays.
-constexpr uint32_t kMostNamedRows = 1024;
+constexpr uint32_t kMostNamedRows = 64;
 
 uint32_t CountTrays(const InputSlotRecord* trays) {
     uint32_t count = 0;

@@ -15,7 +15,7 @@ int32_t FindFeature(const FeatureRecord* features, const char* key) {
 const ItemRecord* SelectedItem(const FeatureRecord* features, const FeatureSettings* settings,
                                int32_t position) {
     const ItemRecord* item = features[position].items;
-    if (item == nullptr || settings == nullptr || settings[position] < 0)
+    if (item == nullptr || settings == nullptr)
         return nullptr;
     for (int32_t i = 0; item->head.key[0] != 0; ++i, ++item)
         if (i == settings[position])

@@ -1,0 +1,71 @@
+// Device capabilities of the shipped model: the bin numbers and names of the paper sources whose option is
+// installed, against the same lists copied without a question.
+#include "frame/exports.h"
+#include "model_features.h"
+#include "paramdata/prm_file.h"
+
+#include <benchmark/benchmark.h>
+#include <cstring>
+
+namespace {
+
+constexpr size_t kMostTrays = 64;
+constexpr size_t kNameChars = 24;
+
+// The model's device table and options, built once for a benchmark.
+struct Model {
+    Model()
+        : file(PrmOpen(MODEL_FILE, 0)), table(BuildDeviceTable(*file)), options(*file, table->inputTrays) {}
+    ~Model() {
+        FreeDeviceTable(table);
+        PrmClose(file);
+    }
+    Model(const Model&) = delete;
+    Model& operator=(const Model&) = delete;
+
+    PrmFile* file;
+    DeviceTable* table;
+    ModelFeatures options;
+    WORD bins[kMostTrays] = {};
+    wchar_t names[kMostTrays][kNameChars] = {};
+};
+
+// One item is one call.
+void Capabilities(benchmark::State& state) {
+    Model model;
+    DWORD answer = 0;
+    const auto ask = [&](WORD capability, void* output) {
+        DDProc_DeviceCapabilities(model.table, model.options.features.data(), nullptr,
+                                  model.options.settings.data(), capability, output, &answer);
+    };
+    for ([[maybe_unused]] auto _ : state) {
+        ask(DC_BINS, model.bins);
+        ask(DC_BINNAMES, model.names);
+        benchmark::ClobberMemory();
+    }
+    state.SetItemsProcessed(2 * state.iterations());
+    state.counters["trays"] = answer;
+}
+BENCHMARK(Capabilities);
+
+void CopyOnly(benchmark::State& state) {
+    Model model;
+    size_t count = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        count = 0;
+        for (const InputSlotRecord* tray = model.table->inputTrays; tray->head.key[0] != 0; ++tray)
+            model.bins[count++] = static_cast<WORD>(tray->head.value);
+        benchmark::ClobberMemory();
+        count = 0;
+        for (const InputSlotRecord* tray = model.table->inputTrays; tray->head.key[0] != 0; ++tray, ++count) {
+            memcpy(model.names[count], tray->display, sizeof(model.names[count]));
+            model.names[count][kNameChars - 1] = 0;
+        }
+        benchmark::ClobberMemory();
+    }
+    state.SetItemsProcessed(2 * state.iterations());
+    state.counters["trays"] = static_cast<double>(count);
+}
+BENCHMARK(CopyOnly);
+
+} // namespace

@@ -1,0 +1,100 @@
+// Module loading from the libraries that a test has registered; owns them, their reference counts and the one
+// module file name. A library's handle is the address of its record.
+#include "platform_control.h"
+#include "services.h"
+#include "unicode.h"
+
+#include <algorithm>
+#include <list>
+#include <string>
+#include <vector>
+
+namespace {
+
+struct Library {
+    std::string path;
+    std::vector<platform::Export> exports;
+    int references;
+};
+
+std::list<Library> libraries;
+std::vector<wchar_t> moduleFileName; // with its terminator; empty: not set
+
+Library* FromHandle(HMODULE handle) {
+    for (Library& library : libraries)
+        if (reinterpret_cast<HMODULE>(&library) == handle && library.references > 0)
+            return &library;
+    return nullptr;
+}
+
+} // namespace
+
+HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
+    const std::string wanted = platform::ToUtf8(path);
+    for (Library& library : libraries)
+        if (library.path == wanted) {
+            ++library.references;
+            return reinterpret_cast<HMODULE>(&library);
+        }
+    SetLastError(ERROR_MOD_NOT_FOUND);
+    return nullptr;
+}
+
+FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
+    if (const Library* library = FromHandle(handle))
+        for (const platform::Export& function : library->exports)
+            if (std::string(function.name) == name)
+                return function.function;
+    SetLastError(ERROR_PROC_NOT_FOUND);
+    return nullptr;
+}
+
+BOOL WINAPI FreeLibrary(HMODULE handle) {
+    Library* library = FromHandle(handle);
+    if (library == nullptr) {
+        SetLastError(ERROR_INVALID_HANDLE);
+        return FALSE;
+    }
+    --library->references;
+    return TRUE;
+}
+
+DWORD WINAPI GetModuleFileNameW(HMODULE, LPWSTR path, DWORD capacity) {
+    if (moduleFileName.empty() || capacity == 0) {
+        SetLastError(moduleFileName.empty() ? ERROR_MOD_NOT_FOUND : ERROR_INSUFFICIENT_BUFFER);
+        return 0;
+    }
+    const bool fits = moduleFileName.size() <= capacity;
+    const auto length = static_cast<DWORD>(fits ? moduleFileName.size() - 1 : capacity - 1);
+    std::copy_n(moduleFileName.begin(), length, path);
+    path[length] = 0;
+    SetLastError(fits ? 0 : ERROR_INSUFFICIENT_BUFFER);
+    return fits ? length : capacity;
+}
+
+namespace platform {
+
+void ResetModules() {
+    libraries.clear();
+    moduleFileName.clear();
+}
+
+int LiveLibraryReferences() {
+    int references = 0;
+    for (const Library& library : libraries)
+        references += library.references;
+    return references;
+}
+
+void RegisterLibrary(const wchar_t* path, std::initializer_list<Export> exports) {
+    libraries.push_back({ToUtf8(path), exports, 0});
+}
+
+void SetModuleFileName(const wchar_t* path) {
+    const wchar_t* end = path;
+    while (*end != 0)
+        ++end;
+    moduleFileName.assign(path, end + 1);
+}
+
+} // namespace platform

@@ -1,0 +1,13 @@
+// What differs between two models.
+#ifndef PRMC_DIFF_H
+#define PRMC_DIFF_H
+
+#include "prmc/model.h"
+
+#include <string>
+#include <vector>
+
+// One line for each difference: "ENTRY/ITEM/FIELD: A -> B", or what only one of them has, or another order.
+std::vector<std::string> DiffModels(const Model& a, const Model& b);
+
+#endif

@@ -1,0 +1,147 @@
+// prmc, the parameter data compiler: command line, messages and exit codes around the engines.
+// Exit codes: 0 done, same or without fault; 1 faults found or files differ; 2 wrong use or unreadable file.
+#include "prmc/diff.h"
+#include "prmc/files.h"
+#include "prmc/prm_parser.h"
+#include "prmc/prm_writer.h"
+#include "prmc/rules.h"
+#include "prmc/text.h"
+#include "prmc/yaml_reader.h"
+#include "prmc/yaml_writer.h"
+
+#include <algorithm>
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <stdexcept>
+#include <utility>
+
+namespace {
+
+enum ExitCode { kDone = 0, kFaults = 1, kTrouble = 2 };
+
+bool IsYaml(const std::string& path) {
+    const std::string extension = std::filesystem::path(path).extension().string();
+    if (EqualNoCase(extension, ".yaml") || EqualNoCase(extension, ".yml"))
+        return true;
+    if (!EqualNoCase(extension, ".prm"))
+        throw std::runtime_error("cannot tell what '" + path + "' is: its name must end in .yaml or .PRM");
+    return false;
+}
+
+// Reads either form and applies the rules; findings in the order of their places.
+Model ReadModel(const std::string& path, bool isYaml, Findings& findings) {
+    const std::string contents = ReadFile(path);
+    Model model = isYaml ? ReadYaml(contents, findings) : ParsePrm(contents, findings);
+    CheckRules(model, findings);
+    std::stable_sort(findings.list.begin(), findings.list.end(), [](const Finding& a, const Finding& b) {
+        return std::pair(a.place.line, a.place.column) < std::pair(b.place.line, b.place.column);
+    });
+    return model;
+}
+
+std::string Describe(const Finding& finding, bool isYaml) {
+    char place[64];
+    if (isYaml)
+        std::snprintf(place, sizeof place, "%llu:%llu", static_cast<unsigned long long>(finding.place.line),
+                      static_cast<unsigned long long>(finding.place.column));
+    else
+        std::snprintf(place, sizeof place, "0x%llX", static_cast<unsigned long long>(finding.place.column));
+    return std::string(place) + ": " + (finding.isNote ? "note: " : "") + finding.message;
+}
+
+void Report(const std::string& path, bool isYaml, const Findings& findings) {
+    for (const Finding& finding : findings.list)
+        std::cerr << path << ":" << Describe(finding, isYaml) << "\n";
+}
+
+ExitCode Build(const std::string& source, const std::string& target) {
+    Findings findings;
+    const Model model = ReadModel(source, true, findings);
+    Report(source, true, findings);
+    if (findings.HasErrors())
+        return kFaults;
+    const std::vector<uint8_t> bytes = WritePrm(model);
+    WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
+    return kDone;
+}
+
+ExitCode Dump(const std::string& path) {
+    Findings findings;
+    const Model model = ReadModel(path, false, findings);
+    if (!findings.list.empty())
+        std::cout << "# Findings on the binary file; what they name may be missing or changed below:\n";
+    for (const Finding& finding : findings.list)
+        std::cout << "#   " << Describe(finding, false) << "\n";
+    std::cout << WriteYaml(model);
+    if (!std::cout.flush())
+        throw std::runtime_error("cannot write to the standard output");
+    return findings.HasErrors() ? kFaults : kDone;
+}
+
+ExitCode Check(const std::string& path) {
+    const bool isYaml = IsYaml(path);
+    Findings findings;
+    ReadModel(path, isYaml, findings);
+    Report(path, isYaml, findings);
+    return findings.HasErrors() ? kFaults : kDone;
+}
+
+Model ReadSound(const std::string& path) {
+    const bool isYaml = IsYaml(path);
+    Findings findings;
+    Model model = ReadModel(path, isYaml, findings);
+    Report(path, isYaml, findings);
+    if (findings.HasErrors())
+        throw std::runtime_error("'" + path + "' has faults: nothing to compare");
+    return model;
+}
+
+ExitCode Diff(const std::string& first, const std::string& second) {
+    const std::vector<std::string> lines = DiffModels(ReadSound(first), ReadSound(second));
+    for (const std::string& line : lines)
+        std::cout << line << "\n";
+    return lines.empty() ? kDone : kFaults;
+}
+
+ExitCode Run(int argc, char** argv) {
+    CLI::App app{
+        "Compiles a printer model's parameter data from YAML to the binary file that the driver reads.",
+        "prmc"};
+    app.require_subcommand(1);
+    app.failure_message(CLI::FailureMessage::simple);
+    std::string first, second;
+    CLI::App* build = app.add_subcommand("build", "compile a model");
+    build->add_option("MODEL.yaml", first, "the model")->required();
+    build->add_option("-o,--output", second, "binary file to write")->required()->type_name("FILE.PRM");
+    CLI::App* dump = app.add_subcommand("dump", "print a binary file as YAML");
+    dump->add_option("FILE.PRM", first, "binary file")->required();
+    CLI::App* check = app.add_subcommand("check", "report every fault of a file; silent when there is none");
+    check->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
+    CLI::App* diff = app.add_subcommand("diff", "compare two files' contents, each .yaml or .PRM");
+    diff->add_option("A", first, "first file")->required();
+    diff->add_option("B", second, "second file")->required();
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& fault) {
+        return app.exit(fault) == 0 ? kDone : kTrouble;
+    }
+    if (build->parsed())
+        return Build(first, second);
+    if (dump->parsed())
+        return Dump(first);
+    return check->parsed() ? Check(first) : Diff(first, second);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& fault) {
+        std::cerr << "prmc: " << fault.what() << "\n";
+        return kTrouble;
+    }
+}

@@ -1,0 +1,82 @@
+// A model's parameter data in memory, as read from YAML or from a binary file, and the findings about it.
+// Every engine of prmc passes these around; they own their contents.
+#ifndef PRMC_MODEL_H
+#define PRMC_MODEL_H
+
+#include "prmc/schema.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+// Where something stands: line and column from 1 of a YAML file; line 0: the byte offset in a binary file.
+struct Place {
+    uint64_t line = 0;
+    uint64_t column = 0;
+};
+
+inline Place AtOffset(uint64_t offset) {
+    return {0, offset};
+}
+
+struct Pair {
+    std::string name;
+    std::string value;
+    Place namePlace;
+    Place valuePlace;
+};
+
+// What a field holds: of the three the one that its type asks for. Texts are UTF-8.
+struct Value {
+    bool given = false; // else the field is 0 in the file
+    Place place;
+    std::string text;
+    std::vector<uint32_t> numbers;
+    std::vector<Pair> pairs;
+};
+
+struct Record {
+    Place place;
+    std::vector<Value> values; // one for each field of the entry's kind
+};
+
+struct Entry {
+    const EntryRow* row;
+    std::string name;
+    Place place;
+    std::vector<Record> records;
+    std::optional<size_t> defaultItem; // position in `records`
+};
+
+struct Model {
+    std::vector<Entry> entries; // in file order
+};
+
+struct Finding {
+    Place place;
+    bool isNote; // something that is lost or left out, but no fault
+    std::string message;
+};
+
+struct Findings {
+    std::vector<Finding> list;
+
+    void Error(Place place, std::string message) { list.push_back({place, false, std::move(message)}); }
+    void Note(Place place, std::string message) { list.push_back({place, true, std::move(message)}); }
+    bool HasErrors() const {
+        for (const Finding& finding : list) {
+            if (!finding.isNote)
+                return true;
+        }
+        return false;
+    }
+};
+
+// What an item is called: its key, or the text of its first field; empty when it has neither.
+inline std::string ItemLabel(const Record& record) {
+    return record.values.front().text;
+}
+
+#endif

@@ -1,0 +1,80 @@
+// The one description of what a parameter data file holds: record kinds with their fields, and the entries by
+// name. Every engine of prmc (reading and writing YAML, reading and writing the binary file, rules, diff)
+// works from these tables: a new entry is one row, a new record kind one field table.
+#ifndef PRMC_SCHEMA_H
+#define PRMC_SCHEMA_H
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+// A constexpr array seen as a sequence.
+template <typename Row>
+struct Table {
+    const Row* first = nullptr;
+    size_t count = 0;
+
+    constexpr Table() = default;
+    template <size_t N>
+    constexpr Table(const Row (&rows)[N]) : first(rows), count(N) {}
+    constexpr const Row* begin() const { return first; }
+    constexpr const Row* end() const { return first + count; }
+    constexpr size_t size() const { return count; }
+    constexpr const Row& operator[](size_t i) const { return first[i]; }
+};
+
+enum class FieldType {
+    kKey,     // offset of an 8-bit text: the item's key
+    kName,    // offset of a UTF-16 text: a display name
+    kText,    // 8-bit text inside the record
+    kNumbers, // one or more 32-bit numbers
+    kPairs,   // count and offset of records that are two 8-bit texts each
+};
+
+struct Field {
+    const char* name; // in YAML
+    FieldType type;
+    bool required;
+    size_t offset;     // in the record; of pairs: their count
+    size_t count = 1;  // numbers: how many; texts: bytes of the field; pairs: bytes of each text
+    unsigned bits = 0; // numbers: width that their readers keep; 0: as the entry says
+    size_t link = 0;   // numbers: offset of the flag that is 1 when they are there, 0: always there;
+                       // pairs: offset of the first pair's offset
+};
+
+// How an entry is written in YAML and where its records lie.
+enum class Form {
+    kList,   // {default: KEY, items: [{...}, ...]}; each record reached through the item offset array
+    kTable,  // {NAME: VALUE, ...}; one record, whose only field is pairs
+    kSingle, // {FIELD: VALUE, ...}; one record
+    kRange,  // {FIELD: VALUE, ...}; one record directly behind the entry, no items
+};
+
+struct Kind {
+    const char* label;
+    Form form;
+    size_t size; // of a record, in bytes
+    Table<Field> fields;
+    size_t chain = 0; // offset of the link to the next item; 0: items are not chained
+
+    // An entry whose items have no key has no default.
+    bool HasKeys() const { return fields[0].type == FieldType::kKey; }
+};
+
+struct EntryRow {
+    const char* name;
+    const Kind* kind;
+    unsigned nameChars; // most UTF-16 characters of a display name that the list built from the entry holds
+    unsigned valueBits; // width in which an item's value is kept
+    bool defaultNeeded; // readers take the default item from the entry
+    Table<const char*> rowNames = {}; // of a name/value table; empty: the rows are the feature switches
+};
+
+constexpr size_t kMostKeyChars = 31;
+
+Table<EntryRow> KnownEntries();
+
+// Null when there is no such entry. Case does not matter.
+const EntryRow* FindEntryRow(std::string_view name);
+
+#endif

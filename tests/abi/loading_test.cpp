@@ -1,0 +1,114 @@
+// Loading and freeing the DLL: the resource library that goes with it, from which folder it comes and when it
+// goes; threads that come and go; nothing left behind however often it happens.
+#include "product.h"
+
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr wchar_t kSibling[] = L"TELMAR_S.DLL";
+
+// Other libraries of the sibling's name, in every place where a search by bare name looks.
+struct Decoys {
+    Decoys() {
+        onPath.Add(L"abi_sibling.dll", kSibling);
+        inCurrent.Add(L"abi_sibling.dll", kSibling);
+        GetEnvironmentVariableW(L"PATH", savedPath, 32767);
+        SetEnvironmentVariableW(L"PATH", onPath.path.c_str());
+        fs::current_path(inCurrent.path);
+    }
+    ~Decoys() {
+        fs::current_path(savedCurrent);
+        SetEnvironmentVariableW(L"PATH", savedPath);
+    }
+    Decoys(const Decoys&) = delete;
+    Decoys& operator=(const Decoys&) = delete;
+
+    TemporaryFolder onPath{L"lumora_path"};
+    TemporaryFolder inCurrent{L"lumora_current"};
+    fs::path savedCurrent = fs::current_path();
+    wchar_t savedPath[32767] = {};
+};
+
+class Loading : public testing::TestWithParam<const wchar_t*> {
+protected:
+    Loading() { folder.Add(L"TELMAR_D.DLL", L"TELMAR_D.DLL"); }
+
+    TemporaryFolder folder{GetParam()};
+    Decoys decoys;
+};
+
+INSTANTIATE_TEST_SUITE_P(Folders, Loading,
+                         testing::Values(L"lumora ascii", L"lumora \u00FC\u0416\u30C6\u30B9\u30C8\U0001F5A8"),
+                         [](const auto& folder) { return folder.index == 0 ? "Ascii" : "NonAscii"; });
+
+TEST_P(Loading, SiblingComesFromTheModulesFolderAndGoesWithTheModule) {
+    HMODULE decoy = LoadLibraryW(kSibling);
+    ASSERT_NE(decoy, nullptr) << "the decoys must be where a bare name is found";
+    FreeLibrary(decoy);
+    const fs::path sibling = folder.Add(L"abi_sibling.dll", kSibling);
+    {
+        const LoadedModule module(folder.path);
+        ASSERT_FALSE(LoadedPath(kSibling).empty());
+        EXPECT_TRUE(fs::equivalent(LoadedPath(kSibling), sibling)) << LoadedPath(kSibling).u8string();
+    }
+    EXPECT_EQ(LoadedPath(kSibling), fs::path());
+}
+
+TEST_P(Loading, WithoutSiblingNoOtherIsTaken) {
+    {
+        const LoadedModule module(folder.path);
+        EXPECT_EQ(LoadedPath(kSibling), fs::path());
+        EXPECT_EQ(module.Export<void * WINAPI()>("DDProc_FeatureNameItemTable")(), nullptr);
+    }
+    EXPECT_EQ(LoadedPath(L"TELMAR_D.DLL"), fs::path());
+}
+
+TEST_P(Loading, ThreadsThatComeAndGoChangeNothing) {
+    folder.Add(L"abi_sibling.dll", kSibling);
+    {
+        const LoadedModule module(folder.path);
+        for (int i = 0; i < 3; ++i)
+            std::thread([] {}).join();
+        EXPECT_NE(LoadedPath(kSibling), fs::path());
+    }
+    EXPECT_EQ(LoadedPath(kSibling), fs::path()); // each reference is given back
+}
+
+// What the process holds now.
+struct Holdings {
+    size_t heapBlocks;
+    size_t handles;
+};
+
+Holdings CountHoldings() {
+    Holdings held = {};
+    PROCESS_HEAP_ENTRY entry = {};
+    while (HeapWalk(GetProcessHeap(), &entry))
+        held.heapBlocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NO_MORE_ITEMS));
+    constexpr uintptr_t kMostHandles = 0x2000; // wine doesn't count them, but knows which are valid
+    DWORD flags = 0;
+    for (uintptr_t i = 1; i < kMostHandles; ++i)
+        held.handles += GetHandleInformation(reinterpret_cast<HANDLE>(4 * i), &flags) != FALSE;
+    return held;
+}
+
+// The product as it lies in its folder, with all files that go with it.
+TEST(LoadingOften, LeavesNoHeapBlockAndNoHandle) {
+    const auto load = [](int rounds) {
+        for (int i = 0; i < rounds; ++i)
+            LoadedModule{};
+    };
+    load(10); // what the system keeps after its first loads
+    const Holdings before = CountHoldings();
+    load(1000);
+    const Holdings after = CountHoldings();
+    EXPECT_EQ(after.heapBlocks, before.heapBlocks);
+    EXPECT_EQ(after.handles, before.handles);
+}
+
+} // namespace

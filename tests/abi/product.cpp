@@ -1,0 +1,47 @@
+// The built module as its callers meet it: see the header.
+#include "product.h"
+
+#include <gtest/gtest.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path PathOf(HMODULE module) {
+    wchar_t path[MAX_PATH] = {};
+    GetModuleFileNameW(module, path, MAX_PATH);
+    return path;
+}
+
+} // namespace
+
+fs::path ProductFolder() {
+    return PathOf(nullptr).parent_path();
+}
+
+fs::path LoadedPath(const wchar_t* name) {
+    HMODULE module = GetModuleHandleW(name);
+    return module != nullptr ? PathOf(module) : fs::path();
+}
+
+LoadedModule::LoadedModule(const fs::path& folder)
+    : handle(LoadLibraryW((folder / L"TELMAR_D.DLL").c_str())) {
+    EXPECT_NE(handle, nullptr) << "last error " << GetLastError();
+}
+
+TemporaryFolder::TemporaryFolder(const std::wstring& name)
+    : path(fs::temp_directory_path() / (name + std::to_wstring(GetCurrentProcessId()))) {
+    fs::remove_all(path); // of a run that was broken off
+    fs::create_directory(path);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code error;
+    fs::remove_all(path, error);
+    EXPECT_FALSE(error) << error.message();
+}
+
+fs::path TemporaryFolder::Add(const wchar_t* builtFile, const wchar_t* name) const {
+    fs::copy_file(ProductFolder() / builtFile, path / name);
+    return path / name;
+}

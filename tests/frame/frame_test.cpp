@@ -1,0 +1,80 @@
+// Host only: the module's entry point, its handles, and the exports that the frame itself answers.
+#include "frame/entry.h"
+#include "frame/exports.h"
+#include "frame/module_handles.h"
+#include "platform_control.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const auto kInstance = reinterpret_cast<HINSTANCE>(uintptr_t{0x10000});
+
+TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
+    const struct {
+        const wchar_t *module, *sibling;
+        bool loads;
+    } cases[] = {
+  // the library is found beside the module, never elsewhere, never by its bare name
+        {L"C:\\driver\\TELMAR_D.DLL",               L"C:\\driver\\TELMAR_S.DLL",               true },
+        {L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_D.DLL", L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_S.DLL", true },
+        {L"\\\\server\\x64\\3\\TELMAR_D.DLL",       L"\\\\server\\x64\\3\\TELMAR_S.DLL",       true },
+        {L"C:\\TELMAR_D.DLL",                       L"C:\\TELMAR_S.DLL",                       true },
+        {L"C:\\a\\TELMAR_D.DLL",                    L"C:\\TELMAR_S.DLL",                       false},
+        {L"C:\\a\\TELMAR_D.DLL",                    L"TELMAR_S.DLL",                           false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        platform::Reset();
+        platform::SetModuleFileName(c.module);
+        platform::RegisterLibrary(c.sibling);
+        EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
+        EXPECT_EQ(ModuleInstance(), kInstance);
+        EXPECT_EQ(ResourceModule() != nullptr, c.loads);
+        const HMODULE loaded = ResourceModule();
+        constexpr DWORD kOtherReasons[] = {DLL_THREAD_ATTACH, DLL_THREAD_DETACH, 17};
+        for (const DWORD reason : kOtherReasons) {
+            EXPECT_EQ(DllMain(nullptr, reason, nullptr), TRUE);
+            EXPECT_EQ(ResourceModule(), loaded);
+            EXPECT_EQ(ModuleInstance(), kInstance);
+            EXPECT_EQ(platform::Count().libraryReferences, c.loads ? 1 : 0);
+        }
+        EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
+        EXPECT_EQ(ResourceModule(), nullptr);
+        EXPECT_EQ(platform::Count().libraryReferences, 0);
+        EXPECT_EQ(platform::Count().globalBlocks, 0);
+    }
+}
+
+TEST(Frame, AttachGoesOnWithoutAModuleFileName) {
+    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
+    EXPECT_EQ(ResourceModule(), nullptr);
+    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
+    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE) << "there is nothing left to free";
+}
+
+TEST(Frame, SiblingPathFitsOrIsRefused) {
+    // A folder of 247 characters leaves just the room that "TELMAR_S.DLL" and its end need.
+    for (const size_t folder : {246u, 247u, 248u}) {
+        std::vector<wchar_t> module(folder, L'a');
+        module[0] = module[folder - 1] = L'\\';
+        for (const wchar_t c : L"T.DLL")
+            module.push_back(c);
+        platform::SetModuleFileName(module.data());
+        wchar_t path[kPathCapacity];
+        EXPECT_EQ(SiblingPath(kInstance, L"TELMAR_S.DLL", path), folder < 248) << folder;
+        EXPECT_EQ(path[0], folder < 248 ? L'\\' : L'\0') << folder;
+    }
+}
+
+TEST(Frame, FreeExportReleasesOneLocalBlock) {
+    void* block = LocalAlloc(LPTR, 100);
+    EXPECT_EQ(platform::Count().localBlocks, 1);
+    MIB_FreeOverlayInfo(block);
+    EXPECT_EQ(platform::Count().localBlocks, 0);
+    MIB_FreeOverlayInfo(nullptr);
+    EXPECT_EQ(platform::Count().localBlocks, 0);
+    EXPECT_EQ(DDProc_FeatureNameItemTable(), nullptr);
+}
+
+} // namespace

@@ -1,0 +1,256 @@
+// Parameter file reader: lookup, the typed readers and what each of them calls success, number parsing.
+#include "support/prm_image.h"
+
+namespace {
+
+TEST(Reader, FindsEntriesByFullNameInAnyCase) {
+    PrmImage image;
+    const uint32_t longer = image.Entry("StapleSetting");
+    const uint32_t longest = image.Entry("Name_of_31_characters_012345678");
+    const uint32_t last = image.Entry("Last");
+    // clang-format off
+    const std::pair<const char*, uint32_t> cases[] = {
+        {"First", 8}, {"fIRST", 8}, {"Firs", 0}, {"First ", 0}, {"Staple", 0}, {"Setting", 0}, {"None", 0},
+        {"STAPLEsetting", longer}, {"Name_of_31_characters_012345678", longest}, {"Last", last}};
+    // clang-format on
+    OpenedImage file(image);
+    for (const auto& [name, offset] : cases)
+        EXPECT_EQ(PrmFindEntry(*file, name), offset) << name;
+}
+
+TEST(Reader, ChainEndsOnlyAtItsBoundOrAfterAsManyStepsAsTheFileCanHold) {
+    PrmImage image;
+    const uint32_t low = image.Entry("Low"), high = image.Entry("High"), beyond = image.Entry("Beyond");
+    const uint32_t end = image.Size();
+    // clang-format off
+    const struct {
+        const char* what;
+        uint32_t first, low, high, chainEnd; // next offsets of the three entries, and the header's bound
+        uint32_t findsFirst, findsLow, findsHigh, findsBeyond;
+    } cases[] = {
+        {"forwards",                     low,    high,       beyond, end,        8, low, high, beyond},
+        {"backwards",                    high,   beyond,     low,    end,        8, low, high, beyond},
+        {"bound at an entry",            low,    high,       end,    high,       8, low, 0,    0},
+        {"bound one behind an entry",    low,    high,       end,    high + 1,   8, low, high, 0},
+        {"bound at the first entry",     low,    high,       end,    8,          0, 0,   0,    0},
+        {"bound behind the first entry", low,    high,       end,    9,          8, 0,   0,    0},
+        {"loops to itself",              low,    low,        end,    end,        8, low, 0,    0},
+        {"loops back",                   low,    high,       8,      end,        8, low, high, 0},
+        {"leads behind the file",        low,    0x7FFFFFFF, end,    0xFFFFFFFF, 8, low, 0,    0},
+        {"leads to a cut entry",         low,    end - 51,   end,    end,        8, low, 0,    0},
+        {"comes back from behind it",    beyond, high,       end,    high,       8, 0,   0,    0},
+        // The entry at offset 0 has its next offset where the first entry keeps bytes that nobody else reads.
+        {"leads to offset 0",            0,      high,       end,    end,        8, low, high, beyond},
+    };
+    // clang-format on
+    image.SetWord(48, beyond);
+    image.At<PrmEntry>(beyond).next = low;
+    for (const auto& c : cases) {
+        image.At<PrmEntry>(8).next = c.first;
+        image.At<PrmEntry>(low).next = c.low;
+        image.At<PrmEntry>(high).next = c.high;
+        image.At<PrmHeader>(0).chainEnd = c.chainEnd;
+        OpenedImage file(image);
+        EXPECT_EQ(PrmFindEntry(*file, "First"), c.findsFirst) << c.what;
+        EXPECT_EQ(PrmFindEntry(*file, "Low"), c.findsLow) << c.what;
+        EXPECT_EQ(PrmFindEntry(*file, "High"), c.findsHigh) << c.what;
+        EXPECT_EQ(PrmFindEntry(*file, "Beyond"), c.findsBeyond) << c.what;
+        EXPECT_EQ(PrmFindEntry(*file, "Nobody"), 0u) << c.what;
+    }
+}
+
+TEST(Reader, SmallestFilesAndNoFile) {
+    for (const uint32_t size : {0u, 7u, 8u, 59u, 60u}) {
+        PrmImage cut;
+        cut.bytes.resize(size);
+        OpenedImage file(cut);
+        ASSERT_NE(file.file, nullptr) << size;
+        EXPECT_EQ(PrmFindEntry(*file, "First"), size == 60 ? 8u : 0u) << size;
+    }
+    EXPECT_EQ(PrmOpenW(L"no_such_folder/no_such_file.prm"), nullptr);
+    const TemporaryFile disk(PrmImage().bytes);
+    PrmFile* byNarrowName = PrmOpen(disk.path.c_str(), 0);
+    EXPECT_NE(byNarrowName, nullptr);
+    PrmClose(byNarrowName);
+}
+
+TEST(Reader, ReadsNoMoreThanThereIs) {
+    const PrmImage image;
+    const uint32_t size = image.Size();
+    OpenedImage file(image);
+    // clang-format off
+    const struct {
+        uint32_t count;
+        uint64_t offset;
+        uint32_t delivered;
+    } cases[] = {
+        {4, 0, 4}, {8, size - 3, 3}, {1, size - 1, 1}, {1, size, 0}, {0, 0, 0}, {0x7FFFFFFF, 8, size - 8},
+        {4, 0xFFFFFFFF, 0}, {4, 0x100000008, 0}}; // the last is 8 to those who count in 32 bits
+    // clang-format on
+    for (const auto& [count, offset, delivered] : cases) {
+        std::vector<uint8_t> to(size + 4, 0xEE), expected = to;
+        for (uint32_t i = 0; i < delivered; ++i)
+            expected[i] = image.bytes[offset + i];
+        EXPECT_EQ(PrmRead(*file, to.data(), count, offset), static_cast<int32_t>(delivered)) << offset;
+        EXPECT_EQ(to, expected) << offset;
+    }
+}
+
+// What a reader says when its record starts with the file's last byte, and when it starts at the file's end.
+template <typename Record, typename Reader>
+void ExpectSuccess(Reader reader, bool withNothing = false) {
+    SCOPED_TRACE(sizeof(Record));
+    PrmImage image;
+    const uint32_t last = image.Put(RawBytes(1).U8(0, 0x5A));
+    OpenedImage file(image);
+    Record record = {};
+    EXPECT_EQ(reader(*file, last + 1, record), withNothing);
+    EXPECT_EQ(Differences(&record, RawBytes(sizeof(Record))), "");
+    EXPECT_TRUE(reader(*file, last, record));
+    EXPECT_EQ(Differences(&record, RawBytes(sizeof(Record)).U8(0, 0x5A)), "");
+}
+
+TEST(Reader, WhatCountsAsSuccess) {
+    ExpectSuccess<PrmEntry>(PrmReadEntry);
+    ExpectSuccess<PrmEntryInfo>(PrmReadEntryInfo);
+    ExpectSuccess<PrmItemDescriptor>(PrmReadRecord16);
+    ExpectSuccess<PrmTabPaper>(PrmReadRecord28);
+    ExpectSuccess<PrmResolution>(PrmReadRecord32);
+    ExpectSuccess<PrmTextItem>(PrmReadRecord148);
+    ExpectSuccess<PrmMediaItem>(PrmReadRecord156);
+    ExpectSuccess<PrmOutputPaper>(PrmReadRecord320);
+    ExpectSuccess<PrmPaper>(PrmReadRecord620);
+    ExpectSuccess<uint32_t>(PrmReadDword, true);
+    const auto block = [](const PrmFile& file, uint64_t offset, uint64_t& to) {
+        return PrmReadBlock(file, offset, sizeof(to), &to);
+    };
+    ExpectSuccess<uint64_t>(block, true);
+    PrmEntry entry = {};
+    EXPECT_FALSE(PrmReadEntry(*OpenedImage(PrmImage()), 0, entry)) << "no entry lies at offset 0";
+}
+
+TEST(Reader, Texts) {
+    PrmImage image;
+    const std::string most(290, 'a');
+    // clang-format off
+    const struct {
+        const char* what;
+        uint32_t offset;
+        bool success;
+        std::string text;
+    } cases[] = {
+        {"short", image.Text("InTray1"), true, "InTray1"},
+        {"empty", image.Text(""), true, ""},
+        {"290 characters", image.Text(most), true, most},
+        {"291 characters", image.Text(most + "b"), false, "as before"},
+        {"291 to the end of the file", image.Put(RawBytes(291).U8(0, 'c', 291)), false, "as before"},
+        {"290 to the end of the file", image.Size() - 290, true, std::string(290, 'c')},
+        {"behind the file", image.Size(), true, ""},
+        {"far behind the file", 0xFFFFFFFF, true, ""},
+    };
+    // clang-format on
+    OpenedImage file(image);
+    for (const auto& c : cases) {
+        PrmText text = "as before";
+        EXPECT_EQ(PrmReadString(*file, c.offset, text), c.success) << c.what;
+        EXPECT_EQ(text, c.text) << c.what;
+    }
+}
+
+TEST(Reader, WideTexts) {
+    PrmImage image;
+    std::vector<wchar_t> text292(292, L'\u00FC'), text291(291, L'\u00FC');
+    text292.push_back(0);
+    text291.push_back(0);
+    // clang-format off
+    const struct {
+        const char* what;
+        uint32_t offset;
+        bool success;
+        const wchar_t* text;
+    } cases[] = {
+        {"short", image.Wide(L"Fach \u00E4\u4E2D"), true, L"Fach \u00E4\u4E2D"},
+        {"empty counts as absent", image.Wide(L""), false, L"as before"},
+        {"291 characters", image.Wide(text291.data()), true, text291.data()},
+        {"292 characters", image.Wide(text292.data()), true, text291.data()},
+        {"to the end of the file", image.Put(L"ABC", 6), true, L"ABC"},
+        {"behind the file", image.Size(), false, L"as before"},
+    };
+    // clang-format on
+    OpenedImage file(image);
+    for (const auto& c : cases) {
+        PrmWideText text = L"as before";
+        EXPECT_EQ(PrmReadWideString(*file, c.offset, text), c.success) << c.what;
+        size_t length = 0;
+        while (c.text[length] != 0)
+            ++length;
+        EXPECT_EQ(Differences(text, RawBytes(2 * length + 2).Wide(0, c.text)), "") << c.what;
+    }
+}
+
+TEST(Reader, RangeDeliversSecondFirstThird) {
+    PrmImage image;
+    const uint32_t block = image.Range("Copies", 1, 999, 5) + 64;
+    for (const bool complete : {true, false}) {
+        image.bytes.resize(block + (complete ? 45 : 44)); // one byte of the last field will do
+        uint32_t values[3] = {7, 7, 7};
+        EXPECT_EQ(PrmReadRange(*OpenedImage(image), block, values), complete);
+        EXPECT_EQ(Differences(values, complete ? RawBytes(12).U32(0, 999).U32(4, 1).U32(8, 5)
+                                               : RawBytes(12).U32(0, 7).U32(4, 7).U32(8, 7)),
+                  "");
+    }
+}
+
+TEST(Reader, StringValues) {
+    PrmImage image;
+    const std::string c126(126, 'a'), c290(290, 'b');
+    image.StringValue("Empty", "");
+    image.StringValue("Short", "A4");
+    image.StringValue("C126", c126);
+    image.StringValue("C127", c126 + "a");
+    image.StringValue("C290", c290);
+    image.StringValue("C292", c290 + "cc");
+    image.Entry("NoDefault", {}, 0, 0xFFFFFFF0);
+    // clang-format off
+    const struct {
+        const char* name;
+        size_t capacity;
+        bool success;
+        std::string value;
+    } cases[] = {
+        {"Short", 128, true, "A4"}, {"short", 4, true, "A4"},   {"Short", 3, false, ""},
+        {"C126", 128, true, c126},  {"C127", 128, false, ""},   {"C290", 300, true, c290},
+        {"C292", 300, true, ""},    {"Missing", 9, false, ""},  {"NoDefault", 9, true, ""},
+        {"Empty", 2, true, ""}};
+    // clang-format on
+    OpenedImage file(image);
+    for (const auto& c : cases) {
+        std::string to(c.capacity + 1, '#'), expected = c.value;
+        EXPECT_EQ(PrmReadStringValue(*file, c.name, to.data(), c.capacity), c.success)
+            << c.name << c.capacity;
+        expected.resize(c.capacity);
+        EXPECT_EQ(to, expected + '#') << c.name << c.capacity;
+    }
+}
+
+TEST(Reader, Numbers) {
+    // clang-format off
+    const struct {
+        const char* text;
+        uint32_t only;
+        uint16_t first, second; // 77: left as it was
+    } cases[] = {
+        {"", 0, 77, 77},            {"none", 0, 77, 77},     {"A4 210mm", 4, 4, 210}, {"Tray 12", 12, 12, 77},
+        {"600x600", 600, 600, 600}, {"PCL6 PS3", 6, 6, 3},   {"-5", 5, 5, 77},        {"007.9", 7, 7, 9},
+        {"1 2 3", 1, 1, 2},         {"\xB2\xB3 1", 1, 1, 77}, {"70000 65536", 70000, 4464, 0}};
+    // clang-format on
+    for (const auto& c : cases) {
+        uint16_t first = 77, second = 77;
+        PrmParseTwoNumbers(c.text, first, second);
+        EXPECT_EQ(PrmParseFirstNumber(c.text), c.only) << c.text;
+        EXPECT_EQ(first, c.first) << c.text;
+        EXPECT_EQ(second, c.second) << c.text;
+    }
+}
+
+} // namespace

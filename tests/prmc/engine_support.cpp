@@ -1,0 +1,50 @@
+// Test support, see engine_support.h.
+#include "engine_support.h"
+
+#include "prmc/prm_parser.h"
+#include "prmc/prm_writer.h"
+#include "prmc/rules.h"
+#include "prmc/yaml_reader.h"
+
+#include <gtest/gtest.h>
+
+const char* const kSmallModel = R"(
+Copies: {min: 1, max: 999, default: 5}
+PIFrontCover:
+  default: B
+  items:
+    - {key: A, name: é}
+    - {key: B, name: ""}
+Country: {value: 7}
+DevInfo: {PDLType: PCL6}
+MediaColor:
+  default: W
+  items:
+    - {key: W, name: White, value: 3, text: T}
+)";
+
+Model FromYaml(const std::string& text, std::vector<std::string>& messages) {
+    Findings findings;
+    Model model = ReadYaml(text, findings);
+    CheckRules(model, findings);
+    for (const Finding& finding : findings.list)
+        messages.push_back(std::to_string(finding.place.line) + ":" + std::to_string(finding.place.column)
+                           + ": " + (finding.isNote ? "note: " : "") + finding.message);
+    return model;
+}
+
+Model FromPrm(const std::string& bytes, std::vector<std::string>& messages) {
+    Findings findings;
+    Model model = ParsePrm(bytes, findings);
+    CheckRules(model, findings);
+    for (const Finding& finding : findings.list)
+        messages.push_back((finding.isNote ? "note: " : "") + finding.message);
+    return model;
+}
+
+std::string Build(const std::string& yaml) {
+    std::vector<std::string> messages;
+    const std::vector<uint8_t> bytes = WritePrm(FromYaml(yaml, messages));
+    EXPECT_TRUE(messages.empty()) << messages.front();
+    return {bytes.begin(), bytes.end()};
+}

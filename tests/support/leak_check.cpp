@@ -1,0 +1,26 @@
+// Host only, linked into every test program: starts each test with the platform's stand-in as new, and fails
+// a test that leaves a block, a file or a library reference behind.
+#include "platform_control.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+struct LeakCheck : testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { platform::Reset(); }
+    void OnTestEnd(const testing::TestInfo&) override {
+        const platform::Counts counts = platform::Count();
+        EXPECT_EQ(counts.globalBlocks, 0);
+        EXPECT_EQ(counts.localBlocks, 0);
+        EXPECT_EQ(counts.files, 0);
+        EXPECT_EQ(counts.libraryReferences, 0);
+    }
+};
+
+// The test framework owns the listener.
+[[maybe_unused]] const bool registered = [] {
+    testing::UnitTest::GetInstance()->listeners().Append(new LeakCheck);
+    return true;
+}();
+
+} // namespace

@@ -1,0 +1,36 @@
+// Records by raw byte offset, independent of the project's structs: build what is expected, read what there
+// is, and say where the two differ. Numbers are little-endian.
+#ifndef SUPPORT_RAW_BYTES_H
+#define SUPPORT_RAW_BYTES_H
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+// A block that is zero but for what the setters put at an offset.
+struct RawBytes {
+    explicit RawBytes(size_t size) : bytes(size) {}
+
+    RawBytes& U8(size_t offset, unsigned value, size_t repeat = 1);
+    RawBytes& U16(size_t offset, unsigned value);
+    RawBytes& U32(size_t offset, uint32_t value);
+    RawBytes& Text(size_t offset, const std::string& text); // without terminator
+    RawBytes& Wide(size_t offset, const wchar_t* text);     // without terminator
+    RawBytes& Append(const RawBytes& more);
+
+    std::vector<uint8_t> bytes;
+};
+
+template <typename Number>
+Number NumberAt(const void* record, size_t offset) {
+    Number number;
+    memcpy(&number, static_cast<const uint8_t*>(record) + offset, sizeof(number));
+    return number;
+}
+
+// The first few bytes that differ, by offset; empty when the block at `actual`, which is not null, is as
+// expected.
+std::string Differences(const void* actual, const RawBytes& expected);
+
+#endif

@@ -1,0 +1,20 @@
+// The commands of the program. Each adds its own options to the command line and leaves behind what to run
+// once the line has been read; a new command is one file, one declaration here and one row of the table in
+// main.cpp.
+#ifndef WORKBENCH_COMMANDS_H
+#define WORKBENCH_COMMANDS_H
+
+#include "family_files.h"
+
+#include <CLI/CLI.hpp>
+#include <functional>
+
+using Run = std::function<Document(const FamilyFiles& family)>;
+
+// What the model offers: switches, facts, ranges and every list, from the parameter data file.
+Run SetUpDescribe(CLI::App& command);
+
+// What the module answers to the device-capability questions.
+Run SetUpCapabilities(CLI::App& command);
+
+#endif

@@ -1,0 +1,19 @@
+// `workbench describe`: that the module attaches, and what the parameter data file says of the model.
+#include "commands.h"
+#include "device_document.h"
+
+namespace {
+
+Document Describe(const FamilyFiles& family) {
+    Document document;
+    document["files"] = FamilyDocument(family);
+    AddDevice(*family.table, document);
+    AddInputSlots(document);
+    return document;
+}
+
+} // namespace
+
+Run SetUpDescribe(CLI::App& /*command*/) {
+    return Describe;
+}

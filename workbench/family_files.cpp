@@ -1,0 +1,88 @@
+// The driver's files in one folder: see the header.
+#include "family_files.h"
+
+#include "output.h"
+
+#include <system_error>
+#include <vector>
+
+namespace {
+
+constexpr const wchar_t* kModuleName = L"TELMAR_D.DLL";
+constexpr const wchar_t* kParameterName = L"TELMAR_D.PRM";
+constexpr const char* kOtherFolder = "; put it there or name its folder with --folder";
+
+std::filesystem::path ProgramFolder() {
+    std::wstring path(32768, L'\0'); // the longest that Windows knows
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return std::filesystem::path(path).parent_path();
+}
+
+// Must be called before anything else sets the last error.
+[[noreturn]] void FailToOpen(const std::filesystem::path& path, const char* what) {
+    const auto error = static_cast<int>(GetLastError());
+    const std::string reason = std::system_category().message(error);
+    throw Failure(kExitFailed, path.u8string() + ": " + what + " (error " + std::to_string(error) + ", "
+                                   + reason + ")" + kOtherFolder);
+}
+
+// "major.minor.patch.build" of the file's version resource.
+std::string FileVersion(const std::filesystem::path& path) {
+    DWORD unused;
+    std::vector<uint8_t> data(GetFileVersionInfoSizeW(path.c_str(), &unused));
+    void* found;
+    UINT size;
+    if (data.empty() || !GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(data.size()), data.data())
+        || !VerQueryValueW(data.data(), L"\\", &found, &size))
+        return "unknown";
+    const auto& info = *static_cast<const VS_FIXEDFILEINFO*>(found);
+    std::string version;
+    for (const DWORD part : {info.dwFileVersionMS, info.dwFileVersionLS})
+        version +=
+            (version.empty() ? "" : ".") + std::to_string(HIWORD(part)) + "." + std::to_string(LOWORD(part));
+    return version;
+}
+
+} // namespace
+
+FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
+    FamilyFiles family;
+    const auto base = folder.empty() ? ProgramFolder() : std::filesystem::absolute(folder);
+    family.modulePath = base / kModuleName;
+    family.parameterPath = base / kParameterName;
+
+    family.module.reset(LoadLibraryW(family.modulePath.c_str()));
+    if (family.module == nullptr)
+        FailToOpen(family.modulePath, "the module can't be loaded");
+
+    family.parameters.reset(PrmOpenW(family.parameterPath.c_str()));
+    if (family.parameters == nullptr)
+        FailToOpen(family.parameterPath, "the parameter data file can't be opened");
+    if (PrmFindEntry(*family.parameters, "FeatureSetting") == 0)
+        throw Failure(kExitFailed, family.parameterPath.u8string()
+                                       + ": not a parameter data file, or a damaged one, since it has no "
+                                         "FeatureSetting; examine it with 'prmc check' or build it again");
+
+    family.table.reset(BuildDeviceTable(*family.parameters));
+    if (family.table == nullptr)
+        throw Failure(kExitFailed, "no memory for the device table");
+    return family;
+}
+
+Document FamilyDocument(const FamilyFiles& family) {
+    return {
+        {"module",         family.modulePath.u8string()   },
+        {"version",        FileVersion(family.modulePath) },
+        {"parameterFile",  family.parameterPath.u8string()},
+        {"parameterBytes", family.parameters->size        },
+    };
+}
+
+void* FindModuleExport(const FamilyFiles& family, const char* name) {
+    const FARPROC function = GetProcAddress(family.module.get(), name);
+    if (function == nullptr)
+        throw Failure(kExitFailed,
+                      family.modulePath.u8string() + ": has no export " + name
+                          + "; it is another file of that name or an older version: build it again");
+    return reinterpret_cast<void*>(function);
+}

@@ -1,0 +1,43 @@
+// The driver's files in one folder: the module, loaded by its full path as the generic modules do, and the
+// parameter data file with the device table built from it, as the user-interface module builds it.
+#ifndef WORKBENCH_FAMILY_FILES_H
+#define WORKBENCH_FAMILY_FILES_H
+
+#include "document.h"
+#include "frame/exports.h"
+#include "paramdata/prm_file.h"
+
+#include <filesystem>
+#include <memory>
+
+// Releases what the module's own code hands out as plain pointers.
+struct Release {
+    void operator()(HMODULE module) const { FreeLibrary(module); }
+    void operator()(PrmFile* file) const { PrmClose(file); }
+    void operator()(DeviceTable* table) const { FreeDeviceTable(table); }
+};
+
+struct FamilyFiles {
+    std::filesystem::path modulePath;
+    std::filesystem::path parameterPath;
+    std::unique_ptr<std::remove_pointer_t<HMODULE>, Release> module;
+    std::unique_ptr<PrmFile, Release> parameters;
+    std::unique_ptr<DeviceTable, Release> table;
+};
+
+// Opens the files of this folder; of the program's own folder when it is empty. Throws Failure when a file is
+// missing or unusable.
+FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder);
+
+// Where the files lie and which version the module is: the first section of every document.
+Document FamilyDocument(const FamilyFiles& family);
+
+// An export of the module under its declared type: ModuleExport<decltype(&Name)>(family, "Name"). Throws
+// Failure when the module lacks it.
+void* FindModuleExport(const FamilyFiles& family, const char* name);
+template <typename Function>
+Function ModuleExport(const FamilyFiles& family, const char* name) {
+    return reinterpret_cast<Function>(FindModuleExport(family, name));
+}
+
+#endif

@@ -1,0 +1,26 @@
+// The option features of the model, as the generic modules keep them: the caller's feature table and
+// settings, made from the plain entries of the parameter data file.
+#ifndef WORKBENCH_OPTION_FEATURES_H
+#define WORKBENCH_OPTION_FEATURES_H
+
+#include "document.h"
+#include "family_files.h"
+
+#include <vector>
+
+struct OptionFeatures {
+    std::vector<std::unique_ptr<ItemRecord[]>> items; // of each feature; the features refer to them
+    std::vector<FeatureRecord> features;              // ends at an empty key, as the items do
+    std::vector<FeatureSettings> settings; // position of the item in force; -1: the file has no default
+};
+
+// The features that the file has, set to the file's defaults.
+OptionFeatures ReadOptionFeatures(const FamilyFiles& family);
+
+// Applies "FEATURE=ITEM" (letter case ignored). Throws Failure that names what is possible.
+void SetOption(OptionFeatures& options, const std::string& assignment);
+
+// One row per feature: the item in force.
+Document OptionsDocument(const OptionFeatures& options);
+
+#endif

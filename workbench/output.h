@@ -1,0 +1,19 @@
+// Texts on their way out: conversion of the module's texts to UTF-8, and writing to the console or a
+// redirected file.
+#ifndef WORKBENCH_OUTPUT_H
+#define WORKBENCH_OUTPUT_H
+
+#include <string>
+#include <string_view>
+#include <windows.h>
+
+std::string Utf8(std::wstring_view text);
+
+// From the system's 8-bit code page, in which the module's keys and texts are.
+std::string Utf8(std::string_view text);
+
+// Writes UTF-8 to STD_OUTPUT_HANDLE or STD_ERROR_HANDLE: as UTF-16 to a console, byte for byte to a file or a
+// pipe.
+void Print(DWORD where, std::string_view utf8);
+
+#endif
