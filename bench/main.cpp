@@ -27,11 +27,11 @@ struct Ratio {
 };
 
 const Ratio kRatios[] = {
-    {"attach : read the file only",                    "Attach",       "ReadOnly",  1},
-    {"time per item, 2 x the items : as many",         "Growth/128",   "Growth/64", 2},
-    {"time per item, 4 x the items : as many",         "Growth/256",   "Growth/64", 4},
-    {"time per item, 8 x the items : as many",         "Growth/512",   "Growth/64", 8},
-    {"bins and bin names : copied without a question", "Capabilities", "CopyOnly",  1},
+    {"attach : read the file only", "Attach", "ReadOnly", 1},
+    {"time per item, 2 x the items : as many", "Growth/128", "Growth/64", 2},
+    {"time per item, 4 x the items : as many", "Growth/256", "Growth/64", 4},
+    {"time per item, 8 x the items : as many", "Growth/512", "Growth/64", 8},
+    {"bins and bin names : copied without a question", "Capabilities", "CopyOnly", 1},
 };
 
 } // namespace

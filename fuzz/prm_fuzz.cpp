@@ -23,7 +23,7 @@ void Require(bool condition, const char* what) {
 
 template <typename Text>
 void RequireTerminated(const Text& text) {
-    Require(TextLength(text) < kTextCapacity<Text>, "a text fills its field without terminator");
+    Require(TextLength(text) < std::extent_v<Text>, "a text fills its field without terminator");
 }
 
 // Walks a list to its end, as every reader does; the sanitizer stops a walk that leaves the list's block.

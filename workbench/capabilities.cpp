@@ -38,10 +38,10 @@ constexpr struct {
     const char* name;
     WORD capability;
 } kQuestions[] = {
-    {"DC_BINS",     DC_BINS    },
+    {"DC_BINS", DC_BINS},
     {"DC_BINNAMES", DC_BINNAMES},
-    {"DC_DUPLEX",   DC_DUPLEX  },
-    {"DC_STAPLE",   DC_STAPLE  },
+    {"DC_DUPLEX", DC_DUPLEX},
+    {"DC_STAPLE", DC_STAPLE},
 };
 
 Document Answers(const Questioner& questioner) {
@@ -50,10 +50,10 @@ Document Answers(const Questioner& questioner) {
         DWORD answer = 0;
         const bool answered = questioner.Ask(question.capability, nullptr, answer);
         rows.push_back({
-            {"question", question.name                           },
-            {"index",    question.capability                     },
-            {"answered", answered                                },
-            {"answer",   answered ? Document(answer) : Document()},
+            {"question", question.name},
+            {"index", question.capability},
+            {"answered", answered},
+            {"answer", answered ? Document(answer) : Document()},
         });
     }
     return rows;
@@ -65,7 +65,7 @@ Document PaperSources(const Questioner& questioner) {
     Document rows = Document::array();
     for (size_t i = 0; i < bins.size() && i < names.size(); ++i)
         rows.push_back({
-            {"bin",  bins[i]              },
+            {"bin", bins[i]},
             {"name", Utf8(names[i].data())},
         });
     return rows;
@@ -79,9 +79,9 @@ Document Capabilities(const FamilyFiles& family, const std::vector<std::string>&
         ModuleExport<decltype(&DDProc_DeviceCapabilities)>(family, "DDProc_DeviceCapabilities"),
         family.table.get(), options};
     return {
-        {"files",        FamilyDocument(family)  },
-        {"options",      OptionsDocument(options)},
-        {"answers",      Answers(questioner)     },
+        {"files", FamilyDocument(family)},
+        {"options", OptionsDocument(options)},
+        {"answers", Answers(questioner)},
         {"paperSources", PaperSources(questioner)},
     };
 }

@@ -97,10 +97,7 @@ Document ListDocument(const Record* list, const Field (&fields)[N]) {
         return nullptr;
     Document rows = Document::array();
     for (; list->head.key[0] != 0; ++list) {
-        Document row = {
-            {"key",   ToDocument(list->head.key)},
-            {"value", list->head.value          }
-        };
+        Document row = {{"key", ToDocument(list->head.key)}, {"value", list->head.value}};
         AddFields(fields, list, row);
         rows.push_back(row);
     }
@@ -250,8 +247,8 @@ Document Switches(const DeviceTable& table) {
         const uint32_t value = table.switches[i];
         const bool isNumber = kFeatureSwitches[i].enablingValue == nullptr;
         rows.push_back({
-            {"index", i                                                          },
-            {"name",  kFeatureSwitches[i].name                                   },
+            {"index", i},
+            {"name", kFeatureSwitches[i].name},
             {"value", isNumber ? Document(value) : Document(value ? "on" : "off")},
         });
     }
@@ -261,11 +258,7 @@ Document Switches(const DeviceTable& table) {
 Document Ranges(const DeviceTable& table) {
     Document rows = Document::array();
     for (const auto& range : kRanges)
-        rows.push_back({
-            {"name", range.name          },
-            {"a",    range.a.show(&table)},
-            {"b",    range.b.show(&table)}
-        });
+        rows.push_back({{"name", range.name}, {"a", range.a.show(&table)}, {"b", range.b.show(&table)}});
     return rows;
 }
 
@@ -277,10 +270,7 @@ Document MachineInformation(const DeviceTable& table) {
         for (uint32_t j = 0; machine.details != nullptr && j + 1 < machine.detailCount; ++j)
             details.push_back(
                 {ToDocument(machine.details[j].texts[0]), ToDocument(machine.details[j].texts[1])});
-        rows.push_back({
-            {"name",    ToDocument(machine.name)},
-            {"details", details                 }
-        });
+        rows.push_back({{"name", ToDocument(machine.name)}, {"details", details}});
     }
     return rows;
 }

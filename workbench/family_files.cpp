@@ -71,10 +71,10 @@ FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
 
 Document FamilyDocument(const FamilyFiles& family) {
     return {
-        {"module",         family.modulePath.u8string()   },
-        {"version",        FileVersion(family.modulePath) },
-        {"parameterFile",  family.parameterPath.u8string()},
-        {"parameterBytes", family.parameters->size        },
+        {"module", family.modulePath.u8string()},
+        {"version", FileVersion(family.modulePath)},
+        {"parameterFile", family.parameterPath.u8string()},
+        {"parameterBytes", family.parameters->size},
     };
 }
 

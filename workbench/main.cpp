@@ -13,8 +13,8 @@ constexpr struct {
     const char* summary;
     Run (*setUp)(CLI::App& command);
 } kCommands[] = {
-    {"describe",     "Shows what the model offers: switches, facts, ranges and lists", SetUpDescribe    },
-    {"capabilities", "Asks the module for paper sources, duplex and stapling",         SetUpCapabilities},
+    {"describe", "Shows what the model offers: switches, facts, ranges and lists", SetUpDescribe},
+    {"capabilities", "Asks the module for paper sources, duplex and stapling", SetUpCapabilities},
 };
 
 struct CommonOptions {

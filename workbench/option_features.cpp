@@ -104,9 +104,9 @@ Document OptionsDocument(const OptionFeatures& options) {
         const ItemRecord* item =
             SelectedItem(options.features.data(), options.settings.data(), static_cast<int32_t>(i));
         rows.push_back({
-            {"feature", Utf8(options.features[i].feature.head.key)                   },
-            {"item",    item == nullptr ? Document() : Document(Utf8(item->head.key))},
-            {"name",    item == nullptr ? Document() : Document(Utf8(item->display)) },
+            {"feature", Utf8(options.features[i].feature.head.key)},
+            {"item", item == nullptr ? Document() : Document(Utf8(item->head.key))},
+            {"name", item == nullptr ? Document() : Document(Utf8(item->display))},
         });
     }
     return rows;

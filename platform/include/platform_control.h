@@ -34,7 +34,7 @@ struct FileFaults {
     bool sizeFails = false;
     bool seekFails = false;
 };
-void SetFileFaults(const FileFaults& faults);
+void SetFileFaults(const FileFaults& ordered);
 
 // One function of a library. Takes a function of any signature.
 struct Export {

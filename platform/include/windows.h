@@ -72,7 +72,7 @@ using LPWSTR = wchar_t*;
 using HANDLE = void*;
 using HGLOBAL = void*;
 using HLOCAL = void*;
-using HINSTANCE = struct HINSTANCE__*;
+using HINSTANCE = struct Instance*;
 using HMODULE = HINSTANCE;
 using FARPROC = INT_PTR(WINAPI*)();
 static_assert(sizeof(WCHAR) == 2 && sizeof(void*) == 8);
@@ -84,8 +84,8 @@ void WINAPI SetLastError(DWORD error);
 
 // Only a library that a test has registered by just this path loads. Each load counts one reference.
 HMODULE WINAPI LoadLibraryW(LPCWSTR path);
-FARPROC WINAPI GetProcAddress(HMODULE library, LPCSTR name);
-BOOL WINAPI FreeLibrary(HMODULE library);
+FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name);
+BOOL WINAPI FreeLibrary(HMODULE handle);
 // Answers what the test has set, whatever the module.
 DWORD WINAPI GetModuleFileNameW(HMODULE module, LPWSTR path, DWORD capacity);
 

@@ -15,13 +15,13 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
         const wchar_t *module, *sibling;
         bool loads;
     } cases[] = {
-  // the library is found beside the module, never elsewhere, never by its bare name
-        {L"C:\\driver\\TELMAR_D.DLL",               L"C:\\driver\\TELMAR_S.DLL",               true },
-        {L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_D.DLL", L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_S.DLL", true },
-        {L"\\\\server\\x64\\3\\TELMAR_D.DLL",       L"\\\\server\\x64\\3\\TELMAR_S.DLL",       true },
-        {L"C:\\TELMAR_D.DLL",                       L"C:\\TELMAR_S.DLL",                       true },
-        {L"C:\\a\\TELMAR_D.DLL",                    L"C:\\TELMAR_S.DLL",                       false},
-        {L"C:\\a\\TELMAR_D.DLL",                    L"TELMAR_S.DLL",                           false},
+        // the library is found beside the module, never elsewhere, never by its bare name
+        {L"C:\\driver\\TELMAR_D.DLL", L"C:\\driver\\TELMAR_S.DLL", true},
+        {L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_D.DLL", L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_S.DLL", true},
+        {L"\\\\server\\x64\\3\\TELMAR_D.DLL", L"\\\\server\\x64\\3\\TELMAR_S.DLL", true},
+        {L"C:\\TELMAR_D.DLL", L"C:\\TELMAR_S.DLL", true},
+        {L"C:\\a\\TELMAR_D.DLL", L"C:\\TELMAR_S.DLL", false},
+        {L"C:\\a\\TELMAR_D.DLL", L"TELMAR_S.DLL", false},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);

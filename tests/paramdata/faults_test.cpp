@@ -79,12 +79,12 @@ TEST_F(FaultsTest, EveryRoadOfLoadingGivesTheSameResults) {
         platform::FileFaults faults; // failing read, most bytes per read, size query fails
         bool hasImage;
     } roads[] = {
-        {"size query fails",          0, {0, 0, true}, false},
-        {"no memory for the image",   2, {},           false},
-        {"first read fails",          0, {1},          false},
-        {"third of many reads fails", 0, {3, 1000},    false},
-        {"small reads",               0, {0, 7},       true },
-        {"small reads without image", 2, {0, 3},       false},
+        {"size query fails", 0, {0, 0, true}, false},
+        {"no memory for the image", 2, {}, false},
+        {"first read fails", 0, {1}, false},
+        {"third of many reads fails", 0, {3, 1000}, false},
+        {"small reads", 0, {0, 7}, true},
+        {"small reads without image", 2, {0, 3}, false},
     };
     for (const auto& road : roads) {
         platform::FailAllocations(road.failingAllocation);

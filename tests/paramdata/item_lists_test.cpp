@@ -91,9 +91,7 @@ TEST_F(ItemListsTest, MediaTypesAndCollate) {
 
 TEST_F(ItemListsTest, TabAndOutputPapers) {
     PrmImage image;
-    const PrmTabPaper tab = {
-        image.Head("TabA4", kLongDisplay), 9, {5, 2230, 2970}
-    };
+    const PrmTabPaper tab = {image.Head("TabA4", kLongDisplay), 9, {5, 2230, 2970}};
     image.Items<PrmTabPaper>("TabPaperPaperSize", {tab});
     const PrmItemHead head = image.Head("A4", L"A4 paper");
     RawBytes item = RawBytes(320).U8(0, 0xAB, 320).U32(0, head.key).U32(8, head.display).U32(16, 9);
@@ -108,12 +106,8 @@ TEST_F(ItemListsTest, TabAndOutputPapers) {
 
 TEST_F(ItemListsTest, Resolutions) {
     const std::pair<const char*, unsigned> cases[] = {
-        {"Reso_600x1200", 600 },
-        {"RES_1200",      200 }, // the number starts behind the fifth character
-        {"R1234",         0   },
-        {"12345A",        0   },
-        {"",              0   },
-        {"Reso_70000",    4464},
+        {"Reso_600x1200", 600}, {"RES_1200", 200}, // the number starts behind the fifth character
+        {"R1234", 0},           {"12345A", 0},     {"", 0}, {"Reso_70000", 4464},
     };
     PrmImage image;
     std::vector<PrmResolution> items;
@@ -185,12 +179,8 @@ TEST_F(ItemListsTest, UserPaperAlsoFillsTheTable) {
         unsigned present;
         bool found;
     } cases[] = {
-        {"UserPaper",  0b11100, true },
-        {"USERPAPER",  0b00111, true },
-        {"UserPaper",  0b01000, true },
-        {"UserPaper",  0b10000, true },
-        {"UserPaper2", 0b11111, false},
-        {"User",       0b11111, false},
+        {"UserPaper", 0b11100, true}, {"USERPAPER", 0b00111, true},   {"UserPaper", 0b01000, true},
+        {"UserPaper", 0b10000, true}, {"UserPaper2", 0b11111, false}, {"User", 0b11111, false},
     };
     for (const auto& c : cases) {
         PrmImage image;

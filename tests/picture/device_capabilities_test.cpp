@@ -58,18 +58,18 @@ TEST(Capabilities, BinsFollowTheInstalledOptions) {
         const char* features;
         std::vector<uint16_t> bins;
     } cases[] = {
-        {"",                                                             all},
-        {"Paper:0:A4",                                                   all},
-        {"Paper:0:A4 OpInTray2:1:DisOpInTray2,EnaOpInTray2",             all},
-        {"Paper:1:A4,A3 OpInTray2:0:DisOpInTray2,EnaOpInTray2",          no2},
-        {"OpInTray1:0:a OpInTray2:0:b OpInTray3:0:c OpInTrayManual:0:d", {} },
-        {"opintray1:0:enaOPintray5 OPINTRAY2:0:DISOPINTRAY2",            no2},
-        {"OpInTray1:0:EnaOpInTray OpInTray2:0:EnaOpInTra",               no2}, // eleven characters decide
-        {"OpInTray:0:Dis OpInTray22:0:Dis InTray1:0:Dis",                all}, // no option's key
-        {"OpInTray2:0:Dis OpInTray2:0:EnaOpInTray2",                     no2}, // the first of two counts
-        {"OpInTray2:1:EnaOpInTray2",                                     no2}, // names no item
-        {"OpInTray2:2147483647:EnaOpInTray2",                            no2},
-        {"OpInTray2:-1:EnaOpInTray2",                                    no2},
+        {"", all},
+        {"Paper:0:A4", all},
+        {"Paper:0:A4 OpInTray2:1:DisOpInTray2,EnaOpInTray2", all},
+        {"Paper:1:A4,A3 OpInTray2:0:DisOpInTray2,EnaOpInTray2", no2},
+        {"OpInTray1:0:a OpInTray2:0:b OpInTray3:0:c OpInTrayManual:0:d", {}},
+        {"opintray1:0:enaOPintray5 OPINTRAY2:0:DISOPINTRAY2", no2},
+        {"OpInTray1:0:EnaOpInTray OpInTray2:0:EnaOpInTra", no2}, // eleven characters decide
+        {"OpInTray:0:Dis OpInTray22:0:Dis InTray1:0:Dis", all},  // no option's key
+        {"OpInTray2:0:Dis OpInTray2:0:EnaOpInTray2", no2},       // the first of two counts
+        {"OpInTray2:1:EnaOpInTray2", no2},                       // names no item
+        {"OpInTray2:2147483647:EnaOpInTray2", no2},
+        {"OpInTray2:-1:EnaOpInTray2", no2},
     };
     for (const auto& c : cases) {
         const Caller caller(c.features);
@@ -109,14 +109,14 @@ TEST(Capabilities, LongestKeyIsNotCut) {
 
 TEST(Capabilities, Stapling) {
     const std::pair<const char*, DWORD> cases[] = {
-        {"Paper:0:A4",                                                      0},
-        {"Paper:0:A4 OpOutTrayUnit:1:DisOpOutTrayUnit,OpOutTrayUnit3",      1},
-        {"Paper:1:A4,A3 OpOutTrayUnit:0:DisOpOutTrayUnit,OpOutTrayUnit3",   0},
-        {"opouttrayUNIT:0:disopouttrayunit",                                0},
-        {"OpOutTrayUnit:0:DisOpOutTrayUnit2",                               1}, // not that item in full
-        {"OpOutTrayUnit2:0:OpOutTrayUnit1",                                 0},
+        {"Paper:0:A4", 0},
+        {"Paper:0:A4 OpOutTrayUnit:1:DisOpOutTrayUnit,OpOutTrayUnit3", 1},
+        {"Paper:1:A4,A3 OpOutTrayUnit:0:DisOpOutTrayUnit,OpOutTrayUnit3", 0},
+        {"opouttrayUNIT:0:disopouttrayunit", 0},
+        {"OpOutTrayUnit:0:DisOpOutTrayUnit2", 1}, // not that item in full
+        {"OpOutTrayUnit2:0:OpOutTrayUnit1", 0},
         {"OpOutTrayUnit:0:OpOutTrayUnit1 OpOutTrayUnit:0:DisOpOutTrayUnit", 1},
-        {"OpOutTrayUnit:1:OpOutTrayUnit1",                                  0}, // names no item
+        {"OpOutTrayUnit:1:OpOutTrayUnit1", 0}, // names no item
     };
     for (const auto& [features, expected] : cases) {
         DWORD answer = kUntouched, output = kUntouched;

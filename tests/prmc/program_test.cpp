@@ -70,9 +70,7 @@ TEST_F(Program, ExitCodesAndOutput) {
     // clang-format on
     for (const auto& run : runs) {
         EXPECT_EQ(Run(run.arguments), run.exitCode) << run.arguments;
-        for (const auto& [got, wanted] : {
-                 std::pair(Out(), std::string(run.out)), {Errors(), run.errors}
-        }) {
+        for (const auto& [got, wanted] : {std::pair(Out(), std::string(run.out)), {Errors(), run.errors}}) {
             EXPECT_EQ(got.substr(0, wanted.size()), wanted) << run.arguments;
             EXPECT_EQ(got.empty(), wanted.empty()) << run.arguments << ": " << got;
         }

@@ -106,11 +106,7 @@ TEST(Workbench, DescribesTheModel) {
     EXPECT_EQ(model["switches"][52]["value"], "on");  // "Overlay"
     EXPECT_EQ(model["device"]["pagesPerMinute"], 35);
     EXPECT_EQ(model["device"]["machineEncryption"], "AES");
-    EXPECT_EQ(model["ranges"][1], Json({
-                                      {"name", "UserPaper_Width"},
-                                      {"a",    3110             },
-                                      {"b",    900              }
-    }));
+    EXPECT_EQ(model["ranges"][1], Json({{"name", "UserPaper_Width"}, {"a", 3110}, {"b", 900}}));
     EXPECT_EQ(model["inputSlots"][2]["FCoverTray"], "FCover_Tray1");
     for (const auto& list : model["lists"].items())
         EXPECT_FALSE(list.value().empty()) << list.key() << " is not in the model file";
@@ -166,15 +162,15 @@ TEST(Workbench, SaysWhatIsWrong) {
         DWORD exitCode;
         std::vector<const char*> says;
     } cases[] = {
-        {L"capabilities --set OpTray3=EnaOpInTray3", 2, {"'OpTray3'", "OpInTray3", "OpOutTrayUnit"}    },
-        {L"capabilities --set OpInTray3=Yes",        2, {"'Yes'", "EnaOpInTray3", "DisOpInTray3"}      },
-        {L"capabilities --set OpInTray3",            2, {"FEATURE=ITEM", "'OpInTray3'"}                },
-        {L"describe --color",                        2, {"--color"}                                    },
-        {L"",                                        2, {"--help"}                                     },
-        {L"describe" + In(empty),                    1, {"workbench_empty", "TELMAR_D.DLL", "--folder"}},
-        {L"describe" + In(moduleOnly),               1, {"module_only", "TELMAR_D.PRM", "--folder"}    },
-        {L"describe" + In(damaged),                  1, {"TELMAR_D.PRM", "damaged", "prmc check"}      },
-        {L"capabilities" + In(foreign),              1, {"TELMAR_D.DLL", "DDProc_DeviceCapabilities"}  },
+        {L"capabilities --set OpTray3=EnaOpInTray3", 2, {"'OpTray3'", "OpInTray3", "OpOutTrayUnit"}},
+        {L"capabilities --set OpInTray3=Yes", 2, {"'Yes'", "EnaOpInTray3", "DisOpInTray3"}},
+        {L"capabilities --set OpInTray3", 2, {"FEATURE=ITEM", "'OpInTray3'"}},
+        {L"describe --color", 2, {"--color"}},
+        {L"", 2, {"--help"}},
+        {L"describe" + In(empty), 1, {"workbench_empty", "TELMAR_D.DLL", "--folder"}},
+        {L"describe" + In(moduleOnly), 1, {"module_only", "TELMAR_D.PRM", "--folder"}},
+        {L"describe" + In(damaged), 1, {"TELMAR_D.PRM", "damaged", "prmc check"}},
+        {L"capabilities" + In(foreign), 1, {"TELMAR_D.DLL", "DDProc_DeviceCapabilities"}},
     };
     for (const auto& c : cases) {
         const Result result = RunWorkbench(c.arguments);

@@ -5,18 +5,23 @@
 #define PARAMDATA_TEXT_H
 
 #include <cstddef>
-#include <cstdint>
 #include <type_traits>
 
-// Characters that a text may have at most.
+// The character at this position; 0 behind the end of an array.
 template <typename Text>
-inline constexpr size_t kTextCapacity = std::is_array_v<Text> ? std::extent_v<Text> : SIZE_MAX;
+constexpr auto CharAt(const Text& text, size_t position) {
+    if constexpr (std::is_array_v<Text>) {
+        if (position >= std::extent_v<Text>)
+            return std::remove_extent_t<Text>{};
+    }
+    return text[position];
+}
 
 // Characters before the terminator.
 template <typename Text>
 constexpr size_t TextLength(const Text& text) {
     size_t length = 0;
-    while (length < kTextCapacity<Text> && text[length] != 0)
+    while (CharAt(text, length) != 0)
         ++length;
     return length;
 }
@@ -24,9 +29,8 @@ constexpr size_t TextLength(const Text& text) {
 // Copies what fits and always terminates; the rest of the destination stays as it is.
 template <typename Char, size_t Capacity, typename Text>
 constexpr void CopyText(Char (&to)[Capacity], const Text& from) {
-    constexpr size_t kMost = kTextCapacity<Text> < Capacity - 1 ? kTextCapacity<Text> : Capacity - 1;
     size_t length = 0;
-    for (; length < kMost && from[length] != 0; ++length)
+    for (; length < Capacity - 1 && CharAt(from, length) != 0; ++length)
         to[length] = from[length];
     to[length] = 0;
 }
@@ -47,10 +51,9 @@ constexpr bool SameCharacters(const char* a, const char* b, size_t length) {
 template <typename TextA, typename TextB>
 constexpr bool SameText(const TextA& a, const TextB& b) {
     size_t i = 0;
-    while (i < kTextCapacity<TextA> && i < kTextCapacity<TextB> && a[i] != 0 && b[i] != 0
-           && FoldCase(a[i]) == FoldCase(b[i]))
+    while (CharAt(a, i) != 0 && FoldCase(CharAt(a, i)) == FoldCase(CharAt(b, i)))
         ++i;
-    return (i == kTextCapacity<TextA> || a[i] == 0) && (i == kTextCapacity<TextB> || b[i] == 0);
+    return CharAt(a, i) == 0 && CharAt(b, i) == 0;
 }
 
 constexpr bool IsDigit(char c) {
