@@ -8,7 +8,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <memory>
+#include <string>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -59,14 +61,14 @@ BENCHMARK(ReadOnly);
 void Growth(benchmark::State& state) {
     const auto items = static_cast<size_t>(state.range(0));
     const std::vector<uint8_t> bytes = SyntheticFile(items);
-    char path[] = "/tmp/lumora_bench_XXXXXX";
-    const int file = mkstemp(path);
+    std::string path = std::filesystem::temp_directory_path() / "lumora_bench_XXXXXX";
+    const int file = mkstemp(path.data());
     if (file < 0 || write(file, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()))
         state.SkipWithError("no temporary file");
     else
-        Measure(state, path);
+        Measure(state, path.c_str());
     close(file);
-    remove(path);
+    remove(path.c_str());
     state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(items * SyntheticListCount()));
 }
 BENCHMARK(Growth)->RangeMultiplier(2)->Range(64, 512);

@@ -1,8 +1,8 @@
 // Device capabilities of the shipped model: the bin numbers and names of the paper sources whose option is
 // installed, against the same lists copied without a question.
 #include "frame/exports.h"
-#include "model_features.h"
 #include "paramdata/prm_file.h"
+#include "paramdata/text.h"
 
 #include <benchmark/benchmark.h>
 #include <cstring>
@@ -12,10 +12,22 @@ namespace {
 constexpr size_t kMostTrays = 64;
 constexpr size_t kNameChars = 24;
 
-// The model's device table and options, built once for a benchmark.
+// The installable options of the model's trays, all installed.
+constexpr ItemRecord kInstalled[] = {{{sizeof(ItemRecord), "EnaOpInTray", 1, 0, 0, 0}, L""}, {}};
+constexpr FeatureRecord TrayOption(const char* key) {
+    FeatureRecord feature = {};
+    CopyText(feature.feature.head.key, key);
+    feature.items = kInstalled;
+    return feature;
+}
+constexpr FeatureRecord kFeatures[] = {TrayOption("OpInTray2"),   TrayOption("OpInTray3"),
+                                       TrayOption("OpInTray4"),   TrayOption("OpInTray5"),
+                                       TrayOption("OpInTrayLCT"), {}};
+constexpr FeatureSettings kSettings[5] = {};
+
+// The model's device table, built once for a benchmark.
 struct Model {
-    Model()
-        : file(PrmOpen(MODEL_FILE, 0)), table(BuildDeviceTable(*file)), options(*file, table->inputTrays) {}
+    Model() : file(PrmOpen(MODEL_FILE, 0)), table(BuildDeviceTable(*file)) {}
     ~Model() {
         FreeDeviceTable(table);
         PrmClose(file);
@@ -25,7 +37,6 @@ struct Model {
 
     PrmFile* file;
     DeviceTable* table;
-    ModelFeatures options;
     WORD bins[kMostTrays] = {};
     wchar_t names[kMostTrays][kNameChars] = {};
 };
@@ -35,8 +46,7 @@ void Capabilities(benchmark::State& state) {
     Model model;
     DWORD answer = 0;
     const auto ask = [&](WORD capability, void* output) {
-        DDProc_DeviceCapabilities(model.table, model.options.features.data(), nullptr,
-                                  model.options.settings.data(), capability, output, &answer);
+        DDProc_DeviceCapabilities(model.table, kFeatures, nullptr, kSettings, capability, output, &answer);
     };
     for ([[maybe_unused]] auto _ : state) {
         ask(DC_BINS, model.bins);

@@ -93,10 +93,10 @@ size_t SyntheticListCount() {
 
 Bytes SyntheticFile(size_t itemsPerList) {
     Bytes file(sizeof(PrmHeader));
-    size_t link = 0; // where the next entry's offset is to be written; the first entry has its place
     PrmEntry first = {};
     PrmEntryInfo none = {};
-    link = Append(file, &first, sizeof(first)) + offsetof(PrmEntry, next);
+    // Where the next entry's offset is to be written; the first entry has its place.
+    size_t link = Append(file, &first, sizeof(first)) + offsetof(PrmEntry, next);
     Append(file, &none, sizeof(none));
     for (const ListRow& list : kLists) {
         std::vector<uint32_t> items;

@@ -1,6 +1,6 @@
-// Fuzz target: any bytes at all as a parameter data file. Opens them (in memory, by the road that the module
-// takes), builds the device table, holds what came out against what its readers rely on, frees it and looks
-// for leftovers. Run by libFuzzer and, over a fixed set of inputs, by the regression test.
+// Fuzz target: any bytes at all as a parameter data file. Opens them (a file in memory), builds the device
+// table, holds what came out against what its readers rely on, frees it and looks for leftovers. Run by
+// libFuzzer and, over a fixed set of inputs, by the regression test.
 #include "paramdata/device_table.h"
 #include "paramdata/prm_file.h"
 #include "paramdata/text.h"

@@ -5,6 +5,7 @@
 #include "platform_control.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 
 namespace {
 
@@ -46,11 +47,24 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
     }
 }
 
-TEST(Frame, AttachGoesOnWithoutAModuleFileName) {
+TEST(Frame, NeverLoadsASiblingByBareNameOrFromACutPath) {
+    platform::RegisterLibrary(L"TELMAR_S.DLL");
     EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
     EXPECT_EQ(ResourceModule(), nullptr);
     EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
     EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE) << "there is nothing left to free";
+
+    // The path ends in the midst of a folder's name: its parent holds another TELMAR_S.DLL.
+    std::vector<wchar_t> module(400, L'a');
+    module[0] = module[100] = L'\\';
+    module.back() = 0;
+    std::vector<wchar_t> parentSibling(module.begin(), module.begin() + 101);
+    parentSibling.insert(parentSibling.end(), std::begin(L"TELMAR_S.DLL"), std::end(L"TELMAR_S.DLL"));
+    platform::RegisterLibrary(parentSibling.data());
+    platform::SetModuleFileName(module.data());
+    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
+    EXPECT_EQ(ResourceModule(), nullptr);
+    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
 }
 
 TEST(Frame, SiblingPathFitsOrIsRefused) {

@@ -78,7 +78,7 @@ TEST_F(TraysTest, SelectionValues) {
     } cases[] = {
         {"fcovertray", "FCOVER_tray1", 257}, {"FCoverTray", "BCover_Tray1", 77}, {"", "FCover_Tray1", 77},
         {"PIBackCover", "PIBTray2", 1002},   {"PIBackCover", "PIFTray2", 77},
-        {"FCover", "FCover_Tray1", 77}};
+        {"FCover", "FCover_Tray1", 77},      {"PIFrontCover", "", 77}};
     // clang-format on
     for (const auto& c : cases) {
         uint32_t value = 77;

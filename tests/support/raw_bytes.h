@@ -29,7 +29,7 @@ Number NumberAt(const void* record, size_t offset) {
     return number;
 }
 
-// The first few bytes that differ, by offset; empty when the block at `actual`, which is not null, is as
+// The first few bytes that differ, by offset; empty when the block at `actual` is as
 // expected.
 std::string Differences(const void* actual, const RawBytes& expected);
 

@@ -30,13 +30,14 @@ void SetResourceModule(HMODULE module) {
 
 bool SiblingPath(HINSTANCE instance, const wchar_t* fileName, wchar_t (&path)[kPathCapacity]) {
     memset(path, 0, sizeof(path));
-    wchar_t modulePath[kPathCapacity] = {};
-    GetModuleFileNameW(instance, modulePath, kPathCapacity);
-    size_t directory = TextLength(modulePath);
+    wchar_t modulePath[kPathCapacity];
+    size_t directory = GetModuleFileNameW(instance, modulePath, kPathCapacity);
+    if (directory >= kPathCapacity)
+        return false; // cut
     while (directory > 0 && modulePath[directory - 1] != L'\\' && modulePath[directory - 1] != L'/')
         --directory;
     const size_t nameLength = TextLength(fileName);
-    if (directory + nameLength >= kPathCapacity)
+    if (directory == 0 || directory + nameLength >= kPathCapacity)
         return false;
     memcpy(path, modulePath, directory * sizeof(wchar_t));
     memcpy(path + directory, fileName, nameLength * sizeof(wchar_t));

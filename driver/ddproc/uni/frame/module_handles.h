@@ -15,7 +15,8 @@ void SetResourceModule(HMODULE module);
 
 constexpr size_t kPathCapacity = 260;
 
-// Full path of a file that lies beside the module. False, and the path empty, when it would not fit.
+// Full path of a file that lies beside the module. False, and the path empty, when the module's own path is
+// not known in full or the file's would not fit: a bare name or a cut path could lead to another file.
 bool SiblingPath(HINSTANCE instance, const wchar_t* fileName, wchar_t (&path)[kPathCapacity]);
 
 #endif

@@ -5,18 +5,19 @@
 #include "paramdata/feature_lists.h"
 #include "paramdata/named_values.h"
 #include "paramdata/prm_readers.h"
+#include "paramdata/text.h"
 #include "paramdata/tray_rows.h"
 
 #include <windows.h>
 
 namespace {
 
-// The numeric block of an entry; zeros when the file lacks it.
 struct Range {
     uint16_t a;
     uint16_t b;
 };
 
+// Ranges A and B of an entry's numeric block; zeros when the file lacks it.
 Range ReadRange(const PrmFile& file, const char* entry) {
     PrmItems items;
     uint32_t values[3] = {};

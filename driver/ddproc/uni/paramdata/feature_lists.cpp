@@ -25,15 +25,9 @@ void FillHead(const PrmFile& file, const PrmItemHead& from, uint32_t value, Item
     to.icon = kItemIcon;
 }
 
-// Output, finishing and media attributes: TextItemRecord, CompactItemRecord, FinishingItemRecord.
-template <typename Record>
-void Fill(const Item& item, const PrmTextItem& from, Record& to) {
-    FillHead(item.file, from.head, from.value, to.head);
-    PrmReadDisplay(item.file, from.head.display, to.display);
-    CopyText(to.text, from.text);
-}
-
-void Fill(const Item& item, const PrmMediaItem& from, CompactItemRecord& to) {
+// Output, finishing and media attributes: an item with a text.
+template <typename FileRecord, typename Record>
+void Fill(const Item& item, const FileRecord& from, Record& to) {
     FillHead(item.file, from.head, from.value, to.head);
     PrmReadDisplay(item.file, from.head.display, to.display);
     CopyText(to.text, from.text);

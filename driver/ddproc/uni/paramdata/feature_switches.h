@@ -7,8 +7,8 @@
 
 struct FeatureSwitchRow {
     const char* name; // row of "FeatureSetting"
-    const char*
-        enablingValue; // the value that makes the switch 1; null: the switch holds the number of "TYPE%d"
+    // The value that makes the switch 1; null: the switch holds the number n of a value "TYPEn".
+    const char* enablingValue;
 };
 
 inline constexpr FeatureSwitchRow kFeatureSwitches[] = {

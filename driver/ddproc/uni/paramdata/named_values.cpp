@@ -8,8 +8,8 @@
 
 namespace {
 
-constexpr size_t kValueCapacity =
-    sizeof(PrmTableRow::value) + 1; // a full value has no terminator in the file
+// A value that fills its field has no terminator in the file.
+constexpr size_t kValueCapacity = sizeof(PrmTableRow::value) + 1;
 
 // Calls visit(row) for each row of the entry's table. A table that announces more rows than the file could
 // hold counts as missing.
@@ -59,9 +59,12 @@ uint32_t DecimalNumber(const char* text) {
 
 uint8_t PrintRateUnit(const char* value) {
     constexpr const char* kUnits[] = {"CPS", "LPM", "IPM"};
-    for (uint8_t i = 0; i < 3; ++i)
-        if (SameText(value, kUnits[i]))
-            return static_cast<uint8_t>(2 + i);
+    uint8_t number = 2;
+    for (const char* unit : kUnits) {
+        if (SameText(value, unit))
+            return number;
+        ++number;
+    }
     return 1;
 }
 
@@ -89,6 +92,7 @@ constexpr NamedValue kDeviceFacts[] = {
     {"MachineEncryption", [](DeviceTable& table, const char* value) { table.machineEncryption = SameText(value, "AES") ? 1 : 2; }},
 };
 
+// A row can only set it: one of another value does not take it back.
 constexpr NamedValue kFigureType[] = {
     {"FigureType",        [](DeviceTable& table, const char* value) { table.figureType |= SameText(value, "MFP") ? 1 : 0; }},
 };

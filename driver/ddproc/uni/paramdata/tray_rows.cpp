@@ -3,6 +3,7 @@
 
 #include "paramdata/device_table.h"
 #include "paramdata/prm_readers.h"
+#include "paramdata/text.h"
 
 namespace {
 
