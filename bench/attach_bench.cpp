@@ -1,48 +1,47 @@
-// Work per process attach: the shipped model's file opened, built into a device table and freed, against the
-// least that any reader does (open, read into memory, close); and the same for files of ever more items.
-#include "paramdata/device_table.h"
-#include "paramdata/prm_file.h"
+// Work per process attach and detach: the device data built from the shipped model's file and released,
+// against the least that any reader does (open, read into memory, close); and the same for files of ever more
+// items.
+#include "paramdata/device_data.h"
+#include "platform_control.h"
 #include "synthetic_file.h"
 
 #include <benchmark/benchmark.h>
-#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
-bool BuildAndFree(const char* path) {
-    PrmFile* file = PrmOpen(path, 0);
-    if (file == nullptr)
-        return false;
-    DeviceTable* table = BuildDeviceTable(*file);
-    PrmClose(file);
-    benchmark::DoNotOptimize(table);
-    FreeDeviceTable(table);
-    return true;
-}
-
-void Measure(benchmark::State& state, const char* path) {
-    for ([[maybe_unused]] auto _ : state)
-        if (!BuildAndFree(path)) {
-            state.SkipWithError("the file can't be opened");
+// The device data as process attach and detach build and release it, from the file in this folder.
+void Measure(benchmark::State& state, const std::string& folder) {
+    const std::string name = folder + "/TELMAR_D.DLL";
+    std::vector<wchar_t> module(name.begin(), name.end());
+    module.push_back(0);
+    platform::SetModuleFileName(module.data());
+    for ([[maybe_unused]] auto _ : state) {
+        InitDeviceData(nullptr);
+        if (mediaTypeLists == nullptr) {
+            state.SkipWithError("TELMAR_D.PRM can't be read");
             break;
         }
+        FreeDeviceData();
+    }
 }
 
 void Attach(benchmark::State& state) {
-    Measure(state, MODEL_FILE);
+    Measure(state, BIN_FOLDER);
 }
 BENCHMARK(Attach);
 
 void ReadOnly(benchmark::State& state) {
     for ([[maybe_unused]] auto _ : state) {
-        const int file = open(MODEL_FILE, O_RDONLY | O_CLOEXEC);
+        const int file = open(BIN_FOLDER "/TELMAR_D.PRM", O_RDONLY | O_CLOEXEC);
         struct stat status = {};
         if (file < 0 || fstat(file, &status) != 0) {
             state.SkipWithError("the file can't be opened");
@@ -61,14 +60,15 @@ BENCHMARK(ReadOnly);
 void Growth(benchmark::State& state) {
     const auto items = static_cast<size_t>(state.range(0));
     const std::vector<uint8_t> bytes = SyntheticFile(items);
-    std::string path = std::filesystem::temp_directory_path() / "lumora_bench_XXXXXX";
-    const int file = mkstemp(path.data());
-    if (file < 0 || write(file, bytes.data(), bytes.size()) != static_cast<ssize_t>(bytes.size()))
-        state.SkipWithError("no temporary file");
-    else
-        Measure(state, path.c_str());
-    close(file);
-    remove(path.c_str());
+    std::string folder = std::filesystem::temp_directory_path() / "lumora_bench_XXXXXX";
+    if (mkdtemp(folder.data()) == nullptr) {
+        state.SkipWithError("no temporary folder");
+        return;
+    }
+    std::ofstream(folder + "/TELMAR_D.PRM", std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    Measure(state, folder);
+    std::filesystem::remove_all(folder);
     state.SetItemsProcessed(state.iterations() * static_cast<int64_t>(items * SyntheticListCount()));
 }
 BENCHMARK(Growth)->RangeMultiplier(2)->Range(64, 512);

@@ -27,7 +27,7 @@ constexpr FeatureSettings kSettings[5] = {};
 
 // The model's device table, built once for a benchmark.
 struct Model {
-    Model() : file(PrmOpen(MODEL_FILE, 0)), table(BuildDeviceTable(*file)) {}
+    Model() : file(PrmOpen(BIN_FOLDER "/TELMAR_D.PRM", 0)), table(BuildDeviceTable(*file)) {}
     ~Model() {
         FreeDeviceTable(table);
         PrmClose(file);

@@ -111,4 +111,34 @@ TEST(LoadingOften, LeavesNoHeapBlockAndNoHandle) {
     EXPECT_EQ(after.handles, before.handles);
 }
 
+// Missing, empty, cut within the chain of entries, complete.
+TEST(ParameterFile, IsClosedAfterAttachAndLeavesNothingWhateverItHolds) {
+    constexpr wchar_t kParameterFile[] = L"TELMAR_D.PRM";
+    const uintmax_t complete = fs::file_size(ProductFolder() / kParameterFile);
+    constexpr uintmax_t kMissing = UINTMAX_MAX;
+    for (const uintmax_t size : {kMissing, uintmax_t{0}, uintmax_t{100}, complete / 2, complete}) {
+        const TemporaryFolder folder(L"lumora_parameters");
+        folder.Add(L"TELMAR_D.DLL", L"TELMAR_D.DLL");
+        const bool missing = size == kMissing;
+        const fs::path file = missing ? fs::path() : folder.Add(kParameterFile, kParameterFile);
+        if (!missing)
+            fs::resize_file(file, size);
+        { const LoadedModule first(folder.path); }
+        const Holdings before = CountHoldings();
+        for (int i = 0; i < 10; ++i) {
+            const LoadedModule module(folder.path);
+            EXPECT_NE(module.handle, nullptr);
+            if (missing)
+                continue;
+            HANDLE alone = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                       FILE_ATTRIBUTE_NORMAL, nullptr);
+            EXPECT_NE(alone, INVALID_HANDLE_VALUE) << "the module holds its file of " << size << " bytes";
+            CloseHandle(alone);
+        }
+        const Holdings after = CountHoldings();
+        EXPECT_EQ(after.heapBlocks, before.heapBlocks) << size;
+        EXPECT_EQ(after.handles, before.handles) << size;
+    }
+}
+
 } // namespace

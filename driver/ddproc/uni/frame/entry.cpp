@@ -2,6 +2,7 @@
 #include "frame/entry.h"
 
 #include "frame/module_handles.h"
+#include "paramdata/device_data.h"
 
 namespace {
 
@@ -20,10 +21,12 @@ void FreeResourceModule() {
 void Attach(HINSTANCE instance) {
     SetModuleInstance(instance);
     LoadResourceModule();
+    InitDeviceData(instance);
 }
 
 void Detach() {
     FreeResourceModule();
+    FreeDeviceData();
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 // record, one table that says which list is built from what.
 #include "paramdata/feature_lists.h"
 
-#include "paramdata/prm_readers.h"
 #include "paramdata/text.h"
 
 #include <cstring>
@@ -50,15 +49,13 @@ void Fill(const Item& item, const PrmMediaItem& from, CollateRecord& to) {
 }
 
 void Fill(const Item& item, const PrmResolution& from, ResolutionRecord& to) {
-    constexpr size_t kNumberAt = 5; // behind the key's word
     PrmText key = {};
     PrmReadString(item.file, from.head.key, key);
     FillHead(item.file, from.head, item.position, to.head);
     PrmReadDisplay(item.file, from.head.display, to.display);
     for (size_t i = 0; i < 3; ++i)
         to.values[i] = static_cast<uint16_t>(from.values[i]);
-    if (TextLength(key) > kNumberAt)
-        to.number = static_cast<uint16_t>(PrmParseFirstNumber(key + kNumberAt));
+    to.number = ResolutionNumber(key);
 }
 
 void Fill(const Item& item, const PrmTabPaper& from, TabPaperRecord& to) {
@@ -227,6 +224,12 @@ void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* featu
         list.field += i * sizeof(void*);
         BuildList(file, *table, list);
     }
+}
+
+uint16_t ResolutionNumber(const PrmText& key) {
+    constexpr size_t kNumberAt = 5;
+    return TextLength(key) > kNumberAt ? static_cast<uint16_t>(PrmParseFirstNumber(key + kNumberAt))
+                                       : uint16_t{0};
 }
 
 void FreeLists(DeviceTable& table) {

@@ -4,6 +4,7 @@
 #define PARAMDATA_FEATURE_LISTS_H
 
 #include "paramdata/device_table.h"
+#include "paramdata/prm_readers.h"
 
 // The stages of building; each builds its lists in the order of the table in feature_lists.cpp.
 enum class ListStage {
@@ -19,6 +20,9 @@ void BuildLists(PrmFile& file, DeviceTable& table, ListStage stage);
 // 2 "BCoverTray", 4 "SeparatePageTray", 8 "OHPIntTray", 16 "PIFrontCover", 32 "PIBackCover",
 // 64 "PerPageListPaperSrc". Any other bit builds nothing, a null table neither.
 void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* feature, uint32_t featureBit);
+
+// The number in a resolution's key behind its fifth character; 0 for a shorter key.
+uint16_t ResolutionNumber(const PrmText& key);
 
 // Releases every list of the table, the tray rows included.
 void FreeLists(DeviceTable& table);

@@ -78,6 +78,7 @@ struct PrmMediaItem {
 static_assert(sizeof(PrmMediaItem) == 156 && offsetof(PrmMediaItem, value) == 12
               && offsetof(PrmMediaItem, extra) == 24 && offsetof(PrmMediaItem, text) == 28);
 
+// Tab paper; of the single options only the default's value is read.
 struct PrmTabPaper {
     PrmItemHead head;
     uint32_t value;
@@ -147,6 +148,27 @@ static_assert(sizeof(PrmPaper) == 620 && offsetof(PrmPaper, value) == 16 && offs
               && offsetof(PrmPaper, secondDisplay) == 308 && offsetof(PrmPaper, text) == 312
               && offsetof(PrmPaper, values) == 440 && offsetof(PrmPaper, shortName) == 448
               && offsetof(PrmPaper, longValues) == 480 && offsetof(PrmPaper, longText) == 492);
+
+struct PrmWatermark {
+    PrmItemHead head;
+    uint8_t unread1[8];
+    uint32_t name; // offset of a UTF-16 text, as the other two
+    uint8_t unread2[8];
+    uint32_t text;
+    uint8_t unread3[8];
+    uint32_t font;
+    uint32_t values1[2];
+    uint32_t color; // 0x00BBGGRR
+    uint32_t value2;
+    uint8_t block[8];
+    uint32_t value3;
+    uint8_t unread4[4];
+};
+static_assert(sizeof(PrmWatermark) == 80 && offsetof(PrmWatermark, name) == 20
+              && offsetof(PrmWatermark, text) == 32 && offsetof(PrmWatermark, font) == 44
+              && offsetof(PrmWatermark, values1) == 48 && offsetof(PrmWatermark, color) == 56
+              && offsetof(PrmWatermark, value2) == 60 && offsetof(PrmWatermark, block) == 64
+              && offsetof(PrmWatermark, value3) == 72);
 
 // Name/value tables: the entry's item offset array has one element, which leads to the header, the rows
 // follow one another.

@@ -78,8 +78,9 @@ bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items);
 // Offset of the item at this position; 0 beyond the end of the file.
 uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t position);
 
-// Calls visit(head, key) for each plain item along the item chain, which may lead anywhere in the file,
-// backwards too: only the number of steps is bounded, by the item count and by what the file could hold.
+// Calls visit(head, key) for each plain item along the item chain until it returns false. The chain may lead
+// anywhere in the file, backwards too: only the number of steps is bounded, by the item count and by what the
+// file could hold.
 template <typename Visit>
 void PrmForEachInChain(const PrmFile& file, const PrmItems& items, Visit visit) {
     const uint32_t mostSteps = file.size / sizeof(PrmItemDescriptor);
@@ -89,7 +90,8 @@ void PrmForEachInChain(const PrmFile& file, const PrmItems& items, Visit visit) 
         PrmReadRecord16(file, offset, item);
         PrmText key = {};
         PrmReadString(file, item.head.key, key);
-        visit(item.head, key);
+        if (!visit(item.head, key))
+            return;
         offset = item.next;
     }
 }

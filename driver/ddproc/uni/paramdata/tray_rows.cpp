@@ -51,7 +51,8 @@ void BuildTrayRows(PrmFile& file, DeviceTable& table) {
                 continue;
             CopyText(row->head.key, key);
             PrmReadDisplay(file, item.display, row->display);
-            return;
+            break;
         }
+        return true;
     });
 }

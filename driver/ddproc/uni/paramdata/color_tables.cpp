@@ -1,0 +1,265 @@
+// Colour item tables: what is compiled in, and how the file replaces it.
+#include "paramdata/color_tables.h"
+
+#include "paramdata/prm_readers.h"
+#include "paramdata/text.h"
+
+#include <cstring>
+#include <windows.h>
+
+namespace {
+
+enum Column { kText, kImage, kGraphics };
+
+// A value and the keys that stand for it, by kind of object. A value table ends at the value -1.
+struct ValueRow {
+    int32_t value;
+    char keys[3][32];
+};
+
+// clang-format off
+#define KEYS(name) {"Text_" name, "Img_" name, "Graph_" name}
+constexpr ValueRow kProfileValues[] = {
+    {0,   KEYS("DeviceRGB")},
+    {1,   KEYS("sRGB")},
+    {128, KEYS("AdobeRGB1998")},
+    {129, KEYS("AppleRGB")},
+    {130, KEYS("CIERGB")},
+    {131, KEYS("ColorMatchRGB")},
+    {132, KEYS("NTSC1953")},
+    {133, KEYS("PAL")},
+    {134, KEYS("SMPTE_C")},
+    {135, KEYS("sRGB_MS")},
+    {136, KEYS("WideGamutRGB")},
+    {137, KEYS("SMPTE_240M")},
+    {138, KEYS("EFIRGB")},
+    {139, KEYS("sRGB_Standard")},
+    {140, KEYS("ProPhotoRGB")},
+    {141, KEYS("BlueAdjust")},
+    {-1,  {}},
+};
+constexpr ValueRow kColorMatchValues[] = {
+    {0,   KEYS("Vivid")},
+    {1,   KEYS("Photographic")},
+    {2,   KEYS("Proof")},
+    {3,   KEYS("Match")},
+    {-1,  {}},
+};
+constexpr ValueRow kGrayValues[] = {
+    {0,   KEYS("4Color")},
+    {1,   KEYS("BandG")},
+    {2,   KEYS("BlackOnly")},
+    {-1,  {}},
+};
+// The files spell the first text key with one letter less.
+constexpr ValueRow kHalftoneValues[] = {
+    {0,   {"Text_UltraDetai", "Img_UltraDetail", "Graph_UltraDetail"}},
+    {1,   KEYS("Detail")},
+    {2,   KEYS("Smooth")},
+    {3,   {"", "", "Graph_HalftoneText"}},
+    {4,   {"", "", "Graph_HalftoneImage"}},
+    {-1,  {}},
+};
+#undef KEYS
+// clang-format on
+
+constexpr ItemRecord Item(const char* key, uint32_t value, const wchar_t* display = L"") {
+    ItemRecord item = {};
+    item.head.size = sizeof(ItemRecord);
+    CopyText(item.head.key, key);
+    item.head.value = value;
+    item.head.icon = kItemIcon;
+    CopyText(item.display, display);
+    return item;
+}
+
+// The table's first items, one for each row of the value table.
+template <size_t Items>
+constexpr ItemTable<Items> FromValues(const ValueRow* values, Column column) {
+    ItemTable<Items> table = {};
+    for (size_t i = 0; i < Items; ++i)
+        table.items[i] = Item(values[i].keys[column], static_cast<uint32_t>(values[i].value));
+    return table;
+}
+
+constexpr ObjectColorTables<3> CompiledIn(Column column, const char* destination) {
+    return {FromValues<2>(kProfileValues, column),    FromValues<16>(kProfileValues, column),
+            FromValues<4>(kColorMatchValues, column), FromValues<3>(kGrayValues, column),
+            FromValues<3>(kHalftoneValues, column),   {{Item(destination, 0)}}};
+}
+
+constexpr ObjectColorTables<5> CompiledInGraphics() {
+    return {FromValues<2>(kProfileValues, kGraphics),
+            FromValues<16>(kProfileValues, kGraphics),
+            FromValues<4>(kColorMatchValues, kGraphics),
+            FromValues<3>(kGrayValues, kGraphics),
+            {{Item("Graph_HalftoneText", 3, L"Same as Text Setting"),
+              Item("Graph_HalftoneImage", 4, L"Same as Image Setting"),
+              Item("Graph_UltraDetail", 0, L"UltraDetail"), Item("Graph_Detail", 1, L"Detail"),
+              Item("Graph_Smooth", 2, L"Smooth")}},
+            {{Item("Graph_DestAuto", 0)}}};
+}
+
+constexpr ColorTables kCompiledIn = {
+    {{Item("DeviceRGB", 0), Item("sRGB", 1)}},
+    CompiledIn(kText, "Text_DestAuto"),
+    CompiledIn(kImage, "Img_DestAuto"),
+    CompiledInGraphics(),
+    {{Item("Simu_None", 0), Item("Simu_SWOP", 1), Item("Simu_Euroscale", 2), Item("Simu_CommercialPress", 3),
+      Item("Simu_TOYO", 4), Item("Simu_DIC", 5)}},
+    {{Item("Dest_Auto", 0)}},
+    {{Item("Simu_4Color", 0), Item("Simu_BandG", 1), Item("Simu_BlackOnly", 2)}},
+};
+
+} // namespace
+
+ColorTables colorTables = kCompiledIn;
+
+namespace {
+
+struct TableDescription {
+    const char* entry;
+    ItemRecord* items;
+    uint32_t capacity;      // items, without the end record
+    ItemRecord* shortItems; // a second table that takes the first two items; null: none
+    const ValueRow* values; // null: an item's value is its position
+    Column column;
+    uint32_t destinationsOf; // kind of object whose destination list this is; 0: no destination list
+};
+constexpr uint32_t kShortCapacity = 2;
+
+template <size_t Items>
+constexpr TableDescription Table(const char* entry, ItemTable<Items>& table, const ValueRow* values = nullptr,
+                                 Column column = kText, ItemTable<kShortCapacity>* shortTable = nullptr) {
+    return {entry,  table.items, Items, shortTable != nullptr ? shortTable->items : nullptr,
+            values, column,      0};
+}
+
+constexpr TableDescription Destinations(const char* entry, ItemTable<1>& table, uint32_t kind) {
+    return {entry, table.items, 1, nullptr, nullptr, kText, kind};
+}
+
+// In the order of filling.
+// clang-format off
+constexpr TableDescription kTables[] = {
+    Table("RGBProf",             colorTables.rgbProfiles),
+    Table("Text_RGBProf",        colorTables.text.rgbProfiles,      kProfileValues,    kText,     &colorTables.text.shortRgbProfiles),
+    Table("Text_RGBColorMatch",  colorTables.text.colorMatches,     kColorMatchValues, kText),
+    Table("Text_RGBGray",        colorTables.text.grays,            kGrayValues,       kText),
+    Table("Text_Halftone",       colorTables.text.halftones,        kHalftoneValues,   kText),
+    Table("Img_RGBProf",         colorTables.image.rgbProfiles,     kProfileValues,    kImage,    &colorTables.image.shortRgbProfiles),
+    Table("Img_RGBColorMatch",   colorTables.image.colorMatches,    kColorMatchValues, kImage),
+    Table("Img_RGBGray",         colorTables.image.grays,           kGrayValues,       kImage),
+    Table("Img_Halftone",        colorTables.image.halftones,       kHalftoneValues,   kImage),
+    Table("Graph_RGBProf",       colorTables.graphics.rgbProfiles,  kProfileValues,    kGraphics, &colorTables.graphics.shortRgbProfiles),
+    Table("Graph_RGBColorMatch", colorTables.graphics.colorMatches, kColorMatchValues, kGraphics),
+    Table("Graph_RGBGray",       colorTables.graphics.grays,        kGrayValues,       kGraphics),
+    Table("Graph_Halftone",      colorTables.graphics.halftones,    kHalftoneValues,   kGraphics),
+    Table("SimulationProf",      colorTables.simulations),
+    Table("DestinationProf",     colorTables.destinations),
+    Table("Simu_CMYKGray",       colorTables.simulationGrays),
+    Destinations("Text_Destination",  colorTables.text.destinations,     kTextObjects),
+    Destinations("Img_Destination",   colorTables.image.destinations,    kImageObjects),
+    Destinations("Graph_Destination", colorTables.graphics.destinations, kGraphicsObjects),
+};
+// clang-format on
+
+const ItemRecord* FindItem(const ItemRecord* items, const char* key) {
+    for (; items->head.key[0] != 0; ++items)
+        if (SameText(items->head.key, key))
+            return items;
+    return nullptr;
+}
+
+// The value of the first row with this key; 0 without one. An empty key names no row, though some rows have
+// empty keys.
+uint32_t ValueOf(const ValueRow* values, Column column, const char (&key)[32]) {
+    for (; key[0] != 0 && values->value != -1; ++values)
+        if (SameText(values->keys[column], key))
+            return static_cast<uint32_t>(values->value);
+    return 0;
+}
+
+void Clear(const TableDescription& table) {
+    memset(table.items, 0, (table.capacity + 1) * sizeof(ItemRecord));
+    if (table.shortItems != nullptr)
+        memset(table.shortItems, 0, (kShortCapacity + 1) * sizeof(ItemRecord));
+}
+
+// The descriptor of the item at this position.
+PrmItemHead ReadHead(const PrmFile& file, const PrmItems& items, uint32_t position) {
+    PrmItemDescriptor descriptor = {};
+    PrmReadRecord16(file, PrmItemOffset(file, items, position), descriptor);
+    return descriptor.head;
+}
+
+void Fill(const PrmFile& file, const PrmItems& items, const TableDescription& table) {
+    Clear(table);
+    for (uint32_t i = 0; i < items.count && i < table.capacity; ++i) {
+        const PrmItemHead head = ReadHead(file, items, i);
+        ItemRecord& item = table.items[i];
+        item = Item("", i);
+        PrmReadKey(file, head.key, item.head.key);
+        PrmReadDisplay(file, head.display, item.display);
+        if (table.values != nullptr)
+            item.head.value = ValueOf(table.values, table.column, item.head.key);
+        if (table.shortItems != nullptr && i < kShortCapacity)
+            table.shortItems[i] = item;
+    }
+}
+
+// Takes the file's items as far as the table knows their keys; the first unknown one ends the list.
+bool RebuildDestinations(const PrmFile& file, const TableDescription& table) {
+    const size_t size = (table.capacity + 1) * sizeof(ItemRecord);
+    auto* known = static_cast<ItemRecord*>(GlobalAlloc(GPTR, size));
+    if (known == nullptr)
+        return false;
+    memcpy(known, table.items, size);
+    PrmItems items = {};
+    const bool found = PrmFindItems(file, table.entry, items);
+    if (found)
+        Clear(table);
+    for (uint32_t i = 0; found && i < items.count && i < table.capacity; ++i) {
+        const PrmItemHead head = ReadHead(file, items, i);
+        PrmText key = {};
+        PrmReadString(file, head.key, key);
+        const ItemRecord* item = FindItem(known, key);
+        if (item == nullptr)
+            continue;
+        table.items[i] = Item(item->head.key, item->head.value);
+        if (head.display != 0)
+            PrmReadDisplay(file, head.display, table.items[i].display);
+        else
+            CopyText(table.items[i].display, item->display);
+    }
+    GlobalFree(known);
+    return found;
+}
+
+} // namespace
+
+const ItemRecord* FindColorItem(const char* entry, const char* key) {
+    for (const TableDescription& table : kTables)
+        if (SameText(table.entry, entry))
+            return FindItem(table.items, key);
+    return nullptr;
+}
+
+void FillColorTables(const PrmFile& file) {
+    for (const TableDescription& table : kTables) {
+        if (table.destinationsOf != 0)
+            continue;
+        PrmItems items;
+        if (PrmFindItems(file, table.entry, items))
+            Fill(file, items, table);
+        else if (table.items == colorTables.graphics.rgbProfiles.items)
+            Clear(table);
+    }
+}
+
+bool BuildDestinationList(const PrmFile& file, uint32_t kind) {
+    for (const TableDescription& table : kTables)
+        if (kind != 0 && table.destinationsOf == kind)
+            return RebuildDestinations(file, table);
+    return false;
+}

@@ -1,0 +1,32 @@
+// The control text tables of the model's dialogs: which texts the parameter data file gives to which
+// controls. The dialogs hand them to the user-interface module, which reads this layout.
+#ifndef PARAMDATA_CONTROL_TEXTS_H
+#define PARAMDATA_CONTROL_TEXTS_H
+
+#include <cstddef>
+#include <cstdint>
+
+struct PrmFile;
+
+#pragma pack(push, 1)
+// One row; a table ends at the first empty key.
+struct ControlTextRecord {
+    int32_t
+        identifiers[5]; // a dialog's templates, or a control and four times 0; -1: a list-view column's title
+    wchar_t display[48]; // empty until the file fills it
+    char key[32];
+};
+static_assert(sizeof(ControlTextRecord) == 148 && offsetof(ControlTextRecord, display) == 20
+              && offsetof(ControlTextRecord, key) == 116);
+#pragma pack(pop)
+
+// Each is filled from the entry of its name: "Property_0", "Dlg_ColorSetting", "Dlg_PaperSourceTraySetting".
+extern ControlTextRecord propertyTexts[17];
+extern ControlTextRecord colorDialogTexts[31];
+extern ControlTextRecord trayDialogTexts[16];
+
+// Fills the display texts of a table from the file's entry. Keys that no row has are skipped, empty texts
+// change nothing. False, and the table as it was, when the file lacks the entry.
+bool ApplyControlTexts(const PrmFile& file, const char* entry, ControlTextRecord* table);
+
+#endif

@@ -1,0 +1,445 @@
+// Default settings: the compiled-in record, and the steps that take the file's defaults, in their order.
+#include "paramdata/default_settings.h"
+
+#include "paramdata/color_tables.h"
+#include "paramdata/feature_lists.h"
+#include "paramdata/font_table.h"
+#include "paramdata/prm_readers.h"
+#include "paramdata/text.h"
+
+#include <cstring>
+
+namespace {
+
+constexpr uint16_t kSameAsPaper = 357; // output paper
+
+constexpr OemDevmode CompiledIn() {
+    OemDevmode settings = {};
+    settings.paper = 9; // A4
+    settings.paperWidth = settings.outputWidth = 2100;
+    settings.paperLength = settings.outputLength = 2970;
+    for (uint16_t& margin : settings.paperMargins)
+        margin = 43;
+    settings.outputPaper = kSameAsPaper;
+    settings.inputTray = 7; // automatic
+    settings.mediaType = settings.detailMediaType = 257;
+    settings.copies = 1;
+    settings.graphicsFollow = 1;
+    FillFontTable(settings);
+    return settings;
+}
+constexpr OemDevmode kCompiledIn = CompiledIn();
+
+// A field of the settings; size 0: none.
+struct Field {
+    uint16_t offset;
+    uint16_t size;
+};
+#define FIELD(name)                                                                                          \
+    { offsetof(OemDevmode, name), sizeof(OemDevmode::name) }
+
+// Writes the low octets of the value.
+void Store(OemDevmode& settings, Field field, uint32_t value) {
+    memcpy(reinterpret_cast<uint8_t*>(&settings) + field.offset, &value, field.size);
+}
+
+// The default record of an entry. False when the entry is missing or has none.
+template <typename Record>
+bool ReadDefault(const PrmFile& file, const char* entry, Record& record) {
+    PrmItems items;
+    if (!PrmFindItems(file, entry, items) || items.defaultRecord == 0)
+        return false;
+    record = {};
+    PrmReadBlock(file, items.defaultRecord, sizeof(record), &record);
+    return true;
+}
+
+// The key of an entry's default item. An empty key names nothing.
+using DefaultKey = char[128];
+bool ReadDefaultKey(const PrmFile& file, const char* entry, DefaultKey& key) {
+    return PrmReadStringValue(file, entry, key, sizeof(key)) && key[0] != 0;
+}
+
+// --- Default records
+// ------------------------------------------------------------------------------------------------
+
+void ApplyPaper(const PrmFile& file, OemDevmode& settings) {
+    PrmPaper paper;
+    if (!ReadDefault(file, "PaperSize", paper))
+        return;
+    settings.paper = static_cast<uint16_t>(paper.value);
+    settings.paperWidth = static_cast<int16_t>(paper.width);
+    settings.paperLength = static_cast<int16_t>(paper.length);
+    for (size_t i = 0; i < 4; ++i)
+        settings.paperMargins[i] = static_cast<uint16_t>(paper.set3[i]);
+}
+
+void ApplyOutputPaper(const PrmFile& file, OemDevmode& settings) {
+    PrmOutputPaper paper;
+    if (!ReadDefault(file, "OutPaperSize", paper))
+        return;
+    settings.outputPaper = static_cast<uint16_t>(paper.value);
+    const bool samePaper = paper.value == kSameAsPaper;
+    settings.outputWidth = samePaper ? settings.paperWidth : static_cast<int16_t>(paper.width);
+    settings.outputLength = samePaper ? settings.paperLength : static_cast<int16_t>(paper.length);
+}
+
+// Entries whose default is the value of their default record, which lies in the same place in all their
+// kinds.
+static_assert(offsetof(PrmTextItem, value) == offsetof(PrmMediaItem, value)
+              && offsetof(PrmTextItem, value) == offsetof(PrmTabPaper, value));
+constexpr struct {
+    const char* entry;
+    Field field;
+} kRecordDefaults[] = {
+    // clang-format off
+    {"MediaType",       FIELD(mediaType)},
+    {"MediaType",       FIELD(detailMediaType)},
+    {"MediaWeight",     FIELD(mediaWeight)},
+    {"MediaColor",      FIELD(mediaColor)},
+    {"MediaPrePunched", FIELD(mediaPrePunched)},
+    {"InTray",          FIELD(inputTray)},
+    {"Collate",         FIELD(collate)},
+    {"PaperOption1",    FIELD(paperOption1)},
+    {"PaperOption2",    FIELD(paperOption2)},
+    {"Staple",          FIELD(staple)},
+    {"HolePunch",       FIELD(holePunch)},
+    {"Folding",         FIELD(folding)},
+    {"Combination",     FIELD(combination)},
+    {"OutputTray",      FIELD(outputTray)},
+    {"OutputOrder",     FIELD(outputOrder)},
+    // clang-format on
+};
+
+void ApplyRecordDefaults(const PrmFile& file, OemDevmode& settings) {
+    for (const auto& row : kRecordDefaults) {
+        PrmTabPaper record; // the shortest of the kinds that hold the value
+        if (ReadDefault(file, row.entry, record))
+            Store(settings, row.field, record.value);
+    }
+}
+
+// --- Ranges
+// ---------------------------------------------------------------------------------------------------------
+
+// A metric value times k / 254, rounded; with k 100 or 1000 tenths of a millimetre become hundredths or
+// thousandths of an inch.
+int32_t Inches(int16_t metric, int32_t k) {
+    return (metric * k + 127) / 254;
+}
+
+constexpr struct {
+    const char* entry;
+    int32_t unit;    // of the file's value, in the field's unit
+    Field metric[2]; // the same value in both
+    Field inches[2];
+    bool byFigureType; // inches are thousandths for figure type 1, else hundredths; otherwise thousandths
+} kRangeDefaults[] = {
+    // clang-format off
+    {"Copies",             1,  {FIELD(copies)},                                    {},                                                          false},
+    {"UserPaper_Width",    1,  {FIELD(userPaperWidth),  FIELD(userOutputWidth)},   {FIELD(userPaperWidthInches),  FIELD(userOutputWidthInches)},  true},
+    {"UserPaper_Length",   1,  {FIELD(userPaperLength), FIELD(userOutputLength)},  {FIELD(userPaperLengthInches), FIELD(userOutputLengthInches)}, true},
+    {"BindShift_Front",    1,  {FIELD(bindShiftFront)},                            {FIELD(bindShiftFrontInches)},                              false},
+    {"BindShift_Back",     1,  {FIELD(bindShiftBack)},                             {FIELD(bindShiftBackInches)},                               false},
+    {"ImgShiftMFP_FrontH", 10, {FIELD(imageShiftFrontH)},                          {FIELD(imageShiftFrontHInches)},                            false},
+    {"ImgShiftMFP_FrontV", 10, {FIELD(imageShiftFrontV)},                          {FIELD(imageShiftFrontVInches)},                            false},
+    {"ImgShiftMFP_BackH",  10, {FIELD(imageShiftBackH)},                           {FIELD(imageShiftBackHInches)},                             false},
+    {"ImgShiftMFP_BackV",  10, {FIELD(imageShiftBackV)},                           {FIELD(imageShiftBackVInches)},                             false},
+    {"DivideFinish",       1,  {FIELD(divideFinish)},                              {},                                                          false},
+    // clang-format on
+};
+
+void ApplyRangeDefaults(const PrmFile& file, const DeviceTable& table, OemDevmode& settings) {
+    for (const auto& row : kRangeDefaults) {
+        PrmItems items;
+        uint32_t values[3] = {};
+        if (!PrmFindItems(file, row.entry, items)
+            || !PrmReadRange(file, items.entry + uint64_t{sizeof(PrmEntry) + sizeof(PrmEntryInfo)}, values))
+            continue;
+        const auto metric = static_cast<int16_t>(static_cast<int16_t>(values[2]) * row.unit);
+        const int32_t inches = Inches(metric, row.byFigureType && table.figureType != 1 ? 100 : 1000);
+        for (const Field& field : row.metric)
+            Store(settings, field, static_cast<uint32_t>(metric));
+        for (const Field& field : row.inches)
+            Store(settings, field, static_cast<uint32_t>(inches));
+    }
+}
+
+// --- Trays and locations
+// --------------------------------------------------------------------------------------------
+
+constexpr struct {
+    const char* entry;
+    Field field;
+} kTraySelectionDefaults[] = {
+    // clang-format off
+    {"FCoverTray",   FIELD(frontCoverTray)},
+    {"BCoverTray",   FIELD(backCoverTray)},
+    {"PIFrontCover", FIELD(inserterFrontTray)},
+    {"PIBackCover",  FIELD(inserterBackTray)},
+    {"OHPIntTray",   FIELD(interleaveTray)},
+    // clang-format on
+};
+
+void ApplyTraySelections(const PrmFile& file, OemDevmode& settings) {
+    for (const auto& row : kTraySelectionDefaults) {
+        DefaultKey key;
+        uint32_t bin = 0;
+        if (ReadDefaultKey(file, row.entry, key) && TraySelectionValue(row.entry, key, bin))
+            Store(settings, row.field, bin);
+    }
+}
+
+// The list's item that is the entry's default; null when there is none.
+const TextItemRecord* FindDefaultLocation(const PrmFile& file, const char* entry,
+                                          const TextItemRecord* list) {
+    DefaultKey key;
+    if (list == nullptr || !ReadDefaultKey(file, entry, key))
+        return nullptr;
+    for (; list->head.key[0] != 0; ++list)
+        if (SameText(list->head.key, key))
+            return list;
+    return nullptr;
+}
+
+// --- Watermark and resolution
+// ---------------------------------------------------------------------------------------
+
+template <size_t Capacity>
+void CopyDisplay(const PrmFile& file, uint32_t offset, wchar_t (&to)[Capacity]) {
+    to[0] = 0;
+    PrmReadDisplay(file, offset, to);
+}
+
+void StoreWatermark(const PrmFile& file, const DeviceTable& table, const PrmWatermark& from,
+                    OemDevmode& settings) {
+    constexpr uint32_t kGray = 0x808080;
+    CopyDisplay(file, from.name, settings.watermarkName);
+    CopyDisplay(file, from.text, settings.watermarkText);
+    CopyDisplay(file, from.font, settings.watermarkFont);
+    settings.watermarkValues1[0] = static_cast<uint16_t>(from.values1[0]);
+    settings.watermarkValues1[1] = static_cast<uint16_t>(from.values1[1]);
+    settings.watermarkColor = table.colorDevice != 0 ? from.color : kGray;
+    settings.watermarkValue2 = static_cast<uint16_t>(from.value2);
+    memcpy(settings.watermarkBlock, from.block, sizeof(settings.watermarkBlock));
+    settings.watermarkValue3 = static_cast<uint16_t>(from.value3);
+}
+
+// Calls found(record, key, position) for each item with the key of the entry's default record until it
+// returns false.
+template <typename Record, typename Found>
+void ForEachDefaultItem(const PrmFile& file, const char* entry, Found found) {
+    PrmItems items;
+    Record record;
+    if (!ReadDefault(file, entry, record) || !PrmFindItems(file, entry, items))
+        return;
+    PrmText defaultKey = {};
+    PrmReadString(file, record.head.key, defaultKey);
+    for (uint32_t i = 0; i < items.count; ++i) {
+        record = {};
+        PrmReadRecord(file, PrmItemOffset(file, items, i), record);
+        PrmText key = {};
+        PrmReadString(file, record.head.key, key);
+        if (defaultKey[0] != 0 && SameText(key, defaultKey) && !found(record, key, i))
+            return;
+    }
+}
+
+void ApplyWatermark(const PrmFile& file, const DeviceTable& table, OemDevmode& settings) {
+    ForEachDefaultItem<PrmWatermark>(
+        file, "Watermark", [&](const PrmWatermark& watermark, const PrmText& key, uint32_t position) {
+            settings.watermark = static_cast<uint16_t>(position);
+            if (!SameText(key, "WM_None"))
+                StoreWatermark(file, table, watermark, settings);
+            return true; // a later item of the same key writes again
+        });
+}
+
+void ApplyResolution(const PrmFile& file, OemDevmode& settings) {
+    ForEachDefaultItem<PrmResolution>(
+        file, "Resolution", [&](const PrmResolution& resolution, const PrmText& key, uint32_t position) {
+            settings.resolution = static_cast<uint8_t>(position);
+            for (size_t i = 0; i < 3; ++i)
+                settings.resolutionValues[i] = static_cast<uint16_t>(resolution.values[i]);
+            settings.resolutionNumber = ResolutionNumber(key);
+            return false;
+        });
+}
+
+// --- Colour settings
+// ------------------------------------------------------------------------------------------------
+
+constexpr const char* kColorModes[] = {
+    "Color_Auto", "Color_Doc", "Color_Photo", "Color_Presen", "Color_DTP",
+    "Color_Web",  "Color_CAD", "Color_ICM",   "Color_Custom",
+};
+
+void ApplyColorMode(const PrmFile& file, OemDevmode& settings) {
+    DefaultKey key;
+    if (!ReadDefaultKey(file, "ColorSetting", key))
+        return;
+    uint8_t mode = 0;
+    for (const char* name : kColorModes) {
+        if (SameText(name, key))
+            settings.colorMode = mode;
+        ++mode;
+    }
+}
+
+// Entries whose default is the value of an item of the colour table of the same name.
+struct ColorDefault {
+    const char* entry;
+    Field field;
+};
+// clang-format off
+constexpr ColorDefault kTextAndImageDefaults[] = {
+    {"Text_RGBColorMatch",  FIELD(text.colorMatch)},
+    {"Text_Halftone",       FIELD(text.halftone)},
+    {"Text_RGBGray",        FIELD(text.gray)},
+    {"Img_RGBColorMatch",   FIELD(image.colorMatch)},
+    {"Img_Halftone",        FIELD(image.halftone)},
+    {"Img_RGBGray",         FIELD(image.gray)},
+};
+constexpr ColorDefault kGraphicsDefaults[] = {
+    {"Graph_RGBColorMatch", FIELD(graphics.colorMatch)},
+    {"Graph_Halftone",      FIELD(graphics.halftone)},
+    {"Graph_RGBGray",       FIELD(graphics.gray)},
+};
+constexpr ColorDefault kDestinationDefaults[] = {
+    {"Text_Destination",    FIELD(textDestination)},
+    {"Img_Destination",     FIELD(imageDestination)},
+    {"Graph_Destination",   FIELD(graphicsDestination)},
+    {"SimulationProf",      FIELD(simulation)},
+    {"DestinationProf",     FIELD(destination)},
+};
+constexpr ColorDefault kRgbSourceDefault = {"RGBProf", FIELD(rgbSource)};
+constexpr ColorDefault kSimulationGrayDefault = {"Simu_CMYKGray", FIELD(simulationGray)};
+// clang-format on
+
+// Writes the default item's value; null when the file names no item of the table.
+const ItemRecord* ApplyColorDefault(const PrmFile& file, const ColorDefault& row, OemDevmode& settings) {
+    DefaultKey key;
+    if (!ReadDefaultKey(file, row.entry, key))
+        return nullptr;
+    const ItemRecord* item = FindColorItem(row.entry, key);
+    if (item != nullptr)
+        Store(settings, row.field, item->head.value);
+    return item;
+}
+
+template <size_t Count>
+void ApplyColorDefaults(const PrmFile& file, const ColorDefault (&rows)[Count], OemDevmode& settings) {
+    for (const ColorDefault& row : rows)
+        ApplyColorDefault(file, row, settings);
+}
+
+// The RGB source of one kind of object, with its name as the table holds it now.
+void ApplyRgbSource(const PrmFile& file, const ColorDefault& row, ProfileEntry& profile,
+                    OemDevmode& settings) {
+    if (const ItemRecord* item = ApplyColorDefault(file, row, settings))
+        CopyText(profile.qualifier, item->display);
+}
+
+// A field that is 1 when the entry's default is this item, 0 when it is any other.
+void ApplyChoice(const PrmFile& file, const char* entry, const char* itemKey, uint8_t& field) {
+    DefaultKey key;
+    if (PrmReadStringValue(file, entry, key, sizeof(key)))
+        field = SameText(key, itemKey) ? 1 : 0;
+}
+
+// --- What follows from other settings
+// -------------------------------------------------------------------------------
+
+void ApplyExcelJobCtrl(const PrmFile& file, DeviceTable& table) {
+    PrmTabPaper option;
+    table.excelJobCtrl = ReadDefault(file, "ExcelJobCtrl", option) ? option.value : 1;
+}
+
+void DeriveBinding(const DeviceTable& table, OemDevmode& settings) {
+    const uint8_t edge = settings.bindingEdge;
+    if (table.switches[kSwitchBindingEdge] == 0) {
+        if (edge < 14 || edge > 17)
+            settings.bindingEdge = 14;
+    } else if (edge != 10 && edge != 11) {
+        settings.bindingEdge = 10;
+    }
+    settings.sameBindShifts = settings.bindShiftFront == settings.bindShiftBack ? 1 : 0;
+}
+
+void DeriveTrayPaper(const DeviceTable& table, OemDevmode& settings) {
+    const InputSlotRecord* tray = table.inputTrays;
+    size_t slot = 0;
+    for (; tray != nullptr && tray->head.key[0] != 0 && slot < kTrayPaperDefaultCount; ++tray) {
+        if (tray->head.value == inputSlots[0].bin)
+            continue; // the automatic choice is no tray
+        TrayPaperDefault& paper = settings.trays[slot++];
+        CopyText(paper.key, tray->head.key);
+        paper.bin = tray->head.value;
+        paper.mediaType = settings.mediaType;
+        paper.mediaWeight = settings.mediaWeight;
+        paper.mediaColor = settings.mediaColor;
+        paper.mediaPrePunched = settings.mediaPrePunched;
+    }
+}
+
+void DeriveCoverPrint(const DeviceTable& table, OemDevmode& settings) {
+    constexpr uint8_t kByDriver = 1;
+    constexpr uint8_t kNotByDriver = 4;
+    settings.frontCoverPrint = table.switches[kSwitchFCoverPrint] == 1 ? kByDriver : kNotByDriver;
+    settings.backCoverPrint = settings.frontCoverPrint;
+}
+
+} // namespace
+
+alignas(8) OemDevmode defaultSettings = kCompiledIn;
+
+void ApplyLocationDefault(const PrmFile& file, const char* entry, const TextItemRecord* list,
+                          OemDevmode& settings) {
+    const TextItemRecord* location = FindDefaultLocation(file, entry, list);
+    if (location == nullptr)
+        return;
+    const uint32_t value = location->head.value;
+    if (SameText(entry, "OvlForm_Location")) {
+        settings.overlayLocation = value;
+    } else if (SameText(entry, "Prof_Location")) {
+        settings.imageRgbProfile.location = value;
+        settings.textRgbProfile.location = value;
+        settings.graphicsRgbProfile.location = value;
+        settings.simulationProfile.location = value;
+        settings.destinationProfile.location = value;
+    }
+}
+
+void BuildDefaultSettings(const PrmFile& file, DeviceTable& table) {
+    OemDevmode& settings = defaultSettings;
+    ApplyPaper(file, settings);
+    ApplyOutputPaper(file, settings);
+    ApplyRecordDefaults(file, settings);
+    ApplyRangeDefaults(file, table, settings);
+    ApplyTraySelections(file, settings);
+    ApplyLocationDefault(file, "OvlForm_Location", table.overlayLocations, settings);
+    ApplyWatermark(file, table, settings);
+    ApplyColorMode(file, settings);
+    ApplyColorDefaults(file, kTextAndImageDefaults, settings);
+    ApplyChoice(file, "Graphics", "Graph_MatchImage", settings.graphicsFollow);
+    ApplyColorDefaults(file, kGraphicsDefaults, settings);
+    ApplyResolution(file, settings);
+    ApplyColorDefault(file, kRgbSourceDefault, settings);
+    ApplyRgbSource(file, {"Text_RGBProf", FIELD(textRgbSource)}, settings.textRgbProfile, settings);
+    ApplyRgbSource(file, {"Img_RGBProf", FIELD(imageRgbSource)}, settings.imageRgbProfile, settings);
+    ApplyRgbSource(file, {"Graph_RGBProf", FIELD(graphicsRgbSource)}, settings.graphicsRgbProfile, settings);
+    ApplyLocationDefault(file, "Prof_Location", table.profileLocations, settings);
+    ApplyColorDefaults(file, kDestinationDefaults, settings);
+    if (const TextItemRecord* location = FindDefaultLocation(file, "Prof_Location", table.profileLocations))
+        settings.profileLocation = location->head.value;
+    ApplyChoice(file, "MatchPaperColor", "MatchPaperColorON", settings.matchPaperColor);
+    ApplyColorDefault(file, kSimulationGrayDefault, settings);
+    FillFontTable(settings);
+    ApplyExcelJobCtrl(file, table);
+    DeriveBinding(table, settings);
+    settings.userPaperWidthAgain = settings.userPaperWidth;
+    settings.userPaperLengthAgain = settings.userPaperLength;
+    settings.fontSubstitution = 0;
+    DeriveTrayPaper(table, settings);
+    DeriveCoverPrint(table, settings);
+}
