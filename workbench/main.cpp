@@ -4,8 +4,6 @@
 #include "output.h"
 #include "text_form.h"
 
-#include <sstream>
-
 namespace {
 
 constexpr struct {
@@ -24,8 +22,9 @@ struct CommonOptions {
 
 void AddCommands(CLI::App& app, CommonOptions& common, Run& chosen) {
     app.require_subcommand(1);
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     for (const auto& row : kCommands) {
-        CLI::App& command = *app.add_subcommand(row.name, row.summary);
+        CLI::App& command = *app.add_subcommand(row.name, row.summary)->group("Commands");
         command
             .add_option("--folder", common.folder,
                         "Where TELMAR_D.DLL and TELMAR_D.PRM lie (beside the program)")
@@ -43,20 +42,42 @@ std::vector<std::string> Arguments(int argc, wchar_t** argv) {
     return arguments;
 }
 
+// What may stand in this place of the line: the commands, if it has any, and the options.
+std::string Choices(const CLI::App& place) {
+    std::string choices;
+    for (const CLI::App* command : place.get_subcommands([](const CLI::App*) { return true; }))
+        choices += command->get_name() + ", ";
+    for (const CLI::Option* option : place.get_options())
+        choices += option->get_name() + ", ";
+    return choices.substr(0, choices.size() - 2); // --help is always there
+}
+
+// Why the line can't be carried out. A word that is not known explains more than what is missing without it.
+std::string Complaint(const CLI::App& app, const CLI::ParseError& error) {
+    if (app.remaining_size(true) == 0)
+        return error.what();
+    const bool inCommand = app.remaining_size() == 0;
+    const CLI::App& place = inCommand ? *app.get_subcommands().front() : app;
+    return (inCommand ? place.get_name() + " has no option '" : "no command '") + place.remaining().front()
+           + "'; possible: " + Choices(place);
+}
+
 int RunProgram(int argc, wchar_t** argv) {
     CLI::App app("Shows what the QUORVANE lumora R880 driver module TELMAR_D.DLL answers", "workbench");
     CommonOptions common;
     Run run;
     AddCommands(app, common, run);
+    if (argc < 2) {
+        Print(STD_ERROR_HANDLE, app.help());
+        return kExitUsage;
+    }
     try {
         app.parse(Arguments(argc, argv));
+    } catch (const CLI::CallForHelp&) {
+        Print(STD_OUTPUT_HANDLE, app.help());
+        return 0;
     } catch (const CLI::ParseError& error) {
-        std::ostringstream out;
-        std::ostringstream err;
-        const int code = app.exit(error, out, err);
-        Print(STD_OUTPUT_HANDLE, out.str());
-        Print(STD_ERROR_HANDLE, err.str());
-        return code == 0 ? 0 : kExitUsage;
+        throw Failure(kExitUsage, Complaint(app, error));
     }
     const Document document = run(OpenFamilyFiles(std::filesystem::u8path(common.folder)));
     Print(STD_OUTPUT_HANDLE, common.json ? document.dump(2) + "\n" : TextForm(document));

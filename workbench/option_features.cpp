@@ -6,7 +6,8 @@
 
 namespace {
 
-// Besides these, every paper source may have an option feature of its own: "Op" and the source's key.
+// Listed by name, since an entry of the file doesn't say what kind of items it has. Besides these, every
+// paper source may have an option feature of its own: "Op" and the source's key.
 constexpr const char* kOptionFeatures[] = {
     "OpMachine",    "OpBody",      "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit",
     "OpMailBinKit", "OpSaddleKit", "OpFAXUnit",    "OpHDD",
@@ -82,10 +83,8 @@ OptionFeatures ReadOptionFeatures(const FamilyFiles& family) {
 
 void SetOption(OptionFeatures& options, const std::string& assignment) {
     const size_t equals = assignment.find('=');
-    if (equals == std::string::npos)
-        throw Failure(kExitUsage, "--set takes FEATURE=ITEM, not '" + assignment + "'");
     const std::string featureKey = assignment.substr(0, equals);
-    const std::string itemKey = assignment.substr(equals + 1);
+    const std::string itemKey = equals == std::string::npos ? "" : assignment.substr(equals + 1);
 
     const int32_t feature = FindFeature(options.features.data(), featureKey.c_str());
     if (feature < 0)
@@ -94,7 +93,9 @@ void SetOption(OptionFeatures& options, const std::string& assignment) {
     const ItemRecord* items = options.features[static_cast<size_t>(feature)].items;
     const int32_t item = FindItem(items, itemKey.c_str());
     if (item < 0)
-        throw Failure(kExitUsage, featureKey + " has no item '" + itemKey + "'; possible: " + Choices(items));
+        throw Failure(kExitUsage,
+                      featureKey + (itemKey.empty() ? " lacks its '=ITEM'" : " has no item '" + itemKey + "'")
+                          + "; possible: " + Choices(items));
     options.settings[static_cast<size_t>(feature)] = item;
 }
 
