@@ -1,16 +1,23 @@
-// Fuzz target: any bytes at all as a parameter data file. Opens them (a file in memory), builds the device
-// table, holds what came out against what its readers rely on, frees it and looks for leftovers. Run by
+// Fuzz target: any bytes at all as the parameter data file beside the module. Lets a process attach, holds
+// what came out against what its readers rely on, lets the process detach and looks for leftovers. Run by
 // libFuzzer and, over a fixed set of inputs, by the regression test.
-#include "paramdata/device_table.h"
-#include "paramdata/prm_file.h"
+#include "../tests/support/compiled_in.h"
+
+#include "frame/entry.h"
+#include "paramdata/device_data.h"
 #include "paramdata/text.h"
 #include "platform_control.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <string>
 #include <sys/mman.h>
 #include <unistd.h>
+#include <vector>
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -87,55 +94,116 @@ void CheckTable(const DeviceTable& table) {
         CheckList<ItemRecord>(table.traySelections[i], &ItemRecord::display);
 }
 
-// The compiled-in table, saved; puts it back and checks that only what the file may change has changed.
-struct InputSlotsGuard {
-    InputSlotsGuard() { memcpy(saved, inputSlots, sizeof(saved)); }
-    ~InputSlotsGuard() {
-        for (size_t i = 0; i < sizeof(saved) / sizeof(saved[0]); ++i) {
-            RequireTerminated(inputSlots[i].text);
-            inputSlots[i].bin = saved[i].bin;
-            memcpy(inputSlots[i].text, saved[i].text, sizeof(saved[i].text));
+void CheckMediaLists(const MediaTypeLists& lists) {
+    for (const ItemRecord* list : lists.lists) {
+        Require(list != nullptr, "a media type list is missing");
+        CheckList(list, &ItemRecord::display);
+    }
+}
+
+// The colour tables, as one row of records. Compiled in they are full, so those without a key are the ends.
+void CheckColorTables(const CompiledInTables& kept) {
+    constexpr ItemRecord kEnd = {};
+    const auto* records = reinterpret_cast<const ItemRecord*>(&colorTables);
+    const auto* compiledIn = reinterpret_cast<const ItemRecord*>(kept.colors.bytes);
+    for (size_t i = 0; i < sizeof(colorTables) / sizeof(ItemRecord); ++i) {
+        const ItemRecord& record = records[i];
+        RequireTerminated(record.head.key);
+        RequireTerminated(record.display);
+        Require(compiledIn[i].head.key[0] != 0 || memcmp(&record, &kEnd, sizeof(kEnd)) == 0,
+                "a colour table has no end record");
+        Require(record.head.key[0] == 0
+                    || (record.head.size == sizeof(ItemRecord) && record.head.icon == kItemIcon),
+                "a colour item is incomplete");
+    }
+}
+
+void CheckSettings() {
+    RequireTerminated(defaultSettings.watermarkName);
+    RequireTerminated(defaultSettings.watermarkText);
+    RequireTerminated(defaultSettings.watermarkFont);
+    for (const ProfileEntry* profile : {&defaultSettings.textRgbProfile, &defaultSettings.imageRgbProfile,
+                                        &defaultSettings.graphicsRgbProfile})
+        RequireTerminated(profile->qualifier);
+    for (const TrayPaperDefault& tray : defaultSettings.trays)
+        RequireTerminated(tray.key);
+}
+
+// The tables of which the file may change texts and numbers only: puts those back, and the rest must be as it
+// was compiled in.
+void CheckFixedParts(const CompiledInTables& kept) {
+    for (TraySourceRecord& slot : inputSlots) {
+        RequireTerminated(slot.text);
+        const auto* original =
+            reinterpret_cast<const TraySourceRecord*>(kept.slots.bytes) + (&slot - inputSlots);
+        slot.bin = original->bin;
+        memcpy(slot.text, original->text, sizeof(slot.text));
+    }
+    const auto checkTexts = [](auto& records, auto text) {
+        for (auto& record : records) {
+            RequireTerminated(record.*text);
+            memset(record.*text, 0, sizeof(record.*text));
         }
-        Require(memcmp(saved, inputSlots, sizeof(saved)) == 0, "an input slot has another key");
-        memcpy(inputSlots, saved, sizeof(saved));
-    }
-    InputSlotsGuard(const InputSlotsGuard&) = delete;
-    InputSlotsGuard& operator=(const InputSlotsGuard&) = delete;
+    };
+    checkTexts(propertyTexts, &ControlTextRecord::display);
+    checkTexts(colorDialogTexts, &ControlTextRecord::display);
+    checkTexts(trayDialogTexts, &ControlTextRecord::display);
+    for (const MediaTypeColumn& column : mediaTypeColumns)
+        RequireTerminated(column.title);
+    Require(kept.slots.Unchanged() && kept.property.Unchanged() && kept.colorDialog.Unchanged()
+                && kept.trayDialog.Unchanged(),
+            "more than texts and numbers has changed");
+}
 
-    TraySourceRecord saved[sizeof(inputSlots) / sizeof(inputSlots[0])];
-};
-
-// A file in memory that holds the bytes, and its path.
-struct MemoryFile {
-    MemoryFile(const uint8_t* bytes, size_t size) : descriptor(memfd_create("prm", MFD_CLOEXEC)) {
-        Require(descriptor >= 0 && write(descriptor, bytes, size) == static_cast<ssize_t>(size),
-                "no memory file");
-        snprintf(path, sizeof(path), "/proc/self/fd/%d", descriptor);
+// A folder for the module, made once: in it the parameter data file, which leads to a file in memory.
+struct ModuleFolder {
+    ModuleFolder() : descriptor(memfd_create("prm", MFD_CLOEXEC)) {
+        std::string name = fs::temp_directory_path() / "module_XXXXXX";
+        Require(descriptor >= 0 && mkdtemp(name.data()) != nullptr, "no folder");
+        path = name;
+        fs::create_symlink("/proc/self/fd/" + std::to_string(descriptor), path / "TELMAR_D.PRM");
+        const std::string module = path / "TELMAR_D.DLL";
+        modulePath.assign(module.begin(), module.end());
+        modulePath.push_back(0);
     }
-    ~MemoryFile() { close(descriptor); }
-    MemoryFile(const MemoryFile&) = delete;
-    MemoryFile& operator=(const MemoryFile&) = delete;
+    ~ModuleFolder() {
+        fs::remove_all(path);
+        close(descriptor);
+    }
+    ModuleFolder(const ModuleFolder&) = delete;
+    ModuleFolder& operator=(const ModuleFolder&) = delete;
+    void Store(const uint8_t* bytes, size_t size) const {
+        Require(ftruncate(descriptor, 0) == 0
+                    && pwrite(descriptor, bytes, size, 0) == static_cast<ssize_t>(size),
+                "the memory file can't be written");
+    }
 
     int descriptor;
-    char path[32];
+    fs::path path;
+    std::vector<wchar_t> modulePath;
 };
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
-    constexpr size_t kMostPerByte = 20; // memory that a byte of the file may cost
-    constexpr size_t kMostAnyway = 8192;
+    // Per byte of the file: its image, 16 bytes of the device table's records, and the media type lists,
+    // which take 144 bytes for records of 240.
+    constexpr size_t kMostPerByte = 1 + 16 + 10;
+    constexpr size_t kMostAnyway = 16384;
 
+    static const ModuleFolder folder;
+    folder.Store(bytes, size);
+    const CompiledInTables kept;
     platform::Reset();
-    const InputSlotsGuard guard;
-    const MemoryFile memory(bytes, size);
-    PrmFile* file = PrmOpen(memory.path, 0);
-    Require(file != nullptr, "a readable file was not opened");
-    DeviceTable* table = BuildDeviceTable(*file);
-    PrmClose(file);
-    Require(table != nullptr, "no device table");
-    CheckTable(*table);
-    FreeDeviceTable(table);
+    platform::SetModuleFileName(folder.modulePath.data());
+    DllMain(nullptr, DLL_PROCESS_ATTACH, nullptr);
+    Require(deviceTable != nullptr && mediaTypeLists != nullptr, "a readable file was not read");
+    CheckTable(*deviceTable);
+    CheckMediaLists(*mediaTypeLists);
+    CheckColorTables(kept);
+    CheckSettings();
+    CheckFixedParts(kept);
+    DllMain(nullptr, DLL_PROCESS_DETACH, nullptr);
 
     const platform::Counts counts = platform::Count();
     Require(counts.globalBlocks == 0 && counts.localBlocks == 0 && counts.files == 0,

@@ -26,11 +26,12 @@ void DiffText(const std::string& path, const std::string& a, const std::string& 
         lines.push_back(path + ": " + (a.empty() ? "(none)" : a) + " -> " + (b.empty() ? "(none)" : b));
 }
 
-// Matches two sequences by name and calls `diff` for each couple. Of equal names (machines may have them) the
-// first goes with the first, the second with the second.
+// Matches two sequences, the parts of what the path names, by name and calls `diff` for each couple. Of equal
+// names (machines may have them) the first goes with the first, the second with the second.
 template <typename Element, typename Diff>
 void DiffByName(const std::string& path, const char* what, const std::vector<Element>& a,
                 const std::vector<Element>& b, Lines& lines, const Diff& diff) {
+    const std::string prefix = path.empty() ? "" : path + "/";
     std::multimap<std::string, size_t> unmatched; // name to position in b
     for (size_t i = 0; i < b.size(); ++i)
         unmatched.emplace(FoldCase(NameOf(b[i])), i);
@@ -39,27 +40,27 @@ void DiffByName(const std::string& path, const char* what, const std::vector<Ele
     for (const Element& element : a) {
         const auto match = unmatched.find(FoldCase(NameOf(element)));
         if (match == unmatched.end()) {
-            lines.push_back(path + NameOf(element) + ": only in the first");
+            lines.push_back(prefix + NameOf(element) + ": only in the first");
             continue;
         }
         isSameOrder = isSameOrder && match->second >= last;
         last = match->second;
-        diff(path + NameOf(element), element, b[match->second]);
+        diff(prefix + NameOf(element), element, b[match->second]);
         unmatched.erase(match);
     }
     for (const Element& element : b) {
         const auto rest = unmatched.find(FoldCase(NameOf(element)));
         if (rest == unmatched.end())
             continue;
-        lines.push_back(path + NameOf(element) + ": only in the second");
+        lines.push_back(prefix + NameOf(element) + ": only in the second");
         unmatched.erase(rest);
     }
     if (!isSameOrder)
-        lines.push_back(path + " the " + what + " are in another order");
+        lines.push_back((path.empty() ? "" : path + ": ") + "the " + what + " are in another order");
 }
 
 void DiffPairs(const std::string& path, const Value& a, const Value& b, Lines& lines) {
-    DiffByName(path + "/", "rows", a.pairs, b.pairs, lines,
+    DiffByName(path, "rows", a.pairs, b.pairs, lines,
                [&](const std::string& row, const Pair& x, const Pair& y) {
                    DiffText(row, FormatText(x.value), FormatText(y.value), lines);
                });
@@ -87,7 +88,7 @@ void DiffEntry(const std::string& path, const Entry& a, const Entry& b, Lines& l
     if (kind.form != Form::kList)
         return DiffRecord(path, kind, a.records.front(), b.records.front(), lines);
     DiffText(path + "/default", DefaultKey(a), DefaultKey(b), lines);
-    DiffByName(path + "/", "items", a.records, b.records, lines,
+    DiffByName(path, "items", a.records, b.records, lines,
                [&](const std::string& item, const Record& x, const Record& y) {
                    DiffRecord(item, kind, x, y, lines);
                });

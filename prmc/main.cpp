@@ -1,5 +1,6 @@
 // prmc, the parameter data compiler: command line, messages and exit codes around the engines.
-// Exit codes: 0 done, same or without fault; 1 faults found or files differ; 2 wrong use or unreadable file.
+// Exit codes: 0 done, same or without fault; 1 faults found or files differ; 2 wrong use, unreadable file, or
+// files that can't be compared for their faults.
 #include "prmc/diff.h"
 #include "prmc/files.h"
 #include "prmc/prm_parser.h"
@@ -17,6 +18,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -29,6 +31,14 @@ bool IsYaml(const std::string& path) {
     if (!EqualNoCase(extension, ".prm"))
         throw std::runtime_error("cannot tell what '" + path + "' is: its name must end in .yaml or .PRM");
     return false;
+}
+
+// Refuses a file of the form that the command does not take.
+void ExpectForm(const std::string& path, bool wantsYaml) {
+    if (IsYaml(path) != wantsYaml)
+        throw std::runtime_error("'" + path + "' is "
+                                 + (wantsYaml ? "a binary file, wanted is a model (.yaml)"
+                                              : "a model, wanted is a binary file (.PRM)"));
 }
 
 // Reads either form and applies the rules; findings in the order of their places.
@@ -58,6 +68,7 @@ void Report(const std::string& path, bool isYaml, const Findings& findings) {
 }
 
 ExitCode Build(const std::string& source, const std::string& target) {
+    ExpectForm(source, true);
     Findings findings;
     const Model model = ReadModel(source, true, findings);
     Report(source, true, findings);
@@ -69,6 +80,7 @@ ExitCode Build(const std::string& source, const std::string& target) {
 }
 
 ExitCode Dump(const std::string& path) {
+    ExpectForm(path, false);
     Findings findings;
     const Model model = ReadModel(path, false, findings);
     if (!findings.list.empty())
@@ -106,12 +118,25 @@ ExitCode Diff(const std::string& first, const std::string& second) {
     return lines.empty() ? kDone : kFaults;
 }
 
+// What is wrong with the command line; names what was given in vain.
+std::string Complaint(const CLI::App& app, const CLI::ParseError& fault,
+                      const std::vector<std::string>& commands) {
+    const std::vector<std::string> unknown = app.remaining(true);
+    const bool hasCommand = !app.get_subcommands().empty();
+    if (unknown.empty())
+        return hasCommand ? fault.what() : "no command is given";
+    if (unknown[0].rfind('-', 0) == 0)
+        return "there is no option " + Quote(unknown[0]);
+    if (!hasCommand)
+        return "there is no command " + Quote(unknown[0]) + NearestHint(unknown[0], commands);
+    return Quote(unknown[0]) + " is one file too many";
+}
+
 ExitCode Run(int argc, char** argv) {
     CLI::App app{
         "Compiles a printer model's parameter data from YAML to the binary file that the driver reads.",
         "prmc"};
     app.require_subcommand(1);
-    app.failure_message(CLI::FailureMessage::simple);
     std::string first, second;
     CLI::App* build = app.add_subcommand("build", "compile a model");
     build->add_option("MODEL.yaml", first, "the model")->required();
@@ -126,7 +151,13 @@ ExitCode Run(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& fault) {
-        return app.exit(fault) == 0 ? kDone : kTrouble;
+        if (fault.get_exit_code() == 0) // help was asked for
+            return app.exit(fault), kDone;
+        std::vector<std::string> commands;
+        for (const CLI::App* command : app.get_subcommands(nullptr))
+            commands.push_back(command->get_name());
+        throw std::runtime_error(Complaint(app, fault, commands) + "\nCommands are " + Join(commands, " and ")
+                                 + "; 'prmc COMMAND --help' explains one.");
     }
     if (build->parsed())
         return Build(first, second);

@@ -33,7 +33,7 @@ struct Value {
     bool given = false; // else the field is 0 in the file
     Place place;
     std::string text;
-    std::vector<uint32_t> numbers;
+    std::vector<int64_t> numbers;
     std::vector<Pair> pairs;
 };
 

@@ -22,9 +22,13 @@ struct Image {
     std::vector<Pending> pending; // of the entry that is being written
 };
 
-void Put32(Image& image, size_t at, uint64_t number) {
-    for (size_t i = 0; i < 4; ++i)
+void Put(Image& image, size_t at, size_t width, uint64_t number) {
+    for (size_t i = 0; i < width; ++i)
         image.bytes[at + i] = static_cast<uint8_t>(number >> (8 * i));
+}
+
+void Put32(Image& image, size_t at, uint64_t number) {
+    Put(image, at, 4, number);
 }
 
 void PutText(Image& image, size_t at, const std::string& text) {
@@ -54,7 +58,7 @@ void WriteField(Image& image, size_t record, const Field& field, const Value& va
         break;
     case FieldType::kNumbers:
         for (size_t i = 0; i < value.numbers.size(); ++i)
-            Put32(image, at + 4 * i, value.numbers[i]);
+            Put(image, at + field.width * i, field.width, static_cast<uint64_t>(value.numbers[i]));
         if (field.link != 0)
             Put32(image, record + field.link, 1);
         break;

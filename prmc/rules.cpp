@@ -1,9 +1,9 @@
-// The rules: texts fit their fields, numbers their width, names are unique, feature rows set a switch. Limits
-// come from the schema and from the table of feature switches.
+// The rules: texts and numbers fit, names are unique, readers take every item and row. Limits come from the
+// schema and from the table of feature switches.
 #include "prmc/rules.h"
 
 #include "paramdata/feature_switches.h"
-#include "paramdata/prm_layout.h"
+#include "paramdata/text.h"
 #include "prmc/text.h"
 
 #include <algorithm>
@@ -13,8 +13,13 @@ namespace {
 
 constexpr const char* kOff = "Disable"; // value that says: this switch is off on purpose
 
-std::string Number(uint64_t number) {
+std::string Number(int64_t number) {
     return std::to_string(number);
+}
+
+bool Contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& candidate) { return EqualNoCase(candidate, name); });
 }
 
 // An 8-bit text of at most `most` characters.
@@ -25,8 +30,8 @@ void CheckBytes(const std::string& what, const std::string& text, size_t most, P
         findings.Error(place, what + " " + Quote(text)
                                   + " has a character other than ASCII: only names can have it");
     else if (text.size() > most)
-        findings.Error(place, what + " " + Quote(text) + " has " + Number(text.size())
-                                  + " characters, at most " + Number(most) + " fit: shorten it");
+        findings.Error(place, what + " " + Quote(text) + " has " + std::to_string(text.size())
+                                  + " characters, at most " + std::to_string(most) + " fit: shorten it");
 }
 
 void CheckName(const std::string& what, const std::string& text, size_t most, Place place,
@@ -35,8 +40,9 @@ void CheckName(const std::string& what, const std::string& text, size_t most, Pl
     if (text.find('\0') != std::string::npos)
         findings.Error(place, what + " " + Quote(text) + " has a zero character, which would end it");
     else if (length > most)
-        findings.Error(place, what + " " + Quote(text) + " has " + Number(length) + " characters, at most "
-                                  + Number(most) + " are shown: shorten it");
+        findings.Error(place, what + " " + Quote(text) + " has " + std::to_string(length)
+                                  + " characters, at most " + std::to_string(most)
+                                  + " are shown: shorten it");
 }
 
 void CheckValue(const EntryRow& row, const Field& field, const Value& value, Findings& findings) {
@@ -48,18 +54,17 @@ void CheckValue(const EntryRow& row, const Field& field, const Value& value, Fin
         CheckBytes(what, value.text, kMostKeyChars, value.place, findings);
         break;
     case FieldType::kName:
-        CheckName(what, value.text, row.nameChars, value.place, findings);
+        CheckName(what, value.text, field.count > 1 ? field.count : row.nameChars, value.place, findings);
         break;
     case FieldType::kText:
         CheckBytes(what, value.text, field.count - 1, value.place, findings);
         break;
     case FieldType::kNumbers: {
-        const unsigned bits = field.bits ? field.bits : row.valueBits;
-        const uint64_t most = (uint64_t{1} << bits) - 1;
-        for (const uint32_t number : value.numbers) {
-            if (number > most)
-                findings.Error(value.place, what + " " + Number(number) + " does not fit: its " + Number(bits)
-                                                + "-bit field holds 0 to " + Number(most));
+        const Limits limits = LimitsOf(row, field);
+        for (const int64_t number : value.numbers) {
+            if (number < limits.least || number > limits.most)
+                findings.Error(value.place, what + " " + Number(number) + " does not fit: it may be "
+                                                + Number(limits.least) + " to " + Number(limits.most));
         }
         break;
     }
@@ -103,21 +108,89 @@ void CheckFeatureRow(const Pair& row, Findings& findings) {
                    "no feature switch is called " + Quote(row.name) + NearestHint(row.name, names));
 }
 
-void CheckTableRow(const EntryRow& entry, const Pair& row, Findings& findings) {
-    if (entry.rowNames.size() == 0)
-        return CheckFeatureRow(row, findings);
-    const auto isRow = [&](const char* name) { return EqualNoCase(name, row.name); };
-    if (std::none_of(entry.rowNames.begin(), entry.rowNames.end(), isRow))
-        findings.Error(row.namePlace,
-                       std::string(entry.name) + " has no row " + Quote(row.name)
-                           + NearestHint(row.name, {entry.rowNames.begin(), entry.rowNames.end()}));
+// Runs of digits in a text.
+size_t CountNumbers(const std::string& text) {
+    size_t count = 0;
+    for (size_t i = 0; i < text.size(); ++i)
+        count += IsDigit(text[i]) && (i == 0 || !IsDigit(text[i - 1])) ? 1 : 0;
+    return count;
+}
+
+void CheckFact(const FactRow& fact, const Pair& row, Findings& findings) {
+    std::string wanted;
+    if (fact.words.size() > 0) {
+        const std::vector<std::string> words(fact.words.begin(), fact.words.end());
+        if (Contains(words, row.value))
+            return;
+        wanted = Join(words, " or ");
+    } else if (fact.numbers > 1) {
+        if (CountNumbers(row.value) == fact.numbers)
+            return;
+        wanted = "a text with " + std::to_string(fact.numbers) + " numbers";
+    } else {
+        if (!row.value.empty() && std::all_of(row.value.begin(), row.value.end(), IsDigit))
+            return;
+        wanted = "a number";
+    }
+    findings.Error(row.valuePlace,
+                   "value " + Quote(row.value) + " of " + Quote(row.name) + " says nothing: write " + wanted);
+}
+
+void CheckFactRow(const EntryRow& entry, const Pair& row, Findings& findings) {
+    std::vector<std::string> names;
+    for (const FactRow& fact : entry.facts) {
+        names.push_back(fact.name);
+        if (EqualNoCase(fact.name, row.name))
+            return CheckFact(fact, row, findings);
+    }
+    findings.Error(row.namePlace,
+                   std::string(entry.name) + " has no row " + Quote(row.name) + NearestHint(row.name, names));
 }
 
 void CheckTable(const Entry& entry, Findings& findings) {
     for (const Record& record : entry.records) {
-        for (const Pair& row : record.values.front().pairs)
-            CheckTableRow(*entry.row, row, findings);
+        for (const Pair& row : record.values.front().pairs) {
+            if (entry.row->facts.size() > 0)
+                CheckFactRow(*entry.row, row, findings);
+            else
+                CheckFeatureRow(row, findings);
+        }
     }
+}
+
+// Items that readers don't take.
+void CheckTaken(const Entry& entry, Findings& findings) {
+    const EntryRow& row = *entry.row;
+    if (row.mostItems > 0 && entry.records.size() > row.mostItems)
+        findings.Error(entry.records[row.mostItems].place,
+                       Quote(entry.name) + " has " + std::to_string(entry.records.size()) + " items, at most "
+                           + std::to_string(row.mostItems) + " are taken: remove the others");
+    const std::vector<std::string> keys(row.keys.begin(), row.keys.end());
+    for (const Record& record : entry.records) {
+        const Value& key = record.values.front();
+        if (!keys.empty() && key.given && !Contains(keys, key.text))
+            findings.Error(key.place, Quote(entry.name) + " takes no item " + Quote(key.text)
+                                          + NearestHint(key.text, keys));
+    }
+}
+
+// A tray that is not enabled ends the list for its readers.
+void CheckHiddenTrays(const Entry& entry, Findings& findings) {
+    const Table<Field>& fields = entry.row->kind->fields;
+    const auto isFlag = [](const Field& field) { return std::string_view(field.name) == "enabled"; };
+    const auto flag =
+        static_cast<size_t>(std::find_if(fields.begin(), fields.end(), isFlag) - fields.begin());
+    if (flag == fields.size())
+        return;
+    const auto isOff = [&](const Record& tray) {
+        return tray.values[flag].given && tray.values[flag].numbers[0] == 0;
+    };
+    const auto off = std::find_if(entry.records.begin(), entry.records.end(), isOff);
+    const auto hidden = std::find_if_not(off, entry.records.end(), isOff);
+    if (hidden != entry.records.end())
+        findings.Note(off->place, Quote(ItemLabel(*off))
+                                      + " is not enabled, which hides every tray after it: "
+                                      + Quote(ItemLabel(*hidden)) + " too");
 }
 
 // The fields of a range are its lower bound, upper bound and default, in this order.
@@ -126,8 +199,8 @@ void CheckRange(const Entry& entry, Findings& findings) {
         const std::vector<Value>& values = record.values;
         if (!values[0].given || !values[1].given || !values[2].given)
             continue;
-        const uint32_t least = values[0].numbers[0], most = values[1].numbers[0],
-                       chosen = values[2].numbers[0];
+        const int64_t least = values[0].numbers[0], most = values[1].numbers[0],
+                      chosen = values[2].numbers[0];
         if (least > most)
             findings.Error(values[0].place, "min " + Number(least) + " is above max " + Number(most));
         else if (chosen < least || chosen > most)
@@ -159,6 +232,8 @@ void CheckEntry(const Entry& entry, Findings& findings) {
                 CheckUnique(names, "row", pair.name, pair.namePlace, findings);
         }
     }
+    CheckTaken(entry, findings);
+    CheckHiddenTrays(entry, findings);
     if (kind.form == Form::kTable)
         CheckTable(entry, findings);
     if (kind.form == Form::kRange)

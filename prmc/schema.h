@@ -25,21 +25,31 @@ struct Table {
 
 enum class FieldType {
     kKey,     // offset of an 8-bit text: the item's key
-    kName,    // offset of a UTF-16 text: a display name
+    kName,    // offset of a UTF-16 text: a display name; 0 when there is none
     kText,    // 8-bit text inside the record
-    kNumbers, // one or more 32-bit numbers
+    kNumbers, // one or more numbers
     kPairs,   // count and offset of records that are two 8-bit texts each
+};
+
+// Which numbers their readers keep.
+struct Limits {
+    int64_t least = 0;
+    int64_t most = 0;
+
+    constexpr bool AreGiven() const { return least < most; }
 };
 
 struct Field {
     const char* name; // in YAML
     FieldType type;
     bool required;
-    size_t offset;     // in the record; of pairs: their count
-    size_t count = 1;  // numbers: how many; texts: bytes of the field; pairs: bytes of each text
-    unsigned bits = 0; // numbers: width that their readers keep; 0: as the entry says
-    size_t link = 0;   // numbers: offset of the flag that is 1 when they are there, 0: always there;
-                       // pairs: offset of the first pair's offset
+    size_t offset;      // in the record; of pairs: their count
+    size_t count = 1;   // numbers: how many; names: most characters, 1: as the entry says;
+                        // texts: bytes of the field; pairs: bytes of each text
+    Limits limits = {}; // numbers; not given: as the entry says
+    size_t link = 0;    // numbers: offset of the flag that is 1 when they are there, 0: always there;
+                        // pairs: offset of the first pair's offset
+    size_t width = 4;   // numbers: bytes of each
 };
 
 // How an entry is written in YAML and where its records lie.
@@ -61,14 +71,27 @@ struct Kind {
     bool HasKeys() const { return fields[0].type == FieldType::kKey; }
 };
 
+// A row of a name/value table, and what its value may be.
+struct FactRow {
+    const char* name;
+    Table<const char*> words; // empty: numbers
+    size_t numbers;           // how many: a single one stands alone, more stand in a text
+};
+
 struct EntryRow {
     const char* name;
     const Kind* kind;
-    unsigned nameChars; // most UTF-16 characters of a display name that the list built from the entry holds
-    unsigned valueBits; // width in which an item's value is kept
-    bool defaultNeeded; // readers take the default item from the entry
-    Table<const char*> rowNames = {}; // of a name/value table; empty: the rows are the feature switches
+    size_t nameChars;             // most UTF-16 characters of a display name that the entry's list holds
+    Limits values;                // of an item's value, or of a range
+    bool defaultNeeded;           // readers take the default item from the entry
+    Table<const char*> keys = {}; // of the items, as far as readers take any; empty: any key
+    size_t mostItems = 0;         // that readers take; 0: any number
+    Table<FactRow> facts = {};    // of a name/value table; empty: its rows are the feature switches
 };
+
+constexpr Limits LimitsOf(const EntryRow& row, const Field& field) {
+    return field.limits.AreGiven() ? field.limits : row.values;
+}
 
 constexpr size_t kMostKeyChars = 31;
 

@@ -1,16 +1,14 @@
 // Text services of prmc, see text.h. UTF-8 follows the Unicode rules: no overlong forms, no surrogates.
 #include "prmc/text.h"
 
+#include "paramdata/text.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <numeric>
 
 namespace {
-
-char Fold(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 struct Decoded {
     char32_t point;
@@ -75,13 +73,13 @@ size_t EditDistance(std::string_view a, std::string_view b) {
 } // namespace
 
 bool EqualNoCase(std::string_view a, std::string_view b) {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [](char x, char y) { return Fold(x) == Fold(y); });
+    return a.size() == b.size() && SameCharacters(a.data(), b.data(), a.size());
 }
 
 std::string FoldCase(std::string_view text) {
     std::string folded(text);
-    std::transform(folded.begin(), folded.end(), folded.begin(), Fold);
+    for (char& c : folded)
+        c = FoldCase(c);
     return folded;
 }
 
@@ -148,6 +146,13 @@ std::string Quote(std::string_view text) {
         }
     }
     return quoted + "'";
+}
+
+std::string Join(const std::vector<std::string>& texts, const char* last) {
+    std::string joined;
+    for (size_t i = 0; i < texts.size(); ++i)
+        joined += (i == 0 ? "" : i + 1 < texts.size() ? ", " : last) + texts[i];
+    return joined;
 }
 
 std::string NearestHint(std::string_view name, const std::vector<std::string>& candidates) {

@@ -28,6 +28,9 @@ std::string Utf8FromBytes(std::string_view bytes);
 // For messages: in single quotes, control characters escaped.
 std::string Quote(std::string_view text);
 
+// "A, B or C", with " or " as `last`.
+std::string Join(const std::vector<std::string>& texts, const char* last);
+
 // "; did you mean 'NAME'?" with the candidate that is nearest to the name; empty when none is near.
 std::string NearestHint(std::string_view name, const std::vector<std::string>& candidates);
 

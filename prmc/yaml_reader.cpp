@@ -49,23 +49,23 @@ bool ReadScalar(const std::string& name, const YAML::Node& node, std::string& te
     return false;
 }
 
-// Decimal, or hexadecimal with 0x.
-bool ReadNumber(const std::string& name, const YAML::Node& node, uint32_t& number, Findings& findings) {
+// Decimal, with or without a minus sign, or hexadecimal with 0x.
+bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings) {
+    constexpr size_t kMostDigits = 15; // fewer than 64 bits; the rules say what fits
     std::string text;
     if (!ReadScalar(name, node, text, findings))
         return false;
-    const bool hex = text.rfind("0x", 0) == 0 || text.rfind("0X", 0) == 0;
-    const std::string digits = hex ? text.substr(2) : text;
-    const char* allowed = hex ? "0123456789abcdefABCDEF" : "0123456789";
-    if (!digits.empty() && digits.size() <= 16 && digits.find_first_not_of(allowed) == std::string::npos) {
-        const uint64_t wide = std::strtoull(digits.c_str(), nullptr, hex ? 16 : 10);
-        if (wide <= UINT32_MAX) {
-            number = static_cast<uint32_t>(wide);
-            return true;
-        }
+    const bool isHex = text.rfind("0x", 0) == 0 || text.rfind("0X", 0) == 0;
+    const bool isNegative = text.rfind('-', 0) == 0;
+    const std::string digits = text.substr(isHex ? 2 : isNegative ? 1 : 0);
+    const char* allowed = isHex ? "0123456789abcdefABCDEF" : "0123456789";
+    if (digits.empty() || digits.size() > kMostDigits
+        || digits.find_first_not_of(allowed) != std::string::npos) {
+        findings.Error(PlaceOf(node), Quote(name) + " takes a number, not " + Quote(text));
+        return false;
     }
-    findings.Error(PlaceOf(node), Quote(name) + " takes a number from 0 to 4294967295, not " + Quote(text));
-    return false;
+    number = std::strtoll(digits.c_str(), nullptr, isHex ? 16 : 10) * (isNegative ? -1 : 1);
+    return true;
 }
 
 void ReadNumbers(const Field& field, const YAML::Node& node, Value& value, Findings& findings) {
@@ -75,7 +75,7 @@ void ReadNumbers(const Field& field, const YAML::Node& node, Value& value, Findi
                        Quote(field.name) + " takes " + std::to_string(count) + " numbers in brackets");
         return;
     }
-    std::vector<uint32_t> numbers(count);
+    std::vector<int64_t> numbers(count);
     bool good = true;
     for (size_t i = 0; i < count; ++i)
         good = ReadNumber(field.name, count > 1 ? node[i] : node, numbers[i], findings) && good;
@@ -192,7 +192,8 @@ Model ReadDocument(const YAML::Node& root, Findings& findings) {
                                                 "unknown entry " + Quote(name) + NearestHint(name, known));
                       Entry entry{row, name, PlaceOf(nameNode), {}, {}};
                       ReadEntry(entry, valueNode, findings);
-                      model.entries.push_back(std::move(entry));
+                      if (valueNode.IsMap()) // else it is reported, and rules have nothing to look at
+                          model.entries.push_back(std::move(entry));
                   });
     return model;
 }

@@ -26,9 +26,9 @@ std::string FormatPairs(const std::vector<Pair>& pairs) {
     return line.empty() ? "{}" : line + "}";
 }
 
-std::string FormatNumbers(const std::vector<uint32_t>& numbers) {
+std::string FormatNumbers(const std::vector<int64_t>& numbers) {
     std::string line;
-    for (const uint32_t number : numbers)
+    for (const int64_t number : numbers)
         line += (line.empty() ? "" : ", ") + std::to_string(number);
     return numbers.size() == 1 ? line : "[" + line + "]";
 }
@@ -128,13 +128,15 @@ std::string FormatValue(const Field& field, const Value& value) {
     switch (field.type) {
     case FieldType::kNumbers: {
         const bool isZero =
-            std::all_of(value.numbers.begin(), value.numbers.end(), [](uint32_t n) { return n == 0; });
+            std::all_of(value.numbers.begin(), value.numbers.end(), [](int64_t n) { return n == 0; });
         return mayBeLeftOut && isZero ? "" : FormatNumbers(value.numbers);
     }
     case FieldType::kPairs:
         return mayBeLeftOut && value.pairs.empty() ? "" : FormatPairs(value.pairs);
-    default:
+    case FieldType::kText:
         return mayBeLeftOut && value.text.empty() ? "" : FormatText(value.text);
+    default: // a key, or a display name: an empty one is not the same as none
+        return FormatText(value.text);
     }
 }
 

@@ -14,6 +14,12 @@ using Run = std::function<Document(const FamilyFiles& family)>;
 // What the model offers: switches, facts, ranges and every list, from the parameter data file.
 Run SetUpDescribe(CLI::App& command);
 
+// The built-in default settings: every field with its offset and value.
+Run SetUpDefaults(CLI::App& command);
+
+// The texts of the dialogs' controls, the colour lists, and the lists and columns of the tray settings.
+Run SetUpTexts(CLI::App& command);
+
 // What the module answers to the device-capability questions.
 Run SetUpCapabilities(CLI::App& command);
 

@@ -1,60 +1,12 @@
-// The device table as a document. Every record is described by a table of its fields; the type of a field
-// decides how it is shown, unless its row says otherwise.
+// The device table as a document: every record is described by a table of its fields.
 #include "device_document.h"
 
-#include "output.h"
 #include "paramdata/device_table.h"
-#include "paramdata/text.h"
+#include "record_fields.h"
 
-#include <cstring>
 #include <iterator>
 
 namespace {
-
-template <size_t N>
-Document ToDocument(const char (&text)[N]) {
-    return Utf8(std::string_view(text, TextLength(text)));
-}
-
-template <size_t N>
-Document ToDocument(const wchar_t (&text)[N]) {
-    return Utf8(std::wstring_view(text, TextLength(text)));
-}
-
-template <typename Number>
-Document ToDocument(const Number& numbers) {
-    return numbers;
-}
-
-// A block of 32-bit numbers whose meaning is its consumer's.
-template <size_t N>
-Document ToDocument(const uint8_t (&block)[N]) {
-    uint32_t numbers[N / sizeof(uint32_t)];
-    memcpy(numbers, block, sizeof(numbers));
-    return numbers;
-}
-
-// A copy of one field of a record. The records are packed, so that a field itself may lie at any address.
-template <auto kField>
-struct FieldOf;
-template <typename Record, typename Value, Value Record::*kField>
-struct FieldOf<kField> {
-    explicit FieldOf(const void* record) {
-        memcpy(&value, &(static_cast<const Record*>(record)->*kField), sizeof(value));
-    }
-    Value value;
-};
-
-// How one field of a record is shown, and under which name.
-struct Field {
-    const char* name;
-    Document (*show)(const void* record);
-};
-
-template <auto kField>
-Document Show(const void* record) {
-    return ToDocument(FieldOf<kField>(record).value);
-}
 
 // Null when the flag of the field is 0.
 template <auto kFlag, auto kField>
@@ -83,27 +35,6 @@ Document ShowName(const void* record) {
     return value <= std::size(kNames) ? Document(kNames[value - 1]) : Document(value);
 }
 
-template <size_t N>
-void AddFields(const Field (&fields)[N], const void* record, Document& to) {
-    for (const Field& field : fields)
-        to[field.name] = field.show(record);
-}
-
-// A list up to its terminating record: key and value of each record, then its further fields. Null without a
-// list.
-template <typename Record, size_t N>
-Document ListDocument(const Record* list, const Field (&fields)[N]) {
-    if (list == nullptr)
-        return nullptr;
-    Document rows = Document::array();
-    for (; list->head.key[0] != 0; ++list) {
-        Document row = {{"key", ToDocument(list->head.key)}, {"value", list->head.value}};
-        AddFields(fields, list, row);
-        rows.push_back(row);
-    }
-    return rows;
-}
-
 template <auto kList, const auto& kFields>
 Document ShowList(const void* table) {
     return ListDocument(FieldOf<kList>(table).value, kFields);
@@ -112,11 +43,6 @@ Document ShowList(const void* table) {
 // clang-format off
 
 // The further fields of each kind of list record.
-
-template <typename Record>
-constexpr Field kNamed[] = {
-    {"name",       Show<&Record::display>},
-};
 
 template <typename Record>
 constexpr Field kNamedText[] = {

@@ -63,9 +63,12 @@ FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
                                        + ": not a parameter data file, or a damaged one, since it has no "
                                          "FeatureSetting; examine it with 'prmc check' or build it again");
 
-    family.table.reset(BuildDeviceTable(*family.parameters));
+    InitDeviceData(family.module.get());
+    family.table.reset(deviceTable);
     if (family.table == nullptr)
-        throw Failure(kExitFailed, "no memory for the device table");
+        throw Failure(kExitFailed, family.parameterPath.u8string()
+                                       + ": no device data: the path is too long for the module, or there is "
+                                         "no memory");
     return family;
 }
 

@@ -1,10 +1,11 @@
-// The driver's files in one folder: the module, loaded by its full path as the generic modules do, and the
-// parameter data file with the device table built from it, as the user-interface module builds it.
+// The driver's files in one folder: the module, loaded by its full path as the generic modules do, the
+// parameter data file, and what the module's own code makes of that file in this process.
 #ifndef WORKBENCH_FAMILY_FILES_H
 #define WORKBENCH_FAMILY_FILES_H
 
 #include "document.h"
 #include "frame/exports.h"
+#include "paramdata/device_data.h"
 #include "paramdata/prm_file.h"
 
 #include <filesystem>
@@ -14,7 +15,7 @@
 struct Release {
     void operator()(HMODULE module) const { FreeLibrary(module); }
     void operator()(PrmFile* file) const { PrmClose(file); }
-    void operator()(DeviceTable* table) const { FreeDeviceTable(table); }
+    void operator()(DeviceTable* /*table*/) const { FreeDeviceData(); }
 };
 
 struct FamilyFiles {
@@ -22,11 +23,12 @@ struct FamilyFiles {
     std::filesystem::path parameterPath;
     std::unique_ptr<std::remove_pointer_t<HMODULE>, Release> module;
     std::unique_ptr<PrmFile, Release> parameters;
-    std::unique_ptr<DeviceTable, Release> table;
+    std::unique_ptr<DeviceTable, Release> table; // and all else that the initialisation has built
 };
 
-// Opens the files of this folder; of the program's own folder when it is empty. Throws Failure when a file is
-// missing or unusable.
+// Opens the files of this folder; of the program's own folder when it is empty. To be called once: it also
+// fills the process-wide default settings, texts and lists. Throws Failure when a file is missing or
+// unusable.
 FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder);
 
 // Where the files lie and which version the module is: the first section of every document.

@@ -13,6 +13,8 @@ constexpr struct {
 } kCommands[] = {
     {"describe", "Shows what the model offers: switches, facts, ranges and lists", SetUpDescribe},
     {"capabilities", "Asks the module for paper sources, duplex and stapling", SetUpCapabilities},
+    {"defaults", "Shows the built-in default settings, field by field", SetUpDefaults},
+    {"texts", "Shows the dialogs' texts, colour lists and media type lists", SetUpTexts},
 };
 
 struct CommonOptions {

@@ -22,8 +22,8 @@ std::string Utf8(std::wstring_view text) {
     return utf8;
 }
 
-std::string Utf8(std::string_view text) {
-    return Utf8(Wide(CP_ACP, text));
+std::string Utf8(std::string_view text, UINT codePage) {
+    return Utf8(Wide(codePage, text));
 }
 
 void Print(DWORD where, std::string_view utf8) {

@@ -10,15 +10,18 @@ namespace {
 
 constexpr size_t kPageWidth = 128;
 constexpr size_t kLongTable = 24;  // more lines than this run side by side, if they are narrow enough
-constexpr size_t kMostNumbers = 4; // more numbers than this in one cell are only counted
+constexpr size_t kMostNumbers = 5; // more numbers than this in one cell are only counted
 constexpr const char* kIndent = "  ";
 constexpr const char* kGap = "  ";
 constexpr const char* kColumnGap = "     ";
 
-// On the screen, in characters: every byte that doesn't continue another one.
+// On the screen, in columns: one for every byte that doesn't continue another one, and one more for the wide
+// East Asian characters, from U+3000 on.
 size_t Width(const std::string& utf8) {
-    return static_cast<size_t>(
-        std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+    size_t width = 0;
+    for (const unsigned char c : utf8)
+        width += ((c & 0xC0) != 0x80 ? 1 : 0) + (c >= 0xE3 ? 1 : 0);
+    return width;
 }
 
 std::string Padded(const std::string& text, size_t width, bool right) {

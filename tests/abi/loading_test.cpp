@@ -3,6 +3,7 @@
 #include "product.h"
 
 #include <gtest/gtest.h>
+#include <map>
 #include <thread>
 
 namespace fs = std::filesystem;
@@ -112,33 +113,44 @@ TEST(LoadingOften, LeavesNoHeapBlockAndNoHandle) {
 }
 
 // Missing, empty, cut within the chain of entries, complete.
-TEST(ParameterFile, IsClosedAfterAttachAndLeavesNothingWhateverItHolds) {
+TEST(ParameterFile, IsReadAndClosedAndLeavesNothingWhateverItHolds) {
     constexpr wchar_t kParameterFile[] = L"TELMAR_D.PRM";
-    const uintmax_t complete = fs::file_size(ProductFolder() / kParameterFile);
     constexpr uintmax_t kMissing = UINTMAX_MAX;
+    const uintmax_t complete = fs::file_size(ProductFolder() / kParameterFile);
+    std::map<uintmax_t, size_t> heldBlocks; // by size of the file
     for (const uintmax_t size : {kMissing, uintmax_t{0}, uintmax_t{100}, complete / 2, complete}) {
         const TemporaryFolder folder(L"lumora_parameters");
         folder.Add(L"TELMAR_D.DLL", L"TELMAR_D.DLL");
-        const bool missing = size == kMissing;
-        const fs::path file = missing ? fs::path() : folder.Add(kParameterFile, kParameterFile);
-        if (!missing)
+        const fs::path file = size == kMissing ? fs::path() : folder.Add(kParameterFile, kParameterFile);
+        if (size != kMissing)
             fs::resize_file(file, size);
         { const LoadedModule first(folder.path); }
         const Holdings before = CountHoldings();
-        for (int i = 0; i < 10; ++i) {
+        {
             const LoadedModule module(folder.path);
-            EXPECT_NE(module.handle, nullptr);
-            if (missing)
-                continue;
+            heldBlocks[size] = CountHoldings().heapBlocks - before.heapBlocks;
             HANDLE alone = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
                                        FILE_ATTRIBUTE_NORMAL, nullptr);
-            EXPECT_NE(alone, INVALID_HANDLE_VALUE) << "the module holds its file of " << size << " bytes";
+            EXPECT_EQ(alone == INVALID_HANDLE_VALUE, size == kMissing) << "held open: a file of " << size;
             CloseHandle(alone);
         }
         const Holdings after = CountHoldings();
         EXPECT_EQ(after.heapBlocks, before.heapBlocks) << size;
         EXPECT_EQ(after.handles, before.handles) << size;
     }
+    EXPECT_GT(heldBlocks[0], heldBlocks[kMissing]) << "the device table";
+    EXPECT_GT(heldBlocks[complete / 2], heldBlocks[0]) << "lists of the first half";
+    EXPECT_GE(heldBlocks[complete], heldBlocks[0] + 30) << "the model's lists";
+}
+
+TEST(ProcessEnd, WithTheModuleLoadedIsAsUsual) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    EXPECT_EXIT(
+        {
+            LoadLibraryW((ProductFolder() / L"TELMAR_D.DLL").c_str());
+            exit(GetModuleHandleW(L"TELMAR_D.DLL") != nullptr ? 42 : 1);
+        },
+        testing::ExitedWithCode(42), "");
 }
 
 } // namespace

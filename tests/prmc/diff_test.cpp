@@ -53,7 +53,7 @@ Staple: {default: S, items: [{key: S, name: S, value: 0}]}
         "FeatureSetting/Poster: Enable -> Disable",
         "FeatureSetting/Trim: only in the first",
         "FeatureSetting/Overlay: only in the second",
-        "FeatureSetting/ the rows are in another order",
+        "FeatureSetting: the rows are in another order",
         "MachineInfo/M/details/Engine: a -> b c",
         "MachineInfo/M/details/Scanner: only in the first",
         "MachineInfo/M: only in the first",
@@ -62,7 +62,7 @@ Staple: {default: S, items: [{key: S, name: S, value: 0}]}
         "MediaColor/W/text: T -> (none)",
         "MediaColor/X: only in the first",
         "MediaColor/Z: only in the second",
-        "MediaColor/ the items are in another order",
+        "MediaColor: the items are in another order",
         "Staple: only in the second",
     };
     EXPECT_EQ(lines, wanted);

@@ -16,7 +16,7 @@ PIFrontCover:
     - {key: A, name: é}
     - {key: B, name: ""}
 Country: {value: 7}
-DevInfo: {PDLType: PCL6}
+DevInfo: {PDLType: PCL6 PS3}
 MediaColor:
   default: W
   items:
@@ -47,4 +47,13 @@ std::string Build(const std::string& yaml) {
     const std::vector<uint8_t> bytes = WritePrm(FromYaml(yaml, messages));
     EXPECT_TRUE(messages.empty()) << messages.front();
     return {bytes.begin(), bytes.end()};
+}
+
+std::string Words(std::initializer_list<uint32_t> words) {
+    std::string bytes;
+    for (const uint32_t word : words) {
+        for (int shift = 0; shift < 32; shift += 8)
+            bytes.push_back(static_cast<char>(static_cast<uint8_t>(word >> shift)));
+    }
+    return bytes;
 }

@@ -5,6 +5,8 @@
 
 #include "prmc/model.h"
 
+#include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -19,5 +21,8 @@ Model FromPrm(const std::string& bytes, std::vector<std::string>& messages);
 
 // Binary file of a model that must have no faults.
 std::string Build(const std::string& yaml);
+
+// Numbers of the file, 32 bits each.
+std::string Words(std::initializer_list<uint32_t> words);
 
 #endif

@@ -3,18 +3,8 @@
 
 #include <cstdint>
 #include <gtest/gtest.h>
-#include <initializer_list>
 
 namespace {
-
-std::string Words(std::initializer_list<uint32_t> words) {
-    std::string bytes;
-    for (const uint32_t word : words) {
-        for (int shift = 0; shift < 32; shift += 8)
-            bytes.push_back(static_cast<char>(static_cast<uint8_t>(word >> shift)));
-    }
-    return bytes;
-}
 
 std::string Text(const char* text, size_t size) {
     std::string bytes = text;
@@ -56,7 +46,7 @@ TEST(Layout, SmallModelByteByByte) {
         {0x138, "DevInfo", EntryBlock("DevInfo", 0, 0x1C8)},
         {0x16C, "info", Words({1, 0, 0x178})},
         {0x178, "item offset, table header", Words({0x17C, 1, 0, 0x188})},
-        {0x188, "row", Text("PDLType", 32) + Text("PCL6", 32)},
+        {0x188, "row", Text("PDLType", 32) + Text("PCL6 PS3", 32)},
 
         {0x1C8, "MediaColor: items are not chained", EntryBlock("MediaColor", 0, 0x2B0)},
         {0x1FC, "info", Words({1, 0x20C, 0x208})},
@@ -76,6 +66,9 @@ TEST(Layout, SmallModelByteByByte) {
     EXPECT_EQ(built.size(), at);
 }
 
+// Where the first record of a file's first entry lies: behind the header, the entry and one item offset.
+constexpr uint32_t kRecord = 8 + 52 + 12 + 4;
+
 // Fields of the larger records, by the offset that their readers use.
 TEST(Layout, PaperRecord) {
     const std::string built = Build(R"(
@@ -86,9 +79,8 @@ PaperSize:
        set2: [128, 129], margins: [1, 2, 3, 4], set5: [272, 0, 0, 275], text: paper, values: [440, 444],
        shortName: short, longValues: [480, 484, 488], longText: long}
 )");
-    const size_t record = 8 + 52 + 12 + 4;
     const auto expectWord = [&](size_t offset, uint32_t word) {
-        EXPECT_EQ(built.substr(record + offset, 4), Words({word})) << "at " << offset;
+        EXPECT_EQ(built.substr(kRecord + offset, 4), Words({word})) << "at " << offset;
     };
     // clang-format off
     const uint32_t words[][2] = {{16, 9},    {24, 2100},  {28, 2970}, {32, 31},   {36, 32},   {40, 0},
@@ -98,17 +90,17 @@ PaperSize:
     // clang-format on
     for (const auto& [offset, word] : words)
         expectWord(offset, word);
-    expectWord(0, record + 620); // key: "P" and its end
-    expectWord(8, record + 622); // display names: "n", then "s"
-    expectWord(308, record + 626);
-    EXPECT_EQ(built.substr(record + 312, 128), Text("paper", 128));
-    EXPECT_EQ(built.substr(record + 448, 32), Text("short", 32));
-    EXPECT_EQ(built.substr(record + 492, 128), Text("long", 128));
+    expectWord(0, kRecord + 620); // key: "P" and its end
+    expectWord(8, kRecord + 622); // display names: "n", then "s"
+    expectWord(308, kRecord + 626);
+    EXPECT_EQ(built.substr(kRecord + 312, 128), Text("paper", 128));
+    EXPECT_EQ(built.substr(kRecord + 448, 32), Text("short", 32));
+    EXPECT_EQ(built.substr(kRecord + 492, 128), Text("long", 128));
 }
 
 struct RecordCase {
     const char* yaml;
-    size_t offset; // in the first record
+    size_t offset; // from the first record
     std::string bytes;
 };
 
@@ -129,13 +121,23 @@ TEST(Layout, OtherRecords) {
         {"OutPaperSize: {default: K, items: [{key: K, name: n, secondName: s, value: 357, width: 21, "
          "length: 29}]}",
          12, Words({0, 357, 0, 21, 29})},
+        {"PaperOption1: {default: K, items: [{key: K, name: n, value: 200}]}", 12, Words({200, 0, 0, 0})},
+        {"Watermark: {default: K, items: [{key: K, name: n, text: t, font: f, values: [48, 52], "
+         "color: [1, 2, 255], value2: 60, block: [64, 68], value3: 72}]}",
+         48, Words({48, 52, 0xFF0201, 60, 64, 68, 72, 0})},
+        {"Watermark: {default: K, items: [{key: K, name: n, text: t, font: f}]}", 0,
+         Words({kRecord + 80, 0, 0, 0, 0, kRecord + 82, 0, 0, kRecord + 86, 0, 0, kRecord + 90, 0})},
+        {"Text_Destination: {default: Text_DestAuto, items: [{key: Text_DestAuto}]}", 0,
+         Words({kRecord + 16, 0, 0, 0}) + "Text_DestAuto"},
+        {"Text_Destination: {default: Text_DestAuto, items: [{key: Text_DestAuto, name: \"\"}]}", 0,
+         Words({kRecord + 16, 0, kRecord + 30, 0})},
+        {"ImgShiftMFP_BackV: {min: -832, max: 832, default: -1}", 32, Words({0xFFFFFCC0, 832, 0xFFFFFFFF})},
         {"MachineInfo: {items: [{name: M, details: {Engine: 35 ppm}}]}", 0,
-         Text("M", 16) + Words({1, 8 + 52 + 12 + 4 + 24}) + Text("Engine", 16) + Text("35 ppm", 16)},
+         Text("M", 16) + Words({1, kRecord + 24}) + Text("Engine", 16) + Text("35 ppm", 16)},
     };
     // clang-format on
     for (const RecordCase& record : cases)
-        EXPECT_EQ(Build(record.yaml).substr(8 + 52 + 12 + 4 + record.offset, record.bytes.size()),
-                  record.bytes)
+        EXPECT_EQ(Build(record.yaml).substr(kRecord + record.offset, record.bytes.size()), record.bytes)
             << record.yaml;
 }
 

@@ -14,7 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Runs in a folder of its own that holds good.yaml, other.yaml, bad.yaml and good.PRM.
+// Runs in a folder of its own that holds good.yaml, other.yaml, bad.yaml, good.PRM and broken.PRM.
 class Program : public testing::Test {
 protected:
     void SetUp() override {
@@ -24,6 +24,7 @@ protected:
         WriteFileWhole(Path("other.yaml"), "Country: {value: 8}\n");
         WriteFileWhole(Path("bad.yaml"), "Countri: {value: 8}\n");
         WriteFileWhole(Path("good.PRM"), Build(kSmallModel));
+        WriteFileWhole(Path("broken.PRM"), Build(kSmallModel).substr(1));
     }
     void TearDown() override { fs::remove_all(folder); }
 
@@ -54,9 +55,11 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"build bad.yaml -o new.PRM", 1, "", "bad.yaml:1:1: unknown entry 'Countri'"},
         {"build none.yaml -o new.PRM", 2, "", "prmc: cannot read 'none.yaml': No such file or directory"},
         {"build good.yaml -o none/new.PRM", 2, "", "prmc: cannot write beside 'none/new.PRM': No such file"},
-        {"build good.yaml", 2, "", "--output is required"},
+        {"build good.yaml", 2, "", "prmc: --output is required"},
+        {"build good.PRM -o new.PRM", 2, "", "prmc: 'good.PRM' is a binary file, wanted is a model (.yaml)"},
         {"dump good.PRM", 0, "Copies: {min: 1, max: 999, default: 5}\n", ""},
-        {"dump good.yaml", 1, "# Findings on the binary file", ""},
+        {"dump good.yaml", 2, "", "prmc: 'good.yaml' is a model, wanted is a binary file (.PRM)"},
+        {"dump broken.PRM", 1, "# Findings on the binary file", ""},
         {"check good.yaml", 0, "", ""},
         {"check good.PRM", 0, "", ""},
         {"check bad.yaml", 1, "", "bad.yaml:1:1: "},
@@ -64,7 +67,10 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"diff good.PRM good.yaml", 0, "", ""},
         {"diff good.PRM other.yaml", 1, "Copies: only in the first\n", ""},
         {"diff good.PRM bad.yaml", 2, "", "bad.yaml:1:1: "},
-        {"", 2, "", "A subcommand is required"},
+        {"", 2, "", "prmc: no command is given\nCommands are build, dump, check and diff"},
+        {"dmup good.PRM", 2, "", "prmc: there is no command 'dmup'; did you mean 'dump'?\nCommands are"},
+        {"dump --al good.PRM", 2, "", "prmc: there is no option '--al'"},
+        {"dump good.PRM other.PRM", 2, "", "prmc: 'other.PRM' is one file too many"},
         {"--help", 0, "Compiles a printer model's parameter data", ""},
     };
     // clang-format on
@@ -90,7 +96,7 @@ TEST_F(Program, OutputIsWholeOrUntouched) {
     size_t files = 0;
     for ([[maybe_unused]] const auto& file : fs::directory_iterator(folder))
         ++files;
-    EXPECT_EQ(files, 8u); // four to start with, these two and the two outputs: no temporary is left
+    EXPECT_EQ(files, 9u); // five to start with, these two and the two outputs: no temporary is left
 }
 
 } // namespace

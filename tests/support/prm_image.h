@@ -4,8 +4,8 @@
 #define SUPPORT_PRM_IMAGE_H
 
 #include "paramdata/device_table.h"
-#include "paramdata/input_slots.h"
 #include "paramdata/prm_readers.h"
+#include "support/compiled_in.h"
 #include "support/raw_bytes.h"
 
 #include <cstdio>
@@ -57,6 +57,9 @@ struct PrmImage {
         return Entry(name, offsets, offsets.empty() ? 0 : offsets[0]);
     }
 
+    // Gives an entry a default record.
+    void SetDefault(uint32_t entry, uint32_t record) { At<PrmEntryInfo>(entry + 52).defaultRecord = record; }
+
     // What lies at an offset, to overwrite.
     template <typename Record>
     Record& At(uint32_t offset) {
@@ -103,12 +106,16 @@ struct BuiltTable {
     DeviceTable* table;
 };
 
-// Puts the module's input slots back after a test, since building a device table changes them.
+// Puts the module's tables back after a test, since building from a file changes them.
 struct ParameterDataTest : testing::Test {
-    ParameterDataTest() { memcpy(saved, inputSlots, sizeof(saved)); }
-    ~ParameterDataTest() override { memcpy(inputSlots, saved, sizeof(saved)); }
-
-    uint8_t saved[sizeof(inputSlots)];
+    CompiledInTables kept;
 };
+
+// A text of this character, terminated.
+inline std::vector<wchar_t> Repeated(wchar_t character, size_t length) {
+    std::vector<wchar_t> text(length, character);
+    text.push_back(0);
+    return text;
+}
 
 #endif

@@ -1,5 +1,6 @@
 // The workbench as a process: what it writes, where to, and its exit codes. Expected facts are those of the
 // shipped model file. The test's own folders lie beside the test program and are removed at the end.
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -87,6 +88,54 @@ TEST(Workbench, DescribesTheModel) {
         EXPECT_FALSE(list.value().empty()) << list.key() << " is not in the model file";
 }
 
+TEST(Workbench, ShowsTheDefaultSettings) {
+    const Json defaults = RunForJson(L"defaults");
+    const struct { // A4, 210 mm in mils, manual feed, black only, sRGB, hard disk, MS Gothic
+        const char* group;
+        const char* row;
+    } wanted[] = {
+        {"paper", R"({"name": "paper", "offset": 66, "bytes": 2, "value": 9})"},
+        {"paper", R"({"name": "userPaperWidthInches", "offset": 88, "bytes": 4, "value": 8268})"},
+        {"trays", R"({"name": "trays[6]", "offset": 425, "bytes": 43, "key": "InTrayManual", "bin": 4,
+                      "mediaType": 257, "mediaWeight": 0, "mediaColor": 0, "mediaPrePunched": 0})"},
+        {"color", R"({"name": "text.gray", "offset": 2159, "bytes": 1, "value": 2})"},
+        {"color", R"({"name": "textRgbSource", "offset": 2516, "bytes": 2, "value": 1})"},
+        {"profiles", R"({"name": "destinationProfile", "offset": 2338, "bytes": 168, "qualifier": "",
+                         "profile": "", "location": 4})"},
+        {"fontTable", R"({"nameOffset": 3702, "trueTypeName": "\uFF2D\uFF33 \u30B4\u30B7\u30C3\u30AF",
+                          "printerFontOffset": 4593, "printerFont": "HGGothic-Bold", "codeOffset": 4411,
+                          "code": 29, "checksumOffset": 5320, "checksum": 1383})"},
+    };
+    for (const auto& w : wanted) {
+        const Json& rows = defaults[w.group];
+        EXPECT_NE(std::find(rows.begin(), rows.end(), Json::parse(w.row)), rows.end()) << w.row << rows;
+    }
+}
+
+TEST(Workbench, ShowsTheTextsOfTheDialogs) {
+    const Json texts = RunForJson(L"texts");
+    const Json& controls = texts["controlTexts"];
+    EXPECT_EQ(controls["Dlg_ColorSetting"][0]["identifiers"], Json({122, 123, 124, 125, 128}));
+    EXPECT_EQ(controls["Property_0"][14],
+              Json({{"identifiers", {1032}}, {"key", "Default"}, {"text", "Defaults"}}));
+    for (const auto& table : controls.items())
+        for (const Json& row : table.value())
+            EXPECT_NE(row["text"], "") << row["key"] << " has no text in the model file";
+
+    const Json& colors = texts["colorLists"];
+    EXPECT_EQ(Pick(colors["Graph_Halftone"], "value"), Json({3, 4, 0, 1, 2}));
+    EXPECT_EQ(colors["Img_RGBProf"].size(), 16);
+    EXPECT_EQ(Pick(colors["Img_RGBProf short"], "key"), Json({"Img_DeviceRGB", "Img_sRGB"}));
+    EXPECT_EQ(colors["Img_RGBProf short"][1]["name"], "sRGB");
+    EXPECT_EQ(texts["destinations"]["Text_Destination"][0]["key"], "Text_DestAuto");
+
+    EXPECT_EQ(Pick(texts["mediaTypeLists"]["MediaTypeList_Orient"], "value"), Json({1, 2, -1}));
+    EXPECT_EQ(texts["mediaTypeLists"]["MediaTypeList_Hole"].back()["value"], -1);
+    EXPECT_EQ(Pick(texts["mediaTypeColumns"], "title"),
+              Json({"Tray", "Paper size", "Orientation", "Paper type", "Weight", "Colour", "Holes"}));
+    EXPECT_EQ(Pick(texts["mediaTypeColumns"], "shown"), Json(std::vector<bool>(7, true))); // TYPE1
+}
+
 TEST(Workbench, ListsThePaperSourcesThatAreInstalled) {
     std::wstring all = L"capabilities --set OpOutTrayUnit=OpOutTrayUnit1";
     for (const wchar_t* tray : {L"InTray2", L"InTray3", L"InTray4", L"InTray5", L"InTrayLCT"})
@@ -143,6 +192,8 @@ TEST(Workbench, SaysWhatIsWrong) {
         {L"capabilities --set OpInTray3", 2, "workbench: OpInTray3.*=ITEM.*EnaOpInTray3, DisOpInTray3"},
         {L"describe" + empty.Option(), 1, "workbench: .*workbench_empty.*TELMAR_D.DLL.*--folder"},
         {L"describe" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
+        {L"defaults" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
+        {L"texts" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
         {L"describe" + damaged.Option(), 1, "workbench: .*TELMAR_D.PRM.*damaged.*prmc check"},
         {L"capabilities" + foreign.Option(), 1, "workbench: .*TELMAR_D.DLL.*DDProc_DeviceCapabilities"},
     };

@@ -111,12 +111,6 @@ constexpr ColorTables kCompiledIn = {
     {{Item("Simu_4Color", 0), Item("Simu_BandG", 1), Item("Simu_BlackOnly", 2)}},
 };
 
-} // namespace
-
-ColorTables colorTables = kCompiledIn;
-
-namespace {
-
 struct TableDescription {
     const char* entry;
     ItemRecord* items;
@@ -130,9 +124,8 @@ constexpr uint32_t kShortCapacity = 2;
 
 template <size_t Items>
 constexpr TableDescription Table(const char* entry, ItemTable<Items>& table, const ValueRow* values = nullptr,
-                                 Column column = kText, ItemTable<kShortCapacity>* shortTable = nullptr) {
-    return {entry,  table.items, Items, shortTable != nullptr ? shortTable->items : nullptr,
-            values, column,      0};
+                                 Column column = kText, ItemRecord* shortItems = nullptr) {
+    return {entry, table.items, Items, shortItems, values, column, 0};
 }
 
 constexpr TableDescription Destinations(const char* entry, ItemTable<1>& table, uint32_t kind) {
@@ -143,15 +136,15 @@ constexpr TableDescription Destinations(const char* entry, ItemTable<1>& table, 
 // clang-format off
 constexpr TableDescription kTables[] = {
     Table("RGBProf",             colorTables.rgbProfiles),
-    Table("Text_RGBProf",        colorTables.text.rgbProfiles,      kProfileValues,    kText,     &colorTables.text.shortRgbProfiles),
+    Table("Text_RGBProf",        colorTables.text.rgbProfiles,      kProfileValues,    kText,     colorTables.text.shortRgbProfiles.items),
     Table("Text_RGBColorMatch",  colorTables.text.colorMatches,     kColorMatchValues, kText),
     Table("Text_RGBGray",        colorTables.text.grays,            kGrayValues,       kText),
     Table("Text_Halftone",       colorTables.text.halftones,        kHalftoneValues,   kText),
-    Table("Img_RGBProf",         colorTables.image.rgbProfiles,     kProfileValues,    kImage,    &colorTables.image.shortRgbProfiles),
+    Table("Img_RGBProf",         colorTables.image.rgbProfiles,     kProfileValues,    kImage,    colorTables.image.shortRgbProfiles.items),
     Table("Img_RGBColorMatch",   colorTables.image.colorMatches,    kColorMatchValues, kImage),
     Table("Img_RGBGray",         colorTables.image.grays,           kGrayValues,       kImage),
     Table("Img_Halftone",        colorTables.image.halftones,       kHalftoneValues,   kImage),
-    Table("Graph_RGBProf",       colorTables.graphics.rgbProfiles,  kProfileValues,    kGraphics, &colorTables.graphics.shortRgbProfiles),
+    Table("Graph_RGBProf",       colorTables.graphics.rgbProfiles,  kProfileValues,    kGraphics, colorTables.graphics.shortRgbProfiles.items),
     Table("Graph_RGBColorMatch", colorTables.graphics.colorMatches, kColorMatchValues, kGraphics),
     Table("Graph_RGBGray",       colorTables.graphics.grays,        kGrayValues,       kGraphics),
     Table("Graph_Halftone",      colorTables.graphics.halftones,    kHalftoneValues,   kGraphics),
@@ -209,34 +202,41 @@ void Fill(const PrmFile& file, const PrmItems& items, const TableDescription& ta
 }
 
 // Takes the file's items as far as the table knows their keys; the first unknown one ends the list.
-bool RebuildDestinations(const PrmFile& file, const TableDescription& table) {
-    const size_t size = (table.capacity + 1) * sizeof(ItemRecord);
-    auto* known = static_cast<ItemRecord*>(GlobalAlloc(GPTR, size));
-    if (known == nullptr)
-        return false;
-    memcpy(known, table.items, size);
-    PrmItems items = {};
-    const bool found = PrmFindItems(file, table.entry, items);
-    if (found)
-        Clear(table);
-    for (uint32_t i = 0; found && i < items.count && i < table.capacity; ++i) {
+void TakeKnownItems(const PrmFile& file, const PrmItems& items, const ItemRecord* known,
+                    const TableDescription& table) {
+    Clear(table);
+    for (uint32_t i = 0; i < items.count && i < table.capacity; ++i) {
         const PrmItemHead head = ReadHead(file, items, i);
         PrmText key = {};
         PrmReadString(file, head.key, key);
         const ItemRecord* item = FindItem(known, key);
         if (item == nullptr)
-            continue;
+            return;
         table.items[i] = Item(item->head.key, item->head.value);
         if (head.display != 0)
             PrmReadDisplay(file, head.display, table.items[i].display);
         else
             CopyText(table.items[i].display, item->display);
     }
+}
+
+bool RebuildDestinations(const PrmFile& file, const TableDescription& table) {
+    PrmItems items;
+    if (!PrmFindItems(file, table.entry, items))
+        return false;
+    const size_t size = (table.capacity + 1) * sizeof(ItemRecord);
+    auto* known = static_cast<ItemRecord*>(GlobalAlloc(GPTR, size));
+    if (known == nullptr)
+        return false;
+    memcpy(known, table.items, size);
+    TakeKnownItems(file, items, known, table);
     GlobalFree(known);
-    return found;
+    return true;
 }
 
 } // namespace
+
+ColorTables colorTables = kCompiledIn;
 
 const ItemRecord* FindColorItem(const char* entry, const char* key) {
     for (const TableDescription& table : kTables)

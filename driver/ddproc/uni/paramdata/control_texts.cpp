@@ -60,7 +60,7 @@ ControlTextRecord colorDialogTexts[] = {
     {}, // end
 };
 
-// The tray-setting dialogs; the first rows name the template and the columns of the list view.
+// The tray-setting dialogs; -1: the columns of their list view.
 ControlTextRecord trayDialogTexts[] = {
     {{155}, L"", "Dlg_PaperSourceTraySetting"},
     {{1845}, L"", "MediaType_Info"},

@@ -11,8 +11,8 @@ struct PrmFile;
 #pragma pack(push, 1)
 // One row; a table ends at the first empty key.
 struct ControlTextRecord {
-    int32_t
-        identifiers[5]; // a dialog's templates, or a control and four times 0; -1: a list-view column's title
+    // A dialog's templates, or a control and four times 0; -1: a list-view column's title.
+    int32_t identifiers[5];
     wchar_t display[48]; // empty until the file fills it
     char key[32];
 };

@@ -1,7 +1,8 @@
 // Default settings: the compiled-in record, and the steps that take the file's defaults, in their order.
 #include "paramdata/default_settings.h"
 
-#include "paramdata/color_tables.h"
+#include "paramdata/color_defaults.h"
+#include "paramdata/default_fields.h"
 #include "paramdata/feature_lists.h"
 #include "paramdata/font_table.h"
 #include "paramdata/prm_readers.h"
@@ -29,39 +30,6 @@ constexpr OemDevmode CompiledIn() {
     return settings;
 }
 constexpr OemDevmode kCompiledIn = CompiledIn();
-
-// A field of the settings; size 0: none.
-struct Field {
-    uint16_t offset;
-    uint16_t size;
-};
-#define FIELD(name)                                                                                          \
-    { offsetof(OemDevmode, name), sizeof(OemDevmode::name) }
-
-// Writes the low octets of the value.
-void Store(OemDevmode& settings, Field field, uint32_t value) {
-    memcpy(reinterpret_cast<uint8_t*>(&settings) + field.offset, &value, field.size);
-}
-
-// The default record of an entry. False when the entry is missing or has none.
-template <typename Record>
-bool ReadDefault(const PrmFile& file, const char* entry, Record& record) {
-    PrmItems items;
-    if (!PrmFindItems(file, entry, items) || items.defaultRecord == 0)
-        return false;
-    record = {};
-    PrmReadBlock(file, items.defaultRecord, sizeof(record), &record);
-    return true;
-}
-
-// The key of an entry's default item. An empty key names nothing.
-using DefaultKey = char[128];
-bool ReadDefaultKey(const PrmFile& file, const char* entry, DefaultKey& key) {
-    return PrmReadStringValue(file, entry, key, sizeof(key)) && key[0] != 0;
-}
-
-// --- Default records
-// ------------------------------------------------------------------------------------------------
 
 void ApplyPaper(const PrmFile& file, OemDevmode& settings) {
     PrmPaper paper;
@@ -119,11 +87,8 @@ void ApplyRecordDefaults(const PrmFile& file, OemDevmode& settings) {
     }
 }
 
-// --- Ranges
-// ---------------------------------------------------------------------------------------------------------
-
-// A metric value times k / 254, rounded; with k 100 or 1000 tenths of a millimetre become hundredths or
-// thousandths of an inch.
+// A metric value times k / 254, rounded for values from 0 on; a negative one is cut toward zero after the
+// same 127 is added. With k 100 or 1000 tenths of a millimetre become hundredths or thousandths of an inch.
 int32_t Inches(int16_t metric, int32_t k) {
     return (metric * k + 127) / 254;
 }
@@ -165,9 +130,6 @@ void ApplyRangeDefaults(const PrmFile& file, const DeviceTable& table, OemDevmod
     }
 }
 
-// --- Trays and locations
-// --------------------------------------------------------------------------------------------
-
 constexpr struct {
     const char* entry;
     Field field;
@@ -202,12 +164,9 @@ const TextItemRecord* FindDefaultLocation(const PrmFile& file, const char* entry
     return nullptr;
 }
 
-// --- Watermark and resolution
-// ---------------------------------------------------------------------------------------
-
 template <size_t Capacity>
 void CopyDisplay(const PrmFile& file, uint32_t offset, wchar_t (&to)[Capacity]) {
-    to[0] = 0;
+    memset(to, 0, sizeof(to));
     PrmReadDisplay(file, offset, to);
 }
 
@@ -266,90 +225,6 @@ void ApplyResolution(const PrmFile& file, OemDevmode& settings) {
         });
 }
 
-// --- Colour settings
-// ------------------------------------------------------------------------------------------------
-
-constexpr const char* kColorModes[] = {
-    "Color_Auto", "Color_Doc", "Color_Photo", "Color_Presen", "Color_DTP",
-    "Color_Web",  "Color_CAD", "Color_ICM",   "Color_Custom",
-};
-
-void ApplyColorMode(const PrmFile& file, OemDevmode& settings) {
-    DefaultKey key;
-    if (!ReadDefaultKey(file, "ColorSetting", key))
-        return;
-    uint8_t mode = 0;
-    for (const char* name : kColorModes) {
-        if (SameText(name, key))
-            settings.colorMode = mode;
-        ++mode;
-    }
-}
-
-// Entries whose default is the value of an item of the colour table of the same name.
-struct ColorDefault {
-    const char* entry;
-    Field field;
-};
-// clang-format off
-constexpr ColorDefault kTextAndImageDefaults[] = {
-    {"Text_RGBColorMatch",  FIELD(text.colorMatch)},
-    {"Text_Halftone",       FIELD(text.halftone)},
-    {"Text_RGBGray",        FIELD(text.gray)},
-    {"Img_RGBColorMatch",   FIELD(image.colorMatch)},
-    {"Img_Halftone",        FIELD(image.halftone)},
-    {"Img_RGBGray",         FIELD(image.gray)},
-};
-constexpr ColorDefault kGraphicsDefaults[] = {
-    {"Graph_RGBColorMatch", FIELD(graphics.colorMatch)},
-    {"Graph_Halftone",      FIELD(graphics.halftone)},
-    {"Graph_RGBGray",       FIELD(graphics.gray)},
-};
-constexpr ColorDefault kDestinationDefaults[] = {
-    {"Text_Destination",    FIELD(textDestination)},
-    {"Img_Destination",     FIELD(imageDestination)},
-    {"Graph_Destination",   FIELD(graphicsDestination)},
-    {"SimulationProf",      FIELD(simulation)},
-    {"DestinationProf",     FIELD(destination)},
-};
-constexpr ColorDefault kRgbSourceDefault = {"RGBProf", FIELD(rgbSource)};
-constexpr ColorDefault kSimulationGrayDefault = {"Simu_CMYKGray", FIELD(simulationGray)};
-// clang-format on
-
-// Writes the default item's value; null when the file names no item of the table.
-const ItemRecord* ApplyColorDefault(const PrmFile& file, const ColorDefault& row, OemDevmode& settings) {
-    DefaultKey key;
-    if (!ReadDefaultKey(file, row.entry, key))
-        return nullptr;
-    const ItemRecord* item = FindColorItem(row.entry, key);
-    if (item != nullptr)
-        Store(settings, row.field, item->head.value);
-    return item;
-}
-
-template <size_t Count>
-void ApplyColorDefaults(const PrmFile& file, const ColorDefault (&rows)[Count], OemDevmode& settings) {
-    for (const ColorDefault& row : rows)
-        ApplyColorDefault(file, row, settings);
-}
-
-// The RGB source of one kind of object, with its name as the table holds it now.
-void ApplyRgbSource(const PrmFile& file, const ColorDefault& row, ProfileEntry& profile,
-                    OemDevmode& settings) {
-    if (const ItemRecord* item = ApplyColorDefault(file, row, settings))
-        CopyText(profile.qualifier, item->display);
-}
-
-// A field that is 1 when the entry's default is this item, 0 when it is any other.
-void ApplyChoice(const PrmFile& file, const char* entry, const char* itemKey, uint8_t& field) {
-    DefaultKey key;
-    if (PrmReadStringValue(file, entry, key, sizeof(key)))
-        field = SameText(key, itemKey) ? 1 : 0;
-}
-
-// --- What follows from other settings
-// -------------------------------------------------------------------------------
-
 void ApplyExcelJobCtrl(const PrmFile& file, DeviceTable& table) {
     PrmTabPaper option;
     table.excelJobCtrl = ReadDefault(file, "ExcelJobCtrl", option) ? option.value : 1;
@@ -391,6 +266,7 @@ void DeriveCoverPrint(const DeviceTable& table, OemDevmode& settings) {
 
 } // namespace
 
+// Aligned for its UTF-16 fields, which the packed record itself does not promise.
 alignas(8) OemDevmode defaultSettings = kCompiledIn;
 
 void ApplyLocationDefault(const PrmFile& file, const char* entry, const TextItemRecord* list,
@@ -419,21 +295,15 @@ void BuildDefaultSettings(const PrmFile& file, DeviceTable& table) {
     ApplyTraySelections(file, settings);
     ApplyLocationDefault(file, "OvlForm_Location", table.overlayLocations, settings);
     ApplyWatermark(file, table, settings);
-    ApplyColorMode(file, settings);
-    ApplyColorDefaults(file, kTextAndImageDefaults, settings);
-    ApplyChoice(file, "Graphics", "Graph_MatchImage", settings.graphicsFollow);
-    ApplyColorDefaults(file, kGraphicsDefaults, settings);
+    ApplyColorModeDefault(file, settings);
+    ApplyObjectColorDefaults(file, settings);
     ApplyResolution(file, settings);
-    ApplyColorDefault(file, kRgbSourceDefault, settings);
-    ApplyRgbSource(file, {"Text_RGBProf", FIELD(textRgbSource)}, settings.textRgbProfile, settings);
-    ApplyRgbSource(file, {"Img_RGBProf", FIELD(imageRgbSource)}, settings.imageRgbProfile, settings);
-    ApplyRgbSource(file, {"Graph_RGBProf", FIELD(graphicsRgbSource)}, settings.graphicsRgbProfile, settings);
+    ApplyRgbSourceDefaults(file, settings);
     ApplyLocationDefault(file, "Prof_Location", table.profileLocations, settings);
-    ApplyColorDefaults(file, kDestinationDefaults, settings);
+    ApplyProfileDefaults(file, settings);
     if (const TextItemRecord* location = FindDefaultLocation(file, "Prof_Location", table.profileLocations))
         settings.profileLocation = location->head.value;
-    ApplyChoice(file, "MatchPaperColor", "MatchPaperColorON", settings.matchPaperColor);
-    ApplyColorDefault(file, kSimulationGrayDefault, settings);
+    ApplySimulationDefaults(file, settings);
     FillFontTable(settings);
     ApplyExcelJobCtrl(file, table);
     DeriveBinding(table, settings);

@@ -9,7 +9,8 @@
 extern OemDevmode defaultSettings;
 
 // Writes the file's defaults into `defaultSettings` and the spreadsheet job control into the table. The
-// colour tables must still be as compiled in. What the file says nothing of stays as it was.
+// colour tables must still be as compiled in. Defaults that the file lacks stay as they were; fonts and what
+// follows from other settings (binding, tray papers, cover printing) are written in any case.
 void BuildDefaultSettings(const PrmFile& file, DeviceTable& table);
 
 // Writes the value of the list item that is the entry's default into the location fields: for

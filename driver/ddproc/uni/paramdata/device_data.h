@@ -12,7 +12,8 @@ extern DeviceTable* deviceTable;
 extern MediaTypeLists* mediaTypeLists;
 
 // Reads TELMAR_D.PRM beside the module into the two above, the default settings, the control texts and the
-// colour tables. Whatever the file lacks stays as compiled in.
+// colour tables. What the file lacks stays as compiled in, but for the graphics RGB sources, which are then
+// none.
 void InitDeviceData(HINSTANCE module);
 
 // Releases the device table and the media type lists.

@@ -28,7 +28,8 @@ struct TrayPaperDefault {
     uint8_t mediaPrePunched;
 };
 static_assert(sizeof(TrayPaperDefault) == 43 && offsetof(TrayPaperDefault, bin) == 32
-              && offsetof(TrayPaperDefault, mediaType) == 36
+              && offsetof(TrayPaperDefault, mediaType) == 36 && offsetof(TrayPaperDefault, mediaWeight) == 38
+              && offsetof(TrayPaperDefault, mediaColor) == 40
               && offsetof(TrayPaperDefault, mediaPrePunched) == 42);
 
 // Colour treatment of one kind of object: item values.
@@ -38,7 +39,8 @@ struct ObjectColor {
     uint8_t gray;
     uint8_t reserved;
 };
-static_assert(sizeof(ObjectColor) == 4);
+static_assert(sizeof(ObjectColor) == 4 && offsetof(ObjectColor, halftone) == 1
+              && offsetof(ObjectColor, gray) == 2);
 
 constexpr size_t kTrayPaperDefaultCount = 10;
 constexpr size_t kFontSlotCount = 27;

@@ -109,8 +109,8 @@ static_assert(sizeof(PrmOutputPaper) == 320 && offsetof(PrmOutputPaper, value) =
               && offsetof(PrmOutputPaper, width) == 24 && offsetof(PrmOutputPaper, length) == 28
               && offsetof(PrmOutputPaper, secondDisplay) == 308 && offsetof(PrmOutputPaper, values) == 312);
 
-// Geometry sets and margins are stored with the device table's paper sizes; each counts only when its flag is
-// not 0.
+// In the device table's paper sizes a geometry set, and the margins, count only when their flag is not 0; the
+// default settings take the margins in any case.
 struct PrmPaper {
     PrmItemHead head;
     uint8_t unread1[4];

@@ -1,0 +1,41 @@
+// What the builders of the default settings share: fields of the record as rows of tables, and the default of
+// an entry. For default_settings.cpp and color_defaults.cpp only.
+#ifndef PARAMDATA_DEFAULT_FIELDS_H
+#define PARAMDATA_DEFAULT_FIELDS_H
+
+#include "paramdata/oem_devmode.h"
+#include "paramdata/prm_readers.h"
+
+#include <cstring>
+
+// A field of the settings; size 0: none.
+struct Field {
+    uint16_t offset;
+    uint16_t size;
+};
+#define FIELD(name)                                                                                          \
+    { offsetof(OemDevmode, name), sizeof(OemDevmode::name) }
+
+// Writes the low octets of the value.
+inline void Store(OemDevmode& settings, Field field, uint32_t value) {
+    memcpy(reinterpret_cast<uint8_t*>(&settings) + field.offset, &value, field.size);
+}
+
+// The default record of an entry. False when the entry is missing, has none, or has it
+// beyond the end of the file.
+template <typename Record>
+bool ReadDefault(const PrmFile& file, const char* entry, Record& record) {
+    PrmItems items;
+    if (!PrmFindItems(file, entry, items) || items.defaultRecord == 0)
+        return false;
+    record = {};
+    return PrmReadRecord(file, items.defaultRecord, record);
+}
+
+// The key of an entry's default item; it may be empty, which names no item of any list.
+using DefaultKey = char[128];
+inline bool ReadDefaultKey(const PrmFile& file, const char* entry, DefaultKey& key) {
+    return PrmReadStringValue(file, entry, key, sizeof(key));
+}
+
+#endif

@@ -1,0 +1,436 @@
+// The built-in default settings: the compiled-in record, and each step that takes the file's defaults. The
+// record is looked at by raw offset, all 7808 bytes of it in every case.
+#include "support/prm_image.h"
+
+namespace {
+
+constexpr unsigned kFiller = 0x5A; // in every byte before the build, to tell a written 0 from none
+
+struct Written {
+    size_t position;
+    unsigned width;
+    uint32_t value; // its low bytes
+};
+using Writes = std::vector<Written>;
+
+RawBytes Write(RawBytes record, const Writes& writes) {
+    for (const Written& w : writes)
+        for (unsigned i = 0; i < w.width; ++i)
+            record.U8(w.position + i, w.value >> 8 * i & 0xFF);
+    return record;
+}
+
+// The font substitution table and the byte before it, whatever was there; the byte at 5297 stays.
+RawBytes WithFonts(RawBytes record) {
+    const struct {
+        const char *trueType, *printer;
+        unsigned code, checksum; // the checksum is the sum of the name's bytes
+    } fonts[] = {
+        // clang-format off
+        {"Arial",           "Arial",           5,  489},
+        {"Courier New",     "Courier",         11, 1059},
+        {"Times New Roman", "Times New Roman", 23, 1385},
+        {"Symbol",          "Symbol",          20, 630},
+        {"Wingdings",       "Wingdings",       26, 938},
+        {"\x82\x6C\x82\x72\x20\x83\x53\x83\x56\x83\x62\x83\x4E",         "HGGothic-Bold",   29, 1383},
+        {"\x82\x6C\x82\x72\x20\x82\x6F\x83\x53\x83\x56\x83\x62\x83\x4E", "HGPGothic-Bold",  30, 1624},
+        {"\x82\x6C\x82\x72\x20\x96\xBE\x92\xA9",                         "HGMincho-Light",  31, 1169},
+        {"\x82\x6C\x82\x72\x20\x82\x6F\x96\xBE\x92\xA9",                 "HGPMincho-Light", 32, 1410},
+        // clang-format on
+    };
+    record.U8(3541, 0, 5297 - 3541).U8(5298, 0, 2 + 27 * 4).U16(5298, 9);
+    for (const auto& font : fonts) {
+        const auto i = static_cast<size_t>(&font - fonts);
+        record.Text(3542 + 32 * i, font.trueType).Text(4433 + 32 * i, font.printer);
+        record.U8(4406 + i, font.code).U32(5300 + 4 * i, font.checksum);
+    }
+    return record;
+}
+
+RawBytes CompiledIn() {
+    const Writes fields = {{66, 2, 9},  {68, 2, 2100}, {70, 2, 2970}, {72, 2, 43},   {74, 2, 43},
+                           {76, 2, 43}, {78, 2, 43},   {96, 2, 357},  {98, 2, 2100}, {100, 2, 2970},
+                           {120, 2, 7}, {122, 2, 257}, {160, 2, 257}, {598, 2, 1},   {2165, 1, 1}};
+    return WithFonts(Write(RawBytes(7808), fields));
+}
+
+// What follows from other settings when the file says nothing: binding edge, equal shifts, cover print.
+const Writes kDerived = {{1395, 1, 14}, {1396, 1, 1}, {1478, 1, 4}, {1483, 1, 4}};
+
+RawBytes Filled() {
+    return Write(WithFonts(RawBytes(7808).U8(0, kFiller, 7808)), kDerived);
+}
+
+struct DefaultsTest : ParameterDataTest {
+    // Builds from the image over the settings as they are.
+    void Build(const PrmImage& image) {
+        OpenedImage file(image);
+        DeviceTable* table = BuildDeviceTable(*file);
+        ASSERT_NE(table, nullptr);
+        BuildDefaultSettings(*file, *table);
+        excelJobCtrl = NumberAt<uint32_t>(table, 630);
+        FreeDeviceTable(table);
+    }
+    // How the build from the image over filler differs from filler with these fields written.
+    std::string Compare(const PrmImage& image, const Writes& writes) {
+        return Compare(image, Write(Filled(), writes));
+    }
+    std::string Compare(const PrmImage& image, const RawBytes& expected) {
+        kept.Restore();
+        memset(&defaultSettings, kFiller, sizeof(defaultSettings));
+        Build(image);
+        return Differences(&defaultSettings, expected);
+    }
+
+    uint32_t excelJobCtrl = 0;
+};
+
+TEST_F(DefaultsTest, CompiledInAndAFileThatSaysNothing) {
+    EXPECT_EQ(Differences(&defaultSettings, CompiledIn()), "");
+    Build(PrmImage());
+    EXPECT_EQ(Differences(&defaultSettings, Write(CompiledIn(), kDerived)), "");
+    EXPECT_EQ(excelJobCtrl, 1u);
+    EXPECT_EQ(Compare(PrmImage(), Writes()), "") << "the fonts are written always";
+}
+
+TEST_F(DefaultsTest, Papers) {
+    const struct {
+        const char* what;
+        uint32_t outputPaper; // value of its default record; 0: no entry
+        bool paper;           // with an entry for the paper
+        Writes writes;        // over the compiled-in record
+    } cases[] = {
+        {"same as the paper", 357, true, {{98, 2, 4200}, {100, 2, 2971}}},
+        {"same as the compiled-in paper", 357, false, {}},
+        {"of its own", 8, true, {{96, 2, 8}, {98, 2, 1111}, {100, 2, 2222}}},
+        {"not in the file", 0, true, {}},
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        const RawBytes paper = RawBytes(620).U32(12, 77).U32(16, 0x10008).U32(24, 4200).U32(28, 2971);
+        const RawBytes output = RawBytes(320).U32(12, 77).U32(24, 1111).U32(28, 2222);
+        if (c.paper) // flag 3 at 288 is 0: the margins count all the same
+            image.Entry("PaperSize", {}, 0,
+                        image.Put(RawBytes(paper).U32(136, 1).U32(140, 2).U32(144, 3).U32(148, 0x10004)));
+        if (c.outputPaper != 0)
+            image.Entry("OutPaperSize", {}, 0, image.Put(RawBytes(output).U32(16, c.outputPaper)));
+        kept.Restore();
+        Build(image);
+        RawBytes expected = Write(CompiledIn(), kDerived);
+        if (c.paper)
+            expected.U16(66, 8).U16(68, 4200).U16(70, 2971).U16(72, 1).U16(74, 2).U16(76, 3).U16(78, 4);
+        EXPECT_EQ(Differences(&defaultSettings, Write(expected, c.writes)), "") << c.what;
+    }
+}
+
+TEST_F(DefaultsTest, DefaultRecords) {
+    constexpr uint32_t kValue = 0x81828384;
+    const struct {
+        const char* entry;
+        Writes writes;
+    } cases[] = {
+        {"MediaType", {{122, 2, kValue}, {160, 2, kValue}}},
+        {"MediaWeight", {{162, 2, kValue}}},
+        {"MediaColor", {{164, 2, kValue}}},
+        {"MediaPrePunched", {{166, 1, kValue}}},
+        {"InTray", {{120, 2, kValue}}},
+        {"Collate", {{600, 1, kValue}}},
+        {"PaperOption1", {{744, 1, kValue}}},
+        {"PaperOption2", {{745, 1, kValue}}},
+        {"Staple", {{1457, 1, kValue}}},
+        {"HolePunch", {{1459, 1, kValue}}},
+        {"Folding", {{1466, 1, kValue}}},
+        {"Combination", {{1470, 1, kValue}}},
+        {"OutputTray", {{1460, 2, kValue}}},
+        {"OutputOrder", {{1462, 1, kValue}}},
+        {"ExcelJobCtrl", {}},
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        image.Entry(c.entry, {}, 0, image.Put(RawBytes(156).U8(0, 0xAB, 156).U32(12, kValue)));
+        EXPECT_EQ(Compare(image, c.writes), "") << c.entry;
+        EXPECT_EQ(excelJobCtrl, std::string(c.entry) == "ExcelJobCtrl" ? kValue : 1) << c.entry;
+    }
+}
+
+TEST_F(DefaultsTest, Ranges) {
+    const auto negative = [](int value) { return static_cast<uint32_t>(value); };
+    const struct {
+        const char* entry;
+        uint32_t value;
+        const char* figureType;
+        Writes writes;
+    } cases[] = {
+        // clang-format off
+        {"Copies",             0x12345,        "", {{598, 2, 0x2345}}},
+        {"UserPaper_Width",    2970,           "", {{81, 2, 2970}, {103, 2, 2970}, {88, 4, 1169}, {108, 4, 1169}, {7699, 2, 2970}}},
+        {"UserPaper_Width",    2970,        "MFP", {{81, 2, 2970}, {103, 2, 2970}, {88, 4, 11693}, {108, 4, 11693}, {7699, 2, 2970}}},
+        {"UserPaper_Width",    negative(-10),  "", {{81, 2, 65526}, {103, 2, 65526}, {88, 4, negative(-3)}, {108, 4, negative(-3)}, {7699, 2, 65526}}},
+        {"UserPaper_Length",   32767,       "MFP", {{83, 2, 32767}, {105, 2, 32767}, {92, 4, 129004}, {112, 4, 129004}, {7701, 2, 32767}}},
+        {"UserPaper_Length",   negative(-1),   "", {{83, 2, 65535}, {105, 2, 65535}, {92, 4, 0}, {112, 4, 0}, {7701, 2, 65535}}},
+        {"BindShift_Front",    50,             "", {{1396, 1, 0}, {1398, 2, 50}, {1402, 2, 197}}},
+        {"BindShift_Front",    negative(-50),  "", {{1396, 1, 0}, {1398, 2, 65486}, {1402, 2, negative(-196)}}},
+        {"BindShift_Front",    0x5A5A,         "", {{1398, 2, 0x5A5A}, {1402, 2, 91063}}}, // as the shift of the back
+        {"BindShift_Back",     1,           "MFP", {{1396, 1, 0}, {1400, 2, 1}, {1404, 2, 4}}},
+        {"ImgShiftMFP_FrontH", 5,              "", {{1412, 2, 50}, {1420, 2, 197}}},
+        {"ImgShiftMFP_FrontV", negative(-5),   "", {{1414, 2, 65486}, {1422, 2, negative(-196)}}},
+        {"ImgShiftMFP_BackH",  4000,           "", {{1430, 2, 40000}, {1438, 2, negative(-100534)}}}, // 16 bits: -25536
+        {"ImgShiftMFP_BackV",  1,              "", {{1432, 2, 10}, {1440, 2, 39}}},
+        {"DivideFinish",       0x10007,        "", {{1472, 2, 7}}},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        image.Range(c.entry, 111, 222, c.value);
+        image.Table("PaperSizeFigure", std::string("FigureType=") + c.figureType);
+        EXPECT_EQ(Compare(image, c.writes), "") << c.entry << " " << c.value;
+    }
+}
+
+// Colour keys are looked up in what is compiled in.
+TEST_F(DefaultsTest, DefaultKeys) {
+    const struct {
+        const char *entry, *key;
+        Writes writes;
+    } cases[] = {
+        // clang-format off
+        {"FCoverTray",          "FCover_Tray3",      {{1480, 2, 259}}},
+        {"FCoverTray",          "BCover_Tray3",      {}},
+        {"FCoverTray",          "",                  {}}, // many sources have no key there
+        {"BCoverTray",          "bcover_lct",        {{1484, 2, 1000}}},
+        {"PIFrontCover",        "PIFTray2",          {{1491, 2, 1002}}},
+        {"PIBackCover",         "PIBTray1",          {{1494, 2, 1001}}},
+        {"OHPIntTray",          "OHPInt_Manual",     {{1488, 2, 4}}},
+        {"SeparatePageTray",    "SPage_Tray1",       {}},
+        {"ColorSetting",        "Color_",            {}},
+        {"Text_RGBColorMatch",  "Text_Match",        {{2157, 1, 3}}},
+        {"Text_RGBColorMatch",  "Img_Match",         {}},
+        {"Text_Halftone",       "Text_UltraDetai",   {{2158, 1, 0}}},
+        {"Text_Halftone",       "Text_UltraDetail",  {}},
+        {"Text_Halftone",       "",                  {}},
+        {"Text_RGBGray",        "text_BLACKonly",    {{2159, 1, 2}}},
+        {"Img_RGBColorMatch",   "Img_Proof",         {{2153, 1, 2}}},
+        {"Img_Halftone",        "Img_Smooth",        {{2154, 1, 2}}},
+        {"Img_RGBGray",         "Img_BandG",         {{2155, 1, 1}}},
+        {"Graphics",            "Graph_MatchImage",  {{2165, 1, 1}}},
+        {"Graphics",            "Graph_MatchText",   {{2165, 1, 0}}},
+        {"Graphics",            "Graph_Match",       {{2165, 1, 0}}},
+        {"Graph_RGBColorMatch", "Graph_Photographic", {{2161, 1, 1}}},
+        {"Graph_Halftone",      "Graph_HalftoneImage", {{2162, 1, 4}}},
+        {"Graph_RGBGray",       "Graph_4Color",      {{2163, 1, 0}}},
+        {"RGBProf",             "sRGB",              {{2512, 2, 1}}},
+        {"RGBProf",             "Text_sRGB",         {}},
+        {"Text_Destination",    "Text_DestAuto",     {{3024, 2, 0}}},
+        {"Img_Destination",     "Img_DestAuto",      {{3026, 2, 0}}},
+        {"Graph_Destination",   "Graph_DestAuto",    {{3028, 2, 0}}},
+        {"Graph_Destination",   "Text_DestAuto",     {}},
+        {"SimulationProf",      "Simu_DIC",          {{2166, 2, 5}}},
+        {"DestinationProf",     "Dest_Auto",         {{2336, 2, 0}}},
+        {"MatchPaperColor",     "MatchPaperColorON", {{3534, 1, 1}}},
+        {"MatchPaperColor",     "MatchPaperColorOFF", {{3534, 1, 0}}},
+        {"Simu_CMYKGray",       "Simu_BandG",        {{3536, 2, 1}}},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        image.StringValue(c.entry, c.key);
+        EXPECT_EQ(Compare(image, c.writes), "") << c.entry << " " << c.key;
+    }
+    uint32_t mode = 0;
+    for (const std::string& name : Split("Auto doc Photo Presen DTP Web CAD ICM Custom", ' ')) {
+        PrmImage image;
+        image.StringValue("ColorSetting", "Color_" + name);
+        EXPECT_EQ(Compare(image, Writes{{2095, 1, mode++}}), "") << name;
+    }
+}
+
+TEST_F(DefaultsTest, RgbSourcesTakeTheNameThatTheTableHolds) {
+    const struct {
+        const char *entry, *key;
+        ItemRecord& item;
+        size_t value, name;
+    } cases[] = {
+        {"Text_RGBProf", "Text_BlueAdjust", colorTables.text.rgbProfiles.items[15], 2516, 2520},
+        {"Img_RGBProf", "Img_BlueAdjust", colorTables.image.rgbProfiles.items[15], 2514, 2688},
+        {"Graph_RGBProf", "Graph_BlueAdjust", colorTables.graphics.rgbProfiles.items[15], 2518, 2856},
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        image.StringValue(c.entry, c.key);
+        kept.Restore();
+        memset(&defaultSettings, kFiller, sizeof(defaultSettings));
+        memcpy(c.item.display, Repeated(L'x', 47).data(), sizeof(c.item.display));
+        Build(image);
+        const RawBytes expected =
+            Filled().U16(c.value, 141).Wide(c.name, Repeated(L'x', 40).data()).U16(c.name + 80, 0);
+        EXPECT_EQ(Differences(&defaultSettings, expected), "") << c.entry;
+    }
+}
+
+TEST_F(DefaultsTest, Locations) {
+    const struct {
+        const char *entry, *key;
+        Writes writes;
+    } cases[] = {
+        // clang-format off
+        {"OvlForm_Location", "hdd", {{2088, 4, 0x10203}}},
+        {"Prof_Location",    "HDD", {{2684, 4, 0x10203}, {2852, 4, 0x10203}, {3020, 4, 0x10203}, {2332, 4, 0x10203},
+                                     {2502, 4, 0x10203}, {2508, 4, 0x10203}}},
+        {"OvlForm_Location", "HD",  {}},
+        {"Prof_Location",    "",    {}},
+        {"OutputMethod",     "HDD", {}},
+        // clang-format on
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        const uint32_t entry = image.Items<PrmTextItem>(
+            c.entry, {image.WithText("Memory", L"", 7, ""), image.WithText("HDD", L"", 0x10203, "")});
+        image.SetDefault(entry, image.Put(RawBytes(16).U32(0, image.Text(c.key))));
+        EXPECT_EQ(Compare(image, c.writes), "") << c.entry << c.key;
+        if (std::string(c.entry) == "OutputMethod") { // not an entry with a location, though it has the list
+            const BuiltTable built(image);
+            const auto* list = reinterpret_cast<const TextItemRecord*>(built.List(698));
+            RawBytes record(7808);
+            ApplyLocationDefault(*OpenedImage(image), c.entry, list,
+                                 *reinterpret_cast<OemDevmode*>(record.bytes.data()));
+            EXPECT_EQ(Differences(record.bytes.data(), RawBytes(7808)), "");
+        }
+    }
+}
+
+// A watermark whose every field tells its number.
+RawBytes Watermark(PrmImage& image, const std::string& key, uint32_t i) {
+    const auto text = [&](size_t length) {
+        return image.Wide(Repeated(static_cast<wchar_t>(L'a' + i), length).data());
+    };
+    RawBytes record = RawBytes(80).U8(0, 0xAB, 80).U32(0, image.Text(key)).U32(20, text(40));
+    record.U32(32, text(200)).U32(44, text(40)).U32(48, 0xFFFF1000 + i).U32(52, 0xFFFF2000 + i);
+    record.U32(56, 0xC0B0A0 + i).U32(60, 0xFFFF3000 + i).U8(64, 0x64 + i, 8).U32(72, 0xFFFF4000 + i);
+    return record;
+}
+
+TEST_F(DefaultsTest, Watermarks) {
+    constexpr int kNone = -1;
+    const struct {
+        const char *what, *keys, *defaultKey, *colorDevice;
+        int position, fields; // of the watermark that gives the position, and of the one that gives the rest
+    } cases[] = {
+        {"in another case", "WM_None WM_A WM_B", "wm_a", "TRUE", 1, 1},
+        {"black only", "WM_None WM_A WM_B", "WM_B", "FALSE", 2, 2},
+        {"two of one key", "WM_A WM_B WM_A", "WM_A", "TRUE", 2, 2},
+        {"none", "WM_A WM_None WM_NONE", "wm_none", "TRUE", 2, kNone},
+        {"unknown key", "WM_None WM_AA", "WM_A", "TRUE", kNone, kNone},
+        {"empty key", "WM_A  WM_B", "", "TRUE", kNone, kNone},
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        image.Table("DevInfo", std::string("ColorDevice=") + c.colorDevice);
+        std::vector<uint32_t> offsets;
+        for (const std::string& key : Split(c.keys, ' '))
+            offsets.push_back(image.Put(Watermark(image, key, static_cast<uint32_t>(offsets.size()))));
+        image.Entry("Watermark", offsets, 0, image.Put(Watermark(image, c.defaultKey, 9)));
+
+        RawBytes expected = Filled();
+        if (c.position != kNone)
+            expected.U16(1500, static_cast<unsigned>(c.position));
+        if (c.fields != kNone) {
+            const auto i = static_cast<unsigned>(c.fields);
+            const auto character = static_cast<wchar_t>(L'a' + i);
+            expected.Wide(1534, Repeated(character, 31).data()).U16(1596, 0);
+            expected.Wide(1598, Repeated(character, 128).data()).U16(1854, 0);
+            expected.Wide(1856, Repeated(character, 31).data()).U16(1918, 0);
+            expected.U16(1920, 0x1000 + i).U16(1922, 0x2000 + i);
+            expected.U32(1924, c.colorDevice[0] == 'T' ? 0xC0B0A0 + i : 0x808080);
+            expected.U16(1928, 0x3000 + i).U8(1930, 0x64 + i, 8).U16(1946, 0x4000 + i);
+        }
+        EXPECT_EQ(Compare(image, expected), "") << c.what;
+    }
+}
+
+TEST_F(DefaultsTest, Resolutions) {
+    const Writes second = {{2136, 1, 1}, {2138, 2, 21}, {2140, 2, 22}, {2142, 2, 23}};
+    const struct {
+        const char *second, *defaultKey;
+        int number; // behind the second key's fifth character; -1: nothing is written
+    } cases[] = {
+        {"Res2_1200x600", "res2_1200X600", 1200},
+        {"600x1x42", "600x1x42", 42},
+        {"12345", "12345", 0},
+        {"Res_2", "Res_", -1},
+        {"", "", -1},
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        std::vector<uint32_t> offsets;
+        for (const char* key : {"Res_1", c.second, "Res_3"}) {
+            const auto i = static_cast<uint32_t>(10 + 10 * offsets.size());
+            const RawBytes record = RawBytes(32).U32(12, 77).U32(16, 77).U32(20, 0x10001 + i).U32(24, 2 + i);
+            offsets.push_back(image.Put(RawBytes(record).U32(0, image.Text(key)).U32(28, 3 + i)));
+        }
+        image.Entry("Resolution", offsets, 0, image.Put(RawBytes(32).U32(0, image.Text(c.defaultKey))));
+        Writes writes = c.number < 0 ? Writes() : second;
+        if (c.number >= 0)
+            writes.push_back({2144, 2, static_cast<uint32_t>(c.number)});
+        EXPECT_EQ(Compare(image, writes), "") << c.second << " " << c.defaultKey;
+    }
+}
+
+TEST_F(DefaultsTest, BindingEdgeAndCoverPrint) {
+    for (const bool fourEdges : {false, true}) {
+        PrmImage image;
+        image.Table("FeatureSetting",
+                    fourEdges ? "BindingEdge=4Bind;FCoverPrint=Driver" : "BCoverPrint=Driver");
+        const unsigned cover = fourEdges ? 1 : 4;
+        for (unsigned before = 0; before < 20; ++before) {
+            const unsigned edge = fourEdges ? (before == 10 || before == 11 ? before : 10)
+                                            : (before >= 14 && before <= 17 ? before : 14);
+            kept.Restore();
+            reinterpret_cast<uint8_t*>(&defaultSettings)[1395] = static_cast<uint8_t>(before);
+            Build(image);
+            const Writes writes = {{1395, 1, edge}, {1396, 1, 1}, {1478, 1, cover}, {1483, 1, cover}};
+            EXPECT_EQ(Differences(&defaultSettings, Write(CompiledIn(), writes)), "") << fourEdges << before;
+        }
+    }
+}
+
+TEST_F(DefaultsTest, PaperInEachTray) {
+    const struct {
+        const char *what, *trays, *automatic, *slots;
+    } cases[] = {
+        {"the automatic choice is no tray", "InTray1=257;Any=7;InTray2=258", "7", "InTray1=257;InTray2=258"},
+        {"bin of the automatic choice from the file", "A=7;B=301;C=0;D=301", "301", "A=7;C=0"},
+        {"ten slots", "Any=7;A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11;K=12", "7",
+         "A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11"},
+    };
+    for (const auto& c : cases) {
+        PrmImage image;
+        const auto number = [](const std::string& text) { return static_cast<uint32_t>(std::stoul(text)); };
+        std::vector<PrmMediaItem> trays;
+        for (const std::string& tray : Split(c.trays, ';')) {
+            const std::vector<std::string> parts = Split(tray, '=');
+            trays.push_back(image.Media(parts[0], L"", number(parts[1]), 1, ""));
+        }
+        image.Items("InTray", trays);
+        image.Items<PrmMediaItem>("ALL_InTray", {image.Media("InTrayAuto", L"", number(c.automatic), 1, "")});
+        RawBytes expected = Write(CompiledIn(), kDerived);
+        expected.U16(122, 0x1234).U16(160, 0x1234).U16(162, 0x2345).U16(164, 0x3456).U8(166, 0x78);
+        for (const auto& [entry, value] :
+             {std::pair("MediaType", 0x1234u), std::pair("MediaWeight", 0x2345u),
+              std::pair("MediaColor", 0x3456u), std::pair("MediaPrePunched", 0x78u)})
+            image.Entry(entry, {}, 0, image.Put(RawBytes(156).U32(12, value)));
+        kept.Restore();
+        size_t at = 167;
+        for (const std::string& slot : Split(c.slots, ';')) {
+            const std::vector<std::string> parts = Split(slot, '=');
+            expected.Text(at, parts[0]).U32(at + 32, number(parts[1])).U16(at + 36, 0x1234);
+            expected.U16(at + 38, 0x2345).U16(at + 40, 0x3456).U8(at + 42, 0x78);
+            at += 43;
+        }
+        expected.U8(at, kFiller, 598 - at); // slots without a tray stay
+        memset(reinterpret_cast<uint8_t*>(&defaultSettings) + at, kFiller, 598 - at);
+        Build(image);
+        EXPECT_EQ(Differences(&defaultSettings, expected), "") << c.what;
+    }
+}
+
+} // namespace

@@ -1,0 +1,165 @@
+// Media type lists, the texts that they take from the file, and the rules which of the dialog's columns show.
+#include "trays/media_type_lists.h"
+
+#include "support/prm_image.h"
+
+namespace {
+
+struct MediaTypeListsTest : ParameterDataTest {};
+
+// A device table by raw offset, with lists at its pointers' positions.
+struct RawTable : RawBytes {
+    RawTable() : RawBytes(818) {}
+    void Point(size_t position, const RawBytes& list) {
+        const void* pointer = list.bytes.data();
+        memcpy(&bytes[position], &pointer, sizeof(pointer));
+    }
+    const DeviceTable* Table() const { return reinterpret_cast<const DeviceTable*>(bytes.data()); }
+};
+
+RawBytes Item(const std::string& key, uint32_t value, const wchar_t* display) {
+    return RawBytes(144).U32(0, 144).Text(4, key).U32(36, value).U16(44, 32515).Wide(48, display);
+}
+
+void AddTexts(PrmImage& image, const std::string& entry, const std::string& keys, const wchar_t* display) {
+    std::vector<PrmItemDescriptor> items;
+    for (const std::string& key : Split(keys, ' '))
+        items.push_back(image.Plain(key, display));
+    image.Items(entry, items);
+}
+
+// The positions of the device table's lists and their records: name, room for it, record size.
+const struct {
+    const char* entry;
+    size_t position, recordSize, displayRoom;
+} kLists[] = {{"MediaTypeList_Size", 390, 1004, 48}, {"MediaTypeList_Orient", 0, 0, 0},
+              {"MediaTypeList_Type", 574, 240, 32},  {"MediaTypeList_Weight", 598, 240, 32},
+              {"MediaTypeList_Color", 606, 240, 32}, {"MediaTypeList_Hole", 674, 240, 32}};
+
+// What the lists hold: the table's two records, the second with neither key nor name terminated, then the
+// texts of the file; and without records, without texts.
+TEST_F(MediaTypeListsTest, RecordsAndThenTexts) {
+    for (const bool records : {false, true})
+        for (const bool texts : {false, true}) {
+            RawTable table;
+            PrmImage image;
+            std::vector<RawBytes> lists, expected;
+            lists.reserve(std::size(kLists)); // the table points into them
+            for (const auto& list : kLists) {
+                const std::string entry = list.entry;
+                RawBytes wanted(0);
+                if (records && list.position != 0) {
+                    RawBytes from(3 * list.recordSize);
+                    from.Text(4, entry).U32(36, 0x10001).U32(40, 9).U16(44, 9).U16(46, 9).Wide(48, L"A4");
+                    from.Text(list.recordSize + 4, std::string(32, 'k')).U32(list.recordSize + 36, 7);
+                    from.Wide(list.recordSize + 48, Repeated(L'x', list.displayRoom).data());
+                    from.U16(list.recordSize + 48 + 2 * list.displayRoom, L'y');
+                    lists.push_back(from);
+                    table.Point(list.position, lists.back());
+                    wanted.Append(Item(entry, 0x10001, L"A4"));
+                    const size_t length = list.displayRoom == 48 ? 47 : 32;
+                    wanted.Append(Item(std::string(31, 'k'), 7, Repeated(L'x', length).data()));
+                }
+                const std::string unknown = entry + "_Unknown";
+                if (texts && list.position == 0) {
+                    AddTexts(image, entry, unknown + " mediatypelist_LANDSCAPE MediaTypeList_Portrait", L"T");
+                    wanted.Append(Item("MediaTypeList_Portrait", 1, L"T"));
+                    wanted.Append(Item("MediaTypeList_Landscape", 2, L"T"));
+                } else if (texts) {
+                    AddTexts(image, entry, "Other " + unknown, Repeated(L'T', 60).data());
+                }
+                const auto name = Repeated(L'T', list.position == 0 ? 1 : 47);
+                if (texts)
+                    wanted.Append(Item(unknown, 0xFFFFFFFF, name.data()));
+                expected.push_back(wanted.Append(RawBytes(144)));
+            }
+            MediaTypeLists* built = BuildMediaTypeLists(OpenedImage(image).file, table.Table());
+            ASSERT_NE(built, nullptr);
+            for (size_t i = 0; i < std::size(kLists); ++i)
+                EXPECT_EQ(Differences(built->lists[i], expected[i]), "")
+                    << kLists[i].entry << records << texts;
+            FreeMediaTypeLists(built);
+        }
+}
+
+TEST_F(MediaTypeListsTest, AMissingTextLeavesNoGap) {
+    PrmImage image;
+    AddTexts(image, "MediaTypeList_Orient", "MediaTypeList_Portrait MediaTypeList_Orient_Unknown", L"");
+    AddTexts(image, "MediaTypeList_Size", "MediaTypeList_Size_Unknown_", L"Longer key");
+    PrmImage other;
+    AddTexts(other, "MediaTypeList_Orient", "MediaTypeList_Landscape", L"Across");
+    const RawTable table;
+    for (const bool withLandscape : {false, true}) {
+        const OpenedImage file(withLandscape ? other : image);
+        MediaTypeLists* built = BuildMediaTypeLists(file.file, table.Table());
+        ASSERT_NE(built, nullptr);
+        const RawBytes none(144), one = Item("MediaTypeList_Landscape", 2, L"Across").Append(none);
+        EXPECT_EQ(Differences(built->lists[1], withLandscape ? one : none), "");
+        EXPECT_EQ(Differences(built->lists[0], none), "");
+        FreeMediaTypeLists(built);
+    }
+    const OpenedImage file(image);
+    EXPECT_EQ(BuildMediaTypeLists(nullptr, table.Table()), nullptr);
+    EXPECT_EQ(BuildMediaTypeLists(file.file, nullptr), nullptr);
+    FreeMediaTypeLists(nullptr);
+}
+
+TEST_F(MediaTypeListsTest, ItemTexts) {
+    const std::string key127(127, 'k'), key128(128, 'k');
+    PrmImage image;
+    const auto text = [&](const std::string& key, const wchar_t* display) {
+        return image.Plain(key, display);
+    };
+    const uint32_t entry = image.Items<PrmItemDescriptor>(
+        "List", {text("Keys", L"longer"), text("Key", L"Text"), text("KEY", L"later"), text("Empty", L""),
+                 text("Empty", L"later"), text(key127, L"127"), text(key128, L"128"), text("Beyond", L"x")});
+    --image.At<PrmEntryInfo>(entry + 52).itemCount;
+    image.Entry("NoItems", {}, image.At<PrmEntry>(entry).firstItem);
+    const OpenedImage opened(image);
+    const struct {
+        const char *entry, *key;
+        size_t capacity;
+        const wchar_t* text; // null: there is none
+    } cases[] = {
+        {"List", "Key", 8, L"Text"},         {"LIST", "kEY", 8, L"Text"},
+        {"List", "Key", 5, L"Text"},         {"List", "Key", 4, L"Tex"},
+        {"List", "Key", 1, nullptr},         {"List", "Ke", 8, nullptr},
+        {"List", "Empty", 8, nullptr},       {"List", "Beyond", 8, nullptr},
+        {"NoItems", "Key", 8, nullptr},      {"Missing", "Key", 8, nullptr},
+        {nullptr, "Key", 8, nullptr},        {"List", nullptr, 8, nullptr},
+        {"List", key127.c_str(), 8, L"127"}, {"List", key128.c_str(), 8, nullptr},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        RawBytes got = RawBytes(18).U8(0, 0x5A, 18), expected = got;
+        EXPECT_EQ(PrmGetItemText(*opened.file, c.entry, c.key, reinterpret_cast<wchar_t*>(got.bytes.data()),
+                                 c.capacity),
+                  c.text != nullptr);
+        if (c.entry != nullptr && c.key != nullptr) // the whole buffer is cleared, nothing behind it
+            expected.U8(0, 0, 2 * c.capacity).Wide(0, c.text != nullptr ? c.text : L"");
+        EXPECT_EQ(Differences(got.bytes.data(), expected), "");
+    }
+    EXPECT_FALSE(PrmGetItemText(*opened.file, "List", "Key", nullptr, 8));
+}
+
+TEST_F(MediaTypeListsTest, ColumnsThatShow) {
+    const bool shown[][3] = {{true, true, true},
+                             {true, true, true},
+                             {false, true, true},
+                             {false, false, false},
+                             {true, true, true}}; // by type: weight, colour, hole
+    for (uint32_t type = 0; type < 5; ++type)
+        for (uint32_t flags = 0; flags < 8; ++flags) {
+            RawTable table;
+            table.U32(4 * 83, type)
+                .U32(4 * 18, flags & 1)
+                .U32(4 * 19, flags >> 1 & 1)
+                .U32(4 * 20, flags >> 2);
+            EXPECT_EQ(MediaWeightShown(table.Table()), shown[type][0] ? flags & 1 : 0) << type << flags;
+            EXPECT_EQ(MediaColorShown(table.Table()), shown[type][1] ? flags >> 1 & 1 : 0) << type << flags;
+            EXPECT_EQ(MediaHoleShown(table.Table()), shown[type][2] ? flags >> 2 : 0) << type << flags;
+        }
+    EXPECT_EQ(MediaWeightShown(nullptr) + MediaColorShown(nullptr) + MediaHoleShown(nullptr), 0u);
+}
+
+} // namespace
