@@ -5,6 +5,29 @@
 
 // clang-format off
 
+// Tray selections: the paper sources that each offers
+constexpr const char* kFrontCoverKeys[] = {
+    "FCover_Auto", "FCover_Tray1", "FCover_Tray2", "FCover_Tray3", "FCover_Tray4", "FCover_Tray5",
+    "FCover_Manual", "FCover_LCT",
+};
+constexpr const char* kBackCoverKeys[] = {
+    "BCover_Auto", "BCover_Tray1", "BCover_Tray2", "BCover_Tray3", "BCover_Tray4", "BCover_Tray5",
+    "BCover_Manual", "BCover_LCT",
+};
+constexpr const char* kSeparatorKeys[] = {
+    "SPage_Auto", "SPage_Tray1", "SPage_Tray2", "SPage_Tray3", "SPage_Tray4", "SPage_Tray5", "SPage_Manual",
+};
+constexpr const char* kInterleaveKeys[] = {
+    "OHPInt_Tray1", "OHPInt_Tray2", "OHPInt_Tray3", "OHPInt_Tray4", "OHPInt_Tray5", "OHPInt_Manual",
+    "OHPInt_LCT",
+};
+constexpr const char* kInserterFrontKeys[] = {"PIFTray1", "PIFTray2"};
+constexpr const char* kInserterBackKeys[] = {"PIBTray1", "PIBTray2"};
+constexpr const char* kPerPageSourceKeys[] = {
+    "PPSTraySameAsBody", "PPSTray1", "PPSTray2", "PPSTray3", "PPSTray4", "PPSTray5", "PPSMANUAL",
+    "PPSPITray1", "PPSPITray2", "PPSLCT",
+};
+
 // Colour settings
 constexpr const char* kColorModeKeys[] = {
     "Color_Auto", "Color_Doc", "Color_Photo", "Color_Presen", "Color_DTP", "Color_Web", "Color_CAD",

@@ -17,6 +17,7 @@ constexpr Limits kU8     = {0, UINT8_MAX};
 constexpr Limits kU16    = {0, UINT16_MAX};
 constexpr Limits kU32    = {0, UINT32_MAX};
 constexpr Limits kS16    = {INT16_MIN, INT16_MAX};
+constexpr Limits kS32    = {INT32_MIN, INT32_MAX};
 constexpr Limits kPlus16 = {0, INT16_MAX};
 // Shifts in tenths of a millimetre, and in millimetres: the settings keep them in signed 16 bits as
 // thousandths of an inch too.
@@ -112,7 +113,7 @@ constexpr Field kWatermarkFields[] = {
     {"values",     T::kNumbers, false, offsetof(PrmWatermark, values1),  2,  kU16},
     {"color",      T::kNumbers, false, offsetof(PrmWatermark, color),    3,  kU8,  0, 1},
     {"value2",     T::kNumbers, false, offsetof(PrmWatermark, value2),   1,  kU16},
-    {"block",      T::kNumbers, false, offsetof(PrmWatermark, block),    2,  kU32},
+    {"block",      T::kNumbers, false, offsetof(PrmWatermark, block),    2,  kS32},
     {"value3",     T::kNumbers, false, offsetof(PrmWatermark, value3),   1,  kU16},
 };
 constexpr Field kTableFields[] = {
@@ -220,13 +221,13 @@ constexpr EntryRow kEntries[] = {
     {"ExcelJobCtrl",               &kOption,     47,  kU32,    true},
     {"Watermark",                  &kWatermark,  0,   kNone,   true},
     // Tray selections.
-    {"FCoverTray",                 &kPlain,      47,  kNone,   true},
-    {"BCoverTray",                 &kPlain,      47,  kNone,   true},
-    {"SeparatePageTray",           &kPlain,      47,  kNone,   false},
-    {"OHPIntTray",                 &kPlain,      47,  kNone,   true},
-    {"PIFrontCover",               &kPlain,      47,  kNone,   true},
-    {"PIBackCover",                &kPlain,      47,  kNone,   true},
-    {"PerPageListPaperSrc",        &kPlain,      47,  kNone,   false},
+    {"FCoverTray",                 &kPlain,      47,  kNone,   true,  kFrontCoverKeys},
+    {"BCoverTray",                 &kPlain,      47,  kNone,   true,  kBackCoverKeys},
+    {"SeparatePageTray",           &kPlain,      47,  kNone,   false, kSeparatorKeys},
+    {"OHPIntTray",                 &kPlain,      47,  kNone,   true,  kInterleaveKeys},
+    {"PIFrontCover",               &kPlain,      47,  kNone,   true,  kInserterFrontKeys},
+    {"PIBackCover",                &kPlain,      47,  kNone,   true,  kInserterBackKeys},
+    {"PerPageListPaperSrc",        &kPlain,      47,  kNone,   false, kPerPageSourceKeys},
     // Colour settings.
     {"ColorSetting",               &kPlain,      47,  kNone,   true,  kColorModeKeys},
     {"Graphics",                   &kPlain,      47,  kNone,   true,  kGraphicsKeys},

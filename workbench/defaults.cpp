@@ -15,7 +15,7 @@ struct SettingsField {
     const char* name;
     size_t offset;
     size_t bytes;
-    Document (*show)(const void* at); // an object stands for the fields of a record
+    Document (*show)(const void* at);
 };
 
 // A value or a text that lies there, at any address.
@@ -26,33 +26,17 @@ Document ShowAt(const void* at) {
     return ToDocument(value);
 }
 
-template <const auto& kFields>
-Document ShowRecord(const void* at) {
-    Document record;
-    AddFields(kFields, at, record);
-    return record;
-}
-
-constexpr Field kProfile[] = {
-    {"qualifier", Show<&ProfileEntry::qualifier>},
-    {"profile", Show<&ProfileEntry::name>},
-    {"location", Show<&ProfileEntry::location>},
-};
-
-constexpr Field kTray[] = {
-    {"key", Show<&TrayPaperDefault::key>},
-    {"bin", Show<&TrayPaperDefault::bin>},
-    {"mediaType", Show<&TrayPaperDefault::mediaType>},
-    {"mediaWeight", Show<&TrayPaperDefault::mediaWeight>},
-    {"mediaColor", Show<&TrayPaperDefault::mediaColor>},
-    {"mediaPrePunched", Show<&TrayPaperDefault::mediaPrePunched>},
-};
-
-#define RECORD(group, field, show)                                                                           \
-    { group, #field, offsetof(OemDevmode, field), sizeof(OemDevmode::field), show }
-#define VALUE(group, field) RECORD(group, field, ShowAt<decltype(OemDevmode::field)>)
-#define PROFILE(field)      RECORD("profiles", field, ShowRecord<kProfile>)
-#define TRAY(slot)          RECORD("trays", trays[slot], ShowRecord<kTray>)
+#define VALUE(group, field)                                                                                  \
+    {                                                                                                        \
+        group, #field, offsetof(OemDevmode, field), sizeof(OemDevmode::field),                               \
+            ShowAt<decltype(OemDevmode::field)>                                                              \
+    }
+#define PROFILE(field)                                                                                       \
+    VALUE("profiles", field.qualifier), VALUE("profiles", field.name), VALUE("profiles", field.location)
+#define TRAY(slot)                                                                                           \
+    VALUE("trays", trays[slot].key), VALUE("trays", trays[slot].bin), VALUE("trays", trays[slot].mediaType), \
+        VALUE("trays", trays[slot].mediaWeight), VALUE("trays", trays[slot].mediaColor),                     \
+        VALUE("trays", trays[slot].mediaPrePunched)
 
 // Every field, in the order of the record within a group. The font table follows them.
 constexpr SettingsField kFields[] = {
@@ -172,16 +156,6 @@ constexpr SettingsField kFields[] = {
     VALUE("fonts", fontCount),
 };
 
-Document FieldRow(const SettingsField& field, const OemDevmode& settings) {
-    Document row = {{"name", field.name}, {"offset", field.offset}, {"bytes", field.bytes}};
-    const Document value = field.show(reinterpret_cast<const uint8_t*>(&settings) + field.offset);
-    if (value.is_object())
-        row.update(value);
-    else
-        row["value"] = value;
-    return row;
-}
-
 // The slots in use, with the offset of each of their parts.
 Document FontTable(const OemDevmode& settings) {
     constexpr UINT kJapanese = 932; // code page of the names
@@ -204,7 +178,11 @@ Document Defaults(const FamilyFiles& family) {
     Document document;
     document["files"] = FamilyDocument(family);
     for (const SettingsField& field : kFields)
-        document[field.group].push_back(FieldRow(field, defaultSettings));
+        document[field.group].push_back(
+            {{"name", field.name},
+             {"offset", field.offset},
+             {"bytes", field.bytes},
+             {"value", field.show(reinterpret_cast<const uint8_t*>(&defaultSettings) + field.offset)}});
     document["fontTable"] = FontTable(defaultSettings);
     return document;
 }

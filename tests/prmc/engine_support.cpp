@@ -10,7 +10,7 @@
 
 const char* const kSmallModel = R"(
 Copies: {min: 1, max: 999, default: 5}
-PIFrontCover:
+OpInTrayUnit:
   default: B
   items:
     - {key: A, name: é}

@@ -31,7 +31,7 @@ TEST(Layout, SmallModelByteByByte) {
         {0x048, "numeric block: 36 the lower bound, 40 the upper, 44 the default",
          Words({0, 0, 0, 0, 0, 0, 0, 0, 0, 1, 999, 5})},
 
-        {0x078, "PIFrontCover: item chain", EntryBlock("PIFrontCover", 0xC0, 0xEC)},
+        {0x078, "OpInTrayUnit: item chain", EntryBlock("OpInTrayUnit", 0xC0, 0xEC)},
         {0x0AC, "info: the second item is the default", Words({2, 0xD0, 0xB8})},
         {0x0B8, "item offsets", Words({0xC0, 0xD0})},
         {0x0C0, "item A", Words({0xE0, 0, 0xE4, 0xD0})},

@@ -31,34 +31,34 @@ const Damage kDamages[] = {
     {0x038, Words({0x290}),      "the next entry at 0x290 reaches outside the file"},
     {0x038, Words({0x4C}),       "the next entry at 0x4C overlaps another block"},
     // Items
-    {0x0AC, Words({0xFFFFFFFF}), "'PIFrontCover': 4294967295 items can't be in a file of this size"},
-    {0x0AC, Words({150}),        "'PIFrontCover': the item offset array at 0xB8 reaches outside the file"},
-    {0x0B4, Words({0x78}),       "'PIFrontCover': the item offset array at 0x78 overlaps another block"},
-    {0x0B8, Words({0xFFFFFFF0}), "'PIFrontCover': item 0 at 0xFFFFFFF0 reaches outside the file"},
-    {0x0BC, Words({0xC0}),       "'PIFrontCover': item 1 at 0xC0 overlaps another block"},
-    {0x0CC, Words({0xC0}),       "'PIFrontCover': the item chain leads to 0xC0, item 1 is at 0xD0"},
-    {0x098, Words({0}),          "'PIFrontCover': the item chain leads to 0x0, item 0 is at 0xC0"},
+    {0x0AC, Words({0xFFFFFFFF}), "'OpInTrayUnit': 4294967295 items can't be in a file of this size"},
+    {0x0AC, Words({150}),        "'OpInTrayUnit': the item offset array at 0xB8 reaches outside the file"},
+    {0x0B4, Words({0x78}),       "'OpInTrayUnit': the item offset array at 0x78 overlaps another block"},
+    {0x0B8, Words({0xFFFFFFF0}), "'OpInTrayUnit': item 0 at 0xFFFFFFF0 reaches outside the file"},
+    {0x0BC, Words({0xC0}),       "'OpInTrayUnit': item 1 at 0xC0 overlaps another block"},
+    {0x0CC, Words({0xC0}),       "'OpInTrayUnit': the item chain leads to 0xC0, item 1 is at 0xD0"},
+    {0x098, Words({0}),          "'OpInTrayUnit': the item chain leads to 0x0, item 0 is at 0xC0"},
     {0x120, Words({0}),          "'Country': country has one record, not 0"},
     {0x16C, Words({2}),          "'DevInfo': name/value table has one record, not 2"},
     {0x17C, Words({1000}),       "'DevInfo': the block of 1000 rows at 0x188 reaches outside the file"},
     {0x184, Words({0x17C}),      "'DevInfo': the block of 1 rows at 0x17C overlaps another block"},
-    {0x0B0, Words({0xFFFF0000}), "'PIFrontCover': the default record at 0xFFFF0000 reaches outside the file"},
-    {0x0B0, Words({0}),          "'PIFrontCover' needs 'default: KEY': the settings start from it"},
+    {0x0B0, Words({0xFFFF0000}), "'OpInTrayUnit': the default record at 0xFFFF0000 reaches outside the file"},
+    {0x0B0, Words({0}),          "'OpInTrayUnit' needs 'default: KEY': the settings start from it"},
     // Texts
-    {0x0C0, Words({0}),          "'PIFrontCover': the key is missing"},
-    {0x0C0, Words({0x2B0}),      "'PIFrontCover': the key at 0x2B0 lies outside the file"},
-    {0x0C0, Words({0x7C}),       "'PIFrontCover': the text at 0x7C overlaps a block"},
+    {0x0C0, Words({0}),          "'OpInTrayUnit': the key is missing"},
+    {0x0C0, Words({0x2B0}),      "'OpInTrayUnit': the key at 0x2B0 lies outside the file"},
+    {0x0C0, Words({0x7C}),       "'OpInTrayUnit': the text at 0x7C overlaps a block"},
     {0x0C0, Words({0xE2}),       "key 'B' occurs twice: remove one"},
-    {0x0C8, Words({0x2AF}),      "'PIFrontCover': the display name at 0x2AF has no terminator"},
-    {0x0C8, Words({0xFFFFFFFF}), "'PIFrontCover': the display name at 0xFFFFFFFF lies outside the file"},
-    {0x0E4, std::string("\x00\xD8", 2), "'PIFrontCover': the display name at 0xE4 is not well-formed UTF-16"},
+    {0x0C8, Words({0x2AF}),      "'OpInTrayUnit': the display name at 0x2AF has no terminator"},
+    {0x0C8, Words({0xFFFFFFFF}), "'OpInTrayUnit': the display name at 0xFFFFFFFF lies outside the file"},
+    {0x0E4, std::string("\x00\xD8", 2), "'OpInTrayUnit': the display name at 0xE4 is not well-formed UTF-16"},
     {0x188, std::string(32, 'x'), "'DevInfo': the text 'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx' has no terminator"},
     {0x21C, "\xFF",           "text 'ÿ' has a character other than ASCII: only names can have it"},
     // What a model can't hold
     {0x000, Words({1}),          "note: the header's first word is not 0 and is lost"},
-    {0x0A0, Words({1}),          "note: 'PIFrontCover': bytes that no reader reads are not 0 and are lost"},
-    {0x0C4, Words({1}),          "note: 'PIFrontCover': bytes that no reader reads are not 0 and are lost"},
-    {0x0DC, Words({1}),          "note: 'PIFrontCover': bytes that no reader reads are not 0 and are lost"},
+    {0x0A0, Words({1}),          "note: 'OpInTrayUnit': bytes that no reader reads are not 0 and are lost"},
+    {0x0C4, Words({1}),          "note: 'OpInTrayUnit': bytes that no reader reads are not 0 and are lost"},
+    {0x0DC, Words({1}),          "note: 'OpInTrayUnit': bytes that no reader reads are not 0 and are lost"},
     {0x048, Words({1}),          "note: 'Copies': bytes that no reader reads are not 0 and are lost"},
     {0x1A0, "x",              "note: 'DevInfo': bytes that no reader reads are not 0 and are lost"},
     {0x0EC, "Kountry",        "note: unknown entry 'Kountry' is left out"},
@@ -89,7 +89,7 @@ TEST(PrmDamage, DefaultRecordOfItsOwn) {
     Messages messages;
     const Model model = FromPrm(bytes, messages);
     EXPECT_EQ(messages,
-              Messages{"note: 'PIFrontCover': the default is a record of its own; only its key is kept"});
+              Messages{"note: 'OpInTrayUnit': the default is a record of its own; only its key is kept"});
     EXPECT_EQ(model.entries.at(1).defaultItem, 0u);
 }
 

@@ -29,7 +29,7 @@ TEST(RoundTrip, ShippedModel) {
 TEST(RoundTrip, DumpIsMadeForPeople) {
     EXPECT_EQ(DumpOf(Build(kSmallModel)), R"(Copies: {min: 1, max: 999, default: 5}
 
-PIFrontCover:
+OpInTrayUnit:
   default: B
   items:
     - {key: A, name: "é"}

@@ -34,8 +34,8 @@ const Fault kFaults[] = {
      "5:13: key 'w' occurs twice: remove one"},
     {"MediaTypeList_Tray: {itmes: []}", "1:22: a list has no field 'itmes'; did you mean 'items'?\n"
                                         "1:1: 'items' is missing: 'MediaTypeList_Tray' is a list"},
-    {"PIFrontCover: {items: [{key: A, name: n}]}",
-     "1:1: 'PIFrontCover' needs 'default: KEY': the settings start from it"},
+    {"OpInTrayUnit: {items: [{key: A, name: n}]}",
+     "1:1: 'OpInTrayUnit' needs 'default: KEY': the settings start from it"},
     {Color("{key: Grey, name: n, value: 1}", "Gray"),
      "2:12: default 'Gray' names no item; did you mean 'Grey'?"},
 

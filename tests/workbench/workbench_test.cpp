@@ -90,18 +90,17 @@ TEST(Workbench, DescribesTheModel) {
 
 TEST(Workbench, ShowsTheDefaultSettings) {
     const Json defaults = RunForJson(L"defaults");
-    const struct { // A4, 210 mm in mils, manual feed, black only, sRGB, hard disk, MS Gothic
+    const struct { // A4, 210 mm in mils, manual feed, black only, sRGB, flash memory, MS Gothic
         const char* group;
         const char* row;
     } wanted[] = {
         {"paper", R"({"name": "paper", "offset": 66, "bytes": 2, "value": 9})"},
         {"paper", R"({"name": "userPaperWidthInches", "offset": 88, "bytes": 4, "value": 8268})"},
-        {"trays", R"({"name": "trays[6]", "offset": 425, "bytes": 43, "key": "InTrayManual", "bin": 4,
-                      "mediaType": 257, "mediaWeight": 0, "mediaColor": 0, "mediaPrePunched": 0})"},
+        {"trays", R"({"name": "trays[6].key", "offset": 425, "bytes": 32, "value": "InTrayManual"})"},
+        {"trays", R"({"name": "trays[6].mediaType", "offset": 461, "bytes": 2, "value": 257})"},
         {"color", R"({"name": "text.gray", "offset": 2159, "bytes": 1, "value": 2})"},
         {"color", R"({"name": "textRgbSource", "offset": 2516, "bytes": 2, "value": 1})"},
-        {"profiles", R"({"name": "destinationProfile", "offset": 2338, "bytes": 168, "qualifier": "",
-                         "profile": "", "location": 4})"},
+        {"profiles", R"({"name": "destinationProfile.location", "offset": 2502, "bytes": 4, "value": 5})"},
         {"fontTable", R"({"nameOffset": 3702, "trueTypeName": "\uFF2D\uFF33 \u30B4\u30B7\u30C3\u30AF",
                           "printerFontOffset": 4593, "printerFont": "HGGothic-Bold", "codeOffset": 4411,
                           "code": 29, "checksumOffset": 5320, "checksum": 1383})"},
