@@ -116,10 +116,8 @@ constexpr struct {
 
 void ApplyRangeDefaults(const PrmFile& file, const DeviceTable& table, OemDevmode& settings) {
     for (const auto& row : kRangeDefaults) {
-        PrmItems items;
-        uint32_t values[3] = {};
-        if (!PrmFindItems(file, row.entry, items)
-            || !PrmReadRange(file, items.entry + uint64_t{sizeof(PrmEntry) + sizeof(PrmEntryInfo)}, values))
+        uint32_t values[3];
+        if (!PrmReadEntryRange(file, row.entry, values))
             continue;
         const auto metric = static_cast<int16_t>(static_cast<int16_t>(values[2]) * row.unit);
         const int32_t inches = Inches(metric, row.byFigureType && table.figureType != 1 ? 100 : 1000);

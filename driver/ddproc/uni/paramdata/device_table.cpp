@@ -19,10 +19,8 @@ struct Range {
 
 // Ranges A and B of an entry's numeric block; zeros when the file lacks it.
 Range ReadRange(const PrmFile& file, const char* entry) {
-    PrmItems items;
     uint32_t values[3] = {};
-    if (PrmFindItems(file, entry, items))
-        PrmReadRange(file, items.entry + uint64_t{sizeof(PrmEntry) + sizeof(PrmEntryInfo)}, values);
+    PrmReadEntryRange(file, entry, values);
     return {static_cast<uint16_t>(values[0]), static_cast<uint16_t>(values[1])};
 }
 

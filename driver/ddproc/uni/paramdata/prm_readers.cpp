@@ -77,6 +77,12 @@ bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items) {
     return true;
 }
 
+bool PrmReadEntryRange(const PrmFile& file, const char* name, uint32_t (&values)[3]) {
+    PrmItems items;
+    return PrmFindItems(file, name, items)
+           && PrmReadRange(file, items.entry + uint64_t{sizeof(PrmEntry) + sizeof(PrmEntryInfo)}, values);
+}
+
 uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t position) {
     uint32_t offset = 0;
     PrmReadDword(file, items.offsets + uint64_t{sizeof(offset)} * position, offset);

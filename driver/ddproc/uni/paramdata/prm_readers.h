@@ -75,6 +75,10 @@ struct PrmItems {
 // than the file could hold counts as missing.
 bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items);
 
+// The range of an entry, as PrmReadRange: its block lies behind the entry and its info. False, and the values
+// untouched, when the entry or a field is missing.
+bool PrmReadEntryRange(const PrmFile& file, const char* name, uint32_t (&values)[3]);
+
 // Offset of the item at this position; 0 beyond the end of the file.
 uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t position);
 
