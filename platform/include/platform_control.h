@@ -53,6 +53,12 @@ void RegisterLibrary(const wchar_t* path, std::initializer_list<Export> exports 
 // What GetModuleFileNameW answers for every module; before, it fails.
 void SetModuleFileName(const wchar_t* path);
 
+// Version of the system: platform family and major number.
+void SetVersion(DWORD id, DWORD major);
+
+// Without a separator at its end. "C:\\Windows\\system32" before a test sets another.
+void SetSystemDirectory(const wchar_t* path);
+
 } // namespace platform
 
 #endif

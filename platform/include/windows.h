@@ -50,6 +50,8 @@
 #define LMEM_ZEROINIT 0x0040u
 #define LPTR          (LMEM_FIXED | LMEM_ZEROINIT)
 
+#define VER_PLATFORM_WIN32_NT 2
+
 #define DC_BINS       6
 #define DC_DUPLEX     7
 #define DC_BINNAMES   12
@@ -62,6 +64,7 @@ using WORD = uint16_t;
 using DWORD = uint32_t;
 using UINT = uint32_t;
 using LONG = int32_t;
+using INT = int32_t;
 using INT_PTR = intptr_t;
 using SIZE_T = size_t;
 using WCHAR = wchar_t;
@@ -77,10 +80,24 @@ using HMODULE = HINSTANCE;
 using FARPROC = INT_PTR(WINAPI*)();
 static_assert(sizeof(WCHAR) == 2 && sizeof(void*) == 8);
 
+struct OSVERSIONINFOW {
+    DWORD dwOSVersionInfoSize;
+    DWORD dwMajorVersion;
+    DWORD dwMinorVersion;
+    DWORD dwBuildNumber;
+    DWORD dwPlatformId;
+    WCHAR szCSDVersion[128];
+};
+static_assert(sizeof(OSVERSIONINFOW) == 276);
+
 extern "C" {
 
 DWORD WINAPI GetLastError();
 void WINAPI SetLastError(DWORD error);
+
+// What the test has set, or else version 6.1 of the NT family with its directory.
+BOOL WINAPI GetVersionExW(OSVERSIONINFOW* version);
+UINT WINAPI GetSystemDirectoryW(LPWSTR path, UINT capacity);
 
 // Only a library that a test has registered by just this path loads. Each load counts one reference.
 HMODULE WINAPI LoadLibraryW(LPCWSTR path);

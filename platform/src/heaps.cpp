@@ -75,6 +75,7 @@ void Reset() {
     ResetFiles();
     ResetHeaps();
     ResetModules();
+    ResetSystem();
 }
 
 Counts Count() {

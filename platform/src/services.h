@@ -7,6 +7,7 @@ namespace platform {
 void ResetFiles();
 void ResetHeaps();
 void ResetModules();
+void ResetSystem();
 
 // Current numbers for Count().
 int LiveFiles();
