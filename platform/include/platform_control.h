@@ -5,7 +5,12 @@
 
 #include <windows.h>
 
+#include <cstdint>
+#include <functional>
 #include <initializer_list>
+#include <map>
+#include <string>
+#include <vector>
 
 namespace platform {
 
@@ -20,6 +25,8 @@ struct Counts {
     int localBlocks;
     int files;
     int libraryReferences;
+    int sockets;
+    int socketUses;        // WSAStartup without its WSACleanup
     unsigned allocations;  // of both heaps, failed ones included
     size_t allocatedBytes; // sum of all that succeeded
 };
@@ -58,6 +65,40 @@ void SetVersion(DWORD id, DWORD major);
 
 // Without a separator at its end. "C:\\Windows\\system32" before a test sets another.
 void SetSystemDirectory(const wchar_t* path);
+
+using Datagram = std::vector<uint8_t>;
+
+// The network between Windows Sockets and an agent, as a test scripts it. Errors are those of Windows
+// Sockets; 0: the call succeeds.
+struct Wire {
+    int startupError = 0;
+    WORD versionGranted = 0x0101;
+    int socketError = 0;
+    int connectError = 0;
+    int optionError = 0;
+    unsigned failingSend = 0; // the send of this number fails (1: the first); 0: none
+    std::map<std::string, std::vector<uint32_t>> hosts; // addresses by name, in network order
+    unsigned pollsUntilSeen = 0;                        // that many polls after a send see nothing yet
+    // What comes back for a datagram; without it nothing does.
+    std::function<std::vector<Datagram>(const Datagram& sent)> answer;
+};
+
+// Sockets reach nothing but this wire until the reset.
+void SetWire(const Wire& wire);
+
+// What has gone over the wire.
+struct WireRecord {
+    std::vector<Datagram> sent;
+    unsigned polls;
+    unsigned receives;
+    uint32_t address; // of the last connection, network order
+    uint16_t port;
+    DWORD receiveLimit; // ms, as set; 0: none
+};
+WireRecord ReadWire();
+
+// Without a wire: connections to one UDP port of the host go to another.
+void RedirectPort(uint16_t port, uint16_t to);
 
 } // namespace platform
 

@@ -75,6 +75,7 @@ void Reset() {
     ResetFiles();
     ResetHeaps();
     ResetModules();
+    ResetSockets();
     ResetSystem();
 }
 
@@ -82,6 +83,8 @@ Counts Count() {
     Counts now = counts;
     now.files = LiveFiles();
     now.libraryReferences = LiveLibraryReferences();
+    now.sockets = LiveSockets();
+    now.socketUses = LiveSocketUses();
     return now;
 }
 

@@ -7,11 +7,14 @@ namespace platform {
 void ResetFiles();
 void ResetHeaps();
 void ResetModules();
+void ResetSockets();
 void ResetSystem();
 
 // Current numbers for Count().
 int LiveFiles();
 int LiveLibraryReferences();
+int LiveSockets();
+int LiveSocketUses();
 
 } // namespace platform
 

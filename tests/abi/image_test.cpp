@@ -53,7 +53,7 @@ const std::set<std::set<WORD>> kSharedEntryPoints = {{26, 28}, {34, 35}};
 // Libraries of the system that the module may be bound to when it is loaded.
 const std::set<std::string> kSystemLibraries = {"advapi32.dll", "comctl32.dll", "gdi32.dll",
                                                 "kernel32.dll", "msvcrt.dll",   "user32.dll",
-                                                "version.dll",  "winspool.drv"};
+                                                "version.dll",  "winspool.drv", "ws2_32.dll"};
 
 struct Image : testing::Test {
     template <typename Part>

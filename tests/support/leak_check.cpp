@@ -14,6 +14,8 @@ struct LeakCheck : testing::EmptyTestEventListener {
         EXPECT_EQ(counts.localBlocks, 0);
         EXPECT_EQ(counts.files, 0);
         EXPECT_EQ(counts.libraryReferences, 0);
+        EXPECT_EQ(counts.sockets, 0);
+        EXPECT_EQ(counts.socketUses, 0);
     }
 };
 

@@ -1,6 +1,7 @@
 // Start-up and shut-down order of the module.
 #include "frame/entry.h"
 
+#include "devcomm/snmp_entry_points.h"
 #include "frame/module_handles.h"
 #include "paramdata/device_data.h"
 
@@ -20,11 +21,13 @@ void FreeResourceModule() {
 
 void Attach(HINSTANCE instance) {
     SetModuleInstance(instance);
+    SnmpApiBind();
     LoadResourceModule();
     InitDeviceData(instance);
 }
 
 void Detach() {
+    SnmpApiRelease();
     FreeResourceModule();
     FreeDeviceData();
 }
