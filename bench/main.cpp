@@ -1,4 +1,5 @@
-// Runs the benchmarks and sums them up as ratios of processor times that were measured in the same run.
+// Runs the benchmarks and sums them up as ratios of times that were measured in the same run:
+// processor times, or real ones where a benchmark says so.
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <map>
@@ -13,8 +14,11 @@ struct Reporter : benchmark::ConsoleReporter {
         for (const Run& run : runs)
             if (!run.error_occurred)
                 nanoseconds[run.benchmark_name()] =
-                    run.cpu_accumulated_time * 1e9 / static_cast<double>(run.iterations);
+                    (IsRealTime(run) ? run.real_accumulated_time : run.cpu_accumulated_time) * 1e9
+                    / static_cast<double>(run.iterations);
     }
+
+    static bool IsRealTime(const Run& run) { return !run.run_name.time_type.empty(); }
 
     std::map<std::string, double> nanoseconds; // of one iteration
 };
@@ -32,6 +36,10 @@ const Ratio kRatios[] = {
     {"time per item, 4 x the items : as many", "Growth/256", "Growth/64", 4},
     {"time per item, 8 x the items : as many", "Growth/512", "Growth/64", 8},
     {"bins and bin names : copied without a question", "Capabilities", "CopyOnly", 1},
+    {"a GetRequest built : by net-snmp", "BuildRequest", "PeerBuildsRequest", 1},
+    {"a reply read : by net-snmp", "ReadReply", "PeerReadsReply", 1},
+    {"request and answer : by net-snmp", "RoundTrip/real_time", "PeerRoundTrip/real_time", 1},
+    {"request and answer : UDP echo", "RoundTrip/real_time", "EchoRoundTrip/real_time", 1},
 };
 
 } // namespace

@@ -1,0 +1,102 @@
+// Servers and clients on loopback: see the header.
+#include "loopback.h"
+
+#include <arpa/inet.h>
+#include <csignal>
+#include <cstdio>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr size_t kMostOctets = 4096;
+constexpr timeval kLimit = {2, 0};
+
+sockaddr_in Loopback(uint16_t port) {
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(port);
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    return address;
+}
+
+[[noreturn]] void Echo(int socket) {
+    for (;;) {
+        char octets[kMostOctets];
+        sockaddr_in from;
+        socklen_t length = sizeof(from);
+        const ssize_t count =
+            recvfrom(socket, octets, sizeof(octets), 0, reinterpret_cast<sockaddr*>(&from), &length);
+        if (count >= 0)
+            sendto(socket, octets, static_cast<size_t>(count), 0, reinterpret_cast<sockaddr*>(&from), length);
+    }
+}
+
+// The child process serves the socket that the parent has bound.
+void StartEcho(Server& server) {
+    const int socket = ::socket(AF_INET, SOCK_DGRAM, 0);
+    sockaddr_in address = Loopback(0);
+    socklen_t length = sizeof(address);
+    if (bind(socket, reinterpret_cast<sockaddr*>(&address), length) == 0
+        && getsockname(socket, reinterpret_cast<sockaddr*>(&address), &length) == 0) {
+        server.process = fork();
+        if (server.process == 0)
+            Echo(socket);
+        server.port = ntohs(address.sin_port);
+    }
+    close(socket);
+}
+
+// The first line that it writes ends with the port.
+void StartPrinter(Server& server, const std::string& arguments) {
+    int ends[2];
+    if (pipe(ends) != 0)
+        return;
+    server.process = fork();
+    if (server.process == 0) {
+        dup2(ends[1], STDOUT_FILENO);
+        const std::string command = "exec " BIN_FOLDER "/simprinter --port 0 " + arguments;
+        execl("/bin/sh", "sh", "-c", command.c_str(), static_cast<char*>(nullptr));
+        _exit(1);
+    }
+    close(ends[1]);
+    FILE* output = fdopen(ends[0], "r");
+    unsigned port = 0;
+    if (fscanf(output, "%*[^0-9]%*u.%*u.%*u.%*u:%u", &port) == 1)
+        server.port = static_cast<uint16_t>(port);
+    fclose(output);
+}
+
+} // namespace
+
+Server::Server(const std::string& arguments) {
+    if (arguments.empty())
+        StartEcho(*this);
+    else
+        StartPrinter(*this, arguments);
+}
+
+Server::~Server() {
+    if (process <= 0)
+        return;
+    kill(process, SIGTERM);
+    waitpid(process, nullptr, 0);
+}
+
+EchoClient::EchoClient(uint16_t port) : socket(::socket(AF_INET, SOCK_DGRAM, 0)) {
+    const sockaddr_in address = Loopback(port);
+    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &kLimit, sizeof(kLimit));
+    if (connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0)
+        perror("echo");
+}
+
+EchoClient::~EchoClient() {
+    close(socket);
+}
+
+bool EchoClient::RoundTrip(const uint8_t* octets, size_t count) const {
+    char back[kMostOctets];
+    return send(socket, octets, count, 0) == static_cast<ssize_t>(count)
+           && recv(socket, back, sizeof(back), 0) == static_cast<ssize_t>(count);
+}

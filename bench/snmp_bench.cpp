@@ -1,0 +1,140 @@
+// The built-in SNMP client against net-snmp's library: a GetRequest built, a reply read, and requests to the
+// same agent on loopback, these also against a bare UDP echo; all the options of a printer asked at once; and
+// how long a silent agent is waited for.
+#include "devcomm/snmp_client.h"
+#include "devcomm/snmp_message.h"
+#include "devcomm/snmp_values.h"
+#include "loopback.h"
+#include "net_snmp_peer.h"
+#include "platform_control.h"
+
+#include <benchmark/benchmark.h>
+#include <iterator>
+
+namespace {
+
+// hrStorageSize.1 and a reply to request 257, "640".
+constexpr const char* kObject = ".1.3.6.1.2.1.25.2.3.1.5.1";
+constexpr UINT kArcs[] = {1, 3, 6, 1, 2, 1, 25, 2, 3, 1, 5, 1};
+constexpr const char* kCommunity = "tovask";
+constexpr uint32_t kRequestId = 257;
+uint8_t reply[] = {0x30, 0x2C, 0x02, 0x01, 0x00, 0x04, 0x06, 't',  'o',  'v',  'a',  's',
+                   'k',  0xA2, 0x1F, 0x02, 0x02, 0x01, 0x01, 0x02, 0x01, 0x00, 0x02, 0x01,
+                   0x00, 0x30, 0x13, 0x30, 0x11, 0x06, 0x0B, 0x2B, 0x06, 0x01, 0x02, 0x01,
+                   0x19, 0x02, 0x03, 0x01, 0x05, 0x01, 0x02, 0x02, 0x02, 0x80};
+
+// The object as a varbind without a value, in a list of its own.
+struct Question {
+    Question() {
+        ClientStrToOid(kObject, &varBind.name);
+        varBind.value.asnType = ASN_NULL;
+    }
+    ~Question() { ClientVarBindFree(&varBind); }
+    Question(const Question&) = delete;
+    Question& operator=(const Question&) = delete;
+
+    SnmpVarBind varBind = {};
+    SnmpVarBindList list = {&varBind, 1};
+};
+
+void BuildRequest(benchmark::State& state) {
+    const Question question;
+    for ([[maybe_unused]] auto _ : state) {
+        BerBuffer message = SnmpBuildRequest(SNMP_PDU_GET, kCommunity, kRequestId, question.list);
+        benchmark::DoNotOptimize(message.octets);
+        BerFree(message);
+    }
+}
+BENCHMARK(BuildRequest);
+
+void PeerBuildsRequest(benchmark::State& state) {
+    for ([[maybe_unused]] auto _ : state) {
+        uint8_t message[512];
+        if (PeerBuildRequest(kCommunity, kRequestId, kArcs, std::size(kArcs), message, sizeof(message)) == 0)
+            state.SkipWithError("net-snmp does not build the request");
+        benchmark::DoNotOptimize(message);
+    }
+}
+BENCHMARK(PeerBuildsRequest);
+
+void ReadReply(benchmark::State& state) {
+    for ([[maybe_unused]] auto _ : state) {
+        SnmpReply read;
+        SnmpResult result;
+        AsnAny value;
+        if (!SnmpReadReply(reply, sizeof(reply), read) || !SnmpReadResult(read, result)
+            || !SnmpDecodeValue(result.valueType, result.value, value) || value.asnValue.number != 640)
+            state.SkipWithError("the reply is not read");
+        benchmark::DoNotOptimize(value);
+    }
+}
+BENCHMARK(ReadReply);
+
+void PeerReadsReply(benchmark::State& state) {
+    for ([[maybe_unused]] auto _ : state) {
+        long value = 0;
+        if (!PeerReadReply(reply, sizeof(reply), value) || value != 640)
+            state.SkipWithError("net-snmp does not read the reply");
+        benchmark::DoNotOptimize(value);
+    }
+}
+BENCHMARK(PeerReadsReply);
+
+// A session with the agent that serves this port.
+SnmpSession OpenTo(uint16_t port) {
+    platform::RedirectPort(161, port);
+    return ClientOpen("127.0.0.1", kCommunity, 2000, 3);
+}
+
+void RoundTrip(benchmark::State& state) {
+    const Server printer("--address 127.0.0.1");
+    const SnmpSession session = OpenTo(printer.port);
+    Question question;
+    for ([[maybe_unused]] auto _ : state) {
+        question.varBind.value.asnType = ASN_NULL;
+        if (ClientRequest(session, SNMP_PDU_GET, &question.list, nullptr, nullptr) == 0)
+            state.SkipWithError("no answer");
+    }
+    ClientClose(session);
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(RoundTrip)->UseRealTime();
+
+void PeerRoundTrip(benchmark::State& state) {
+    const Server printer("--address 127.0.0.1");
+    void* session = PeerOpen(printer.port, kCommunity);
+    for ([[maybe_unused]] auto _ : state)
+        if (session == nullptr || !PeerGet(session, kArcs, std::size(kArcs))) {
+            state.SkipWithError("net-snmp gets no answer");
+            break;
+        }
+    if (session != nullptr)
+        PeerClose(session);
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(PeerRoundTrip)->UseRealTime();
+
+void EchoRoundTrip(benchmark::State& state) {
+    const Server echo("");
+    const EchoClient client(echo.port);
+    for ([[maybe_unused]] auto _ : state)
+        if (!client.RoundTrip(reply, sizeof(reply))) {
+            state.SkipWithError("no echo");
+            break;
+        }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(EchoRoundTrip)->UseRealTime();
+
+void SilentAgent(benchmark::State& state) {
+    const Server printer("--fault silence");
+    const SnmpSession session = OpenTo(printer.port);
+    Question question;
+    for ([[maybe_unused]] auto _ : state)
+        if (ClientRequest(session, SNMP_PDU_GET, &question.list, nullptr, nullptr) != 0)
+            state.SkipWithError("it answers");
+    ClientClose(session);
+}
+BENCHMARK(SilentAgent)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
