@@ -1,0 +1,105 @@
+// The system group (RFC 1213) and the Host Resources MIB (RFC 2790) of the printer.
+#include "simprinter/object_table.h"
+#include "simprinter/objects.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kBytesInMb = 1024 * 1024;
+
+// --- .1.3.6.1.2.1.1 system. sysUpTime is set while serving.
+constexpr Column<Device> kSystem[] = {
+    {1, [](const Device& d) { return TextValue(d.model + ", serial number " + d.serial); }}, // sysDescr
+    {2, [](const Device&) { return OidValueFrom("1.3.6.1.4.1.47913.1.1.1.1"); }},            // sysObjectID
+    {3, [](const Device&) { return NumberValue(0, kTimeTicks); }},                           // sysUpTime
+    {4, [](const Device& d) { return TextValue(d.contact); }},                               // sysContact
+    {5, [](const Device& d) { return TextValue(d.name); }},                                  // sysName
+    {6, [](const Device& d) { return TextValue(d.location); }},                              // sysLocation
+    {7, [](const Device&) { return NumberValue(72); }}, // sysServices: transport and application layers
+};
+
+// --- .1.3.6.1.2.1.25.2.3.1 hrStorageTable. Sizes are counted in MB.
+struct Storage {
+    int index;
+    const char* type;
+    const char* text;
+    int size, used;
+};
+constexpr Column<Storage> kStorage[] = {
+    {1, [](const Storage& s) { return NumberValue(s.index); }},
+    {2, [](const Storage& s) { return OidValueFrom(s.type); }},
+    {3, [](const Storage& s) { return TextValue(s.text); }},
+    {4, [](const Storage&) { return NumberValue(kBytesInMb); }}, // hrStorageAllocationUnits
+    {5, [](const Storage& s) { return NumberValue(s.size); }},
+    {6, [](const Storage& s) { return NumberValue(s.used); }},
+    {7, [](const Storage&) { return NumberValue(0, kCounter); }}, // hrStorageAllocationFailures
+};
+
+std::vector<ConceptualRow<Storage>> Storages(const Device& device) {
+    std::vector<ConceptualRow<Storage>> rows = {
+        {{1}, {1, "1.3.6.1.2.1.25.2.1.2", "Memory", device.memory, device.memory / 4}}};
+    if (device.hardDisk)
+        rows.push_back({{2}, {2, "1.3.6.1.2.1.25.2.1.4", "Hard disk", *device.hardDisk, *device.hardDisk / 10}});
+    return rows;
+}
+
+// --- .1.3.6.1.2.1.25.3.2.1 hrDeviceTable
+struct HostDevice {
+    int index;
+    const char* type;
+    std::string text;
+};
+constexpr Column<HostDevice> kDevice[] = {
+    {1, [](const HostDevice& h) { return NumberValue(h.index); }},
+    {2, [](const HostDevice& h) { return OidValueFrom(h.type); }},
+    {3, [](const HostDevice& h) { return TextValue(h.text); }},
+    {4, [](const HostDevice&) { return OidValueFrom("0.0"); }}, // hrDeviceID
+    {5, [](const HostDevice&) { return NumberValue(2); }},      // hrDeviceStatus: running
+    {6, [](const HostDevice&) { return NumberValue(0, kCounter); }},
+};
+
+std::vector<ConceptualRow<HostDevice>> HostDevices(const Device& device) {
+    std::vector<ConceptualRow<HostDevice>> rows = {{{1}, {1, "1.3.6.1.2.1.25.3.1.5", device.model}}};
+    if (device.hardDisk)
+        rows.push_back({{2}, {2, "1.3.6.1.2.1.25.3.1.6", "Hard disk"}});
+    return rows;
+}
+
+// --- .1.3.6.1.2.1.25.3.5.1 hrPrinterTable
+// Two octets of bits, the first bit the highest: what keeps the printer from printing, or soon will.
+std::string DetectedErrors(const Device& device) {
+    constexpr int kLowPaper = 0x8000, kNoPaper = 0x4000, kLowToner = 0x2000, kNoToner = 0x1000;
+    constexpr int kInputTrayEmpty = 0x0004;
+    int bits = 0;
+    size_t empty = 0;
+    for (const Tray& tray : device.trays) {
+        if (tray.level == 0)
+            bits |= kInputTrayEmpty, ++empty;
+        else if (tray.level > 0 && tray.level <= tray.capacity / 10)
+            bits |= kLowPaper;
+    }
+    if (!device.trays.empty() && empty == device.trays.size())
+        bits |= kNoPaper;
+    for (const Supply& supply : device.supplies) {
+        if (supply.kind->type == kToner && supply.level >= 0 && supply.level <= supply.capacity / 10)
+            bits |= supply.level == 0 ? kNoToner : kLowToner;
+    }
+    return {static_cast<char>(bits >> 8), static_cast<char>(bits & 0xFF)};
+}
+
+constexpr Column<Device> kPrinter[] = {
+    {1, [](const Device&) { return NumberValue(3); }}, // hrPrinterStatus: idle
+    {2, [](const Device& d) { return TextValue(DetectedErrors(d)); }},
+};
+
+} // namespace
+
+void AddHostObjects(ObjectMap& to, const Device& device) {
+    AddScalars(to, "1.3.6.1.2.1.1", kSystem, device);
+    AddTable(to, "1.3.6.1.2.1.25.2.3.1", kStorage, Storages(device));
+    AddTable(to, "1.3.6.1.2.1.25.3.2.1", kDevice, HostDevices(device));
+    AddTable(to, "1.3.6.1.2.1.25.3.5.1", kPrinter, {{{1}, device}});
+    to[OidFromText("1.3.6.1.2.1.25.1.1.0").value()] = NumberValue(0, kTimeTicks);          // hrSystemUptime
+    to[OidFromText("1.3.6.1.2.1.25.2.2.0").value()] = NumberValue(int64_t{device.memory} * 1024); // hrMemorySize, KB
+}

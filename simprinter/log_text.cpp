@@ -1,0 +1,80 @@
+// The log's texts, see log_text.h.
+#include "simprinter/log_text.h"
+
+#include <cstdio>
+
+namespace {
+
+constexpr size_t kLongestShown = 80;
+
+const char* TagName(Tag tag) {
+    switch (tag) {
+    case kInteger:
+        return "INTEGER";
+    case kOctetString:
+        return "OCTET STRING";
+    case kNull:
+        return "NULL";
+    case kObjectId:
+        return "OBJECT IDENTIFIER";
+    case kIpAddress:
+        return "IpAddress";
+    case kCounter:
+        return "Counter";
+    case kGauge:
+        return "Gauge";
+    case kTimeTicks:
+        return "TimeTicks";
+    case kOpaque:
+        return "Opaque";
+    case kUnsigned:
+        return "Unsigned32";
+    }
+    return "?";
+}
+
+std::string ValueText(const Value& value) {
+    const std::string name = TagName(value.tag);
+    if (value.tag == kNull)
+        return name;
+    if (value.tag == kObjectId)
+        return name + ' ' + OidText(value.oid);
+    return name + ' ' + (HoldsNumber(value.tag) ? std::to_string(value.number) : PrintableText(value.octets));
+}
+
+std::string ErrorText(long status) {
+    const char* const names[] = {"noError", "tooBig", "noSuchName", "badValue", "readOnly", "genErr"};
+    const bool isKnown = status >= 0 && status < static_cast<long>(std::size(names));
+    return isKnown ? names[status] : "error " + std::to_string(status);
+}
+
+} // namespace
+
+std::string PrintableText(const std::string& octets) {
+    std::string text = "'";
+    for (const char c : octets.substr(0, kLongestShown)) {
+        char escaped[8] = {c};
+        if (c < 0x20 || c > 0x7E)
+            std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(static_cast<uint8_t>(c)));
+        text += escaped;
+    }
+    return text + (octets.size() > kLongestShown ? "...'" : "'");
+}
+
+std::string RequestText(const Message& request) {
+    const char* const types[] = {"GetRequest", "GetNextRequest", "GetResponse", "SetRequest"};
+    std::string text = '#' + std::to_string(request.requestId) + ' '
+                       + types[static_cast<int>(request.type) - static_cast<int>(PduType::kGet)];
+    for (const VarBind& varBind : request.varBinds)
+        text += ' ' + OidText(varBind.name);
+    return text;
+}
+
+std::string ReplyText(const Message& reply) {
+    if (reply.errorStatus != kNoError)
+        return ErrorText(reply.errorStatus) + " at " + std::to_string(reply.errorIndex);
+    std::string text;
+    for (const VarBind& varBind : reply.varBinds)
+        text += (text.empty() ? "" : ", ") + OidText(varBind.name) + ' ' + ValueText(varBind.value);
+    return text.empty() ? "no variables" : text;
+}

@@ -1,0 +1,114 @@
+// The codec, see message.h: a thin layer over net-snmp's functions.
+#include "simprinter/message.h"
+
+#include <cstdlib>
+#include <memory>
+// net-snmp's headers need this order.
+// clang-format off
+#include <net-snmp/net-snmp-config.h>
+#include <net-snmp/net-snmp-includes.h>
+// clang-format on
+
+static_assert(kMostArcs == MAX_OID_LEN);
+
+namespace {
+
+struct PduRelease {
+    void operator()(netsnmp_pdu* pdu) const { snmp_free_pdu(pdu); }
+};
+using PduPointer = std::unique_ptr<netsnmp_pdu, PduRelease>;
+
+bool IsRequest(int command) {
+    return command == SNMP_MSG_GET || command == SNMP_MSG_GETNEXT || command == SNMP_MSG_SET;
+}
+
+bool ReadOid(const oid* arcs, size_t count, Oid& to) {
+    to.assign(arcs, arcs + count);
+    return std::equal(to.begin(), to.end(), arcs); // an arc of more than 32 bits is lost
+}
+
+// A value that this agent has no use for reads as NULL: requests hold nothing else, but for SetRequest.
+Value ReadValue(const netsnmp_variable_list& from) {
+    Value value;
+    switch (from.type) {
+    case ASN_INTEGER:
+        return NumberValue(*from.val.integer);
+    case ASN_OCTET_STR:
+        return TextValue({reinterpret_cast<const char*>(from.val.string), from.val_len});
+    default:
+        return {};
+    }
+}
+
+int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
+    const std::vector<oid> name(varBind.name.begin(), varBind.name.end());
+    const std::vector<oid> arcs(varBind.value.oid.begin(), varBind.value.oid.end());
+    const long number = static_cast<long>(varBind.value.number);
+    const void* contents = varBind.value.octets.data();
+    size_t length = varBind.value.octets.size();
+    if (HoldsNumber(varBind.value.tag)) {
+        contents = &number;
+        length = sizeof number;
+    } else if (varBind.value.tag == kObjectId) {
+        contents = arcs.data();
+        length = arcs.size() * sizeof(oid);
+    }
+    return snmp_pdu_add_variable(&pdu, name.data(), name.size(), varBind.value.tag, contents, length) != nullptr;
+}
+
+} // namespace
+
+std::optional<Message> ParseRequest(const Octets& datagram) {
+    Octets octets = datagram; // net-snmp's functions take no constant ones
+    octets.push_back(0);      // and may look at the octet that follows
+    size_t left = datagram.size();
+    u_char community[SNMP_MAX_MSG_SIZE];
+    size_t communityLength = sizeof community;
+    long version = -1;
+    u_char* at = snmp_comstr_parse(octets.data(), &left, community, &communityLength, &version);
+    if (!at || version != SNMP_VERSION_1 || left == 0 || !IsRequest(*at))
+        return std::nullopt;
+    const PduPointer pdu(snmp_pdu_create(*at));
+    if (!pdu || snmp_pdu_parse(pdu.get(), at, &left) != 0)
+        return std::nullopt;
+    Message message;
+    message.community.assign(reinterpret_cast<const char*>(community), communityLength);
+    message.type = static_cast<PduType>(pdu->command);
+    message.requestId = pdu->reqid;
+    for (const netsnmp_variable_list* from = pdu->variables; from; from = from->next_variable) {
+        VarBind varBind;
+        if (!ReadOid(from->name, from->name_length, varBind.name))
+            return std::nullopt;
+        varBind.value = ReadValue(*from);
+        message.varBinds.push_back(std::move(varBind));
+    }
+    return message;
+}
+
+Octets BuildMessage(const Message& message) {
+    const PduPointer pdu(snmp_pdu_create(static_cast<int>(message.type)));
+    if (!pdu)
+        return {};
+    pdu->reqid = message.requestId;
+    pdu->errstat = message.errorStatus;
+    pdu->errindex = message.errorIndex;
+    for (const VarBind& varBind : message.varBinds) {
+        if (!AddVarBind(*pdu, varBind))
+            return {};
+    }
+    // Built from the end to the front of a block that grows as needed.
+    u_char* block = nullptr;
+    size_t size = 0, used = 0;
+    const long version = SNMP_VERSION_1;
+    const auto* community = reinterpret_cast<const u_char*>(message.community.data());
+    const bool built =
+        snmp_pdu_realloc_rbuild(&block, &size, &used, pdu.get()) != 0
+        && asn_realloc_rbuild_string(&block, &size, &used, 1, ASN_OCTET_STR, community, message.community.size())
+        && asn_realloc_rbuild_int(&block, &size, &used, 1, ASN_INTEGER, &version, sizeof version)
+        && asn_realloc_rbuild_sequence(&block, &size, &used, 1, ASN_SEQUENCE | ASN_CONSTRUCTOR, used);
+    Octets octets;
+    if (built)
+        octets.assign(block + size - used, block + size);
+    std::free(block);
+    return octets;
+}

@@ -1,0 +1,41 @@
+// SNMPv1 messages as octets and back. The encoding is net-snmp's, so that what the driver's own reader and
+// writer get wrong shows.
+#ifndef SIMPRINTER_MESSAGE_H
+#define SIMPRINTER_MESSAGE_H
+
+#include "simprinter/snmp_values.h"
+
+using Octets = std::vector<uint8_t>;
+
+enum class PduType : int { kGet = 0xA0, kGetNext = 0xA1, kResponse = 0xA2, kSet = 0xA3 };
+
+enum ErrorStatus : long {
+    kNoError = 0,
+    kTooBig = 1,
+    kNoSuchName = 2,
+    kBadValue = 3,
+    kReadOnly = 4,
+    kGenErr = 5,
+};
+
+struct VarBind {
+    Oid name;
+    Value value;
+};
+
+struct Message {
+    std::string community;
+    PduType type = PduType::kResponse;
+    long requestId = 0;
+    long errorStatus = kNoError;
+    long errorIndex = 0;
+    std::vector<VarBind> varBinds;
+};
+
+// Nothing when the datagram is no well-formed SNMPv1 request.
+std::optional<Message> ParseRequest(const Octets& datagram);
+
+// Empty when a value can't be put into a message.
+Octets BuildMessage(const Message& message);
+
+#endif

@@ -1,0 +1,45 @@
+// How the MIB tables of this printer are written down: a column is a row here, with its number and how its value comes
+// from what it describes.
+#ifndef SIMPRINTER_OBJECT_TABLE_H
+#define SIMPRINTER_OBJECT_TABLE_H
+
+#include "simprinter/snmp_values.h"
+
+template <typename Thing>
+struct Column {
+    uint32_t number;
+    Value (*value)(const Thing& thing);
+};
+
+// A conceptual row: what it describes and the arcs behind the column's number.
+template <typename Thing>
+struct ConceptualRow {
+    Oid index;
+    Thing thing;
+};
+
+// `base` and a column's number and a row's index make an object's name; a scalar is a column with the row index 0.
+template <typename Thing, size_t kColumns>
+void AddTable(ObjectMap& to, const char* base, const Column<Thing> (&columns)[kColumns],
+              const std::vector<ConceptualRow<Thing>>& rows) {
+    const Oid start = OidFromText(base).value();
+    for (const Column<Thing>& column : columns) {
+        for (const ConceptualRow<Thing>& row : rows) {
+            Oid name = start;
+            name.push_back(column.number);
+            name.insert(name.end(), row.index.begin(), row.index.end());
+            to[name] = column.value(row.thing);
+        }
+    }
+}
+
+template <typename Thing, size_t kColumns>
+void AddScalars(ObjectMap& to, const char* base, const Column<Thing> (&columns)[kColumns], const Thing& thing) {
+    AddTable<Thing>(to, base, columns, {{{0}, thing}});
+}
+
+inline Value OidValueFrom(const char* text) {
+    return OidValue(OidFromText(text).value());
+}
+
+#endif

@@ -1,0 +1,227 @@
+// The Printer MIB (RFC 1759, with the additions of RFC 3805) of the printer: host device 1.
+#include "simprinter/object_table.h"
+#include "simprinter/objects.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kMicrometers = 4, kSheets = 8; // units
+constexpr int kMicrometersInLength = 100;    // lengths of the description are tenths of a millimetre
+
+// --- .1.3.6.1.2.1.43.5.1.1 prtGeneralTable
+constexpr Column<Device> kGeneral[] = {
+    {1, [](const Device&) { return NumberValue(0, kCounter); }}, // prtGeneralConfigChanges
+    {2, [](const Device&) { return NumberValue(1); }},           // prtGeneralCurrentLocalization
+    {3, [](const Device&) { return NumberValue(3); }},           // prtGeneralReset: notResetting
+    {4, [](const Device& d) { return TextValue(d.contact); }},   // prtGeneralCurrentOperator
+    {5, [](const Device&) { return TextValue(""); }},            // prtGeneralServicePerson
+    {6, [](const Device& d) { return NumberValue(d.trays.empty() ? -1 : d.trays[0].kind->name.code); }},
+    {7, [](const Device&) { return NumberValue(1); }},         // prtOutputDefaultIndex
+    {8, [](const Device&) { return NumberValue(1); }},         // prtMarkerDefaultIndex
+    {9, [](const Device&) { return NumberValue(1); }},         // prtMediaPathDefaultIndex
+    {10, [](const Device&) { return NumberValue(1); }},        // prtConsoleLocalization
+    {11, [](const Device&) { return NumberValue(1); }},        // prtConsoleNumberOfDisplayLines
+    {12, [](const Device&) { return NumberValue(40); }},       // prtConsoleNumberOfDisplayChars
+    {13, [](const Device&) { return NumberValue(3); }},        // prtConsoleDisable: enabled
+    {16, [](const Device& d) { return TextValue(d.name); }},   // prtGeneralPrinterName
+    {17, [](const Device& d) { return TextValue(d.serial); }}, // prtGeneralSerialNumber
+};
+
+// --- .1.3.6.1.2.1.43.6.1.1 prtCoverTable
+constexpr Column<Device> kCover[] = {
+    {2, [](const Device&) { return TextValue("Front door"); }},
+    {3, [](const Device&) { return NumberValue(4); }}, // prtCoverStatus: coverClosed
+};
+
+// --- .1.3.6.1.2.1.43.7.1.1 prtLocalizationTable
+constexpr Column<Device> kLocalization[] = {
+    {2, [](const Device&) { return TextValue("en"); }},
+    {3, [](const Device&) { return TextValue(""); }},
+    {4, [](const Device&) { return NumberValue(106); }}, // prtLocalizationCharacterSet: UTF-8
+};
+
+// --- .1.3.6.1.2.1.43.8.2.1 prtInputTable
+// A sheet that lies with its long edge to the feed goes its width far.
+Value FeedLength(const Tray& tray) {
+    const int length = tray.orientation == kLongEdgeFirst ? tray.size->width : tray.size->length;
+    return NumberValue(length * kMicrometersInLength);
+}
+Value CrossLength(const Tray& tray) {
+    const int length = tray.orientation == kLongEdgeFirst ? tray.size->length : tray.size->width;
+    return NumberValue(length * kMicrometersInLength);
+}
+// Available and idle; empty: unavailable until someone fills it, with an alert that is not critical.
+Value InputStatus(const Tray& tray) {
+    return NumberValue(tray.level == 0 ? 1 + 8 : 0);
+}
+std::string PaperText(const Tray& tray) {
+    return std::string(tray.size->name.word) + ' ' + tray.type->name.word;
+}
+constexpr Column<Tray> kInput[] = {
+    {2, [](const Tray& t) { return NumberValue(t.kind->inputType); }},
+    {3, [](const Tray&) { return NumberValue(kMicrometers); }}, // prtInputDimUnit
+    {4, FeedLength},                                            // prtInputMediaDimFeedDirDeclared
+    {5, CrossLength},                                           // prtInputMediaDimXFeedDirDeclared
+    {6, FeedLength},                                            // prtInputMediaDimFeedDirChosen
+    {7, CrossLength},                                           // prtInputMediaDimXFeedDirChosen
+    {8, [](const Tray&) { return NumberValue(kSheets); }},      // prtInputCapacityUnit
+    {9, [](const Tray& t) { return NumberValue(t.capacity); }}, // prtInputMaxCapacity
+    {10, [](const Tray& t) { return NumberValue(t.level); }},   // prtInputCurrentLevel
+    {11, InputStatus},                                          // prtInputStatus
+    {12, [](const Tray& t) { return TextValue(PaperText(t)); }},       // prtInputMediaName
+    {13, [](const Tray& t) { return TextValue(t.name); }},             // prtInputName
+    {18, [](const Tray& t) { return TextValue(t.kind->text); }},       // prtInputDescription
+    {19, [](const Tray&) { return NumberValue(5); }},                  // prtInputSecurity: notPresent
+    {20, [](const Tray& t) { return NumberValue(t.type->weight); }},   // prtInputMediaWeight
+    {21, [](const Tray& t) { return TextValue(t.type->mediaType); }},  // prtInputMediaType
+    {22, [](const Tray& t) { return TextValue(t.type->colorCode ? "other" : "white"); }}, // prtInputMediaColor
+};
+
+std::vector<ConceptualRow<Tray>> Inputs(const Device& device) {
+    std::vector<ConceptualRow<Tray>> rows;
+    for (const Tray& tray : device.trays)
+        rows.push_back({{1, static_cast<uint32_t>(tray.kind->name.code)}, tray});
+    return rows;
+}
+
+// --- .1.3.6.1.2.1.43.9.2.1 prtOutputTable
+struct Output {
+    int type;
+    int capacity;
+    std::string name;
+    std::string text;
+};
+constexpr int kFixedBin = 4, kMailBox = 6;
+constexpr Column<Output> kOutput[] = {
+    {2, [](const Output& o) { return NumberValue(o.type); }},
+    {3, [](const Output&) { return NumberValue(kSheets); }},     // prtOutputCapacityUnit
+    {4, [](const Output& o) { return NumberValue(o.capacity); }}, // prtOutputMaxCapacity
+    {5, [](const Output&) { return NumberValue(kLevelSome); }},  // prtOutputRemainingCapacity
+    {6, [](const Output&) { return NumberValue(0); }},           // prtOutputStatus: available and idle
+    {7, [](const Output& o) { return TextValue(o.name); }},
+    {12, [](const Output& o) { return TextValue(o.text); }},
+    {19, [](const Output&) { return NumberValue(3); }}, // prtOutputStackingOrder: firstToLast
+    {20, [](const Output&) { return NumberValue(4); }}, // prtOutputPageDeliveryOrientation: faceDown
+};
+
+// A finisher takes the place of the printer's own tray.
+std::vector<ConceptualRow<Output>> Outputs(const Device& device) {
+    std::vector<Output> outputs;
+    if (std::none_of(device.options.begin(), device.options.end(), [](const auto* o) { return o->isFinisher; }))
+        outputs.push_back({kFixedBin, 250, "Output tray", "Output tray"});
+    for (const OptionKind* option : device.options) {
+        for (int i = 1; i <= option->outputs; ++i) {
+            outputs.push_back({option->isFinisher ? kFixedBin : kMailBox, option->outputCapacity,
+                               std::string(option->outputText) + ' ' + std::to_string(i),
+                               std::string(option->text) + ' ' + option->name.word});
+        }
+    }
+    std::vector<ConceptualRow<Output>> rows;
+    for (const Output& output : outputs)
+        rows.push_back({{1, static_cast<uint32_t>(rows.size() + 1)}, output});
+    return rows;
+}
+
+// --- .1.3.6.1.2.1.43.10.2.1 prtMarkerTable
+constexpr Column<Device> kMarker[] = {
+    {2, [](const Device&) { return NumberValue(4); }},                  // prtMarkerMarkTech: laser
+    {3, [](const Device&) { return NumberValue(7); }},                  // prtMarkerCounterUnit: impressions
+    {4, [](const Device& d) { return NumberValue(d.pages, kCounter); }}, // prtMarkerLifeCount
+    {5, [](const Device&) { return NumberValue(0, kCounter); }},        // prtMarkerPowerOnCount
+    {6, [](const Device&) { return NumberValue(4); }},                  // prtMarkerProcessColorants
+    {7, [](const Device&) { return NumberValue(0); }},                  // prtMarkerSpotColorants
+    {8, [](const Device&) { return NumberValue(3); }},   // prtMarkerAddressabilityUnit: tenThousandthsOfInches
+    {9, [](const Device&) { return NumberValue(600); }}, // prtMarkerAddressabilityFeedDir
+    {10, [](const Device&) { return NumberValue(600); }}, // prtMarkerAddressabilityXFeedDir
+    {15, [](const Device&) { return NumberValue(0); }},   // prtMarkerStatus: available and idle
+};
+
+// --- .1.3.6.1.2.1.43.11.1.1 prtMarkerSuppliesTable
+constexpr Column<Supply> kSupplies[] = {
+    {2, [](const Supply&) { return NumberValue(1); }},                                        // marker
+    {3, [](const Supply& s) { return NumberValue(s.kind->colorant ? s.kind->name.code : 0); }}, // colorant
+    {4, [](const Supply& s) { return NumberValue(s.kind->supplyClass); }},
+    {5, [](const Supply& s) { return NumberValue(s.kind->type); }},
+    {6, [](const Supply& s) { return TextValue(s.name); }},
+    {7, [](const Supply& s) { return NumberValue(s.kind->unit); }},
+    {8, [](const Supply& s) { return NumberValue(s.capacity); }},
+    {9, [](const Supply& s) { return NumberValue(s.level); }},
+};
+
+// --- .1.3.6.1.2.1.43.12.1.1 prtMarkerColorantTable
+constexpr Column<Supply> kColorant[] = {
+    {2, [](const Supply&) { return NumberValue(1); }}, // marker
+    {3, [](const Supply&) { return NumberValue(3); }}, // prtMarkerColorantRole: process
+    {4, [](const Supply& s) { return TextValue(s.kind->colorant); }},
+    {5, [](const Supply&) { return NumberValue(256); }}, // prtMarkerColorantTonality
+};
+
+std::vector<ConceptualRow<Supply>> Supplies(const Device& device, bool colorantsOnly) {
+    std::vector<ConceptualRow<Supply>> rows;
+    for (const Supply& supply : device.supplies) {
+        if (supply.kind->colorant || !colorantsOnly)
+            rows.push_back({{1, static_cast<uint32_t>(supply.kind->name.code)}, supply});
+    }
+    return rows;
+}
+
+// --- .1.3.6.1.2.1.43.13.4.1 prtMediaPathTable
+struct MediaPath {
+    int type;
+    const char* text;
+};
+constexpr Column<MediaPath> kMediaPath[] = {
+    {2, [](const MediaPath&) { return NumberValue(7); }}, // prtMediaPathMaxSpeedPrintUnit: impressionsPerHour
+    {3, [](const MediaPath&) { return NumberValue(kMicrometers); }}, // prtMediaPathMediaSizeUnit
+    {4, [](const MediaPath&) { return NumberValue(35 * 60); }},      // prtMediaPathMaxSpeed
+    {5, [](const MediaPath&) { return NumberValue(457200); }},       // greatest length
+    {6, [](const MediaPath&) { return NumberValue(311000); }},       // greatest width
+    {7, [](const MediaPath&) { return NumberValue(139700); }},       // least length
+    {8, [](const MediaPath&) { return NumberValue(90000); }},        // least width
+    {9, [](const MediaPath& m) { return NumberValue(m.type); }},
+    {10, [](const MediaPath& m) { return TextValue(m.text); }},
+    {11, [](const MediaPath&) { return NumberValue(0); }}, // prtMediaPathStatus: available and idle
+};
+
+std::vector<ConceptualRow<MediaPath>> MediaPaths(const Device& device) {
+    constexpr int kSimplex = 5, kLongEdgeDuplex = 3;
+    std::vector<ConceptualRow<MediaPath>> rows = {{{1, 1}, {kSimplex, "One-sided"}}};
+    if (device.hasDuplex)
+        rows.push_back({{1, 2}, {kLongEdgeDuplex, "Two-sided"}});
+    return rows;
+}
+
+// --- .1.3.6.1.2.1.43.15.1.1 prtInterpreterTable
+struct Interpreter {
+    int family;
+    const char* level;
+    const char* text;
+};
+constexpr Column<Interpreter> kInterpreter[] = {
+    {2, [](const Interpreter& i) { return NumberValue(i.family); }},
+    {3, [](const Interpreter& i) { return TextValue(i.level); }},
+    {5, [](const Interpreter& i) { return TextValue(i.text); }},
+};
+
+// --- .1.3.6.1.2.1.43.16.5.1 prtConsoleDisplayBufferTable
+constexpr Column<Device> kConsole[] = {
+    {2, [](const Device&) { return TextValue("Ready"); }},
+};
+
+} // namespace
+
+void AddPrinterObjects(ObjectMap& to, const Device& device) {
+    AddTable(to, "1.3.6.1.2.1.43.5.1.1", kGeneral, {{{1}, device}});
+    AddTable(to, "1.3.6.1.2.1.43.6.1.1", kCover, {{{1, 1}, device}});
+    AddTable(to, "1.3.6.1.2.1.43.7.1.1", kLocalization, {{{1, 1}, device}});
+    AddTable(to, "1.3.6.1.2.1.43.8.2.1", kInput, Inputs(device));
+    AddTable(to, "1.3.6.1.2.1.43.9.2.1", kOutput, Outputs(device));
+    AddTable(to, "1.3.6.1.2.1.43.10.2.1", kMarker, {{{1, 1}, device}});
+    AddTable(to, "1.3.6.1.2.1.43.11.1.1", kSupplies, Supplies(device, false));
+    AddTable(to, "1.3.6.1.2.1.43.12.1.1", kColorant, Supplies(device, true));
+    AddTable(to, "1.3.6.1.2.1.43.13.4.1", kMediaPath, MediaPaths(device));
+    AddTable(to, "1.3.6.1.2.1.43.15.1.1", kInterpreter,
+             {{{1, 1}, {47, "6", "PCL 6"}}, {{1, 2}, {6, "3", "PostScript 3"}}});
+    AddTable(to, "1.3.6.1.2.1.43.16.5.1", kConsole, {{{1, 1}, device}});
+}
