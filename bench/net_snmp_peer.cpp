@@ -75,7 +75,7 @@ bool PeerReadReply(uint8_t* datagram, size_t count, long& value) {
 
 void* PeerOpen(uint16_t port, const char* community) {
     setenv("MIBS", "", 1); // objects are named by number only
-    setenv("SNMP_PERSISTENT_DIR", "/tmp", 1);
+    setenv("SNMP_PERSISTENT_DIR", BIN_FOLDER, 1);
     init_snmp("bench");
     std::string peer = "udp:127.0.0.1:" + std::to_string(port);
     std::string name = community;

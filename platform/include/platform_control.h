@@ -84,7 +84,7 @@ struct Wire {
 };
 
 // Sockets reach nothing but this wire until the reset.
-void SetWire(const Wire& wire);
+void SetWire(const Wire& scripted);
 
 // What has gone over the wire.
 struct WireRecord {

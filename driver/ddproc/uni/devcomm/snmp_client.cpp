@@ -41,6 +41,10 @@ struct SnmpClientSession {
     uint8_t receiveBuffer[kReceiveCapacity];
 };
 
+SnmpClientSession& Record(SnmpSession session) {
+    return *static_cast<SnmpClientSession*>(session);
+}
+
 bool Fail(DWORD error) {
     SetLastError(error);
     return false;
@@ -170,24 +174,23 @@ SnmpSession WINAPI ClientOpen(const char* agent, const char* community, INT time
     return session;
 }
 
-BOOL WINAPI ClientClose(SnmpSession handle) {
-    auto* session = static_cast<SnmpClientSession*>(handle);
+BOOL WINAPI ClientClose(SnmpSession session) {
     if (session != nullptr) {
-        closesocket(session->socket);
+        closesocket(Record(session).socket);
         WSACleanup();
         LocalFree(session);
     }
     return TRUE;
 }
 
-INT WINAPI ClientRequest(SnmpSession handle, BYTE requestType, SnmpVarBindList* list,
+INT WINAPI ClientRequest(SnmpSession session, BYTE requestType, SnmpVarBindList* list,
                          AsnInteger32* errorStatus, AsnInteger32* errorIndex) {
-    auto& session = *static_cast<SnmpClientSession*>(handle);
-    ++session.lastRequestId;
-    BerBuffer message = SnmpBuildRequest(requestType, session.community, session.lastRequestId, *list);
+    SnmpClientSession& client = Record(session);
+    ++client.lastRequestId;
+    BerBuffer message = SnmpBuildRequest(requestType, client.community, client.lastRequestId, *list);
     SnmpResult result = {};
-    const bool answered = message.octets != nullptr && SendUntilAnswered(session.socket, message)
-                          && ReceiveReply(session, result)
+    const bool answered = message.octets != nullptr && SendUntilAnswered(client.socket, message)
+                          && ReceiveReply(client, result)
                           && SnmpDecodeValue(result.valueType, result.value, list->list[0].value);
     const KeepLastError keep;
     BerFree(message);
