@@ -2,7 +2,7 @@
 // matched is compared as YAML would write it.
 #include "prmc/diff.h"
 
-#include "prmc/text.h"
+#include "hosttools/text.h"
 #include "prmc/yaml_writer.h"
 
 #include <map>

@@ -1,12 +1,12 @@
 // prmc, the parameter data compiler: command line, messages and exit codes around the engines.
 // Exit codes: 0 done, same or without fault; 1 faults found or files differ; 2 wrong use, unreadable file, or
 // files that can't be compared for their faults.
+#include "hosttools/files.h"
+#include "hosttools/text.h"
 #include "prmc/diff.h"
-#include "prmc/files.h"
 #include "prmc/prm_parser.h"
 #include "prmc/prm_writer.h"
 #include "prmc/rules.h"
-#include "prmc/text.h"
 #include "prmc/yaml_reader.h"
 #include "prmc/yaml_writer.h"
 

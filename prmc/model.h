@@ -1,25 +1,15 @@
-// A model's parameter data in memory, as read from YAML or from a binary file, and the findings about it.
+// A model's parameter data in memory, as read from YAML or from a binary file.
 // Every engine of prmc passes these around; they own their contents.
 #ifndef PRMC_MODEL_H
 #define PRMC_MODEL_H
 
+#include "hosttools/findings.h"
 #include "prmc/schema.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
-
-// Where something stands: line and column from 1 of a YAML file; line 0: the byte offset in a binary file.
-struct Place {
-    uint64_t line = 0;
-    uint64_t column = 0;
-};
-
-inline Place AtOffset(uint64_t offset) {
-    return {0, offset};
-}
 
 struct Pair {
     std::string name;
@@ -52,26 +42,6 @@ struct Entry {
 
 struct Model {
     std::vector<Entry> entries; // in file order
-};
-
-struct Finding {
-    Place place;
-    bool isNote; // something that is lost or left out, but no fault
-    std::string message;
-};
-
-struct Findings {
-    std::vector<Finding> list;
-
-    void Error(Place place, std::string message) { list.push_back({place, false, std::move(message)}); }
-    void Note(Place place, std::string message) { list.push_back({place, true, std::move(message)}); }
-    bool HasErrors() const {
-        for (const Finding& finding : list) {
-            if (!finding.isNote)
-                return true;
-        }
-        return false;
-    }
 };
 
 // What an item is called: its key, or the text of its first field; empty when it has neither.

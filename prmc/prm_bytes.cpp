@@ -1,8 +1,8 @@
 // Checked access to a binary file's bytes, see prm_bytes.h.
 #include "prmc/prm_bytes.h"
 
+#include "hosttools/text.h"
 #include "paramdata/prm_layout.h"
-#include "prmc/text.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -2,9 +2,9 @@
 // from reading what can't be there.
 #include "prmc/prm_parser.h"
 
+#include "hosttools/text.h"
 #include "paramdata/prm_layout.h"
 #include "prmc/prm_bytes.h"
-#include "prmc/text.h"
 
 #include <algorithm>
 #include <map>

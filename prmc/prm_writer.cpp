@@ -2,8 +2,8 @@
 // are put in when it is appended.
 #include "prmc/prm_writer.h"
 
+#include "hosttools/text.h"
 #include "paramdata/prm_layout.h"
-#include "prmc/text.h"
 
 #include <algorithm>
 #include <string>

@@ -1,9 +1,9 @@
 // The tables behind schema.h. Offsets come from the file's own record layouts.
 #include "prmc/schema.h"
 
+#include "hosttools/text.h"
 #include "paramdata/prm_layout.h"
 #include "prmc/item_keys.h"
-#include "prmc/text.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The YAML form's writer, see yaml_writer.h.
 #include "prmc/yaml_writer.h"
 
-#include "prmc/text.h"
+#include "hosttools/text.h"
 
 #include <algorithm>
 #include <cstdio>

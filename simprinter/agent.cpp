@@ -20,7 +20,8 @@ Message Reply(const ObjectMap& objects, const Message& request) {
     Message reply = ErrorReply(request, kNoError, kNoIndex);
     for (size_t i = 0; i < reply.varBinds.size(); ++i) {
         const Oid& name = request.varBinds[i].name;
-        const auto object = request.type == PduType::kGetNext ? objects.upper_bound(name) : objects.find(name);
+        const auto object =
+            request.type == PduType::kGetNext ? objects.upper_bound(name) : objects.find(name);
         if (object == objects.end())
             return ErrorReply(request, kNoSuchName, static_cast<long>(i + 1));
         if (request.type == PduType::kSet)

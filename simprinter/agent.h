@@ -7,7 +7,8 @@
 
 struct AgentOptions {
     std::string community = "tovask";
-    size_t largestReply = 1472; // octets; a larger one is answered with tooBig. What a network carries in one piece
+    size_t largestReply =
+        1472; // octets; a larger one is answered with tooBig. What a network carries in one piece
 };
 
 struct Agent {

@@ -1,5 +1,5 @@
-// A printer as its description tells it, in the printer's own words, and the tables of those words. A device that is
-// left as it is here is the plain one: no options beyond a second tray and the manual feed.
+// A printer as its description tells it, in the printer's own words, and the tables of those words. A device
+// that is left as it is here is the plain one: no options beyond a second tray and the manual feed.
 #ifndef SIMPRINTER_DEVICE_H
 #define SIMPRINTER_DEVICE_H
 
@@ -185,9 +185,8 @@ constexpr SupplyKind kSupplyKinds[] = {
 };
 // clang-format on
 
-
 struct Tray {
-    const TrayKind* kind = &kTrayKinds[0];
+    const TrayKind* kind = nullptr;
     std::string name; // what the panel shows
     const PaperSize* size = &kPaperSizes[1];
     int orientation = kLongEdgeFirst;
@@ -197,7 +196,7 @@ struct Tray {
 };
 
 struct Supply {
-    const SupplyKind* kind = &kSupplyKinds[0];
+    const SupplyKind* kind = nullptr;
     std::string name;
     int capacity = 0;
     int level = 0; // what is left; of the waste box the room left: 0 full, 1 nearly full
@@ -221,10 +220,10 @@ struct Device {
     std::string serial = "R880-000001";
     std::string location = "";
     std::string contact = "";
-    int memory = 512;                  // MB
-    std::optional<int> hardDisk = {};  // MB
+    int memory = 512;                 // MB
+    std::optional<int> hardDisk = {}; // MB
     bool hasDuplex = false;
-    int pages = 0; // printed so far
+    int pages = 0;    // printed so far
     int punching = 0; // flags of the finishers
     std::vector<const OptionKind*> options = {};
     std::vector<Tray> trays = {};

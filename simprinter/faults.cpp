@@ -1,7 +1,7 @@
 // The fault table and its engine, see faults.h.
 #include "simprinter/faults.h"
 
-#include "prmc/text.h"
+#include "hosttools/text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -129,8 +129,8 @@ constexpr FaultKind kFaultKinds[] = {
 };
 // clang-format on
 
-// The community's length says 127 more octets than there are: the element behind the header and the version, which
-// takes three.
+// The community's length says 127 more octets than there are: the element behind the header and the version,
+// which takes three.
 void LeadBeyondEnd(Octets& octets) {
     const size_t header = octets[1] < 0x80 ? 2 : 2 + (octets[1] & 0x7Fu);
     octets[header + 4] = 0x7F;
@@ -164,7 +164,8 @@ const FaultKind& FindKind(const std::string& text, const std::string& name) {
             return kind;
         names.emplace_back(kind.name);
     }
-    Refuse(text, "there is no such fault" + NearestHint(name, names) + "\nFaults are " + Join(names, " and "));
+    Refuse(text,
+           "there is no such fault" + NearestHint(name, names) + "\nFaults are " + Join(names, " and "));
 }
 
 std::string Usage(const FaultKind& kind) {
@@ -191,8 +192,8 @@ Fault ParseFault(const std::string& text) {
             Refuse(text, std::string(kind.name) + " takes no value");
         if (error != std::errc{} || end != value.data() + value.size() || number < kind.least
             || number > kind.most)
-            Refuse(text, std::string(kind.argumentName) + " must be a number from " + std::to_string(kind.least)
-                             + " to " + std::to_string(kind.most));
+            Refuse(text, std::string(kind.argumentName) + " must be a number from "
+                             + std::to_string(kind.least) + " to " + std::to_string(kind.most));
         fault.argument = number;
     } else if (kind.argument == Argument::kMustHave) {
         Refuse(text, "write " + Usage(kind));
@@ -216,7 +217,8 @@ std::string FaultHelp() {
     return help;
 }
 
-std::vector<Datagram> ApplyFaults(FaultSet& set, const Message& request, const Message& reply, std::string& log) {
+std::vector<Datagram> ApplyFaults(FaultSet& set, const Message& request, const Message& reply,
+                                  std::string& log) {
     Answer answer;
     answer.message = reply;
     for (Fault& fault : set.faults) {

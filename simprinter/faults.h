@@ -1,5 +1,5 @@
-// Faults of a printer or a network, ordered on the command line: a table of them, each acting on the answer to a
-// request, and the datagrams that the answer becomes.
+// Faults of a printer or a network, ordered on the command line: a table of them, each acting on the answer
+// to a request, and the datagrams that the answer becomes.
 #ifndef SIMPRINTER_FAULTS_H
 #define SIMPRINTER_FAULTS_H
 
@@ -40,6 +40,7 @@ Fault ParseFault(const std::string& text);
 std::string FaultHelp();
 
 // Lets the faults act on the reply and encodes it. Appends the names of those that acted to `log`.
-std::vector<Datagram> ApplyFaults(FaultSet& set, const Message& request, const Message& reply, std::string& log);
+std::vector<Datagram> ApplyFaults(FaultSet& set, const Message& request, const Message& reply,
+                                  std::string& log);
 
 #endif

@@ -40,7 +40,8 @@ std::vector<ConceptualRow<Storage>> Storages(const Device& device) {
     std::vector<ConceptualRow<Storage>> rows = {
         {{1}, {1, "1.3.6.1.2.1.25.2.1.2", "Memory", device.memory, device.memory / 4}}};
     if (device.hardDisk)
-        rows.push_back({{2}, {2, "1.3.6.1.2.1.25.2.1.4", "Hard disk", *device.hardDisk, *device.hardDisk / 10}});
+        rows.push_back(
+            {{2}, {2, "1.3.6.1.2.1.25.2.1.4", "Hard disk", *device.hardDisk, *device.hardDisk / 10}});
     return rows;
 }
 
@@ -100,6 +101,7 @@ void AddHostObjects(ObjectMap& to, const Device& device) {
     AddTable(to, "1.3.6.1.2.1.25.2.3.1", kStorage, Storages(device));
     AddTable(to, "1.3.6.1.2.1.25.3.2.1", kDevice, HostDevices(device));
     AddTable(to, "1.3.6.1.2.1.25.3.5.1", kPrinter, {{{1}, device}});
-    to[OidFromText("1.3.6.1.2.1.25.1.1.0").value()] = NumberValue(0, kTimeTicks);          // hrSystemUptime
-    to[OidFromText("1.3.6.1.2.1.25.2.2.0").value()] = NumberValue(int64_t{device.memory} * 1024); // hrMemorySize, KB
+    to[OidFromText("1.3.6.1.2.1.25.1.1.0").value()] = NumberValue(0, kTimeTicks); // hrSystemUptime
+    to[OidFromText("1.3.6.1.2.1.25.2.2.0").value()] =
+        NumberValue(int64_t{device.memory} * 1024); // hrMemorySize, KB
 }

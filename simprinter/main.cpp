@@ -1,8 +1,12 @@
 // simprinter, a simulated printer on the network: command line, messages and exit codes.
 // Exit codes: 0 ended by SIGTERM or SIGINT, or help was asked for; 1 trouble; 2 wrong use.
+#include "hosttools/files.h"
+#include "simprinter/device_reader.h"
 #include "simprinter/objects.h"
+#include "simprinter/recording.h"
 #include "simprinter/server.h"
 
+#include <algorithm>
 #include <chrono>
 #include <CLI/CLI.hpp>
 #include <exception>
@@ -26,9 +30,16 @@ struct CommandLine {
 
 // False when help was asked for and given.
 bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
-    CLI::App app{"A simulated printer on the network: answers SNMPv1 requests as a device would.", "simprinter"};
+    CLI::App app{"A simulated printer on the network: answers SNMPv1 requests as a device would.",
+                 "simprinter"};
     app.add_option("--address", line.server.address, "IPv4 address to listen on")->capture_default_str();
     app.add_option("--port", line.server.port, "UDP port; 0 takes a free one")->capture_default_str();
+    CLI::Option* device =
+        app.add_option("--device", line.deviceFile, "what the printer has; without it a plain one")
+            ->type_name("FILE.yaml");
+    app.add_option("--replay", line.replayFile, "serve a recorded walk: 'snmpwalk -On' text or .snmprec")
+        ->type_name("FILE")
+        ->excludes(device);
     app.add_option("--community", line.agent.community, "requests of others stay unanswered")
         ->capture_default_str();
     app.add_option("--largest-reply", line.agent.largestReply, "octets; a larger one is answered with tooBig")
@@ -62,12 +73,43 @@ std::vector<Fault> ReadFaults(const std::vector<std::string>& texts) {
     return faults;
 }
 
+// What the findings say goes to the standard error output; any but notes end the program.
+void Report(const std::string& path, Findings& findings, bool hasColumns) {
+    std::stable_sort(findings.list.begin(), findings.list.end(), [](const Finding& a, const Finding& b) {
+        return std::pair(a.place.line, a.place.column) < std::pair(b.place.line, b.place.column);
+    });
+    for (const Finding& finding : findings.list) {
+        std::cerr << path << ':' << finding.place.line << ':';
+        if (hasColumns)
+            std::cerr << finding.place.column << ':';
+        std::cerr << ' ' << (finding.isNote ? "note: " : "") << finding.message << '\n';
+    }
+    if (findings.HasErrors())
+        throw std::runtime_error("'" + path + "' has faults: mend them and start again");
+}
+
+ObjectMap ReadObjects(const CommandLine& line) {
+    Findings findings;
+    if (!line.replayFile.empty()) {
+        ObjectMap objects = ReadRecording(ReadFile(line.replayFile), findings);
+        Report(line.replayFile, findings, false);
+        return objects;
+    }
+    if (line.deviceFile.empty())
+        return ObjectsOf(PlainDevice());
+    const Device device = ReadDevice(ReadFile(line.deviceFile), findings);
+    Report(line.deviceFile, findings, true);
+    return ObjectsOf(device);
+}
+
 ExitCode Run(int argc, char** argv) {
     CommandLine line;
     if (!ReadCommandLine(argc, argv, line))
         return kDone;
-    Agent agent{line.agent, ObjectsOf(PlainDevice()), {ReadFaults(line.faults), std::mt19937(line.seed)}};
+    Agent agent{line.agent, {}, {ReadFaults(line.faults), std::mt19937(line.seed)}};
+    agent.objects = ReadObjects(line);
     const auto start = std::chrono::steady_clock::now();
+    const bool isRecorded = !line.replayFile.empty();
     Serve(
         line.server, agent,
         [&](uint16_t port) {
@@ -76,7 +118,8 @@ ExitCode Run(int argc, char** argv) {
         [&](ObjectMap& objects) {
             using Hundredths = std::chrono::duration<int64_t, std::centi>;
             const auto up = std::chrono::steady_clock::now() - start;
-            SetUpTime(objects, std::chrono::duration_cast<Hundredths>(up).count());
+            if (!isRecorded) // whose times stand still
+                SetUpTime(objects, std::chrono::duration_cast<Hundredths>(up).count());
         });
     return kDone;
 }

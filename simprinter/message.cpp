@@ -53,7 +53,8 @@ int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
         contents = arcs.data();
         length = arcs.size() * sizeof(oid);
     }
-    return snmp_pdu_add_variable(&pdu, name.data(), name.size(), varBind.value.tag, contents, length) != nullptr;
+    return snmp_pdu_add_variable(&pdu, name.data(), name.size(), varBind.value.tag, contents, length)
+           != nullptr;
 }
 
 } // namespace
@@ -103,7 +104,8 @@ Octets BuildMessage(const Message& message) {
     const auto* community = reinterpret_cast<const u_char*>(message.community.data());
     const bool built =
         snmp_pdu_realloc_rbuild(&block, &size, &used, pdu.get()) != 0
-        && asn_realloc_rbuild_string(&block, &size, &used, 1, ASN_OCTET_STR, community, message.community.size())
+        && asn_realloc_rbuild_string(&block, &size, &used, 1, ASN_OCTET_STR, community,
+                                     message.community.size())
         && asn_realloc_rbuild_int(&block, &size, &used, 1, ASN_INTEGER, &version, sizeof version)
         && asn_realloc_rbuild_sequence(&block, &size, &used, 1, ASN_SEQUENCE | ASN_CONSTRUCTOR, used);
     Octets octets;

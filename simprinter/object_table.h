@@ -1,5 +1,5 @@
-// How the MIB tables of this printer are written down: a column is a row here, with its number and how its value comes
-// from what it describes.
+// How the MIB tables of this printer are written down: a column is a row here, with its number and how its
+// value comes from what it describes.
 #ifndef SIMPRINTER_OBJECT_TABLE_H
 #define SIMPRINTER_OBJECT_TABLE_H
 
@@ -18,7 +18,8 @@ struct ConceptualRow {
     Thing thing;
 };
 
-// `base` and a column's number and a row's index make an object's name; a scalar is a column with the row index 0.
+// `base` and a column's number and a row's index make an object's name; a scalar is a column with the row
+// index 0.
 template <typename Thing, size_t kColumns>
 void AddTable(ObjectMap& to, const char* base, const Column<Thing> (&columns)[kColumns],
               const std::vector<ConceptualRow<Thing>>& rows) {
@@ -34,7 +35,8 @@ void AddTable(ObjectMap& to, const char* base, const Column<Thing> (&columns)[kC
 }
 
 template <typename Thing, size_t kColumns>
-void AddScalars(ObjectMap& to, const char* base, const Column<Thing> (&columns)[kColumns], const Thing& thing) {
+void AddScalars(ObjectMap& to, const char* base, const Column<Thing> (&columns)[kColumns],
+                const Thing& thing) {
     AddTable<Thing>(to, base, columns, {{{0}, thing}});
 }
 

@@ -60,22 +60,23 @@ std::string PaperText(const Tray& tray) {
 }
 constexpr Column<Tray> kInput[] = {
     {2, [](const Tray& t) { return NumberValue(t.kind->inputType); }},
-    {3, [](const Tray&) { return NumberValue(kMicrometers); }}, // prtInputDimUnit
-    {4, FeedLength},                                            // prtInputMediaDimFeedDirDeclared
-    {5, CrossLength},                                           // prtInputMediaDimXFeedDirDeclared
-    {6, FeedLength},                                            // prtInputMediaDimFeedDirChosen
-    {7, CrossLength},                                           // prtInputMediaDimXFeedDirChosen
-    {8, [](const Tray&) { return NumberValue(kSheets); }},      // prtInputCapacityUnit
-    {9, [](const Tray& t) { return NumberValue(t.capacity); }}, // prtInputMaxCapacity
-    {10, [](const Tray& t) { return NumberValue(t.level); }},   // prtInputCurrentLevel
-    {11, InputStatus},                                          // prtInputStatus
-    {12, [](const Tray& t) { return TextValue(PaperText(t)); }},       // prtInputMediaName
-    {13, [](const Tray& t) { return TextValue(t.name); }},             // prtInputName
-    {18, [](const Tray& t) { return TextValue(t.kind->text); }},       // prtInputDescription
-    {19, [](const Tray&) { return NumberValue(5); }},                  // prtInputSecurity: notPresent
-    {20, [](const Tray& t) { return NumberValue(t.type->weight); }},   // prtInputMediaWeight
-    {21, [](const Tray& t) { return TextValue(t.type->mediaType); }},  // prtInputMediaType
-    {22, [](const Tray& t) { return TextValue(t.type->colorCode ? "other" : "white"); }}, // prtInputMediaColor
+    {3, [](const Tray&) { return NumberValue(kMicrometers); }},       // prtInputDimUnit
+    {4, FeedLength},                                                  // prtInputMediaDimFeedDirDeclared
+    {5, CrossLength},                                                 // prtInputMediaDimXFeedDirDeclared
+    {6, FeedLength},                                                  // prtInputMediaDimFeedDirChosen
+    {7, CrossLength},                                                 // prtInputMediaDimXFeedDirChosen
+    {8, [](const Tray&) { return NumberValue(kSheets); }},            // prtInputCapacityUnit
+    {9, [](const Tray& t) { return NumberValue(t.capacity); }},       // prtInputMaxCapacity
+    {10, [](const Tray& t) { return NumberValue(t.level); }},         // prtInputCurrentLevel
+    {11, InputStatus},                                                // prtInputStatus
+    {12, [](const Tray& t) { return TextValue(PaperText(t)); }},      // prtInputMediaName
+    {13, [](const Tray& t) { return TextValue(t.name); }},            // prtInputName
+    {18, [](const Tray& t) { return TextValue(t.kind->text); }},      // prtInputDescription
+    {19, [](const Tray&) { return NumberValue(5); }},                 // prtInputSecurity: notPresent
+    {20, [](const Tray& t) { return NumberValue(t.type->weight); }},  // prtInputMediaWeight
+    {21, [](const Tray& t) { return TextValue(t.type->mediaType); }}, // prtInputMediaType
+    {22,
+     [](const Tray& t) { return TextValue(t.type->colorCode ? "other" : "white"); }}, // prtInputMediaColor
 };
 
 std::vector<ConceptualRow<Tray>> Inputs(const Device& device) {
@@ -95,10 +96,10 @@ struct Output {
 constexpr int kFixedBin = 4, kMailBox = 6;
 constexpr Column<Output> kOutput[] = {
     {2, [](const Output& o) { return NumberValue(o.type); }},
-    {3, [](const Output&) { return NumberValue(kSheets); }},     // prtOutputCapacityUnit
+    {3, [](const Output&) { return NumberValue(kSheets); }},      // prtOutputCapacityUnit
     {4, [](const Output& o) { return NumberValue(o.capacity); }}, // prtOutputMaxCapacity
-    {5, [](const Output&) { return NumberValue(kLevelSome); }},  // prtOutputRemainingCapacity
-    {6, [](const Output&) { return NumberValue(0); }},           // prtOutputStatus: available and idle
+    {5, [](const Output&) { return NumberValue(kLevelSome); }},   // prtOutputRemainingCapacity
+    {6, [](const Output&) { return NumberValue(0); }},            // prtOutputStatus: available and idle
     {7, [](const Output& o) { return TextValue(o.name); }},
     {12, [](const Output& o) { return TextValue(o.text); }},
     {19, [](const Output&) { return NumberValue(3); }}, // prtOutputStackingOrder: firstToLast
@@ -108,7 +109,8 @@ constexpr Column<Output> kOutput[] = {
 // A finisher takes the place of the printer's own tray.
 std::vector<ConceptualRow<Output>> Outputs(const Device& device) {
     std::vector<Output> outputs;
-    if (std::none_of(device.options.begin(), device.options.end(), [](const auto* o) { return o->isFinisher; }))
+    if (std::none_of(device.options.begin(), device.options.end(),
+                     [](const auto* o) { return o->isFinisher; }))
         outputs.push_back({kFixedBin, 250, "Output tray", "Output tray"});
     for (const OptionKind* option : device.options) {
         for (int i = 1; i <= option->outputs; ++i) {
@@ -125,21 +127,21 @@ std::vector<ConceptualRow<Output>> Outputs(const Device& device) {
 
 // --- .1.3.6.1.2.1.43.10.2.1 prtMarkerTable
 constexpr Column<Device> kMarker[] = {
-    {2, [](const Device&) { return NumberValue(4); }},                  // prtMarkerMarkTech: laser
-    {3, [](const Device&) { return NumberValue(7); }},                  // prtMarkerCounterUnit: impressions
+    {2, [](const Device&) { return NumberValue(4); }},                   // prtMarkerMarkTech: laser
+    {3, [](const Device&) { return NumberValue(7); }},                   // prtMarkerCounterUnit: impressions
     {4, [](const Device& d) { return NumberValue(d.pages, kCounter); }}, // prtMarkerLifeCount
-    {5, [](const Device&) { return NumberValue(0, kCounter); }},        // prtMarkerPowerOnCount
-    {6, [](const Device&) { return NumberValue(4); }},                  // prtMarkerProcessColorants
-    {7, [](const Device&) { return NumberValue(0); }},                  // prtMarkerSpotColorants
-    {8, [](const Device&) { return NumberValue(3); }},   // prtMarkerAddressabilityUnit: tenThousandthsOfInches
-    {9, [](const Device&) { return NumberValue(600); }}, // prtMarkerAddressabilityFeedDir
+    {5, [](const Device&) { return NumberValue(0, kCounter); }},         // prtMarkerPowerOnCount
+    {6, [](const Device&) { return NumberValue(4); }},                   // prtMarkerProcessColorants
+    {7, [](const Device&) { return NumberValue(0); }},                   // prtMarkerSpotColorants
+    {8, [](const Device&) { return NumberValue(3); }}, // prtMarkerAddressabilityUnit: tenThousandthsOfInches
+    {9, [](const Device&) { return NumberValue(600); }},  // prtMarkerAddressabilityFeedDir
     {10, [](const Device&) { return NumberValue(600); }}, // prtMarkerAddressabilityXFeedDir
     {15, [](const Device&) { return NumberValue(0); }},   // prtMarkerStatus: available and idle
 };
 
 // --- .1.3.6.1.2.1.43.11.1.1 prtMarkerSuppliesTable
 constexpr Column<Supply> kSupplies[] = {
-    {2, [](const Supply&) { return NumberValue(1); }},                                        // marker
+    {2, [](const Supply&) { return NumberValue(1); }},                                          // marker
     {3, [](const Supply& s) { return NumberValue(s.kind->colorant ? s.kind->name.code : 0); }}, // colorant
     {4, [](const Supply& s) { return NumberValue(s.kind->supplyClass); }},
     {5, [](const Supply& s) { return NumberValue(s.kind->type); }},

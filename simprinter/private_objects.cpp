@@ -2,12 +2,14 @@
 //
 //   .6.12.1.1.COLUMN.1.N   overlays        1 number, 2 kind, 3 name, 4 title, 5 storage
 //   .6.13.1.1.COLUMN.1.N   colour profiles 1 number, 2 storage, 3 title, 4 name, 5 class
-//   .9...                  equipment: what the standard MIBs have no place for. A simulated printer's own invention:
+//   .9...                  equipment: what the standard MIBs have no place for. A simulated printer's own
+//   invention:
 //     .9.1.0               model name
 //     .9.2.1.COLUMN.N      options         1 number, 2 type, 3 model
 //     .9.3.1.COLUMN.N      finishers       1 number, 2 model, 3 flags of the punch kit
 //     .9.4.1.COLUMN.N      memories        1 number, 2 kind (1 memory, 3 hard disk), 3 MB
-//     .9.5.1.COLUMN.N      paper loaded    1 number of the input, 2 tray, 3 size, 4 orientation, 5 type, 6 colour,
+//     .9.5.1.COLUMN.N      paper loaded    1 number of the input, 2 tray, 3 size, 4 orientation, 5 type, 6
+//     colour,
 //                                          7 second side; all but the tray's word are codes of device.h
 //
 // A numbered row's N counts from 1; that of the paper loaded is the input's number in the Printer MIB.
@@ -24,7 +26,8 @@ struct Numbered {
 };
 
 template <typename Thing>
-std::vector<ConceptualRow<Numbered<Thing>>> NumberedRows(const std::vector<Thing>& things, const Oid& before) {
+std::vector<ConceptualRow<Numbered<Thing>>> NumberedRows(const std::vector<Thing>& things,
+                                                         const Oid& before) {
     std::vector<ConceptualRow<Numbered<Thing>>> rows;
     for (const Thing& thing : things) {
         const size_t number = rows.size() + 1;

@@ -1,4 +1,5 @@
-// The socket loop, see server.h. Answers that a fault delays wait in a queue; everything else goes out at once.
+// The socket loop, see server.h. Answers that a fault delays wait in a queue; everything else goes out at
+// once.
 #include "simprinter/server.h"
 
 #include <arpa/inet.h>
@@ -100,7 +101,8 @@ struct Sockets {
             return otherPort ? *otherPort : otherPort.emplace(where);
         }
         if (source == Source::kOtherAddress) {
-            where.sin_addr.s_addr = htonl(ntohl(where.sin_addr.s_addr) == 0x7F000002 ? 0x7F000003 : 0x7F000002);
+            where.sin_addr.s_addr =
+                htonl(ntohl(where.sin_addr.s_addr) == 0x7F000002 ? 0x7F000003 : 0x7F000002);
             return otherAddress ? *otherAddress : otherAddress.emplace(where);
         }
         return main;
@@ -127,7 +129,8 @@ void SendDue(Sockets& sockets, WaitingQueue& queue) {
 void Wait(int descriptor, const WaitingQueue& queue, const sigset_t& mask) {
     timespec limit = {};
     if (!queue.empty()) {
-        const auto left = std::max<Clock::duration>(queue.begin()->first - Clock::now(), Clock::duration::zero());
+        const auto left =
+            std::max<Clock::duration>(queue.begin()->first - Clock::now(), Clock::duration::zero());
         const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(left);
         limit.tv_sec = seconds.count();
         limit.tv_nsec = std::chrono::nanoseconds(left - seconds).count();
@@ -140,8 +143,8 @@ bool Receive(int descriptor, Octets& datagram, sockaddr_in& from) {
     constexpr size_t kLargestDatagram = 65536;
     datagram.resize(kLargestDatagram);
     socklen_t length = sizeof from;
-    const ssize_t size =
-        recvfrom(descriptor, datagram.data(), datagram.size(), 0, reinterpret_cast<sockaddr*>(&from), &length);
+    const ssize_t size = recvfrom(descriptor, datagram.data(), datagram.size(), 0,
+                                  reinterpret_cast<sockaddr*>(&from), &length);
     datagram.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
     return size >= 0;
 }

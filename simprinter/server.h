@@ -12,8 +12,8 @@ struct ServerOptions {
     bool logs = false;                 // one line per datagram on the standard error output
 };
 
-// Opens the socket, calls `ready` with the port and serves until SIGTERM or SIGINT comes. `refresh` is called before
-// each request, so that what changes with time does. Throws std::runtime_error that says what to do.
+// Opens the socket, calls `ready` with the port and serves until SIGTERM or SIGINT comes. `refresh` is called
+// before each request, so that what changes with time does. Throws std::runtime_error that says what to do.
 void Serve(const ServerOptions& options, Agent& agent, const std::function<void(uint16_t port)>& ready,
            const std::function<void(ObjectMap&)>& refresh);
 

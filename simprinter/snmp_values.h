@@ -29,7 +29,8 @@ enum Tag : uint8_t {
     kUnsigned = 0x47,
 };
 
-// What a value holds, by its tag: a number of 32 bits, octets (four of an address), arcs or, being NULL, nothing.
+// What a value holds, by its tag: a number of 32 bits, octets (four of an address), arcs or, being NULL,
+// nothing.
 struct Value {
     Tag tag = kNull;
     int64_t number = 0;

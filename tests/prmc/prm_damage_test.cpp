@@ -2,8 +2,8 @@
 // YAML writer fail. Offsets are those of the small model's file, see layout_test.cpp.
 #include "engine_support.h"
 
+#include "hosttools/files.h"
 #include "prmc/diff.h"
-#include "prmc/files.h"
 #include "prmc/yaml_writer.h"
 
 #include <algorithm>

@@ -2,9 +2,9 @@
 // misread.
 #include "engine_support.h"
 
+#include "hosttools/files.h"
+#include "hosttools/text.h"
 #include "paramdata/feature_switches.h"
-#include "prmc/files.h"
-#include "prmc/text.h"
 #include "prmc/yaml_writer.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
-// File access of prmc, see files.h. A new file is written beside its place under another name and then
+// File access, see files.h. A new file is written beside its place under another name and then
 // renamed.
-#include "prmc/files.h"
+#include "hosttools/files.h"
 
 #include <cerrno>
 #include <cstdio>

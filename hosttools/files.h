@@ -1,11 +1,11 @@
 // Reading and writing of whole files.
-#ifndef PRMC_FILES_H
-#define PRMC_FILES_H
+#ifndef HOSTTOOLS_FILES_H
+#define HOSTTOOLS_FILES_H
 
 #include <string>
 #include <string_view>
 
-// Far beyond any model; keeps what a broken file can cost within bounds.
+// Far beyond any file that people write; keeps what a broken file can cost within bounds.
 constexpr size_t kMostFileBytes = size_t{4} << 20;
 
 // Throws std::runtime_error with the file's name and the reason.

@@ -1,6 +1,6 @@
 // Texts: comparison as the file's readers do it, UTF-8 and UTF-16, quoting for messages and near names.
-#ifndef PRMC_TEXT_H
-#define PRMC_TEXT_H
+#ifndef HOSTTOOLS_TEXT_H
+#define HOSTTOOLS_TEXT_H
 
 #include <cstddef>
 #include <string>

@@ -1,5 +1,5 @@
-// Text services of prmc, see text.h. UTF-8 follows the Unicode rules: no overlong forms, no surrogates.
-#include "prmc/text.h"
+// Text services, see text.h. UTF-8 follows the Unicode rules: no overlong forms, no surrogates.
+#include "hosttools/text.h"
 
 #include "paramdata/text.h"
 

@@ -1,0 +1,40 @@
+// What a reader of people's files finds wrong, and where.
+#ifndef HOSTTOOLS_FINDINGS_H
+#define HOSTTOOLS_FINDINGS_H
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+// Where something stands: line and column from 1 of a YAML file; line 0: the byte offset in a binary file.
+struct Place {
+    uint64_t line = 0;
+    uint64_t column = 0;
+};
+
+inline Place AtOffset(uint64_t offset) {
+    return {0, offset};
+}
+
+struct Finding {
+    Place place;
+    bool isNote; // something that is lost or left out, but no fault
+    std::string message;
+};
+
+struct Findings {
+    std::vector<Finding> list;
+
+    void Error(Place place, std::string message) { list.push_back({place, false, std::move(message)}); }
+    void Note(Place place, std::string message) { list.push_back({place, true, std::move(message)}); }
+    bool HasErrors() const {
+        for (const Finding& finding : list) {
+            if (!finding.isNote)
+                return true;
+        }
+        return false;
+    }
+};
+
+#endif
