@@ -35,6 +35,15 @@ constexpr void CopyText(Char (&to)[Capacity], const Text& from) {
     to[length] = 0;
 }
 
+// Appends what fits and always terminates.
+template <typename Char, size_t Capacity, typename Text>
+constexpr void AppendText(Char (&to)[Capacity], const Text& from) {
+    size_t length = TextLength(to);
+    for (size_t i = 0; length < Capacity - 1 && CharAt(from, i) != 0; ++i)
+        to[length++] = from[i];
+    to[length] = 0;
+}
+
 constexpr char FoldCase(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }

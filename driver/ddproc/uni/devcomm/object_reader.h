@@ -1,0 +1,52 @@
+// Reading one object of a printer through the SNMP entry points: a session, a request of one varbind, and
+// what the reply says. Every query is made of these; callers have made sure that the entry points are bound.
+#ifndef DEVCOMM_OBJECT_READER_H
+#define DEVCOMM_OBJECT_READER_H
+
+#include "devcomm/query_tables.h"
+#include "devcomm/snmp_entry_points.h"
+
+// How long the system's libraries wait for an agent.
+struct Patience {
+    INT timeOut; // ms
+    INT retries;
+};
+constexpr Patience kReachPatience = {1000, 1};
+constexpr Patience kQueryPatience = {2000, 3};
+
+// A session with an agent for the time of a scope. The last error of what happened in between stays when it
+// closes.
+struct AgentSession {
+    AgentSession(const char* agent, Patience patience);
+    ~AgentSession();
+    AgentSession(const AgentSession&) = delete;
+    AgentSession& operator=(const AgentSession&) = delete;
+
+    const SnmpSession handle; // null: not opened, the last error tells why
+};
+
+// Whether the agent answers a request of the object, with whatever.
+bool AskForObject(SnmpSession session, const char* oid);
+
+enum class Match { kFailed, kNo, kYes };
+
+// Compares an object (OID + suffix) with the expected text in one of the ways of query_tables.h. Failed: the
+// request got no answer that could be read.
+Match MatchObject(SnmpSession session, const char* oid, const char* suffix, int32_t comparison,
+                  const char* expected);
+
+// What an object holds as a number. Absent, and -1: it is not there or of another type.
+struct ObjectNumber {
+    bool isPresent;
+    int32_t value;
+};
+
+// False when the request failed.
+bool ReadNumber(SnmpSession session, const char* oid, const char* suffix, ObjectNumber& number);
+
+// What an object holds as a text, up to its first NUL and cut to fit; empty when it is not there or of
+// another type.
+using ObjectText = char[128];
+bool ReadText(SnmpSession session, const char* oid, const char* suffix, ObjectText& text);
+
+#endif
