@@ -56,6 +56,10 @@ std::vector<std::string> Texts(const List& list) {
 }
 
 struct Query : testing::Test {
+    // As in the processes that load the module, Windows Sockets stays: wine's opens no socket once it was
+    // unloaded.
+    static void SetUpTestSuite() { ASSERT_NE(LoadLibraryW(L"ws2_32.dll"), nullptr); }
+
     bool IsReached(const char* agent) const {
         return module.Export<int WINAPI(const char*)>("MIB_IsAccessOK")(agent) != 0;
     }
