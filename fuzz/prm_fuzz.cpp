@@ -2,14 +2,13 @@
 // what came out against what its readers rely on, lets the process detach and looks for leftovers. Run by
 // libFuzzer and, over a fixed set of inputs, by the regression test.
 #include "../tests/support/compiled_in.h"
+#include "require.h"
 
 #include "frame/entry.h"
 #include "paramdata/device_data.h"
 #include "paramdata/text.h"
 #include "platform_control.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <string>
@@ -20,13 +19,6 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-void Require(bool condition, const char* what) {
-    if (condition)
-        return;
-    fprintf(stderr, "%s\n", what);
-    abort();
-}
 
 template <typename Text>
 void RequireTerminated(const Text& text) {

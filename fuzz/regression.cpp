@@ -1,6 +1,6 @@
-// Runs the fuzz target over given files as they are and, the small ones, over every cut and over every 32-bit
-// field replaced by awkward values: always the same inputs, as a plain test. A failing input ends the
-// program.
+// Runs a fuzz target over given files as they are and, the small ones, over every cut and over every 32-bit
+// field and octet replaced by awkward values: always the same inputs, as a plain test. A failing input ends
+// the program.
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
@@ -15,6 +15,7 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 
 constexpr size_t kSmall = 8192;    // bytes of the largest file whose fields are all replaced
+constexpr size_t kMessage = 256;   // of the largest whose octets are
 constexpr size_t kMostCuts = 1024; // of one file
 
 void Run(const Bytes& bytes) {
@@ -42,6 +43,20 @@ size_t RunReplacedFields(Bytes bytes) {
             ++runs;
         }
         memcpy(&bytes[offset], &saved, sizeof(saved));
+    }
+    return runs;
+}
+
+// Lengths, tags and characters of a message are single octets.
+size_t RunReplacedOctets(Bytes bytes) {
+    size_t runs = 0;
+    for (uint8_t& octet : bytes) {
+        const uint8_t saved = octet;
+        for (unsigned value = 0; value < 256; ++value, ++runs) {
+            octet = static_cast<uint8_t>(value);
+            Run(bytes);
+        }
+        octet = saved;
     }
     return runs;
 }
@@ -77,9 +92,10 @@ int main(int count, char** paths) {
         Run(bytes);
         const size_t cuts = RunCuts(bytes);
         const size_t replaced = bytes.size() <= kSmall ? RunReplacedFields(bytes) : 0;
+        const size_t octets = bytes.size() <= kMessage ? RunReplacedOctets(bytes) : 0;
         const size_t overrun = bytes.size() <= kSmall ? RunLongTexts(bytes) : 0;
-        printf("%zu bytes, %zu cuts, %zu replaced fields, %zu long texts\n", bytes.size(), cuts, replaced,
-               overrun);
+        printf("%zu bytes, %zu cuts, %zu replaced fields, %zu replaced octets, %zu long texts\n",
+               bytes.size(), cuts, replaced, octets, overrun);
     }
     return count > 1 ? 0 : 1;
 }

@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <vector>
@@ -55,7 +54,10 @@ struct Export {
 };
 
 // Makes LoadLibraryW of exactly this path succeed until the reset.
-void RegisterLibrary(const wchar_t* path, std::initializer_list<Export> exports = {});
+void RegisterLibrary(const wchar_t* path, const std::vector<Export>& exports = {});
+
+// What was asked of libraries since the reset, in order: "load PATH", "find NAME", "free PATH".
+std::vector<std::string> LibraryCalls();
 
 // What GetModuleFileNameW answers for every module; before, it fails.
 void SetModuleFileName(const wchar_t* path);
@@ -83,7 +85,7 @@ struct Wire {
     std::function<std::vector<Datagram>(const Datagram& sent)> answer;
 };
 
-// Sockets reach nothing but this wire until the reset.
+// Sockets reach nothing but this wire until the reset. It carries UDP over IPv4 alone: other arguments fail.
 void SetWire(const Wire& scripted);
 
 // What has gone over the wire.

@@ -21,6 +21,7 @@ constexpr int SO_RCVTIMEO = 0x1006;
 constexpr u_long FIONREAD = 0x4004667F;
 
 constexpr int WSAEFAULT = 10014;
+constexpr int WSAEINVAL = 10022;
 constexpr int WSAEMSGSIZE = 10040;
 constexpr int WSAECONNRESET = 10054;
 constexpr int WSAETIMEDOUT = 10060;

@@ -18,6 +18,7 @@ struct Library {
 };
 
 std::list<Library> libraries;
+std::vector<std::string> calls; // in the words of LibraryCalls()
 std::vector<wchar_t> moduleFileName; // with its terminator; empty: not set
 
 Library* FromHandle(HMODULE handle) {
@@ -31,6 +32,7 @@ Library* FromHandle(HMODULE handle) {
 
 HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
     const std::string wanted = platform::ToUtf8(path);
+    calls.push_back("load " + wanted);
     for (Library& library : libraries)
         if (library.path == wanted) {
             ++library.references;
@@ -41,6 +43,7 @@ HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
 }
 
 FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
+    calls.push_back(std::string("find ") + name);
     if (const Library* library = FromHandle(handle))
         for (const platform::Export& function : library->exports)
             if (std::string(function.name) == name)
@@ -55,6 +58,7 @@ BOOL WINAPI FreeLibrary(HMODULE handle) {
         SetLastError(ERROR_INVALID_HANDLE);
         return FALSE;
     }
+    calls.push_back("free " + library->path);
     --library->references;
     return TRUE;
 }
@@ -76,6 +80,7 @@ namespace platform {
 
 void ResetModules() {
     libraries.clear();
+    calls.clear();
     moduleFileName.clear();
 }
 
@@ -86,8 +91,12 @@ int LiveLibraryReferences() {
     return references;
 }
 
-void RegisterLibrary(const wchar_t* path, std::initializer_list<Export> exports) {
+void RegisterLibrary(const wchar_t* path, const std::vector<Export>& exports) {
     libraries.push_back({ToUtf8(path), exports, 0});
+}
+
+std::vector<std::string> LibraryCalls() {
+    return calls;
 }
 
 void SetModuleFileName(const wchar_t* path) {

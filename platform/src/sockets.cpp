@@ -2,6 +2,12 @@
 // went over it, and the counts of live sockets and of uses.
 #include "windows_sockets.h" // before the host's headers, whose macros would rename its constants
 
+constexpr int kIpv4 = winsock::AF_INET;
+constexpr int kDatagrams = winsock::SOCK_DGRAM;
+constexpr int kSocketLevel = winsock::SOL_SOCKET;
+constexpr int kReceiveLimitOption = winsock::SO_RCVTIMEO;
+constexpr auto kOctetsWaiting = static_cast<long>(winsock::FIONREAD);
+
 #include "platform_control.h"
 #include "services.h"
 
@@ -33,6 +39,12 @@ int Result(int result, int error) {
     if (result < 0)
         SetLastError(static_cast<DWORD>(error));
     return result;
+}
+
+// Of a call on the wire: the error that is scripted, or else that of arguments that it doesn't know.
+int WireResult(int scriptedError, bool argumentsAreKnown) {
+    const int error = scriptedError != 0 || argumentsAreKnown ? scriptedError : winsock::WSAEINVAL;
+    return Result(error != 0 ? -1 : 0, error);
 }
 
 // Of the host's last call, as Windows Sockets names it.
@@ -88,7 +100,8 @@ int WSAGetLastError() {
 }
 
 SOCKET socket(int family, int type, int protocol) {
-    const int descriptor = wire != nullptr ? Result(wire->socketError != 0 ? -1 : 0, wire->socketError)
+    const bool isUdp = family == kIpv4 && type == kDatagrams && protocol == 0;
+    const int descriptor = wire != nullptr ? WireResult(wire->socketError, isUdp)
                                            : Result(::socket(family, type, protocol), HostError());
     if (descriptor < 0)
         return winsock::INVALID_SOCKET;
@@ -134,7 +147,7 @@ int connect(SOCKET handle, const sockaddr* address, int) {
     record.address = to.sin_addr.s_addr;
     record.port = winsock::htons(to.sin_port);
     if (wire != nullptr)
-        return Result(wire->connectError != 0 ? -1 : 0, wire->connectError);
+        return WireResult(wire->connectError, to.sin_family == kIpv4);
     const auto redirection = redirections.find(record.port);
     ::sockaddr_in host = {};
     host.sin_family = static_cast<sa_family_t>(to.sin_family);
@@ -144,18 +157,18 @@ int connect(SOCKET handle, const sockaddr* address, int) {
                   HostError());
 }
 
-int setsockopt(SOCKET handle, int, int, const char* value, int) {
+int setsockopt(SOCKET handle, int level, int option, const char* value, int) {
     DWORD milliseconds;
     memcpy(&milliseconds, value, sizeof(milliseconds));
     record.receiveLimit = milliseconds;
     if (wire != nullptr)
-        return Result(wire->optionError != 0 ? -1 : 0, wire->optionError);
+        return WireResult(wire->optionError, level == kSocketLevel && option == kReceiveLimitOption);
     const timeval limit = {milliseconds / 1000, static_cast<suseconds_t>(milliseconds % 1000) * 1000};
     return Result(::setsockopt(Descriptor(handle), SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof(limit)),
                   HostError());
 }
 
-int ioctlsocket(SOCKET handle, long, u_long* argument) {
+int ioctlsocket(SOCKET handle, long command, u_long* argument) {
     ++record.polls;
     if (wire == nullptr) {
         int octets = 0;
@@ -165,7 +178,7 @@ int ioctlsocket(SOCKET handle, long, u_long* argument) {
     }
     const bool seen = pollsSinceSend++ >= wire->pollsUntilSeen && !waiting.empty();
     *argument = seen ? static_cast<u_long>(waiting.front().size()) : 0;
-    return 0;
+    return WireResult(0, command == kOctetsWaiting);
 }
 
 int send(SOCKET handle, const char* octets, int count, int) {
@@ -194,7 +207,7 @@ int recv(SOCKET handle, char* to, int capacity, int) {
         return Result(-1, WSAETIMEDOUT);
     const platform::Datagram datagram = waiting.front();
     waiting.pop_front();
-    memcpy(to, datagram.data(), std::min(datagram.size(), static_cast<size_t>(capacity)));
+    std::copy_n(datagram.begin(), std::min(datagram.size(), static_cast<size_t>(capacity)), to);
     return datagram.size() > static_cast<size_t>(capacity) ? Result(-1, WSAEMSGSIZE)
                                                            : static_cast<int>(datagram.size());
 }

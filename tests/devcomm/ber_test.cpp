@@ -1,8 +1,299 @@
 // BER octets: what the writer builds, and that the reader takes nothing that is not there.
 #include "devcomm/ber_reader.h"
 #include "devcomm/ber_writer.h"
+#include "support/octets.h"
 
+#include <climits>
 #include <gtest/gtest.h>
-#include <vector>
 
-namespace {} // namespace
+namespace {
+
+// What is appended to a message, without the message's own header. The block has just the promised room.
+struct Message {
+    explicit Message(uint32_t contentOctets, uint32_t innerElements = 1)
+        : element(BerCreate(0x30, (innerElements + 1) * kBerMostHeader + contentOctets)) {}
+    ~Message() { BerFree(element); }
+    Message(const Message&) = delete;
+    Message& operator=(const Message&) = delete;
+    Octets All() const { return Octets(element.octets, element.octets + element.count); }
+    Octets Contents() const { return Octets(element.octets + 2, element.octets + element.count); }
+
+    BerBuffer element;
+};
+
+TEST(BerWriter, Integers) {
+    const struct {
+        int32_t value;
+        const char* element;
+    } cases[] = {
+        {0, "02 01 00"},
+        {127, "02 01 7F"},
+        {128, "02 02 00 80"},
+        {255, "02 02 00 FF"},
+        {256, "02 02 01 00"},
+        {257, "02 02 01 01"},
+        {0x7FFF, "02 02 7F FF"},
+        {0x8000, "02 03 00 80 00"},
+        {0x7FFFFF, "02 03 7F FF FF"},
+        {0x800000, "02 04 00 80 00 00"},
+        {INT_MAX, "02 04 7F FF FF FF"},
+        {-1, "02 01 FF"},
+        {-128, "02 01 80"},
+        {-129, "02 02 FF 7F"},
+        {-0x8000, "02 02 80 00"},
+        {-0x8001, "02 03 FF 7F FF"},
+        {-0x800001, "02 04 FF 7F FF FF"},
+        {INT_MIN, "02 04 80 00 00 00"},
+    };
+    for (const auto& c : cases) {
+        const Message message(kBerMostInteger);
+        BerBuffer element = message.element;
+        BerAppendInteger(element, c.value);
+        EXPECT_EQ(Octets(element.octets + 2, element.octets + element.count), Hex(c.element)) << c.value;
+    }
+}
+
+TEST(BerWriter, LengthForms) {
+    const struct {
+        uint32_t count; // of the inner element
+        const char* headers;
+    } cases[] = {
+        {0, "30 02 04 00"},
+        {125, "30 7F 04 7D"},
+        {126, "30 82 00 80 04 7E"},
+        {127, "30 82 00 81 04 7F"},
+        {128, "30 82 00 84 04 82 00 80"},
+        {255, "30 82 01 03 04 82 00 FF"},
+        {256, "30 82 01 04 04 82 01 00"},
+        {65531, "30 82 FF FF 04 82 FF FB"},
+        {65532, "30 83 01 00 00 04 82 FF FC"},
+        {65535, "30 83 01 00 03 04 82 FF FF"},
+        {65536, "30 83 01 00 05 04 83 01 00 00"},
+        {0xFFFFFF, "30 84 01 00 00 04 04 83 FF FF FF"},
+        {0x1000000, "30 84 01 00 00 06 04 84 01 00 00 00"},
+    };
+    for (const auto& c : cases) {
+        Octets contents(c.count);
+        for (uint32_t i = 0; i < c.count; ++i)
+            contents[i] = static_cast<uint8_t>(i * 7 + (i >> 8));
+        Message message(c.count);
+        BerAppendOctets(message.element, 0x04, contents.data(), c.count);
+        EXPECT_TRUE(message.All() == Join({Hex(c.headers), contents})) << c.count;
+    }
+}
+
+// Each header of three nested elements grows while more is appended, and moves what it holds.
+TEST(BerWriter, NestedElementsWhoseHeadersGrow) {
+    const Octets small(100, 0xAA), large(65400, 0xBB);
+    for (const size_t appended : {size_t{1}, size_t{2}, size_t{3}}) {
+        Message message(70000, 8);
+        BerAppendInteger(message.element, 5);
+        BerBuffer outer = BerBegin(message.element, 0xA0);
+        BerAppendInteger(outer, 6);
+        BerBuffer inner = BerBegin(outer, 0x30);
+        Octets expected;
+        for (const Octets* contents : {&small, &small, &large}) {
+            if (expected.size() >= appended * 102)
+                break;
+            BerAppendOctets(inner, 0x04, contents->data(), static_cast<uint32_t>(contents->size()));
+            expected = Join({expected, Element(0x04, {*contents})});
+        }
+        BerAppend(outer, inner);
+        BerAppendInteger(outer, 7);
+        BerAppend(message.element, outer);
+        BerAppendInteger(message.element, 8);
+        EXPECT_TRUE(
+            message.All()
+            == Element(0x30, {Hex("02 01 05"),
+                              Element(0xA0, {Hex("02 01 06"), Element(0x30, {expected}), Hex("02 01 07")}),
+                              Hex("02 01 08")}))
+            << appended;
+    }
+}
+
+TEST(BerWriter, ObjectIdentifiers) {
+    const struct {
+        std::vector<uint32_t> arcs;
+        const char* element; // empty: can't be written
+    } cases[] = {
+        {{1, 3}, "06 01 2B"},
+        {{0, 0}, "06 01 00"},
+        {{2, 39}, "06 01 77"},
+        {{1, 3, 6, 1, 2, 1, 1, 2, 0}, "06 08 2B 06 01 02 01 01 02 00"},
+        {{1, 3, 127, 128, 0}, "06 05 2B 7F 81 00 00"},
+        {{1, 3, 16383, 16384}, "06 06 2B FF 7F 81 80 00"},
+        {{1, 3, 2097151, 2097152}, "06 08 2B FF FF 7F 81 80 80 00"},
+        {{1, 3, 268435455, 268435456}, "06 0A 2B FF FF FF 7F 81 80 80 80 00"},
+        {{1, 3, 4294967295}, "06 06 2B 8F FF FF FF 7F"},
+        {{}, ""},
+        {{1}, ""},
+        {{3, 0}, ""},
+        {{1, 40}, ""},
+        {{2, 40}, ""},
+        {{0xFFFFFFFF, 0}, ""},
+    };
+    for (const auto& c : cases) {
+        Message message(kBerMostOid);
+        const auto count = static_cast<uint32_t>(c.arcs.size());
+        EXPECT_EQ(BerAppendOid(message.element, c.arcs.data(), count), *c.element != 0) << c.element;
+        EXPECT_EQ(message.Contents(), Hex(c.element));
+    }
+}
+
+TEST(BerWriter, ObjectIdentifiersOfTheLongestForm) {
+    const struct {
+        size_t ones; // arcs of 1 behind 1.3, an octet each
+        uint32_t last;
+        bool fits;
+    } cases[] = {
+        {126, 1, true},           {127, 1, false},  {122, 4294967295, true}, {123, 4294967295, false},
+        {126, 4294967295, false}, {125, 128, true}, {126, 128, false},       {200, 1, false},
+    };
+    for (const auto& c : cases) {
+        std::vector<uint32_t> arcs(c.ones + 2, 1);
+        arcs[1] = 3;
+        arcs.push_back(c.last);
+        Message message(kBerMostOid);
+        EXPECT_EQ(BerAppendOid(message.element, arcs.data(), static_cast<uint32_t>(arcs.size())), c.fits);
+        const Octets last = c.last == 1 ? Hex("01") : c.last == 128 ? Hex("81 00") : Hex("8F FF FF FF 7F");
+        EXPECT_EQ(message.All(),
+                  c.fits ? Element(0x30, {Hex("06 82 00 80 2B"), Octets(c.ones, 1), last}) : Hex("30 00"))
+            << c.ones << " and " << c.last;
+    }
+}
+
+TEST(BerReader, LengthForms) {
+    const struct {
+        const char* octets;
+        bool valid; // an OCTET STRING of AA BB, with one octet behind it
+    } cases[] = {
+        {"04 02 AA BB FF", true},
+        {"04 81 02 AA BB FF", true},
+        {"04 82 00 02 AA BB FF", true},
+        {"04 83 00 00 02 AA BB FF", true},
+        {"04 84 00 00 00 02 AA BB FF", true},
+        {"", false},
+        {"04", false},
+        {"04 03 AA BB", false},
+        {"04 81", false},
+        {"04 82 00", false},
+        {"04 84 00 00 00 03 AA BB", false},
+        {"04 84 FF FF FF FF AA BB", false},
+        {"04 84 80 00 00 02 AA BB", false},
+        {"04 80 AA BB 00 00", false},
+        {"04 85 00 00 00 00 02 AA BB FF", false},
+        {"04 88 00 00 00 00 00 00 00 02 AA BB FF", false},
+        {"04 FF AA BB", false},
+        {"05 02 AA BB FF", false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.octets);
+        const ExactBlock block(Hex(c.octets));
+        BerReader reader = {block.Start(), block.End(), false};
+        BerReader contents = BerOpen(reader, 0x04);
+        EXPECT_EQ(contents.failed, !c.valid);
+        EXPECT_EQ(reader.failed, !c.valid);
+        EXPECT_EQ(reader.end - reader.at, c.valid ? 1 : 0);
+        const uint8_t* taken = BerTake(contents, 2);
+        EXPECT_EQ(taken != nullptr ? Octets(taken, taken + 2) : Octets(), c.valid ? Hex("AA BB") : Octets());
+        EXPECT_EQ(BerTake(contents, 1), nullptr) << "ends with its element";
+    }
+}
+
+TEST(BerReader, AFailureStays) {
+    const ExactBlock block(Hex("02 01 05 04 01 AA 02 01 06"));
+    BerReader reader = {block.Start(), block.End(), false};
+    EXPECT_EQ(BerReadInteger(reader), 5);
+    EXPECT_TRUE(BerOpen(reader, 0x30).failed) << "another tag";
+    EXPECT_EQ(BerReadInteger(reader), 0);
+    EXPECT_EQ(BerTake(reader, 0), nullptr);
+    BerReader contents;
+    EXPECT_EQ(BerOpenAny(reader, contents), 0);
+    EXPECT_TRUE(reader.failed && contents.failed && reader.at == reader.end);
+
+    const ExactBlock empty(Hex("30 00 02 01 05"));
+    reader = {empty.Start(), empty.End(), false};
+    EXPECT_TRUE(BerOpenFilled(reader, 0x30).failed);
+    EXPECT_TRUE(reader.failed) << "an element that must hold something";
+    reader = {empty.Start(), empty.End(), false};
+    EXPECT_FALSE(BerOpen(reader, 0x30).failed);
+    EXPECT_EQ(BerReadInteger(reader), 5);
+}
+
+TEST(BerReader, Integers) {
+    const struct {
+        const char* contents;
+        bool valid;
+        int32_t value;
+    } cases[] = {
+        {"00", true, 0},
+        {"7F", true, 127},
+        {"80", true, -128},
+        {"FF", true, -1},
+        {"00 80", true, 128},
+        {"FF 7F", true, -129},
+        {"80 00", true, -32768},
+        {"01 02 03", true, 66051},
+        {"FE FD FC", true, -66052},
+        {"00 00 00 80", true, 128},
+        {"7F FF FF FF", true, INT_MAX},
+        {"80 00 00 00", true, INT_MIN},
+        {"00 80 00 00 00", true, INT_MIN},
+        {"00 FF FF FF FE", true, -2},
+        {"", false, 0},
+        {"01 00 00 00 00", false, 0},
+        {"FF FF FF FF FF", false, 0},
+        {"00 00 00 00 00 01", false, 0},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.contents);
+        const ExactBlock contents(Hex(c.contents));
+        BerReader reader = {contents.Start(), contents.End(), false};
+        EXPECT_EQ(BerInteger(reader), c.value);
+        EXPECT_EQ(reader.failed, !c.valid);
+
+        const ExactBlock element(Element(0x02, {Hex(c.contents)}));
+        reader = {element.Start(), element.End(), false};
+        EXPECT_EQ(BerReadInteger(reader), c.value);
+        EXPECT_EQ(reader.failed, !c.valid);
+    }
+}
+
+TEST(BerReader, Arcs) {
+    const struct {
+        const char* contents;
+        std::vector<uint32_t> arcs; // empty: refused
+        uint32_t capacity = 4;
+    } cases[] = {
+        {"2B", {1, 3}},
+        {"00", {0, 0}},
+        {"77", {2, 39}},
+        {"78", {3, 0}},
+        {"FF", {6, 15}},
+        {"2B 7F 81 00", {1, 3, 127, 128}},
+        {"2B 8F FF FF FF 7F 00", {1, 3, 4294967295, 0}},
+        {"2B 80 80 01", {1, 3, 1}},
+        {"2B 06 01", {1, 3, 6, 1}},
+        {"2B", {1, 3}, 2},
+        {"", {}},
+        {"2B 06 01 02", {}},
+        {"2B 06", {}, 2},
+        {"2B", {}, 1},
+        {"2B 81", {}},
+        {"2B 06 80", {}},
+        {"2B 90 80 80 80 00", {}},
+        {"2B 8F FF FF FF FF 7F", {}},
+        {"2B FF FF FF FF FF FF FF FF FF FF FF 7F", {}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.contents);
+        const ExactBlock contents(Hex(c.contents));
+        const std::unique_ptr<uint32_t[]> arcs(new uint32_t[c.capacity]);
+        BerReader reader = {contents.Start(), contents.End(), false};
+        const uint32_t count = BerReadArcs(reader, arcs.get(), c.capacity);
+        EXPECT_EQ(std::vector<uint32_t>(arcs.get(), arcs.get() + count), c.arcs);
+        EXPECT_EQ(reader.failed, c.arcs.empty());
+    }
+}
+
+} // namespace

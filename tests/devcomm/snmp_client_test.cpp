@@ -2,30 +2,468 @@
 #include "devcomm/snmp_client.h"
 #include "devcomm/snmp_values.h"
 #include "platform_control.h"
+#include "support/octets.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using platform::Datagram;
+using Datagrams = std::vector<Datagram>;
 
-TEST(SnmpClient, FirstRequestOfASession) {
-    platform::SetWire({});
-    const SnmpSession session = ClientOpen("192.0.2.7", "", 2000, 3);
-    ASSERT_NE(session, nullptr);
-    auto* varBind = static_cast<SnmpVarBind*>(ClientMemAlloc(sizeof(SnmpVarBind)));
-    SnmpVarBindList list = {varBind, 1};
-    ASSERT_TRUE(ClientStrToOid(".1.3.6.1.2.1.1.2.0", &varBind->name));
-    varBind->value.asnType = ASN_NULL;
-    EXPECT_EQ(ClientRequest(session, SNMP_PDU_GET, &list, nullptr, nullptr), 0);
-    EXPECT_EQ(GetLastError(), 4102u);
-    const Datagram expected = {0x30, 0x21, 0x02, 0x01, 0x00, 0x04, 0x00, 0xA0, 0x1A, 0x02, 0x02, 0x01,
-                               0x01, 0x02, 0x01, 0x00, 0x02, 0x01, 0x00, 0x30, 0x0E, 0x30, 0x0C, 0x06,
-                               0x08, 0x2B, 0x06, 0x01, 0x02, 0x01, 0x01, 0x02, 0x00, 0x05, 0x00};
-    EXPECT_EQ(platform::ReadWire().sent, std::vector<Datagram>(5, expected));
+constexpr DWORD kUntouched = 777; // a last error that nobody sets
+constexpr AsnInteger32 kNothing = 0x5A5A5A5A;
+
+const Octets kSmallest = Hex("30 21 02 01 00 04 00 A0 1A 02 02 01 01 02 01 00 02 01 00 30 0E 30 0C 06 08 2B"
+                             " 06 01 02 01 01 02 00 05 00");
+
+platform::Wire Answering(const Datagrams& replies) {
+    platform::Wire wire;
+    wire.answer = [replies](const Datagram&) { return replies; };
+    return wire;
+}
+
+// The answer to the n-th sending, and to no other.
+platform::Wire AnsweringAt(int sending, const Datagram& reply) {
+    platform::Wire wire;
+    wire.answer = [sending, reply, sendings = 0](const Datagram&) mutable {
+        return ++sendings == sending ? Datagrams{reply} : Datagrams{};
+    };
+    return wire;
+}
+
+// A session with a community in a block that ends with its terminator, and a list to ask with.
+struct Client {
+    explicit Client(const platform::Wire& wire, const std::string& name = "tovask", UINT varBinds = 1)
+        : community(Join({Characters(name), {0}})) {
+        platform::SetWire(wire);
+        session = ClientOpen("192.0.2.7", reinterpret_cast<const char*>(community.Start()), 2000, 3);
+        EXPECT_NE(session, nullptr);
+        list = {static_cast<SnmpVarBind*>(ClientMemAlloc(static_cast<UINT>(varBinds * sizeof(SnmpVarBind)))),
+                varBinds};
+        for (UINT i = 0; i < varBinds; ++i)
+            list.list[i].value.asnType = ASN_NULL;
+        EXPECT_TRUE(ClientStrToOid(".1.3.6.1.2.1.1.2.0", &list.list[0].name));
+    }
+    ~Client() {
+        ClientVarBindListFree(&list);
+        EXPECT_EQ(ClientClose(session), TRUE);
+    }
+    Client(const Client&) = delete;
+    Client& operator=(const Client&) = delete;
+
+    bool Request(BYTE type = SNMP_PDU_GET) {
+        SetLastError(kUntouched);
+        return ClientRequest(session, type, &list, &status, &index) != 0;
+    }
+
+    // The last error of a request that fails and touches nothing of the caller's.
+    DWORD Failure() {
+        const std::string before = Image();
+        const int blocks = platform::Count().localBlocks;
+        EXPECT_FALSE(Request());
+        EXPECT_EQ(Image(), before);
+        EXPECT_EQ(platform::Count().localBlocks, blocks);
+        return GetLastError();
+    }
+
+    // Everything of the caller's that a request could write.
+    std::string Image() const {
+        std::string image(reinterpret_cast<const char*>(list.list), list.len * sizeof(SnmpVarBind));
+        image.append(reinterpret_cast<const char*>(list.list[0].name.ids), list.list[0].name.idLength * 4);
+        image.append(reinterpret_cast<const char*>(&list), sizeof(list));
+        return image + std::to_string(status) + " " + std::to_string(index);
+    }
+
+    ExactBlock community;
+    SnmpSession session;
+    SnmpVarBindList list;
+    AsnInteger32 status = kNothing;
+    AsnInteger32 index = kNothing;
+};
+
+ReplyParts To(const char* requestId) {
+    ReplyParts reply;
+    reply.requestId = Hex(requestId);
+    return reply;
+}
+const Octets kReply = ReplyParts().Message();
+const Octets kStale = To("02 02 01 00").Message();
+
+TEST(SnmpOpen, AddressPortAndLimit) {
+    const struct {
+        const char* agent;
+        uint32_t address; // network order, read as little-endian
+    } cases[] = {
+        {"192.0.2.7", 0x070200C0},
+        {"printer", 0x0D0C0B0A},
+        {"255.255.255.255", 0x0100007F}, // that one looks like none
+    };
+    for (const auto& c : cases) {
+        platform::Wire wire;
+        wire.hosts = {{"printer", {0x0D0C0B0A, 0x01010101}}, {"255.255.255.255", {0x0100007F}}};
+        platform::SetWire(wire);
+        const SnmpSession session = ClientOpen(c.agent, "tovask", 2000, 3);
+        ASSERT_NE(session, nullptr) << c.agent;
+        const platform::WireRecord record = platform::ReadWire();
+        EXPECT_EQ(record.address, c.address) << c.agent;
+        EXPECT_EQ(record.port, 161);
+        EXPECT_GT(record.receiveLimit, 0u);
+        EXPECT_LE(record.receiveLimit, 10000u);
+        EXPECT_EQ(record.sent.size(), 0u);
+        EXPECT_EQ(platform::Count().sockets, 1);
+        EXPECT_EQ(ClientClose(session), TRUE);
+        EXPECT_EQ(platform::Count().sockets, 0);
+        EXPECT_EQ(platform::Count().socketUses, 0);
+    }
+    EXPECT_EQ(ClientClose(nullptr), TRUE);
+}
+
+TEST(SnmpOpen, Failures) {
+    const struct {
+        const char* what;
+        void (*prepare)(platform::Wire& wire);
+        DWORD lastError;
+        const char* agent = "192.0.2.7";
+    } cases[] = {
+        {"no memory", [](platform::Wire&) { platform::FailAllocations(1); }, 1},
+        {"start-up", [](platform::Wire& wire) { wire.startupError = 10091; }, 10091},
+        {"version 2.2", [](platform::Wire& wire) { wire.versionGranted = 0x0202; }, 30},
+        {"version 1.0", [](platform::Wire& wire) { wire.versionGranted = 0x0001; }, 30},
+        {"version 1.2", [](platform::Wire& wire) { wire.versionGranted = 0x0201; }, 30},
+        {"version 2.1", [](platform::Wire& wire) { wire.versionGranted = 0x0102; }, 30},
+        {"socket", [](platform::Wire& wire) { wire.socketError = 10024; }, 10024},
+        {"unknown name", [](platform::Wire&) {}, 11001, "nowhere"},
+        {"empty name", [](platform::Wire&) {}, 11001, ""},
+        {"name without address", [](platform::Wire& wire) { wire.hosts["bare"] = {}; }, 0, "bare"},
+        {"connection", [](platform::Wire& wire) { wire.connectError = 10049; }, 10049},
+        {"receive limit", [](platform::Wire& wire) { wire.optionError = 10042; }, 10042},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        platform::Reset();
+        platform::Wire wire;
+        c.prepare(wire);
+        platform::SetWire(wire);
+        SetLastError(kUntouched);
+        EXPECT_EQ(ClientOpen(c.agent, "tovask", 2000, 3), nullptr);
+        EXPECT_EQ(GetLastError(), c.lastError);
+        const platform::Counts left = platform::Count();
+        EXPECT_EQ(left.localBlocks, 0);
+        EXPECT_EQ(left.sockets, 0);
+        EXPECT_EQ(left.socketUses, 0);
+    }
+}
+
+TEST(SnmpRequest, SmallestMessageIsSentFiveTimesAndPolledFor) {
+    Client client({}, "");
+    EXPECT_EQ(client.Failure(), 4102u);
+    EXPECT_EQ(platform::ReadWire().sent, Datagrams(5, kSmallest));
     EXPECT_EQ(platform::ReadWire().polls, 50000u);
-    ClientVarBindListFree(&list);
-    EXPECT_EQ(ClientClose(session), TRUE);
+    EXPECT_EQ(platform::ReadWire().receives, 0u);
+}
+
+TEST(SnmpRequest, SeveralVarBinds) {
+    Client client({}, "", 5);
+    SnmpVarBind* varBinds = client.list.list;
+    ClientOidFree(&varBinds[0].name);
+    ASSERT_TRUE(ClientStrToOid("1.3.6.1", &varBinds[0].name));
+    ASSERT_TRUE(ClientStrToOid("2.39.128", &varBinds[1].name));
+    varBinds[1].value.asnType = ASN_INTEGER; // goes with its name only
+    UINT single[] = {1};
+    varBinds[2].name = {1, single}; // can't be encoded: left out
+    UINT beyond[] = {1, 40, 1};
+    varBinds[3].name = {3, beyond};
+    varBinds[3].value.asnType = ASN_OCTETSTRING;
+    varBinds[3].value.asnValue.string = {};
+    ASSERT_TRUE(ClientStrToOid("0.0", &varBinds[4].name));
+    EXPECT_FALSE(client.Request(0xA1));
+    EXPECT_EQ(platform::ReadWire().sent.at(0),
+              Hex("30 30 02 01 00 04 00 A1 29 02 02 01 01 02 01 00 02 01 00 30 1D 30 07 06 03 2B 06 01 05 00"
+                  " 30 05 06 03 77 81 00 30 02 05 00 30 00 30 05 06 01 00 05 00"));
+    varBinds[2].name = varBinds[3].name = {};
+}
+
+TEST(SnmpRequest, Communities) {
+    const struct {
+        size_t length;
+        const char* header;
+    } cases[] = {
+        {0, "04 00"},         {6, "04 06"},         {127, "04 7F"},
+        {128, "04 82 00 80"}, {130, "04 82 00 82"}, {70000, "04 83 01 11 70"},
+    };
+    const Octets behind(kSmallest.begin() + 7, kSmallest.end());
+    for (const auto& c : cases) {
+        const std::string community(c.length, '\xE4');
+        Client client({}, community);
+        EXPECT_EQ(client.Failure(), 4102u);
+        const Octets expected =
+            Element(0x30, {Hex("02 01 00"), Hex(c.header), Characters(community), behind});
+        EXPECT_TRUE(platform::ReadWire().sent.at(0) == expected) << c.length;
+    }
+}
+
+TEST(SnmpRequest, CommunityIsTheCallers) {
+    char community[] = "before";
+    platform::SetWire({});
+    const SnmpSession session = ClientOpen("192.0.2.7", community, 2000, 3);
+    strcpy(community, "after");
+    SnmpVarBind varBind = {};
+    SnmpVarBindList list = {&varBind, 1};
+    EXPECT_EQ(ClientRequest(session, SNMP_PDU_GET, &list, nullptr, nullptr), 0);
+    const Datagram sent = platform::ReadWire().sent.at(0);
+    EXPECT_EQ(Octets(sent.begin() + 5, sent.begin() + 12), Hex("04 05 61 66 74 65 72"));
+    ClientClose(session);
+}
+
+TEST(SnmpRequest, IdsOfALongSession) {
+    Client client(Answering({{0}}));
+    for (unsigned id = 257; id < 0x8000; ++id)
+        ASSERT_FALSE(client.Request());
+    const Datagrams sent = platform::ReadWire().sent;
+    const auto idOf = [&sent](size_t i) { return Octets(sent[i].begin() + 15, sent[i].begin() + 19); };
+    EXPECT_EQ(idOf(0), Hex("02 02 01 01"));
+    EXPECT_EQ(idOf(1), Hex("02 02 01 02"));
+    ASSERT_EQ(sent.size(), 0x7FFFu - 256);
+    EXPECT_EQ(idOf(sent.size() - 1), Hex("02 02 7F FF"));
+
+    platform::SetWire(Answering({To("02 02 80 00").Message(), To("02 03 00 80 00").Message()}));
+    EXPECT_TRUE(client.Request());
+    EXPECT_EQ(platform::ReadWire().receives, 2u) << "the first is that of -32768";
+    const Datagram last = platform::ReadWire().sent.at(0);
+    EXPECT_EQ(Octets(last.begin() + 13, last.begin() + 20), Hex("A0 1B 02 03 00 80 00"));
+}
+
+TEST(SnmpRequest, AnswerToALaterSending) {
+    for (int sending = 1; sending <= 6; ++sending) {
+        Client client(AnsweringAt(sending, kReply));
+        EXPECT_EQ(client.Request(), sending <= 5);
+        const platform::WireRecord record = platform::ReadWire();
+        EXPECT_EQ(record.sent.size(), std::min<size_t>(static_cast<size_t>(sending), 5));
+        EXPECT_EQ(record.polls, sending <= 5 ? static_cast<unsigned>(sending - 1) * 10000 + 1 : 50000u);
+        EXPECT_EQ(record.receives, sending <= 5 ? 1u : 0u);
+        for (const Datagram& sent : record.sent)
+            EXPECT_EQ(sent, record.sent[0]);
+    }
+}
+
+TEST(SnmpRequest, AnswerAtALaterPoll) {
+    for (const unsigned before : {0u, 1u, 9999u, 10000u}) {
+        platform::Wire wire = Answering({kReply});
+        wire.pollsUntilSeen = before;
+        Client client(wire);
+        EXPECT_EQ(client.Request(), before < 10000);
+        EXPECT_EQ(platform::ReadWire().sent.size(), before < 10000 ? 1u : 5u);
+        EXPECT_EQ(platform::ReadWire().polls, before < 10000 ? before + 1 : 50000);
+    }
+}
+
+TEST(SnmpRequest, SendFails) {
+    for (const unsigned sending : {1u, 3u, 5u}) {
+        platform::Wire wire;
+        wire.failingSend = sending;
+        Client client(wire);
+        EXPECT_EQ(client.Failure(), 0xFFFFFFFFu);
+        EXPECT_EQ(platform::ReadWire().sent.size(), sending);
+        EXPECT_EQ(platform::ReadWire().polls, (sending - 1) * 10000);
+    }
+}
+
+TEST(SnmpReceive, ValueStatusAndIndexAreStored) {
+    ReplyParts reply;
+    reply.status = Hex("02 01 02");
+    reply.index = Hex("02 02 FF 7F");
+    for (const bool withStatus : {false, true})
+        for (const bool withIndex : {false, true}) {
+            Client client(Answering({reply.Message()}));
+            EXPECT_NE(ClientRequest(client.session, SNMP_PDU_GET, &client.list,
+                                    withStatus ? &client.status : nullptr,
+                                    withIndex ? &client.index : nullptr),
+                      0);
+            EXPECT_EQ(client.status, withStatus ? 2 : kNothing);
+            EXPECT_EQ(client.index, withIndex ? -129 : kNothing);
+            EXPECT_EQ(client.list.list[0].value.asnType, ASN_INTEGER);
+            EXPECT_EQ(client.list.list[0].value.asnValue.number, 42);
+        }
+}
+
+// The first varbind alone is stored, and of it nothing but the value.
+TEST(SnmpReceive, SeveralVarBinds) {
+    ReplyParts reply;
+    reply.value = Element(0x04, {Hex("61 62")});
+    const Octets second = Element(0x30, {Hex("06 01 2B"), Hex("02 01 07")});
+    const Octets varBinds = Element(0x30, {Element(0x30, {reply.name, reply.value}), second});
+    const Octets pdu = Element(0xA2, {reply.requestId, reply.status, reply.index, varBinds});
+    Client client(Answering({Element(0x30, {reply.version, reply.community, pdu})}), "tovask", 2);
+    ASSERT_TRUE(client.Request());
+    EXPECT_EQ(GetLastError(), kUntouched);
+    const AsnOctetString& text = client.list.list[0].value.asnValue.string;
+    EXPECT_EQ(Octets(text.stream, text.stream + text.length), Hex("61 62"));
+    const UINT asked[] = {1, 3, 6, 1, 2, 1, 1, 2, 0};
+    EXPECT_EQ(memcmp(client.list.list[0].name.ids, asked, sizeof(asked)), 0);
+    EXPECT_EQ(client.list.list[1].value.asnType, ASN_NULL);
+    EXPECT_TRUE(client.list.list[1].name.ids == nullptr);
+}
+
+TEST(SnmpReceive, StaleReplies) {
+    for (size_t stale = 0; stale <= 5; ++stale) {
+        Datagrams replies(stale, kStale);
+        replies.push_back(kReply);
+        Client client(Answering(replies));
+        if (stale < 5) {
+            EXPECT_TRUE(client.Request());
+            EXPECT_EQ(GetLastError(), kUntouched);
+        } else {
+            EXPECT_EQ(client.Failure(), 3u);
+        }
+        EXPECT_EQ(platform::ReadWire().receives, std::min<size_t>(stale + 1, 5));
+        EXPECT_EQ(platform::ReadWire().sent.size(), 1u);
+        EXPECT_EQ(platform::ReadWire().polls, 1u) << "none before the receives that follow";
+    }
+}
+
+// Of a stale reply what lies behind the request-id is not looked at; what lies before it is.
+TEST(SnmpReceive, StaleAndMore) {
+    ReplyParts stale = To("02 02 01 00");
+    stale.status = Hex("FF FF FF");
+    ReplyParts foreign = To("02 02 01 00");
+    foreign.community = Hex("04 01 78");
+    ReplyParts nameless = To("02 02 01 00");
+    nameless.version = {};
+    const struct {
+        Datagrams replies;
+        bool succeeds;
+        DWORD lastError;
+    } cases[] = {
+        {{stale.Message(), kReply}, true, kUntouched},
+        {{foreign.Message(), kReply}, true, 5},
+        {Datagrams(5, foreign.Message()), false, 3},
+        {{nameless.Message(), kReply}, false, 11},
+        {{kStale, {}, kReply}, false, 11}, // empty, with the stale one still in the buffer
+        {{kStale}, false, 0xFFFFFFFF},     // and then silence
+    };
+    for (const auto& c : cases) {
+        Client client(Answering(c.replies));
+        if (c.succeeds) {
+            EXPECT_TRUE(client.Request());
+            EXPECT_EQ(GetLastError(), c.lastError);
+        } else {
+            EXPECT_EQ(client.Failure(), c.lastError);
+        }
+    }
+}
+
+TEST(SnmpReceive, CommunityIsComparedOverTheReplysLength) {
+    const struct {
+        const char* session;
+        std::string reply;
+        bool same;
+    } cases[] = {
+        {"tovask", "tovask", true},
+        {"tovask", "", true},
+        {"tovask", "tov", true},
+        {"tovask", "tovasK", false},
+        {"tovask", "xovask", false},
+        {"tovask", "tovaskx", false},
+        {"tovask", std::string("tovask\0", 7), true},
+        {"tovask", std::string("tovask\0x", 8), false},
+        {"", "", true},
+        {"", "x", false},
+        {"", std::string(300, '\0'), false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.reply);
+        ReplyParts reply;
+        reply.community = Element(0x04, {Characters(c.reply)});
+        Client client(Answering({reply.Message()}), c.session);
+        EXPECT_TRUE(client.Request());
+        EXPECT_EQ(GetLastError(), c.same ? kUntouched : 5u);
+        EXPECT_EQ(client.list.list[0].value.asnValue.number, 42);
+    }
+}
+
+// No matter which element is the last that is there, or what the value is.
+TEST(SnmpReceive, MalformedRepliesChangeNothing) {
+    Datagrams malformed = {Hex("30 00"), Hex("31 01 00"), Hex("A2 00")};
+    for (Octets ReplyParts::*const part :
+         {&ReplyParts::version, &ReplyParts::community, &ReplyParts::requestId, &ReplyParts::status,
+          &ReplyParts::index, &ReplyParts::name, &ReplyParts::value}) {
+        ReplyParts other;
+        (other.*part)[0] = 0x45;
+        malformed.push_back(other.Message());
+    }
+    for (const char* value : {"80 00", "46 01 00", "02 00", "06 01", "06 02 2B 81", "04 05 61"}) {
+        ReplyParts other;
+        other.status = Hex("02 01 05");
+        other.value = Hex(value);
+        malformed.push_back(other.Message());
+    }
+    for (size_t count = 1; count < kReply.size(); ++count) // an empty one is not seen by the poll
+        malformed.emplace_back(kReply.begin(), kReply.begin() + static_cast<long>(count));
+    for (const Datagram& datagram : malformed) {
+        Client client(Answering({datagram, kReply}));
+        EXPECT_EQ(client.Failure(), 11u) << testing::PrintToString(datagram);
+        EXPECT_EQ(platform::ReadWire().receives, 1u) << "ends the request";
+    }
+}
+
+// The datagram before, as long as a whole reply, still lies in the receive buffer: it must not complete a cut
+// one.
+TEST(SnmpReceive, EndsWithItsDatagramNotWithTheBuffer) {
+    for (size_t count = 0; count < kReply.size(); ++count) {
+        Client client(Answering({kStale, Octets(kReply.begin(), kReply.begin() + static_cast<long>(count))}));
+        EXPECT_EQ(client.Failure(), 11u) << count;
+        platform::SetWire(Answering({To("02 02 01 02").Message()}));
+        EXPECT_TRUE(client.Request()) << "the session can still be used";
+    }
+}
+
+TEST(SnmpReceive, DatagramsOfTheLargestSize) {
+    ReplyParts reply;
+    reply.value = Element(0x04, {Octets(4000, 'x')});
+    const size_t around = reply.Message().size() - 4000;
+    for (const size_t size : {size_t{4095}, size_t{4096}, size_t{4097}, size_t{60000}}) {
+        reply.value = Element(0x04, {Octets(size - around, 'x')});
+        ASSERT_EQ(reply.Message().size(), size);
+        Client client(Answering({reply.Message()}));
+        if (size <= 4096) {
+            EXPECT_TRUE(client.Request());
+            EXPECT_EQ(client.list.list[0].value.asnValue.string.length, size - around);
+        } else {
+            EXPECT_EQ(client.Failure(), 0xFFFFFFFFu);
+        }
+    }
+}
+
+TEST(SnmpReceive, WithoutMemory) {
+    for (const char* value : {"04 02 61 62", "04 00", "06 02 2B 01"}) {
+        ReplyParts reply;
+        reply.value = Hex(value);
+        for (const unsigned failing : {1u, 2u}) {
+            Client client(Answering({reply.Message()}));
+            platform::FailAllocations(failing);
+            EXPECT_EQ(client.Failure(), DWORD{ERROR_NOT_ENOUGH_MEMORY});
+            EXPECT_EQ(platform::ReadWire().sent.size(), failing - 1) << "the message, then the value";
+            platform::SetWire(Answering({To("02 02 01 02").Message()}));
+            EXPECT_TRUE(client.Request());
+        }
+    }
+    AsnObjectIdentifier oid;
+    platform::FailAllocations(1);
+    SetLastError(kUntouched);
+    EXPECT_FALSE(ClientStrToOid("1.3", &oid));
+    EXPECT_TRUE(oid.ids == nullptr);
+    EXPECT_EQ(oid.idLength, 0u);
+    EXPECT_EQ(GetLastError(), kUntouched);
+}
+
+// What a caller sees after it has cleaned up is why the request failed.
+TEST(SnmpReceive, LastErrorSurvivesTheCleanUp) {
+    {
+        Client client({});
+        EXPECT_FALSE(client.Request());
+    }
+    EXPECT_EQ(GetLastError(), 4102u);
 }
 
 } // namespace

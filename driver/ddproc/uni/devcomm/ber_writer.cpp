@@ -12,6 +12,7 @@ constexpr uint8_t kOidTag = 0x06;
 constexpr uint32_t kMostShortLength = 0x7F;
 constexpr uint8_t kLongForm = 0x80;
 constexpr uint8_t kMoreGroups = 0x80;
+constexpr uint32_t kGroup = 0x7F;
 constexpr uint32_t kGroupBits = 7;
 
 uint32_t LengthOctets(uint32_t contents) {
@@ -62,7 +63,7 @@ uint32_t WriteArcs(const uint32_t* arcs, uint32_t count, uint8_t (&to)[kBerMostO
         if (groups > kBerMostOid - written)
             return 0;
         while (groups-- > 0)
-            to[written++] = static_cast<uint8_t>((arcs[i] >> (groups * kGroupBits) & ~kMoreGroups)
+            to[written++] = static_cast<uint8_t>((arcs[i] >> (groups * kGroupBits) & kGroup)
                                                  | (groups > 0 ? kMoreGroups : 0));
     }
     return written;

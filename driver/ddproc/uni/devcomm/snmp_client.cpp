@@ -176,6 +176,7 @@ SnmpSession WINAPI ClientOpen(const char* agent, const char* community, INT time
 
 BOOL WINAPI ClientClose(SnmpSession session) {
     if (session != nullptr) {
+        const KeepLastError keep; // of the request before
         closesocket(Record(session).socket);
         WSACleanup();
         LocalFree(session);

@@ -12,7 +12,7 @@
 // (Windows Sockets 1.1 is not granted) or that of Windows Sockets (socket, agent's address, connection).
 SnmpSession WINAPI ClientOpen(const char* agent, const char* community, INT timeOut, INT retries);
 
-// Releases the session; TRUE, also for null.
+// Releases the session; TRUE, also for null. The last error, that of a request, stays.
 BOOL WINAPI ClientClose(SnmpSession session);
 
 // Asks for the objects of the list, which holds one varbind at least, and stores the first value of the reply

@@ -1,6 +1,7 @@
 // Values and names of the built-in client, and their memory: see the header.
 #include "devcomm/snmp_values.h"
 
+#include "devcomm/last_error.h"
 #include "paramdata/text.h"
 
 #include <cstring>
@@ -145,6 +146,7 @@ void WINAPI ClientVarBindListFree(SnmpVarBindList* list) {
 
 BOOL WINAPI ClientStrToOid(const char* text, AsnObjectIdentifier* oid) {
     *oid = {};
+    const KeepLastError keep;
     UINT arcs[kMostArcs];
     const UINT count = ParseArcs(text, arcs);
     return count >= 2 && arcs[0] < 3 && arcs[1] < 40 && CopyArcs(arcs, count, *oid);

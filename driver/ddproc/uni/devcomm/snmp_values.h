@@ -35,10 +35,9 @@ void WINAPI ClientVarBindFree(SnmpVarBind* varBind);
 void WINAPI ClientVarBindListFree(SnmpVarBindList* list);
 
 // Dotted decimal text as an OID, whose arcs the caller frees by ClientOidFree. A leading '.' is ignored; an
-// arc without digits, also the one behind a final '.', is 0. FALSE, and the OID empty: another character than
-// digits and
-// '.', an arc of more than 15 digits or 32 bits, fewer than 2 or more than 128 arcs, a first of 3 or more, a
-// second of 40 or more, no memory.
+// arc without digits, also the one behind a final '.', is 0. FALSE, the OID empty and the last error as it
+// was: another character than digits and '.', an arc of more than 15 digits or 32 bits, fewer than 2 or more
+// than 128 arcs, a first of 3 or more, a second of 40 or more, no memory.
 BOOL WINAPI ClientStrToOid(const char* text, AsnObjectIdentifier* oid);
 
 #endif

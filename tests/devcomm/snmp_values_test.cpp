@@ -1,0 +1,355 @@
+// Values, names and their memory, and whole replies from their first octet to the stored value.
+#include "devcomm/snmp_message.h"
+#include "devcomm/snmp_values.h"
+#include "support/octets.h"
+
+#include <climits>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Arcs = std::vector<UINT>;
+
+Arcs ArcsOf(const AsnObjectIdentifier& oid) {
+    return Arcs(oid.ids, oid.ids + oid.idLength);
+}
+
+// Whether the datagram is taken; its value then lies in `value`.
+bool Read(const Octets& datagram, AsnAny& value) {
+    const ExactBlock block(datagram);
+    SnmpReply reply;
+    SnmpResult result;
+    return SnmpReadReply(block.Start(), block.count, reply) && SnmpReadResult(reply, result)
+           && SnmpDecodeValue(result.valueType, result.value, value);
+}
+
+struct Value {
+    Value() {
+        memset(&varBind, 0xEE, sizeof(varBind)); // not what is read
+        varBind.name = {};
+    }
+    bool Read(const char* valueElement) {
+        ReplyParts parts;
+        parts.value = Hex(valueElement);
+        return ::Read(parts.Message(), varBind.value);
+    }
+    void Free() { ClientVarBindFree(&varBind); }
+
+    SnmpVarBind varBind;
+    AsnAny& value = varBind.value;
+};
+
+TEST(SnmpValues, Numbers) {
+    const struct {
+        const char* element;
+        int32_t number;
+    } cases[] = {
+        {"02 01 FF", -1},
+        {"02 04 80 00 00 00", INT_MIN},
+        {"02 81 01 05", 5},
+        {"41 02 00 80", 128},
+        {"41 05 00 80 00 00 00", INT_MIN},
+        {"42 05 00 FF FF FF FF", -1},
+        {"42 84 00 00 00 03 01 02 03", 66051},
+        {"43 04 7F FF FF FF", INT_MAX},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.element);
+        Value read;
+        ASSERT_TRUE(read.Read(c.element));
+        EXPECT_EQ(read.value.asnType, Hex(c.element)[0]);
+        EXPECT_EQ(read.value.asnValue.number, c.number);
+        read.Free();
+        EXPECT_EQ(read.value.asnType, 0x05);
+    }
+}
+
+TEST(SnmpValues, OctetsAreCopied) {
+    for (const char* element : {"04 03 61 00 FF", "30 03 02 01 05", "40 04 C0 00 02 07", "44 01 00", "04 00",
+                                "04 82 00 02 61 62"}) {
+        SCOPED_TRACE(element);
+        Value read;
+        ASSERT_TRUE(read.Read(element)); // the datagram is gone now
+        const AsnOctetString& text = read.value.asnValue.string;
+        const Octets whole = Hex(element);
+        ASSERT_TRUE(text.stream != nullptr);
+        EXPECT_EQ(text.dynamic, 1);
+        EXPECT_EQ(read.value.asnType, whole[0]);
+        EXPECT_EQ(Octets(text.stream, text.stream + text.length),
+                  Octets(whole.end() - text.length, whole.end()));
+        EXPECT_EQ(text.length, whole[1] == 0x82 ? whole.size() - 4 : whole.size() - 2);
+        read.Free();
+        EXPECT_TRUE(text.stream == nullptr);
+        EXPECT_EQ(text.length, 0u);
+        EXPECT_EQ(text.dynamic, 0);
+        EXPECT_EQ(read.value.asnType, 0x05);
+        read.Free();
+    }
+}
+
+TEST(SnmpValues, ObjectIdentifiersAndNull) {
+    Value read;
+    ASSERT_TRUE(read.Read("06 0A 2B 06 01 04 01 82 F6 29 81 00")); // 2*16384 + 0x76*128 + 0x29
+    EXPECT_EQ(read.value.asnType, 0x06);
+    EXPECT_EQ(ArcsOf(read.value.asnValue.object), Arcs({1, 3, 6, 1, 4, 1, 47913, 128}));
+    read.Free();
+    EXPECT_TRUE(read.value.asnValue.object.ids == nullptr);
+    EXPECT_EQ(read.value.asnValue.object.idLength, 0u);
+    EXPECT_EQ(read.value.asnType, 0x05);
+    read.Free();
+
+    ASSERT_TRUE(read.Read("05 00"));
+    EXPECT_EQ(read.value.asnType, 0x05);
+    EXPECT_EQ(read.value.asnValue.string.length, 0u);
+    EXPECT_EQ(read.value.asnValue.string.dynamic, 1);
+    read.Free();
+}
+
+// 32 arcs are what a reply's OID may have; more are taken up to some limit or refused, but never overrun.
+TEST(SnmpValues, LongObjectIdentifiers) {
+    for (const size_t arcs : {size_t{32}, size_t{33}, size_t{128}, size_t{129}, size_t{1000}}) {
+        ReplyParts parts;
+        parts.value = Element(0x06, {Hex("2B"), Octets(arcs - 2, 7)});
+        Value read;
+        Arcs expected(arcs, 7);
+        expected[0] = 1;
+        expected[1] = 3;
+        if (Read(parts.Message(), read.value)) {
+            EXPECT_EQ(ArcsOf(read.value.asnValue.object), expected);
+            read.Free();
+        } else {
+            EXPECT_GT(arcs, 32u);
+        }
+    }
+}
+
+// 0x80 to 0x82 say in a later version why there is no value.
+TEST(SnmpValues, OtherTypesAndMalformedContents) {
+    const auto refuses = [](const Octets& element) {
+        ReplyParts parts;
+        parts.value = element;
+        AsnAny value;
+        memset(&value, 0xEE, sizeof(value));
+        const AsnAny before = value;
+        SetLastError(0);
+        EXPECT_FALSE(Read(parts.Message(), value)) << testing::PrintToString(element);
+        EXPECT_EQ(memcmp(&value, &before, sizeof(value)), 0);
+        return GetLastError();
+    };
+    const Octets known = Hex("02 41 42 43 04 30 40 44 06 05");
+    for (unsigned tag = 0; tag < 256; ++tag)
+        if (memchr(known.data(), static_cast<int>(tag), known.size()) == nullptr) {
+            EXPECT_EQ(refuses(Element(static_cast<uint8_t>(tag), {Hex("2A")})), 11u) << tag;
+        }
+    for (const char* element :
+         {"80 00", "02 00", "41 05 01 00 00 00 00", "06 00", "06 02 2B 81", "06 06 2B 90 80 80 80 00"})
+        EXPECT_EQ(refuses(Hex(element)), 11u);
+    refuses(Hex("02 02 01")); // longer than the varbind
+    refuses(Hex("04 84 FF FF FF FF"));
+    refuses({});
+}
+
+// The smallest reply, one with long forms at every level, and one with more behind the first varbind.
+std::vector<Octets> ValidReplies() {
+    ReplyParts longForms;
+    longForms.version = Hex("02 84 00 00 00 01 00");
+    longForms.community = Hex("04 83 00 00 06 74 6F 76 61 73 6B");
+    longForms.status = Hex("02 81 01 00");
+    longForms.name = Join({Hex("06 82 00 80 2B"), Octets(127, 1)});
+    longForms.value = Element(0x04, {Octets(200, 0x61)});
+    ReplyParts oid;
+    oid.value = Hex("06 03 2B 81 00");
+    return {ReplyParts().Message(), longForms.Message(), oid.Message(),
+            Hex("30 1E 02 01 00 04 00 A2 17 02 02 01 01 02 01 00 02 01 00 30 0B"
+                " 30 07 06 01 2B 05 00 FF FF 05 00")};
+}
+
+TEST(SnmpReply, NoPrefixOfAReplyIsOne) {
+    for (const Octets& datagram : ValidReplies()) {
+        AsnAny value;
+        EXPECT_TRUE(Read(datagram, value));
+        SnmpVarBind varBind = {{}, value};
+        ClientVarBindFree(&varBind);
+        for (size_t count = 0; count < datagram.size(); ++count)
+            EXPECT_FALSE(Read(Octets(datagram.begin(), datagram.begin() + static_cast<long>(count)), value))
+                << count;
+    }
+}
+
+// Whatever one octet says: either it is refused, or a value comes that can be freed.
+TEST(SnmpReply, AnyOctetReplacedByAny) {
+    for (Octets datagram : ValidReplies())
+        for (size_t i = 0; i < datagram.size(); ++i) {
+            const uint8_t saved = datagram[i];
+            for (unsigned octet = 0; octet < 256; ++octet) {
+                datagram[i] = static_cast<uint8_t>(octet);
+                SnmpVarBind varBind = {};
+                if (Read(datagram, varBind.value)) {
+                    EXPECT_NE(SnmpFormOf(varBind.value.asnType), SnmpForm::kUnknown);
+                }
+                ClientVarBindFree(&varBind);
+            }
+            datagram[i] = saved;
+        }
+}
+
+// The place of everything is fixed: with an element left out, of another tag or empty where it must not be,
+// it is no reply, although all lengths are right.
+TEST(SnmpReply, ElementsThatMustBeThere) {
+    Octets ReplyParts::*const parts[] = {&ReplyParts::version, &ReplyParts::community, &ReplyParts::requestId,
+                                         &ReplyParts::status,  &ReplyParts::index,     &ReplyParts::name,
+                                         &ReplyParts::value};
+    AsnAny value;
+    for (const auto part : parts) {
+        ReplyParts missing, other;
+        (missing.*part).clear();
+        EXPECT_FALSE(Read(missing.Message(), value));
+        (other.*part)[0] ^= 0x80;
+        EXPECT_FALSE(Read(other.Message(), value));
+    }
+    for (const auto part : {&ReplyParts::requestId, &ReplyParts::status, &ReplyParts::index}) {
+        ReplyParts broken;
+        for (const char* integer : {"02 00", "02 05 01 00 00 00 00"}) {
+            broken.*part = Hex(integer);
+            EXPECT_FALSE(Read(broken.Message(), value)) << integer;
+        }
+    }
+    const ReplyParts sound;
+    const Octets ids = Join({sound.requestId, sound.status, sound.index});
+    const Octets varBind = Element(0x30, {sound.name, sound.value});
+    const auto whole = [&](uint8_t message, uint8_t pdu, uint8_t list, uint8_t first) {
+        return Element(message,
+                       {sound.version, sound.community,
+                        Element(pdu, {ids, Element(list, {Element(first, {sound.name, sound.value})})})});
+    };
+    EXPECT_TRUE(Read(whole(0x30, 0xA2, 0x30, 0x30), value));
+    for (const Octets& datagram :
+         {whole(0x31, 0xA2, 0x30, 0x30), whole(0x30, 0xA0, 0x30, 0x30), whole(0x30, 0xA2, 0x31, 0x30),
+          whole(0x30, 0xA2, 0x30, 0xA0), Hex("30 00"), Octets(),
+          Element(0x30, {sound.version, sound.community, Hex("A2 00")}),
+          Element(0x30, {sound.version, sound.community, Element(0xA2, {ids})}),
+          Element(0x30, {sound.version, sound.community, Element(0xA2, {ids, Hex("30 00")})}),
+          Element(0x30, {sound.version, sound.community, Element(0xA2, {ids, Hex("30 02 30 00")}), varBind})})
+        EXPECT_FALSE(Read(datagram, value)) << testing::PrintToString(datagram);
+}
+
+TEST(SnmpReply, WhatIsNotLookedAt) {
+    for (const char* version : {"02 01 01", "02 00", "02 09 01 02 03 04 05 06 07 08 09"}) {
+        ReplyParts parts;
+        parts.version = Hex(version);
+        parts.name = Hex("06 00");
+        AsnAny value;
+        ASSERT_TRUE(Read(Join({parts.Message(), Hex("00 FF")}), value)) << version;
+        EXPECT_EQ(value.asnValue.number, 42);
+    }
+}
+
+TEST(SnmpValues, FreeingVarBindsAndLists) {
+    auto* varBinds = static_cast<SnmpVarBind*>(ClientMemAlloc(3 * sizeof(SnmpVarBind)));
+    ASSERT_NE(varBinds, nullptr);
+    EXPECT_EQ(Octets(reinterpret_cast<BYTE*>(varBinds), reinterpret_cast<BYTE*>(varBinds + 3)),
+              Octets(3 * sizeof(SnmpVarBind)));
+    for (int i = 0; i < 3; ++i)
+        ASSERT_TRUE(ClientStrToOid("1.3.6", &varBinds[i].name));
+    BYTE callers[] = {1, 2, 3};
+    varBinds[0].value.asnType = 0x04;
+    varBinds[0].value.asnValue.string = {callers, 3, FALSE}; // not allocated for the value: not freed
+    varBinds[1].value.asnType = 0x06;
+    ASSERT_TRUE(ClientStrToOid("1.3.7", &varBinds[1].value.asnValue.object));
+    varBinds[2].value.asnType = 0x02;
+    varBinds[2].value.asnValue.number = -1;
+
+    ClientVarBindFree(&varBinds[0]);
+    EXPECT_EQ(varBinds[0].value.asnType, 0x05);
+    EXPECT_TRUE(varBinds[0].value.asnValue.string.stream == nullptr);
+    EXPECT_EQ(varBinds[0].value.asnValue.string.length, 0u);
+    EXPECT_TRUE(varBinds[0].name.ids == nullptr);
+    EXPECT_EQ(varBinds[0].name.idLength, 0u);
+    SnmpVarBindList list = {varBinds, 3};
+    for (int i = 0; i < 2; ++i) {
+        ClientVarBindListFree(&list);
+        EXPECT_TRUE(list.list == nullptr);
+        EXPECT_EQ(list.len, 0u);
+    }
+    SnmpVarBindList untouched = {nullptr, 7};
+    ClientVarBindListFree(&untouched);
+    EXPECT_EQ(untouched.len, 7u);
+    ClientMemFree(nullptr);
+}
+
+TEST(SnmpTextToOid, Texts) {
+    const struct {
+        const char* text;
+        Arcs arcs; // empty: refused
+    } cases[] = {
+        {".1.3.6.1.2.1.1.2.0", {1, 3, 6, 1, 2, 1, 1, 2, 0}},
+        {"1.3", {1, 3}},
+        {"1..2", {1, 0, 2}},
+        {"1.3.", {1, 3, 0}},
+        {"1.3..", {1, 3, 0, 0}},
+        {"1.", {1, 0}},
+        {"..", {0, 0}},
+        {"..5", {0, 5}},
+        {"2.39", {2, 39}},
+        {"01.0003.000", {1, 3, 0}},
+        {"1.3.4294967295", {1, 3, 4294967295}},
+        {"1.3.000004294967295", {1, 3, 4294967295}}, // 15 digits
+        {"1.3.0000004294967295", {}},                // 16
+        {"1.3.0000000000000001", {}},
+        {"1.3.4294967296", {}},
+        {"1.3.18446744073709551617", {}}, // 1 when cut to 64 bits
+        {"", {}},
+        {".", {}},
+        {"1", {}},
+        {".1", {}},
+        {"3.0", {}},
+        {"1.40", {}},
+        {"2.40", {}},
+        {"4294967297.3", {}}, // 1 when cut to 32 bits
+        {"1.3.6a", {}},
+        {"1.3.a6", {}},
+        {"a1.3", {}},
+        {" 1.3", {}},
+        {"1.3 ", {}},
+        {"1.-3", {}},
+        {"1.+3", {}},
+        {"1,3", {}},
+        {"1.3/6", {}}, // characters beside the digits
+        {"1.3:6", {}},
+        {"1.3.\xB2", {}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.text);
+        const ExactBlock text(Octets(c.text, c.text + strlen(c.text) + 1));
+        AsnObjectIdentifier oid = {9, reinterpret_cast<UINT*>(1)}; // not freed
+        SetLastError(777);
+        EXPECT_EQ(ClientStrToOid(reinterpret_cast<const char*>(text.Start()), &oid),
+                  c.arcs.empty() ? FALSE : TRUE);
+        EXPECT_EQ(GetLastError(), 777u);
+        EXPECT_EQ(ArcsOf(oid), c.arcs);
+        EXPECT_EQ(oid.ids == nullptr, c.arcs.empty());
+        for (int i = 0; i < 2; ++i) {
+            ClientOidFree(&oid);
+            EXPECT_TRUE(oid.ids == nullptr);
+            EXPECT_EQ(oid.idLength, 0u);
+        }
+    }
+}
+
+TEST(SnmpTextToOid, AtMost128Arcs) {
+    for (const size_t count : {size_t{127}, size_t{128}, size_t{129}, size_t{5000}})
+        for (const char* further : {".7", "."}) {
+            std::string text = "1.3";
+            for (size_t i = 2; i < count; ++i)
+                text += further;
+            Arcs expected(count, further[1] == '7' ? 7 : 0);
+            expected[0] = 1;
+            expected[1] = 3;
+            AsnObjectIdentifier oid = {};
+            EXPECT_EQ(ClientStrToOid(text.c_str(), &oid), count <= 128 ? TRUE : FALSE) << count;
+            EXPECT_EQ(ArcsOf(oid), count <= 128 ? expected : Arcs());
+            ClientOidFree(&oid);
+        }
+}
+
+} // namespace

@@ -1,0 +1,79 @@
+// BER messages octet by octet, independent of the project's writer: hexadecimal text, elements, and an SNMPv1
+// reply with one varbind.
+#ifndef SUPPORT_OCTETS_H
+#define SUPPORT_OCTETS_H
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+using Octets = std::vector<uint8_t>;
+
+// Pairs of hexadecimal digits with spaces between.
+inline Octets Hex(const char* text) {
+    Octets octets;
+    char* end = nullptr;
+    for (unsigned long octet = strtoul(text, &end, 16); end != text; octet = strtoul(text, &end, 16)) {
+        octets.push_back(static_cast<uint8_t>(octet));
+        text = end;
+    }
+    return octets;
+}
+
+inline Octets Characters(const std::string& text) {
+    return Octets(text.begin(), text.end());
+}
+
+inline Octets Join(std::initializer_list<Octets> parts) {
+    Octets whole;
+    for (const Octets& part : parts)
+        whole.insert(whole.end(), part.begin(), part.end());
+    return whole;
+}
+
+// The long form of a length has two octets, or three where two don't suffice.
+inline Octets Element(uint8_t tag, std::initializer_list<Octets> parts) {
+    const Octets contents = Join(parts);
+    const size_t length = contents.size();
+    const auto octet = [length](int shift) { return static_cast<uint8_t>(length >> shift); };
+    const Octets header = length < 128       ? Octets{tag, octet(0)}
+                          : length < 0x10000 ? Octets{tag, 0x82, octet(8), octet(0)}
+                                             : Octets{tag, 0x83, octet(16), octet(8), octet(0)};
+    return Join({header, contents});
+}
+
+// Whole elements, so that each may be replaced by anything. As it stands it is a valid reply to the first
+// request of a session.
+struct ReplyParts {
+    Octets Message() const {
+        return Element(0x30, {version, community, Element(0xA2, {requestId, status, index, VarBinds()})});
+    }
+    Octets VarBinds() const { return Element(0x30, {Element(0x30, {name, value})}); }
+
+    Octets version = Hex("02 01 00");
+    Octets community = Element(0x04, {Characters("tovask")});
+    Octets requestId = Hex("02 02 01 01");
+    Octets status = Hex("02 01 00");
+    Octets index = Hex("02 01 00");
+    Octets name = Hex("06 03 2B 06 01");
+    Octets value = Hex("02 01 2A");
+};
+
+// A heap block of just these octets, so that a sanitizer sees what is read beyond them.
+struct ExactBlock {
+    explicit ExactBlock(const Octets& octets) : count(octets.size()), block(new uint8_t[count]) {
+        if (count > 0)
+            memcpy(block.get(), octets.data(), count);
+    }
+    const uint8_t* Start() const { return block.get(); }
+    const uint8_t* End() const { return block.get() + count; }
+
+    size_t count;
+    std::unique_ptr<uint8_t[]> block;
+};
+
+#endif
