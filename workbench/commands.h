@@ -23,4 +23,7 @@ Run SetUpTexts(CLI::App& command);
 // What the module answers to the device-capability questions.
 Run SetUpCapabilities(CLI::App& command);
 
+// What a printer answers to SNMP requests: options, supplies, overlays and colour profiles.
+Run SetUpQuery(CLI::App& command);
+
 #endif

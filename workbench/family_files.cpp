@@ -3,7 +3,6 @@
 
 #include "output.h"
 
-#include <system_error>
 #include <vector>
 
 namespace {
@@ -20,10 +19,8 @@ std::filesystem::path ProgramFolder() {
 
 // Must be called before anything else sets the last error.
 [[noreturn]] void FailToOpen(const std::filesystem::path& path, const char* what) {
-    const auto error = static_cast<int>(GetLastError());
-    const std::string reason = std::system_category().message(error);
-    throw Failure(kExitFailed, path.u8string() + ": " + what + " (error " + std::to_string(error) + ", "
-                                   + reason + ")" + kOtherFolder);
+    const std::string reason = ErrorText(GetLastError());
+    throw Failure(kExitFailed, path.u8string() + ": " + what + " (" + reason + ")" + kOtherFolder);
 }
 
 // "major.minor.patch.build" of the file's version resource.

@@ -14,6 +14,7 @@ constexpr struct {
     {"describe", "Shows what the model offers: switches, facts, ranges and lists", SetUpDescribe},
     {"capabilities", "Asks the module for paper sources, duplex and stapling", SetUpCapabilities},
     {"defaults", "Shows the built-in default settings, field by field", SetUpDefaults},
+    {"query", "Asks a printer by SNMP for options, supplies, overlays and profiles", SetUpQuery},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", SetUpTexts},
 };
 

@@ -1,6 +1,8 @@
 // Text output: see the header. Line ends are written as they are, never as CR LF.
 #include "output.h"
 
+#include <system_error>
+
 namespace {
 
 std::wstring Wide(UINT codePage, std::string_view text) {
@@ -24,6 +26,10 @@ std::string Utf8(std::wstring_view text) {
 
 std::string Utf8(std::string_view text, UINT codePage) {
     return Utf8(Wide(codePage, text));
+}
+
+std::string ErrorText(DWORD error) {
+    return "error " + std::to_string(error) + ", " + std::system_category().message(static_cast<int>(error));
 }
 
 void Print(DWORD where, std::string_view utf8) {

@@ -12,6 +12,9 @@ std::string Utf8(std::wstring_view text);
 // From an 8-bit code page: the system's, in which the module's keys and texts are, unless another is named.
 std::string Utf8(std::string_view text, UINT codePage = CP_ACP);
 
+// A last-error value and what the system says of it.
+std::string ErrorText(DWORD error);
+
 // Writes UTF-8 to STD_OUTPUT_HANDLE or STD_ERROR_HANDLE: as UTF-16 to a console, byte for byte to a file or a
 // pipe.
 void Print(DWORD where, std::string_view utf8);
