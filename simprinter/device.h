@@ -218,8 +218,8 @@ struct Device {
     std::string name = "lumora";
     std::string model = "QUORVANE lumora R880";
     std::string serial = "R880-000001";
-    std::string location = "";
-    std::string contact = "";
+    std::string location = {};
+    std::string contact = {};
     int memory = 512;                 // MB
     std::optional<int> hardDisk = {}; // MB
     bool hasDuplex = false;

@@ -11,6 +11,7 @@ namespace {
 
 // An answer on its way out, as the table's rows change it.
 struct Answer {
+    const Message& request;
     Message message;
     bool isSent = true;
     int delayMs = 0;
@@ -19,7 +20,7 @@ struct Answer {
     Source source = Source::kAsked;
     bool isMalformed = false;
     bool isTruncated = false;
-    std::optional<long> octetsLeft; // of a truncated answer; else half of it
+    std::optional<long> octetsLeft = {}; // of a truncated answer; else half of it
 };
 
 } // namespace
@@ -94,6 +95,7 @@ bool MakeMalformed(Answer& answer, Fault&, std::mt19937&) {
 }
 
 bool AnswerError(Answer& answer, Fault& fault, std::mt19937&) {
+    answer.message.varBinds = answer.request.varBinds;
     answer.message.errorStatus = *fault.argument;
     answer.message.errorIndex = *fault.argument == kNoError || answer.message.varBinds.empty() ? 0 : 1;
     return true;
@@ -219,8 +221,7 @@ std::string FaultHelp() {
 
 std::vector<Datagram> ApplyFaults(FaultSet& set, const Message& request, const Message& reply,
                                   std::string& log) {
-    Answer answer;
-    answer.message = reply;
+    Answer answer{request, reply};
     for (Fault& fault : set.faults) {
         if (!Concerns(fault, request) || !fault.kind->act(answer, fault, set.random))
             continue;

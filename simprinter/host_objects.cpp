@@ -2,8 +2,6 @@
 #include "simprinter/object_table.h"
 #include "simprinter/objects.h"
 
-#include <algorithm>
-
 namespace {
 
 constexpr int kBytesInMb = 1024 * 1024;
@@ -13,10 +11,10 @@ constexpr Column<Device> kSystem[] = {
     {1, [](const Device& d) { return TextValue(d.model + ", serial number " + d.serial); }}, // sysDescr
     {2, [](const Device&) { return OidValueFrom("1.3.6.1.4.1.47913.1.1.1.1"); }},            // sysObjectID
     {3, [](const Device&) { return NumberValue(0, kTimeTicks); }},                           // sysUpTime
-    {4, [](const Device& d) { return TextValue(d.contact); }},                               // sysContact
-    {5, [](const Device& d) { return TextValue(d.name); }},                                  // sysName
-    {6, [](const Device& d) { return TextValue(d.location); }},                              // sysLocation
-    {7, [](const Device&) { return NumberValue(72); }}, // sysServices: transport and application layers
+    {4, Text<&Device::contact>},                                                             // sysContact
+    {5, Text<&Device::name>},                                                                // sysName
+    {6, Text<&Device::location>},                                                            // sysLocation
+    {7, Fixed<72>}, // sysServices: transport and application layers
 };
 
 // --- .1.3.6.1.2.1.25.2.3.1 hrStorageTable. Sizes are counted in MB.
@@ -27,12 +25,12 @@ struct Storage {
     int size, used;
 };
 constexpr Column<Storage> kStorage[] = {
-    {1, [](const Storage& s) { return NumberValue(s.index); }},
+    {1, Number<&Storage::index>},
     {2, [](const Storage& s) { return OidValueFrom(s.type); }},
-    {3, [](const Storage& s) { return TextValue(s.text); }},
-    {4, [](const Storage&) { return NumberValue(kBytesInMb); }}, // hrStorageAllocationUnits
-    {5, [](const Storage& s) { return NumberValue(s.size); }},
-    {6, [](const Storage& s) { return NumberValue(s.used); }},
+    {3, Text<&Storage::text>},
+    {4, Fixed<kBytesInMb>}, // hrStorageAllocationUnits
+    {5, Number<&Storage::size>},
+    {6, Number<&Storage::used>},
     {7, [](const Storage&) { return NumberValue(0, kCounter); }}, // hrStorageAllocationFailures
 };
 
@@ -52,11 +50,11 @@ struct HostDevice {
     std::string text;
 };
 constexpr Column<HostDevice> kDevice[] = {
-    {1, [](const HostDevice& h) { return NumberValue(h.index); }},
+    {1, Number<&HostDevice::index>},
     {2, [](const HostDevice& h) { return OidValueFrom(h.type); }},
-    {3, [](const HostDevice& h) { return TextValue(h.text); }},
+    {3, Text<&HostDevice::text>},
     {4, [](const HostDevice&) { return OidValueFrom("0.0"); }}, // hrDeviceID
-    {5, [](const HostDevice&) { return NumberValue(2); }},      // hrDeviceStatus: running
+    {5, Fixed<2>},                                              // hrDeviceStatus: running
     {6, [](const HostDevice&) { return NumberValue(0, kCounter); }},
 };
 
@@ -90,7 +88,7 @@ std::string DetectedErrors(const Device& device) {
 }
 
 constexpr Column<Device> kPrinter[] = {
-    {1, [](const Device&) { return NumberValue(3); }}, // hrPrinterStatus: idle
+    {1, Fixed<3>}, // hrPrinterStatus: idle
     {2, [](const Device& d) { return TextValue(DetectedErrors(d)); }},
 };
 

@@ -34,7 +34,7 @@ const char* TagName(Tag tag) {
 }
 
 std::string ValueText(const Value& value) {
-    const std::string name = TagName(value.tag);
+    std::string name = TagName(value.tag);
     if (value.tag == kNull)
         return name;
     if (value.tag == kObjectId)

@@ -18,6 +18,13 @@ struct PduRelease {
 };
 using PduPointer = std::unique_ptr<netsnmp_pdu, PduRelease>;
 
+// What net-snmp's functions have to say of bad datagrams goes nowhere: the agent's log tells that they were
+// dropped.
+void QuietLibrary() {
+    static const auto* handler = netsnmp_register_loghandler(NETSNMP_LOGHANDLER_NONE, LOG_DEBUG);
+    static_cast<void>(handler);
+}
+
 bool IsRequest(int command) {
     return command == SNMP_MSG_GET || command == SNMP_MSG_GETNEXT || command == SNMP_MSG_SET;
 }
@@ -60,6 +67,7 @@ int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
 } // namespace
 
 std::optional<Message> ParseRequest(const Octets& datagram) {
+    QuietLibrary();
     Octets octets = datagram; // net-snmp's functions take no constant ones
     octets.push_back(0);      // and may look at the octet that follows
     size_t left = datagram.size();

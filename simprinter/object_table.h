@@ -40,6 +40,20 @@ void AddScalars(ObjectMap& to, const char* base, const Column<Thing> (&columns)[
     AddTable<Thing>(to, base, columns, {{{0}, thing}});
 }
 
+// Values of columns: the same number in each row, a number or a text that the thing holds.
+template <int kNumber, typename Thing>
+Value Fixed(const Thing&) {
+    return NumberValue(kNumber);
+}
+template <auto kMember, typename Thing>
+Value Number(const Thing& thing) {
+    return NumberValue(thing.*kMember);
+}
+template <auto kMember, typename Thing>
+Value Text(const Thing& thing) {
+    return TextValue(thing.*kMember);
+}
+
 inline Value OidValueFrom(const char* text) {
     return OidValue(OidFromText(text).value());
 }

@@ -6,43 +6,43 @@
 
 namespace {
 
-constexpr int kMicrometers = 4, kSheets = 8; // units
-constexpr int kMicrometersInLength = 100;    // lengths of the description are tenths of a millimetre
+constexpr int kMicrometers = 4, kSheets = 8;  // units
+constexpr int64_t kMicrometersInLength = 100; // lengths of the description are tenths of a millimetre
 
 // --- .1.3.6.1.2.1.43.5.1.1 prtGeneralTable
 constexpr Column<Device> kGeneral[] = {
     {1, [](const Device&) { return NumberValue(0, kCounter); }}, // prtGeneralConfigChanges
-    {2, [](const Device&) { return NumberValue(1); }},           // prtGeneralCurrentLocalization
-    {3, [](const Device&) { return NumberValue(3); }},           // prtGeneralReset: notResetting
-    {4, [](const Device& d) { return TextValue(d.contact); }},   // prtGeneralCurrentOperator
+    {2, Fixed<1>},                                               // prtGeneralCurrentLocalization
+    {3, Fixed<3>},                                               // prtGeneralReset: notResetting
+    {4, Text<&Device::contact>},                                 // prtGeneralCurrentOperator
     {5, [](const Device&) { return TextValue(""); }},            // prtGeneralServicePerson
     {6, [](const Device& d) { return NumberValue(d.trays.empty() ? -1 : d.trays[0].kind->name.code); }},
-    {7, [](const Device&) { return NumberValue(1); }},         // prtOutputDefaultIndex
-    {8, [](const Device&) { return NumberValue(1); }},         // prtMarkerDefaultIndex
-    {9, [](const Device&) { return NumberValue(1); }},         // prtMediaPathDefaultIndex
-    {10, [](const Device&) { return NumberValue(1); }},        // prtConsoleLocalization
-    {11, [](const Device&) { return NumberValue(1); }},        // prtConsoleNumberOfDisplayLines
-    {12, [](const Device&) { return NumberValue(40); }},       // prtConsoleNumberOfDisplayChars
-    {13, [](const Device&) { return NumberValue(3); }},        // prtConsoleDisable: enabled
-    {16, [](const Device& d) { return TextValue(d.name); }},   // prtGeneralPrinterName
-    {17, [](const Device& d) { return TextValue(d.serial); }}, // prtGeneralSerialNumber
+    {7, Fixed<1>},               // prtOutputDefaultIndex
+    {8, Fixed<1>},               // prtMarkerDefaultIndex
+    {9, Fixed<1>},               // prtMediaPathDefaultIndex
+    {10, Fixed<1>},              // prtConsoleLocalization
+    {11, Fixed<1>},              // prtConsoleNumberOfDisplayLines
+    {12, Fixed<40>},             // prtConsoleNumberOfDisplayChars
+    {13, Fixed<3>},              // prtConsoleDisable: enabled
+    {16, Text<&Device::name>},   // prtGeneralPrinterName
+    {17, Text<&Device::serial>}, // prtGeneralSerialNumber
 };
 
 // --- .1.3.6.1.2.1.43.6.1.1 prtCoverTable
 constexpr Column<Device> kCover[] = {
-    {2, [](const Device&) { return TextValue("Front door"); }},
-    {3, [](const Device&) { return NumberValue(4); }}, // prtCoverStatus: coverClosed
+    {2, [](const Device&) { return TextValue("Front door"); }}, // prtCoverDescription
+    {3, Fixed<4>},                                              // prtCoverStatus: coverClosed
 };
 
 // --- .1.3.6.1.2.1.43.7.1.1 prtLocalizationTable
 constexpr Column<Device> kLocalization[] = {
     {2, [](const Device&) { return TextValue("en"); }},
     {3, [](const Device&) { return TextValue(""); }},
-    {4, [](const Device&) { return NumberValue(106); }}, // prtLocalizationCharacterSet: UTF-8
+    {4, Fixed<106>}, // prtLocalizationCharacterSet: UTF-8
 };
 
 // --- .1.3.6.1.2.1.43.8.2.1 prtInputTable
-// A sheet that lies with its long edge to the feed goes its width far.
+// Along the feed a sheet measures its width when its long edge goes first.
 Value FeedLength(const Tray& tray) {
     const int length = tray.orientation == kLongEdgeFirst ? tray.size->width : tray.size->length;
     return NumberValue(length * kMicrometersInLength);
@@ -60,19 +60,19 @@ std::string PaperText(const Tray& tray) {
 }
 constexpr Column<Tray> kInput[] = {
     {2, [](const Tray& t) { return NumberValue(t.kind->inputType); }},
-    {3, [](const Tray&) { return NumberValue(kMicrometers); }},       // prtInputDimUnit
+    {3, Fixed<kMicrometers>},                                         // prtInputDimUnit
     {4, FeedLength},                                                  // prtInputMediaDimFeedDirDeclared
     {5, CrossLength},                                                 // prtInputMediaDimXFeedDirDeclared
     {6, FeedLength},                                                  // prtInputMediaDimFeedDirChosen
     {7, CrossLength},                                                 // prtInputMediaDimXFeedDirChosen
-    {8, [](const Tray&) { return NumberValue(kSheets); }},            // prtInputCapacityUnit
-    {9, [](const Tray& t) { return NumberValue(t.capacity); }},       // prtInputMaxCapacity
-    {10, [](const Tray& t) { return NumberValue(t.level); }},         // prtInputCurrentLevel
+    {8, Fixed<kSheets>},                                              // prtInputCapacityUnit
+    {9, Number<&Tray::capacity>},                                     // prtInputMaxCapacity
+    {10, Number<&Tray::level>},                                       // prtInputCurrentLevel
     {11, InputStatus},                                                // prtInputStatus
     {12, [](const Tray& t) { return TextValue(PaperText(t)); }},      // prtInputMediaName
-    {13, [](const Tray& t) { return TextValue(t.name); }},            // prtInputName
+    {13, Text<&Tray::name>},                                          // prtInputName
     {18, [](const Tray& t) { return TextValue(t.kind->text); }},      // prtInputDescription
-    {19, [](const Tray&) { return NumberValue(5); }},                 // prtInputSecurity: notPresent
+    {19, Fixed<5>},                                                   // prtInputSecurity: notPresent
     {20, [](const Tray& t) { return NumberValue(t.type->weight); }},  // prtInputMediaWeight
     {21, [](const Tray& t) { return TextValue(t.type->mediaType); }}, // prtInputMediaType
     {22,
@@ -95,15 +95,15 @@ struct Output {
 };
 constexpr int kFixedBin = 4, kMailBox = 6;
 constexpr Column<Output> kOutput[] = {
-    {2, [](const Output& o) { return NumberValue(o.type); }},
-    {3, [](const Output&) { return NumberValue(kSheets); }},      // prtOutputCapacityUnit
-    {4, [](const Output& o) { return NumberValue(o.capacity); }}, // prtOutputMaxCapacity
-    {5, [](const Output&) { return NumberValue(kLevelSome); }},   // prtOutputRemainingCapacity
-    {6, [](const Output&) { return NumberValue(0); }},            // prtOutputStatus: available and idle
-    {7, [](const Output& o) { return TextValue(o.name); }},
-    {12, [](const Output& o) { return TextValue(o.text); }},
-    {19, [](const Output&) { return NumberValue(3); }}, // prtOutputStackingOrder: firstToLast
-    {20, [](const Output&) { return NumberValue(4); }}, // prtOutputPageDeliveryOrientation: faceDown
+    {2, Number<&Output::type>},
+    {3, Fixed<kSheets>},            // prtOutputCapacityUnit
+    {4, Number<&Output::capacity>}, // prtOutputMaxCapacity
+    {5, Fixed<kLevelSome>},         // prtOutputRemainingCapacity
+    {6, Fixed<0>},                  // prtOutputStatus: available and idle
+    {7, Text<&Output::name>},
+    {12, Text<&Output::text>},
+    {19, Fixed<3>}, // prtOutputStackingOrder: firstToLast
+    {20, Fixed<4>}, // prtOutputPageDeliveryOrientation: faceDown
 };
 
 // A finisher takes the place of the printer's own tray.
@@ -120,6 +120,7 @@ std::vector<ConceptualRow<Output>> Outputs(const Device& device) {
         }
     }
     std::vector<ConceptualRow<Output>> rows;
+    rows.reserve(outputs.size());
     for (const Output& output : outputs)
         rows.push_back({{1, static_cast<uint32_t>(rows.size() + 1)}, output});
     return rows;
@@ -127,36 +128,36 @@ std::vector<ConceptualRow<Output>> Outputs(const Device& device) {
 
 // --- .1.3.6.1.2.1.43.10.2.1 prtMarkerTable
 constexpr Column<Device> kMarker[] = {
-    {2, [](const Device&) { return NumberValue(4); }},                   // prtMarkerMarkTech: laser
-    {3, [](const Device&) { return NumberValue(7); }},                   // prtMarkerCounterUnit: impressions
+    {2, Fixed<4>},                                                       // prtMarkerMarkTech: laser
+    {3, Fixed<7>},                                                       // prtMarkerCounterUnit: impressions
     {4, [](const Device& d) { return NumberValue(d.pages, kCounter); }}, // prtMarkerLifeCount
     {5, [](const Device&) { return NumberValue(0, kCounter); }},         // prtMarkerPowerOnCount
-    {6, [](const Device&) { return NumberValue(4); }},                   // prtMarkerProcessColorants
-    {7, [](const Device&) { return NumberValue(0); }},                   // prtMarkerSpotColorants
-    {8, [](const Device&) { return NumberValue(3); }}, // prtMarkerAddressabilityUnit: tenThousandthsOfInches
-    {9, [](const Device&) { return NumberValue(600); }},  // prtMarkerAddressabilityFeedDir
-    {10, [](const Device&) { return NumberValue(600); }}, // prtMarkerAddressabilityXFeedDir
-    {15, [](const Device&) { return NumberValue(0); }},   // prtMarkerStatus: available and idle
+    {6, Fixed<4>},                                                       // prtMarkerProcessColorants
+    {7, Fixed<0>},                                                       // prtMarkerSpotColorants
+    {8, Fixed<3>},    // prtMarkerAddressabilityUnit: tenThousandthsOfInches
+    {9, Fixed<600>},  // prtMarkerAddressabilityFeedDir
+    {10, Fixed<600>}, // prtMarkerAddressabilityXFeedDir
+    {15, Fixed<0>},   // prtMarkerStatus: available and idle
 };
 
 // --- .1.3.6.1.2.1.43.11.1.1 prtMarkerSuppliesTable
 constexpr Column<Supply> kSupplies[] = {
-    {2, [](const Supply&) { return NumberValue(1); }},                                          // marker
+    {2, Fixed<1>},                                                                              // marker
     {3, [](const Supply& s) { return NumberValue(s.kind->colorant ? s.kind->name.code : 0); }}, // colorant
     {4, [](const Supply& s) { return NumberValue(s.kind->supplyClass); }},
     {5, [](const Supply& s) { return NumberValue(s.kind->type); }},
-    {6, [](const Supply& s) { return TextValue(s.name); }},
+    {6, Text<&Supply::name>},
     {7, [](const Supply& s) { return NumberValue(s.kind->unit); }},
-    {8, [](const Supply& s) { return NumberValue(s.capacity); }},
-    {9, [](const Supply& s) { return NumberValue(s.level); }},
+    {8, Number<&Supply::capacity>},
+    {9, Number<&Supply::level>},
 };
 
 // --- .1.3.6.1.2.1.43.12.1.1 prtMarkerColorantTable
 constexpr Column<Supply> kColorant[] = {
-    {2, [](const Supply&) { return NumberValue(1); }}, // marker
-    {3, [](const Supply&) { return NumberValue(3); }}, // prtMarkerColorantRole: process
+    {2, Fixed<1>}, // marker
+    {3, Fixed<3>}, // prtMarkerColorantRole: process
     {4, [](const Supply& s) { return TextValue(s.kind->colorant); }},
-    {5, [](const Supply&) { return NumberValue(256); }}, // prtMarkerColorantTonality
+    {5, Fixed<256>}, // prtMarkerColorantTonality
 };
 
 std::vector<ConceptualRow<Supply>> Supplies(const Device& device, bool colorantsOnly) {
@@ -174,16 +175,16 @@ struct MediaPath {
     const char* text;
 };
 constexpr Column<MediaPath> kMediaPath[] = {
-    {2, [](const MediaPath&) { return NumberValue(7); }}, // prtMediaPathMaxSpeedPrintUnit: impressionsPerHour
-    {3, [](const MediaPath&) { return NumberValue(kMicrometers); }}, // prtMediaPathMediaSizeUnit
-    {4, [](const MediaPath&) { return NumberValue(35 * 60); }},      // prtMediaPathMaxSpeed
-    {5, [](const MediaPath&) { return NumberValue(457200); }},       // greatest length
-    {6, [](const MediaPath&) { return NumberValue(311000); }},       // greatest width
-    {7, [](const MediaPath&) { return NumberValue(139700); }},       // least length
-    {8, [](const MediaPath&) { return NumberValue(90000); }},        // least width
-    {9, [](const MediaPath& m) { return NumberValue(m.type); }},
-    {10, [](const MediaPath& m) { return TextValue(m.text); }},
-    {11, [](const MediaPath&) { return NumberValue(0); }}, // prtMediaPathStatus: available and idle
+    {2, Fixed<7>},            // prtMediaPathMaxSpeedPrintUnit: impressionsPerHour
+    {3, Fixed<kMicrometers>}, // prtMediaPathMediaSizeUnit
+    {4, Fixed<2100>},         // prtMediaPathMaxSpeed: 35 a minute
+    {5, Fixed<457200>},       // greatest length
+    {6, Fixed<311000>},       // greatest width
+    {7, Fixed<139700>},       // least length
+    {8, Fixed<90000>},        // least width
+    {9, Number<&MediaPath::type>},
+    {10, Text<&MediaPath::text>},
+    {11, Fixed<0>}, // prtMediaPathStatus: available and idle
 };
 
 std::vector<ConceptualRow<MediaPath>> MediaPaths(const Device& device) {
@@ -201,9 +202,9 @@ struct Interpreter {
     const char* text;
 };
 constexpr Column<Interpreter> kInterpreter[] = {
-    {2, [](const Interpreter& i) { return NumberValue(i.family); }},
-    {3, [](const Interpreter& i) { return TextValue(i.level); }},
-    {5, [](const Interpreter& i) { return TextValue(i.text); }},
+    {2, Number<&Interpreter::family>},
+    {3, Text<&Interpreter::level>},
+    {5, Text<&Interpreter::text>},
 };
 
 // --- .1.3.6.1.2.1.43.16.5.1 prtConsoleDisplayBufferTable

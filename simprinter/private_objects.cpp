@@ -2,15 +2,13 @@
 //
 //   .6.12.1.1.COLUMN.1.N   overlays        1 number, 2 kind, 3 name, 4 title, 5 storage
 //   .6.13.1.1.COLUMN.1.N   colour profiles 1 number, 2 storage, 3 title, 4 name, 5 class
-//   .9...                  equipment: what the standard MIBs have no place for. A simulated printer's own
-//   invention:
+//   .9...                  equipment that the standard MIBs have no place for: this program's invention
 //     .9.1.0               model name
 //     .9.2.1.COLUMN.N      options         1 number, 2 type, 3 model
 //     .9.3.1.COLUMN.N      finishers       1 number, 2 model, 3 flags of the punch kit
 //     .9.4.1.COLUMN.N      memories        1 number, 2 kind (1 memory, 3 hard disk), 3 MB
-//     .9.5.1.COLUMN.N      paper loaded    1 number of the input, 2 tray, 3 size, 4 orientation, 5 type, 6
-//     colour,
-//                                          7 second side; all but the tray's word are codes of device.h
+//     .9.5.1.COLUMN.N      paper loaded    1 number of the input, 2 tray, 3 size, 4 orientation, 5 type,
+//                                          6 colour, 7 second side; but for the tray's word codes of device.h
 //
 // A numbered row's N counts from 1; that of the paper loaded is the input's number in the Printer MIB.
 #include "simprinter/object_table.h"
@@ -39,7 +37,7 @@ std::vector<ConceptualRow<Numbered<Thing>>> NumberedRows(const std::vector<Thing
 }
 
 constexpr Column<Numbered<Overlay>> kOverlay[] = {
-    {1, [](const Numbered<Overlay>& o) { return NumberValue(o.number); }},
+    {1, Number<&Numbered<Overlay>::number>},
     {2, [](const Numbered<Overlay>& o) { return NumberValue(o.thing.kind); }},
     {3, [](const Numbered<Overlay>& o) { return TextValue(o.thing.name); }},
     {4, [](const Numbered<Overlay>& o) { return TextValue(o.thing.title); }},
@@ -47,7 +45,7 @@ constexpr Column<Numbered<Overlay>> kOverlay[] = {
 };
 
 constexpr Column<Numbered<Profile>> kProfile[] = {
-    {1, [](const Numbered<Profile>& p) { return NumberValue(p.number); }},
+    {1, Number<&Numbered<Profile>::number>},
     {2, [](const Numbered<Profile>& p) { return NumberValue(p.thing.storage); }},
     {3, [](const Numbered<Profile>& p) { return TextValue(p.thing.title); }},
     {4, [](const Numbered<Profile>& p) { return TextValue(p.thing.name); }},
@@ -55,12 +53,12 @@ constexpr Column<Numbered<Profile>> kProfile[] = {
 };
 
 constexpr Column<Device> kEquipment[] = {
-    {1, [](const Device& d) { return TextValue(d.model); }},
+    {1, Text<&Device::model>},
 };
 
 using NumberedOption = Numbered<const OptionKind*>;
 constexpr Column<NumberedOption> kOption[] = {
-    {1, [](const NumberedOption& o) { return NumberValue(o.number); }},
+    {1, Number<&NumberedOption::number>},
     {2, [](const NumberedOption& o) { return NumberValue(o.thing->name.code); }},
     {3, [](const NumberedOption& o) { return TextValue(o.thing->name.word); }},
 };
@@ -70,7 +68,7 @@ struct Finisher {
     int punching;
 };
 constexpr Column<Numbered<Finisher>> kFinisher[] = {
-    {1, [](const Numbered<Finisher>& f) { return NumberValue(f.number); }},
+    {1, Number<&Numbered<Finisher>::number>},
     {2, [](const Numbered<Finisher>& f) { return TextValue(f.thing.model); }},
     {3, [](const Numbered<Finisher>& f) { return NumberValue(f.thing.punching); }},
 };
@@ -89,7 +87,7 @@ struct Memory {
     int size;
 };
 constexpr Column<Numbered<Memory>> kMemory[] = {
-    {1, [](const Numbered<Memory>& m) { return NumberValue(m.number); }},
+    {1, Number<&Numbered<Memory>::number>},
     {2, [](const Numbered<Memory>& m) { return NumberValue(m.thing.kind); }},
     {3, [](const Numbered<Memory>& m) { return NumberValue(m.thing.size); }},
 };
@@ -106,7 +104,7 @@ constexpr Column<Tray> kPaper[] = {
     {1, [](const Tray& t) { return NumberValue(t.kind->name.code); }},
     {2, [](const Tray& t) { return TextValue(t.kind->name.word); }},
     {3, [](const Tray& t) { return NumberValue(t.size->name.code); }},
-    {4, [](const Tray& t) { return NumberValue(t.orientation); }},
+    {4, Number<&Tray::orientation>},
     {5, [](const Tray& t) { return NumberValue(t.type->name.code); }},
     {6, [](const Tray& t) { return NumberValue(t.type->colorCode); }},
     {7, [](const Tray& t) { return NumberValue(t.type->secondSideCode); }},

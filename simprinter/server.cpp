@@ -176,9 +176,9 @@ void Serve(const ServerOptions& options, Agent& agent, const std::function<void(
             if (options.logs)
                 std::cerr << Describe(from) << ' ' << outcome.log << std::endl;
             for (Datagram& answer : outcome.datagrams) {
+                const auto due = Clock::now() + std::chrono::milliseconds(answer.delayMs);
                 if (queue.size() < kMostWaiting)
-                    queue.emplace(Clock::now() + std::chrono::milliseconds(answer.delayMs),
-                                  Waiting{std::move(answer), from});
+                    queue.emplace(due, Waiting{std::move(answer), from});
             }
         }
         SendDue(sockets, queue);

@@ -117,7 +117,6 @@ constexpr TypeRow kTypes[] = {
     {"Counter32: ",      kCounter,     ParseNamedNumber},
     {"Gauge32: ",        kGauge,       ParseNamedNumber},
     {"Timeticks: ",      kTimeTicks,   ParseTicks},
-    {"UInteger32: ",     kUnsigned,    ParseNamedNumber},
     {"Opaque: Float: ",  kOpaque,      ParseFloat},
     {"Opaque: Double: ", kOpaque,      ParseDouble},
     {"OPAQUE: ",         kOpaque,      ParseHex},
@@ -149,6 +148,9 @@ void ReadObject(Place place, std::string_view name, std::string_view text, Recor
         if (StartsWith(text, row.name))
             return recording.Add(place, name, row.parse(row.tag, text.substr(std::strlen(row.name))), text);
     }
+    if (const std::optional<Value> number =
+            ParseNumber(kUnsigned, text)) // the one type that is printed without name
+        return recording.Add(place, name, number, text);
     recording.findings.Error(place, "no known type stands behind the equals sign: " + Quote(text));
 }
 

@@ -1,0 +1,180 @@
+// Recorded walks: what is read of both formats, faults with their lines, and that a walk of a replayed walk
+// is the same.
+#include "running_printer.h"
+
+#include "simprinter/recording.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string Listed(const Findings& findings) {
+    std::string list;
+    for (const Finding& finding : findings.list)
+        list += std::to_string(finding.place.line) + (finding.isNote ? ": note: " : ": ") + finding.message
+                + '\n';
+    return list;
+}
+
+Value Octets4(std::initializer_list<unsigned char> octets) {
+    return TextValue(std::string(octets.begin(), octets.end()), kOpaque);
+}
+
+// One object's value, as each format writes it.
+const struct {
+    const char* snmprec; // behind the name
+    const char* walk;
+    Value value;
+} kValues[] = {
+    {"2|-7", "INTEGER: -7", NumberValue(-7)},
+    {"2|2147483647", "INTEGER: 2147483647", NumberValue(2147483647)},
+    {"2|3", "INTEGER: idle(3)", NumberValue(3)},
+    {"2|30", "INTEGER: 30 seconds", NumberValue(30)},
+    {"4|plain text", "STRING: \"plain text\"", TextValue("plain text")},
+    {"4|a|b", "STRING: \"a|b\"", TextValue("a|b")},
+    {"4|", "\"\"", TextValue("")},
+    {"4|2024-5-1", "STRING: 2024-5-1", TextValue("2024-5-1")},
+    {"4x|73617920226869225c", "STRING: \"say \\\"hi\\\"\\\\\"", TextValue("say \"hi\"\\")},
+    {"4x|6f6e650a2e31203d2074776f", "STRING: \"one\n.1 = two\"", TextValue("one\n.1 = two")},
+    {"4x|61220a2e31203d2062", "STRING: \"a\\\"\n.1 = b\"", TextValue("a\"\n.1 = b")},
+    {"4x|00FFa0", "Hex-STRING: 00 FF \nA0 ", TextValue(std::string("\0\xFF\xA0", 3))},
+    {"4x|8040", "BITS: 80 40 first(0) ninth(9)", TextValue("\x80\x40")},
+    {"4|wrong", "Wrong Type (should be INTEGER): STRING: \"wrong\"", TextValue("wrong")},
+    {"5|", "NULL", Value()},
+    {"6|1.3.6.1.4.1.47913", "OID: .1.3.6.1.4.1.47913", OidValue({1, 3, 6, 1, 4, 1, 47913})},
+    {"6|0.0", "OID: .0.0", OidValue({0, 0})},
+    {"64|10.0.200.255", "IpAddress: 10.0.200.255", TextValue(std::string("\x0A\0\xC8\xFF", 4), kIpAddress)},
+    {"65|4294967295", "Counter32: 4294967295", NumberValue(4294967295, kCounter)},
+    {"66|12", "Gauge32: 12", NumberValue(12, kGauge)},
+    {"67|8640000", "Timeticks: (8640000) 1 day, 0:00:00.00", NumberValue(8640000, kTimeTicks)},
+    {"68x|9f78043fc00000", "Opaque: Float: 1.500000", Octets4({0x9F, 0x78, 4, 0x3F, 0xC0, 0, 0})},
+    {"68x|040101", "OPAQUE: 04 01 01 ", Octets4({4, 1, 1})},
+    {"71|9", "9", NumberValue(9, kUnsigned)},
+};
+
+TEST(Recording, BothFormatsGiveTheSameValues) {
+    std::string snmprec = "# a comment\n\n", walk, crlf;
+    ObjectMap expected;
+    for (size_t i = std::size(kValues); i-- > 0;) { // the last first: what is served is sorted
+        const std::string name = "1.3.6.1." + std::to_string(i) + ".0";
+        snmprec += name + '|' + kValues[i].snmprec + '\n';
+        walk += '.' + name + " = " + kValues[i].walk + '\n';
+        expected[{1, 3, 6, 1, static_cast<uint32_t>(i), 0}] = kValues[i].value;
+    }
+    for (const char c : snmprec)
+        crlf += c == '\n' ? "\r\n" : std::string(1, c);
+    for (const std::string& text : {snmprec, crlf, walk, walk + "End of MIB\n"}) {
+        Findings findings;
+        const ObjectMap objects = ReadRecording(text, findings);
+        EXPECT_EQ(Listed(findings), "");
+        ASSERT_EQ(objects.size(), expected.size());
+        for (const auto& [name, value] : expected)
+            EXPECT_EQ(objects.at(name), value) << OidText(name) << " of:\n" << text;
+    }
+}
+
+TEST(Recording, NotesAndWhatEndsAWalk) {
+    const struct {
+        const char* text;
+        size_t objects;
+        const char* findings;
+    } cases[] = {
+        {".1.3.1 = INTEGER: 1\n.1.3.1 = No more variables left in this MIB View (It is past the end of the MIB tree)\n",
+         1, ""},
+        {".1.3.1 = No Such Object available on this agent at this OID\n.1.3.2 = INTEGER: 1\n", 1, ""},
+        {".1.3.1 = INTEGER: 1\n.1.3.1 = INTEGER: 2\n", 1,
+         "2: note: .1.3.1 is recorded twice: the first counts\n"},
+        {".1.3.1 = Counter64: 1\n.1.3.2 = INTEGER: 2\n.1.3.3 = Counter64: 3\n", 1,
+         "1: note: SNMPv1 can't carry Counter64: this object and all further ones of the type, 2 in all, are left "
+         "out\n"},
+        {"1.3.1|2|1\n1.3.2|70|5\n", 1,
+         "2: note: SNMPv1 can't carry Counter64: this object and all further ones of the type, 1 in all, are left "
+         "out\n"},
+    };
+    for (const auto& one : cases) {
+        Findings findings;
+        EXPECT_EQ(ReadRecording(one.text, findings).size(), one.objects) << one.text;
+        EXPECT_EQ(Listed(findings), one.findings) << one.text;
+    }
+}
+
+TEST(Recording, FaultsAndTheirLines) {
+    const std::string arcs128 = [] {
+        std::string text = "1.3";
+        for (int i = 2; i < 128; ++i)
+            text += ".1";
+        return text;
+    }();
+    const std::string good = "1.3.1.0|2|1\n", goodWalk = ".1.3.1.0 = INTEGER: 1\n";
+    const struct {
+        std::string text;
+        std::string findings;
+    } cases[] = {
+        {"", "1: no recorded object: expected "},
+        {"SNMPv2-MIB::sysDescr.0 = STRING: x\n", "1: no recorded object: expected "},
+        {good + "1.3.2.0|2\n", "2: expected OID|TAG|VALUE, not '1.3.2.0|2'"},
+        {good + "1.3.2.0|3|1\n", "2: there is no tag '3': known are 2, 4, 5, 6, 64 to 68"},
+        {good + "# text\n1.3.2.0|2|2147483648\n", "3: this is no value of its type: '2147483648'"},
+        {good + "1.3.2.0|2|\n", "2: this is no value of its type: ''"},
+        {good + "1.3.2.0|65|-1\n", "2: this is no value of its type: '-1'"},
+        {good + "1.3.2.0|66|4294967296\n", "2: this is no value of its type: '4294967296'"},
+        {good + "1.3.2.0|4x|123\n", "2: this is no value of its type: '123'"},
+        {good + "1.3.2.0|4x|1g\n", "2: this is no value of its type: '1g'"},
+        {good + "1.3.2.0|6|1.3.x\n", "2: this is no value of its type: '1.3.x'"},
+        {good + "1.3.2.0|64|10.0.0\n", "2: this is no value of its type: '10.0.0'"},
+        {good + "1.3.2.0|64|10.0.0.256\n", "2: this is no value of its type: '10.0.0.256'"},
+        {good + "1.3.2.0|64|10.0.0.1.2\n", "2: this is no value of its type: '10.0.0.1.2'"},
+        {good + "1.3.2.0|64x|0a0000\n", "2: this is no value of its type: '0a0000'"},
+        {good + "1.3..2|2|1\n", "2: '1.3..2' is no object identifier that SNMP can carry"},
+        {good + "1.40.2|2|1\n", "2: '1.40.2' is no object identifier that SNMP can carry"},
+        {good + "1.3.4294967296|2|1\n", "2: '1.3.4294967296' is no object identifier that SNMP can carry"},
+        {good + arcs128 + "|2|1\n", ""},
+        {good + arcs128 + ".1|2|1\n", "2: '" + arcs128 + ".1' is no object identifier that SNMP can carry"},
+        {"Timeout: No Response\n" + goodWalk,
+         "1: expected '.1.3.6... = TYPE: VALUE', not 'Timeout: No Response'"},
+        {goodWalk + ".1.3.2.0 = INTEGER: many\n", "2: this is no value of its type: 'INTEGER: many'"},
+        {goodWalk + ".1.3.2.0 = INTEGER: 5\nrubbish\n",
+         "2: this is no value of its type: 'INTEGER: 5\\x0Arubbish'"},
+        {goodWalk + ".1.3.2.0 = Integer: 5\n",
+         "2: no known type stands behind the equals sign: 'Integer: 5'"},
+        {goodWalk + ".1.3.2.0 = STRING: \"open\n.1.3.3.0 = INTEGER: 5\n",
+         "2: this is no value of its type: 'STRING: "},
+        {goodWalk + ".1.3.2.0 = Timeticks: (5\n", ""}, // all that is needed is there
+        {goodWalk + ".1.3.2.0 = Opaque: Float: one\n",
+         "2: this is no value of its type: 'Opaque: Float: one'"},
+    };
+    for (const auto& one : cases) {
+        Findings findings;
+        ReadRecording(one.text, findings);
+        const std::string listed = Listed(findings);
+        EXPECT_EQ(listed.substr(0, one.findings.size()), one.findings) << one.text;
+        EXPECT_EQ(listed.empty(), one.findings.empty()) << one.text << listed;
+    }
+}
+
+// net-snmp's own snmpwalk prints what the first printer serves from .snmprec; a second one serves that text.
+TEST(Recording, WalkOfAReplayedWalkIsTheSame) {
+    std::string snmprec;
+    for (size_t i = 0; i < std::size(kValues); ++i)
+        snmprec += "1.3.6.1.9." + std::to_string(i) + ".0|" + kValues[i].snmprec + '\n';
+    const TemporaryFolder folder;
+    const RunningPrinter first("--replay " + folder.File("one.snmprec", snmprec));
+    const CommandResult walk = first.Ask("snmpwalk", ".1");
+    EXPECT_EQ(walk.exitCode, 0);
+    const RunningPrinter second("--replay " + folder.File("two.txt", walk.output));
+    EXPECT_EQ(second.Ask("snmpwalk", ".1").output, walk.output);
+
+    Findings findings;
+    EXPECT_EQ(ReadRecording(walk.output, findings), ReadRecording(snmprec, findings));
+    EXPECT_EQ(Listed(findings), "");
+}
+
+TEST(Recording, WalkOfADeviceReplayed) {
+    const RunningPrinter device("--device " EXAMPLE_DEVICES "/well_equipped.yaml");
+    const CommandResult walk = device.Ask("snmpwalk", ".1");
+    const TemporaryFolder folder;
+    const RunningPrinter replayed("--replay " + folder.File("walk", walk.output));
+    EXPECT_EQ(replayed.Ask("snmpwalk", ".1").output, walk.output);
+}
+
+} // namespace
