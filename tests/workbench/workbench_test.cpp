@@ -168,6 +168,28 @@ TEST(Workbench, OpensAFolderOfAnyName) {
     EXPECT_EQ(answer["answers"][2]["answer"], 1);
 }
 
+// Expected is what the two devices' descriptions say.
+TEST(Workbench, AsksPrinters) {
+    const Json equipped = RunForJson(L"query 127.0.162.1");
+    EXPECT_EQ(Pick(equipped["options"], "answer"),
+              Json({"1024MB", "EnaOpHDD", "EnaOpManualFeed", "EnaOpInTray1", "EnaOpInTray2", "EnaOpInTray3",
+                    "EnaOpInTray4", "EnaOpInTray5", "DisOpOutTray1", "DisOpOutTray2", "DisOpOutTray3",
+                    "DisOpOutTray4", "EnaOpDuplex"}));
+    EXPECT_EQ(equipped["supplies"][2],
+              Json({{"supply", "Consumable3"}, {"state", 1}, {"value", 67}, {"color", "#ff00ff"}}));
+    EXPECT_EQ(Pick(equipped["overlays"]["overlays0"], "second"), Json({"letterhead.ovl", "invoice.ovl"}));
+    EXPECT_EQ(Pick(equipped["overlays"]["overlays1"], "first"), Json({"Draft stamp"}));
+    EXPECT_EQ(Pick(equipped["profiles"]["profiles0"], "storage"), Json({"internalROM", "Prof_HDD"}));
+    EXPECT_EQ(Pick(equipped["profiles"]["profiles2"], "second"), Json({"coated.icc", "uncoated.icc"}));
+
+    const Json modest = RunForJson(L"query 127.0.162.2");
+    EXPECT_EQ(modest["options"][0]["answer"], "640MB");
+    EXPECT_EQ(modest["options"][1]["answer"], "DisOpHDD");
+    EXPECT_EQ(Pick(modest["supplies"], "value"),
+              Json({0, 9, 4, 0, 12, 0, 0, 0, 0, 0, 3, 0})); // waste: nearly full
+    EXPECT_TRUE(modest["overlays"]["overlays0"].empty());
+}
+
 // Every failure says on the error output what is wrong and what would be right, and writes nothing else.
 TEST(Workbench, SaysWhatIsWrong) {
     const Folder empty(L"workbench_empty");
@@ -194,6 +216,8 @@ TEST(Workbench, SaysWhatIsWrong) {
         {L"defaults" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
         {L"texts" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
         {L"describe" + damaged.Option(), 1, "workbench: .*TELMAR_D.PRM.*damaged.*prmc check"},
+        {L"query", 2, "workbench: ADDRESS is required"},
+        {L"query 127.0.162.9", 1, "workbench: 127.0.162.9: .*can't be asked by SNMP; check the address"},
         {L"capabilities" + foreign.Option(), 1, "workbench: .*TELMAR_D.DLL.*DDProc_DeviceCapabilities"},
     };
     for (const auto& c : cases) {
