@@ -16,6 +16,7 @@ constexpr struct {
     {"defaults", "Shows the built-in default settings, field by field", SetUpDefaults},
     {"query", "Asks a printer by SNMP for options, supplies, overlays and profiles", SetUpQuery},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", SetUpTexts},
+    {"address", "Asks the module for the network address of a printer", SetUpAddress},
 };
 
 struct CommonOptions {

@@ -3,17 +3,13 @@
 
 #include <system_error>
 
-namespace {
-
-std::wstring Wide(UINT codePage, std::string_view text) {
+std::wstring Wide(std::string_view text, UINT codePage) {
     const int bytes = static_cast<int>(text.size());
     std::wstring wide(text.size(), L'\0');
     wide.resize(
         static_cast<size_t>(MultiByteToWideChar(codePage, 0, text.data(), bytes, wide.data(), bytes)));
     return wide;
 }
-
-} // namespace
 
 std::string Utf8(std::wstring_view text) {
     constexpr size_t kMostBytesPerUnit = 3;
@@ -25,7 +21,7 @@ std::string Utf8(std::wstring_view text) {
 }
 
 std::string Utf8(std::string_view text, UINT codePage) {
-    return Utf8(Wide(codePage, text));
+    return Utf8(Wide(text, codePage));
 }
 
 std::string ErrorText(DWORD error) {
@@ -37,7 +33,7 @@ void Print(DWORD where, std::string_view utf8) {
     DWORD mode;
     DWORD written;
     if (GetConsoleMode(handle, &mode)) {
-        const std::wstring wide = Wide(CP_UTF8, utf8);
+        const std::wstring wide = Wide(utf8);
         WriteConsoleW(handle, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
         return;
     }

@@ -12,6 +12,9 @@ std::string Utf8(std::wstring_view text);
 // From an 8-bit code page: the system's, in which the module's keys and texts are, unless another is named.
 std::string Utf8(std::string_view text, UINT codePage = CP_ACP);
 
+// Back to UTF-16.
+std::wstring Wide(std::string_view text, UINT codePage = CP_UTF8);
+
 // A last-error value and what the system says of it.
 std::string ErrorText(DWORD error);
 

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <vector>
@@ -25,7 +26,9 @@ struct Counts {
     int files;
     int libraryReferences;
     int sockets;
-    int socketUses;        // WSAStartup without its WSACleanup
+    int socketUses; // WSAStartup without its WSACleanup
+    int printers;   // open ones, transceivers included
+    int registryKeys;
     unsigned allocations;  // of both heaps, failed ones included
     size_t allocatedBytes; // sum of all that succeeded
 };
@@ -67,6 +70,37 @@ void SetVersion(DWORD id, DWORD major);
 
 // Without a separator at its end. "C:\\Windows\\system32" before a test sets another.
 void SetSystemDirectory(const wchar_t* path);
+
+// The calls of the spooler, the registry and the code page conversion since the reset, each as one line: the
+// function and what it was asked for, such as "XcvDataW IPAddress 512".
+const std::vector<std::string>& Calls();
+
+// The recorded call of this number from now on (1: the next one) fails with this error. 0: none.
+void FailCall(unsigned number, DWORD error);
+
+// From now on what closes or frees something (a printer, a registry key, a library, a heap block) also sets
+// the last error, as a system may.
+void LetReleasesSetLastError(DWORD error);
+
+// A print queue. A null port: none is reported.
+struct Queue {
+    const wchar_t* name;
+    const wchar_t* port;
+    DWORD infoSize =
+        0; // octets of level 2 that there are, instead of as many as it takes, the port's name last
+};
+void RegisterQueue(const Queue& queue);
+
+// What OpenPrinterW opens by this name (null: the local print server) with the right to administer it, and
+// the reply to every command. `status` is that of the call that fetches the reply.
+void RegisterTransceiver(const wchar_t* name, const std::vector<BYTE>& reply, DWORD status = 0);
+
+// A key under HKEY_LOCAL_MACHINE, and a value in it. Names are compared letter by letter.
+void AddRegistryKey(const wchar_t* path);
+void SetRegistryValue(const wchar_t* path, const wchar_t* name, const std::vector<BYTE>& data);
+
+// 1252 before a test sets another.
+void SetAnsiCodePage(UINT codePage);
 
 using Datagram = std::vector<uint8_t>;
 

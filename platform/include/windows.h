@@ -123,4 +123,7 @@ HLOCAL WINAPI LocalAlloc(UINT flags, SIZE_T size);
 HLOCAL WINAPI LocalFree(HLOCAL block);
 }
 
+#include <winnls.h>
+#include <winreg.h>
+
 #endif

@@ -43,6 +43,7 @@ void* Release(void* block, int& liveBlocks) {
     if (block != nullptr)
         --liveBlocks;
     std::free(block);
+    platform::Released();
     return nullptr;
 }
 
@@ -72,10 +73,14 @@ void ResetHeaps() {
 }
 
 void Reset() {
+    ResetCalls();
+    ResetCodePages();
     ResetFiles();
     ResetHeaps();
     ResetModules();
     ResetSockets();
+    ResetRegistry();
+    ResetSpooler();
     ResetSystem();
 }
 
@@ -85,6 +90,8 @@ Counts Count() {
     now.libraryReferences = LiveLibraryReferences();
     now.sockets = LiveSockets();
     now.socketUses = LiveSocketUses();
+    now.printers = LivePrinters();
+    now.registryKeys = LiveRegistryKeys();
     return now;
 }
 

@@ -18,7 +18,7 @@ struct Library {
 };
 
 std::list<Library> libraries;
-std::vector<std::string> calls; // in the words of LibraryCalls()
+std::vector<std::string> calls;      // in the words of LibraryCalls()
 std::vector<wchar_t> moduleFileName; // with its terminator; empty: not set
 
 Library* FromHandle(HMODULE handle) {
@@ -60,6 +60,7 @@ BOOL WINAPI FreeLibrary(HMODULE handle) {
     }
     calls.push_back("free " + library->path);
     --library->references;
+    platform::Released();
     return TRUE;
 }
 

@@ -1,13 +1,21 @@
-// What the stand-in's source files share: one reset function for each service.
+// What the stand-in's source files share: one reset function for each service, and the
+// record of calls.
 #ifndef PLATFORM_SERVICES_H
 #define PLATFORM_SERVICES_H
 
+#include <string>
+#include <windows.h>
+
 namespace platform {
 
+void ResetCalls();
+void ResetCodePages();
 void ResetFiles();
 void ResetHeaps();
 void ResetModules();
 void ResetSockets();
+void ResetRegistry();
+void ResetSpooler();
 void ResetSystem();
 
 // Current numbers for Count().
@@ -15,6 +23,14 @@ int LiveFiles();
 int LiveLibraryReferences();
 int LiveSockets();
 int LiveSocketUses();
+int LivePrinters();
+int LiveRegistryKeys();
+
+// Records a call. The error with which it has to fail, 0 when it may go on; sets no last error.
+DWORD RecordCall(const std::string& call);
+
+// Sets the last error if a test wants releases to.
+void Released();
 
 } // namespace platform
 

@@ -40,4 +40,11 @@ struct TemporaryFolder {
     std::filesystem::path path;
 };
 
+// What the process holds now.
+struct Holdings {
+    size_t heapBlocks;
+    size_t handles;
+};
+Holdings CountHoldings();
+
 #endif

@@ -1,5 +1,5 @@
 // Host only, linked into every test program: starts each test with the platform's stand-in as new, and fails
-// a test that leaves a block, a file or a library reference behind.
+// a test that leaves a block, a file, a library reference, a printer or a registry key behind.
 #include "platform_control.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +16,8 @@ struct LeakCheck : testing::EmptyTestEventListener {
         EXPECT_EQ(counts.libraryReferences, 0);
         EXPECT_EQ(counts.sockets, 0);
         EXPECT_EQ(counts.socketUses, 0);
+        EXPECT_EQ(counts.printers, 0);
+        EXPECT_EQ(counts.registryKeys, 0);
     }
 };
 

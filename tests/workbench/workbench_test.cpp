@@ -1,5 +1,7 @@
 // The workbench as a process: what it writes, where to, and its exit codes. Expected facts are those of the
 // shipped model file. The test's own folders lie beside the test program and are removed at the end.
+#include "support/print_queue.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -7,7 +9,6 @@
 #include <map>
 #include <nlohmann/json.hpp>
 #include <regex>
-#include <windows.h>
 
 namespace {
 
@@ -150,6 +151,20 @@ TEST(Workbench, ListsThePaperSourcesThatAreInstalled) {
     EXPECT_EQ(Pick(removed["answers"], "answer"), Json({7, 7, 1, 0}));
 }
 
+TEST(Workbench, FindsThePrintersAddress) {
+    const Json ofRecord = RunForJson(L"address --record 192.168.10.2");
+    EXPECT_EQ(ofRecord["printer"], Json({{"record", "192.168.10.2"}, {"address", "192.168.10.2"}}));
+    const Json size = {{"bufferSize", 0}, {"answer", false}, {"neededSize", 13}, {"lastError", 0}};
+    EXPECT_EQ(ofRecord["calls"][0], size);
+
+    const Queue queue(L"Workbench test", L"WORKBENCH_1");
+    const Monitor monitor(L"Digital Network Port", L"WORKBENCH_1", L"TCP/IP Address", L"10.6.6.6");
+    const Json ofQueue = RunForJson(L"address --queue \"Workbench test\"");
+    EXPECT_EQ(ofQueue["printer"], Json({{"queue", "Workbench test"}, {"address", "10.6.6.6"}}));
+    EXPECT_EQ(Pick(ofQueue["calls"], "neededSize"), Json({9, 9}));
+    EXPECT_EQ(ofQueue["calls"][0]["lastError"], 122);
+}
+
 TEST(Workbench, WritesAlignedTextInUtf8) {
     const Result result = RunWorkbench(L"describe");
     EXPECT_NE(result.output.find("\n  Key         Value  Name          Text\n"
@@ -198,6 +213,7 @@ TEST(Workbench, SaysWhatIsWrong) {
                          {{"TELMAR_D.DLL", "TELMAR_D.DLL"}, {"TELMAR_D.PRM", "TELMAR_D.DLL"}});
     const Folder foreign(L"workbench_foreign",
                          {{"TELMAR_D.DLL", "TELMAR_S.DLL"}, {"TELMAR_D.PRM", "TELMAR_D.PRM"}});
+    const Queue withoutAddress(L"Workbench test", L"WORKBENCH_1");
     const struct {
         std::wstring arguments;
         int exitCode;
@@ -211,6 +227,12 @@ TEST(Workbench, SaysWhatIsWrong) {
         {L"capabilities --set OpTray3", 2, "workbench: .*'OpTray3'.*OpOutTrayUnit.*OpInTray3"},
         {L"capabilities --set OpInTray3=Yes", 2, "workbench: OpInTray3.*'Yes'.*EnaOpInTray3, DisOpInTray3"},
         {L"capabilities --set OpInTray3", 2, "workbench: OpInTray3.*=ITEM.*EnaOpInTray3, DisOpInTray3"},
+        {L"address", 2, "workbench: .*--record TEXT, --queue NAME"},
+        {L"address --record a --queue b", 2, "workbench: .*--record"},
+        {L"address --record \"\"", 1, "workbench: .*empty.*--record"},
+        {L"address --queue Nowhere", 1, "workbench: .*'Nowhere'.*no such print queue.*1801.*--record"},
+        {L"address --queue \"Workbench test\"", 1,
+         "workbench: .*'Workbench test'.*no port monitor.*--record"},
         {L"describe" + empty.Option(), 1, "workbench: .*workbench_empty.*TELMAR_D.DLL.*--folder"},
         {L"describe" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
         {L"defaults" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},

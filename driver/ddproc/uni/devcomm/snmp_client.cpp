@@ -1,7 +1,7 @@
 // The built-in SNMPv1 manager: see the header.
 #include "devcomm/snmp_client.h"
 
-#include "devcomm/last_error.h"
+#include "devcomm/scope_guard.h"
 #include "devcomm/snmp_message.h"
 #include "devcomm/snmp_values.h"
 #include "paramdata/text.h"

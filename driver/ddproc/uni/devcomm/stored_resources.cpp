@@ -1,8 +1,8 @@
 // What printers store: the walks over their overlays and colour profiles, and the blocks handed to callers.
 // Declared in devcomm/printer_queries.h.
-#include "devcomm/last_error.h"
 #include "devcomm/object_reader.h"
 #include "devcomm/printer_queries.h"
+#include "devcomm/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>

@@ -32,7 +32,6 @@ NO_ANSWER(DDProc_IsEnableBdcLib)
 NO_ANSWER(DrawLogoImage)
 NO_ANSWER(DrawLogoVersionTab)
 NO_ANSWER(DDProc_DlgProc)
-NO_ANSWER(DDProc_GetPrinterIPAddress)
 NO_ANSWER(DDProc_OptionRequest)
 NO_ANSWER(DDProc_InputTrayStatus)
 #undef NO_ANSWER

@@ -1,0 +1,423 @@
+// Host only: the printer's address from the record, the transceiver and the registry; every call, allocation
+// and library that can fail. Records, replies and buffers are heap blocks of just their size.
+#include "devcomm/printer_address.h"
+#include "platform_control.h"
+#include "support/raw_bytes.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <winspool.h>
+
+namespace {
+
+using Bytes = std::vector<BYTE>;
+
+constexpr DWORD kBefore = 0xB0F0;   // last error before the call
+constexpr DWORD kReleases = 0x5E1E; // what releases make of it
+constexpr DWORD kUntouched = 0xABABABAB;
+constexpr DWORD kNoBuffer = 0xFFFFFFFF;
+constexpr UINT kLatin = 1252, kUtf8 = 65001;
+
+struct Outcome {
+    BOOL result;
+    std::string text; // in the buffer; "-": untouched
+    DWORD needed = kUntouched;
+    DWORD lastError = kBefore;
+};
+
+constexpr DWORD kAnyError = 0xA2A2;
+
+Outcome Stored(const std::string& text) {
+    return {TRUE, text, static_cast<DWORD>(text.size() + 1), kAnyError};
+}
+
+Outcome NoRoom(DWORD needed) {
+    return {TRUE, "-", needed, 122};
+}
+
+const Outcome kNothing = {FALSE, "-"};
+const Outcome kFromTransceiver = Stored("10.0.0.1");
+const Outcome kFromRegistry = Stored("10.0.0.22");
+
+Outcome Refused(DWORD lastError) {
+    return {FALSE, "-", kUntouched, lastError};
+}
+
+void Expect(const Outcome& actual, const Outcome& expected) {
+    EXPECT_EQ(actual.result, expected.result);
+    EXPECT_EQ(actual.text, expected.text);
+    EXPECT_EQ(actual.needed, expected.needed);
+    EXPECT_EQ(expected.lastError == kAnyError ? kAnyError : actual.lastError, expected.lastError);
+}
+
+// The characters of a literal, without a terminator.
+template <size_t N>
+Bytes Octets(const wchar_t (&text)[N]) {
+    const auto* begin = reinterpret_cast<const BYTE*>(text);
+    return {begin, begin + (N - 1) * sizeof(wchar_t)};
+}
+
+template <size_t N>
+Bytes Terminated(const wchar_t (&text)[N]) {
+    Bytes octets = Octets(text);
+    octets.resize(octets.size() + sizeof(wchar_t));
+    return octets;
+}
+
+Bytes Xs(size_t octets) {
+    Bytes xs(octets);
+    for (size_t i = 0; i < octets; i += 2)
+        xs[i] = 'x';
+    return xs;
+}
+
+// For texts that are put together.
+std::vector<wchar_t> Wide(const std::string& ascii) {
+    std::vector<wchar_t> wide(ascii.begin(), ascii.end());
+    wide.push_back(0);
+    return wide;
+}
+
+RawBytes Record(unsigned flag, const Bytes& address) {
+    RawBytes record(564);
+    record.U8(562, flag);
+    record.bytes.insert(record.bytes.end(), address.begin(), address.end());
+    return record;
+}
+
+const RawBytes kAskQueue = Record(0, {});
+
+Outcome Ask(const RawBytes& record, DWORD bufferSize = 64, const wchar_t* printer = L"Lumora") {
+    std::vector<char> buffer(bufferSize != kNoBuffer ? bufferSize : 0, '#');
+    char* to = bufferSize != kNoBuffer ? buffer.data() : nullptr;
+    Outcome outcome = {FALSE, "-"};
+    SetLastError(kBefore);
+    outcome.result =
+        DDProc_GetPrinterIPAddress(printer, reinterpret_cast<const AddressSettings*>(record.bytes.data()), to,
+                                   bufferSize, &outcome.needed);
+    outcome.lastError = GetLastError();
+    if (std::any_of(buffer.begin(), buffer.end(), [](char c) { return c != '#'; }))
+        outcome.text.assign(buffer.begin(), std::find(buffer.begin(), buffer.end(), '\0'));
+    const platform::Counts counts = platform::Count();
+    EXPECT_EQ(counts.printers, 0);
+    EXPECT_EQ(counts.registryKeys, 0);
+    EXPECT_EQ(counts.libraryReferences, 0);
+    EXPECT_EQ(counts.globalBlocks, 0);
+    return outcome;
+}
+
+std::vector<std::string> CallsOf(const std::string& function) {
+    std::vector<std::string> found;
+    for (const std::string& call : platform::Calls())
+        if (call.compare(0, function.size() + 1, function + " ") == 0)
+            found.push_back(call);
+    return found;
+}
+
+#define MONITORS L"System\\CurrentControlSet\\Control\\Print\\Monitors\\"
+
+// The queue on its port, of which the LPR monitor's key says 10.0.0.22, and no transceiver.
+void Arrange(const platform::Queue& queue = {L"Lumora", L"IP_1"}) {
+    platform::Reset();
+    platform::LetReleasesSetLastError(kReleases);
+    platform::RegisterQueue(queue);
+    platform::SetRegistryValue(MONITORS L"LPR Port\\Ports\\IP_1", L"Server Name", Terminated(L"10.0.0.22"));
+}
+
+// And a transceiver.
+void ArrangeTransceiver(const Bytes& reply = Terminated(L"10.0.0.1"), DWORD status = 0) {
+    Arrange();
+    platform::RegisterTransceiver(L",XcvPort IP_1", reply, status);
+    platform::RegisterLibrary(L"C:\\Windows\\system32\\WINSPOOL.DRV", {{"XcvDataW", XcvDataW}});
+}
+
+TEST(PrinterAddress, FromTheRecord) {
+    ArrangeTransceiver(); // which is not asked
+    const struct {
+        unsigned flag;
+        Bytes address;
+        UINT codePage;
+        DWORD bufferSize;
+        Outcome expected;
+    } cases[] = {
+        {1, Terminated(L"192.168.10.2"), kLatin, 13, {TRUE, "192.168.10.2"}},
+        {0x80, Terminated(L"192.168.10.2"), kLatin, 14, {TRUE, "192.168.10.2"}},
+        {1, Terminated(L"192.168.10.2"), kLatin, 12, {FALSE, "-", 13}},
+        {0xFF, Terminated(L"192.168.10.2"), kLatin, 0, {FALSE, "-", 13}},
+        {1, Terminated(L"192.168.10.2"), kLatin, kNoBuffer, kNothing},
+        {1, Terminated(L""), kLatin, 13, kNothing},
+        {1, Terminated(L"\0001.2.3.4"), kLatin, 13, kNothing},
+        {1, Terminated(L"1.2\000.3"), kLatin, 4, {TRUE, "1.2"}},
+        {1, Terminated(L"pr\u00FC"), kLatin, 4, {TRUE, "pr\xFC"}},
+        {1, Terminated(L"pr\u00FC"), kUtf8, 5, {TRUE, "pr\xC3\xBC"}},
+        {1, Terminated(L"pr\u00FC"), kUtf8, 4, {FALSE, "-", 5}},
+        {1, Terminated(L"\u4E2D"), kLatin, 2, {TRUE, "?"}},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        platform::SetAnsiCodePage(c.codePage);
+        Expect(Ask(Record(c.flag, c.address), c.bufferSize), c.expected);
+    }
+    EXPECT_EQ(CallsOf("OpenPrinterW").size(), 0u);
+    for (const unsigned conversion : {1u, 2u}) {
+        platform::FailCall(conversion, 1113);
+        Expect(Ask(Record(1, Terminated(L"10.0.0.3"))), kNothing);
+    }
+
+    RawBytes beside = Record(0, Terminated(L"10.0.0.3")).U8(561, 0xFF).U8(563, 0xFF);
+    Expect(Ask(beside), kFromTransceiver);
+}
+
+TEST(PrinterAddress, NullArgumentsAndSizesThatNoBufferHas) {
+    const RawBytes record = Record(1, Terminated(L"10.0.0.3"));
+    char buffer[9];
+    const auto ask = [&buffer](const RawBytes& from, DWORD size) {
+        return DDProc_GetPrinterIPAddress(
+            L"Lumora", reinterpret_cast<const AddressSettings*>(from.bytes.data()), buffer, size, nullptr);
+    };
+    ArrangeTransceiver();
+    DWORD needed = kUntouched;
+    SetLastError(kBefore);
+    EXPECT_EQ(DDProc_GetPrinterIPAddress(L"Lumora", nullptr, buffer, sizeof(buffer), &needed), FALSE);
+    EXPECT_EQ(GetLastError(), kBefore);
+    EXPECT_EQ(needed, kUntouched);
+    EXPECT_TRUE(platform::Calls().empty());
+
+    EXPECT_EQ(ask(record, 8), FALSE);
+    EXPECT_EQ(ask(kAskQueue, 8), TRUE);
+    for (const DWORD claimed : {9u, 0x80000000u, 0xFFFFFFFFu}) { // the conversion's sizes are signed numbers
+        EXPECT_EQ(ask(record, claimed), TRUE);
+        EXPECT_STREQ(buffer, "10.0.0.3");
+        EXPECT_EQ(ask(kAskQueue, claimed), TRUE);
+        EXPECT_STREQ(buffer, "10.0.0.1");
+        EXPECT_EQ(platform::Calls().back(), "WideCharToMultiByte 1252 8");
+    }
+}
+
+TEST(PrinterAddress, ATransceiversAnswerNeedsNoRegistry) {
+    ArrangeTransceiver();
+    Expect(Ask(kAskQueue), kFromTransceiver);
+    const std::vector<std::string> calls = {
+        "OpenPrinterW Lumora 0",
+        "GetPrinterW 2 0",
+        "GetPrinterW 2 146", // 136 and the port's name
+        "OpenPrinterW ,XcvPort IP_1 1",
+        "XcvDataW IPAddress 0",
+        "XcvDataW IPAddress 18",
+        "WideCharToMultiByte 1252 0",
+        "WideCharToMultiByte 1252 8",
+    };
+    EXPECT_EQ(platform::Calls(), calls);
+}
+
+TEST(PrinterAddress, TheSystemsVersionNamesTheTransceiver) {
+    const struct {
+        DWORD platformId, major;
+        std::string opened; // last
+    } cases[] = {
+        {2, 10, "OpenPrinterW ,XcvPort IP_1 1"}, {2, 5, "OpenPrinterW ,XcvPort IP_1 1"},
+        {2, 4, "OpenPrinterW (local) 1"},        {1, 4, "OpenPrinterW Lumora 0"},
+        {1, 5, "OpenPrinterW Lumora 0"},         {3, 6, "OpenPrinterW Lumora 0"},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        ArrangeTransceiver();
+        platform::RegisterTransceiver(nullptr, Terminated(L"10.0.0.1"));
+        platform::SetVersion(c.platformId, c.major);
+        Expect(Ask(kAskQueue), c.platformId == 2 ? kFromTransceiver : kFromRegistry);
+        EXPECT_EQ(CallsOf("OpenPrinterW").back(), c.opened);
+    }
+}
+
+// What a transceiver replies and what the registry holds are taken in the same way.
+TEST(PrinterAddress, TextsOfAnyShape) {
+    const struct {
+        Bytes octets;
+        UINT codePage;
+        DWORD bufferSize;
+        Outcome expected;
+    } cases[] = {
+        {Terminated(L"10.0.0.3"), kLatin, 9, Stored("10.0.0.3")},
+        {Terminated(L"10.0.0.3"), kLatin, 8, NoRoom(9)},
+        {Terminated(L"10.0.0.3"), kLatin, 0, NoRoom(9)},
+        {Terminated(L"10.0.0.3"), kLatin, kNoBuffer, NoRoom(9)},
+        {Octets(L"10.0.0.3"), kLatin, 9, Stored("10.0.0.3")}, // no terminator
+        {Octets(L"10.0.0.3"), kLatin, 8, NoRoom(9)},
+        {Octets(L"10.0\000.3"), kLatin, 9, Stored("10.0")},
+        {Octets(L"pr\u00FC"), kUtf8, 5, Stored("pr\xC3\xBC")},
+        {Terminated(L"pr\u00FC"), kUtf8, 4, NoRoom(5)},
+        {{'1', 0, '2', 0, '3'}, kLatin, 9, Stored("12")}, // half a character
+        {{'1'}, kLatin, 9, Stored("")},
+        {Terminated(L""), kLatin, 1, Stored("")},
+        {Terminated(L""), kLatin, 0, NoRoom(1)},
+        {Xs(512), kLatin, 257, Stored(std::string(256, 'x'))},
+        {Xs(512), kLatin, 256, NoRoom(257)},
+        {Xs(511), kLatin, 300, Stored(std::string(255, 'x'))},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        ArrangeTransceiver(c.octets);
+        platform::SetAnsiCodePage(c.codePage);
+        Expect(Ask(kAskQueue, c.bufferSize), c.expected);
+        Arrange();
+        platform::SetAnsiCodePage(c.codePage);
+        platform::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", c.octets);
+        Expect(Ask(kAskQueue, c.bufferSize), c.expected);
+    }
+}
+
+TEST(PrinterAddress, NoReplyLeadsToTheRegistryAndNoValueToTheNextMonitor) {
+    ArrangeTransceiver({});
+    Expect(Ask(kAskQueue), kFromRegistry);
+    ArrangeTransceiver(Terminated(L"10.0.0.1"), 5); // refused, though the call itself succeeds
+    Expect(Ask(kAskQueue), kFromRegistry);
+
+    Arrange();
+    platform::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", Xs(513));
+    Expect(Ask(kAskQueue), kFromRegistry);
+    EXPECT_EQ(CallsOf("RegQueryValueExW").front(), "RegQueryValueExW IPAddress 512");
+    platform::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", {});
+    Expect(Ask(kAskQueue), Stored(""));
+}
+
+TEST(PrinterAddress, EveryPortMonitorInItsOrder) {
+    constexpr struct {
+        const wchar_t *key, *value;
+    } kMonitors[] = {
+        {MONITORS L"Standard TCP/IP Port\\Ports\\IP_1", L"IPAddress"},
+        {MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress"},
+        {MONITORS L"Vesper Port\\Ports\\IP_1", L"IPAddress"},
+        {MONITORS L"LPR Port\\Ports\\IP_1", L"Server Name"},
+        {MONITORS L"Vesper Port+\\Ports\\IP_1", L"IPAddress"},
+        {MONITORS L"Digital Network Port\\Ports\\IP_1", L"TCP/IP Address"},
+        {MONITORS L"HP Standard TCP/IP Port\\Ports\\IP_1", L"IPAddress"},
+    };
+    for (unsigned first = 1; first <= 8; ++first) { // the monitors before it lack the value or the whole key
+        SCOPED_TRACE(first);
+        platform::Reset();
+        platform::LetReleasesSetLastError(kReleases);
+        platform::RegisterQueue({L"Lumora", L"IP_1"});
+        for (unsigned i = 1; i <= 7; ++i) {
+            const auto& monitor = kMonitors[i - 1];
+            const BYTE digit = static_cast<BYTE>('0' + i);
+            if (i % 2 == 0)
+                platform::SetRegistryValue(monitor.key, L"HostName", Terminated(L"other"));
+            if (i >= first)
+                platform::SetRegistryValue(monitor.key, monitor.value, {digit, 0});
+        }
+        // The transceiver, which can't be opened, is the last that leaves an error.
+        Expect(Ask(kAskQueue), first < 8 ? Stored(std::to_string(first)) : Refused(1801));
+    }
+}
+
+// The key's path ends after 1,023 characters; the transceiver's name holds the whole port's.
+TEST(PrinterAddress, LongPortNames) {
+    const std::string ports = "System\\CurrentControlSet\\Control\\Print\\Monitors\\LPR Port\\Ports\\";
+    const std::string key = ports + std::string(1023 - ports.size(), 'p');
+    for (const size_t length : {1023 - ports.size(), 1024 - ports.size(), size_t{2000}}) {
+        SCOPED_TRACE(length);
+        const std::string port(length, 'p');
+        Arrange({L"Long", Wide(port).data()});
+        platform::SetRegistryValue(Wide(key).data(), L"Server Name", Terminated(L"10.0.0.4"));
+        Expect(Ask(kAskQueue, 64, L"Long"), Stored("10.0.0.4"));
+        EXPECT_EQ(CallsOf("OpenPrinterW").back(), "OpenPrinterW ,XcvPort " + port + " 1");
+        EXPECT_EQ(CallsOf("RegOpenKeyExW").back(), "RegOpenKeyExW " + key);
+    }
+}
+
+TEST(PrinterAddress, QueuesThatLackSomething) {
+    const struct {
+        platform::Queue queue;
+        Outcome expected;
+    } cases[] = {
+        {{L"Other", L"IP_1"}, Refused(1801)},
+        {{L"Lumora", nullptr}, Refused(122)}, // which the question for the size has left
+        {{L"Lumora", L""}, Refused(122)},
+        {{L"Lumora", nullptr, 30}, Refused(122)},   // ends within the pointer to the name
+        {{L"Lumora", L"IP_1", 136}, Refused(122)},  // the port's name begins where the block ends
+        {{L"Lumora", L"IP_1", 144}, kFromRegistry}, // no terminator
+        {{L"Lumora", L"IP_10", 145}, kFromRegistry},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        Arrange(c.queue);
+        Expect(Ask(kAskQueue), c.expected);
+    }
+}
+
+TEST(PrinterAddress, EveryCallFailsInTurn) {
+    const Outcome withTransceiver[] = {
+        Refused(5),       // open the queue
+        Refused(5),       // ask for the size of its data
+        Refused(5),       // read them
+        kFromRegistry,    // open the transceiver
+        kFromTransceiver, // ask for the size of the reply: only the size counts
+        kFromRegistry,    // fetch the reply
+        kFromRegistry,    // ask for the size of the text
+        kFromRegistry,    // convert it
+        kFromTransceiver, // nothing fails
+    };
+    for (unsigned i = 0; i < std::size(withTransceiver); ++i) {
+        SCOPED_TRACE(i);
+        ArrangeTransceiver();
+        platform::FailCall(i + 1, 5);
+        Expect(Ask(kAskQueue), withTransceiver[i]);
+    }
+    const Outcome onRegistry[] = {
+        kFromRegistry,       // open the third monitor's key, which is not there anyway
+        Refused(1801),       // open the LPR monitor's key; the transceiver has left the error
+        Refused(1801),       // read its value
+        {TRUE, "-", 0, 122}, // ask for the size of the text
+        {TRUE, "-", 0, 5},   // convert it
+        kFromRegistry,       // nothing fails
+    };
+    for (unsigned i = 0; i < std::size(onRegistry); ++i) {
+        SCOPED_TRACE(i);
+        Arrange();
+        platform::FailCall(i + 7, 5);
+        Expect(Ask(kAskQueue), onRegistry[i]);
+        EXPECT_EQ(CallsOf("RegOpenKeyExW").size(), onRegistry[i].result ? 4u : 7u);
+    }
+}
+
+TEST(PrinterAddress, EveryAllocationFailsInTurn) {
+    const Outcome expected[] = {
+        Refused(ERROR_NOT_ENOUGH_MEMORY), // the queue's data
+        kNothing,                         // the transceiver's name: the registry is not tried
+        kFromRegistry,                    // the reply
+        kFromTransceiver,                 // nothing fails
+    };
+    for (unsigned i = 0; i < std::size(expected); ++i) {
+        SCOPED_TRACE(i);
+        ArrangeTransceiver();
+        platform::FailAllocations(i + 1);
+        Expect(Ask(kAskQueue), expected[i]);
+    }
+}
+
+TEST(PrinterAddress, TheSpoolersLibraryComesFromTheSystemDirectory) {
+    // A directory of 246 characters leaves just the room that "\WINSPOOL.DRV" and its end need.
+    const std::string longest = "C:\\" + std::string(243, 'd'), tooLong = longest + "d", cut(300, 'd');
+    const struct {
+        std::string directory, library;
+        const char* function;
+        Outcome expected;
+    } cases[] = {
+        {"D:\\sys", "D:\\sys\\WINSPOOL.DRV", "XcvDataW", kFromTransceiver},
+        {"D:\\sys", "D:\\sys\\WINSPOOL.DRV", "XcvData", kFromRegistry},
+        {"D:\\sys", "WINSPOOL.DRV", "XcvDataW", kFromRegistry},
+        {longest, longest + "\\WINSPOOL.DRV", "XcvDataW", kFromTransceiver},
+        {tooLong, tooLong + "\\WINSPOOL.DRV", "XcvDataW", kFromRegistry},
+        {cut, cut + "\\WINSPOOL.DRV", "XcvDataW", kFromRegistry},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        Arrange();
+        platform::RegisterTransceiver(L",XcvPort IP_1", Terminated(L"10.0.0.1"));
+        platform::SetSystemDirectory(Wide(c.directory).data());
+        platform::RegisterLibrary(Wide(c.library).data(), {{c.function, XcvDataW}});
+        Expect(Ask(kAskQueue), c.expected);
+    }
+}
+
+} // namespace
