@@ -88,8 +88,6 @@ Outcome ReadOne(const Datagram& datagram) {
 
 // The request's last error by what the reader makes of each datagram, in turn; 0: it succeeds.
 DWORD ExpectedError(const std::vector<Datagram>& datagrams) {
-    if (datagrams.empty() || datagrams[0].empty())
-        return 4102; // an empty one can't be seen waiting
     for (size_t i = 0; i < 5; ++i) {
         if (i == datagrams.size() || datagrams[i].size() > kReceiveCapacity)
             return 0xFFFFFFFF;
@@ -140,7 +138,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     const std::vector<Datagram> datagrams = Split(octets, count);
     for (const Datagram& datagram : datagrams)
         ReadOne(datagram);
-    CheckRequest(datagrams);
+    if (!datagrams.empty() && !datagrams[0].empty()) // else nothing is seen waiting, which only takes time
+        CheckRequest(datagrams);
     const platform::Counts counts = platform::Count();
     Require(counts.localBlocks == 0 && counts.sockets == 0 && counts.socketUses == 0,
             "something is left over");

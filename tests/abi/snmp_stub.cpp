@@ -12,6 +12,7 @@ constexpr size_t kPrefix = 16; // in front of each block: its own heap's view en
 constexpr int kUnfilled = 0xEE;
 
 char calls[4096];
+int blocks; // handed out, less those given back
 int session;
 
 template <typename... Arguments>
@@ -23,12 +24,13 @@ void Log(const char* format, Arguments... arguments) {
 void* Allocate(size_t octets) {
     auto* block = static_cast<char*>(HeapAlloc(GetProcessHeap(), 0, kPrefix + octets));
     memset(block, kUnfilled, kPrefix + octets);
+    ++blocks;
     return block + kPrefix;
 }
 
 void Free(void* block) {
-    if (block != nullptr)
-        HeapFree(GetProcessHeap(), 0, static_cast<char*>(block) - kPrefix);
+    if (block != nullptr && HeapFree(GetProcessHeap(), 0, static_cast<char*>(block) - kPrefix))
+        --blocks;
 }
 
 } // namespace
@@ -38,6 +40,10 @@ extern "C" {
 // The calls since the library was loaded, one a line.
 const char* StubCalls() {
     return calls;
+}
+
+int StubBlocks() {
+    return blocks;
 }
 
 void* WINAPI SnmpUtilMemAlloc(UINT octets) {
@@ -85,7 +91,7 @@ INT WINAPI SnmpMgrRequest(void* handle, BYTE requestType, SnmpVarBindList* list,
     Log("SnmpMgrRequest%s %02X", handle == &session ? "" : " of another session", requestType);
     for (UINT i = 0; i < list->list->name.idLength; ++i)
         Log("%c%u", i == 0 ? ' ' : '.', list->list->name.ids[i]);
-    Log("\n");
+    Log(", value %02X\n", list->list->value.asnType);
     auto* answer = static_cast<SnmpVarBind*>(Allocate(list->len * sizeof(SnmpVarBind)));
     memcpy(answer, list->list, list->len * sizeof(SnmpVarBind));
     Free(list->list);

@@ -4,6 +4,7 @@
 #include "product.h"
 
 #include <gtest/gtest.h>
+#include <string>
 
 namespace fs = std::filesystem;
 
@@ -84,6 +85,12 @@ struct SystemSnmp : testing::Test {
     SystemFile snmp{kSnmp};
 };
 
+template <typename Function>
+Function* EntryPoint(const wchar_t* library, const char* name) {
+    FARPROC found = GetProcAddress(GetModuleHandleW(library), name);
+    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(found));
+}
+
 TEST_F(SystemSnmp, BothAreHeldFromAttachToDetach) {
     mgmt.Put(L"stub_mgmtapi.dll");
     snmp.Put(L"stub_snmpapi.dll");
@@ -106,6 +113,52 @@ TEST_F(SystemSnmp, WithAnEntryPointMissingBothAreFreedAtOnce) {
     mgmt.Put(L"stub_mgmtapi.dll");
     snmp.Put(L"stub_snmpapi_lacking.dll");
     ExpectBetweenAttachAndDetach(false, false);
+}
+
+// With an answer that lies in another list than the request's, and in memory that is not filled.
+TEST_F(SystemSnmp, QueriesGoThroughThemAlone) {
+    mgmt.Put(L"stub_mgmtapi.dll");
+    snmp.Put(L"stub_snmpapi.dll");
+    const LoadedModule module;
+    EXPECT_NE(module.Export<int WINAPI(const char*)>("MIB_IsAccessOK")("192.0.2.7"), 0);
+    EXPECT_STREQ(EntryPoint<const char*()>(kMgmt, "StubCalls")(),
+                 "SnmpMgrOpen 192.0.2.7 tovask 1000 1\n"
+                 "SnmpMgrStrToOid .1.3.6.1.2.1.1.2.0\n"
+                 "SnmpMgrRequest A0 1.3.6.1.2.1.1.2.0, value 05\n"
+                 "SnmpMgrClose\n");
+
+    struct {
+        char key[32];
+        char value[32];
+    } item = {"OpMemory", "none"};
+    EXPECT_NE(
+        module.Export<int WINAPI(const char*, DWORD, void*)>("MIB_OptionRequest")("192.0.2.7", 1, &item), 0);
+    EXPECT_STREQ(item.value, "640MB");
+    const std::string calls = EntryPoint<const char*()>(kMgmt, "StubCalls")();
+    const std::string once = "SnmpMgrStrToOid .1.3.6.1.2.1.25.2.3.1.5.1\n"
+                             "SnmpMgrRequest A0 1.3.6.1.2.1.25.2.3.1.5.1, value 05\n";
+    EXPECT_EQ(calls.substr(calls.find("SnmpMgrClose\n") + 13),
+              "SnmpMgrOpen 192.0.2.7 tovask 2000 3\n" + once + once + once + once + once + "SnmpMgrClose\n");
+    EXPECT_EQ(EntryPoint<int()>(kMgmt, "StubBlocks")() + EntryPoint<int()>(kSnmp, "StubBlocks")(), 0)
+        << "every block went back to the libraries";
+}
+
+// No query asks anything, nor says why; the tables are there as always.
+TEST_F(SystemSnmp, WithAnEntryPointMissingEveryQueryFails) {
+    mgmt.Put(L"stub_mgmtapi_lacking.dll");
+    snmp.Put(L"stub_snmpapi.dll");
+    const LoadedModule module;
+    for (const char* query : {"MIB_IsAccessOK", "MIB_IsModelOK", "MIB_OptionRequest", "MIB_MrkSupRequest",
+                              "MIB_OverlayRequest", "MIB_ProfileRequest"}) {
+        char items[128] = {};
+        SetLastError(777);
+        EXPECT_EQ(module.Export<INT_PTR WINAPI(const char*, INT_PTR, void*)>(query)("192.0.2.7", 0, items),
+                  0);
+        EXPECT_EQ(GetLastError(), 777u) << query;
+    }
+    for (const char* table : {"MIB_ModelCheckInfo", "MIB_OptionReqInfo", "MIB_MrkSupReqInfo",
+                              "MIB_OvlReqInfo", "MIB_CMProfReqInfo", "GET_MrkSupItemList"})
+        EXPECT_NE(module.Export<const void * WINAPI()>(table)(), nullptr) << table;
 }
 
 } // namespace
