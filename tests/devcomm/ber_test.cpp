@@ -200,6 +200,13 @@ TEST(BerReader, LengthForms) {
     }
 }
 
+// The indefinite form, with as many octets behind it as a length of 80 hex would take.
+TEST(BerReader, IndefiniteForm) {
+    const ExactBlock block(Join({Hex("04 80"), Octets(128, 0)}));
+    BerReader reader = {block.Start(), block.End(), false};
+    EXPECT_TRUE(BerOpen(reader, 0x04).failed);
+}
+
 TEST(BerReader, AFailureStays) {
     const ExactBlock block(Hex("02 01 05 04 01 AA 02 01 06"));
     BerReader reader = {block.Start(), block.End(), false};
@@ -284,6 +291,7 @@ TEST(BerReader, Arcs) {
         {"2B 90 80 80 80 00", {}},
         {"2B 8F FF FF FF FF 7F", {}},
         {"2B FF FF FF FF FF FF FF FF FF FF FF 7F", {}},
+        {"2B 81 80 80 80 80 80 80 80 80 80 05", {}}, // 5 when cut to 64 bits
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.contents);

@@ -241,4 +241,15 @@ TEST(SnmpBind, LongSystemDirectory) {
     }
 }
 
+// Without the directory a bare path could lead to another library.
+TEST(SnmpBind, UnknownSystemDirectory) {
+    platform::SetSystemDirectory(L"");
+    Register("\\SNMPAPI.DLL", 0, 5);
+    Register("\\MGMTAPI.DLL", 5, 9);
+    EXPECT_EQ(SnmpApiBind(), TRUE);
+    EXPECT_EQ(Bound(), kClient);
+    EXPECT_EQ(platform::LibraryCalls(), Words());
+    SnmpApiRelease();
+}
+
 } // namespace

@@ -4,6 +4,7 @@
 #include "platform_control.h"
 #include "support/octets.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
@@ -182,6 +183,25 @@ TEST(SnmpRequest, SeveralVarBinds) {
               Hex("30 30 02 01 00 04 00 A1 29 02 02 01 01 02 01 00 02 01 00 30 1D 30 07 06 03 2B 06 01 05 00"
                   " 30 05 06 03 77 81 00 30 02 05 00 30 00 30 05 06 01 00 05 00"));
     varBinds[2].name = varBinds[3].name = {};
+}
+
+TEST(SnmpRequest, LongestVarBinds) {
+    constexpr UINT kVarBinds = 20;
+    Client client({}, "", kVarBinds);
+    ClientOidFree(&client.list.list[0].name);
+    UINT arcs[129] = {2, 39};
+    std::fill(arcs + 2, arcs + 129, 7);
+    Octets varBinds;
+    for (UINT i = 0; i < kVarBinds; ++i) {
+        client.list.list[i].name = {129, arcs};
+        varBinds = Join({varBinds, Hex("30 82 00 86 06 82 00 80 77"), Octets(127, 7), Hex("05 00")});
+    }
+    EXPECT_FALSE(client.Request());
+    EXPECT_EQ(platform::ReadWire().sent.at(0),
+              Element(0x30, {Hex("02 01 00 04 00"), Element(0xA0, {Hex("02 02 01 01 02 01 00 02 01 00"),
+                                                                   Element(0x30, {varBinds})})}));
+    for (UINT i = 0; i < kVarBinds; ++i)
+        client.list.list[i].name = {};
 }
 
 TEST(SnmpRequest, Communities) {
@@ -457,13 +477,13 @@ TEST(SnmpReceive, WithoutMemory) {
     EXPECT_EQ(GetLastError(), kUntouched);
 }
 
-// What a caller sees after it has cleaned up is why the request failed.
-TEST(SnmpReceive, LastErrorSurvivesTheCleanUp) {
-    {
-        Client client({});
-        EXPECT_FALSE(client.Request());
-    }
+// What a caller sees after the close is why the request failed.
+TEST(SnmpReceive, LastErrorSurvivesTheClose) {
+    Client client({});
+    EXPECT_FALSE(client.Request());
+    EXPECT_EQ(ClientClose(client.session), TRUE);
     EXPECT_EQ(GetLastError(), 4102u);
+    client.session = nullptr;
 }
 
 } // namespace
