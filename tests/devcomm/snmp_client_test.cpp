@@ -38,6 +38,7 @@ struct Client {
     explicit Client(const platform::Wire& wire, const std::string& name = "tovask", UINT varBinds = 1)
         : community(Join({Characters(name), {0}})) {
         platform::SetWire(wire);
+        platform::LetReleasesSetLastError(0);
         session = ClientOpen("192.0.2.7", reinterpret_cast<const char*>(community.Start()), 2000, 3);
         EXPECT_NE(session, nullptr);
         list = {static_cast<SnmpVarBind*>(ClientMemAlloc(static_cast<UINT>(varBinds * sizeof(SnmpVarBind)))),
@@ -143,6 +144,7 @@ TEST(SnmpOpen, Failures) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         platform::Reset();
+        platform::LetReleasesSetLastError(0);
         platform::Wire wire;
         c.prepare(wire);
         platform::SetWire(wire);
