@@ -40,6 +40,7 @@ const Ratio kRatios[] = {
     {"a reply read : by net-snmp", "ReadReply", "PeerReadsReply", 1},
     {"request and answer : by net-snmp", "RoundTrip/real_time", "PeerRoundTrip/real_time", 1},
     {"request and answer : UDP echo", "RoundTrip/real_time", "EchoRoundTrip/real_time", 1},
+    {"all options asked : as many UDP echoes", "AllOptions/real_time", "EchoesOfAllOptions/real_time", 1},
 };
 
 } // namespace

@@ -1,7 +1,9 @@
 // The built-in SNMP client against net-snmp's library: a GetRequest built, a reply read, and requests to the
 // same agent on loopback, these also against a bare UDP echo; all the options of a printer asked at once; and
 // how long a silent agent is waited for.
+#include "devcomm/printer_queries.h"
 #include "devcomm/snmp_client.h"
+#include "devcomm/snmp_entry_points.h"
 #include "devcomm/snmp_message.h"
 #include "devcomm/snmp_values.h"
 #include "loopback.h"
@@ -9,7 +11,9 @@
 #include "platform_control.h"
 
 #include <benchmark/benchmark.h>
+#include <cstring>
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -88,7 +92,7 @@ SnmpSession OpenTo(uint16_t port) {
 
 void RoundTrip(benchmark::State& state) {
     const Server printer("--address 127.0.0.1");
-    const SnmpSession session = OpenTo(printer.port);
+    SnmpSession session = OpenTo(printer.port);
     Question question;
     for ([[maybe_unused]] auto _ : state) {
         question.varBind.value.asnType = ASN_NULL;
@@ -126,9 +130,41 @@ void EchoRoundTrip(benchmark::State& state) {
 }
 BENCHMARK(EchoRoundTrip)->UseRealTime();
 
+// Of a printer with 512 MB: four requests until the memory is found, one for the hard disk, the five trays
+// and the duplex unit each.
+constexpr int kOptionRequests = 4 + 1 + 5 + 1;
+
+void AllOptions(benchmark::State& state) {
+    const Server printer("--address 127.0.0.1");
+    platform::RedirectPort(161, printer.port);
+    SnmpApiBind();
+    const OptionReqInfo& options = *MIB_OptionReqInfo();
+    std::vector<OptionRequestItem> items(static_cast<size_t>(options.count));
+    for (size_t i = 0; i < items.size(); ++i)
+        memcpy(items[i].key, options.options[i].key, sizeof(items[i].key));
+    for ([[maybe_unused]] auto _ : state)
+        if (!MIB_OptionRequest("127.0.0.1", static_cast<DWORD>(items.size()), items.data())
+            || strcmp(items[0].value, "512MB") != 0 || items.back().value[0] == 0) {
+            state.SkipWithError("the options are not answered");
+            break;
+        }
+    SnmpApiRelease();
+}
+BENCHMARK(AllOptions)->UseRealTime();
+
+void EchoesOfAllOptions(benchmark::State& state) {
+    const Server echo("");
+    const EchoClient client(echo.port);
+    for ([[maybe_unused]] auto _ : state)
+        for (int i = 0; i < kOptionRequests; ++i)
+            if (!client.RoundTrip(reply, sizeof(reply)))
+                state.SkipWithError("no echo");
+}
+BENCHMARK(EchoesOfAllOptions)->UseRealTime();
+
 void SilentAgent(benchmark::State& state) {
     const Server printer("--fault silence");
-    const SnmpSession session = OpenTo(printer.port);
+    SnmpSession session = OpenTo(printer.port);
     Question question;
     for ([[maybe_unused]] auto _ : state)
         if (ClientRequest(session, SNMP_PDU_GET, &question.list, nullptr, nullptr) != 0)

@@ -115,8 +115,9 @@ void RegisterQueue(const Queue& queue) {
         const wchar_t* end = queue.port;
         while (*end != 0)
             ++end;
-        const auto* octets = reinterpret_cast<const BYTE*>(queue.port);
-        printer.info.insert(printer.info.end(), octets, reinterpret_cast<const BYTE*>(end + 1));
+        const size_t octets = static_cast<size_t>(end + 1 - queue.port) * sizeof(*end);
+        printer.info.resize(printer.portOffset + octets);
+        memcpy(&printer.info[printer.portOffset], queue.port, octets);
     }
     if (queue.infoSize != 0)
         printer.info.resize(queue.infoSize);

@@ -22,7 +22,7 @@ struct AgentSession {
     AgentSession(const AgentSession&) = delete;
     AgentSession& operator=(const AgentSession&) = delete;
 
-    const SnmpSession handle; // null: not opened, the last error tells why
+    SnmpSession handle; // null: not opened, the last error tells why
 };
 
 // Whether the agent answers a request of the object, with whatever.

@@ -2,6 +2,7 @@
 #include "devcomm/printer_queries.h"
 
 #include "devcomm/object_reader.h"
+#include "devcomm/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>
@@ -162,6 +163,7 @@ BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, OptionRequestItem*
     const AgentSession session(agent, kQueryPatience);
     if (session.handle == nullptr)
         return FALSE;
+    const KeepLastError keep; // whatever single items give
     for (DWORD i = 0; i < count; ++i) {
         memset(items[i].value, 0, sizeof(items[i].value));
         const OptionRecord* option = FindOption(items[i].key);
@@ -180,6 +182,7 @@ BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem*
     const AgentSession session(agent, kQueryPatience);
     if (session.handle == nullptr)
         return FALSE;
+    const KeepLastError keep; // whatever single items give
     for (DWORD i = 0; i < count; ++i) {
         items[i].state = 0;
         items[i].value = 0;

@@ -27,11 +27,12 @@ BOOL WINAPI MIB_IsModelOK(const char* agent);
 
 // Answers each item by the key of the installed option's item; empty when the key is unknown or the device
 // did not answer. FALSE when the session can't be opened: the last error tells why, the items are untouched.
+// With a session the last error stays as it was.
 BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, OptionRequestItem* items);
 
 // Answers each item by the supply's state, value and colour; all 0 when they are not to be had. FALSE when
-// the session can't be opened, and at the first name that is not in the list: the items from there on are
-// untouched.
+// the session can't be opened, and at the first name that is not in the list: the items behind it are
+// untouched. The last error as for options.
 BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem* items);
 
 // The overlays (storage 0 or 1) or the colour profiles that the printer stores, in one block that the caller

@@ -1,0 +1,462 @@
+// The printer queries over a scripted device: sessions, refusals, comparisons, options and supplies. What is
+// asked, in which order, and what the caller gets.
+#include "devcomm/object_reader.h"
+#include "devcomm/printer_queries.h"
+#include "devcomm/scripted_device.h"
+#include "frame/exports.h"
+#include "paramdata/text.h"
+#include "support/raw_bytes.h"
+
+#include <climits>
+#include <gtest/gtest.h>
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+constexpr DWORD kUntouched = 777; // a last error that nobody sets
+constexpr const char* kAgent = "192.0.2.7";
+const std::string kSysObjectId = ".1.3.6.1.2.1.1.2.0";
+const std::string kMemory = ".1.3.6.1.2.1.25.2.3.1.5.1";
+const std::string kHardDisk = ".1.3.6.1.2.1.25.2.3.1.5.2";
+const std::string kInTray = ".1.3.6.1.2.1.43.8.2.1.2.1.";
+const std::string kDuplex = ".1.3.6.1.2.1.43.13.4.1.2.1.2";
+const std::string kCapacity = ".1.3.6.1.2.1.43.11.1.1.8.1.";
+const std::string kLevel = ".1.3.6.1.2.1.43.11.1.1.9.1.";
+const Answer kNull = {ASN_NULL};
+
+constexpr uint8_t kBefore = 0xEE; // fills the answer of an item before it is one
+
+// A caller's item with this key, behind whose terminator, if it has one, there is garbage.
+template <typename Item>
+Item ItemOf(const std::string& key) {
+    Item item;
+    memset(&item, kBefore, sizeof(item));
+    memcpy(&item, key.c_str(), key.size() < 32 ? key.size() + 1 : 32);
+    return item;
+}
+
+// --- Sessions and refusals.
+
+OptionRequestItem option;
+MrkSupRequestItem supply;
+
+// Whether it was a block.
+bool Release(void* block) {
+    MIB_FreeOverlayInfo(block);
+    return block != nullptr;
+}
+
+// Each gives whether the answer is TRUE or a block. The model is not asked for: the check is off.
+using Query = bool (*)(const char* agent);
+const Query kAccess = [](const char* agent) { return MIB_IsAccessOK(agent) != FALSE; };
+const Query kModel = [](const char* agent) { return MIB_IsModelOK(agent) != FALSE; };
+const Query kAsking[] = {
+    kAccess,
+    [](const char* agent) { return MIB_OptionRequest(agent, 1, &option) != FALSE; },
+    [](const char* agent) { return MIB_MrkSupRequest(agent, 1, &supply) != FALSE; },
+    [](const char* agent) { return Release(MIB_OverlayRequest(agent, 0)); },
+    [](const char* agent) { return Release(MIB_ProfileRequest(agent)); },
+};
+
+// A query that must fail, with this last error and the items as they were.
+void ExpectRefusal(Query query, const char* agent, DWORD lastError) {
+    option = ItemOf<OptionRequestItem>("OpHDD");
+    supply = ItemOf<MrkSupRequestItem>("Consumable2");
+    SetLastError(kUntouched);
+    EXPECT_FALSE(query(agent));
+    EXPECT_EQ(GetLastError(), lastError);
+    for (size_t i = 32; i < sizeof(option); ++i)
+        EXPECT_EQ(NumberAt<uint8_t>(&option, i), kBefore);
+    for (size_t i = 32; i < sizeof(supply); ++i)
+        EXPECT_EQ(NumberAt<uint8_t>(&supply, i), kBefore);
+}
+
+TEST(PrinterQueries, SessionOfEach) {
+    for (const Query query : kAsking) {
+        ScriptedDevice device;
+        device.answers[kSysObjectId] = kNull;
+        option = ItemOf<OptionRequestItem>("OpHDD");
+        supply = ItemOf<MrkSupRequestItem>("Consumable2");
+        EXPECT_TRUE(query(query == kAccess ? kAgent : ""));
+        EXPECT_EQ(device.sessions, Texts{query == kAccess ? "192.0.2.7 tovask 1000 1" : " tovask 2000 3"});
+        EXPECT_EQ(device.closes, 1u);
+        EXPECT_FALSE(device.asked.empty());
+        device.openError = 11001;
+        ExpectRefusal(query, kAgent, 11001);
+        EXPECT_EQ(device.closes, 1u);
+    }
+    ScriptedDevice device;
+    EXPECT_TRUE(kModel(kAgent) && kModel(""));
+    EXPECT_TRUE(device.sessions.empty());
+}
+
+TEST(PrinterQueries, MissingEntryPoint) {
+    for (size_t slot = 0; slot < 9; ++slot) {
+        SCOPED_TRACE(slot);
+        ScriptedDevice device;
+        memset(reinterpret_cast<char*>(&snmpEntryPoints) + slot * sizeof(void*), 0, sizeof(void*));
+        for (const char* agent : {kAgent, static_cast<const char*>(nullptr)}) {
+            ExpectRefusal(kModel, agent, kUntouched);
+            for (const Query query : kAsking)
+                ExpectRefusal(query, agent, kUntouched);
+        }
+        EXPECT_TRUE(device.sessions.empty());
+        EXPECT_EQ(MIB_ModelCheckInfo()->enabled, 0);
+        EXPECT_EQ(MIB_OptionReqInfo()->count, 13);
+        EXPECT_EQ(MIB_MrkSupReqInfo()->items, GET_MrkSupItemList());
+        EXPECT_EQ(MIB_OvlReqInfo()->storageCount, 3);
+        EXPECT_EQ(MIB_CMProfReqInfo()->storageCount, 5);
+    }
+}
+
+TEST(PrinterQueries, RefusedArguments) {
+    ScriptedDevice device;
+    ExpectRefusal(kModel, nullptr, 87);
+    for (const Query query : kAsking)
+        ExpectRefusal(query, nullptr, 87);
+    ExpectRefusal(kAccess, "", 87);
+    ExpectRefusal([](const char* agent) { return MIB_OptionRequest(agent, 0, nullptr) != FALSE; }, kAgent,
+                  87);
+    ExpectRefusal([](const char* agent) { return MIB_MrkSupRequest(agent, 0, nullptr) != FALSE; }, kAgent,
+                  87);
+    ExpectRefusal([](const char* agent) { return Release(MIB_OverlayRequest(agent, 2)); }, nullptr, 87);
+    EXPECT_TRUE(device.sessions.empty());
+    // The storage is looked at once the session is open.
+    ExpectRefusal([](const char* agent) { return Release(MIB_OverlayRequest(agent, 2)); }, kAgent, 87);
+    ExpectRefusal([](const char* agent) { return Release(MIB_OverlayRequest(agent, -1)); }, kAgent, 87);
+    EXPECT_EQ(device.closes, 2u);
+    EXPECT_EQ(device.asked, Texts());
+}
+
+TEST(PrinterQueries, AccessIsAnyAnswer) {
+    for (const Answer& answer :
+         {Oid({1, 3, 6, 1}), kNull.With(2, 1), kNull.With(5, 0), Number(1).With(0, 3)}) {
+        ScriptedDevice device;
+        device.answers[kSysObjectId] = answer;
+        EXPECT_EQ(MIB_IsAccessOK(kAgent), TRUE);
+        EXPECT_EQ(device.asked, Texts{kSysObjectId});
+    }
+    ScriptedDevice device;
+    device.failingRequest = 1;
+    SetLastError(kUntouched);
+    EXPECT_EQ(MIB_IsAccessOK(kAgent), FALSE);
+    EXPECT_EQ(GetLastError(), kRequestError);
+}
+
+// --- Comparisons, by model checks of the test's own.
+
+TEST(PrinterQueries, Comparisons) {
+    const std::string x255(255, 'x');
+    const Answer none = Failing(kRequestError);
+    const struct {
+        int32_t kind;
+        const char* expected;
+        std::vector<Answer> matching, others;
+    } cases[] = {
+        {0,
+         "5",
+         {kNull, Number(6), kNull.With(0, 7)},
+         {Number(5).With(2, 0), Number(5).With(0x100, 0), Number(5).With(0x10000, 0),
+          Number(5).With(INT_MIN, 0), none}},
+        {1,
+         "640",
+         {Number(640), Number(640, 0x41), Number(640, 0x42), Number(640, 0x43), Number(640, 0x47)},
+         {Number(640, 0x45), Number(640, 0x46), Number(640, 0x05), Text("640"), Number(641), Number(0x10280),
+          none, Number(640).With(0, 1), Number(640).With(0x10000, 0)}},
+        {1, "  +640", {Number(640)}, {Number(0)}},
+        {1, " -5", {Number(-5)}, {Number(5)}},
+        {1, "2147483647", {Number(INT_MAX)}, {}},
+        {1, "-2147483648", {Number(INT_MIN)}, {}},
+        {2,
+         "Ab",
+         {Text("Ab"), Text("Ab", 0x03), Text("Ab", 0x30), Text("Ab", 0x40), Text("Ab", 0x44),
+          Text({"Ab\0c", 4})},
+         {Text("ab"), Text("A"), Text("Abc"), Text("Ab").With(0, 1), Text("Ab").With(1, 0), none}},
+        {2, "", {Text(""), Text({"\0c", 2})}, {Number(0), kNull, Oid({1, 3}), Text(" ")}},
+        {2, x255.c_str(), {Text(x255), Text(x255 + "y")}, {Text(x255.substr(1)), Text(x255.substr(1) + "y")}},
+        {3,
+         ".1.3.47913",
+         {Oid({1, 3, 47913})},
+         {Oid({1, 3}), Oid({1, 3, 47913, 0}), Oid({1, 3, 4791}), none}},
+        {3,
+         "1.3",
+         {Oid({1, 3})},
+         {Oid({1, 33}), Oid({1}), Text("1.3"), Oid({1, 3}).With(0, 1), Oid({1, 3}).With(1, 0)}},
+        {3, "..1.3", {}, {Oid({1, 3}), Oid({0, 1, 3})}},
+        {3, "1.3.", {}, {Oid({1, 3}), Oid({1, 3, 0})}},
+        {3, "1..3", {}, {Oid({1, 3}), Oid({1, 0, 3})}},
+        {3, "1.3x", {}, {Oid({1, 3})}},
+        {3, "1. 3", {}, {Oid({1, 3})}},
+        {3, "1.-3", {}, {Oid({1, 3}), Oid({1, static_cast<UINT>(-3)})}},
+        {3, "1.4294967295", {Oid({1, UINT_MAX})}, {}},
+        {3, "1.4294967297", {}, {Oid({1, 1})}},
+        {3, "1.18446744073709551617", {}, {Oid({1, 1})}},
+        {4, "640", {}, {Number(640)}},
+        {-1, "640", {}, {Number(640)}},
+        {256, "", {}, {kNull}},
+    };
+    const auto expectMatch = [](ModelCheckInfo& check, const Answer& answer, BOOL matches) {
+        ScriptedDevice device;
+        device.answers[kMemory] = device.answers[kHardDisk] = answer;
+        for (const std::string& object : {kMemory, kHardDisk}) { // a reply in another list, and one in place
+            CopyText(check.oid, object.c_str());
+            EXPECT_EQ(CheckModel(check, kAgent), matches);
+        }
+        EXPECT_EQ(device.asked, Texts({kMemory, kHardDisk}));
+        EXPECT_EQ(device.sessions, Texts(2, "192.0.2.7 tovask 2000 3"));
+    };
+    for (const auto& c : cases) {
+        ModelCheckInfo check = {1, {}, c.kind, {}};
+        CopyText(check.expected, c.expected);
+        for (const auto* answers : {&c.matching, &c.others})
+            for (const Answer& answer : *answers) {
+                SCOPED_TRACE(std::to_string(c.kind) + " " + c.expected + " "
+                             + std::to_string(&answer - answers->data()));
+                expectMatch(check, answer, answers == &c.matching);
+            }
+    }
+}
+
+// An OID and its suffix are cut to 255 characters.
+TEST(PrinterQueries, LongObjectNames) {
+    std::string start; // 250 characters
+    for (int i = 0; i < 125; ++i)
+        start += ".1";
+    for (const char* suffix : {"", ".2345", ".23456", ".23456789.1"}) {
+        ScriptedDevice device;
+        const AgentSession session(kAgent, kQueryPatience);
+        EXPECT_EQ(MatchObject(session.handle, start.c_str(), suffix, 0, ""), Match::kNo);
+        EXPECT_EQ(device.asked, Texts{(start + suffix).substr(0, 255)});
+        EXPECT_EQ(device.asked[0].size(), *suffix != 0 ? 255u : 250u);
+    }
+}
+
+// --- Options.
+
+// Asks for all keys at once, whose items end up as their keys and the answers, with zeros behind.
+void ExpectOptions(const Texts& keys, const Texts& values) {
+    std::vector<OptionRequestItem> items;
+    std::vector<RawBytes> expected;
+    for (size_t i = 0; i < keys.size(); ++i) {
+        items.push_back(ItemOf<OptionRequestItem>(keys[i]));
+        RawBytes whole(64);
+        memcpy(whole.bytes.data(), items[i].key, 32);
+        expected.push_back(whole.Text(32, values[i]));
+    }
+    SetLastError(kUntouched);
+    EXPECT_EQ(MIB_OptionRequest(kAgent, static_cast<DWORD>(items.size()), items.data()), TRUE);
+    EXPECT_EQ(GetLastError(), kUntouched);
+    for (size_t i = 0; i < keys.size(); ++i)
+        EXPECT_EQ(Differences(&items[i], expected[i]), "") << keys[i] << ": got " << items[i].value;
+}
+
+TEST(PrinterQueries, Options) {
+    const struct {
+        const char* key;
+        std::map<std::string, Answer> answers;
+        const char* value;
+        Texts asked;
+    } cases[] = {
+        {"OpMemory", {{kMemory, Number(128)}}, "128MB", Texts(1, kMemory)},
+        {"OpMemory", {{kMemory, Number(640, 0x42)}}, "640MB", Texts(5, kMemory)},
+        {"OpMemory", {{kMemory, Number(1024)}}, "1024MB", Texts(8, kMemory)},
+        {"OpMemory", {{kMemory, Number(2048)}}, "", Texts(8, kMemory)},
+        {"OpMemory", {{kMemory, Number(640).With(0, 1)}}, "", Texts(8, kMemory)},
+        {"OpMemory", {}, "", Texts(8, kMemory)},
+        {"OpMemory", {{kMemory, Failing(kRequestError)}}, "", Texts(1, kMemory)},
+        {"OpHDD", {{kHardDisk, Number(0)}}, "EnaOpHDD", {kHardDisk}},
+        {"OpHDD", {{kHardDisk, kNull.With(0, 7)}}, "EnaOpHDD", {kHardDisk}},
+        {"OpHDD", {{kHardDisk, Number(1).With(0x10000, 0)}}, "DisOpHDD", {kHardDisk}},
+        {"OpHDD", {}, "DisOpHDD", {kHardDisk}},
+        {"OpHDD", {{kHardDisk, Failing(kRequestError)}}, "", {kHardDisk}},
+        {"opinTRAY3", {{kInTray + "3", Text("x")}}, "EnaOpInTray3", {kInTray + "3"}},
+        {"OpInTray5", {{kInTray + "3", Text("x")}}, "DisOpInTray5", {kInTray + "5"}},
+        {"OpDuplex", {{kDuplex, Number(-1)}}, "EnaOpDuplex", {kDuplex}},
+        {"OpManualFeed", {}, "EnaOpManualFeed", {}},
+        {"OpOutTray2", {}, "DisOpOutTray2", {}},
+        {"", {}, "", {}},
+        {"OpInTray", {}, "", {}},
+        {"OpInTray33", {}, "", {}},
+        {"OpManualFeed6789012345678901234x", {}, "", {}}, // fills its 32 octets
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        ScriptedDevice device;
+        device.answers = c.answers;
+        ExpectOptions({c.key}, {c.value});
+        EXPECT_EQ(device.asked, c.asked);
+    }
+}
+
+TEST(PrinterQueries, OptionsGoOnAfterOneWithoutAnswer) {
+    ScriptedDevice device;
+    device.answers = {{kMemory, Number(384)}, {kInTray + "1", Failing(kRequestError)}, {kDuplex, Number(1)}};
+    ExpectOptions({"OpInTray1", "none", "OpMemory", "OpHDD", "OpDuplex", "OpInTray1"},
+                  {"", "", "384MB", "DisOpHDD", "EnaOpDuplex", ""});
+    EXPECT_EQ(device.asked,
+              Texts({kInTray + "1", kMemory, kMemory, kMemory, kHardDisk, kDuplex, kInTray + "1"}));
+    EXPECT_EQ(device.sessions.size(), 1u);
+    EXPECT_EQ(MIB_OptionRequest(kAgent, 0, &option), TRUE);
+    EXPECT_EQ(device.closes, 2u);
+}
+
+// --- Supplies.
+
+TEST(PrinterQueries, Percentages) {
+    const struct {
+        int32_t capacity, level;
+        int32_t percentage; // -1: not to be had. 42949673 x 100 is 4 in 32 bits.
+    } cases[] = {
+        {1000, 333, 33},
+        {1000, 0, 0},
+        {1000, 1000, 100},
+        {1000, 4, 0},
+        {1000, 5, 1},
+        {1000, 994, 99},
+        {1000, 995, 100},
+        {1000, 1004, 100},
+        {1000, 1005, -1},
+        {1000, -3, 0},
+        {1000, -4, 0},
+        {1000, -5, -1},
+        {10, -3, -1},
+        {100, -1, -1},
+        {3, 2, 67},
+        {199, 1, 1},
+        {200, 1, 1},
+        {201, 1, 0},
+        {1, 1, 100},
+        {1, 2, -1},
+        {0, 5, 100},
+        {0, 1, 100},
+        {0, 0, 0},
+        {0, -3, 0},
+        {-2, 7, 100},
+        {-2, -2, 0},
+        {INT_MAX, 1, 0},
+        {INT_MAX, INT_MAX, 100},
+        {INT_MIN, INT_MAX, 100},
+        {1, INT_MAX, -1},
+        {1, INT_MIN, -1},
+        {INT_MAX, INT_MIN, -1},
+        {50, 42949673, -1},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::to_string(c.level) + " of " + std::to_string(c.capacity));
+        ScriptedDevice device;
+        device.answers = {{kCapacity + "1", Number(c.capacity)}, {kLevel + "1", Number(c.level, 0x42)}};
+        supply = ItemOf<MrkSupRequestItem>("consumable2");
+        EXPECT_EQ(MIB_MrkSupRequest(kAgent, 1, &supply), TRUE);
+        const bool isThere = c.percentage >= 0;
+        EXPECT_EQ(supply.state, isThere ? 1 : 0);
+        EXPECT_EQ(supply.value, isThere ? c.percentage : 0);
+        EXPECT_EQ(supply.color, isThere ? 0x00FFFF00u : 0u);
+        EXPECT_EQ(device.asked, Texts({kCapacity + "1", kLevel + "1"}));
+    }
+}
+
+TEST(PrinterQueries, SupplyLevels) {
+    const int32_t levels[][2] = {{0, 4},  {1, 3},  {2, 5},  {7, 5},  {INT_MAX, 5},
+                                 {-3, 5}, {-1, 0}, {-2, 0}, {-4, 0}, {INT_MIN, 0}};
+    for (const auto& [level, value] : levels) {
+        ScriptedDevice device;
+        device.answers = {{kCapacity + "8", Number(-2)}, {kLevel + "8", Number(level)}};
+        supply = ItemOf<MrkSupRequestItem>("Consumable11");
+        EXPECT_EQ(MIB_MrkSupRequest(kAgent, 1, &supply), TRUE);
+        EXPECT_EQ(supply.state, 2);
+        EXPECT_EQ(supply.value, value) << level;
+        EXPECT_EQ(supply.color, 0u);
+        EXPECT_EQ(device.asked, Texts({kCapacity + "8", kLevel + "8"}));
+    }
+}
+
+// Both must answer with a number; whatever a supply answers, the next is asked.
+TEST(PrinterQueries, SuppliesThatDoNotAnswer) {
+    const Answer half = Number(50), whole = Number(100);
+    const struct {
+        Answer capacity, level;
+        bool isThere;
+    } cases[] = {{whole, half, true},
+                 {Number(100, 0x41), Number(50, 0x43), true},
+                 {Number(100, 0x47), half, true},
+                 {Number(100, 0x46), half, false},
+                 {whole, Text("50"), false},
+                 {Text("100"), half, false},
+                 {whole.With(2, 0), half, false},
+                 {whole.With(0, 1), half, false},
+                 {whole, half.With(0x10000, 0), false},
+                 {whole, half.With(0, 1), false},
+                 {Failing(kRequestError), half, false},
+                 {whole, Failing(kRequestError), false}};
+    for (const auto& c : cases)
+        for (const bool isPercentage : {true, false}) {
+            SCOPED_TRACE(&c - cases);
+            const std::string index = isPercentage ? "4" : "8";
+            ScriptedDevice device;
+            device.answers = {{kCapacity + index, c.capacity},
+                              {kLevel + index, c.level},
+                              {kCapacity + "3", whole},
+                              {kLevel + "3", half}};
+            MrkSupRequestItem items[] = {
+                ItemOf<MrkSupRequestItem>(isPercentage ? "Consumable5" : "Consumable11"),
+                ItemOf<MrkSupRequestItem>("Consumable4"),
+            };
+            SetLastError(kUntouched);
+            EXPECT_EQ(MIB_MrkSupRequest(kAgent, 2, items), TRUE);
+            EXPECT_EQ(GetLastError(), kUntouched);
+            EXPECT_EQ(items[0].state, !c.isThere ? 0 : isPercentage ? 1 : 2);
+            EXPECT_EQ(items[0].value, !c.isThere ? 0 : isPercentage ? 50 : 5);
+            EXPECT_EQ(items[0].color, 0u);
+            EXPECT_EQ(items[1].value, 50);
+            EXPECT_EQ(items[1].color, 0x0000FFFFu);
+        }
+}
+
+// An unknown name ends the call; the items before keep their answers.
+TEST(PrinterQueries, SuppliesWithoutARequest) {
+    for (const char* unknown :
+         {"", "Consumable", "Consumable13", "Consumable1 ", "Consumable1890123456789012345678"}) {
+        SCOPED_TRACE(unknown);
+        ScriptedDevice device;
+        std::vector<MrkSupRequestItem> items;
+        for (const char* name : {"Consumable1", "Consumable7", "CONSUMABLE12", unknown, "Consumable6"})
+            items.push_back(ItemOf<MrkSupRequestItem>(name));
+        SetLastError(kUntouched);
+        EXPECT_EQ(MIB_MrkSupRequest(kAgent, 5, items.data()), FALSE);
+        EXPECT_EQ(GetLastError(), kUntouched);
+        const int32_t states[] = {0, 3, 3, 0};
+        for (size_t i = 0; i < 4; ++i) {
+            EXPECT_EQ(items[i].state, states[i]);
+            EXPECT_EQ(items[i].value, 0);
+            EXPECT_EQ(items[i].color, 0u);
+        }
+        EXPECT_EQ(items[4].state, static_cast<int32_t>(0xEEEEEEEE));
+        EXPECT_EQ(device.asked, Texts());
+        EXPECT_EQ(device.closes, 1u);
+    }
+}
+
+// A text that is no OID for the entry points makes no request and no match.
+TEST(PrinterQueries, TextsThatDoNotConvert) {
+    ScriptedDevice device;
+    device.textsConvert = false;
+    EXPECT_EQ(MIB_IsAccessOK(kAgent), FALSE);
+    ExpectOptions({"OpMemory", "OpHDD"}, {"", "DisOpHDD"});
+    EXPECT_EQ(device.asked, Texts());
+}
+
+// The device's memory running out at each allocation in turn: nothing is answered wrongly, nothing is left.
+TEST(PrinterQueries, WithoutTheDevicesMemory) {
+    bool done = false;
+    for (unsigned failing = 1; !done; ++failing) {
+        SCOPED_TRACE(failing);
+        ScriptedDevice device;
+        device.answers = {{kSysObjectId, Oid({1, 3, 6})}};
+        device.failingAllocation = failing;
+        done = kAccess(kAgent);
+        EXPECT_EQ(done, failing > 5) << "name, list, its name, list of the reply, its value";
+    }
+}
+
+} // namespace

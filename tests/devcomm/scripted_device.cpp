@@ -1,0 +1,213 @@
+// A device behind the SNMP entry points: see the header.
+#include "devcomm/scripted_device.h"
+
+#include <cstring>
+#include <gtest/gtest.h>
+#include <set>
+
+namespace {
+
+// What every call that succeeds leaves as last error: callers must not take it for theirs.
+constexpr DWORD kNoise = 4242;
+
+ScriptedDevice* device;
+std::set<void*> blocks; // live
+std::set<void*> openSessions;
+
+void* WINAPI MemAlloc(UINT octets) {
+    if (++device->allocations == device->failingAllocation) {
+        SetLastError(kMemoryError);
+        return nullptr;
+    }
+    void* block = malloc(octets);
+    memset(block, 0xCD, octets);
+    blocks.insert(block);
+    SetLastError(kNoise);
+    return block;
+}
+
+void WINAPI MemFree(void* block) {
+    SetLastError(kNoise);
+    ASSERT_EQ(blocks.erase(block), 1u) << "freed a block that is not of this memory";
+    free(block);
+}
+
+void FreeIfAny(void* block) {
+    if (block != nullptr)
+        MemFree(block);
+}
+
+void WINAPI OidFree(AsnObjectIdentifier* oid) {
+    EXPECT_TRUE(oid->ids != nullptr || oid->idLength == 0);
+    FreeIfAny(oid->ids);
+    *oid = {};
+    SetLastError(kNoise);
+}
+
+bool HasOctets(BYTE type) {
+    return strchr("\x04\x03\x30\x40\x44", type) != nullptr && type != 0;
+}
+
+void WINAPI VarBindFree(SnmpVarBind* varBind) {
+    OidFree(&varBind->name);
+    AsnAny& value = varBind->value;
+    if (HasOctets(value.asnType) && value.asnValue.string.dynamic)
+        FreeIfAny(value.asnValue.string.stream);
+    else if (value.asnType == ASN_OBJECTIDENTIFIER)
+        OidFree(&value.asnValue.object);
+    value.asnType = ASN_NULL;
+    SetLastError(kNoise);
+}
+
+void WINAPI VarBindListFree(SnmpVarBindList* list) {
+    for (UINT i = 0; i < list->len; ++i)
+        VarBindFree(&list->list[i]);
+    FreeIfAny(list->list);
+    *list = {};
+    SetLastError(kNoise);
+}
+
+SnmpSession WINAPI Open(const char* agent, const char* community, INT timeOut, INT retries) {
+    device->sessions.push_back(std::string(agent) + " " + community + " " + std::to_string(timeOut) + " "
+                               + std::to_string(retries));
+    if (device->openError != 0) {
+        SetLastError(device->openError);
+        return nullptr;
+    }
+    void* session = malloc(1);
+    openSessions.insert(session);
+    return session;
+}
+
+BOOL WINAPI Close(SnmpSession session) {
+    EXPECT_EQ(openSessions.erase(session), 1u) << "closed a session that is not open";
+    free(session);
+    ++device->closes;
+    SetLastError(kNoise);
+    return TRUE;
+}
+
+std::string TextOf(const AsnObjectIdentifier& oid) {
+    std::string text;
+    for (UINT i = 0; i < oid.idLength; ++i)
+        text += "." + std::to_string(oid.ids[i]);
+    return text;
+}
+
+template <typename Element>
+Element* CopyOf(const Element* elements, size_t count) {
+    auto* copy = static_cast<Element*>(MemAlloc(static_cast<UINT>(count * sizeof(Element))));
+    if (copy != nullptr && count > 0)
+        memcpy(copy, elements, count * sizeof(Element));
+    return copy;
+}
+
+// False, and nothing stored, without memory.
+bool Store(const Answer& answer, AsnAny& value) {
+    const size_t octets = answer.octets.size(), arcs = answer.arcs.size();
+    AsnAny stored;
+    memset(&stored, 0xCD, sizeof(stored));
+    stored.asnType = answer.type;
+    if (HasOctets(answer.type)) {
+        BYTE* copy = CopyOf(reinterpret_cast<const BYTE*>(answer.octets.data()), octets);
+        stored.asnValue.string = {copy, static_cast<UINT>(octets), TRUE};
+        if (copy == nullptr)
+            return false;
+    } else if (answer.type == ASN_OBJECTIDENTIFIER) {
+        stored.asnValue.object = {static_cast<UINT>(arcs), CopyOf(answer.arcs.data(), arcs)};
+        if (stored.asnValue.object.ids == nullptr)
+            return false;
+    } else {
+        stored.asnValue.number = answer.number;
+    }
+    value = stored;
+    return true;
+}
+
+INT WINAPI Request(SnmpSession session, BYTE requestType, SnmpVarBindList* list, AsnInteger32* errorStatus,
+                   AsnInteger32* errorIndex) {
+    EXPECT_EQ(openSessions.count(session), 1u);
+    EXPECT_EQ(requestType, 0xA0);
+    EXPECT_EQ(list->len, 1u);
+    EXPECT_EQ(list->list[0].value.asnType, 0x05);
+    EXPECT_EQ(blocks.count(list->list), 1u) << "the list is not of this memory";
+    EXPECT_EQ(blocks.count(list->list[0].name.ids), 1u) << "the name is not of this memory";
+    device->asked.push_back(TextOf(list->list[0].name));
+
+    const auto found = device->answers.find(device->asked.back());
+    const Answer answer = device->asked.size() == device->failingRequest ? Failing(kRequestError)
+                          : found != device->answers.end()               ? found->second
+                                                                         : Answer{ASN_NULL}.With(2, 1);
+    if (answer.failure != 0) {
+        SetLastError(answer.failure);
+        return 0;
+    }
+    if (device->asked.size() % 2 == 1) { // every other reply comes in another array
+        SnmpVarBind* other = CopyOf(list->list, 1);
+        if (other == nullptr)
+            return 0;
+        MemFree(list->list);
+        list->list = other;
+    }
+    if (!Store(answer, list->list[0].value))
+        return 0;
+    *errorStatus = answer.errorStatus;
+    *errorIndex = answer.errorIndex;
+    SetLastError(kNoise);
+    return 1;
+}
+
+BOOL WINAPI StrToOid(const char* text, AsnObjectIdentifier* oid) {
+    SetLastError(kNoise);
+    if (!device->textsConvert)
+        return FALSE;
+    std::vector<UINT> arcs;
+    for (const char* at = text; *at == '.';) {
+        char* end = nullptr;
+        arcs.push_back(static_cast<UINT>(strtoul(at + 1, &end, 10)));
+        at = end;
+    }
+    UINT* ids = CopyOf(arcs.data(), arcs.size());
+    if (ids == nullptr)
+        return FALSE;
+    *oid = {static_cast<UINT>(arcs.size()), ids};
+    return TRUE;
+}
+
+} // namespace
+
+Answer Answer::With(AsnInteger32 status, AsnInteger32 index) const {
+    Answer changed = *this;
+    changed.errorStatus = status;
+    changed.errorIndex = index;
+    return changed;
+}
+
+Answer Number(int32_t number, BYTE type) {
+    return {type, number};
+}
+
+Answer Text(const std::string& octets, BYTE type) {
+    return {type, 0, octets};
+}
+
+Answer Oid(const std::vector<UINT>& arcs) {
+    return {ASN_OBJECTIDENTIFIER, 0, {}, arcs};
+}
+
+Answer Failing(DWORD lastError) {
+    return {ASN_NULL, 0, {}, {}, 0, 0, lastError};
+}
+
+ScriptedDevice::ScriptedDevice() {
+    device = this;
+    snmpEntryPoints = {MemAlloc, MemFree, OidFree,  VarBindFree, VarBindListFree, Open,
+                       Close,    Request, StrToOid, nullptr,     nullptr,         1};
+}
+
+ScriptedDevice::~ScriptedDevice() {
+    EXPECT_EQ(blocks.size(), 0u) << "memory of the entry points is left";
+    EXPECT_EQ(openSessions.size(), 0u) << "a session is left open";
+    snmpEntryPoints = {};
+    device = nullptr;
+}

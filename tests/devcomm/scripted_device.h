@@ -1,0 +1,54 @@
+// A device behind the nine SNMP entry points, without a network: answers by object as a test scripts them, in
+// memory of its own that is counted, never zero to begin with, and freed only by its own functions. It
+// records what it was asked and checks that every request is one GetRequest of one varbind without a value.
+#ifndef DEVCOMM_SCRIPTED_DEVICE_H
+#define DEVCOMM_SCRIPTED_DEVICE_H
+
+#include "devcomm/snmp_entry_points.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+// A reply, or none: the request then fails with this last error.
+struct Answer {
+    BYTE type = ASN_NULL;
+    int32_t number = 0;
+    std::string octets = {};
+    std::vector<UINT> arcs = {};
+    AsnInteger32 errorStatus = 0;
+    AsnInteger32 errorIndex = 0;
+    DWORD failure = 0;
+
+    Answer With(AsnInteger32 status, AsnInteger32 index) const;
+};
+Answer Number(int32_t number, BYTE type = ASN_INTEGER);
+Answer Text(const std::string& octets, BYTE type = ASN_OCTETSTRING);
+Answer Oid(const std::vector<UINT>& arcs);
+Answer Failing(DWORD lastError);
+
+// Fills the entry points for the time of a scope; at its end nothing may be left open or allocated.
+struct ScriptedDevice {
+    ScriptedDevice();
+    ~ScriptedDevice();
+    ScriptedDevice(const ScriptedDevice&) = delete;
+    ScriptedDevice& operator=(const ScriptedDevice&) = delete;
+
+    // The script. An object without an answer is answered with noSuchName.
+    std::map<std::string, Answer> answers;
+    DWORD openError = 0;          // not 0: no session opens
+    bool textsConvert = true;     // to OIDs
+    size_t failingAllocation = 0; // the one of this number fails (1: the first); 0: none
+    size_t failingRequest = 0;    // likewise; with kRequestError
+
+    // What happened so far.
+    std::vector<std::string> sessions; // opens: "agent community time-out retries"
+    unsigned closes = 0;
+    std::vector<std::string> asked; // OID texts in order
+    size_t allocations = 0;
+};
+
+constexpr DWORD kRequestError = 1460;
+constexpr DWORD kMemoryError = 14; // of the device's own memory
+
+#endif
