@@ -96,8 +96,10 @@ void RoundTrip(benchmark::State& state) {
     Question question;
     for ([[maybe_unused]] auto _ : state) {
         question.varBind.value.asnType = ASN_NULL;
-        if (ClientRequest(session, SNMP_PDU_GET, &question.list, nullptr, nullptr) == 0)
+        if (ClientRequest(session, SNMP_PDU_GET, &question.list, nullptr, nullptr) == 0) {
             state.SkipWithError("no answer");
+            break;
+        }
     }
     ClientClose(session);
     state.SetItemsProcessed(state.iterations());

@@ -22,10 +22,8 @@ Message Reply(const ObjectMap& objects, const Message& request) {
         const Oid& name = request.varBinds[i].name;
         const auto object =
             request.type == PduType::kGetNext ? objects.upper_bound(name) : objects.find(name);
-        if (object == objects.end())
+        if (object == objects.end() || request.type == PduType::kSet) // no object is there to be set
             return ErrorReply(request, kNoSuchName, static_cast<long>(i + 1));
-        if (request.type == PduType::kSet)
-            return ErrorReply(request, kReadOnly, static_cast<long>(i + 1));
         reply.varBinds[i] = {object->first, object->second};
     }
     return reply;

@@ -236,7 +236,8 @@ struct Device {
 Tray UsualTray(const TrayKind& kind);
 Supply UsualSupply(const SupplyKind& kind);
 
-// Trays 1 and 2 and the manual feed, full; toners, drum, transfer belt, fuser and waste box, half used.
+// Trays 1 and 2 and the manual feed; toners, drum, transfer belt, fuser and waste box; all of them as good as
+// new.
 Device PlainDevice();
 
 #endif

@@ -93,7 +93,7 @@ const Word& WordOf(const Row& row) {
 
 // The row of a table whose word is the value, letters' case ignored.
 template <typename Row, size_t kCount>
-void ReadChoice(const FieldValue& value, const Row (&rows)[kCount], const Row*& to) {
+void ReadChoice(const FieldValue& value, const Row (&rows)[kCount], const Row*& to, const char* orElse = "") {
     std::string text;
     if (!ReadScalar(value.name, value.node, text, value.findings))
         return;
@@ -105,13 +105,13 @@ void ReadChoice(const FieldValue& value, const Row (&rows)[kCount], const Row*& 
             return;
         }
     }
-    value.Refuse(Quote(value.name) + " takes " + Join(words, " or ") + ", not " + Quote(text));
+    value.Refuse(Quote(value.name) + " takes " + Join(words, " or ") + orElse + ", not " + Quote(text));
 }
 
 template <size_t kCount>
-void ReadWord(const FieldValue& value, const Word (&words)[kCount], int& to) {
+void ReadWord(const FieldValue& value, const Word (&words)[kCount], int& to, const char* orElse = "") {
     const Word* word = nullptr;
-    ReadChoice(value, words, word);
+    ReadChoice(value, words, word, orElse);
     to = word ? word->code : to;
 }
 
@@ -122,7 +122,7 @@ void ReadWordOrNumber(const FieldValue& value, const Word (&words)[kCount], int&
     if (!text.empty() && text.find_first_not_of("-0123456789") == std::string::npos)
         ReadInt(value, INT_MIN, to);
     else
-        ReadWord(value, words, to);
+        ReadWord(value, words, to, " or a number");
 }
 
 // A choice that brings usual values for all that follows.

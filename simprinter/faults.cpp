@@ -131,8 +131,8 @@ constexpr FaultKind kFaultKinds[] = {
 };
 // clang-format on
 
-// The community's length says 127 more octets than there are: the element behind the header and the version,
-// which takes three.
+// The community's length says 127 octets, of which at most 126 are there. It stands behind the header, the
+// version, which takes three octets, and its own tag.
 void LeadBeyondEnd(Octets& octets) {
     const size_t header = octets[1] < 0x80 ? 2 : 2 + (octets[1] & 0x7Fu);
     octets[header + 4] = 0x7F;

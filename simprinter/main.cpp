@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <chrono>
 #include <CLI/CLI.hpp>
+#include <climits>
 #include <exception>
 #include <iostream>
 
@@ -33,7 +34,9 @@ bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     CLI::App app{"A simulated printer on the network: answers SNMPv1 requests as a device would.",
                  "simprinter"};
     app.add_option("--address", line.server.address, "IPv4 address to listen on")->capture_default_str();
-    app.add_option("--port", line.server.port, "UDP port; 0 takes a free one")->capture_default_str();
+    app.add_option("--port", line.server.port, "UDP port; 0 takes a free one")
+        ->check(CLI::Range(0, 65535))
+        ->capture_default_str();
     CLI::Option* device =
         app.add_option("--device", line.deviceFile, "what the printer has; without it a plain one")
             ->type_name("FILE.yaml");
@@ -47,7 +50,9 @@ bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
         ->capture_default_str();
     app.add_option("--fault", line.faults, "NAME[=VALUE][@OID], any number of times; see below")
         ->allow_extra_args(false);
-    app.add_option("--seed", line.seed, "which answers get lost")->capture_default_str();
+    app.add_option("--seed", line.seed, "which answers get lost")
+        ->check(CLI::Range(0, INT_MAX))
+        ->capture_default_str();
     app.add_flag("--log", line.server.logs, "one line per request and answer on the standard error output");
     app.footer("Faults (with @OID only for requests of objects below it):\n" + FaultHelp());
     try {

@@ -34,14 +34,23 @@ bool ReadOid(const oid* arcs, size_t count, Oid& to) {
     return std::equal(to.begin(), to.end(), arcs); // an arc of more than 32 bits is lost
 }
 
-// A value that this agent has no use for reads as NULL: requests hold nothing else, but for SetRequest.
+// The value of a SetRequest, which goes back as it came; other requests hold NULL. A type that is no SNMPv1
+// value reads as NULL too.
 Value ReadValue(const netsnmp_variable_list& from) {
-    Value value;
-    switch (from.type) {
-    case ASN_INTEGER:
-        return NumberValue(*from.val.integer);
-    case ASN_OCTET_STR:
-        return TextValue({reinterpret_cast<const char*>(from.val.string), from.val_len});
+    const auto tag = static_cast<Tag>(from.type);
+    switch (tag) {
+    case kInteger:
+    case kCounter:
+    case kGauge:
+    case kTimeTicks:
+    case kUnsigned:
+        return NumberValue(*from.val.integer, tag);
+    case kOctetString:
+    case kIpAddress:
+    case kOpaque:
+        return TextValue({reinterpret_cast<const char*>(from.val.string), from.val_len}, tag);
+    case kObjectId:
+        return OidValue(Oid(from.val.objid, from.val.objid + from.val_len / sizeof(oid)));
     default:
         return {};
     }

@@ -14,7 +14,6 @@ enum ErrorStatus : long {
     kTooBig = 1,
     kNoSuchName = 2,
     kBadValue = 3,
-    kReadOnly = 4,
     kGenErr = 5,
 };
 

@@ -18,6 +18,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+constexpr uint32_t kOtherLoopback = 0x7FFFFFFE; // 127.255.255.254, where no printer is likely to be simulated
 constexpr size_t kMostWaiting = 10000; // delayed datagrams; further ones are lost, as in a real queue
 
 volatile std::sig_atomic_t stopRequested = 0;
@@ -101,8 +102,7 @@ struct Sockets {
             return otherPort ? *otherPort : otherPort.emplace(where);
         }
         if (source == Source::kOtherAddress) {
-            where.sin_addr.s_addr =
-                htonl(ntohl(where.sin_addr.s_addr) == 0x7F000002 ? 0x7F000003 : 0x7F000002);
+            where.sin_addr.s_addr = htonl(kOtherLoopback);
             return otherAddress ? *otherAddress : otherAddress.emplace(where);
         }
         return main;
@@ -115,12 +115,19 @@ struct Waiting {
 };
 using WaitingQueue = std::multimap<Clock::time_point, Waiting>;
 
-// A datagram that can't be sent is lost, as on a network.
-void SendDue(Sockets& sockets, WaitingQueue& queue) {
-    while (!queue.empty() && queue.begin()->first <= Clock::now()) {
-        const Waiting& next = queue.begin()->second;
+// A datagram that can't be sent is lost, as on a network; why its socket can't be had is told.
+void Send(Sockets& sockets, const Waiting& next) {
+    try {
         sendto(sockets.For(next.datagram.source).descriptor, next.datagram.octets.data(),
                next.datagram.octets.size(), 0, reinterpret_cast<const sockaddr*>(&next.to), sizeof next.to);
+    } catch (const std::runtime_error& fault) {
+        std::cerr << "simprinter: an answer from another source is lost: " << fault.what() << std::endl;
+    }
+}
+
+void SendDue(Sockets& sockets, WaitingQueue& queue) {
+    while (!queue.empty() && queue.begin()->first <= Clock::now()) {
+        Send(sockets, queue.begin()->second);
         queue.erase(queue.begin());
     }
 }

@@ -192,6 +192,11 @@ void ReadWalk(const std::vector<std::string_view>& lines, Recording& recording) 
         };
         while (i < lines.size() && goesOn())
             text.append("\n").append(lines[i++]);
-        ReadObject(place, line.substr(0, equals), text, recording);
+        if (isQuoted && IsOpen(text))
+            recording.findings.Error(
+                place, "the quote that opens here is never closed: everything behind it was taken "
+                       "for this text");
+        else
+            ReadObject(place, line.substr(0, equals), text, recording);
     }
 }

@@ -28,6 +28,8 @@ constexpr Field kEntryFields[] = {
 // An export of the module, looked up by its own name.
 #define EXPORT(family, name) ModuleExport<decltype(&(name))>(family, #name)
 
+constexpr int32_t kStateWithColor = 1; // of a supply: the others have none
+
 // Last errors that requests leave and that mean something else to the system.
 constexpr struct {
     DWORD error;
@@ -94,7 +96,7 @@ Document Supplies(const FamilyFiles& family, const std::string& agent) {
         char color[8];
         snprintf(color, sizeof(color), "#%02x%02x%02x", GetRValue(items[i].color), GetGValue(items[i].color),
                  GetBValue(items[i].color));
-        rows[i]["color"] = items[i].state == 1 ? Document(color) : Document();
+        rows[i]["color"] = items[i].state == kStateWithColor ? Document(color) : Document();
     }
     return rows;
 }
@@ -129,10 +131,8 @@ Document Profiles(const FamilyFiles& family, const std::string& agent) {
 Document Query(const FamilyFiles& family, const std::string& agent) {
     CheckReached(family, agent);
     return {
-        {"printer", {{"address", agent}, {"reached", true}}},
-        {"options", Options(family, agent)},
-        {"supplies", Supplies(family, agent)},
-        {"overlays", Overlays(family, agent)},
+        {"printer", {{"address", agent}}},     {"options", Options(family, agent)},
+        {"supplies", Supplies(family, agent)}, {"overlays", Overlays(family, agent)},
         {"profiles", Profiles(family, agent)},
     };
 }

@@ -225,7 +225,7 @@ TEST(PrinterQueries, LongObjectNames) {
         start += ".1";
     for (const char* suffix : {"", ".2345", ".23456", ".23456789.1"}) {
         ScriptedDevice device;
-        const AgentSession session(kAgent, kQueryPatience);
+        const AgentSession session(kAgent, kQueryLimits);
         EXPECT_EQ(MatchObject(session.handle, start.c_str(), suffix, 0, ""), Match::kNo);
         EXPECT_EQ(device.asked, Texts{(start + suffix).substr(0, 255)});
         EXPECT_EQ(device.asked[0].size(), *suffix != 0 ? 255u : 250u);

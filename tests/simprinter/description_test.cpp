@@ -105,16 +105,18 @@ TEST(Description, FaultsAndTheirPlaces) {
         {"trays:\n  - {tray: TRAY1}\n  - {tray: tray1}", "3:5: 'TRAY1' is described twice: remove one\n"},
         {"trays: [{tray: TRAY1, orientation: upright}]",
          "1:36: 'orientation' takes portrait or landscape, not 'upright'\n"},
-        {"trays: [{tray: TRAY1, level: much}]", "1:30: 'level' takes unknown or some, not 'much'\n"},
+        {"trays: [{tray: TRAY1, level: much}]",
+         "1:30: 'level' takes unknown or some or a number, not 'much'\n"},
         {"trays: [{tray: TRAY1, capacity: -5}]",
          "1:33: 'capacity' takes a number from 0 to 2147483647, not -5\n"},
         {"supplies: [{supply: ink}]",
          "1:21: 'supply' takes cyan, magenta, yellow, black, drum, transfer, fuser, waste "
          "or staples, not 'ink'\n"},
         {"overlays: [{title: t}]", "1:12: 'name' is missing: tell it of an overlay\n"},
-        {"overlays: [{name: n, storage: tape}]", "1:31: 'storage' takes memory, HDD or flash, not 'tape'\n"},
+        {"overlays: [{name: n, storage: tape}]",
+         "1:31: 'storage' takes memory, HDD or flash or a number, not 'tape'\n"},
         {"profiles: [{name: n, storage: tape}]",
-         "1:31: 'storage' takes ROM, own-disk, memory, HDD or flash, not 'tape'\n"},
+         "1:31: 'storage' takes ROM, own-disk, memory, HDD or flash or a number, not 'tape'\n"},
         {"profiles: [{name: n, class: source}]", "1:29: 'class' takes a number, not 'source'\n"},
     };
     for (const auto& one : cases) {

@@ -138,7 +138,7 @@ TEST(Recording, FaultsAndTheirLines) {
         {goodWalk + ".1.3.2.0 = Integer: 5\n",
          "2: no known type stands behind the equals sign: 'Integer: 5'"},
         {goodWalk + ".1.3.2.0 = STRING: \"open\n.1.3.3.0 = INTEGER: 5\n",
-         "2: this is no value of its type: 'STRING: "},
+         "2: the quote that opens here is never closed"},
         {goodWalk + ".1.3.2.0 = Timeticks: (5\n", ""}, // all that is needed is there
         {goodWalk + ".1.3.2.0 = Opaque: Float: one\n",
          "2: this is no value of its type: 'Opaque: Float: one'"},

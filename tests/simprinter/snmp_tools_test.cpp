@@ -164,7 +164,7 @@ TEST_F(SnmpTools, ErrorsOfSnmpVersion1) {
         const char* objects;
         const char* error;
     } cases[] = {
-        {"snmpset", ".1.3.6.1.2.1.1.5.0 s other", "(readOnly)"},
+        {"snmpset", ".1.3.6.1.2.1.1.5.0 s other", "(noSuchName)"},
         {"snmpset", ".1.3.6.1.2.1.1.99.0 s other", "(noSuchName)"},
         // The second of three is not there: without it the others are answered.
         {"snmpget", ".1.3.6.1.2.1.1.5.0 .1.3.6.1.2.1.1.99.0 .1.3.6.1.2.1.1.7.0",

@@ -18,18 +18,21 @@ enum class Outcome {
     kAnswered,
 };
 
-// A request of one object and its reply. Owns the varbind list; all its memory is that of the entry points,
+// The reply to a request of one object. Owns the varbind list; all its memory is that of the entry points,
 // which need not zero it.
-struct ObjectRequest {
-    ObjectRequest(SnmpSession session, const char* oid, const char* suffix);
-    ~ObjectRequest();
-    ObjectRequest(const ObjectRequest&) = delete;
-    ObjectRequest& operator=(const ObjectRequest&) = delete;
+struct ObjectReply {
+    ObjectReply() = default;
+    ~ObjectReply() {
+        const KeepLastError keep;
+        if (list.list != nullptr)
+            snmpEntryPoints.snmpUtilVarBindListFree(&list);
+    }
+    ObjectReply(const ObjectReply&) = delete;
+    ObjectReply& operator=(const ObjectReply&) = delete;
 
     SnmpVarBindList list = {};
     AsnInteger32 errorStatus = 0;
     AsnInteger32 errorIndex = 0;
-    Outcome outcome;
 };
 
 // Arcs of the table's OID with the suffix behind; the text is cut to its field.
@@ -58,26 +61,21 @@ bool MakeList(const AsnObjectIdentifier& name, SnmpVarBindList& list) {
     return true;
 }
 
-ObjectRequest::ObjectRequest(SnmpSession session, const char* oid, const char* suffix) {
+Outcome Ask(SnmpSession session, const char* oid, const char* suffix, ObjectReply& reply) {
     AsnObjectIdentifier name = {};
-    outcome = Outcome::kNotAsked;
     if (!ToOid(oid, suffix, name))
-        return;
-    const bool made = MakeList(name, list);
+        return Outcome::kNotAsked;
+    const bool made = MakeList(name, reply.list);
     {
         const KeepLastError keep;
         snmpEntryPoints.snmpUtilOidFree(&name);
     }
-    outcome =
-        made && snmpEntryPoints.snmpMgrRequest(session, SNMP_PDU_GET, &list, &errorStatus, &errorIndex) != 0
-            ? Outcome::kAnswered
-            : Outcome::kFailed;
-}
-
-ObjectRequest::~ObjectRequest() {
-    const KeepLastError keep;
-    if (list.list != nullptr)
-        snmpEntryPoints.snmpUtilVarBindListFree(&list);
+    if (!made
+        || snmpEntryPoints.snmpMgrRequest(session, SNMP_PDU_GET, &reply.list, &reply.errorStatus,
+                                          &reply.errorIndex)
+               == 0)
+        return Outcome::kFailed;
+    return Outcome::kAnswered;
 }
 
 template <size_t N>
@@ -89,10 +87,10 @@ bool IsOneOf(const uint8_t (&types)[N], uint8_t type) {
 }
 
 // The object's value; null when the reply tells an error or has none. The list may have another array by now.
-const AsnAny* ValueOf(const ObjectRequest& request) {
-    const bool isThere = request.outcome == Outcome::kAnswered && request.errorStatus == 0
-                         && request.errorIndex == 0 && request.list.list != nullptr && request.list.len > 0;
-    return isThere ? &request.list.list[0].value : nullptr;
+const AsnAny* ValueOf(const ObjectReply& reply) {
+    const bool isThere =
+        reply.errorStatus == 0 && reply.errorIndex == 0 && reply.list.list != nullptr && reply.list.len > 0;
+    return isThere ? &reply.list.list[0].value : nullptr;
 }
 
 bool NumberOf(const AsnAny* value, int32_t& number) {
@@ -146,13 +144,13 @@ bool IsSameOid(const AsnObjectIdentifier& oid, const char* text) {
     return *text == 0;
 }
 
-bool Matches(const ObjectRequest& request, int32_t comparison, const char* expected) {
-    const AsnAny* value = ValueOf(request);
+bool Matches(const ObjectReply& reply, int32_t comparison, const char* expected) {
+    const AsnAny* value = ValueOf(reply);
     int32_t number = 0;
     char text[256];
     switch (comparison) {
     case kCompareExists:
-        return request.errorStatus == 0;
+        return reply.errorStatus == 0;
     case kCompareNumber:
         return NumberOf(value, number) && number == ParseNumber(expected);
     case kCompareText:
@@ -167,8 +165,17 @@ bool Matches(const ObjectRequest& request, int32_t comparison, const char* expec
 
 } // namespace
 
-AgentSession::AgentSession(const char* agent, Patience patience)
-    : handle(snmpEntryPoints.snmpMgrOpen(agent, kCommunity, patience.timeOut, patience.retries)) {}
+bool CanQuery(bool argumentsAreGiven) {
+    return SnmpApiIsBound() && (argumentsAreGiven || RefuseArgument());
+}
+
+bool RefuseArgument() {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return false;
+}
+
+AgentSession::AgentSession(const char* agent, SessionLimits limits)
+    : handle(snmpEntryPoints.snmpMgrOpen(agent, kCommunity, limits.timeOut, limits.retries)) {}
 
 AgentSession::~AgentSession() {
     const KeepLastError keep;
@@ -177,28 +184,33 @@ AgentSession::~AgentSession() {
 }
 
 bool AskForObject(SnmpSession session, const char* oid) {
-    return ObjectRequest(session, oid, "").outcome == Outcome::kAnswered;
+    ObjectReply reply;
+    return Ask(session, oid, "", reply) == Outcome::kAnswered;
 }
 
 Match MatchObject(SnmpSession session, const char* oid, const char* suffix, int32_t comparison,
                   const char* expected) {
-    const ObjectRequest request(session, oid, suffix);
-    if (request.outcome == Outcome::kFailed)
+    ObjectReply reply;
+    const Outcome outcome = Ask(session, oid, suffix, reply);
+    if (outcome == Outcome::kFailed)
         return Match::kFailed;
-    return request.outcome == Outcome::kAnswered && Matches(request, comparison, expected) ? Match::kYes
-                                                                                           : Match::kNo;
+    return outcome == Outcome::kAnswered && Matches(reply, comparison, expected) ? Match::kYes : Match::kNo;
 }
 
 bool ReadNumber(SnmpSession session, const char* oid, const char* suffix, ObjectNumber& number) {
-    const ObjectRequest request(session, oid, suffix);
-    number.value = -1;
-    number.isPresent = NumberOf(ValueOf(request), number.value);
-    return request.outcome == Outcome::kAnswered;
+    number = {false, -1};
+    ObjectReply reply;
+    if (Ask(session, oid, suffix, reply) != Outcome::kAnswered)
+        return false;
+    number.isPresent = NumberOf(ValueOf(reply), number.value);
+    return true;
 }
 
 bool ReadText(SnmpSession session, const char* oid, const char* suffix, ObjectText& text) {
-    const ObjectRequest request(session, oid, suffix);
-    if (!TextOf(ValueOf(request), text))
-        text[0] = 0;
-    return request.outcome == Outcome::kAnswered;
+    text[0] = 0;
+    ObjectReply reply;
+    if (Ask(session, oid, suffix, reply) != Outcome::kAnswered)
+        return false;
+    TextOf(ValueOf(reply), text);
+    return true;
 }

@@ -1,23 +1,31 @@
 // Reading one object of a printer through the SNMP entry points: a session, a request of one varbind, and
-// what the reply says. Every query is made of these; callers have made sure that the entry points are bound.
+// what the reply says. Every query is made of these; callers have asked
+// CanQuery before.
 #ifndef DEVCOMM_OBJECT_READER_H
 #define DEVCOMM_OBJECT_READER_H
 
 #include "devcomm/query_tables.h"
 #include "devcomm/snmp_entry_points.h"
 
+// Whether a query may ask at all: the entry points are bound, and its arguments are there. Without the latter
+// the last error is 87; without the former it stays as it was.
+bool CanQuery(bool argumentsAreGiven);
+
+// False, with last error 87.
+bool RefuseArgument();
+
 // How long the system's libraries wait for an agent.
-struct Patience {
+struct SessionLimits {
     INT timeOut; // ms
     INT retries;
 };
-constexpr Patience kReachPatience = {1000, 1};
-constexpr Patience kQueryPatience = {2000, 3};
+constexpr SessionLimits kReachLimits = {1000, 1};
+constexpr SessionLimits kQueryLimits = {2000, 3};
 
 // A session with an agent for the time of a scope. The last error of what happened in between stays when it
 // closes.
 struct AgentSession {
-    AgentSession(const char* agent, Patience patience);
+    AgentSession(const char* agent, SessionLimits limits);
     ~AgentSession();
     AgentSession(const AgentSession&) = delete;
     AgentSession& operator=(const AgentSession&) = delete;
@@ -41,7 +49,7 @@ struct ObjectNumber {
     int32_t value;
 };
 
-// False when the request failed.
+// False, and absent, when the request failed.
 bool ReadNumber(SnmpSession session, const char* oid, const char* suffix, ObjectNumber& number);
 
 // What an object holds as a text, up to its first NUL and cut to fit; empty when it is not there or of

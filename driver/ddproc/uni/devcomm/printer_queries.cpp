@@ -18,11 +18,6 @@ constexpr int32_t kStatePercentage = 1;
 constexpr int32_t kStateLevel = 2;
 constexpr int32_t kStateFixed = 3;
 
-BOOL Refuse() {
-    SetLastError(ERROR_INVALID_PARAMETER);
-    return FALSE;
-}
-
 const OptionRecord* FindOption(const QueryKey& key) {
     for (int32_t i = 0; i < kOptionReqInfo.count; ++i)
         if (SameText(kOptionReqInfo.options[i].key, key))
@@ -131,22 +126,18 @@ const ProfileReqInfo* WINAPI MIB_CMProfReqInfo() {
 }
 
 BOOL WINAPI MIB_IsAccessOK(const char* agent) {
-    if (!SnmpApiIsBound())
+    if (!CanQuery(agent != nullptr && agent[0] != 0))
         return FALSE;
-    if (agent == nullptr || agent[0] == 0)
-        return Refuse();
-    const AgentSession session(agent, kReachPatience);
+    const AgentSession session(agent, kReachLimits);
     return session.handle != nullptr && AskForObject(session.handle, kSysObjectId);
 }
 
 BOOL CheckModel(const ModelCheckInfo& check, const char* agent) {
-    if (!SnmpApiIsBound())
+    if (!CanQuery(agent != nullptr))
         return FALSE;
-    if (agent == nullptr)
-        return Refuse();
     if (check.enabled == 0)
         return TRUE;
-    const AgentSession session(agent, kQueryPatience);
+    const AgentSession session(agent, kQueryLimits);
     return session.handle != nullptr
            && MatchObject(session.handle, check.oid, "", check.comparison, check.expected) == Match::kYes;
 }
@@ -156,11 +147,9 @@ BOOL WINAPI MIB_IsModelOK(const char* agent) {
 }
 
 BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, OptionRequestItem* items) {
-    if (!SnmpApiIsBound())
+    if (!CanQuery(agent != nullptr && items != nullptr))
         return FALSE;
-    if (agent == nullptr || items == nullptr)
-        return Refuse();
-    const AgentSession session(agent, kQueryPatience);
+    const AgentSession session(agent, kQueryLimits);
     if (session.handle == nullptr)
         return FALSE;
     const KeepLastError keep; // whatever single items give
@@ -175,11 +164,9 @@ BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, OptionRequestItem*
 }
 
 BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem* items) {
-    if (!SnmpApiIsBound())
+    if (!CanQuery(agent != nullptr && items != nullptr))
         return FALSE;
-    if (agent == nullptr || items == nullptr)
-        return Refuse();
-    const AgentSession session(agent, kQueryPatience);
+    const AgentSession session(agent, kQueryLimits);
     if (session.handle == nullptr)
         return FALSE;
     const KeepLastError keep; // whatever single items give

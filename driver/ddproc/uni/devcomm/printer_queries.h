@@ -31,8 +31,8 @@ BOOL WINAPI MIB_IsModelOK(const char* agent);
 BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, OptionRequestItem* items);
 
 // Answers each item by the supply's state, value and colour; all 0 when they are not to be had. FALSE when
-// the session can't be opened, and at the first name that is not in the list: the items behind it are
-// untouched. The last error as for options.
+// the session can't be opened, and at the first name that is not in the list: that item is cleared, those
+// behind it are untouched. The last error as for options.
 BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem* items);
 
 // The overlays (storage 0 or 1) or the colour profiles that the printer stores, in one block that the caller

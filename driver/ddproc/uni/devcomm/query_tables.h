@@ -65,7 +65,7 @@ struct MrkSupItem {
     QueryKey name;
     int32_t kind;
     int32_t callerFlag; // not read here
-    int32_t levelFlag;  // of kSupplyLevel: levels 0 and 1 mean full and nearly full
+    int32_t levelFlag;  // of kSupplyLevel: changes the values of levels 0 and 1
     QueryKey suffix;
     uint32_t color; // 0x00BBGGRR
 };

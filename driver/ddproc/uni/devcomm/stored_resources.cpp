@@ -169,23 +169,18 @@ StoredResourceList* BuildBlock(const FoundEntries& found, uint32_t listCount) {
     return lists;
 }
 
-void* Refuse() {
-    SetLastError(ERROR_INVALID_PARAMETER);
-    return nullptr;
-}
-
 } // namespace
 
 OverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage) {
-    if (!SnmpApiIsBound())
+    if (!CanQuery(agent != nullptr))
         return nullptr;
-    if (agent == nullptr)
-        return static_cast<OverlayInfo*>(Refuse());
-    const AgentSession session(agent, kQueryPatience);
+    const AgentSession session(agent, kQueryLimits);
     if (session.handle == nullptr)
         return nullptr;
-    if (storage != 0 && storage != 1)
-        return static_cast<OverlayInfo*>(Refuse());
+    if (storage != 0 && storage != 1) {
+        RefuseArgument();
+        return nullptr;
+    }
     const SelectorRecord& selector = kOverlayReqInfo.selectors[storage];
     FoundEntries found;
     const bool done = Walk(found, [&](const char* suffix, FoundEntry& entry) {
@@ -195,11 +190,9 @@ OverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage) {
 }
 
 ProfileInfo* WINAPI MIB_ProfileRequest(const char* agent) {
-    if (!SnmpApiIsBound())
+    if (!CanQuery(agent != nullptr))
         return nullptr;
-    if (agent == nullptr)
-        return static_cast<ProfileInfo*>(Refuse());
-    const AgentSession session(agent, kQueryPatience);
+    const AgentSession session(agent, kQueryLimits);
     if (session.handle == nullptr)
         return nullptr;
     FoundEntries found;
