@@ -44,8 +44,10 @@
 #define INVALID_SET_FILE_POINTER 0xFFFFFFFFu
 
 #define GMEM_FIXED    0x0000u
+#define GMEM_MOVEABLE 0x0002u
 #define GMEM_ZEROINIT 0x0040u
 #define GPTR          (GMEM_FIXED | GMEM_ZEROINIT)
+#define GHND          (GMEM_MOVEABLE | GMEM_ZEROINIT)
 #define LMEM_FIXED    0x0000u
 #define LMEM_ZEROINIT 0x0040u
 #define LPTR          (LMEM_FIXED | LMEM_ZEROINIT)
@@ -116,9 +118,13 @@ DWORD WINAPI SetFilePointer(HANDLE file, LONG distance, LONG* distanceHigh, DWOR
 DWORD WINAPI GetFileSize(HANDLE file, DWORD* sizeHigh);
 BOOL WINAPI CloseHandle(HANDLE file);
 
-// Fixed blocks only. Those that are not asked for zero-filled come filled with a pattern.
+// Blocks that are not asked for zero-filled come filled with a pattern. The handle of a movable block is not its address;
+// freeing one that is still locked counts as a block left behind.
 HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
 HGLOBAL WINAPI GlobalFree(HGLOBAL block);
+LPVOID WINAPI GlobalLock(HGLOBAL handle);
+BOOL WINAPI GlobalUnlock(HGLOBAL handle);
+HGLOBAL WINAPI GlobalHandle(const void* block);
 HLOCAL WINAPI LocalAlloc(UINT flags, SIZE_T size);
 HLOCAL WINAPI LocalFree(HLOCAL block);
 }

@@ -3,8 +3,11 @@
 #include "platform_control.h"
 #include "services.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <list>
+#include <memory>
 
 namespace {
 
@@ -47,14 +50,58 @@ void* Release(void* block, int& liveBlocks) {
     return nullptr;
 }
 
+// What the handle of a movable block points to.
+struct MovableBlock {
+    void* block;
+    int locks;
+};
+std::list<MovableBlock*> movableBlocks;
+
+template <typename Test>
+MovableBlock* FindMovable(const Test& test) {
+    const auto found = std::find_if(movableBlocks.begin(), movableBlocks.end(), test);
+    return found != movableBlocks.end() ? *found : nullptr;
+}
+
 } // namespace
 
 HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
-    return Allocate(flags, size, counts.globalBlocks);
+    void* block = Allocate(flags, size, counts.globalBlocks);
+    if (block == nullptr || (flags & GMEM_MOVEABLE) == 0)
+        return block;
+    auto* handle = new MovableBlock{block, 0};
+    movableBlocks.push_back(handle);
+    return handle;
 }
 
-HGLOBAL WINAPI GlobalFree(HGLOBAL block) {
-    return Release(block, counts.globalBlocks);
+HGLOBAL WINAPI GlobalFree(HGLOBAL handle) {
+    MovableBlock* movable = FindMovable([handle](const MovableBlock* each) { return each == handle; });
+    if (movable == nullptr)
+        return Release(handle, counts.globalBlocks);
+    if (movable->locks != 0)
+        return handle;
+    movableBlocks.remove(movable);
+    const std::unique_ptr<MovableBlock> owner(movable);
+    return Release(movable->block, counts.globalBlocks);
+}
+
+LPVOID WINAPI GlobalLock(HGLOBAL handle) {
+    MovableBlock* movable = FindMovable([handle](const MovableBlock* each) { return each == handle; });
+    if (movable == nullptr)
+        return handle; // a fixed block needs no lock
+    ++movable->locks;
+    return movable->block;
+}
+
+BOOL WINAPI GlobalUnlock(HGLOBAL handle) {
+    MovableBlock* movable = FindMovable([handle](const MovableBlock* each) { return each == handle; });
+    if (movable != nullptr && movable->locks > 0)
+        --movable->locks;
+    return movable != nullptr && movable->locks > 0 ? TRUE : FALSE;
+}
+
+HGLOBAL WINAPI GlobalHandle(const void* block) {
+    return FindMovable([block](const MovableBlock* each) { return each->block == block; });
 }
 
 HLOCAL WINAPI LocalAlloc(UINT flags, SIZE_T size) {

@@ -27,12 +27,8 @@ BOOL WINAPI DDProc_DeviceCapabilities(const DeviceTable* device, const FeatureRe
     }
 
 NO_ANSWER(DrawPrinterView)
-NO_ANSWER(DDProc_IsCommunicateDevice)
-NO_ANSWER(DDProc_IsEnableBdcLib)
 NO_ANSWER(DrawLogoImage)
 NO_ANSWER(DrawLogoVersionTab)
 NO_ANSWER(DDProc_DlgProc)
-NO_ANSWER(DDProc_OptionRequest)
-NO_ANSWER(DDProc_InputTrayStatus)
 #undef NO_ANSWER
 }

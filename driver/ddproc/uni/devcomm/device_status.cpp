@@ -1,0 +1,101 @@
+// The exports of the bidirectional path: see the header.
+#include "devcomm/device_status.h"
+
+#include "devcomm/device_tables.h"
+#include "devcomm/scope_guard.h"
+#include "paramdata/text.h"
+
+#include <cstring>
+
+namespace {
+
+// A device of this model with everything the library tells of it; null when there is none. Freed by
+// BdcCloseDevice.
+BdcDeviceContext* AskDevice(const char* agent) {
+    BdcDeviceContext* device = BdcOpenDevice(agent);
+    if (device == nullptr)
+        return nullptr;
+    BdcFillDevice(*device);
+    if (BdcIsModel(*device))
+        return device;
+    BdcCloseDevice(device);
+    return nullptr;
+}
+
+// The first that reports itself as this tray; null when none does.
+const BdcInputTrayItem* FindTray(const BdcDeviceContext& device, int32_t number) {
+    for (const BdcInputTrayItem& tray : BdcItemsOf<BdcInputTrayItem>(device.inputTrays))
+        if (tray.tray == number)
+            return &tray;
+    return nullptr;
+}
+
+void AnswerTray(const BdcDeviceContext& device, InputTrayStatusItem& item) {
+    const int32_t number = BdcTrayNumber(item.tray);
+    const BdcInputTrayItem* tray = number != 0 ? FindTray(device, number) : nullptr;
+    const BdcTrayKeys keys = tray != nullptr ? BdcKeysOf(*tray) : kUnknownTrayKeys;
+    InputTrayStatusItem answer = {};
+    memcpy(answer.tray, item.tray, sizeof(answer.tray));
+    CopyText(answer.mediaSize, keys.mediaSize);
+    CopyText(answer.orientation, keys.orientation);
+    CopyText(answer.mediaType, keys.mediaType);
+    CopyText(answer.weight, keys.weight);
+    CopyText(answer.color, keys.color);
+    CopyText(answer.hole, keys.hole);
+    answer.level = tray != nullptr ? tray->level : 0;
+    item = answer;
+}
+
+BOOL Refuse() {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return FALSE;
+}
+
+} // namespace
+
+BOOL WINAPI DDProc_IsEnableBdcLib() {
+    return BdcIsLibraryUsable();
+}
+
+BOOL WINAPI DDProc_IsCommunicateDevice(const char* agent, int32_t* modelAnswer) {
+    if (modelAnswer != nullptr)
+        *modelAnswer = 0;
+    BdcDeviceContext* device = agent != nullptr ? BdcOpenDevice(agent) : nullptr;
+    if (device == nullptr)
+        return FALSE;
+    const ScopeGuard closeDevice{[device] { BdcCloseDevice(device); }};
+    if (!BdcAskVersion(*device) || !BdcAskCommunication(*device) || !BdcAskName(*device))
+        return FALSE;
+    if (modelAnswer != nullptr)
+        *modelAnswer = BdcIsModel(*device) ? 1 : 0;
+    return TRUE;
+}
+
+BOOL WINAPI DDProc_OptionRequest(const char* agent, DWORD count, OptionRequestItem* items) {
+    if (agent == nullptr || items == nullptr)
+        return Refuse();
+    BdcDeviceContext* device = AskDevice(agent);
+    if (device == nullptr)
+        return FALSE;
+    const ScopeGuard closeDevice{[device] { BdcCloseDevice(device); }};
+    const BdcDeviceBits bits = BdcDeriveBits(*device);
+    for (DWORD i = 0; i < count; ++i) {
+        memset(items[i].value, 0, sizeof(items[i].value));
+        const char* value = BdcApplyRules(items[i].key, bits);
+        if (value != nullptr)
+            CopyText(items[i].value, value);
+    }
+    return TRUE;
+}
+
+BOOL WINAPI DDProc_InputTrayStatus(const char* agent, DWORD count, InputTrayStatusItem* items) {
+    if (agent == nullptr || items == nullptr)
+        return Refuse();
+    BdcDeviceContext* device = AskDevice(agent);
+    if (device == nullptr)
+        return FALSE;
+    const ScopeGuard closeDevice{[device] { BdcCloseDevice(device); }};
+    for (DWORD i = 0; i < count; ++i)
+        AnswerTray(*device, items[i]);
+    return TRUE;
+}
