@@ -183,6 +183,18 @@ AgentSession::~AgentSession() {
         snmpEntryPoints.snmpMgrClose(handle);
 }
 
+void AppendArc(ObjectSuffix& suffix, uint32_t arc) {
+    char text[12]; // filled from its end
+    size_t first = sizeof(text) - 1;
+    text[first] = 0;
+    do
+        text[--first] = static_cast<char>('0' + arc % 10);
+    while ((arc /= 10) != 0);
+    text[--first] = '.';
+    const char* const from = text + first;
+    AppendText(suffix, from);
+}
+
 bool AskForObject(SnmpSession session, const char* oid) {
     ObjectReply reply;
     return Ask(session, oid, "", reply) == Outcome::kAnswered;

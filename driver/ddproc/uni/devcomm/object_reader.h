@@ -33,6 +33,10 @@ struct AgentSession {
     SnmpSession handle; // null: not opened, the last error tells why
 };
 
+// Where an object lies below its table's OID: ".N", ".1.N". Holds two arcs; what does not fit is cut.
+using ObjectSuffix = char[24];
+void AppendArc(ObjectSuffix& suffix, uint32_t arc);
+
 // Whether the agent answers a request of the object, with whatever.
 bool AskForObject(SnmpSession session, const char* oid);
 

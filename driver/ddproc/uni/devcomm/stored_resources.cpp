@@ -51,26 +51,12 @@ bool Append(FoundEntries& found, const FoundEntry& entry) {
 
 enum class Step { kFailed, kEnd, kSkip, kKeep };
 
-// ".N"
-void FormatSuffix(uint32_t number, char (&suffix)[8]) {
-    char digits[sizeof(suffix)];
-    uint32_t count = 0;
-    do
-        digits[count++] = static_cast<char>('0' + number % 10);
-    while ((number /= 10) != 0);
-    char* to = suffix;
-    *to++ = '.';
-    while (count > 0)
-        *to++ = digits[--count];
-    *to = 0;
-}
-
 // Visits the printer's entries from 1 on, until a step ends the walk. False when one failed.
 template <typename ReadEntry>
 bool Walk(FoundEntries& found, const ReadEntry& readEntry) {
     for (uint32_t number = 1; number <= kMostEntries; ++number) {
-        char suffix[8];
-        FormatSuffix(number, suffix);
+        ObjectSuffix suffix = {};
+        AppendArc(suffix, number);
         FoundEntry entry = {};
         const Step step = readEntry(suffix, entry);
         if (step == Step::kEnd)

@@ -1,0 +1,69 @@
+// Reading a device by SNMP: a session with the device of a record, and what the records of the library hold
+// as tables of the device's objects.
+#ifndef BDCLIB_DEVICE_READER_H
+#define BDCLIB_DEVICE_READER_H
+
+#include "devcomm/bdc_device.h"
+#include "devcomm/object_reader.h"
+
+// A session with the device for the time of a scope, in the community of its record.
+struct DeviceSession {
+    explicit DeviceSession(const BdcDeviceRecord& device);
+    ~DeviceSession();
+    DeviceSession(const DeviceSession&) = delete;
+    DeviceSession& operator=(const DeviceSession&) = delete;
+
+    SnmpSession handle; // null: not opened, the last error tells why
+    uint32_t printer;   // number of the printer among the host's devices
+
+private:
+    char agent[sizeof(BdcDeviceRecord::agent) + 1]; // both terminated, as the record's need not be
+    char community[sizeof(BdcDeviceRecord::community) + 1];
+};
+
+// A row of the device's tables. `failed`, that a request got no answer, is sticky: objects are read one after
+// the other, and it is tested at the end.
+struct DeviceRow {
+    SnmpSession session;
+    uint32_t number;
+    ObjectSuffix ofDevice;  // .NUMBER
+    ObjectSuffix ofPrinter; // .PRINTER.NUMBER, in the Printer MIB
+    bool failed;
+};
+
+struct DeviceColumn {
+    const char* oid;
+    ObjectSuffix DeviceRow::*suffix;
+};
+
+// How a list of the library lies in the device's tables.
+struct DeviceList {
+    DeviceColumn presence; // a number: the row is there when it is
+    uint32_t mostRows;     // rows beyond it are not asked for
+    bool hasGaps;          // otherwise the first row that is not there ends the list
+    size_t itemSize;
+    void (*read)(DeviceRow& row, void* item); // into an item that is all 0
+};
+extern const DeviceList kFirmwareList;
+extern const DeviceList kMemoryList;
+extern const DeviceList kOptionList;
+extern const DeviceList kInputTrayList;
+extern const DeviceList kOutputTrayList;
+extern const DeviceList kFinisherList;
+
+// Fills at most `capacity` items and counts them; without items counts all. False when a request failed.
+bool ReadList(const DeviceSession& session, const DeviceList& list, void* items, uint32_t capacity,
+              uint32_t& count);
+
+// Each false when a request failed.
+
+// Number of the printer among the host's devices; 1 when none is listed as one.
+bool ReadPrinterNumber(SnmpSession session, uint32_t& number);
+
+// Empty when the device has none.
+bool ReadModelName(const DeviceSession& session, ObjectText& name);
+
+// How many media paths there are, and whether one prints both sides.
+bool ReadMediaPaths(const DeviceSession& session, uint32_t& count, bool& hasDuplex);
+
+#endif
