@@ -26,6 +26,9 @@ Run SetUpCapabilities(CLI::App& command);
 // What a printer answers to SNMP requests: options, supplies, overlays and colour profiles.
 Run SetUpQuery(CLI::App& command);
 
+// What a printer answers through the bidirectional library: options and input trays.
+Run SetUpStatus(CLI::App& command);
+
 // The network address that the module finds for a print queue or in a settings record.
 Run SetUpAddress(CLI::App& command);
 

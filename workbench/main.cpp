@@ -15,6 +15,7 @@ constexpr struct {
     {"capabilities", "Asks the module for paper sources, duplex and stapling", SetUpCapabilities},
     {"defaults", "Shows the built-in default settings, field by field", SetUpDefaults},
     {"query", "Asks a printer by SNMP for options, supplies, overlays and profiles", SetUpQuery},
+    {"status", "Asks a printer through the bidirectional library for options and input trays", SetUpStatus},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", SetUpTexts},
     {"address", "Asks the module for the network address of a printer", SetUpAddress},
 };

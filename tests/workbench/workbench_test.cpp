@@ -49,11 +49,11 @@ struct Result {
     std::string errors;
 };
 
-Result RunWorkbench(const std::wstring& arguments) {
+Result RunWorkbench(const std::wstring& arguments, const fs::path& program = L"workbench.exe") {
     const Folder redirected(L"workbench_output");
     fs::current_path(ProgramFolder());
     const std::wstring line =
-        L"workbench.exe " + arguments + L" >workbench_output\\out 2>workbench_output\\err";
+        program.wstring() + L" " + arguments + L" >workbench_output\\out 2>workbench_output\\err";
     const int exitCode = _wsystem(line.c_str());
     return {exitCode, Contents(redirected.path / "out"), Contents(redirected.path / "err")};
 }
@@ -205,6 +205,85 @@ TEST(Workbench, AsksPrinters) {
     EXPECT_TRUE(modest["overlays"]["overlays0"].empty());
 }
 
+// The same devices through the bidirectional library. The keys are the driver's: Letter is "8half11", holes
+// 2-4 are punch kit 3, a transparency is "OHP", the tray 5 is none that the library's road knows.
+TEST(Workbench, AsksPrintersThroughTheBidirectionalLibrary) {
+    const auto tray = [](const char* name, const char* size, const char* orientation, const char* type,
+                         int level) {
+        return Json({{"tray", name},
+                     {"size", size},
+                     {"orientation", orientation},
+                     {"type", type},
+                     {"level", level},
+                     {"weight", nullptr},
+                     {"color", nullptr},
+                     {"hole", nullptr}});
+    };
+    const auto portrait = "MediaTypeList_Portrait";
+    const auto landscape = "MediaTypeList_Landscape";
+
+    const Json equipped = RunForJson(L"status 127.0.162.1");
+    EXPECT_EQ(
+        equipped["printer"],
+        Json({{"address", "127.0.162.1"}, {"libraryUsable", true}, {"reached", true}, {"thisModel", true}}));
+    EXPECT_EQ(Pick(equipped["options"], "option"),
+              Json({"OpMachine", "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit", "OpMailBinKit", "OpSaddleKit",
+                    "OpFAXUnit", "OpHDD"}));
+    EXPECT_EQ(Pick(equipped["options"], "answer"),
+              Json({"OpMachine1", "OpInTrayUnit1", "OpOutTrayUnit1", "OpPunchKit3", "EnaOpMailBinKit",
+                    "EnaSaddleKit", "EnaOpFAXKit", "EnaOpHDD"}));
+    EXPECT_EQ(equipped["trays"], Json({tray("InTray1", "A4", landscape, "Plain", 430),
+                                       tray("InTray2", "A3", portrait, "Plain", 500),
+                                       tray("InTray3", "8half11", landscape, "Letterhead", 120),
+                                       tray("InTray4", "A4", landscape, "Thick1", 80),
+                                       tray("InTrayLCT", "A4", landscape, "Plain", 2100),
+                                       tray("InTrayManual", "EnvelopeC5", portrait, "Envelope", 20)}));
+
+    const Json modest = RunForJson(L"status 127.0.162.2");
+    EXPECT_EQ(Pick(modest["options"], "answer"),
+              Json({"OpMachine1", "DisOpInTrayUnit", "DisOpOutTrayUnit", "DisOpPunchKit", "DisOpMailBinKit",
+                    "DisSaddleKit", "DisOpFAXKit", "DisOpHDD"}));
+    Json unknown = tray("InTray3", "MediaTypeList_Size_Unknown", "MediaTypeList_Orient_Unknown",
+                        "MediaTypeList_Type_Unknown", 0);
+    unknown["weight"] = "MediaTypeList_Weight_Unknown";
+    unknown["color"] = "MediaTypeList_Color_Unknown";
+    unknown["hole"] = "MediaTypeList_Hole_Unknown";
+    EXPECT_EQ(modest["trays"][0], tray("InTray1", "A4", landscape, "Plain", 35));
+    EXPECT_EQ(modest["trays"][1], tray("InTray2", "A3", portrait, "Plain", 0));
+    EXPECT_EQ(modest["trays"][2], unknown);
+    EXPECT_EQ(modest["trays"][5], tray("InTrayManual", "A4", landscape, "OHP", 0));
+
+    for (const wchar_t* address : {L"127.0.162.1", L"127.0.162.2"}) { // OpHDD is in both roads' words
+        const Json status = RunForJson(std::wstring(L"status ") + address);
+        const Json query = RunForJson(std::wstring(L"query ") + address);
+        EXPECT_EQ(status["options"][7]["answer"], query["options"][1]["answer"]);
+    }
+}
+
+// The library is looked for in the program's folder first, so that this takes programs of other folders.
+TEST(Workbench, SaysWhereTheBidirectionalLibraryIsLookedFor) {
+    const std::map<const char*, const char*> files = {{"workbench.exe", "workbench.exe"},
+                                                      {"TELMAR_D.DLL", "TELMAR_D.DLL"},
+                                                      {"TELMAR_D.PRM", "TELMAR_D.PRM"}};
+    auto withIncomplete = files;
+    withIncomplete["TELMAR_B.DLL"] = "TELMAR_S.DLL";
+    const Folder folders[] = {{L"workbench_no_library", files}, {L"workbench_bad_library", withIncomplete}};
+    for (const Folder& folder : folders) {
+        const Result result = RunWorkbench(L"status 127.0.162.1", folder.path / "workbench.exe");
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.output, "");
+        EXPECT_EQ(result.errors.find("workbench: TELMAR_B.DLL: "), 0) << result.errors;
+        EXPECT_NE(result.errors.find((folder.path / "TELMAR_B.DLL").u8string()), std::string::npos)
+            << result.errors;
+    }
+    const Folder library(L"workbench_library", {{"TELMAR_D.DLL", "TELMAR_D.DLL"},
+                                                {"TELMAR_D.PRM", "TELMAR_D.PRM"},
+                                                {"TELMAR_B.DLL", "TELMAR_B.DLL"}});
+    const Result beside =
+        RunWorkbench(L"status 127.0.162.1" + library.Option(), folders[0].path / "workbench.exe");
+    EXPECT_EQ(beside.exitCode, 0) << "not taken from beside the module: " << beside.errors;
+}
+
 // Every failure says on the error output what is wrong and what would be right, and writes nothing else.
 TEST(Workbench, SaysWhatIsWrong) {
     const Folder empty(L"workbench_empty");
@@ -240,6 +319,9 @@ TEST(Workbench, SaysWhatIsWrong) {
         {L"describe" + damaged.Option(), 1, "workbench: .*TELMAR_D.PRM.*damaged.*prmc check"},
         {L"query", 2, "workbench: ADDRESS is required"},
         {L"query 127.0.162.9", 1, "workbench: 127.0.162.9: .*can't be asked by SNMP; check the address"},
+        {L"status", 2, "workbench: ADDRESS is required"},
+        {L"status 127.0.162.9", 1, "workbench: 127.0.162.9: no device answers.*check the address"},
+        {L"status 127.0.162.3", 1, "workbench: 127.0.162.3: the device is of another model"},
         {L"capabilities" + foreign.Option(), 1, "workbench: .*TELMAR_D.DLL.*DDProc_DeviceCapabilities"},
     };
     for (const auto& c : cases) {
