@@ -6,8 +6,13 @@
 
 namespace {
 
+// A device without an address is nobody: an empty one would be looked up as this machine's own.
+bool HasAgent(const BdcDeviceRecord* device) {
+    return device != nullptr && device->agent[0] != 0;
+}
+
 int32_t AnswerList(const DeviceList& list, const BdcDeviceRecord* device, uint32_t* count, void* items) {
-    if (device == nullptr || count == nullptr)
+    if (!HasAgent(device) || count == nullptr)
         return kBdcBadArgument;
     const DeviceSession session(*device);
     uint32_t found = 0;
@@ -38,7 +43,7 @@ int32_t WINAPI BdcGetLibVersion(uint32_t* /*state*/, BdcLibVersion* version) {
 
 int32_t WINAPI BdcGetDevCommInfo(const char* agent, uint32_t* /*state*/, BdcCommInfo* info) {
     constexpr const char* kSysObjectId = ".1.3.6.1.2.1.1.2.0";
-    if (agent == nullptr || info == nullptr)
+    if (agent == nullptr || agent[0] == 0 || info == nullptr)
         return kBdcBadArgument;
     const AgentSession session(agent, kReachPatience);
     uint32_t printer = 0;
@@ -51,7 +56,7 @@ int32_t WINAPI BdcGetDevCommInfo(const char* agent, uint32_t* /*state*/, BdcComm
 }
 
 int32_t WINAPI BdcGetDevName(const BdcDeviceRecord* device, uint32_t* /*state*/, BdcNameInfo* info) {
-    if (device == nullptr || info == nullptr)
+    if (!HasAgent(device) || info == nullptr)
         return kBdcBadArgument;
     const DeviceSession session(*device);
     ObjectText name;
@@ -65,7 +70,7 @@ int32_t WINAPI BdcGetDevName(const BdcDeviceRecord* device, uint32_t* /*state*/,
 
 int32_t WINAPI BdcGetDevMediaPathInfo(const BdcDeviceRecord* device, uint32_t* /*state*/,
                                       BdcMediaPathInfo* info) {
-    if (device == nullptr || info == nullptr)
+    if (!HasAgent(device) || info == nullptr)
         return kBdcBadArgument;
     const DeviceSession session(*device);
     uint32_t count = 0;

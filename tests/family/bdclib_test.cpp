@@ -48,12 +48,12 @@ Fetched<Item> Fetch(const Call& call, const BdcDeviceRecord& device, uint32_t ro
     return fetched;
 }
 
-// One field of each item as a text, with the items numbered by their order.
+// The items that there are, each as a text.
 template <typename Item, typename Show>
 std::string Shown(const Fetched<Item>& fetched, const Show& show) {
     std::string text;
     for (uint32_t i = 0; i < fetched.count; ++i)
-        text += (i == 0 ? "" : ", ") + show(fetched.items[i]);
+        text += (i == 0 ? "" : ", ") + show(fetched.items.at(i));
     return text;
 }
 
@@ -199,16 +199,15 @@ TEST_F(Library, SaysThatThereIsNoAnswer) {
     BdcCommInfo communication = {};
     BdcNameInfo name = {};
     EXPECT_EQ(FUNCTION(BdcGetDevCommInfo)(kNobody, &state, &communication), kBdcNoAnswer);
-    const BdcDeviceRecord silent[] = {Record(kNobody), Record(kOdd, 1, "another"), Record("")};
-    for (const BdcDeviceRecord& device : silent) {
-        uint32_t count = 5;
-        EXPECT_EQ(FUNCTION(BdcGetDevName)(&device, &state, &name), kBdcNoAnswer);
-        EXPECT_EQ(FUNCTION(BdcGetDevOptionInfo)(&device, &count, &state, nullptr), kBdcNoAnswer);
-        EXPECT_EQ(count, 5);
-    }
+    const BdcDeviceRecord otherCommunity = Record(kOdd, 1, "another");
+    EXPECT_EQ(FUNCTION(BdcGetDevName)(&otherCommunity, &state, &name), kBdcNoAnswer);
+    const BdcDeviceRecord nobody = Record(kNobody);
+    uint32_t count = 5;
+    EXPECT_EQ(FUNCTION(BdcGetDevOptionInfo)(&nobody, &count, &state, nullptr), kBdcNoAnswer);
+    EXPECT_EQ(count, 5);
+
     // Counts its options, but does not tell what they are.
     const BdcDeviceRecord device = Record(kFallsSilent, 1);
-    uint32_t count = 0;
     EXPECT_EQ(FUNCTION(BdcGetDevOptionInfo)(&device, &count, &state, nullptr), kBdcDone);
     EXPECT_EQ(count, 4);
     const auto options = Fetch<BdcOptionItem>(FUNCTION(BdcGetDevOptionInfo), device, 4);
@@ -222,9 +221,15 @@ TEST_F(Library, RefusesWhatItCanNotAnswer) {
     uint32_t count = 1;
     BdcNameInfo name = {};
     EXPECT_EQ(FUNCTION(BdcGetLibVersion)(&state, nullptr), kBdcBadArgument);
-    EXPECT_EQ(FUNCTION(BdcGetDevCommInfo)(nullptr, &state, nullptr), kBdcBadArgument);
+    BdcCommInfo communication = {};
+    EXPECT_EQ(FUNCTION(BdcGetDevCommInfo)(nullptr, &state, &communication), kBdcBadArgument);
+    EXPECT_EQ(FUNCTION(BdcGetDevCommInfo)("", &state, &communication), kBdcBadArgument);
+    EXPECT_EQ(FUNCTION(BdcGetDevCommInfo)(kOdd, &state, nullptr), kBdcBadArgument);
     EXPECT_EQ(FUNCTION(BdcGetDevName)(nullptr, &state, &name), kBdcBadArgument);
     EXPECT_EQ(FUNCTION(BdcGetDevName)(&device, &state, nullptr), kBdcBadArgument);
+    const BdcDeviceRecord withoutAddress = Record("");
+    EXPECT_EQ(FUNCTION(BdcGetDevName)(&withoutAddress, &state, &name), kBdcBadArgument);
+    EXPECT_EQ(FUNCTION(BdcGetDevFinisherInfo)(&withoutAddress, &count, &state, nullptr), kBdcBadArgument);
     EXPECT_EQ(FUNCTION(BdcGetDevMediaPathInfo)(&device, &state, nullptr), kBdcBadArgument);
     EXPECT_EQ(FUNCTION(BdcGetDevMemoryCapacity)(nullptr, &count, &state, nullptr), kBdcBadArgument);
     EXPECT_EQ(FUNCTION(BdcGetDevMemoryCapacity)(&device, nullptr, &state, nullptr), kBdcBadArgument);

@@ -49,13 +49,16 @@ struct Result {
     std::string errors;
 };
 
-Result RunWorkbench(const std::wstring& arguments, const fs::path& program = L"workbench.exe") {
+// Runs the program of this folder, there.
+Result RunWorkbench(const std::wstring& arguments, const fs::path& folder = ProgramFolder()) {
     const Folder redirected(L"workbench_output");
-    fs::current_path(ProgramFolder());
-    const std::wstring line =
-        program.wstring() + L" " + arguments + L" >workbench_output\\out 2>workbench_output\\err";
+    fs::current_path(folder);
+    const std::wstring out = (redirected.path / "out").wstring();
+    const std::wstring err = (redirected.path / "err").wstring();
+    const std::wstring line = L"workbench.exe " + arguments + L" >\"" + out + L"\" 2>\"" + err + L"\"";
     const int exitCode = _wsystem(line.c_str());
-    return {exitCode, Contents(redirected.path / "out"), Contents(redirected.path / "err")};
+    fs::current_path(ProgramFolder());
+    return {exitCode, Contents(out), Contents(err)};
 }
 
 // What a command that must succeed writes as JSON.
@@ -260,16 +263,17 @@ TEST(Workbench, AsksPrintersThroughTheBidirectionalLibrary) {
     }
 }
 
-// The library is looked for in the program's folder first, so that this takes programs of other folders.
+// The program's folder and the current one are looked in first, so that this takes programs of other folders.
 TEST(Workbench, SaysWhereTheBidirectionalLibraryIsLookedFor) {
     const std::map<const char*, const char*> files = {{"workbench.exe", "workbench.exe"},
                                                       {"TELMAR_D.DLL", "TELMAR_D.DLL"},
                                                       {"TELMAR_D.PRM", "TELMAR_D.PRM"}};
     auto withIncomplete = files;
     withIncomplete["TELMAR_B.DLL"] = "TELMAR_S.DLL";
-    const Folder folders[] = {{L"workbench_no_library", files}, {L"workbench_bad_library", withIncomplete}};
+    const Folder folders[] = {Folder(L"workbench_no_library", files),
+                              Folder(L"workbench_bad_library", withIncomplete)};
     for (const Folder& folder : folders) {
-        const Result result = RunWorkbench(L"status 127.0.162.1", folder.path / "workbench.exe");
+        const Result result = RunWorkbench(L"status 127.0.162.1", folder.path);
         EXPECT_EQ(result.exitCode, 1);
         EXPECT_EQ(result.output, "");
         EXPECT_EQ(result.errors.find("workbench: TELMAR_B.DLL: "), 0) << result.errors;
@@ -279,8 +283,7 @@ TEST(Workbench, SaysWhereTheBidirectionalLibraryIsLookedFor) {
     const Folder library(L"workbench_library", {{"TELMAR_D.DLL", "TELMAR_D.DLL"},
                                                 {"TELMAR_D.PRM", "TELMAR_D.PRM"},
                                                 {"TELMAR_B.DLL", "TELMAR_B.DLL"}});
-    const Result beside =
-        RunWorkbench(L"status 127.0.162.1" + library.Option(), folders[0].path / "workbench.exe");
+    const Result beside = RunWorkbench(L"status 127.0.162.1" + library.Option(), folders[0].path);
     EXPECT_EQ(beside.exitCode, 0) << "not taken from beside the module: " << beside.errors;
 }
 
