@@ -71,12 +71,14 @@ DeviceRow MakeRow(const DeviceSession& session, uint32_t number) {
 
 // --- Items
 
+#pragma pack(push, 1)
 // Of lists whose items nobody reads: the number and a text.
 template <size_t kOctets>
 struct NumberedText {
     uint32_t number;
     char text[kOctets - sizeof(uint32_t)];
 };
+#pragma pack(pop)
 using Firmware = NumberedText<sizeof(BdcFirmwareItem)>;
 using OutputTray = NumberedText<sizeof(BdcOutputTrayItem)>;
 static_assert(sizeof(Firmware) == sizeof(BdcFirmwareItem) && sizeof(OutputTray) == sizeof(BdcOutputTrayItem));
@@ -164,7 +166,7 @@ bool WalkRows(const DeviceSession& session, const DeviceList& list, const Visit&
 } // namespace
 
 // clang-format off
-//                              presence            most rows    gaps   item size                  how it is read
+//                                  presence            most rows    gaps   item size                  how it is read
 const DeviceList kFirmwareList   = {kInterpreterFamily, kMostRows,   false, sizeof(BdcFirmwareItem),   Into<Firmware, ReadFirmware>};
 const DeviceList kMemoryList     = {kMemoryNumber,      kMostRows,   false, sizeof(BdcMemoryItem),     Into<BdcMemoryItem, ReadMemory>};
 const DeviceList kOptionList     = {kOptionNumber,      kMostRows,   false, sizeof(BdcOptionItem),     Into<BdcOptionItem, ReadOption>};
