@@ -179,7 +179,7 @@ DeviceSession::DeviceSession(const BdcDeviceRecord& device)
     : printer(device.communication != 0 ? device.communication : 1), agent(), community() {
     CopyText(agent, device.agent);
     CopyText(community, device.community);
-    handle = snmpEntryPoints.snmpMgrOpen(agent, community, kQueryPatience.timeOut, kQueryPatience.retries);
+    handle = snmpEntryPoints.snmpMgrOpen(agent, community, kQueryLimits.timeOut, kQueryLimits.retries);
 }
 
 DeviceSession::~DeviceSession() {

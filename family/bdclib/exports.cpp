@@ -45,7 +45,7 @@ int32_t WINAPI BdcGetDevCommInfo(const char* agent, uint32_t* /*state*/, BdcComm
     constexpr const char* kSysObjectId = ".1.3.6.1.2.1.1.2.0";
     if (agent == nullptr || agent[0] == 0 || info == nullptr)
         return kBdcBadArgument;
-    const AgentSession session(agent, kReachPatience);
+    const AgentSession session(agent, kReachLimits);
     uint32_t printer = 0;
     if (session.handle == nullptr || !AskForObject(session.handle, kSysObjectId)
         || !ReadPrinterNumber(session.handle, printer))
