@@ -118,8 +118,8 @@ DWORD WINAPI SetFilePointer(HANDLE file, LONG distance, LONG* distanceHigh, DWOR
 DWORD WINAPI GetFileSize(HANDLE file, DWORD* sizeHigh);
 BOOL WINAPI CloseHandle(HANDLE file);
 
-// Blocks that are not asked for zero-filled come filled with a pattern. The handle of a movable block is not its address;
-// freeing one that is still locked counts as a block left behind.
+// Blocks that are not asked for zero-filled come filled with a pattern. The handle of a movable block is not
+// its address; freeing one that is still locked counts as a block left behind.
 HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
 HGLOBAL WINAPI GlobalFree(HGLOBAL block);
 LPVOID WINAPI GlobalLock(HGLOBAL handle);
