@@ -1,0 +1,196 @@
+// The scripted stand-in of the bidirectional library: see the header.
+#include "devcomm/scripted_bdc.h"
+
+#include <algorithm>
+#include <cstring>
+#include <mutex>
+#include <windows.h>
+
+namespace scripted_bdc {
+
+Script script;
+
+namespace {
+
+constexpr size_t kRecordSize = 428;
+constexpr size_t kAgentOffset = 8;
+
+std::mutex mutex; // of the recorded calls
+
+void Record(const std::string& text, const void* record) {
+    const std::lock_guard<std::mutex> lock(mutex);
+    const auto* octets = static_cast<const uint8_t*>(record);
+    script.calls.push_back({text, octets != nullptr ? std::vector<uint8_t>(octets, octets + kRecordSize)
+                                                    : std::vector<uint8_t>()});
+}
+
+// Names the state word that came in, and gives back another.
+std::string State(uint32_t* state) {
+    const std::string text = ", state " + std::to_string(*state);
+    *state = kStateAfter;
+    return text;
+}
+
+const Device& DeviceAt(const std::string& agent) {
+    const auto other = script.others.find(agent);
+    return other != script.others.end() ? other->second : script.device;
+}
+
+const Device& DeviceOf(const void* record) {
+    return DeviceAt(static_cast<const char*>(record) + kAgentOffset);
+}
+
+int32_t Give(const Answer& answer, void* buffer) {
+    memcpy(buffer, answer.octets.bytes.data(), answer.octets.bytes.size());
+    return answer.status;
+}
+
+// Whether it is as the module is to allocate it: movable, locked, all zero.
+bool IsFit(const void* block, size_t size) {
+    HGLOBAL handle = GlobalHandle(block);
+    bool fit = handle != nullptr && handle != block;
+#ifdef _WIN32
+    fit = fit && (GlobalFlags(handle) & GMEM_LOCKCOUNT) == 1 && GlobalSize(handle) >= size;
+#endif
+    const auto* octets = static_cast<const uint8_t*>(block);
+    return fit && std::all_of(octets, octets + size, [](uint8_t octet) { return octet == 0; });
+}
+
+std::string Block(const void* block, size_t size, const std::string& contents) {
+    if (block == nullptr)
+        return ", null";
+    return ", " + contents + (IsFit(block, size) ? "" : " unfit");
+}
+
+int32_t GiveList(const char* name, const ListAnswer& answer, const void* record, uint32_t* count,
+                 uint32_t* state, void* block) {
+    const size_t room = block != nullptr ? *count * answer.itemSize : 0;
+    Record(name + State(state) + Block(block, room, std::to_string(*count) + " items"), record);
+    if (block == nullptr) {
+        const auto there = static_cast<uint32_t>(answer.items.bytes.size() / answer.itemSize);
+        *count = answer.firstCount.value_or(there);
+        return answer.firstStatus;
+    }
+    *count = answer.count.value_or(*count);
+    memcpy(block, answer.items.bytes.data(), std::min(room, answer.items.bytes.size()));
+    return answer.status;
+}
+
+int32_t WINAPI GetLibVersion(uint32_t* state, void* buffer) {
+    Record("BdcGetLibVersion" + State(state), nullptr);
+    return Give(script.version, buffer);
+}
+
+int32_t WINAPI GetDevCommInfo(const char* agent, uint32_t* state, void* buffer) {
+    Record("BdcGetDevCommInfo " + std::string(agent) + State(state), nullptr);
+    return Give(DeviceAt(agent).communication, buffer);
+}
+
+int32_t WINAPI GetDevName(const void* record, uint32_t* state, void* buffer) {
+    Record("BdcGetDevName" + State(state), record);
+    return Give(DeviceOf(record).name, buffer);
+}
+
+int32_t WINAPI GetDevMediaPathInfo(const void* record, uint32_t* state, void* block) {
+    const Answer& answer = DeviceOf(record).mediaPath;
+    Record("BdcGetDevMediaPathInfo" + State(state) + Block(block, answer.octets.bytes.size(), "information"),
+           record);
+    return Give(answer, block);
+}
+
+int32_t WINAPI GetDevFirmwareVersion(const void* record, uint32_t* count, uint32_t* state, void* items) {
+    return GiveList("BdcGetDevFirmwareVersion", DeviceOf(record).firmware, record, count, state, items);
+}
+
+int32_t WINAPI GetDevMemoryCapacity(const void* record, uint32_t* count, uint32_t* state, void* items) {
+    return GiveList("BdcGetDevMemoryCapacity", DeviceOf(record).memory, record, count, state, items);
+}
+
+int32_t WINAPI GetDevOptionInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
+    return GiveList("BdcGetDevOptionInfo", DeviceOf(record).options, record, count, state, items);
+}
+
+int32_t WINAPI GetDevInputTrayInfoEx(const void* record, uint32_t* count, uint32_t selector, uint32_t* state,
+                                     void* items) {
+    const std::string name = "BdcGetDevInputTrayInfoEx, selector " + std::to_string(selector);
+    return GiveList(name.c_str(), DeviceOf(record).inputTrays, record, count, state, items);
+}
+
+int32_t WINAPI GetDevOutputTrayInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
+    return GiveList("BdcGetDevOutputTrayInfo", DeviceOf(record).outputTrays, record, count, state, items);
+}
+
+int32_t WINAPI GetDevFinisherInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
+    return GiveList("BdcGetDevFinisherInfo", DeviceOf(record).finishers, record, count, state, items);
+}
+
+int32_t WINAPI NobodyAsks() {
+    Record("an entry point that the module has no use for", nullptr);
+    return -1;
+}
+
+template <typename Function>
+EntryPoint Named(const char* name, Function* function) {
+    return {name, reinterpret_cast<void (*)()>(function)};
+}
+
+} // namespace
+
+const EntryPoint kEntryPoints[kEntryPointCount] = {
+    Named("BdcGetLibVersion", GetLibVersion),
+    Named("BdcGetDevIpAddress", NobodyAsks),
+    Named("BdcGetDevCommInfo", GetDevCommInfo),
+    Named("BdcGetDevName", GetDevName),
+    Named("BdcGetDevMemoryCapacity", GetDevMemoryCapacity),
+    Named("BdcGetDevFirmwareVersion", GetDevFirmwareVersion),
+    Named("BdcGetDevOptionInfo", GetDevOptionInfo),
+    Named("BdcGetDevInputTrayInfo", NobodyAsks),
+    Named("BdcGetDevInputTrayInfoEx", GetDevInputTrayInfoEx),
+    Named("BdcGetDevOutputTrayInfo", GetDevOutputTrayInfo),
+    Named("BdcGetDevMediaPathInfo", GetDevMediaPathInfo),
+    Named("BdcGetDevFinisherInfo", GetDevFinisherInfo),
+    Named("BdcGetDevStatus", NobodyAsks),
+    Named("BdcBeginDevEventNotify", NobodyAsks),
+    Named("BdcEndDevEventNotify", NobodyAsks),
+    Named("BdcBeginNotifyPrint", NobodyAsks),
+    Named("BdcGetDevJobHistoryList", NobodyAsks),
+    Named("BdcEndNotifyPrint", NobodyAsks),
+    Named("BdcBeginNotifyJobCompletion", NobodyAsks),
+    Named("BdcGetReceiveAddress", NobodyAsks),
+    Named("BdcEndNotifyJobCompletion", NobodyAsks),
+};
+
+RawBytes OptionItem(uint32_t type, const std::string& model) {
+    return RawBytes(72).U32(4, type).Text(8, model);
+}
+
+RawBytes MemoryItem(uint32_t kind) {
+    return RawBytes(12).U32(8, kind);
+}
+
+RawBytes FinisherItem(uint32_t flags) {
+    return RawBytes(140).U32(136, flags);
+}
+
+RawBytes TrayItem(const Tray& tray) {
+    return RawBytes(108)
+        .U8(0, 0xEE, 108)
+        .U32(4, tray.number)
+        .U16(12, tray.size)
+        .U32(16, tray.type)
+        .U16(20, tray.level)
+        .U32(88, tray.orientation)
+        .U32(92, tray.weight)
+        .U32(96, tray.color)
+        .U32(100, tray.hole)
+        .U32(104, tray.secondSide);
+}
+
+std::vector<std::string> CallTexts() {
+    std::vector<std::string> texts;
+    for (const Call& call : script.calls)
+        texts.push_back(call.text);
+    return texts;
+}
+
+} // namespace scripted_bdc
