@@ -1,0 +1,266 @@
+// The bidirectional path through the built module, with a scripted library in its folder. The program lies in
+// a folder of its own: what stands beside a program is found by its bare name before anything else.
+#include "devcomm/scripted_bdc.h"
+#include "product.h"
+
+#include <atomic>
+#include <gtest/gtest.h>
+#include <thread>
+
+using namespace scripted_bdc;
+namespace fs = std::filesystem;
+
+// Where the entry points of the library (bdc_stub.cpp) lead.
+extern "C" __declspec(dllexport) void (*ScriptedBdcEntryPoint(const char* name))() {
+    for (const EntryPoint& each : kEntryPoints)
+        if (strcmp(each.name, name) == 0)
+            return each.function;
+    return nullptr;
+}
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+constexpr wchar_t kLibrary[] = L"TELMAR_B.DLL";
+constexpr char kAgent[] = "10.0.0.9";
+const std::string kUnknownTray =
+    "MediaTypeList_Size_Unknown MediaTypeList_Orient_Unknown MediaTypeList_Type_Unknown "
+    "MediaTypeList_Weight_Unknown MediaTypeList_Color_Unknown MediaTypeList_Hole_Unknown 0";
+
+// The module in a folder with the library, or one that lacks an entry point.
+struct Family {
+    explicit Family(const wchar_t* library = L"bdc_stub.dll") : module((Fill(library), folder.path)) {
+        script = {};
+    }
+
+    void Fill(const wchar_t* library) const {
+        folder.Add(L"..\\TELMAR_D.DLL", L"TELMAR_D.DLL");
+        if (library != nullptr)
+            folder.Add(library, kLibrary);
+    }
+
+    BOOL IsEnabled() const { return module.Export<BOOL WINAPI()>("DDProc_IsEnableBdcLib")(); }
+
+    // The model answer, or -1 when the device doesn't answer.
+    int Communicates(const char* agent = kAgent) const {
+        int32_t model = 77;
+        const auto ask = module.Export<BOOL WINAPI(const char*, int32_t*)>("DDProc_IsCommunicateDevice");
+        const BOOL result = ask(agent, &model);
+        EXPECT_TRUE(result == TRUE || model == 0);
+        return result == TRUE ? model : -1;
+    }
+
+    BOOL Ask(const char* name, const char* agent, DWORD count, void* items) const {
+        return module.Export<BOOL WINAPI(const char*, DWORD, void*)>(name)(agent, count, items);
+    }
+
+    // The item key, or "refused", with the record as it was.
+    std::string Option(const std::string& key, const char* agent = kAgent) const {
+        RawBytes item = RawBytes(64).U8(0, 0xAB, 64).Text(0, key + '\0');
+        const RawBytes before = item;
+        if (!Ask("DDProc_OptionRequest", agent, 1, item.bytes.data())) {
+            EXPECT_EQ(Differences(item.bytes.data(), before), "");
+            return "refused";
+        }
+        return reinterpret_cast<const char*>(&item.bytes[32]);
+    }
+
+    // "size orientation type weight color hole level", or "refused", with the record as it was.
+    std::string Tray(const std::string& key, const char* agent = kAgent) const {
+        RawBytes item = RawBytes(228).U8(0, 0xAB, 228).Text(0, key + '\0');
+        const RawBytes before = item;
+        if (!Ask("DDProc_InputTrayStatus", agent, 1, item.bytes.data())) {
+            EXPECT_EQ(Differences(item.bytes.data(), before), "");
+            return "refused";
+        }
+        std::string answer;
+        for (size_t offset = 32; offset < 224; offset += 32)
+            answer += std::string(reinterpret_cast<const char*>(&item.bytes[offset])) + " ";
+        return answer + std::to_string(NumberAt<uint32_t>(item.bytes.data(), 224));
+    }
+
+    Words Everything() const {
+        return {std::to_string(IsEnabled()), std::to_string(Communicates()), Option("OpMachine"),
+                Tray("InTray1")};
+    }
+
+    TemporaryFolder folder{L"bdc"};
+    LoadedModule module;
+};
+
+const Words kNobody = {"0", "-1", "refused", "refused"};
+const Words kUsable = {"1", "1", "OpMachine1", kUnknownTray};
+
+TEST(Bdc, IsFoundBesideTheModuleAndFreedAgain) {
+    const Family family;
+    EXPECT_EQ(family.Everything(), kUsable);
+    EXPECT_EQ(LoadedPath(kLibrary), fs::path());
+    for (const Call& call : script.calls)
+        EXPECT_EQ(call.text.find("unfit"), std::string::npos) << call.text;
+    fs::remove(family.folder.path / kLibrary); // which one that is loaded doesn't let one do
+    EXPECT_EQ(family.Everything(), kNobody);
+}
+
+TEST(Bdc, LacksAnEntryPoint) {
+    const Family family(L"bdc_stub_lacking.dll");
+    EXPECT_EQ(family.Everything(), kNobody);
+    EXPECT_TRUE(script.calls.empty());
+    EXPECT_EQ(LoadedPath(kLibrary), fs::path());
+}
+
+// One that is found by bare name (here since it is loaded) counts first, and the one beside the module if the
+// first is of no use.
+TEST(Bdc, BareNameComesFirst) {
+    const TemporaryFolder elsewhere(L"bdc_elsewhere");
+    for (const bool lacking : {false, true}) {
+        const fs::path path = elsewhere.Add(lacking ? L"bdc_stub_lacking.dll" : L"bdc_stub.dll", kLibrary);
+        const Family family(lacking ? L"bdc_stub.dll" : L"bdc_stub_lacking.dll");
+        HMODULE loaded = LoadLibraryW(path.c_str());
+        ASSERT_NE(loaded, nullptr);
+        EXPECT_EQ(family.Everything(), kUsable);
+        EXPECT_TRUE(fs::equivalent(LoadedPath(kLibrary), path));
+        FreeLibrary(loaded);
+        EXPECT_EQ(LoadedPath(kLibrary), fs::path());
+        fs::remove(path);
+    }
+}
+
+TEST(Bdc, OrderAndArgumentsOfTheCalls) {
+    const Family family;
+    script.device.inputTrays.items.Append(RawBytes(108)).Append(RawBytes(108));
+    script.device.outputTrays.items = RawBytes(0);
+    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
+    EXPECT_EQ(
+        CallTexts(),
+        Words({"BdcGetLibVersion, state 1", "BdcGetDevCommInfo 10.0.0.9, state 1", "BdcGetDevName, state 1",
+               "BdcGetDevFirmwareVersion, state 1, null", "BdcGetDevFirmwareVersion, state 1, 1 items",
+               "BdcGetDevMemoryCapacity, state 1, null", "BdcGetDevMemoryCapacity, state 1, 1 items",
+               "BdcGetDevOptionInfo, state 1, null", "BdcGetDevOptionInfo, state 1, 1 items",
+               "BdcGetDevInputTrayInfoEx, selector 2, state 1, null",
+               "BdcGetDevInputTrayInfoEx, selector 2, state 1, 3 items",
+               "BdcGetDevOutputTrayInfo, state 1, null", "BdcGetDevMediaPathInfo, state 1, information",
+               "BdcGetDevFinisherInfo, state 1, null", "BdcGetDevFinisherInfo, state 1, 1 items"}));
+    const RawBytes record =
+        RawBytes(428).U32(0, 1).U32(4, 1).Text(8, kAgent).U32(72, 0x12345678).Text(396, "tovask");
+    for (size_t i = 2; i < script.calls.size(); ++i) {
+        ASSERT_EQ(script.calls[i].record.size(), 428u);
+        EXPECT_EQ(Differences(script.calls[i].record.data(), record), "") << script.calls[i].text;
+    }
+}
+
+TEST(Bdc, Options) {
+    const Family family;
+    Device& device = script.device;
+    device.options.items = OptionItem(5, "QB-220");
+    device.finishers.items = FinisherItem(0x24);
+    EXPECT_EQ(family.Option("OpOutTrayUnit"), "OpOutTrayUnit1");
+    EXPECT_EQ(family.Option("OpPunchKit"), "DisOpPunchKit");
+    device.options.items.Append(OptionItem(6, "QC-330"));
+    EXPECT_EQ(family.Option("OpPunchKit"), "OpPunchKit2");
+
+    device.options.items = OptionItem(6, "QE-550");
+    EXPECT_EQ(family.Option("OpMailBinKit"), "EnaOpMailBinKit");
+    device.options.items.Append(OptionItem(6, "QE-550"));
+    EXPECT_EQ(family.Option("OpMailBinKit"), "DisOpMailBinKit");
+
+    device.memory.items = MemoryItem(3);
+    EXPECT_EQ(family.Option("OpHDD"), "EnaOpHDD");
+    device.memory.items.Append(MemoryItem(3));
+    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
+    device.memory.items = MemoryItem(1);
+    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
+    device.memory.status = 1;
+    device.memory.items = MemoryItem(3);
+    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
+
+    EXPECT_EQ(family.Option("OpMachine"), "OpMachine1");
+    EXPECT_EQ(family.Option("opmachine"), "OpMachine1");
+    EXPECT_EQ(family.Option("OpNothing"), "");
+}
+
+TEST(Bdc, Trays) {
+    const Family family;
+    struct Tray tray = {2, 260, 1, 0xFFFF, 3};
+    script.device.inputTrays.items = TrayItem(tray);
+    EXPECT_EQ(family.Tray("InTray2"), "A4 MediaTypeList_Landscape Plain    65535");
+    tray.color = 15;
+    tray.secondSide = 1;
+    script.device.inputTrays.items = TrayItem(tray);
+    EXPECT_EQ(family.Tray("intray2"), "A4 MediaTypeList_Landscape Color    65535");
+    for (const char* key : {"InTray5", "InTray1"})
+        EXPECT_EQ(family.Tray(key), kUnknownTray) << key;
+}
+
+TEST(Bdc, AnotherModelAndNoAnswer) {
+    const Family family;
+    script.device.name.octets =
+        RawBytes(324).Text(4, "quorvane lumora r880").Text(260, "quorvane lumora r880");
+    EXPECT_EQ(family.Everything(), Words({"1", "0", "refused", "refused"}));
+    for (Answer* answer : {&script.version, &script.device.communication, &script.device.name}) {
+        script.device = {};
+        script.version.status = 0;
+        answer->status = -1;
+        EXPECT_EQ(family.Communicates(), -1);
+    }
+}
+
+TEST(Bdc, NullArguments) {
+    const Family family;
+    char items[228] = {};
+    for (const char* name : {"DDProc_OptionRequest", "DDProc_InputTrayStatus"})
+        for (const bool agent : {false, true}) {
+            SetLastError(0);
+            EXPECT_EQ(family.Ask(name, agent ? kAgent : nullptr, 1, agent ? nullptr : items), FALSE);
+            EXPECT_EQ(GetLastError(), 87u) << name;
+        }
+    EXPECT_EQ(family.Communicates(nullptr), -1);
+    EXPECT_TRUE(script.calls.empty());
+}
+
+TEST(Bdc, NothingIsLeftBehind) {
+    const Family family;
+    const auto round = [&family] {
+        script.calls = {}; // its memory would count
+        family.Everything();
+        script.device.name.status = 1 - script.device.name.status;
+        script.calls = {};
+    };
+    for (int i = 0; i < 10; ++i)
+        round();
+    const Holdings before = CountHoldings();
+    for (int i = 0; i < 250; ++i)
+        round(); // four calls each
+    const Holdings after = CountHoldings();
+    EXPECT_EQ(after.handles, before.handles);
+    EXPECT_LE(after.heapBlocks, before.heapBlocks + 8);
+    EXPECT_EQ(LoadedPath(kLibrary), fs::path());
+}
+
+// Each thread asks another device, with another level in its tray and the options of its own.
+TEST(Bdc, SeveralThreads) {
+    const Family family;
+    constexpr unsigned kThreads = 4;
+    const auto agentOf = [](unsigned i) { return "10.0.1." + std::to_string(i); };
+    for (unsigned i = 0; i < kThreads; ++i) {
+        Device& device = script.others[agentOf(i)];
+        device.inputTrays.items = TrayItem({1, 260, 1, 1000 + i});
+        device.memory.items = MemoryItem(i % 2 == 0 ? 3 : 1);
+    }
+    std::atomic<int> wrong{0};
+    std::vector<std::thread> threads;
+    for (unsigned i = 0; i < kThreads; ++i)
+        threads.emplace_back([&, i] {
+            const std::string agent = agentOf(i);
+            const std::string tray = "A4 MediaTypeList_Portrait Plain    " + std::to_string(1000 + i);
+            for (int round = 0; round < 50; ++round)
+                wrong += family.Tray("InTray1", agent.c_str()) != tray
+                         || family.Option("OpHDD", agent.c_str()) != (i % 2 == 0 ? "EnaOpHDD" : "DisOpHDD");
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(wrong, 0);
+    EXPECT_EQ(LoadedPath(kLibrary), fs::path());
+}
+
+} // namespace
