@@ -172,7 +172,7 @@ RawBytes FinisherItem(uint32_t flags) {
     return RawBytes(140).U32(136, flags);
 }
 
-RawBytes TrayItem(const Tray& tray) {
+RawBytes TrayItem(const TrayState& tray) {
     return RawBytes(108)
         .U8(0, 0xEE, 108)
         .U32(4, tray.number)

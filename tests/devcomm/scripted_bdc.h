@@ -46,7 +46,7 @@ struct Device {
 RawBytes OptionItem(uint32_t type, const std::string& model);
 RawBytes MemoryItem(uint32_t kind);
 RawBytes FinisherItem(uint32_t flags);
-struct Tray {
+struct TrayState {
     uint32_t number = 1;
     unsigned size = 260;
     uint32_t type = 1;
@@ -57,7 +57,7 @@ struct Tray {
     uint32_t hole = 0xFFFFFFFF;
     uint32_t secondSide = 0;
 };
-RawBytes TrayItem(const Tray& tray);
+RawBytes TrayItem(const TrayState& tray);
 
 struct Call {
     // Such as "BdcGetDevInputTrayInfoEx, selector 2, state 1, null" and then "..., state 1, 3 items". A block
