@@ -121,7 +121,7 @@ BOOL WINAPI CloseHandle(HANDLE file);
 // Blocks that are not asked for zero-filled come filled with a pattern. The handle of a movable block is not
 // its address; freeing one that is still locked counts as a block left behind.
 HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
-HGLOBAL WINAPI GlobalFree(HGLOBAL block);
+HGLOBAL WINAPI GlobalFree(HGLOBAL handle);
 LPVOID WINAPI GlobalLock(HGLOBAL handle);
 BOOL WINAPI GlobalUnlock(HGLOBAL handle);
 HGLOBAL WINAPI GlobalHandle(const void* block);

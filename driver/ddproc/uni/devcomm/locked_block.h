@@ -8,7 +8,7 @@
 
 // Null without memory.
 inline void* AllocateLockedOctets(size_t octets) {
-    const HGLOBAL handle = GlobalAlloc(GHND, octets);
+    HGLOBAL handle = GlobalAlloc(GHND, octets);
     void* block = handle != nullptr ? GlobalLock(handle) : nullptr;
     if (handle != nullptr && block == nullptr)
         GlobalFree(handle);
@@ -24,7 +24,7 @@ Record* AllocateLocked() {
 inline void FreeLocked(void* block) {
     if (block == nullptr)
         return;
-    const HGLOBAL handle = GlobalHandle(block);
+    HGLOBAL handle = GlobalHandle(block);
     GlobalUnlock(handle);
     GlobalFree(handle);
 }

@@ -165,15 +165,6 @@ bool Matches(const ObjectReply& reply, int32_t comparison, const char* expected)
 
 } // namespace
 
-bool CanQuery(bool argumentsAreGiven) {
-    return SnmpApiIsBound() && (argumentsAreGiven || RefuseArgument());
-}
-
-bool RefuseArgument() {
-    SetLastError(ERROR_INVALID_PARAMETER);
-    return false;
-}
-
 AgentSession::AgentSession(const char* agent, SessionLimits limits)
     : handle(snmpEntryPoints.snmpMgrOpen(agent, kCommunity, limits.timeOut, limits.retries)) {}
 

@@ -7,12 +7,17 @@
 #include "devcomm/query_tables.h"
 #include "devcomm/snmp_entry_points.h"
 
+// False, with last error 87.
+inline bool RefuseArgument() {
+    SetLastError(ERROR_INVALID_PARAMETER);
+    return false;
+}
+
 // Whether a query may ask at all: the entry points are bound, and its arguments are there. Without the latter
 // the last error is 87; without the former it stays as it was.
-bool CanQuery(bool argumentsAreGiven);
-
-// False, with last error 87.
-bool RefuseArgument();
+inline bool CanQuery(bool argumentsAreGiven) {
+    return SnmpApiIsBound() && (argumentsAreGiven || RefuseArgument());
+}
 
 // How long the system's libraries wait for an agent.
 struct SessionLimits {
