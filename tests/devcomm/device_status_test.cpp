@@ -285,6 +285,20 @@ TEST_F(BdcStatus, ContextBeforeTheFirstQuestion) {
         Differences(&context->version, RawBytes(sizeof(*context) - offsetof(BdcDeviceContext, version))), "");
 }
 
+TEST_F(BdcStatus, EachSuccessKeepsTheStateWord) {
+    const Context context(BdcOpenDevice(kAgent));
+    ASSERT_NE(context, nullptr);
+    Answer* const answers[] = {&script.version, &script.device.communication, &script.device.name};
+    bool (*const questions[])(BdcDeviceContext&) = {BdcAskVersion, BdcAskCommunication, BdcAskName};
+    for (size_t i = 0; i < 3; ++i)
+        for (const int32_t status : {-1, 0}) {
+            context->lastState = 7;
+            answers[i]->status = status;
+            EXPECT_EQ(questions[i](*context), status == 0);
+            EXPECT_EQ(context->lastState, status == 0 ? kStateAfter : 7u) << i;
+        }
+}
+
 TEST_F(BdcStatus, AllocationFailures) {
     RegisterSystemLibraries();
     platform::FailAllocations(1);
