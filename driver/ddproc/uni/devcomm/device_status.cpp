@@ -1,7 +1,7 @@
 // The exports of the bidirectional path: see the header.
 #include "devcomm/device_status.h"
 
-#include "devcomm/device_tables.h"
+#include "devcomm/bdc_tables.h"
 #include "devcomm/scope_guard.h"
 #include "paramdata/text.h"
 

@@ -1,6 +1,6 @@
 // What the codes and names of the bidirectional library mean in the driver's vocabulary.
-#ifndef DEVCOMM_DEVICE_TABLES_H
-#define DEVCOMM_DEVICE_TABLES_H
+#ifndef DEVCOMM_BDC_TABLES_H
+#define DEVCOMM_BDC_TABLES_H
 
 #include "devcomm/bdc_device.h"
 

@@ -1,5 +1,5 @@
 // The tables of the bidirectional path, and the look-ups in them: see the header.
-#include "devcomm/device_tables.h"
+#include "devcomm/bdc_tables.h"
 
 #include "paramdata/text.h"
 
