@@ -42,4 +42,7 @@ Function ModuleExport(const FamilyFiles& family, const char* name) {
     return reinterpret_cast<Function>(FindModuleExport(family, name));
 }
 
+// The same, by the name that it is declared under.
+#define EXPORT(family, name) ModuleExport<decltype(&(name))>(family, #name)
+
 #endif

@@ -25,9 +25,6 @@ constexpr Field kEntryFields[] = {
     {"storage", Show<&StoredResourceEntry::storage>},
 };
 
-// An export of the module, looked up by its own name.
-#define EXPORT(family, name) ModuleExport<decltype(&(name))>(family, #name)
-
 constexpr int32_t kStateWithColor = 1; // of a supply: the others have none
 
 // Last errors that requests leave and that mean something else to the system.

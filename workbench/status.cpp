@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kLibraryName = "TELMAR_B.DLL";
 
-// What the module knows to ask about on this road; it has no table to be read.
+// What the module can be asked on this road. Its tables of them are its own, without an export.
 constexpr const char* kOptions[] = {
     "OpMachine",    "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit",
     "OpMailBinKit", "OpSaddleKit",  "OpFAXUnit",     "OpHDD",
@@ -40,30 +40,18 @@ constexpr Field kTrayFields[] = {
     {"hole", ShowKey<&InputTrayStatusItem::hole>},
 };
 
-// An export of the module, looked up by its own name.
-#define EXPORT(family, name) ModuleExport<decltype(&(name))>(family, #name)
-
-void CheckUsable(const FamilyFiles& family) {
-    if (EXPORT(family, DDProc_IsEnableBdcLib)())
-        return;
+// What to do when the library is not usable, the device not reached or of another model; null when all is
+// well.
+Document Hint(const FamilyFiles& family, bool isUsable, bool isReached, bool isThisModel) {
     const std::filesystem::path path = family.modulePath.parent_path() / kLibraryName;
-    throw Failure(kExitFailed,
-                  std::string(kLibraryName)
-                      + ": the bidirectional library is missing, or lacks one of its functions or a library "
-                        "of the system. It is looked for where Windows looks for libraries, the program's "
-                        "folder first, and then as "
-                      + path.u8string() + "; put the complete one there, or ask with 'workbench query'");
-}
-
-void CheckReached(const FamilyFiles& family, const std::string& agent) {
-    int32_t isThisModel = 0;
-    if (!EXPORT(family, DDProc_IsCommunicateDevice)(agent.c_str(), &isThisModel))
-        throw Failure(kExitFailed,
-                      agent
-                          + ": no device answers through the bidirectional library; check the address, and "
-                            "that the printer is on");
-    if (isThisModel == 0)
-        throw Failure(kExitFailed, agent + ": the device is of another model");
+    if (!isUsable)
+        return std::string(kLibraryName)
+               + " is missing, or lacks one of its functions or a library of the system. It is looked for where "
+                 "Windows looks for libraries, the program's folder first, and then as "
+               + path.u8string() + ": put the complete one there, or ask with 'workbench query'";
+    if (!isReached)
+        return "no device answers: check the address, and that the printer is on";
+    return isThisModel ? Document() : Document("the device is of another model: ask one of this model");
 }
 
 // Asks an export about each of the keys.
@@ -84,16 +72,30 @@ Document Ask(BOOL(WINAPI* ask)(const char*, DWORD, Item*), const std::string& ag
     return rows;
 }
 
+// A question that depends on one that was answered by no is not asked: null.
 Document Status(const FamilyFiles& family, const std::string& agent) {
-    CheckUsable(family);
-    CheckReached(family, agent);
-    return {
-        {"printer", {{"address", agent}, {"libraryUsable", true}, {"reached", true}, {"thisModel", true}}},
-        {"options",
-         Ask(EXPORT(family, DDProc_OptionRequest), agent, &OptionRequestItem::key, kOptions, kOptionFields)},
-        {"trays",
-         Ask(EXPORT(family, DDProc_InputTrayStatus), agent, &InputTrayStatusItem::tray, kTrays, kTrayFields)},
+    const bool isUsable = EXPORT(family, DDProc_IsEnableBdcLib)() != FALSE;
+    int32_t model = 0;
+    const bool isReached =
+        isUsable && EXPORT(family, DDProc_IsCommunicateDevice)(agent.c_str(), &model) != FALSE;
+    const bool isThisModel = model != 0;
+    Document document;
+    document["printer"] = {
+        {"address", agent},
+        {"libraryUsable", isUsable},
+        {"reached", isUsable ? Document(isReached) : Document()},
+        {"thisModel", isReached ? Document(isThisModel) : Document()},
+        {"hint", Hint(family, isUsable, isReached, isThisModel)},
     };
+    document["options"] = nullptr;
+    document["trays"] = nullptr;
+    if (isThisModel) {
+        document["options"] = Ask(EXPORT(family, DDProc_OptionRequest), agent, &OptionRequestItem::key,
+                                  kOptions, kOptionFields);
+        document["trays"] = Ask(EXPORT(family, DDProc_InputTrayStatus), agent, &InputTrayStatusItem::tray,
+                                kTrays, kTrayFields);
+    }
+    return document;
 }
 
 } // namespace

@@ -125,9 +125,13 @@ int32_t TrayNumber(const ObjectText& word) {
     return 0;
 }
 
-// Sheets, or a level that is no number, in 16 bits.
-uint16_t TrayLevel(int32_t level) {
-    return static_cast<uint16_t>(level < INT16_MAX ? level : INT16_MAX);
+// Sheets, or a level that is no number, in 16 bits. What is absent or no level at all is unknown.
+uint16_t TrayLevel(const ObjectNumber& level) {
+    constexpr int32_t kUnknown = -2;
+    constexpr int32_t kLeast = -3;
+    if (!level.isPresent || level.value < kLeast)
+        return static_cast<uint16_t>(kUnknown);
+    return static_cast<uint16_t>(level.value < INT16_MAX ? level.value : INT16_MAX);
 }
 
 void ReadInputTray(DeviceRow& row, BdcInputTrayItem& item) {
@@ -138,7 +142,7 @@ void ReadInputTray(DeviceRow& row, BdcInputTrayItem& item) {
     item.mediaType = Number(row, kPaperType).value;
     item.color = Number(row, kPaperColor).value;
     item.secondSide = Number(row, kPaperSecondSide).value;
-    item.level = TrayLevel(Number(row, kInputLevel).value); // the row's number is the input's
+    item.level = TrayLevel(Number(row, kInputLevel)); // the row's number is the input's
     item.weight = kNotTold;
     item.hole = kNotTold;
 }
@@ -179,7 +183,9 @@ DeviceSession::DeviceSession(const BdcDeviceRecord& device)
     : printer(device.communication != 0 ? device.communication : 1), agent(), community() {
     CopyText(agent, device.agent);
     CopyText(community, device.community);
-    handle = snmpEntryPoints.snmpMgrOpen(agent, community, kQueryLimits.timeOut, kQueryLimits.retries);
+    // A device that has not told its printer's number has not been reached: it is not waited for as long.
+    const SessionLimits limits = device.communication != 0 ? kQueryLimits : kReachLimits;
+    handle = snmpEntryPoints.snmpMgrOpen(agent, community, limits.timeOut, limits.retries);
 }
 
 DeviceSession::~DeviceSession() {

@@ -109,8 +109,7 @@ int32_t WINAPI BdcGetDevFinisherInfo(const BdcDeviceRecord* device, uint32_t* co
 
 int32_t WINAPI BdcGetDevInputTrayInfoEx(const BdcDeviceRecord* device, uint32_t* count, uint32_t selector,
                                         uint32_t* /*state*/, BdcInputTrayItem* items) {
-    constexpr uint32_t kWithPaper = 2;
-    return selector == kWithPaper ? AnswerList(kInputTrayList, device, count, items) : kBdcBadArgument;
+    return selector == kBdcTraySelector ? AnswerList(kInputTrayList, device, count, items) : kBdcBadArgument;
 }
 
 int32_t WINAPI BdcNotOffered() {

@@ -11,7 +11,7 @@
 #include "devcomm/bdc_device.h"
 
 constexpr int32_t kBdcDone = 0;
-constexpr int32_t kBdcNothing = 1;       // the device answers, but has none of it
+// kBdcNothing: the device answers, but has none of it
 constexpr int32_t kBdcNoAnswer = -1;     // it can't be reached or has fallen silent: the last error tells why
 constexpr int32_t kBdcBadArgument = -2;  // a null argument, an empty address, an unknown selector
 constexpr int32_t kBdcNotSupported = -3; // by this stand-in

@@ -11,8 +11,6 @@ namespace {
 constexpr const char* kModelName = "QUORVANE lumora R880";
 constexpr const char* kCommunity = "tovask";
 constexpr uint32_t kFirstState = 1;
-constexpr int32_t kNothing = 1; // a status that some calls count as a failure
-constexpr uint32_t kTraySelector = 2;
 
 using VersionFunction = int32_t WINAPI(uint32_t* state, BdcLibVersion* version);
 using CommInfoFunction = int32_t WINAPI(const char* agent, uint32_t* state, BdcCommInfo* info);
@@ -29,7 +27,7 @@ Function* EntryPoint(const BdcDeviceContext& context, BdcFunction function) {
 }
 
 bool Succeeded(int32_t status) {
-    return status >= 0 && status != kNothing;
+    return status >= 0 && status != kBdcNothing;
 }
 
 // The lists, in the order in which they are asked for.
@@ -57,7 +55,8 @@ int32_t CallForList(const BdcDeviceContext& context, BdcFunction function, uint3
     const BdcDeviceRecord* device = &context.device;
     switch (function) {
     case kBdcGetDevInputTrayInfoEx:
-        return EntryPoint<TrayListFunction>(context, function)(device, &count, kTraySelector, &state, items);
+        return EntryPoint<TrayListFunction>(context, function)(device, &count, kBdcTraySelector, &state,
+                                                               items);
     case kBdcGetDevMediaPathInfo:
         return EntryPoint<MediaPathFunction>(context, function)(device, &state, items);
     default:
@@ -66,12 +65,15 @@ int32_t CallForList(const BdcDeviceContext& context, BdcFunction function, uint3
 }
 
 // How many items there are to fetch; 0 when that is not known.
-uint32_t AskCount(const BdcDeviceContext& context, BdcFunction function) {
+uint32_t AskCount(BdcDeviceContext& context, BdcFunction function) {
     if (function == kBdcGetDevMediaPathInfo)
         return 1;
     uint32_t count = 0;
     uint32_t state = context.firstState;
-    return CallForList(context, function, count, state, nullptr) >= 0 ? count : 0;
+    if (CallForList(context, function, count, state, nullptr) < 0)
+        return 0;
+    context.lastState = state;
+    return count;
 }
 
 void FetchList(BdcDeviceContext& context, const ListDescription& description) {

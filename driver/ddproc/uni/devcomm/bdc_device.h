@@ -5,6 +5,12 @@
 
 #include "devcomm/bdc_library.h"
 
+// Statuses of the library: negative ones are failures, and this one is for some calls.
+constexpr int32_t kBdcNothing = 1;
+
+// Selects the input trays with what lies in them.
+constexpr uint32_t kBdcTraySelector = 2;
+
 #pragma pack(push, 1)
 
 struct BdcDeviceRecord {
@@ -44,6 +50,7 @@ static_assert(sizeof(BdcNameInfo) == 324 && offsetof(BdcNameInfo, longName) == 4
 struct BdcFirmwareItem {
     uint8_t notRead[132];
 };
+static_assert(sizeof(BdcFirmwareItem) == 132);
 
 struct BdcMemoryItem {
     uint8_t notRead[8];
@@ -83,6 +90,7 @@ static_assert(sizeof(BdcInputTrayItem) == 108 && offsetof(BdcInputTrayItem, tray
 struct BdcOutputTrayItem {
     uint8_t notRead[144];
 };
+static_assert(sizeof(BdcOutputTrayItem) == 144);
 
 struct BdcMediaPathInfo {
     uint8_t notRead[4];

@@ -48,6 +48,7 @@ bool CanLoad(const wchar_t* name) {
 int32_t BdcLoadLibrary(BdcFunctionTable* table, const wchar_t* path) {
     if (table == nullptr)
         return sizeof(BdcFunctionTable);
+    *table = {};
     table->library = LoadLibraryW(path);
     if (table->library == nullptr)
         return 0;

@@ -18,6 +18,7 @@ BdcDeviceContext* AskDevice(const char* agent) {
     BdcFillDevice(*device);
     if (BdcIsModel(*device))
         return device;
+    const KeepLastError keep;
     BdcCloseDevice(device);
     return nullptr;
 }

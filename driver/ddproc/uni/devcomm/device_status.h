@@ -1,6 +1,7 @@
 // The exports that ask a device through the driver family's bidirectional library: whether it can be used,
 // whether a device answers, its options, its input trays. Each loads the library and frees it before it
-// returns; nothing is kept between calls or shared by them. An agent is a dotted IPv4 address or a host name.
+// returns; nothing is kept between calls or shared by them. An agent is a dotted IPv4 address or a host name
+// of at most 63 octets.
 #ifndef DEVCOMM_DEVICE_STATUS_H
 #define DEVCOMM_DEVICE_STATUS_H
 

@@ -1,6 +1,6 @@
 // Reading one object of a printer through the SNMP entry points: a session, a request of one varbind, and
-// what the reply says. Every query is made of these; callers have asked
-// CanQuery before.
+// what the reply says. Every query is made of these. Callers have made sure that the entry points are bound,
+// as CanQuery does.
 #ifndef DEVCOMM_OBJECT_READER_H
 #define DEVCOMM_OBJECT_READER_H
 
