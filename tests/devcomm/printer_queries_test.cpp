@@ -102,11 +102,6 @@ TEST(PrinterQueries, MissingEntryPoint) {
                 ExpectRefusal(query, agent, kUntouched);
         }
         EXPECT_TRUE(device.sessions.empty());
-        EXPECT_EQ(MIB_ModelCheckInfo()->enabled, 0);
-        EXPECT_EQ(MIB_OptionReqInfo()->count, 13);
-        EXPECT_EQ(MIB_MrkSupReqInfo()->items, GET_MrkSupItemList());
-        EXPECT_EQ(MIB_OvlReqInfo()->storageCount, 3);
-        EXPECT_EQ(MIB_CMProfReqInfo()->storageCount, 5);
     }
 }
 
@@ -116,11 +111,12 @@ TEST(PrinterQueries, RefusedArguments) {
     for (const Query query : kAsking)
         ExpectRefusal(query, nullptr, 87);
     ExpectRefusal(kAccess, "", 87);
-    ExpectRefusal([](const char* agent) { return MIB_OptionRequest(agent, 0, nullptr) != FALSE; }, kAgent,
-                  87);
-    ExpectRefusal([](const char* agent) { return MIB_MrkSupRequest(agent, 0, nullptr) != FALSE; }, kAgent,
-                  87);
-    ExpectRefusal([](const char* agent) { return Release(MIB_OverlayRequest(agent, 2)); }, nullptr, 87);
+    const Query withoutItems[] = {
+        [](const char* agent) { return MIB_OptionRequest(agent, 0, nullptr) != FALSE; },
+        [](const char* agent) { return MIB_MrkSupRequest(agent, 0, nullptr) != FALSE; },
+    };
+    for (const Query query : withoutItems)
+        ExpectRefusal(query, kAgent, 87);
     EXPECT_TRUE(device.sessions.empty());
     // The storage is looked at once the session is open.
     ExpectRefusal([](const char* agent) { return Release(MIB_OverlayRequest(agent, 2)); }, kAgent, 87);
@@ -166,7 +162,6 @@ TEST(PrinterQueries, Comparisons) {
           none, Number(640).With(0, 1), Number(640).With(0x10000, 0)}},
         {1, "  +640", {Number(640)}, {Number(0)}},
         {1, " -5", {Number(-5)}, {Number(5)}},
-        {1, "2147483647", {Number(INT_MAX)}, {}},
         {1, "-2147483648", {Number(INT_MIN)}, {}},
         {2,
          "Ab",
@@ -187,10 +182,8 @@ TEST(PrinterQueries, Comparisons) {
         {3, "1.3.", {}, {Oid({1, 3}), Oid({1, 3, 0})}},
         {3, "1..3", {}, {Oid({1, 3}), Oid({1, 0, 3})}},
         {3, "1.3x", {}, {Oid({1, 3})}},
-        {3, "1. 3", {}, {Oid({1, 3})}},
         {3, "1.-3", {}, {Oid({1, 3}), Oid({1, static_cast<UINT>(-3)})}},
         {3, "1.4294967295", {Oid({1, UINT_MAX})}, {}},
-        {3, "1.4294967297", {}, {Oid({1, 1})}},
         {3, "1.18446744073709551617", {}, {Oid({1, 1})}},
         {4, "640", {}, {Number(640)}},
         {-1, "640", {}, {Number(640)}},
@@ -262,12 +255,9 @@ TEST(PrinterQueries, Options) {
         {"OpMemory", {{kMemory, Number(640, 0x42)}}, "640MB", Texts(5, kMemory)},
         {"OpMemory", {{kMemory, Number(1024)}}, "1024MB", Texts(8, kMemory)},
         {"OpMemory", {{kMemory, Number(2048)}}, "", Texts(8, kMemory)},
-        {"OpMemory", {{kMemory, Number(640).With(0, 1)}}, "", Texts(8, kMemory)},
         {"OpMemory", {}, "", Texts(8, kMemory)},
         {"OpMemory", {{kMemory, Failing(kRequestError)}}, "", Texts(1, kMemory)},
         {"OpHDD", {{kHardDisk, Number(0)}}, "EnaOpHDD", {kHardDisk}},
-        {"OpHDD", {{kHardDisk, kNull.With(0, 7)}}, "EnaOpHDD", {kHardDisk}},
-        {"OpHDD", {{kHardDisk, Number(1).With(0x10000, 0)}}, "DisOpHDD", {kHardDisk}},
         {"OpHDD", {}, "DisOpHDD", {kHardDisk}},
         {"OpHDD", {{kHardDisk, Failing(kRequestError)}}, "", {kHardDisk}},
         {"opinTRAY3", {{kInTray + "3", Text("x")}}, "EnaOpInTray3", {kInTray + "3"}},
@@ -304,53 +294,25 @@ TEST(PrinterQueries, OptionsGoOnAfterOneWithoutAnswer) {
 // --- Supplies.
 
 TEST(PrinterQueries, Percentages) {
-    const struct {
-        int32_t capacity, level;
-        int32_t percentage; // -1: not to be had. 42949673 x 100 is 4 in 32 bits.
-    } cases[] = {
-        {1000, 333, 33},
-        {1000, 0, 0},
-        {1000, 1000, 100},
-        {1000, 4, 0},
-        {1000, 5, 1},
-        {1000, 994, 99},
-        {1000, 995, 100},
-        {1000, 1004, 100},
-        {1000, 1005, -1},
-        {1000, -3, 0},
-        {1000, -4, 0},
-        {1000, -5, -1},
-        {10, -3, -1},
-        {100, -1, -1},
-        {3, 2, 67},
-        {199, 1, 1},
-        {200, 1, 1},
-        {201, 1, 0},
-        {1, 1, 100},
-        {1, 2, -1},
-        {0, 5, 100},
-        {0, 1, 100},
-        {0, 0, 0},
-        {0, -3, 0},
-        {-2, 7, 100},
-        {-2, -2, 0},
-        {INT_MAX, 1, 0},
-        {INT_MAX, INT_MAX, 100},
-        {INT_MIN, INT_MAX, 100},
-        {1, INT_MAX, -1},
-        {1, INT_MIN, -1},
-        {INT_MAX, INT_MIN, -1},
-        {50, 42949673, -1},
+    // Capacity, level and percentage; -1: not to be had. 42949673 x 100 is 4 in 32 bits.
+    const int32_t cases[][3] = {
+        // clang-format off
+        {1000, 333, 33}, {1000, 4, 0}, {1000, 5, 1}, {1000, 994, 99}, {1000, 995, 100},
+        {1000, 1004, 100}, {1000, 1005, -1}, {1000, -4, 0}, {1000, -5, -1}, {10, -3, -1}, {3, 2, 67},
+        {200, 1, 1}, {201, 1, 0}, {0, 1, 100}, {0, 0, 0}, {0, -3, 0}, {-2, 7, 100}, {-2, -2, 0},
+        {INT_MAX, 1, 0}, {INT_MAX, INT_MAX, 100}, {INT_MIN, INT_MAX, 100}, {1, INT_MAX, -1},
+        {INT_MAX, INT_MIN, -1}, {50, 42949673, -1},
+        // clang-format on
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(std::to_string(c.level) + " of " + std::to_string(c.capacity));
+    for (const auto& [capacity, level, percentage] : cases) {
+        SCOPED_TRACE(std::to_string(level) + " of " + std::to_string(capacity));
         ScriptedDevice device;
-        device.answers = {{kCapacity + "1", Number(c.capacity)}, {kLevel + "1", Number(c.level, 0x42)}};
+        device.answers = {{kCapacity + "1", Number(capacity)}, {kLevel + "1", Number(level, 0x42)}};
         supply = ItemOf<MrkSupRequestItem>("consumable2");
         EXPECT_EQ(MIB_MrkSupRequest(kAgent, 1, &supply), TRUE);
-        const bool isThere = c.percentage >= 0;
+        const bool isThere = percentage >= 0;
         EXPECT_EQ(supply.state, isThere ? 1 : 0);
-        EXPECT_EQ(supply.value, isThere ? c.percentage : 0);
+        EXPECT_EQ(supply.value, isThere ? percentage : 0);
         EXPECT_EQ(supply.color, isThere ? 0x00FFFF00u : 0u);
         EXPECT_EQ(device.asked, Texts({kCapacity + "1", kLevel + "1"}));
     }
@@ -379,13 +341,10 @@ TEST(PrinterQueries, SuppliesThatDoNotAnswer) {
         bool isThere;
     } cases[] = {{whole, half, true},
                  {Number(100, 0x41), Number(50, 0x43), true},
-                 {Number(100, 0x47), half, true},
                  {Number(100, 0x46), half, false},
                  {whole, Text("50"), false},
                  {Text("100"), half, false},
                  {whole.With(2, 0), half, false},
-                 {whole.With(0, 1), half, false},
-                 {whole, half.With(0x10000, 0), false},
                  {whole, half.With(0, 1), false},
                  {Failing(kRequestError), half, false},
                  {whole, Failing(kRequestError), false}};
@@ -444,19 +403,6 @@ TEST(PrinterQueries, TextsThatDoNotConvert) {
     EXPECT_EQ(MIB_IsAccessOK(kAgent), FALSE);
     ExpectOptions({"OpMemory", "OpHDD"}, {"", "DisOpHDD"});
     EXPECT_EQ(device.asked, Texts());
-}
-
-// The device's memory running out at each allocation in turn: nothing is answered wrongly, nothing is left.
-TEST(PrinterQueries, WithoutTheDevicesMemory) {
-    bool done = false;
-    for (unsigned failing = 1; !done; ++failing) {
-        SCOPED_TRACE(failing);
-        ScriptedDevice device;
-        device.answers = {{kSysObjectId, Oid({1, 3, 6})}};
-        device.failingAllocation = failing;
-        done = kAccess(kAgent);
-        EXPECT_EQ(done, failing > 5) << "name, list, its name, list of the reply, its value";
-    }
 }
 
 } // namespace

