@@ -40,9 +40,8 @@ constexpr Field kTrayFields[] = {
     {"hole", ShowKey<&InputTrayStatusItem::hole>},
 };
 
-// What to do when the library is not usable, the device not reached or of another model; null when all is
-// well.
-Document Hint(const FamilyFiles& family, bool isUsable, bool isReached, bool isThisModel) {
+// What to do when the library is not usable, the device not reached or of another model.
+std::string Hint(const FamilyFiles& family, bool isUsable, bool isReached) {
     const std::filesystem::path path = family.modulePath.parent_path() / kLibraryName;
     if (!isUsable)
         return std::string(kLibraryName)
@@ -51,7 +50,7 @@ Document Hint(const FamilyFiles& family, bool isUsable, bool isReached, bool isT
                + path.u8string() + ": put the complete one there, or ask with 'workbench query'";
     if (!isReached)
         return "no device answers: check the address, and that the printer is on";
-    return isThisModel ? Document() : Document("the device is of another model: ask one of this model");
+    return "the device is of another model: ask one of this model";
 }
 
 // Asks an export about each of the keys.
@@ -85,8 +84,9 @@ Document Status(const FamilyFiles& family, const std::string& agent) {
         {"libraryUsable", isUsable},
         {"reached", isUsable ? Document(isReached) : Document()},
         {"thisModel", isReached ? Document(isThisModel) : Document()},
-        {"hint", Hint(family, isUsable, isReached, isThisModel)},
     };
+    if (!isThisModel)
+        document["printer"]["hint"] = Hint(family, isUsable, isReached);
     document["options"] = nullptr;
     document["trays"] = nullptr;
     if (isThisModel) {
