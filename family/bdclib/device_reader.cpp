@@ -2,7 +2,7 @@
 // the rest is in the equipment's tables of docs/simulating_a_printer.md.
 #include "bdclib/device_reader.h"
 
-#include "devcomm/scope_guard.h"
+#include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>

@@ -2,16 +2,20 @@
 #include "devcomm/device_status.h"
 
 #include "devcomm/bdc_tables.h"
-#include "devcomm/scope_guard.h"
+#include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>
 
 namespace {
 
-// A device of this model with everything the library tells of it; null when there is none. Freed by
-// BdcCloseDevice.
-BdcDeviceContext* AskDevice(const char* agent) {
+// A device of this model with everything the library tells of it, for the caller's items; null when there is
+// none, with last error 87 when an argument is missing. Freed by BdcCloseDevice.
+BdcDeviceContext* AskDevice(const char* agent, const void* items) {
+    if (agent == nullptr || items == nullptr) {
+        SetLastError(ERROR_INVALID_PARAMETER);
+        return nullptr;
+    }
     BdcDeviceContext* device = BdcOpenDevice(agent);
     if (device == nullptr)
         return nullptr;
@@ -47,11 +51,6 @@ void AnswerTray(const BdcDeviceContext& device, InputTrayStatusItem& item) {
     item = answer;
 }
 
-BOOL Refuse() {
-    SetLastError(ERROR_INVALID_PARAMETER);
-    return FALSE;
-}
-
 } // namespace
 
 BOOL WINAPI DDProc_IsEnableBdcLib() {
@@ -73,9 +72,7 @@ BOOL WINAPI DDProc_IsCommunicateDevice(const char* agent, int32_t* modelAnswer) 
 }
 
 BOOL WINAPI DDProc_OptionRequest(const char* agent, DWORD count, OptionRequestItem* items) {
-    if (agent == nullptr || items == nullptr)
-        return Refuse();
-    BdcDeviceContext* device = AskDevice(agent);
+    BdcDeviceContext* device = AskDevice(agent, items);
     if (device == nullptr)
         return FALSE;
     const ScopeGuard closeDevice{[device] { BdcCloseDevice(device); }};
@@ -90,9 +87,7 @@ BOOL WINAPI DDProc_OptionRequest(const char* agent, DWORD count, OptionRequestIt
 }
 
 BOOL WINAPI DDProc_InputTrayStatus(const char* agent, DWORD count, InputTrayStatusItem* items) {
-    if (agent == nullptr || items == nullptr)
-        return Refuse();
-    BdcDeviceContext* device = AskDevice(agent);
+    BdcDeviceContext* device = AskDevice(agent, items);
     if (device == nullptr)
         return FALSE;
     const ScopeGuard closeDevice{[device] { BdcCloseDevice(device); }};

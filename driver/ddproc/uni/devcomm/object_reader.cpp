@@ -1,7 +1,7 @@
 // Reading one object of a printer: see the header.
 #include "devcomm/object_reader.h"
 
-#include "devcomm/scope_guard.h"
+#include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>

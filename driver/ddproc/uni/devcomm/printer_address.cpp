@@ -2,8 +2,8 @@
 // the port monitor's transceiver, the registry. Each closes what it has opened.
 #include "devcomm/printer_address.h"
 
-#include "devcomm/scope_guard.h"
 #include "devcomm/system_library.h"
+#include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>

@@ -1,9 +1,9 @@
 // The built-in SNMPv1 manager: see the header.
 #include "devcomm/snmp_client.h"
 
-#include "devcomm/scope_guard.h"
 #include "devcomm/snmp_message.h"
 #include "devcomm/snmp_values.h"
+#include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>

@@ -1,7 +1,7 @@
 // Values and names of the built-in client, and their memory: see the header.
 #include "devcomm/snmp_values.h"
 
-#include "devcomm/scope_guard.h"
+#include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>

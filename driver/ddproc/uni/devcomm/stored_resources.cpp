@@ -2,7 +2,7 @@
 // Declared in devcomm/printer_queries.h.
 #include "devcomm/object_reader.h"
 #include "devcomm/printer_queries.h"
-#include "devcomm/scope_guard.h"
+#include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
 #include <cstring>

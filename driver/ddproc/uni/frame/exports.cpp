@@ -1,4 +1,4 @@
-// The exports that the frame itself answers, and those that have no answer yet.
+// The exports that the frame itself answers, and the one that has no answer yet.
 #include "frame/exports.h"
 
 #include "picture/device_capabilities.h"
@@ -20,15 +20,8 @@ BOOL WINAPI DDProc_DeviceCapabilities(const DeviceTable* device, const FeatureRe
     return AnswerDeviceCapability(device, features, reserved, settings, capability, output, answer);
 }
 
-// Not built yet: FALSE, 0 or null, whatever the arguments. The README lists them.
-#define NO_ANSWER(name)                                                                                      \
-    INT_PTR WINAPI name() {                                                                                  \
-        return 0;                                                                                            \
-    }
-
-NO_ANSWER(DrawPrinterView)
-NO_ANSWER(DrawLogoImage)
-NO_ANSWER(DrawLogoVersionTab)
-NO_ANSWER(DDProc_DlgProc)
-#undef NO_ANSWER
+// Not built yet: 0, whatever the arguments.
+INT_PTR WINAPI DDProc_DlgProc() {
+    return 0;
+}
 }

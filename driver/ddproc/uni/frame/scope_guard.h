@@ -1,7 +1,7 @@
-// What a function does at the end of a scope, on every way out of it. The only objects with a destructor in
-// the module are these and those that own one resource in the same manner.
-#ifndef DEVCOMM_SCOPE_GUARD_H
-#define DEVCOMM_SCOPE_GUARD_H
+// What a function does at the end of a scope, on every way out of it, for every subsystem. The only objects
+// with a destructor in the module are these and those that own one resource in the same manner.
+#ifndef FRAME_SCOPE_GUARD_H
+#define FRAME_SCOPE_GUARD_H
 
 #include <windows.h>
 
