@@ -141,7 +141,7 @@ void AddTray(Scene& scene, Point left, Point right) {
 
 // What carries the paper from the body's bay into a unit at its left.
 void AddRelay(Scene& scene) {
-    AddSolid(scene, {{86, 132}, {77, 87}, {0, 4}}, kBayUnit);
+    AddSolid(scene, {{86, 132}, {76, 87}, {0, 4}}, kBayUnit);
     scene.Panel(FrontPlane(0), {104, 80, 124, 81.5}, Flat({88, 90, 94}), 0.7);
 }
 
