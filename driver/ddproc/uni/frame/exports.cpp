@@ -1,4 +1,4 @@
-// The exports that the frame itself answers, and the one that has no answer yet.
+// The exports that the frame itself answers.
 #include "frame/exports.h"
 
 #include "picture/device_capabilities.h"
@@ -18,10 +18,5 @@ BOOL WINAPI DDProc_DeviceCapabilities(const DeviceTable* device, const FeatureRe
                                       const void* reserved, const FeatureSettings* settings, WORD capability,
                                       void* output, DWORD* answer) {
     return AnswerDeviceCapability(device, features, reserved, settings, capability, output, answer);
-}
-
-// Not built yet: 0, whatever the arguments.
-INT_PTR WINAPI DDProc_DlgProc() {
-    return 0;
 }
 }

@@ -15,7 +15,7 @@ constexpr const char* kColorModes[] = {
 // Entries whose default is the value of an item of the colour table of the same name.
 struct ColorDefault {
     const char* entry;
-    Field field;
+    DevmodeField field;
 };
 // clang-format off
 constexpr ColorDefault kTextAndImageDefaults[] = {

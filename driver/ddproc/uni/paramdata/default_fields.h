@@ -1,25 +1,10 @@
-// What the builders of the default settings share: fields of the record as rows of tables, and the default of
-// an entry. For default_settings.cpp and color_defaults.cpp only.
+// What the builders of the default settings share: the default of an entry. For default_settings.cpp and
+// color_defaults.cpp only.
 #ifndef PARAMDATA_DEFAULT_FIELDS_H
 #define PARAMDATA_DEFAULT_FIELDS_H
 
-#include "paramdata/oem_devmode.h"
+#include "paramdata/devmode_fields.h"
 #include "paramdata/prm_readers.h"
-
-#include <cstring>
-
-// A field of the settings; size 0: none.
-struct Field {
-    uint16_t offset;
-    uint16_t size;
-};
-#define FIELD(name)                                                                                          \
-    { offsetof(OemDevmode, name), sizeof(OemDevmode::name) }
-
-// Writes the low octets of the value.
-inline void Store(OemDevmode& settings, Field field, uint32_t value) {
-    memcpy(reinterpret_cast<uint8_t*>(&settings) + field.offset, &value, field.size);
-}
 
 // The default record of an entry. False when the entry is missing, has none, or has it
 // beyond the end of the file.

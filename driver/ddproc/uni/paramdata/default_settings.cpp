@@ -58,7 +58,7 @@ static_assert(offsetof(PrmTextItem, value) == offsetof(PrmMediaItem, value)
               && offsetof(PrmTextItem, value) == offsetof(PrmTabPaper, value));
 constexpr struct {
     const char* entry;
-    Field field;
+    DevmodeField field;
 } kRecordDefaults[] = {
     // clang-format off
     {"MediaType",       FIELD(mediaType)},
@@ -95,9 +95,9 @@ int32_t Inches(int16_t metric, int32_t k) {
 
 constexpr struct {
     const char* entry;
-    int32_t unit;    // of the file's value, in the field's unit
-    Field metric[2]; // the same value in both
-    Field inches[2];
+    int32_t unit;           // of the file's value, in the field's unit
+    DevmodeField metric[2]; // the same value in both
+    DevmodeField inches[2];
     bool byFigureType; // inches are thousandths for figure type 1, else hundredths; otherwise thousandths
 } kRangeDefaults[] = {
     // clang-format off
@@ -121,16 +121,16 @@ void ApplyRangeDefaults(const PrmFile& file, const DeviceTable& table, OemDevmod
             continue;
         const auto metric = static_cast<int16_t>(static_cast<int16_t>(values[2]) * row.unit);
         const int32_t inches = Inches(metric, row.byFigureType && table.figureType != 1 ? 100 : 1000);
-        for (const Field& field : row.metric)
+        for (const DevmodeField& field : row.metric)
             Store(settings, field, static_cast<uint32_t>(metric));
-        for (const Field& field : row.inches)
+        for (const DevmodeField& field : row.inches)
             Store(settings, field, static_cast<uint32_t>(inches));
     }
 }
 
 constexpr struct {
     const char* entry;
-    Field field;
+    DevmodeField field;
 } kTraySelectionDefaults[] = {
     // clang-format off
     {"FCoverTray",   FIELD(frontCoverTray)},

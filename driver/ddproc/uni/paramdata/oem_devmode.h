@@ -66,10 +66,11 @@ struct OemDevmode {
     uint8_t reserved5[1];
     int32_t userOutputWidthInches;
     int32_t userOutputLengthInches;
-    uint8_t reserved6[4];
-    uint16_t inputTray; // bin number
+    uint8_t unitFlags[4]; // 1: inches; the module's own choice of place
+    uint16_t inputTray;   // bin number
     uint16_t mediaType;
-    uint8_t reserved7[36];
+    uint16_t regionalPaper; // paper of the user's region; the module's own choice of place
+    uint8_t reserved7[34];
     uint16_t detailMediaType; // the same, for the media details
     uint16_t mediaWeight;
     uint16_t mediaColor;
@@ -198,8 +199,9 @@ static_assert(
     && offsetof(OemDevmode, outputPaper) == 96 && offsetof(OemDevmode, outputWidth) == 98
     && offsetof(OemDevmode, outputLength) == 100 && offsetof(OemDevmode, userOutputWidth) == 103
     && offsetof(OemDevmode, userOutputLength) == 105 && offsetof(OemDevmode, userOutputWidthInches) == 108
-    && offsetof(OemDevmode, userOutputLengthInches) == 112 && offsetof(OemDevmode, inputTray) == 120
-    && offsetof(OemDevmode, mediaType) == 122 && offsetof(OemDevmode, detailMediaType) == 160
+    && offsetof(OemDevmode, userOutputLengthInches) == 112 && offsetof(OemDevmode, unitFlags) == 116
+    && offsetof(OemDevmode, inputTray) == 120 && offsetof(OemDevmode, mediaType) == 122
+    && offsetof(OemDevmode, regionalPaper) == 124 && offsetof(OemDevmode, detailMediaType) == 160
     && offsetof(OemDevmode, mediaWeight) == 162 && offsetof(OemDevmode, mediaColor) == 164
     && offsetof(OemDevmode, mediaPrePunched) == 166 && offsetof(OemDevmode, trays) == 167
     && offsetof(OemDevmode, copies) == 598 && offsetof(OemDevmode, collate) == 600

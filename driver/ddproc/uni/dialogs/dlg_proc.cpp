@@ -1,0 +1,62 @@
+// Dispatch of the dialogs' messages, and the tray-settings button: see the header.
+#include "dialogs/dlg_proc.h"
+
+#include "dialogs/color_descriptions.h"
+#include "dialogs/ui_module.h"
+#include "frame/module_handles.h"
+#include "paramdata/device_data.h"
+
+namespace {
+
+constexpr uint32_t kTrayButtonPage = 156;
+constexpr int kTrayButton = 1847;
+constexpr UINT kTraysChangedMessage = WM_USER + 104; // to the page's parent
+
+// Value of the switch -> kind of the tray-setting dialog. None is built in yet.
+struct TrayDialog {
+    uint32_t type;
+    uint32_t templateId;
+    DLGPROC procedure;
+};
+
+const TrayDialog* FindTrayDialog(uint32_t) {
+    return nullptr;
+}
+
+// The number of a switch "TYPEn"; 0 without a device table.
+uint32_t SwitchType(FeatureSwitch position) {
+    return deviceTable != nullptr ? deviceTable->switches[position] : 0;
+}
+
+void OpenTraySettings(HWND page, DialogContext* context) {
+    SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(context));
+    LoadUiModule();
+    const auto run = UiCallback<MyDialogBoxFunction>("MyDialogBox");
+    const TrayDialog* tray = FindTrayDialog(SwitchType(kSwitchDlgMediaType));
+    if (run == nullptr || tray == nullptr)
+        return;
+    const INT_PTR end =
+        run(ResourceModule(), page, tray->templateId, tray->procedure, reinterpret_cast<LPARAM>(context));
+    if (end == IDOK)
+        SendMessageW(GetParent(page), kTraysChangedMessage, reinterpret_cast<WPARAM>(page), 0);
+}
+
+void RunTrayButton(HWND page, UINT message, WPARAM wParam) {
+    auto* context = reinterpret_cast<DialogContext*>(GetWindowLongPtrW(page, DWLP_USER));
+    if (message == WM_COMMAND && context != nullptr && wParam == kTrayButton)
+        OpenTraySettings(page, context);
+}
+
+constexpr const ColorDialog* kColorDialogs[] = {&kFullColorDialog};
+
+} // namespace
+
+int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                              int32_t* handled) {
+    if (dialogId == kTrayButtonPage)
+        RunTrayButton(window, message, wParam);
+    for (const ColorDialog* dialog : kColorDialogs)
+        if (dialog->id == dialogId)
+            return RunColorDialog(*dialog, window, message, wParam, lParam, handled);
+    return 0;
+}

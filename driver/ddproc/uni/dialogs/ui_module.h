@@ -1,0 +1,54 @@
+// The user-interface module while a dialog is open, and the module-wide state of the one dialog that is open
+// at a time. Not locked: everything here runs on the dialog's thread.
+#ifndef DIALOGS_UI_MODULE_H
+#define DIALOGS_UI_MODULE_H
+
+#include "dialogs/ui_callbacks.h"
+
+struct DialogState {
+    HMODULE uiModule;                          // TELMAR_U.DLL; null when it is not loaded
+    DoConstraintsFunction* doConstraintsEntry; // both only used while the module is loaded
+    DispHintControlFunction* dispHintControlEntry;
+    HWND hintToolWindow; // of the colour dialogs
+    uint32_t currentDialogId;
+};
+extern DialogState dialogState;
+
+// Loads TELMAR_U.DLL from beside the module. False, and no module, when that fails. What was loaded before is
+// overwritten, not freed.
+bool LoadUiModule();
+
+// Frees it, when it is loaded.
+void ReleaseUiModule();
+
+// A callback under its type; null without the module, or when the module lacks it.
+template <typename Function>
+Function* UiCallback(const char* name) {
+    if (dialogState.uiModule == nullptr)
+        return nullptr;
+    return reinterpret_cast<Function*>(
+        reinterpret_cast<void (*)()>(GetProcAddress(dialogState.uiModule, name)));
+}
+
+// What differs between the dialogs when they bind themselves to the module.
+struct UiBinding {
+    uint32_t commonItemsId; // passed with the texts of common items
+    const ControlTextRecord* texts;
+    HWND* hintWindow; // where the window that the module creates is kept
+};
+
+// The calls of a dialog's initialisation, from the texts to the first check of all settings and the hints.
+// The module must have been loaded.
+void BindUiModule(HWND dialog, DialogContext* context, const UiBinding& binding);
+
+// Checks the settings after this control has changed (0: all of them). True when the change is refused and
+// must be undone. Without module or callback nothing is.
+bool IsChangeRefused(HWND dialog, HWND hintWindow, uint32_t control);
+
+// Refreshes the hints for the current dialog.
+void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId);
+
+// Has the module draw an icon control. False when it can't.
+bool DrawStopIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item);
+
+#endif
