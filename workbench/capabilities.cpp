@@ -89,10 +89,6 @@ Document Capabilities(const FamilyFiles& family, const std::vector<std::string>&
 } // namespace
 
 Run SetUpCapabilities(CLI::App& command) {
-    const auto assignments = std::make_shared<std::vector<std::string>>();
-    command.add_option("--set", *assignments, "Sets an option feature, such as OpInTray3=DisOpInTray3")
-        ->type_name("FEATURE=ITEM")
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    const auto assignments = AddSetOption(command);
     return [assignments](const FamilyFiles& family) { return Capabilities(family, *assignments); };
 }

@@ -32,4 +32,13 @@ Run SetUpStatus(CLI::App& command);
 // The network address that the module finds for a print queue or in a settings record.
 Run SetUpAddress(CLI::App& command);
 
+// The picture of the printer with the options as wanted, written as PNG.
+Run SetUpView(CLI::App& command);
+
+// The logo picture of the version page, written as PNG.
+Run SetUpLogo(CLI::App& command);
+
+// One sheet of all telling pictures of the printer, written as PNG.
+Run SetUpGallery(CLI::App& command);
+
 #endif

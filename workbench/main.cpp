@@ -18,6 +18,9 @@ constexpr struct {
     {"status", "Asks a printer through the bidirectional library for options and input trays", SetUpStatus},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", SetUpTexts},
     {"address", "Asks the module for the network address of a printer", SetUpAddress},
+    {"view", "Has the module draw the printer with its options", SetUpView},
+    {"logo", "Has the module draw the logo", SetUpLogo},
+    {"gallery", "Has the module draw all telling pictures of the printer on one sheet", SetUpGallery},
 };
 
 struct CommonOptions {

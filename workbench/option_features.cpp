@@ -4,13 +4,16 @@
 #include "output.h"
 #include "paramdata/prm_readers.h"
 
+#include <algorithm>
+
 namespace {
 
 // Listed by name, since an entry of the file doesn't say what kind of items it has. Besides these, every
 // paper source may have an option feature of its own: "Op" and the source's key.
+constexpr const char* kMachineFeature = "OpMachine";
 constexpr const char* kOptionFeatures[] = {
-    "OpMachine",    "OpBody",      "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit",
-    "OpMailBinKit", "OpSaddleKit", "OpFAXUnit",    "OpHDD",
+    kMachineFeature, "OpBody",      "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit",
+    "OpMailBinKit",  "OpSaddleKit", "OpFAXUnit",    "OpHDD",
 };
 
 std::unique_ptr<ItemRecord[]> ReadItems(const PrmFile& file, const PrmItems& from) {
@@ -97,6 +100,49 @@ void SetOption(OptionFeatures& options, const std::string& assignment) {
                       featureKey + (itemKey.empty() ? " lacks its '=ITEM'" : " has no item '" + itemKey + "'")
                           + "; possible: " + Choices(items));
     options.settings[static_cast<size_t>(feature)] = item;
+}
+
+std::shared_ptr<std::vector<std::string>> AddSetOption(CLI::App& command) {
+    auto assignments = std::make_shared<std::vector<std::string>>();
+    command.add_option("--set", *assignments, "Sets an option feature, such as OpInTray3=DisOpInTray3")
+        ->type_name("FEATURE=ITEM")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    return assignments;
+}
+
+void TakeReportedOption(OptionFeatures& options, const char* featureKey, const char* itemKey) {
+    const int32_t feature = FindFeature(options.features.data(), featureKey);
+    if (feature < 0)
+        return;
+    const int32_t item = FindItem(options.features[static_cast<size_t>(feature)].items, itemKey);
+    if (item >= 0)
+        options.settings[static_cast<size_t>(feature)] = item;
+}
+
+void AddMachine(OptionFeatures& options, const std::string& name) {
+    const std::wstring display = Wide(name);
+    const size_t mostUnits = std::extent_v<decltype(ItemRecord::display)> - 1;
+    if (display.empty() || display.size() > mostUnits)
+        throw Failure(kExitUsage, "a machine can't be named '" + name + "'; possible: 1 to "
+                                      + std::to_string(mostUnits) + " UTF-16 units");
+    const int32_t feature = FindFeature(options.features.data(), kMachineFeature);
+    if (feature < 0)
+        throw Failure(kExitFailed, std::string("the model has no ") + kMachineFeature
+                                       + ", so that no machine can be named; add it to the model file");
+    const auto at = static_cast<size_t>(feature);
+    const ItemRecord* offered = options.features[at].items;
+    size_t count = 0;
+    while (offered[count].head.key[0] != 0)
+        ++count;
+    auto items = std::make_unique<ItemRecord[]>(count + 2); // the new one, and the end
+    std::copy_n(offered, count, items.get());
+    items[count].head.size = sizeof(ItemRecord);
+    CopyText(items[count].head.key, ("OpMachine" + std::to_string(count + 1)).c_str());
+    CopyText(items[count].display, display.c_str());
+    options.features[at].items = items.get();
+    options.items[at] = std::move(items);
+    options.settings[at] = static_cast<int32_t>(count);
 }
 
 Document OptionsDocument(const OptionFeatures& options) {

@@ -6,6 +6,7 @@
 #include "document.h"
 #include "family_files.h"
 
+#include <CLI/CLI.hpp>
 #include <vector>
 
 struct OptionFeatures {
@@ -19,6 +20,17 @@ OptionFeatures ReadOptionFeatures(const FamilyFiles& family);
 
 // Applies "FEATURE=ITEM" (letter case ignored). Throws Failure that names what is possible.
 void SetOption(OptionFeatures& options, const std::string& assignment);
+
+// The option --set of a command: what it gives, in the order of the line, each for SetOption.
+std::shared_ptr<std::vector<std::string>> AddSetOption(CLI::App& command);
+
+// Puts the item in force that a printer reports; a feature or item that the model doesn't have changes
+// nothing.
+void TakeReportedOption(OptionFeatures& options, const char* featureKey, const char* itemKey);
+
+// Offers a machine of this name (UTF-8) besides the model's own, and puts it in force. Throws Failure when
+// the name doesn't fit a display name or the model has no "OpMachine".
+void AddMachine(OptionFeatures& options, const std::string& name);
 
 // One row per feature: the item in force.
 Document OptionsDocument(const OptionFeatures& options);

@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <vector>
 
 template <size_t N>
 Document ToDocument(const char (&text)[N]) {
@@ -59,6 +60,17 @@ template <size_t N>
 void AddFields(const Field (&fields)[N], const void* record, Document& to) {
     for (const Field& field : fields)
         to[field.name] = field.show(record);
+}
+
+template <typename Record, size_t N>
+Document RowsDocument(const std::vector<Record>& records, const Field (&fields)[N]) {
+    Document rows = Document::array();
+    for (const Record& record : records) {
+        Document row;
+        AddFields(fields, &record, row);
+        rows.push_back(row);
+    }
+    return rows;
 }
 
 // A list up to its terminating record: key and value of each record, then its further fields. Null without a

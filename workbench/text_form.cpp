@@ -60,6 +60,11 @@ std::string Cell(const Document& value) {
     return text;
 }
 
+// The line without the blanks that it ends with.
+std::string WithoutEnd(const std::string& line) {
+    return line.substr(0, line.find_last_not_of(' ') + 1);
+}
+
 // One column of a table: its title, then its cells, all of one width.
 using Column = std::vector<std::string>;
 
@@ -124,8 +129,7 @@ std::string Page(const std::vector<std::string>& lines) {
         std::string line;
         for (size_t x = 0; x < across && x * down + y <= rows; ++x)
             line += (x == 0 ? kIndent : kColumnGap) + lines[y == 0 ? 0 : x * down + y];
-        line.erase(line.find_last_not_of(' ') + 1);
-        text += line + "\n";
+        text += WithoutEnd(line) + "\n";
     }
     return text;
 }
@@ -148,7 +152,8 @@ std::string Pairs(const Document& object) {
         width = std::max(width, Width(Title(field.key())));
     std::string text;
     for (const auto& field : object.items())
-        text += kIndent + Padded(Title(field.key()), width, false) + kGap + Cell(field.value()) + "\n";
+        text += WithoutEnd(kIndent + Padded(Title(field.key()), width, false) + kGap + Cell(field.value()))
+                + "\n";
     return text;
 }
 

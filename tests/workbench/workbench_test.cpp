@@ -1,80 +1,12 @@
 // The workbench as a process: what it writes, where to, and its exit codes. Expected facts are those of the
-// shipped model file. The test's own folders lie beside the test program and are removed at the end.
+// shipped model file.
 #include "support/print_queue.h"
+#include "workbench/workbench_run.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
-#include <map>
-#include <nlohmann/json.hpp>
 #include <regex>
 
 namespace {
-
-namespace fs = std::filesystem;
-using Json = nlohmann::json;
-
-fs::path ProgramFolder() {
-    wchar_t path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return fs::path(path).parent_path();
-}
-
-// A new folder beside the test program, with copies of files from there.
-struct Folder {
-    explicit Folder(const wchar_t* name, std::map<const char*, const char*> sourceByName = {})
-        : path(ProgramFolder() / name) {
-        fs::remove_all(path);
-        fs::create_directory(path);
-        for (const auto& [file, source] : sourceByName)
-            fs::copy_file(ProgramFolder() / source, path / file);
-    }
-    ~Folder() { fs::remove_all(path); }
-
-    // Has the workbench look there.
-    std::wstring Option() const { return L" --folder \"" + path.wstring() + L"\""; }
-
-    const fs::path path;
-};
-
-std::string Contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-struct Result {
-    int exitCode;
-    std::string output;
-    std::string errors;
-};
-
-// Runs the program of this folder, there.
-Result RunWorkbench(const std::wstring& arguments, const fs::path& folder = ProgramFolder()) {
-    const Folder redirected(L"workbench_output");
-    fs::current_path(folder);
-    const std::wstring out = (redirected.path / "out").wstring();
-    const std::wstring err = (redirected.path / "err").wstring();
-    const std::wstring line = L"workbench.exe " + arguments + L" >\"" + out + L"\" 2>\"" + err + L"\"";
-    const int exitCode = _wsystem(line.c_str());
-    fs::current_path(ProgramFolder());
-    return {exitCode, Contents(out), Contents(err)};
-}
-
-// What a command that must succeed writes as JSON.
-Json RunForJson(const std::wstring& arguments) {
-    const Result result = RunWorkbench(arguments + L" --json");
-    EXPECT_EQ(result.exitCode, 0) << result.errors;
-    return Json::parse(result.output, nullptr, false);
-}
-
-// One field of every row of a table.
-Json Pick(const Json& rows, const char* field) {
-    Json values = Json::array();
-    for (const Json& row : rows)
-        values.push_back(row.at(field));
-    return values;
-}
 
 TEST(Workbench, DescribesTheModel) {
     const Json model = RunForJson(L"describe");

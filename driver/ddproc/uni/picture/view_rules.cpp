@@ -92,8 +92,7 @@ constexpr struct {
 
 // clang-format on
 
-// --- The engine
-// ----------------------------------------------------------------------------------------------
+// --- The engine --------------------------------------------------------------------------------------------
 
 bool IsMet(const Need& need, const OptionSummary& options) {
     return need.field == nullptr || options.*need.field == need.value;

@@ -1,0 +1,59 @@
+// What a printer answers about its options, and how far it can be asked at all: over either of the module's
+// roads to it, the bidirectional library or SNMP.
+#ifndef WORKBENCH_DEVICE_OPTIONS_H
+#define WORKBENCH_DEVICE_OPTIONS_H
+
+#include "devcomm/device_status.h"
+#include "family_files.h"
+#include "paramdata/text.h"
+
+#include <vector>
+
+using OptionAnswers = std::vector<OptionRequestItem>; // an empty value: the printer doesn't tell
+
+// How far the road through the bidirectional library leads; what lies behind a no is not asked.
+struct LibraryRoad {
+    bool isUsable;
+    bool isReached;   // a device answers
+    bool isThisModel; // and can be asked about its options
+};
+LibraryRoad TryLibraryRoad(const FamilyFiles& family, const std::string& agent);
+
+// What to do where that road ends; empty when it doesn't.
+std::string Hint(const FamilyFiles& family, const LibraryRoad& road);
+
+// Throws Failure when the device can't be asked by SNMP or is of another model.
+void CheckSnmpRoad(const FamilyFiles& family, const std::string& agent);
+
+// Throws Failure with the reason of the last request, and so must be called before anything else sets the
+// last error.
+[[noreturn]] void FailToAsk(const std::string& agent, const char* what);
+
+// All options that the module asks about on each road. Throw Failure when the asking fails.
+OptionAnswers AskOptionsByLibrary(const FamilyFiles& family, const std::string& agent);
+OptionAnswers AskOptionsBySnmp(const FamilyFiles& family, const std::string& agent);
+
+// By the library where that is usable, otherwise by SNMP, as the driver asks. Throws Failure when the device
+// doesn't answer or is of another model.
+struct DeviceOptions {
+    const char* road; // for a person
+    OptionAnswers answers;
+};
+DeviceOptions AskDeviceOptions(const FamilyFiles& family, const std::string& agent);
+
+// Option and answer, row by row.
+Document OptionAnswersDocument(const OptionAnswers& answers);
+
+// Asks one of the library's exports about each of the keys. Throws Failure when it declines.
+template <typename Item, size_t kKeys>
+std::vector<Item> AskByLibrary(BOOL(WINAPI* ask)(const char*, DWORD, Item*), const std::string& agent,
+                               QueryKey Item::*key, const char* const (&keys)[kKeys]) {
+    std::vector<Item> items(kKeys);
+    for (size_t i = 0; i < kKeys; ++i)
+        CopyText(items[i].*key, keys[i]);
+    if (!ask(agent.c_str(), static_cast<DWORD>(kKeys), items.data()))
+        throw Failure(kExitFailed, agent + ": the device answers no longer; try again");
+    return items;
+}
+
+#endif

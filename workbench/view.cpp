@@ -1,0 +1,135 @@
+// `workbench view`: has the module draw the printer with the options as wanted, or as a printer on the
+// network reports them, and writes the picture.
+#include "commands.h"
+#include "device_options.h"
+#include "output.h"
+#include "paramdata/text.h"
+#include "picture_file.h"
+#include "printer_scene.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace {
+
+constexpr LONG kLargestSide = 4096; // pixels
+
+// Sources that have a way through the picture, whether the model lists them or not.
+constexpr const char* kPictureTrays[] = {"InTray1", "InTray2",      "InTray3",
+                                         "InTray4", "InTrayManual", "InTrayLCT"};
+
+struct Options {
+    std::string out; // UTF-8, as all texts of the command line
+    std::string size = "200x200";
+    std::shared_ptr<std::vector<std::string>> assignments;
+    std::optional<std::string> tray;
+    std::vector<int> outputFlags;
+    bool machineOnly = false;
+    std::optional<std::string> from;
+    std::optional<std::string> machine;
+};
+
+// The number of pixels that the text starts with; what is behind it stays. 0 when there is none.
+LONG TakeSide(std::string& text) {
+    const size_t digits = std::min(text.find_first_not_of("0123456789"), text.size());
+    const std::string number = text.substr(0, digits);
+    text.erase(0, digits);
+    return number.empty() || number.size() > 4 ? 0 : std::stol(number);
+}
+
+// "WIDTHxHEIGHT".
+SIZE ParseSize(const std::string& text) {
+    std::string rest = text;
+    const LONG width = TakeSide(rest);
+    const bool isPair = rest.substr(0, 1) == "x";
+    rest.erase(0, 1);
+    const LONG height = TakeSide(rest);
+    if (!isPair || !rest.empty() || width < 1 || width > kLargestSide || height < 1 || height > kLargestSide)
+        throw Failure(kExitUsage, "--size: '" + text
+                                      + "' is no size; possible: WxH, such as 200x200, each from 1 to "
+                                      + std::to_string(kLargestSide) + " pixels");
+    return {width, height};
+}
+
+std::vector<std::string> TrayKeys(const DeviceTable& table) {
+    std::vector<std::string> keys;
+    for (const InputSlotRecord* slot = table.inputTrays; slot != nullptr && slot->head.key[0] != 0; ++slot)
+        keys.emplace_back(Utf8(slot->head.key));
+    for (const char* key : kPictureTrays)
+        if (std::find(keys.begin(), keys.end(), key) == keys.end())
+            keys.emplace_back(key);
+    return keys;
+}
+
+// The key as the driver writes it.
+std::string FindTray(const DeviceTable& table, const std::string& wanted) {
+    std::string choices;
+    for (const std::string& key : TrayKeys(table)) {
+        if (SameText(key.c_str(), wanted.c_str()))
+            return key;
+        choices += (choices.empty() ? "" : ", ") + key;
+    }
+    throw Failure(kExitUsage, "--tray: no paper source '" + wanted + "'; possible: " + choices);
+}
+
+// Puts in force what the printer reports; tells which printer it was and how it was asked.
+Document TakeOptionsFrom(const FamilyFiles& family, const std::string& agent, OptionFeatures& options) {
+    const DeviceOptions device = AskDeviceOptions(family, agent);
+    for (const OptionRequestItem& answer : device.answers)
+        TakeReportedOption(options, answer.key, answer.value);
+    return {{"address", agent}, {"road", device.road}};
+}
+
+Document View(const FamilyFiles& family, const Options& options) {
+    const SIZE size = ParseSize(options.size);
+    PrinterScene scene = {ReadOptionFeatures(family), !options.machineOnly, {}, options.outputFlags};
+    if (options.tray)
+        scene.tray = FindTray(*family.table, *options.tray);
+    Document printer;
+    if (options.from)
+        printer = TakeOptionsFrom(family, *options.from, scene.options);
+    if (options.machine)
+        AddMachine(scene.options, *options.machine);
+    for (const std::string& assignment : *options.assignments)
+        SetOption(scene.options, assignment);
+
+    const Canvas canvas(size);
+    DrawScene(family, scene, canvas.context, size);
+    Document picture = WritePicture(canvas, options.out);
+    picture["paperPath"] = scene.showsPaperPath;
+    picture["tray"] = scene.tray.empty() ? Document() : Document(scene.tray);
+    picture["outputFlags"] = scene.outputFlags;
+    return {
+        {"files", FamilyDocument(family)},
+        {"printer", printer},
+        {"options", OptionsDocument(scene.options)},
+        {"picture", picture},
+    };
+}
+
+} // namespace
+
+Run SetUpView(CLI::App& command) {
+    const auto options = std::make_shared<Options>();
+    command.add_option("--out", options->out, "Where to write the picture")->type_name("FILE")->required();
+    command.add_option("--size", options->size, "Of the picture in pixels (200x200)")->type_name("WxH");
+    options->assignments = AddSetOption(command);
+    command
+        .add_option("--from", options->from,
+                    "Takes the options that the printer at this address reports; --set wins")
+        ->type_name("ADDRESS");
+    command
+        .add_option("--machine", options->machine,
+                    "Offers a second machine of this name and selects it, so that its name appears")
+        ->type_name("NAME");
+    command.add_option("--tray", options->tray, "The paper source in use, such as InTray1")->type_name("KEY");
+    command
+        .add_option("--output-flag", options->outputFlags,
+                    "Marks an output destination as in use, 1 to 9; may be repeated")
+        ->type_name("N")
+        ->check(CLI::Range(kFirstOutputFlag, kLastOutputFlag).description(""))
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    command.add_flag("--machine-only", options->machineOnly, "Leaves out the paper's way");
+    return [options](const FamilyFiles& family) { return View(family, *options); };
+}
