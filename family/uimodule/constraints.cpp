@@ -1,0 +1,65 @@
+// The constraint table: see the header.
+#include "uimodule/constraints.h"
+
+#include "dialogs/ui_callbacks.h"
+#include "paramdata/text.h"
+
+namespace {
+
+constexpr uint16_t kSimulationList = 1524;
+constexpr uint16_t kPaperColorBox = 1526;
+constexpr uint16_t kSimulationGrayList = 1627;
+
+constexpr uint16_t kNoSimulation = 0;
+constexpr uint16_t kFourColorGray = 0; // the treatment that leaves colours as they are
+
+bool IsPaperMatchedAlone(const OemDevmode& settings) {
+    return settings.matchPaperColor != 0 && settings.simulation == kNoSimulation;
+}
+
+bool IsGrayTreatedAlone(const OemDevmode& settings) {
+    return settings.simulationGray != kFourColorGray && settings.simulation == kNoSimulation;
+}
+
+bool IsSimulatedInBlack(const OemDevmode& settings) {
+    return settings.mono != 0 && settings.simulation != kNoSimulation;
+}
+
+// Each combination is refused from both sides: at the choice that needs another, and at the one needed. Of a
+// control's rows the first that is broken counts.
+// clang-format off
+constexpr Constraint kConstraints[] = {
+    {kPaperColorBox,      kChangeRefused,    IsPaperMatchedAlone, L"The colour of the paper can be matched only while a press is simulated."},
+    {kSimulationGrayList, kChangeRefused,    IsGrayTreatedAlone,  L"Blacks and greys of a press can be chosen only while a press is simulated."},
+    {kSimulationList,     kChangeRefused,    IsSimulatedInBlack,  L"This printer prints black only. No press can be simulated."},
+    {kSimulationList,     kChangeRefusedToo, IsPaperMatchedAlone, L"A press is needed while the colour of the paper is matched."},
+    {kSimulationList,     kChangeRefusedToo, IsGrayTreatedAlone,  L"A press is needed while its blacks and greys are not printed in four colours."},
+};
+// clang-format on
+
+bool IsFirstOfItsKind(const Constraint& constraint, HWND dialog) {
+    for (const Constraint* before = kConstraints; before != &constraint; ++before)
+        if (before->isBroken == constraint.isBroken && GetDlgItem(dialog, before->control) != nullptr)
+            return false;
+    return true;
+}
+
+} // namespace
+
+const Constraint* FindBroken(const OemDevmode& settings, uint32_t control) {
+    for (const Constraint& constraint : kConstraints)
+        if (constraint.control == control && constraint.isBroken(settings))
+            return &constraint;
+    return nullptr;
+}
+
+void DescribeConflicts(HintText& text, const OemDevmode& settings, HWND dialog) {
+    for (const Constraint& constraint : kConstraints) {
+        if (GetDlgItem(dialog, constraint.control) == nullptr || !constraint.isBroken(settings)
+            || !IsFirstOfItsKind(constraint, dialog))
+            continue;
+        if (text[0] != 0)
+            AppendText(text, L"\r\n");
+        AppendText(text, constraint.hint);
+    }
+}

@@ -1,0 +1,109 @@
+// Texts of a dialog: see the header.
+#include "uimodule/dialog_texts.h"
+
+#include "paramdata/text.h"
+
+namespace {
+
+constexpr size_t kAccessKeyLength = 5; // " (&X)"
+using Text = wchar_t[sizeof(ControlTextRecord::display) / sizeof(wchar_t) + 1 + kAccessKeyLength];
+
+wchar_t UpperCase(wchar_t c) {
+    return static_cast<wchar_t>(
+        reinterpret_cast<ULONG_PTR>(CharUpperW(reinterpret_cast<wchar_t*>(ULONG_PTR{c}))));
+}
+
+// The letter behind the single '&'; 0 when there is none.
+wchar_t AccessKeyOf(const wchar_t* text) {
+    for (; *text != 0; ++text) {
+        if (*text != L'&')
+            continue;
+        ++text;
+        if (*text != L'&')
+            return *text;
+    }
+    return 0;
+}
+
+// Position of the letter in either case; the text's length when it is not there.
+size_t FindLetter(const Text& text, wchar_t letter) {
+    size_t at = 0;
+    while (text[at] != 0 && UpperCase(text[at]) != UpperCase(letter))
+        ++at;
+    return at;
+}
+
+void Insert(Text& text, size_t at, const wchar_t* what) {
+    Text rest;
+    CopyText(rest, text + at);
+    text[at] = 0;
+    AppendText(text, what);
+    AppendText(text, rest);
+}
+
+// Where the words end that a colon or dots follow.
+size_t WordsEnd(const Text& text) {
+    size_t end = TextLength(text);
+    while (end > 0 && (text[end - 1] == L':' || text[end - 1] == L'.'))
+        --end;
+    return end;
+}
+
+bool HasAccessKeys(HWND control) {
+    wchar_t className[16] = L"";
+    GetClassNameW(control, className, sizeof(className) / sizeof(className[0]));
+    const bool isPlain =
+        lstrcmpiW(className, L"Static") == 0 && (GetWindowLongPtrW(control, GWL_STYLE) & SS_NOPREFIX) != 0;
+    return !isPlain;
+}
+
+bool IsGroupBox(HWND control) {
+    wchar_t className[16] = L"";
+    GetClassNameW(control, className, sizeof(className) / sizeof(className[0]));
+    return lstrcmpiW(className, L"Button") == 0
+           && (GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+}
+
+// Gives the text the access key that the control's present one has, unless it has an '&' itself.
+void KeepAccessKey(Text& text, HWND control) {
+    wchar_t present[128] = L"";
+    GetWindowTextW(control, present, sizeof(present) / sizeof(present[0]));
+    const wchar_t key = AccessKeyOf(present);
+    if (key == 0 || text[FindLetter(text, L'&')] != 0)
+        return;
+    const size_t at = FindLetter(text, key);
+    if (text[at] != 0) {
+        Insert(text, at, L"&");
+    } else if (!IsGroupBox(control)) {
+        const wchar_t behind[] = {L' ', L'(', L'&', UpperCase(key), L')', 0};
+        Insert(text, WordsEnd(text), behind);
+    }
+}
+
+bool IsTitle(HWND dialog, const ControlTextRecord& row) {
+    return row.identifiers[1] != 0 || GetDlgItem(dialog, row.identifiers[0]) == nullptr;
+}
+
+} // namespace
+
+void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel) {
+    if (dialog == nullptr || texts == nullptr)
+        return;
+    for (const ControlTextRecord* row = texts; row->key[0] != 0; ++row) {
+        Text text = L"";
+        CopyText(text, row->display);
+        // Labels without an identifier have -1, too.
+        if (text[0] == 0 || row->identifiers[0] <= 0)
+            continue;
+        if (isModel && row == texts && IsTitle(dialog, *row)) {
+            SetWindowTextW(dialog, text);
+            continue;
+        }
+        HWND control = GetDlgItem(dialog, row->identifiers[0]);
+        if (control == nullptr)
+            continue;
+        if (HasAccessKeys(control))
+            KeepAccessKey(text, control);
+        SetWindowTextW(control, text);
+    }
+}

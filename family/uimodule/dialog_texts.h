@@ -1,0 +1,13 @@
+// The parameter data file's texts, put into a dialog.
+#ifndef UIMODULE_DIALOG_TEXTS_H
+#define UIMODULE_DIALOG_TEXTS_H
+
+#include "paramdata/control_texts.h"
+
+#include <windows.h>
+
+// Puts a table's texts into the dialog's controls and, when the table is one of a model's dialogs (isModel),
+// its title. uimodule/exports.h says how rows are told apart.
+void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel);
+
+#endif

@@ -1,0 +1,134 @@
+// The callbacks of the stand-in, and its entry point. See the header; the export table is telmar_u.def.
+#include "uimodule/exports.h"
+
+#include "paramdata/text.h"
+#include "uimodule/call_log.h"
+#include "uimodule/constraints.h"
+#include "uimodule/dialog_texts.h"
+#include "uimodule/hint_window.h"
+#include "uimodule/stop_icons.h"
+
+namespace {
+
+HINSTANCE instance;
+
+// The dialog that is open.
+struct OpenDialog {
+    HWND window;
+    HWND hintWindow;
+    StopIcons icons;
+    uint32_t refusedControl;
+    const wchar_t* refusedHint; // null: no choice is refused
+};
+OpenDialog open;
+
+// The state of this dialog: new when another one was open before.
+OpenDialog& StateOf(HWND dialog) {
+    if (open.window != dialog)
+        open = {dialog, nullptr, {}, 0, nullptr};
+    return open;
+}
+
+const OemDevmode* SettingsOf(HWND dialog) {
+    return GetDialogSettings(reinterpret_cast<const DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER)));
+}
+
+// What the settings answer to a control's choice; the hint when it is refused, otherwise null.
+int32_t Check(HWND dialog, uint32_t control, const wchar_t*& hint) {
+    int32_t answer = 0;
+    if (TakeScriptedAnswer(control, answer)) {
+        hint = answer == kChangeRefused || answer == kChangeRefusedToo ? L"This choice is refused." : nullptr;
+        return answer;
+    }
+    const OemDevmode* settings = SettingsOf(dialog);
+    const Constraint* broken = settings != nullptr ? FindBroken(*settings, control) : nullptr;
+    hint = broken != nullptr ? broken->hint : nullptr;
+    return broken != nullptr ? broken->answer : 0;
+}
+
+bool IsMarked(const OpenDialog& dialog, uint32_t control) {
+    const OemDevmode* settings = SettingsOf(dialog.window);
+    return (dialog.refusedHint != nullptr && dialog.refusedControl == control)
+           || (settings != nullptr && FindBroken(*settings, control) != nullptr);
+}
+
+} // namespace
+
+extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, void* /*reserved*/) {
+    if (reason == DLL_PROCESS_ATTACH)
+        instance = library;
+    return TRUE;
+}
+
+void WINAPI ReplaceDlgDispStringCmnItem(HWND dialog, const ControlTextRecord* texts, uint32_t dialogId,
+                                        DialogContext* context) {
+    LogCall({"ReplaceDlgDispStringCmnItem", dialog, nullptr, 0, dialogId, context != nullptr, 0});
+    ReplaceTexts(dialog, texts, false);
+}
+
+void WINAPI ReplaceDlgDispString(HWND dialog, const ControlTextRecord* texts) {
+    LogCall({"ReplaceDlgDispString", dialog, nullptr, 0, 0, false, 0});
+    ReplaceTexts(dialog, texts, true);
+}
+
+HWND WINAPI CreateToolWnd(HWND dialog) {
+    open = {dialog, CreateHintWindow(dialog), {}, 0, nullptr};
+    LogCall({"CreateToolWnd", dialog, open.hintWindow, 0, 0, false, 0});
+    return open.hintWindow;
+}
+
+void WINAPI StoreStopIconRect(HWND dialog, const StopIconTable* table) {
+    LogCall({"StoreStopIconRect", dialog, nullptr, 0, 0, false, 0});
+    StateOf(dialog).icons = FindStopIcons(dialog, table);
+}
+
+int32_t WINAPI DoConstraints(const void* /*reserved1*/, HWND dialog, HWND hintWindow, uint32_t control,
+                             int32_t /*all*/, const void* /*reserved2*/) {
+    OpenDialog& state = StateOf(dialog);
+    const int32_t answer = Check(dialog, control, state.refusedHint);
+    state.refusedControl = control;
+    LogCall({"DoConstraints", dialog, hintWindow, control, 0, false, answer});
+    return answer;
+}
+
+void WINAPI DispHintControl(HWND dialog, DialogContext* context, uint16_t dialogId) {
+    LogCall({"DispHintControl", dialog, nullptr, 0, dialogId, context != nullptr, 0});
+    const OpenDialog& state = StateOf(dialog);
+    HintText hint = {};
+    const OemDevmode* settings = GetDialogSettings(context);
+    if (state.refusedHint != nullptr)
+        CopyText(hint, state.refusedHint);
+    else if (settings != nullptr)
+        DescribeConflicts(hint, *settings, dialog);
+    ShowHint(state.hintWindow, dialog, hint);
+    for (size_t i = 0; i < state.icons.count; ++i)
+        InvalidateRect(GetDlgItem(dialog, state.icons.controls[i]), nullptr, TRUE);
+}
+
+int32_t WINAPI IsInstalledDLManager() {
+    const int32_t answer = ScriptedDownloadManager();
+    LogCall({"IsInstalledDLManager", nullptr, nullptr, 0, 0, false, answer});
+    return answer;
+}
+
+void WINAPI ReqDrawStopInfoIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item,
+                                const StopIconTable* table) {
+    LogCall({"ReqDrawStopInfoIcon", dialog, nullptr, control, 0, false, 0});
+    if (item == nullptr)
+        return;
+    const uint32_t beside = ControlBeside(table, control);
+    DrawStopIcon(*item, beside != 0 && IsMarked(StateOf(dialog), beside));
+}
+
+INT_PTR WINAPI MyDialogBox(HINSTANCE resources, HWND owner, uint32_t templateId, DLGPROC procedure,
+                           LPARAM parameter) {
+    const INT_PTR result =
+        DialogBoxParamW(resources, MAKEINTRESOURCEW(templateId), owner, procedure, parameter);
+    LogCall({"MyDialogBox", owner, nullptr, 0, templateId, parameter != 0, static_cast<int32_t>(result)});
+    return result;
+}
+
+HINSTANCE WINAPI GetImgResInst() {
+    LogCall({"GetImgResInst", nullptr, nullptr, 0, 0, false, 0});
+    return instance;
+}

@@ -1,0 +1,80 @@
+// The hint window: see the header. It is the system's tool tip, so that no code of this library is on its
+// stack when the dialog, as it is destroyed, frees the library.
+#include "uimodule/hint_window.h"
+
+#include <commctrl.h>
+
+namespace {
+
+constexpr UINT_PTR kFollowTimer = 0x4849; // of the hint window; the tool tip's own are small numbers
+constexpr UINT kFollowInterval = 50;      // milliseconds
+
+LONG Smaller(LONG a, LONG b) {
+    return a < b ? a : b;
+}
+
+// The only tool: the dialog itself, at a place that is set.
+TTTOOLINFOW Tool(HWND dialog, wchar_t* text) {
+    TTTOOLINFOW tool = {};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    tool.uFlags = TTF_TRACK | TTF_ABSOLUTE | TTF_TRANSPARENT;
+    tool.hwnd = dialog;
+    tool.lpszText = text;
+    return tool;
+}
+
+LRESULT Send(HWND hintWindow, UINT message, WPARAM wParam, const TTTOOLINFOW& tool) {
+    return SendMessageW(hintWindow, message, wParam, reinterpret_cast<LPARAM>(&tool));
+}
+
+// Keeps the window below the dialog, as far as the screen has room. A tool tip would lie above all windows;
+// this one only lies above its dialog.
+void CALLBACK Follow(HWND hintWindow, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
+    HWND dialog = GetWindow(hintWindow, GW_OWNER);
+    RECT below = {};
+    RECT frame = {};
+    GetWindowRect(dialog, &below);
+    GetWindowRect(hintWindow, &frame);
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(MonitorFromWindow(dialog, MONITOR_DEFAULTTONEAREST), &monitor);
+    const LONG x = Smaller(below.left, monitor.rcWork.right - (frame.right - frame.left));
+    const LONG y = Smaller(below.bottom, monitor.rcWork.bottom - (frame.bottom - frame.top));
+    if (x != frame.left || y != frame.top)
+        SetWindowPos(hintWindow, HWND_NOTOPMOST, x, y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
+} // namespace
+
+HWND CreateHintWindow(HWND dialog) {
+    if (dialog == nullptr)
+        return nullptr;
+    InitCommonControls();
+    HWND hintWindow =
+        CreateWindowExW(WS_EX_NOACTIVATE, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
+                        0, 0, 0, 0, dialog, nullptr, nullptr, nullptr);
+    wchar_t noText[] = L"";
+    if (hintWindow != nullptr)
+        Send(hintWindow, TTM_ADDTOOLW, 0, Tool(dialog, noText));
+    return hintWindow;
+}
+
+void ShowHint(HWND hintWindow, HWND dialog, const wchar_t* text) {
+    if (hintWindow == nullptr || GetWindow(hintWindow, GW_OWNER) != dialog)
+        return;
+    if (text[0] == 0) {
+        KillTimer(hintWindow, kFollowTimer);
+        Send(hintWindow, TTM_TRACKACTIVATE, FALSE, Tool(dialog, nullptr));
+        Send(hintWindow, TTM_UPDATETIPTEXTW, 0, Tool(dialog, const_cast<wchar_t*>(text)));
+        return;
+    }
+    RECT frame = {};
+    GetWindowRect(dialog, &frame);
+    SendMessageW(hintWindow, TTM_SETMAXTIPWIDTH, 0, frame.right - frame.left);
+    SendMessageW(hintWindow, TTM_TRACKPOSITION, 0, MAKELPARAM(frame.left, frame.bottom));
+    const TTTOOLINFOW tool = Tool(dialog, const_cast<wchar_t*>(text));
+    Send(hintWindow, TTM_UPDATETIPTEXTW, 0, tool);
+    Send(hintWindow, TTM_TRACKACTIVATE, TRUE, tool);
+    Follow(hintWindow, 0, 0, 0);
+    SetTimer(hintWindow, kFollowTimer, kFollowInterval, Follow);
+}

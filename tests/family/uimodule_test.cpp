@@ -1,0 +1,288 @@
+// The built TELMAR_U.DLL on the dialog of uimodule_test.rc, called as the model's dialogs call it.
+#include "uimodule/exports.h"
+#include "uimodule/test_hooks.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <sstream>
+#include <string>
+
+namespace {
+
+constexpr uint16_t kRgbList = 1504, kSimulation = 1524, kPaper = 1526, kSimulationGray = 1627;
+constexpr uint16_t kIcons[][2] = {{1482, kSimulation}, {1527, kPaper}, {1629, kSimulationGray}};
+
+#define FUNCTION(name) Function<decltype(&(name))>(#name)
+
+HMODULE freedWithDialog;
+
+INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM /*wParam*/, LPARAM lParam) {
+    if (message == WM_INITDIALOG && lParam == 0)
+        EndDialog(dialog, 17);
+    if (message == WM_DESTROY && freedWithDialog != nullptr)
+        FreeLibrary(freedWithDialog);
+    return FALSE;
+}
+
+void Pump(DWORD milliseconds) {
+    for (const DWORD start = GetTickCount(); GetTickCount() - start < milliseconds; Sleep(5))
+        for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
+            DispatchMessageW(&message);
+}
+
+std::wstring TextOf(HWND window) {
+    wchar_t text[512] = L"";
+    GetWindowTextW(window, text, 512);
+    return text;
+}
+
+RECT FrameOf(HWND window) {
+    RECT frame = {};
+    GetWindowRect(window, &frame);
+    return frame;
+}
+
+// The dialog, bound to the library as far as that has the callbacks.
+struct UiModule : testing::Test {
+    explicit UiModule(const wchar_t* path = L"TELMAR_U.DLL") : library(LoadLibraryW(path)) {
+        context.settings = settings.get();
+        dialog = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(155), nullptr,
+                                    DialogProcedure, reinterpret_cast<LPARAM>(&context));
+        SetWindowLongPtrW(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
+        for (size_t i = 0; i < std::size(kIcons); ++i) {
+            icons->records[i].iconControl = kIcons[i][0];
+            icons->records[i].control = kIcons[i][1];
+        }
+        if (const auto create = FUNCTION(CreateToolWnd))
+            hintWindow = create(dialog);
+        FUNCTION(StoreStopIconRect)(dialog, icons.get());
+    }
+    ~UiModule() override {
+        DestroyWindow(dialog);
+        if (std::exchange(freedWithDialog, nullptr) == nullptr)
+            FreeLibrary(library);
+    }
+
+    template <typename Pointer>
+    Pointer Function(const char* name) const {
+        return reinterpret_cast<Pointer>(reinterpret_cast<void (*)()>(GetProcAddress(library, name)));
+    }
+
+    HWND Control(int id) const { return GetDlgItem(dialog, id); }
+
+    // What is shown after a choice that is already in the settings; "-" for no hint.
+    std::wstring HintAfter(uint32_t control, int32_t expectedAnswer = 0) {
+        EXPECT_EQ(FUNCTION(DoConstraints)(nullptr, dialog, hintWindow, control, -1, nullptr), expectedAnswer);
+        FUNCTION(DispHintControl)(dialog, &context, 128);
+        return IsWindowVisible(hintWindow) ? TextOf(hintWindow) : L"-";
+    }
+
+    // The controls that have a stop sign beside them, drawn in this size.
+    std::string Stops(int size = 16) const {
+        std::string controls;
+        for (const auto& icon : kIcons)
+            controls += IsStopDrawn(icon[0], size) ? " " + std::to_string(icon[1]) : "";
+        return controls;
+    }
+
+    bool IsStopDrawn(uint32_t icon, int size) const;
+
+    HMODULE library;
+    HWND dialog = nullptr;
+    HWND hintWindow = nullptr;
+    std::unique_ptr<OemDevmode> settings = std::make_unique<OemDevmode>();
+    std::unique_ptr<StopIconTable> icons = std::make_unique<StopIconTable>();
+    DialogContext context = {};
+};
+
+// Has an icon drawn into a square of a larger bitmap. That becomes the dialog's background, or a red disc of
+// the square's size with a white bar across its middle on it; what is outside stays.
+bool UiModule::IsStopDrawn(uint32_t icon, int size) const {
+    constexpr int kMargin = 3;
+    const int side = size + 2 * kMargin;
+    HDC dc = CreateCompatibleDC(nullptr);
+    BITMAPINFO info = {{sizeof(BITMAPINFOHEADER), side, side, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
+    HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, nullptr, nullptr, 0); // black
+    HGDIOBJ before = SelectObject(dc, bitmap);
+    DRAWITEMSTRUCT item = {};
+    item.hDC = dc;
+    item.rcItem = {kMargin, kMargin, kMargin + size, kMargin + size};
+    FUNCTION(ReqDrawStopInfoIcon)(dialog, icon, &item, icons.get());
+    std::map<COLORREF, int> count;
+    for (int i = 0; i < side * side; ++i)
+        ++count[GetPixel(dc, i % side, i / side)];
+    const COLORREF middle = GetPixel(dc, side / 2, side / 2);
+    const int disc = count[RGB(204, 0, 0)] + count[RGB(255, 255, 255)];
+    SelectObject(dc, before);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    EXPECT_EQ(count[RGB(0, 0, 0)], side * side - size * size);
+    EXPECT_EQ(disc + count[GetSysColor(COLOR_BTNFACE)], size * size);
+    if (disc == 0)
+        return false;
+    EXPECT_NEAR(disc, 3.14159 / 4 * size * size, 0.06 * size * size);
+    EXPECT_GT(count[RGB(204, 0, 0)], disc / 2);
+    EXPECT_EQ(middle, RGB(255, 255, 255));
+    return true;
+}
+
+TEST_F(UiModule, PutsTextsIntoTitleAndControls) {
+    const ControlTextRecord model[] = {
+        {{122, 123, 124, 125, 128}, L"Title", "Title"},
+        {{1501}, L"Images", "GroupBox"},     // lacks the access key T
+        {{1502}, L"Origin:", "Label"},       // access key R
+        {{1469}, L"Greys:", "NoSuchLetter"}, // lacks the access key X
+        {{1526}, L"Match && so on", "OwnAmpersand"},
+        {{-1}, L"Column", "Column"},
+        {{1032}, L"", "Nothing"},
+        {},
+    };
+    FUNCTION(ReplaceDlgDispString)(dialog, model);
+    EXPECT_EQ(TextOf(dialog), L"Title");
+    EXPECT_EQ(TextOf(Control(1501)), L"Images");
+    EXPECT_EQ(TextOf(Control(1502)), L"O&rigin:");
+    EXPECT_EQ(TextOf(Control(1469)), L"Greys (&X):");
+    EXPECT_EQ(TextOf(Control(1526)), L"Match && so on");
+    EXPECT_EQ(TextOf(Control(-1)), L"Keep");
+    EXPECT_EQ(TextOf(Control(1032)), L"&Defaults");
+
+    ControlTextRecord trays[] = {{{155}, L"Trays", "Title"}, {{1}, {}, "Full"}, {}};
+    std::fill(std::begin(trays[1].display), std::end(trays[1].display), L'w');
+    FUNCTION(ReplaceDlgDispString)(dialog, trays);
+    EXPECT_EQ(TextOf(Control(1)), std::wstring(48, L'w'));
+
+    const ControlTextRecord common[] = {{{1130}, L"No title", "NoControl"}, {{1}, L"Yes", "OK"}, {}};
+    FUNCTION(ReplaceDlgDispStringCmnItem)(dialog, common, 0, &context);
+    EXPECT_EQ(TextOf(dialog), L"Trays");
+    EXPECT_EQ(TextOf(Control(1)), L"Yes");
+}
+
+TEST_F(UiModule, RefusesWhatNeedsASimulation) {
+    const struct {
+        uint16_t paper, mono, simulation, gray;
+        uint32_t control;
+        int32_t answer;
+    } cases[] = {
+        // clang-format off
+        {1, 0, 0,   0, kPaper,          100}, {1, 0, 1,   0, kPaper,          0}, {0, 0, 0, 0, kPaper, 0},
+        {0, 0, 0,   2, kSimulationGray, 100}, {0, 0, 128, 2, kSimulationGray, 0}, {0, 0, 0, 2, kPaper, 0},
+        {1, 0, 0,   0, kSimulation,     101}, {0, 0, 0,   1, kSimulation,   101},
+        {0, 1, 128, 0, kSimulation,     100}, {0, 1, 0,   0, kSimulation,     0}, {1, 1, 0, 1, kRgbList, 0},
+        {1, 0, 0,   1, /*all*/ 0,         0},
+        // clang-format on
+    };
+    for (const auto& row : cases) {
+        settings->matchPaperColor = static_cast<uint8_t>(row.paper);
+        settings->mono = static_cast<uint8_t>(row.mono);
+        settings->simulation = row.simulation;
+        settings->simulationGray = row.gray;
+        SCOPED_TRACE(&row - cases);
+        HintAfter(row.control, row.answer);
+    }
+    SetWindowLongPtrW(dialog, DWLP_USER, 0); // no context
+    HintAfter(kPaper, 0);
+    EXPECT_EQ(Stops(), "");
+}
+
+TEST_F(UiModule, ShowsARefusedChoiceUntilTheNextOne) {
+    SetFocus(Control(kRgbList));
+    EXPECT_EQ(HintAfter(0), L"-");
+    settings->matchPaperColor = 1;
+    EXPECT_NE(HintAfter(kPaper, 100).find(L"paper"), std::wstring::npos);
+    settings->matchPaperColor = 0; // put back by the dialog
+    for (const int size : {16, 24, 31})
+        EXPECT_EQ(Stops(size), " 1526");
+    EXPECT_EQ(GetFocus(), Control(kRgbList));
+    EXPECT_EQ(GetActiveWindow(), dialog);
+    EXPECT_EQ(HintAfter(kRgbList), L"-");
+    EXPECT_EQ(Stops(), "");
+}
+
+TEST_F(UiModule, ShowsConflictsOfTheSettingsOnce) {
+    settings->matchPaperColor = 1;
+    settings->simulationGray = 1;
+    const std::wstring hint = HintAfter(0);
+    EXPECT_EQ(std::count(hint.begin(), hint.end(), L'\n'), 1) << "two conflicts, a line each";
+    EXPECT_EQ(Stops(), " 1524 1526 1627");
+    settings->simulation = 1;
+    ValidateRect(Control(kIcons[0][0]), nullptr);
+    EXPECT_EQ(HintAfter(kSimulation), L"-");
+    EXPECT_TRUE(GetUpdateRect(Control(kIcons[0][0]), nullptr, FALSE)) << "icons are to be drawn anew";
+    EXPECT_EQ(Stops(), "");
+}
+
+TEST_F(UiModule, KeepsTheHintBelowItsDialogAndGoesWithIt) {
+    settings->matchPaperColor = 1;
+    HintAfter(kPaper, 100);
+    SetWindowPos(dialog, nullptr, 150, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+    Pump(300);
+    EXPECT_EQ(FrameOf(hintWindow).left, FrameOf(dialog).left);
+    EXPECT_EQ(FrameOf(hintWindow).top, FrameOf(dialog).bottom);
+    freedWithDialog = library;
+    DestroyWindow(dialog);
+    EXPECT_FALSE(IsWindow(hintWindow));
+    EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
+    Pump(150); // nothing of the library is called any more
+}
+
+TEST_F(UiModule, AnswersByScriptAndLogsCalls) {
+    HintAfter(kRgbList); // before the log
+    FUNCTION(UiTestStartLog)();
+    ASSERT_TRUE(FUNCTION(UiTestAnswer)(kRgbList, 101, 1));
+    ASSERT_TRUE(FUNCTION(UiTestAnswer)(kPaper, 99, 2));
+    FUNCTION(UiTestSetDownloadManager)(1);
+    FUNCTION(IsInstalledDLManager)();
+    EXPECT_NE(HintAfter(kRgbList, 101), L"-");
+    EXPECT_EQ(HintAfter(kPaper, 99), L"-");
+    HintAfter(kRgbList, 0); // the answer is used up
+    UiCall calls[20];
+    const uint32_t count = FUNCTION(UiTestReadLog)(calls, 6);
+    std::ostringstream shown;
+    for (const UiCall* call = calls; call != calls + 6; ++call)
+        shown << call->callback << ' ' << (call->hintWindow == hintWindow) << ' ' << call->control << ' '
+              << call->dialogId << ' ' << call->hasContext << ' ' << call->result << '\n';
+    EXPECT_EQ(shown.str(), "IsInstalledDLManager 0 0 0 0 1\n"
+                           "DoConstraints 1 1504 0 0 101\nDispHintControl 0 0 128 1 0\n"
+                           "DoConstraints 1 1526 0 0 99\nDispHintControl 0 0 128 1 0\n"
+                           "DoConstraints 1 1504 0 0 0\n");
+    EXPECT_EQ(count, 7u);
+    FUNCTION(UiTestClear)();
+    HintAfter(kPaper, 0);
+    EXPECT_EQ(FUNCTION(UiTestReadLog)(nullptr, 0), 0u);
+}
+
+TEST_F(UiModule, RunsDialogsAndHoldsTheIcons) {
+    EXPECT_EQ(FUNCTION(MyDialogBox)(GetModuleHandleW(nullptr), dialog, 155, DialogProcedure, 0), 17);
+    EXPECT_LE(FUNCTION(MyDialogBox)(GetModuleHandleW(nullptr), dialog, 166, DialogProcedure, 0), 0);
+    for (const int id : {473, 474}) {
+        HANDLE icon = LoadImageW(FUNCTION(GetImgResInst)(), MAKEINTRESOURCEW(id), IMAGE_ICON, 16, 16, 0);
+        ICONINFO info = {};
+        ASSERT_TRUE(GetIconInfo(static_cast<HICON>(icon), &info));
+        HDC dc = CreateCompatibleDC(nullptr);
+        SelectObject(dc, info.hbmMask);
+        int width = 0, height = 0; // of what is not transparent
+        for (int i = 0; i < 16; ++i) {
+            width += GetPixel(dc, i, 8) == 0;
+            height += GetPixel(dc, 7, i) == 0;
+        }
+        EXPECT_EQ(std::pair(width, height), id == 473 ? std::pair(10, 14) : std::pair(14, 10));
+        DeleteDC(dc);
+        DestroyIcon(static_cast<HICON>(icon));
+    }
+}
+
+struct UiModuleThatLacks : UiModule {
+    UiModuleThatLacks() : UiModule(L"telmar_u_lacking\\TELMAR_U.DLL") {}
+};
+
+TEST_F(UiModuleThatLacks, WorksWithWhatItHas) {
+    EXPECT_EQ(FUNCTION(ReplaceDlgDispString), nullptr);
+    EXPECT_NE(FUNCTION(ReplaceDlgDispStringCmnItem), nullptr);
+    EXPECT_EQ(hintWindow, nullptr);
+    settings->matchPaperColor = 1;
+    HintAfter(kPaper, 100);
+    EXPECT_EQ(Stops(), " 1524 1526");
+}
+
+} // namespace
