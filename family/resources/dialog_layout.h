@@ -32,7 +32,7 @@
     FONT 8, "MS Shell Dlg", 0, 0, 1
 #define FOOTER_HEIGHT (MARGIN + BUTTON_HEIGHT + MARGIN)
 #define FOOTER_LINE(id, width, top) \
-    CONTROL "", id, "Static", SS_ETCHEDHORZ, MARGIN, top, width, 1
+    CONTROL "", id, "Static", SS_ETCHEDHORZ | WS_GROUP, MARGIN, top, width, 1
 #define BOTTOM_BUTTON(left, top) left, top + MARGIN, BUTTON_WIDTH, BUTTON_HEIGHT
 #define FROM_RIGHT(width, count) (MARGIN + width + SPACING - count * (BUTTON_WIDTH + SPACING))
 #define OK_CANCEL_HELP(width, top) \
