@@ -1,14 +1,13 @@
 // Drawing the printer's picture, against the bare system calls that the same picture takes with its bitmaps
 // already loaded and selected, in turn; and what part of it goes into loading the bitmaps.
+#include "bench/stopwatch.h"
 #include "picture/view_request.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <iterator>
 #include <vector>
-#include <windows.h>
 
 namespace {
 
@@ -60,23 +59,6 @@ void LoadAndFree(HMODULE module) {
     DeleteObject(Load(module, kBitmapCount - 1));
 }
 
-template <typename Work>
-void Measure(std::vector<double>& microseconds, const Work& work) {
-    LARGE_INTEGER start, end, frequency;
-    QueryPerformanceFrequency(&frequency);
-    QueryPerformanceCounter(&start);
-    work();
-    GdiFlush();
-    QueryPerformanceCounter(&end);
-    microseconds.push_back(static_cast<double>(end.QuadPart - start.QuadPart) * 1e6
-                           / static_cast<double>(frequency.QuadPart));
-}
-
-double Median(std::vector<double> values) {
-    std::nth_element(values.begin(), values.begin() + kRounds / 2, values.end());
-    return values[kRounds / 2];
-}
-
 } // namespace
 
 int wmain(int, wchar_t** arguments) {
@@ -113,11 +95,11 @@ int wmain(int, wchar_t** arguments) {
     std::vector<uint32_t> pictures[2];
     std::vector<double> ours, bare, loading;
     for (int i = 0; i < kRounds; ++i) {
-        Measure(ours, [&] { draw(target, &kRectangle, &request); });
+        ours.push_back(Measure([&] { draw(target, &kRectangle, &request); }));
         pictures[0].assign(static_cast<uint32_t*>(pixels), static_cast<uint32_t*>(pixels) + kEdge * kEdge);
-        Measure(bare, [&] { DrawBare(target, loaded); });
+        bare.push_back(Measure([&] { DrawBare(target, loaded); }));
         pictures[1].assign(static_cast<uint32_t*>(pixels), static_cast<uint32_t*>(pixels) + kEdge * kEdge);
-        Measure(loading, [&] { LoadAndFree(module); });
+        loading.push_back(Measure([&] { LoadAndFree(module); }));
         if (pictures[0] != pictures[1]) {
             fprintf(stderr, "view_bench: the two pictures are not the same\n");
             return 1;
