@@ -1,0 +1,48 @@
+// Pictures of the tests: the module's bitmaps unpacked from its resources by hand, canvases to draw on, and
+// their comparison.
+#ifndef ABI_CANVAS_H
+#define ABI_CANVAS_H
+
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <vector>
+#include <windows.h>
+
+constexpr uint32_t kWhite = 0xFFFFFF;
+constexpr uint32_t kGround = 0x3060C0; // of a canvas, to show what is not drawn
+
+struct Picture {
+    int width, height;
+    std::vector<uint32_t> pixels; // from the top left corner on, as 0xRRGGBB
+};
+
+// A bitmap as it lies in the resources; all zero when there is none of this id.
+struct ResourceBitmap : Picture {
+    ResourceBitmap(HMODULE module, UINT id);
+
+    BITMAPINFOHEADER header = {};
+    DWORD octets = 0; // of the whole resource
+};
+
+// A 32-bit section with a context of its own, in one colour at first.
+struct Canvas {
+    Canvas(int canvasWidth, int canvasHeight, uint32_t color = kGround);
+    ~Canvas();
+    Canvas(const Canvas&) = delete;
+    Canvas& operator=(const Canvas&) = delete;
+
+    // Puts a picture here, pixel by pixel: SRCAND, SRCINVERT, SRCPAINT or SRCCOPY.
+    void Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation);
+    Picture Content() const;
+
+    const int width, height;
+    const HDC dc = CreateCompatibleDC(nullptr);
+    HBITMAP bitmap;
+    uint32_t* bits;
+    HGDIOBJ own;
+};
+
+// The first pair of a run that differs is left as bitmaps beside the test program.
+testing::AssertionResult SamePicture(const Canvas& got, const Canvas& wanted);
+
+#endif

@@ -1,0 +1,157 @@
+// Stands between the module and the system's drawing services: see the header.
+#include "gdi_recorder.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+GdiRecorder* current;
+
+bool Fails(const char* function, DWORD type = 0) {
+    if (!current->failing.empty() && current->failing != function)
+        return false;
+    if (++current->calls != current->failingCall && current->failingCall != GdiRecorder::kEvery)
+        return false;
+    current->hasFailed = true;
+    current->loadsBefore = current->ids.size();
+    current->failedType = type;
+    return true;
+}
+
+template <typename Handle>
+Handle Made(Handle handle) {
+    if (handle != nullptr)
+        current->live.insert(handle);
+    return handle;
+}
+
+HDC WINAPI MakeContext(HDC like) {
+    return Fails("CreateCompatibleDC") ? nullptr : Made(CreateCompatibleDC(like));
+}
+
+HBITMAP WINAPI MakeBitmap(HDC like, int width, int height) {
+    return Fails("CreateCompatibleBitmap") ? nullptr : Made(CreateCompatibleBitmap(like, width, height));
+}
+
+HFONT WINAPI MakeFont(const LOGFONTW* description) {
+    return Fails("CreateFontIndirectW", OBJ_FONT) ? nullptr : Made(CreateFontIndirectW(description));
+}
+
+HANDLE WINAPI LoadBitmapImage(HINSTANCE module, const wchar_t* name, UINT type, int width, int height,
+                              UINT flags) {
+    const UINT id = static_cast<UINT>(reinterpret_cast<uintptr_t>(name));
+    current->ids.push_back(id);
+    if (Fails("LoadImageW"))
+        return nullptr;
+    const auto served = current->served.find(id);
+    return Made(served != current->served.end() ? CopyImage(served->second, type, 0, 0, LR_CREATEDIBSECTION)
+                                                : LoadImageW(module, name, type, width, height, flags));
+}
+
+int WINAPI ReadObject(HANDLE object, int size, void* description) {
+    return Fails("GetObjectW", GetObjectType(object)) ? 0 : GetObjectW(object, size, description);
+}
+
+// Only what the module made can fail to be selected: what was selected before always goes back.
+HGDIOBJ WINAPI Select(HDC context, HGDIOBJ object) {
+    const DWORD type = GetObjectType(object);
+    if (current->live.count(object) != 0 && Fails("SelectObject", type))
+        return nullptr;
+    const HGDIOBJ before = SelectObject(context, object);
+    if (before != nullptr)
+        current->selected[context][type] = object;
+    return before;
+}
+
+BOOL WINAPI Delete(HGDIOBJ object) {
+    if (current->live.erase(object) == 0)
+        current->misdeeds += "deletes what it does not own; ";
+    for (const auto& context : current->selected)
+        for (const auto& of : context.second)
+            if (of.second == object)
+                current->misdeeds += "deletes what is still selected; ";
+    return DeleteObject(object);
+}
+
+BOOL WINAPI DeleteContext(HDC context) {
+    if (current->live.erase(context) == 0)
+        current->misdeeds += "deletes a context that it does not own; ";
+    for (const auto& of : current->selected[context])
+        if (current->live.count(of.second) != 0)
+            current->misdeeds += "deletes a context with its object still selected; ";
+    current->selected.erase(context);
+    return DeleteDC(context);
+}
+
+BOOL WINAPI Copy(HDC to, int x, int y, int width, int height, HDC from, int fromX, int fromY,
+                 DWORD operation) {
+    ++current->copies[to];
+    return BitBlt(to, x, y, width, height, from, fromX, fromY, operation);
+}
+
+int WINAPI ReadCapability(HDC context, int index) {
+    return GetDeviceCaps(context, index) * (context == current->fineContext && index == LOGPIXELSY ? 2 : 1);
+}
+
+// Where the module's import table holds this function's address; null when it does not import it.
+void** ImportSlot(HMODULE module, void* function) {
+    char* const base = reinterpret_cast<char*>(module);
+    const auto* head =
+        reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    const auto& place = head->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
+    auto* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + place.VirtualAddress);
+    for (; library->FirstThunk != 0; ++library)
+        for (auto* slot = reinterpret_cast<void**>(base + library->FirstThunk); *slot != nullptr; ++slot)
+            if (*slot == function)
+                return slot;
+    return nullptr;
+}
+
+void Replace(void** slot, void* function) {
+    DWORD protection;
+    if (slot != nullptr && VirtualProtect(slot, sizeof(*slot), PAGE_READWRITE, &protection))
+        *slot = function;
+}
+
+} // namespace
+
+PatchedImport::PatchedImport(HMODULE module, void* system, void* other)
+    : slot(ImportSlot(module, system)), before(system) {
+    EXPECT_NE(slot, nullptr);
+    Replace(slot, other);
+}
+
+PatchedImport::~PatchedImport() {
+    Replace(slot, before);
+}
+
+GdiRecorder::GdiRecorder(HMODULE module)
+    : patches{{module, CreateCompatibleDC, MakeContext},
+              {module, CreateCompatibleBitmap, MakeBitmap},
+              {module, CreateFontIndirectW, MakeFont},
+              {module, LoadImageW, LoadBitmapImage},
+              {module, GetObjectW, ReadObject},
+              {module, SelectObject, Select},
+              {module, DeleteObject, Delete},
+              {module, DeleteDC, DeleteContext},
+              {module, BitBlt, Copy},
+              {module, GetDeviceCaps, ReadCapability}} {
+    current = this;
+}
+
+GdiRecorder::~GdiRecorder() {
+    EXPECT_EQ(Complaints(), "");
+}
+
+void GdiRecorder::Fail(const char* function, size_t nth) {
+    failing = function;
+    failingCall = nth;
+    hasFailed = false;
+    calls = 0;
+    ids.clear();
+    copies.clear();
+}
+
+std::string GdiRecorder::Complaints() const {
+    return misdeeds + (live.empty() ? "" : std::to_string(live.size()) + " objects left behind");
+}

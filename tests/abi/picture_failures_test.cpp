@@ -1,0 +1,102 @@
+// The printer's picture when the system refuses something in the middle, and what is left behind afterwards.
+#include "gdi_recorder.h"
+#include "product.h"
+#include "view_model.h"
+
+namespace {
+
+constexpr RECT kRectangle = {12, 9, 331, 219}; // off the origin: memory and target differ in place
+const Choice kChoice = {2, 1, 1, 0, 1, 0, true, "InTrayManual", 1 << 2};
+const std::wstring kName = L"QUORVANE lumora R880";
+
+struct PictureFailures : testing::Test {
+    PictureFailures() {
+        records.Choose(kChoice);
+        records.settings[6] = 1;
+    }
+
+    LoadedModule module;
+    ViewRecords records{UnitFeatures({{"OpMachine", {"A", "B"}, {L"A", kName}}})};
+    const std::vector<UINT> ids = WantedIds(kChoice);
+    Canvas got{350, 230}, wanted{350, 230};
+};
+
+// Nothing is drawn on it besides: what the picture does not cover stays. Its resolution counts, not the
+// memory's.
+TEST_F(PictureFailures, TargetIsWrittenByOneTransfer) {
+    GdiRecorder recorder(module.handle);
+    recorder.fineContext = got.dc;
+    records.Draw(module, got.dc, kRectangle);
+    EXPECT_EQ(recorder.copies[got.dc], 1);
+    EXPECT_EQ(recorder.ids, ids);
+    DrawWanted(module.handle, wanted, kRectangle, ids, kName, {}, 192);
+    EXPECT_TRUE(SamePicture(got, wanted));
+}
+
+// What the refused call takes out of the picture.
+Mishap MishapOf(const GdiRecorder& recorder) {
+    if (recorder.loadsBefore == 0)
+        return {SIZE_MAX, true, false};
+    if (recorder.failedType == OBJ_FONT)
+        return {SIZE_MAX, false, true};
+    return {recorder.loadsBefore - 1, false, false};
+}
+
+TEST_F(PictureFailures, EachRefusedCallCostsItsOwnPartOnly) {
+    const std::map<std::string, size_t> kCalls = {
+        {"CreateCompatibleDC", ids.size()}, // memory, and each bitmap but for the badge when it is measured
+        {"CreateCompatibleBitmap", 1},      {"LoadImageW", ids.size()},
+        {"GetObjectW", ids.size()},         {"SelectObject", ids.size() + 1}, // the last one is the font
+        {"CreateFontIndirectW", 1},
+    };
+    for (const auto& [function, calls] : kCalls)
+        for (size_t n = 1; n <= calls; ++n) {
+            SCOPED_TRACE(function + " " + std::to_string(n));
+            GdiRecorder recorder(module.handle);
+            recorder.Fail(function.c_str(), n);
+            for (Canvas* canvas : {&got, &wanted})
+                std::fill_n(canvas->bits, 350 * 230, kGround);
+            records.Draw(module, got.dc, kRectangle);
+            const Mishap mishap = MishapOf(recorder);
+            EXPECT_TRUE(recorder.hasFailed);
+            EXPECT_EQ(recorder.copies[got.dc] == 1, !mishap.isStraight);
+            DrawWanted(module.handle, wanted, kRectangle, ids, kName, mishap);
+            EXPECT_TRUE(SamePicture(got, wanted));
+        }
+}
+
+TEST_F(PictureFailures, EverythingRefusedDoesNoHarm) {
+    for (const char* function : {"", "CreateCompatibleDC", "LoadImageW", "GetObjectW", "SelectObject"}) {
+        GdiRecorder recorder(module.handle);
+        recorder.Fail(function, GdiRecorder::kEvery);
+        records.Draw(module, got.dc, kRectangle);
+    }
+}
+
+// The process can make a limited number of drawing objects.
+size_t CountFreeObjects() {
+    std::vector<HRGN> regions;
+    while (HRGN region = CreateRectRgn(0, 0, 1, 1))
+        regions.push_back(region);
+    for (HRGN region : regions)
+        DeleteObject(region);
+    return regions.size();
+}
+
+TEST_F(PictureFailures, TenThousandDrawingsLeaveNothing) {
+    size_t before = 0;
+    GdiRecorder recorder(module.handle);
+    for (int i = 0; i < 10000; ++i) {
+        const bool isFull = i % 50 == 0; // a picture with all that it can have takes its time
+        records.request.U8(0, isFull);
+        records.settings[2] = isFull ? 2 : 0;
+        records.Draw(module, got.dc, isFull ? kRectangle : RECT{0, 0, 30, 20});
+        ASSERT_EQ(recorder.Complaints(), "") << i;
+        if (i == 0)
+            before = CountFreeObjects(); // without what the system keeps for itself
+    }
+    EXPECT_GT(before, 10000u);
+    EXPECT_EQ(CountFreeObjects(), before);
+}
+
+} // namespace
