@@ -41,4 +41,7 @@ Run SetUpLogo(CLI::App& command);
 // One sheet of all telling pictures of the printer, written as PNG.
 Run SetUpGallery(CLI::App& command);
 
+// One of the model's dialogs, used by a script or a person: what it shows and which settings it changes.
+Run SetUpDialog(CLI::App& command);
+
 #endif

@@ -1,0 +1,167 @@
+// `workbench dialog` as a process, on a screen: what scripts change, what they are shown and what is refused.
+// Expected values are those of the model file and of the dialogs' rules.
+#include "workbench/workbench_run.h"
+
+#include <algorithm>
+#include <regex>
+
+namespace {
+
+constexpr const char* kProfiles = R"({
+    "rgbSources": [{"name": "Monitor"}, {"name": "Scanner", "qualifier": "flat", "location": 77}],
+    "simulations": [{"name": "Offset", "qualifier": "coated", "location": 5}],
+    "destinations": [{"name": "Matt"}, {"name": "Gloss \u00e4", "location": 3}]})";
+
+// What OK makes of records of built-in choices, which by default have the model's location and no text.
+constexpr const char* kStoredSimulation = R"("simulationProfile.location": [5, 0])";
+std::string StoredRgb(const std::string& object) {
+    return "\"" + object + R"(RgbProfile.qualifier": ["", "sRGB"], ")" + object
+           + R"(RgbProfile.location": [5, 0])";
+}
+
+struct DialogFolder : Folder {
+    DialogFolder() : Folder(L"workbench_dialog") { Write("p.json", kProfiles); }
+    std::wstring Write(const char* name, const std::string& text) const {
+        std::ofstream(path / name, std::ios::binary) << text;
+        return L" \"" + (path / name).wstring() + L"\"";
+    }
+    Json Run(const std::string& script, const std::wstring& options = L"") const {
+        return RunForJson(L"dialog 128 --script" + Write("s.txt", script) + L" --profiles"
+                          + Write("p.json", kProfiles) + L" " + options);
+    }
+};
+
+// {"name": [before, after]...}
+Json Changes(const Json& report) {
+    Json changes = Json::object();
+    for (const Json& row : report["changes"])
+        changes[row["name"].is_null() ? row["offset"].dump() : std::string(row["name"])] = {row["before"],
+                                                                                            row["after"]};
+    return changes;
+}
+
+Json Expected(std::initializer_list<std::string> parts) {
+    std::string all;
+    for (const std::string& part : parts)
+        all += (all.empty() ? "{" : ", ") + part;
+    return Json::parse(all + "}");
+}
+
+Json ControlRow(const Json& report, int control) {
+    const Json ids = Pick(report["controls"], "control");
+    return report["controls"][static_cast<size_t>(std::find(ids.begin(), ids.end(), control) - ids.begin())];
+}
+
+TEST(WorkbenchDialog, TellsWhatHasChanged) {
+    const DialogFolder folder;
+    const Json report = folder.Run("# no press is simulated yet\r\nchoose 1627 Black and grey\r\n" // refused
+                                   "choose 1354 Exact match  # images\n  choose 1524 #6\nchoose 1627 #1\n"
+                                   "choose 1524 None\n" // refused: greys of a press are chosen
+                                   "choose 1509 Scanner (flat)\nchoose 1584 Gloss \u00e4 Memory\nok");
+    EXPECT_EQ(report["dialog"]["end"], "OK");
+    EXPECT_EQ(Changes(report), Expected({StoredRgb("image"), StoredRgb("graphics"), R"(
+        "image.colorMatch": [1, 3], "simulation": [0, 128], "simulationProfile.qualifier": ["", "coated"],
+        "simulationProfile.name": ["", "Offset"], "simulationGray": [0, 1], "textRgbSource": [1, 257],
+        "textRgbProfile.qualifier": ["", "flat"], "textRgbProfile.name": ["", "Scanner"],
+        "textRgbProfile.location": [5, 77], "graphicsDestination": [0, 128],
+        "graphicsDestinationProfile.name": ["", "Gloss \u00e4"], "graphicsDestinationProfile.location": [0, 3])"}));
+    std::string hints; // after each line that does something
+    for (const Json& row : report["actions"])
+        hints += row["line"].dump() + (row["hint"].is_null() ? " " : "! ");
+    EXPECT_EQ(hints, "2! 3 4 5 6! 7 8 9 ");
+    EXPECT_EQ(ControlRow(report, 1524),
+              Json::parse(R"({"control": 1524, "kind": "list", "group": "Press simulation", "selected": 6,
+                              "label": "Press to simulate:", "shows": "Offset (coated) Flash memory",
+                              "disabled": null})"));
+    EXPECT_EQ(ControlRow(report, 1526)["shows"], "off");
+    Json destinations;
+    for (const Json& row : report["entries"])
+        if (row["list"] == 1592)
+            destinations.push_back({row["index"], row["data"], row["text"]});
+    EXPECT_EQ(destinations, Json({{0, 0, "Automatic"}, {1, 128, "Matt "}, {2, 129, "Gloss \u00e4 Memory"}}));
+}
+
+TEST(WorkbenchDialog, DefaultsAndCancel) {
+    const DialogFolder folder;
+    const std::string choices = "choose 1330 Detail\nchoose 1524 SWOP\nclick 1526\nchoose 1599 #1\n";
+    EXPECT_EQ(Changes(folder.Run(choices + "defaults\nok")),
+              Expected({StoredRgb("image"), StoredRgb("text"), StoredRgb("graphics"), kStoredSimulation}));
+    for (const char* end : {"", "cancel", "refresh", "key escape"}) {
+        const Json report = folder.Run(choices + end);
+        EXPECT_EQ(report["dialog"]["end"], "Cancel") << end;
+        EXPECT_EQ(report["changes"], Json::array()) << end;
+        EXPECT_EQ(ControlRow(report, 1330)["shows"], "Detail") << end;
+    }
+}
+
+// Begins with a record of zeros, whose choices all exist. Keys go where the focus is.
+TEST(WorkbenchDialog, TakesKeysAndARecord) {
+    const DialogFolder folder;
+    const Json report = folder.Run("choose 1524 DIC\nchoose 1627 #0\nkey tab\nkey space\nkey enter\n",
+                                   L"--settings" + folder.Write("record", std::string(7808, '\0')));
+    EXPECT_EQ(report["dialog"]["endCode"], 1);
+    EXPECT_EQ(Changes(report), Expected({R"("simulation": [0, 5], "matchPaperColor": [0, 1],
+        "imageRgbProfile.qualifier": ["", "Device RGB"], "textRgbProfile.qualifier": ["", "Device RGB"],
+        "graphicsRgbProfile.qualifier": ["", "Device RGB"])"}));
+}
+
+// A picture is of the dialog, and of the hint below it. With the other flags lists are short and locked.
+TEST(WorkbenchDialog, PicturesAndContext) {
+    const DialogFolder folder;
+    const auto ignore = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
+    const HMODULE templates = LoadLibraryW((ProgramFolder() / "TELMAR_S.DLL").c_str());
+    const HWND dialog = CreateDialogParamW(templates, MAKEINTRESOURCEW(128), nullptr, ignore, 0);
+    RECT frame = {};
+    ASSERT_TRUE(GetWindowRect(dialog, &frame));
+    DestroyWindow(dialog);
+    const std::string path = folder.path.u8string();
+    const Json open = folder.Run("picture " + path + "/a.png\nchoose 1504 CIE RGB\nclick 1526\ncancel",
+                                 L"--out \"" + folder.path.wstring() + L"/b.png\"");
+    const Json pictures = open["pictures"];
+    for (const Json& picture : pictures)
+        EXPECT_EQ(picture["width"], frame.right - frame.left);
+    EXPECT_EQ(pictures[0]["height"], frame.bottom - frame.top);
+    EXPECT_GT(pictures[1]["height"], frame.bottom - frame.top);
+    EXPECT_GT(fs::file_size(folder.path / "a.png"), 5000) << "there is hardly anything on it";
+
+    const Json locked = folder.Run("", L"--short-rgb --locked");
+    EXPECT_EQ(locked["dialog"]["disabled"].size(), 42);
+    EXPECT_EQ(ControlRow(locked, 1504)["disabled"], true);
+    const Json lists = Pick(locked["entries"], "list");
+    EXPECT_EQ(std::count(lists.begin(), lists.end(), 1504), 2);
+}
+
+TEST(WorkbenchDialog, SaysWhatIsWrong) {
+    const DialogFolder folder;
+    const std::string longName = R"({"simulations": [{"name": ")" + std::string(41, 'x') + "\"}]}";
+    const struct {
+        const char* option; // that names the file
+        std::string file;
+        std::string says; // with the exit code; a regular expression
+    } cases[] = {
+        {"--script", "\nchose 1504 #0", "2 .*wrong:2: .*'chose'; possible: choose LIST .*, cancel"},
+        {"--script", "choose 1999 #0", "2 .*wrong:1: .*no list '1999'; possible: 1504, .*1627\n"},
+        {"--script", "click 1504", "2 .*wrong:1: .*no button '1504'; possible: 1526, .*9\n"},
+        {"--script", "choose 1524 #6", "2 .*wrong:1: list 1524 .*'#6'; possible: None, SWOP, .*DIC\n"},
+        {"--script", "key any", "2 .*wrong:1: .*no key 'any'; possible: tab, "},
+        {"--script", "cancel\nok", "2 .*wrong:2: the dialog has ended before"},
+        {"--locked --script", "click 1526", "2 .*wrong:1: control 1526 is disabled"},
+        {"--script", "picture nowhere/a.png", "1 .*wrong:1: .*there is no folder .*nowhere"},
+        {"--settings", std::string(7807, '\0'), "1 .*wrong: 7807 bytes .* 7808"},
+        {"--profiles", longName, "1 .*wrong: simulations\\[0\\].name: .*41 .* 40\n"},
+        {"--profiles", R"({"rgbSources": [{"name": ""}]})", "1 .*wrong: rgbSources\\[0\\]: lacks its name"},
+        {"--profiles", R"({"cmyk": []})", "1 .*'cmyk'; possible: rgbSources, simulations, destinations"},
+        {"--profiles", R"({"simulations": [{"nom": 1}]})", "1 .*'nom'; possible: name, qualifier, location"},
+        {"--profiles", R"({"destinations": [{"location": -1}]})", "1 .*location: -1 is no location"},
+        {"--profiles", "{", "1 .*wrong: not JSON: .*line 1, column 2"},
+    };
+    for (const auto& c : cases) {
+        const std::wstring file = folder.Write("wrong", c.file);
+        const Result result = RunWorkbench(L"dialog 128 " + fs::path(c.option).wstring() + file);
+        const std::string all = std::to_string(result.exitCode) + " " + result.errors;
+        EXPECT_TRUE(std::regex_search(all, std::regex("^" + c.says))) << c.says << " in: " << all;
+        EXPECT_EQ(result.output, "");
+    }
+}
+
+} // namespace

@@ -1,0 +1,43 @@
+// Scripts of user actions on a dialog: one action a line, a '#' begins a comment. The table of actions is in
+// dialog_script.cpp.
+#ifndef WORKBENCH_DIALOG_SCRIPT_H
+#define WORKBENCH_DIALOG_SCRIPT_H
+
+#include "document.h"
+
+#include <vector>
+#include <windows.h>
+
+struct ScriptVerb;
+
+struct ScriptAction {
+    const ScriptVerb* verb;
+    std::string argument;
+    size_t line;       // of the script; 0: --out has asked for it
+    std::string place; // for messages: "FILE:LINE" or the option
+};
+
+struct DialogScript {
+    std::vector<ScriptAction> actions;
+    size_t next = 0;                       // the first that has not been run
+    Document done = Document::array();     // a row for each that has
+    Document pictures = Document::array(); // that they have taken
+};
+
+// Reads the script at this path (UTF-8). Throws Failure that names the line and what is possible.
+DialogScript ReadDialogScript(const std::string& path);
+
+// Has a picture taken at the script's end; before the OK or Cancel that it ends with.
+void AddLastPicture(DialogScript& script, const std::string& path);
+
+// Runs the next action on the dialog, which must be visible. Keys are posted: they act once the dialog's
+// message loop runs again. Throws Failure that names the line when the dialog doesn't allow it.
+void RunNextAction(DialogScript& script, HWND dialog);
+
+// Presses a button, as a user can when it is there and enabled.
+void PressButton(HWND dialog, int button);
+
+// What a script can say, for --help.
+std::string ScriptHelp();
+
+#endif

@@ -1,0 +1,28 @@
+// One of the model's dialogs, run modally: a dialog box whose messages the module answers, as the
+// user-interface module runs it, and a script or a person that uses it.
+#ifndef WORKBENCH_DIALOG_SESSION_H
+#define WORKBENCH_DIALOG_SESSION_H
+
+#include "dialog_script.h"
+#include "dialog_view.h"
+#include "dialogs/dialog_context.h"
+#include "dialogs/dlg_proc.h"
+
+struct ModelDialog {
+    uint32_t id; // of the dialog and its template
+    HINSTANCE templates;
+    decltype(&DDProc_DlgProc) answer; // the module's
+};
+
+struct DialogEnd {
+    INT_PTR code;    // that the dialog ends with
+    DialogView view; // what it showed when OK or Cancel was pressed
+};
+
+// Opens the dialog, runs the script once it is up, and presses Cancel where the script leaves it open, unless
+// it waits for a person. Throws Failure when there is no such dialog, no display, or the script can't be run
+// to its end. One at a time.
+DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, DialogScript& script,
+                    bool waitsForPerson);
+
+#endif

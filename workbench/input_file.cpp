@@ -1,0 +1,15 @@
+// Files that a command reads: see the header.
+#include "input_file.h"
+
+#include "document.h"
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+std::string ReadInputFile(const std::string& path, const char* option) {
+    std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
+    if (!file)
+        throw Failure(kExitFailed, path + ": can't be read; name another file with " + option);
+    return {std::istreambuf_iterator<char>(file), {}};
+}

@@ -1,0 +1,11 @@
+// Files that a command reads besides the driver's own.
+#ifndef WORKBENCH_INPUT_FILE_H
+#define WORKBENCH_INPUT_FILE_H
+
+#include <string>
+
+// All bytes of the file at this path (UTF-8), which the option has named. Throws Failure when it can't be
+// read.
+std::string ReadInputFile(const std::string& path, const char* option);
+
+#endif

@@ -1,0 +1,114 @@
+// Profile files: see the header.
+#include "profile_file.h"
+
+#include "document.h"
+#include "input_file.h"
+#include "output.h"
+#include "paramdata/text.h"
+
+namespace {
+
+constexpr size_t kMostUnits = std::extent_v<decltype(ProfileEntry::name)> - 1; // UTF-16
+
+constexpr struct {
+    const char* name;
+    std::vector<ProfileEntry> PrinterProfiles::*entries;
+} kLists[] = {
+    {"rgbSources", &PrinterProfiles::rgbSources},
+    {"simulations", &PrinterProfiles::simulations},
+    {"destinations", &PrinterProfiles::destinations},
+};
+
+// Each throws when the value is of the wrong kind.
+void TakeText(const std::string& place, const Document& value, wchar_t (&text)[kMostUnits + 1]) {
+    if (!value.is_string())
+        throw Failure(kExitFailed, place + ": " + value.dump() + " is no text");
+    const std::wstring wide = Wide(value.get<std::string>());
+    if (wide.size() > kMostUnits)
+        throw Failure(kExitFailed, place + ": the text has " + std::to_string(wide.size())
+                                       + " UTF-16 units; shorten it to " + std::to_string(kMostUnits));
+    CopyText(text, wide.c_str());
+}
+
+void TakeQualifier(const std::string& place, const Document& value, ProfileEntry& entry) {
+    TakeText(place, value, entry.qualifier);
+}
+
+void TakeName(const std::string& place, const Document& value, ProfileEntry& entry) {
+    TakeText(place, value, entry.name);
+}
+
+void TakeLocation(const std::string& place, const Document& value, ProfileEntry& entry) {
+    if (!value.is_number_unsigned() || value.get<uint64_t>() > UINT32_MAX)
+        throw Failure(kExitFailed, place + ": " + value.dump()
+                                       + " is no location; possible: the value of a Prof_Location item, such "
+                                         "as 4");
+    entry.location = value.get<uint32_t>();
+}
+
+constexpr struct {
+    const char* name;
+    void (*take)(const std::string& place, const Document& value, ProfileEntry& entry);
+} kFields[] = {
+    {"name", TakeName},
+    {"qualifier", TakeQualifier},
+    {"location", TakeLocation},
+};
+
+// The row of this name. Throws Failure that names what is possible.
+template <typename Row, size_t N>
+const Row& FindRow(const Row (&rows)[N], const std::string& place, const std::string& name) {
+    std::string choices;
+    for (const Row& row : rows) {
+        if (name == row.name)
+            return row;
+        choices += (choices.empty() ? "" : ", ") + std::string(row.name);
+    }
+    throw Failure(kExitFailed, place + ": there is no '" + name + "'; possible: " + choices);
+}
+
+ProfileEntry TakeEntry(const std::string& place, const Document& value) {
+    if (!value.is_object())
+        throw Failure(kExitFailed,
+                      place + ": " + value.dump() + " is no profile; possible: {\"name\": TEXT}");
+    ProfileEntry entry = {};
+    for (const auto& field : value.items())
+        FindRow(kFields, place, field.key()).take(place + "." + field.key(), field.value(), entry);
+    if (entry.name[0] == 0)
+        throw Failure(kExitFailed, place + ": lacks its name");
+    return entry;
+}
+
+Document Parse(const std::string& path) {
+    try {
+        return Document::parse(ReadInputFile(path, "--profiles"));
+    } catch (const Document::parse_error& error) {
+        throw Failure(kExitFailed, path + ": not JSON: " + error.what());
+    }
+}
+
+} // namespace
+
+PrinterProfiles ReadPrinterProfiles(const std::string& path) {
+    PrinterProfiles profiles;
+    const Document document = Parse(path);
+    if (!document.is_object())
+        throw Failure(kExitFailed, path + ": holds no lists; possible: {\"rgbSources\": [...]}");
+    for (const auto& list : document.items()) {
+        const auto& row = FindRow(kLists, path, list.key());
+        if (!list.value().is_array())
+            throw Failure(kExitFailed, path + ": " + list.key() + ": is no list; possible: [...]");
+        for (size_t i = 0; i < list.value().size(); ++i)
+            (profiles.*row.entries)
+                .push_back(
+                    TakeEntry(path + ": " + list.key() + "[" + std::to_string(i) + "]", list.value()[i]));
+    }
+    return profiles;
+}
+
+ProfileLists ListsOf(const PrinterProfiles& profiles) {
+    const auto list = [](const std::vector<ProfileEntry>& entries) {
+        return ProfileList{entries.data(), static_cast<uint32_t>(entries.size())};
+    };
+    return {list(profiles.rgbSources), list(profiles.simulations), list(profiles.destinations)};
+}
