@@ -209,8 +209,7 @@ void AddLastPicture(DialogScript& script, const std::string& path) {
 }
 
 void RunNextAction(DialogScript& script, HWND dialog) {
-    // The action may open a dialog of its own, for which the script goes on; so nothing of it is kept here.
-    const ScriptAction action = script.actions[script.next++];
+    const ScriptAction& action = script.actions[script.next++];
     script.done.push_back({{"line", action.line != 0 ? Document(action.line) : Document()},
                            {"action", action.verb->name},
                            {"on", action.argument},

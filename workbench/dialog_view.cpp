@@ -56,8 +56,9 @@ LRESULT SelectionOf(HWND list) {
 // The text that is selected, or the state of a button that has one.
 Document Shown(HWND control, ControlKind kind) {
     if (kind == ControlKind::kList) {
-        const LRESULT selection = SelectionOf(control);
-        return selection < 0 ? Document() : Document(EntriesOf(control)[static_cast<size_t>(selection)]);
+        const std::vector<std::string> texts = EntriesOf(control);
+        const auto selection = static_cast<size_t>(SelectionOf(control)); // -1: none
+        return selection < texts.size() ? Document(texts[selection]) : Document();
     }
     if (kind == ControlKind::kButton)
         return nullptr;
