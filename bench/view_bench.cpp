@@ -95,9 +95,15 @@ int wmain(int, wchar_t** arguments) {
     std::vector<uint32_t> pictures[2];
     std::vector<double> ours, bare, loading;
     for (int i = 0; i < kRounds; ++i) {
-        ours.push_back(Measure([&] { draw(target, &kRectangle, &request); }));
+        ours.push_back(Measure([&] {
+            draw(target, &kRectangle, &request);
+            GdiFlush();
+        }));
         pictures[0].assign(static_cast<uint32_t*>(pixels), static_cast<uint32_t*>(pixels) + kEdge * kEdge);
-        bare.push_back(Measure([&] { DrawBare(target, loaded); }));
+        bare.push_back(Measure([&] {
+            DrawBare(target, loaded);
+            GdiFlush();
+        }));
         pictures[1].assign(static_cast<uint32_t*>(pixels), static_cast<uint32_t*>(pixels) + kEdge * kEdge);
         loading.push_back(Measure([&] { LoadAndFree(module); }));
         if (pictures[0] != pictures[1]) {

@@ -27,7 +27,6 @@ constexpr const char* kUnit4 = "OpOutTrayUnit=OpOutTrayUnit4";
 constexpr const char* kBins = "OpMailBinKit=EnaOpMailBinKit";
 constexpr const char* kSaddle = "OpSaddleKit=EnaSaddleKit";
 constexpr const char* kDisk = "OpHDD=EnaOpHDD";
-constexpr const char* kNoDisk = "OpHDD=DisOpHDD";
 constexpr const char* kPrinter = "OpBody=OpBodyPrinter";
 
 // clang-format off
@@ -46,7 +45,7 @@ constexpr Row kRows[] = {
     {"Output unit 2, saddle kit",          {kUnit2, kSaddle}},
     {"Output unit 3",                      {kUnit3}},
     {"Output unit 4",                      {kUnit4}},
-    {"Hard disk missing",                  {kNoDisk}},
+    {"No unit, still bin 1 (flag 6)",      {}, "", 6},
     {"Hard disk installed",                {kDisk}},
     {"Everything (unit 2)",                {kLct, kUnit2, kBins, kSaddle, kDisk}},
     {"One of several machines",            {}, "", 0, "lumora R880 Pro"},
@@ -72,7 +71,7 @@ constexpr Row kRows[] = {
     {"Mail bin 2 (flag 7)",                {kUnit1, kBins}, "", 7},
     {"Mail bin 3 (flag 8)",                {kUnit1, kBins}, "", 8},
     {"Mail bin 4 (flag 9)",                {kUnit1, kBins}, "", 9},
-    {"Unit 2, mail bin 1 (flag 6)",        {kUnit2, kBins}, "", 6},
+    {"Unit 1, lower tray (flag 5)",        {kUnit1}, "", 5},
     {"Unit 4, nothing marked (flag 1)",    {kUnit4}, "", 1},
 };
 

@@ -59,6 +59,22 @@ TEST_F(BitmapConventions, PartsLieOnWhiteInTheirPlaces) {
         EXPECT_EQ(ExtentOf(Read(id, 200, 200, 8, 256)), Extent(extent, extent + 4)) << id;
 }
 
+// AND with body and cabinet, and with each other where both may stand, leaves the units' colours as they are.
+TEST_F(BitmapConventions, NothingDarkensWherePartsMeet) {
+    const ResourceBitmap body(module.handle, 101), cabinet(module.handle, 103), input(module.handle, 104);
+    for (const auto& part : kParts) {
+        const ResourceBitmap unit(module.handle, part.id);
+        size_t darkened = 0, shared = 0;
+        for (size_t i = 0; i < unit.pixels.size(); ++i) {
+            const bool isDrawn = unit.pixels[i] != kWhite;
+            darkened += isDrawn && (unit.pixels[i] & body.pixels[i] & cabinet.pixels[i]) != unit.pixels[i];
+            shared += isDrawn && input.pixels[i] != kWhite;
+        }
+        EXPECT_EQ(part.id > 103 ? darkened : 0, 0u) << part.id;
+        EXPECT_EQ(part.id > 104 ? shared : 0, 0u) << part.id;
+    }
+}
+
 TEST_F(BitmapConventions, HighlightsArePairsOfMaskAndImage) {
     for (const auto& [id, extent] : kMasks) {
         const ResourceBitmap image = Read(id - 1, 200, 200, 8, 256), mask = Read(id, 200, 200, 8, 256);

@@ -17,8 +17,8 @@ struct LoadedBitmap {
 // Width and height in pixels; 0 x 0 when they can't be read.
 SIZE BitmapSize(HBITMAP bitmap);
 
-// Owns a memory context; the handle is null when it can't be created. What is selected into it must not
-// outlive it: the context goes first, with its own bitmap back in place.
+// Owns a memory context; the handle is null when it can't be created. What is selected into it must outlive
+// it: the context goes first, with its own bitmap back in place.
 struct MemoryContext {
     explicit MemoryContext(HDC compatibleWith);
     ~MemoryContext();

@@ -88,7 +88,7 @@ void WINAPI DrawPrinterView(HDC target, const RECT* rectangle, const PrinterView
     const SIZE size = {Distance(rectangle->left, rectangle->right),
                        Distance(rectangle->top, rectangle->bottom)};
     HBITMAP canvas = CreateCompatibleBitmap(target, size.cx, size.cy);
-    {
+    { // the context goes before what is selected into it
         MemoryContext memory(target);
         if (memory.handle != nullptr && canvas != nullptr && memory.Select(canvas)) {
             DrawAll(memory.handle, target, *rectangle, size, *request);

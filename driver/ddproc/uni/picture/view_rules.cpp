@@ -59,7 +59,7 @@ constexpr struct {
     {"InTrayLCT",    121},
 };
 
-// --- Output: the first row of the output unit with a flag that is set ----------------------------------------
+// --- Output: the first row of output unit and body with a flag that is set ----------------------------------------
 
 // Bit n stands for output unit n or output flag n.
 constexpr uint32_t Bits(uint32_t a) {

@@ -70,8 +70,10 @@ Scene Draw(const Paper& paper) {
         return scene;
     const Plane face = {front, along, {0, 1}};
     AddFace(scene, face, {0, 0, length, paper.height}, kStackFront);
-    for (double y = kSheetsDrawn; y < paper.height - kEdgeWidth; y += kSheetsDrawn)
+    for (int sheet = 1; sheet * kSheetsDrawn < paper.height - kEdgeWidth; ++sheet) {
+        const double y = sheet * kSheetsDrawn;
         scene.Panel(face, {kEdgeWidth, y, length - kEdgeWidth, y + 0.9}, Tint(kEdge, 0.55));
+    }
     const Point end = At(paper.right.x, paper.right.y, paper.z.from);
     AddFace(scene, {end, {1, -1}, {0, 1}}, {0, 0, paper.z.to - paper.z.from, paper.height}, kStackFront);
     return scene;

@@ -10,8 +10,7 @@ namespace {
 constexpr double kFloor = 164;
 constexpr Span kAllDepth = {0, kDepth};
 
-// --- Colours and materials
-// -----------------------------------------------------------------------------------
+// --- Colours and materials --------------------------------------------------------------------------------
 
 constexpr Color kShellEdge = {150, 158, 170};
 constexpr Color kGroove = {128, 137, 150};
@@ -32,14 +31,13 @@ const Material kTray = {Flat({96, 105, 119}), Flat({80, 88, 101}), Across({168, 
 // What stands in the output bay. Its pixels and those of the bay are combined by AND: its shades keep to bits
 // that the bay's colours have too, and so come out as they are.
 const Material kBayUnit = {
-    Down({206, 207, 207}, {196, 198, 200}), Flat({192, 193, 195}), Flat({205, 206, 207}), {136, 139, 143}};
+    Down({207, 207, 207}, {196, 196, 196}), Flat({192, 192, 192}), Flat({206, 206, 206}), {140, 140, 140}};
 const Material kBayTray = {
-    Flat({74, 76, 79}), Flat({64, 67, 72}), Across({143, 143, 143}, {129, 132, 136}), {64, 68, 72}};
+    Flat({76, 76, 76}), Flat({66, 66, 66}), Across({143, 143, 143}, {130, 130, 130}), {66, 66, 66}};
 constexpr Color kBayWall = {207, 207, 207};
 constexpr Color kBayFloor = {239, 239, 239};
 
-// --- Details
-// -------------------------------------------------------------------------------------------------
+// --- Details ----------------------------------------------------------------------------------------------
 
 // A horizontal groove in a front.
 void AddGroove(Scene& scene, Span x, double y) {
@@ -63,8 +61,7 @@ void AddGlow(Scene& scene, Span x, double y) {
     scene.Panel(FrontPlane(0), {x.from, y, x.to, y + 1.2}, Tint({255, 255, 255}, 0.8));
 }
 
-// --- Body and cabinet
-// ----------------------------------------------------------------------------------------
+// --- Body and cabinet -------------------------------------------------------------------------------------
 
 constexpr Span kBodyX = {96, 146};
 constexpr Span kBay = {72, 88};
@@ -100,13 +97,13 @@ void AddScanner(Scene& scene) {
     AddSolid(scene, {{97, 119}, {59, 65}, {1, kDepth}}, kShell);
     scene.Panel(FrontPlane(1), {99, 61, 117, 61.8}, Tint(kGroove, 0.6));
     // operation panel, tilted toward the user
-    scene.Polygon({{119, 74}, {121.5, 65.5}, {145.5, 65.5}, {146.5, 74}}, Flat({40, 47, 58}));
-    scene.Polygon({{121, 73}, {122.8, 66.6}, {138, 66.6}, {138.4, 73}},
+    scene.Polygon({{119, 72}, {121.5, 63.5}, {145.5, 63.5}, {146.5, 72}}, Flat({40, 47, 58}));
+    scene.Polygon({{121, 71}, {122.8, 64.6}, {138, 64.6}, {138.4, 71}},
                   Down({150, 214, 244}, {36, 132, 196}));
-    scene.Polygon({{122, 69}, {122.8, 66.6}, {131, 66.6}, {126, 71}, {121.5, 71}},
+    scene.Polygon({{122, 67}, {122.8, 64.6}, {131, 64.6}, {126, 69}, {121.5, 69}},
                   Tint({255, 255, 255}, 0.35));
-    scene.Stroke({{142, 68}, {142.1, 68}}, 2, Flat({96, 200, 96}));
-    scene.Stroke({{140.8, 71.5}, {143.6, 71.5}}, 1.2, Flat({140, 150, 164}));
+    scene.Stroke({{142, 66}, {142.1, 66}}, 2, Flat({96, 200, 96}));
+    scene.Stroke({{140.8, 69.5}, {143.6, 69.5}}, 1.2, Flat({140, 150, 164}));
 }
 
 void AddManualTray(Scene& scene) {
@@ -129,8 +126,7 @@ void AddCabinet(Scene& scene) {
     AddHandle(scene, {128, 139}, 143);
 }
 
-// --- Units left of the body
-// ----------------------------------------------------------------------------------
+// --- Units left of the body -------------------------------------------------------------------------------
 
 constexpr Span kTower = {80, 96};
 
@@ -142,7 +138,7 @@ void AddTray(Scene& scene, Point left, Point right) {
 // What carries the paper from the body's bay into a unit at its left.
 void AddRelay(Scene& scene) {
     AddSolid(scene, {{86, 132}, {76, 87}, {0, 4}}, kBayUnit);
-    scene.Panel(FrontPlane(0), {104, 80, 124, 81.5}, Flat({88, 90, 94}), 0.7);
+    scene.Panel(FrontPlane(0), {104, 80, 124, 81.5}, Flat({74, 74, 74}), 0.7);
 }
 
 // A box upon the tower with four bins; the higher ones slope more.

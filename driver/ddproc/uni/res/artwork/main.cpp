@@ -68,16 +68,18 @@ int Run(const std::string& folder, bool isCheck) {
 } // namespace
 
 int main(int argc, char** argv) {
-    CLI::App app("Draws the bitmaps of the module's resources", "artwork");
-    std::string folder;
-    bool isCheck = false;
-    app.add_option("FOLDER", folder, "Where the bitmaps lie")->required()->check(CLI::ExistingDirectory);
-    app.add_flag("--check", isCheck, "Writes nothing, and fails when a bitmap differs");
     try {
-        app.parse(argc, argv);
+        CLI::App app("Draws the bitmaps of the module's resources", "artwork");
+        std::string folder;
+        bool isCheck = false;
+        app.add_option("FOLDER", folder, "Where the bitmaps lie")->required()->check(CLI::ExistingDirectory);
+        app.add_flag("--check", isCheck, "Writes nothing, and fails when a bitmap differs");
+        try {
+            app.parse(argc, argv);
+        } catch (const CLI::ParseError& error) {
+            return app.exit(error) == 0 ? 0 : 2;
+        }
         return Run(folder, isCheck);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : 2;
     } catch (const std::exception& error) {
         std::cerr << "artwork: " << error.what() << "\n";
         return 1;

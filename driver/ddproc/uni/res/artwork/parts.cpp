@@ -3,6 +3,7 @@
 
 #include "bitmap_file.h"
 #include "machine.h"
+#include "reduce.h"
 
 #include <algorithm>
 
@@ -56,32 +57,44 @@ Color ToColor(const Rgb& pixel) {
 
 // Body and cabinet in one. Free edges blend into the background; where a unit can stand behind, the body's
 // edge is sharp.
-Picture BasePicture(const Raster<Sample>& base, const std::vector<RenderedUnit>& units, int step) {
+Picture BasePicture(const Raster<Sample>& base, const std::vector<RenderedUnit>& units) {
     Picture picture(base.width, base.height, kWhite);
     for (size_t i = 0; i < picture.pixels.size(); ++i) {
         Sample sample = base.pixels[i];
         if (std::any_of(units.begin(), units.end(),
                         [i](const RenderedUnit& unit) { return unit.behind.pixels[i].coverage > 0; }))
             sample.coverage = sample.coverage >= kOwned ? 1 : 0;
-        picture.pixels[i] = Round(Over(sample, kPaper), step);
+        picture.pixels[i] = Round(Over(sample, kPaper));
     }
     return picture;
 }
 
-Picture UnitPicture(const RenderedUnit& unit, const Raster<Sample>& base, const Picture& basePicture,
-                    int step) {
+// A unit in its own colours, where the body does not hide it.
+Picture WantedUnit(const RenderedUnit& unit, const Raster<Sample>& base, const Picture& basePicture) {
     Picture picture(base.width, base.height, kWhite);
     for (size_t i = 0; i < picture.pixels.size(); ++i) {
         const bool isBase = base.pixels[i].coverage >= kOwned;
         const Sample behind = isBase ? Sample() : unit.behind.pixels[i];
         const Sample& before = unit.before.pixels[i];
-        if (behind.coverage == 0 && before.coverage == 0)
-            continue;
-        const Rgb& below = basePicture.pixels[i];
-        const Color color = Over(before, Over(behind, isBase ? ToColor(below) : kPaper));
-        picture.pixels[i] = NearestWithin(Round(color, step), below);
+        if (behind.coverage > 0 || before.coverage > 0)
+            picture.pixels[i] =
+                Round(Over(before, Over(behind, isBase ? ToColor(basePicture.pixels[i]) : kPaper)));
     }
     return picture;
+}
+
+// The same in colours that AND with the base leaves as they are.
+Picture UnitPicture(const RenderedUnit& unit, const Raster<Sample>& base, const Picture& basePicture,
+                    size_t mostColors) {
+    const Picture wanted = WantedUnit(unit, base, basePicture);
+    for (size_t colors = mostColors;; --colors) { // the base's bits can make some more
+        Picture picture = Reduce(wanted, colors);
+        for (size_t i = 0; i < picture.pixels.size(); ++i)
+            if (kWhite < wanted.pixels[i] || wanted.pixels[i] < kWhite)
+                picture.pixels[i] = NearestWithin(picture.pixels[i], basePicture.pixels[i]);
+        if (ColorsOf(picture).size() <= mostColors)
+            return picture;
+    }
 }
 
 // The rows of a picture between two, on white.
@@ -99,22 +112,16 @@ std::vector<Part> DrawParts(int width, int height, size_t mostColors) {
     const Raster<Sample> base = Render(Base(), width, height);
     const std::vector<UnitRow> rows = Units();
     std::vector<RenderedUnit> units;
+    units.reserve(rows.size());
     for (const UnitRow& row : rows)
         units.push_back({Render(row.unit.behind, width, height), Render(row.unit.before, width, height)});
 
-    // Shades go in steps, as small as the number of colours allows. Powers of two: the bits of the bay's
-    // colours stay.
-    for (int step = 1;; step *= 2) {
-        const Picture basePicture = BasePicture(base, units, step);
-        std::vector<Part> parts = {
-            {101, "body", Rows(basePicture, 0, kCabinetTop)},
-            {103, "feed_cabinet", Rows(basePicture, kCabinetTop, height)},
-        };
-        for (size_t i = 0; i < rows.size(); ++i)
-            parts.push_back({rows[i].id, rows[i].name, UnitPicture(units[i], base, basePicture, step)});
-        if (std::all_of(parts.begin(), parts.end(), [mostColors](const Part& part) {
-                return ColorsOf(part.picture).size() <= mostColors;
-            }))
-            return parts;
-    }
+    const Picture basePicture = Reduce(BasePicture(base, units), mostColors);
+    std::vector<Part> parts = {
+        {101, "body", Rows(basePicture, 0, kCabinetTop)},
+        {103, "feed_cabinet", Rows(basePicture, kCabinetTop, height)},
+    };
+    for (size_t i = 0; i < rows.size(); ++i)
+        parts.push_back({rows[i].id, rows[i].name, UnitPicture(units[i], base, basePicture, mostColors)});
+    return parts;
 }

@@ -2,6 +2,7 @@
 #include "render.h"
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 
 namespace {
@@ -27,29 +28,26 @@ Covered ColorOf(const Scene& scene, Point at) {
 Sample SampleOf(const Scene& scene, double left, double top, double size) {
     Color sum = {};
     int covered = 0;
-    for (int i = 0; i < kSamples * kSamples; ++i) {
-        const Covered sample = ColorOf(scene, {left + size * (i % kSamples + 0.5) / kSamples,
-                                               top + size * (i / kSamples + 0.5) / kSamples});
-        if (!sample.isCovered)
-            continue;
-        sum = {sum.r + sample.color.r, sum.g + sample.color.g, sum.b + sample.color.b};
-        ++covered;
-    }
+    for (int row = 0; row < kSamples; ++row)
+        for (int column = 0; column < kSamples; ++column) {
+            const Covered sample = ColorOf(
+                scene, {left + size * (column + 0.5) / kSamples, top + size * (row + 0.5) / kSamples});
+            if (!sample.isCovered)
+                continue;
+            sum = {sum.r + sample.color.r, sum.g + sample.color.g, sum.b + sample.color.b};
+            ++covered;
+        }
     if (covered == 0)
         return {};
     return {{sum.r / covered, sum.g / covered, sum.b / covered},
             static_cast<double>(covered) / (kSamples * kSamples)};
 }
 
-uint8_t RoundChannel(double value, int step) {
-    return static_cast<uint8_t>(255 - std::min(static_cast<int>((255 - value) / step + 0.5) * step, 255));
+uint8_t ToChannel(double value) {
+    return static_cast<uint8_t>(std::lround(std::clamp(value, 0.0, 255.0)));
 }
 
 } // namespace
-
-bool operator==(const Rgb& a, const Rgb& b) {
-    return a.r == b.r && a.g == b.g && a.b == b.b;
-}
 
 bool operator<(const Rgb& a, const Rgb& b) {
     return std::tie(a.r, a.g, a.b) < std::tie(b.r, b.g, b.b);
@@ -67,6 +65,6 @@ Color Over(const Sample& sample, const Color& below) {
     return Mix(below, sample.color, sample.coverage);
 }
 
-Rgb Round(const Color& color, int step) {
-    return {RoundChannel(color.r, step), RoundChannel(color.g, step), RoundChannel(color.b, step)};
+Rgb Round(const Color& color) {
+    return {ToChannel(color.r), ToChannel(color.g), ToChannel(color.b)};
 }

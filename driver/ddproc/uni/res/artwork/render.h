@@ -13,7 +13,6 @@ struct Rgb {
     uint8_t g;
     uint8_t b;
 };
-bool operator==(const Rgb& a, const Rgb& b);
 bool operator<(const Rgb& a, const Rgb& b);
 
 constexpr Rgb kWhite = {255, 255, 255};
@@ -50,7 +49,6 @@ Raster<Sample> Render(const Scene& scene, int width, int height, double scale = 
 // A sample over a colour below.
 Color Over(const Sample& sample, const Color& below);
 
-// Rounded to steps: 1 keeps every shade; larger steps save colours. White stays white.
-Rgb Round(const Color& color, int step = 1);
+Rgb Round(const Color& color);
 
 #endif

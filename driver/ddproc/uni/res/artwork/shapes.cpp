@@ -1,5 +1,5 @@
-// Shapes: see the header. Only additions, multiplications, divisions and square roots, so that every machine
-// computes the same.
+// Shapes: see the header. Only additions, multiplications and divisions, so that every machine computes the
+// same.
 #include "shapes.h"
 
 #include <algorithm>
