@@ -6,6 +6,9 @@
 
 namespace {
 
+constexpr int kSettlingWaits = 4;   // before a picture, each of
+constexpr DWORD kSettlingTime = 25; // milliseconds
+
 struct ButtonKind {
     LONG_PTR type; // of its style
     ControlKind kind;
@@ -111,6 +114,15 @@ RECT FrameOf(HWND window) {
     return frame;
 }
 
+// Has everything drawn, and the system put it onto the screen, which it may do only while this thread waits.
+void BringToScreen(const std::vector<HWND>& windows) {
+    for (int i = 0; i < kSettlingWaits; ++i) {
+        for (HWND window : windows)
+            RedrawWindow(window, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+        MsgWaitForMultipleObjects(0, nullptr, FALSE, kSettlingTime, QS_PAINT | QS_SENDMESSAGE);
+    }
+}
+
 void CopyFromScreen(const Canvas& canvas, POINT origin, const RECT& frame) {
     const HDC screen = GetDC(nullptr);
     BitBlt(canvas.context, frame.left - origin.x, frame.top - origin.y, frame.right - frame.left,
@@ -179,14 +191,16 @@ DialogView ViewDialog(HWND dialog) {
 }
 
 Document TakePicture(HWND dialog, const std::string& path) {
-    RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
-    std::vector<RECT> frames = {FrameOf(dialog)};
-    ForEachOwned(dialog, [&](HWND window) { frames.push_back(FrameOf(window)); });
-    RECT all = frames[0];
-    for (const RECT& frame : frames)
+    std::vector<HWND> windows = {dialog};
+    ForEachOwned(dialog, [&](HWND window) { windows.push_back(window); });
+    BringToScreen(windows);
+    RECT all = {};
+    for (HWND window : windows) {
+        const RECT frame = FrameOf(window);
         UnionRect(&all, &all, &frame);
+    }
     const Canvas canvas({all.right - all.left, all.bottom - all.top});
-    for (const RECT& frame : frames)
-        CopyFromScreen(canvas, {all.left, all.top}, frame);
+    for (HWND window : windows)
+        CopyFromScreen(canvas, {all.left, all.top}, FrameOf(window));
     return WritePicture(canvas, path);
 }

@@ -3,7 +3,10 @@
 #include "workbench/workbench_run.h"
 
 #include <algorithm>
+#include <objidl.h> // before GDI+
 #include <regex>
+
+#include <gdiplus.h>
 
 namespace {
 
@@ -36,6 +39,22 @@ std::string Changes(const Json& report) {
 Json ControlRow(const Json& report, int control) {
     const Json ids = Pick(report["controls"], "control");
     return report["controls"][static_cast<size_t>(std::find(ids.begin(), ids.end(), control) - ids.begin())];
+}
+
+// Row by row; empty for what is no picture.
+std::vector<COLORREF> Pixels(const fs::path& png) {
+    ULONG_PTR gdiPlus = 0;
+    const Gdiplus::GdiplusStartupInput input;
+    Gdiplus::GdiplusStartup(&gdiPlus, &input, nullptr);
+    const auto bitmap = std::make_unique<Gdiplus::Bitmap>(png.c_str());
+    std::vector<COLORREF> pixels;
+    for (UINT i = 0; i < bitmap->GetWidth() * bitmap->GetHeight(); ++i) {
+        Gdiplus::Color color;
+        bitmap->GetPixel(static_cast<INT>(i % bitmap->GetWidth()), static_cast<INT>(i / bitmap->GetWidth()),
+                         &color);
+        pixels.push_back(color.ToCOLORREF());
+    }
+    return pixels;
 }
 
 TEST(WorkbenchDialog, TellsWhatHasChanged) {
@@ -109,7 +128,11 @@ TEST(WorkbenchDialog, PicturesAndContext) {
         EXPECT_EQ(picture["width"], frame.right - frame.left);
     EXPECT_EQ(pictures[0]["height"], frame.bottom - frame.top);
     EXPECT_GT(pictures[1]["height"], frame.bottom - frame.top);
-    EXPECT_GT(fs::file_size(folder.path / "a.png"), 5000) << "there is hardly anything on it";
+    const std::vector<COLORREF> refused = Pixels(folder.path / "b.png");
+    const auto hint = static_cast<size_t>((frame.bottom - frame.top + 3) * (frame.right - frame.left) + 3);
+    ASSERT_GT(refused.size(), hint);
+    EXPECT_NE(refused[hint], RGB(0, 0, 0)) << "the hint below the dialog is not drawn";
+    EXPECT_GT(std::count(refused.begin(), refused.end(), RGB(204, 0, 0)), 50) << "no stop sign";
 
     const Json locked = folder.Run("", L"--short-rgb --locked");
     EXPECT_EQ(locked["dialog"]["disabled"].size(), 42);
