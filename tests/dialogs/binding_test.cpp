@@ -1,10 +1,6 @@
 // How dialog 128 finds the user-interface module and calls it, at its opening and later; what is left behind.
 #include "full_dialog.h"
 
-#include "uimodule/test_hooks.h"
-
-#include <sstream>
-
 namespace {
 
 const std::vector<std::string> kBinding = {
@@ -37,18 +33,18 @@ TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
     for (const std::string& lacking : lacks) {
         SCOPED_TRACE("without " + lacking);
         missing = {lacking};
-        downloadManager = 0;
+        downloadManager = lacking == "nothing" ? 256 : 0; // any but 0: installed
         std::string wanted;
         for (const std::string& call : kBinding)
             wanted += call.substr(0, call.find(' ')) == lacking ? "" : call + "\n";
         wanted += InOrder("fill", false) + InOrder("show", true);
-        const bool isAsked = lacking != "IsInstalledDLManager";
-        wanted += isAsked ? "IsInstalledDLManager\ndisable 1393\n" : "";
+        const bool isAsked = lacking != "IsInstalledDLManager", isDisabled = isAsked && downloadManager == 0;
+        wanted += std::string(isAsked ? "IsInstalledDLManager\n" : "") + (isDisabled ? "disable 1393\n" : "");
         settings = FullSettings();
         events.clear();
         Open();
         EXPECT_EQ(Events(With(kCallbacks, {"fill", "show", "disable"})), wanted);
-        EXPECT_EQ(!IsWindowEnabled(Control(1393)), isAsked);
+        EXPECT_EQ(!IsWindowEnabled(Control(1393)), isDisabled);
 
         // What an earlier opening had is not used again.
         constraints = [](uint32_t control) { return control == 0 ? 0 : 100; };
@@ -57,15 +53,6 @@ TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
         EXPECT_EQ(Selection(1354), isRefusable ? 1 : 2);
         EXPECT_EQ(Events(kCallbacks), std::string(isRefusable ? "DoConstraints 1354\n" : "")
                                           + (lacking != "DispHintControl" ? "DispHintControl 128\n" : ""));
-        Close();
-    }
-}
-
-TEST_F(FullDialog, DownloadManagerStaysWhenItIsInstalled) {
-    for (const int32_t answer : {1, -1, 256}) {
-        downloadManager = answer;
-        Open();
-        EXPECT_TRUE(IsWindowEnabled(Control(1393))) << answer;
         Close();
     }
 }
@@ -185,32 +172,15 @@ TEST_F(FullDialog, LeavesNothingBehind) {
 
 // With the family's own module: the paper can't be matched without a simulation.
 TEST_F(FullDialog, WorksWithTheFamilysModule) {
-    const HMODULE ui = LoadLibraryW(L"TELMAR_U.DLL");
-    const auto find = [ui](const char* name) {
-        return reinterpret_cast<void (*)()>(GetProcAddress(ui, name));
-    };
     usesOwnCallbacks = true;
     settings.U8(3534, 0).U16(3536, 0).U16(2166, 0);
-    reinterpret_cast<decltype(&UiTestStartLog)>(find("UiTestStartLog"))();
     Open();
-    Check(kBox, true);
-    EXPECT_EQ(Send(kBox, BM_GETCHECK), BST_UNCHECKED);
-    EXPECT_EQ(settings.bytes[3534], 0);
-    UiCall calls[32] = {};
-    const uint32_t count =
-        reinterpret_cast<decltype(&UiTestReadLog)>(find("UiTestReadLog"))(calls, std::size(calls));
-    std::ostringstream log;
-    for (const UiCall* call = calls; call < calls + count; ++call)
-        if (call->callback != std::string("ReqDrawStopInfoIcon"))
-            log << call->callback << ' ' << call->control << ' ' << call->dialogId << ' '
-                << (call->dialog == window) << ' ' << call->hasContext << ' ' << call->result << '\n';
-    EXPECT_EQ(log.str(), "ReplaceDlgDispStringCmnItem 0 0 1 1 0\nReplaceDlgDispString 0 0 1 0 0\n"
-                         "CreateToolWnd 0 0 1 0 0\nStoreStopIconRect 0 0 1 0 0\nDoConstraints 0 0 1 0 0\n"
-                         "DispHintControl 0 128 1 1 0\nIsInstalledDLManager 0 0 0 0 0\n"
-                         "DoConstraints 1526 0 1 0 100\nDispHintControl 0 128 1 1 0\n");
-    Close();
-    FreeLibrary(ui);
-    EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
+    for (const int simulation : {0, 1}) {
+        Choose(1524, simulation);
+        EXPECT_EQ(Check(kBox, true), (Answer{0, 1}));
+        EXPECT_EQ(Send(kBox, BM_GETCHECK), simulation);
+        EXPECT_EQ(settings.bytes[3534], simulation);
+    }
 }
 
 } // namespace

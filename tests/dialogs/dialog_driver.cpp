@@ -153,17 +153,23 @@ int WINAPI ReadLocale(LCID locale, LCTYPE type, wchar_t* text, int capacity) {
     return static_cast<int>(value.size()) + 1;
 }
 
-void* WINAPI Allocate(UINT flags, SIZE_T size) {
-    return current->allocationsBeforeFailure-- > 0 ? LocalAlloc(flags, size) : nullptr;
+template <typename Handle>
+Handle Made(Handle made) {
+    current->owned.insert(made);
+    return made;
 }
-
+void* WINAPI Allocate(UINT flags, SIZE_T size) {
+    return current->failingAllocation-- == 1 ? nullptr : Made(LocalAlloc(flags, size));
+}
+void* WINAPI Release(void* block) {
+    EXPECT_EQ(current->owned.erase(block), 1u);
+    return LocalFree(block);
+}
 HBRUSH WINAPI MakeBrush(COLORREF color) {
-    HBRUSH brush = CreateSolidBrush(color);
-    current->brushes.insert(brush);
-    return brush;
+    return Made(CreateSolidBrush(color));
 }
 BOOL WINAPI Delete(HGDIOBJ object) {
-    EXPECT_EQ(current->brushes.erase(object), 1u);
+    EXPECT_EQ(current->owned.erase(object), 1u);
     return DeleteObject(object);
 }
 
@@ -230,7 +236,7 @@ DialogDriver::DialogDriver(uint32_t identifier)
 DialogDriver::~DialogDriver() {
     Close();
     FreeLibrary(resources);
-    EXPECT_TRUE(brushes.empty());
+    EXPECT_TRUE(owned.empty());
 }
 
 void DialogDriver::Patch() {
@@ -248,6 +254,7 @@ void DialogDriver::Patch() {
     patch(GetProcAddress(GetModuleHandleW(L"winspool.drv"), "GetPrinterW"), Address(DescribePrinter));
     patch(GetLocaleInfoW, ReadLocale);
     patch(LocalAlloc, Allocate);
+    patch(LocalFree, Release);
     patch(CreateSolidBrush, MakeBrush);
     patch(DeleteObject, Delete);
     patch(LoadIconW, LoadSystemIcon);

@@ -115,11 +115,10 @@ TEST_F(Drawing, TextByItemData) {
         WantText(row.text, 20, COLOR_WINDOWTEXT);
         EXPECT_TRUE(SamePicture(got, wanted));
     }
-    allocationsBeforeFailure = 0;
+    failingAllocation = 1;
     Draw(Item(1592, 128, ODA_DRAWENTIRE, 0));
     WantBackground(COLOR_WINDOW);
     EXPECT_TRUE(SamePicture(got, wanted));
-    allocationsBeforeFailure = INT_MAX;
     context.profiles = nullptr;
     Draw(Item(1592, 128, ODA_DRAWENTIRE, 0));
     WantBackground(COLOR_WINDOW);
@@ -172,8 +171,7 @@ TEST_F(Drawing, FocusRectangle) {
     }
 }
 
-// Only a caller who asks whether it was drawn gets an entry. Leaves the context as it was.
-TEST_F(Drawing, AskedForAndWhollyRestored) {
+TEST_F(Drawing, EntriesForThoseWhoAskWhetherTheyAreHandled) {
     for (const FullControl& control : kFull) {
         const bool isList = control.id != kBox;
         EXPECT_EQ(Draw(Item(control.id, 0, ODA_DRAWENTIRE, 0), false).result, isList);

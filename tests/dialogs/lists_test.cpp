@@ -128,13 +128,14 @@ TEST_F(FullDialog, FindsAProfileAtAnotherPosition) {
 
 TEST_F(FullDialog, ProfilesWithoutMemoryForTheirTextEndTheList) {
     Open();
-    allocationsBeforeFailure = 3; // both of 1504, the first of 1599
+    failingAllocation = 3; // after both of 1504
     Tell(WM_USER + 100);
-    allocationsBeforeFailure = INT_MAX;
     EXPECT_EQ(Entries(1504), kRgb);
+    EXPECT_EQ(Entries(1599), "Automatic=0");
+    EXPECT_EQ(Entries(1509), kRgb);
+    failingAllocation = 4;
+    Tell(WM_USER + 100);
     EXPECT_EQ(Entries(1599), "Automatic=0|Press A Built in=128");
-    EXPECT_EQ(Entries(1509), kRgbItems);
-    EXPECT_EQ(Entries(1524), kSimuItems);
 }
 
 TEST_F(FullDialog, TextsThatFillTheirFieldsStayInThem) {
