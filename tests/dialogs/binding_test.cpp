@@ -173,7 +173,7 @@ TEST_F(FullDialog, LeavesNothingBehind) {
 // With the family's own module: the paper can't be matched without a simulation.
 TEST_F(FullDialog, WorksWithTheFamilysModule) {
     usesOwnCallbacks = true;
-    settings.U8(3534, 0).U16(3536, 0).U16(2166, 0);
+    settings.U8(2094, 0).U8(3534, 0).U16(3536, 0).U16(2166, 0); // a colour printer
     Open();
     for (const int simulation : {0, 1}) {
         Choose(1524, simulation);
