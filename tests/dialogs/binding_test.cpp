@@ -1,0 +1,186 @@
+// How dialog 128 finds the user-interface module and calls it, at its opening and later; what is left behind.
+#include "full_dialog.h"
+
+namespace {
+
+const std::vector<std::string> kBinding = {
+    "ReplaceDlgDispStringCmnItem Printer view",
+    "ReplaceDlgDispString Colour Settings",
+    "CreateToolWnd",
+    "StoreStopIconRect",
+    "DoConstraints 0",
+    "DispHintControl 128",
+};
+const std::set<std::string> kCallbacks = {
+    "ReplaceDlgDispStringCmnItem", "ReplaceDlgDispString", "CreateToolWnd",
+    "StoreStopIconRect",           "DoConstraints",        "DispHintControl",
+    "IsInstalledDLManager",        "ReqDrawStopInfoIcon",
+};
+constexpr uint16_t kLocked[] = {
+    1501, 1502, 1504, 1468, 1354, 1469, 1335, 1597, 1599, 1471, 1332, 1506, 1507, 1509,
+    1465, 1353, 1466, 1334, 1589, 1592, 1467, 1330, 1473, 1511, 1513, 1514, 1516, 1517,
+    1519, 1582, 1584, 1520, 1522, 1523, 1398, 1524, 1526, 1625, 1627, 1393, 1528, 1032,
+};
+
+std::set<std::string> With(std::set<std::string> kinds, std::initializer_list<std::string> more) {
+    kinds.insert(more);
+    return kinds;
+}
+
+TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
+    std::vector<std::string> lacks(kCallbacks.begin(), kCallbacks.end());
+    lacks.push_back("nothing");
+    for (const std::string& lacking : lacks) {
+        SCOPED_TRACE("without " + lacking);
+        missing = {lacking};
+        downloadManager = lacking == "nothing" ? 256 : 0; // any but 0: installed
+        std::string wanted;
+        for (const std::string& call : kBinding)
+            wanted += call.substr(0, call.find(' ')) == lacking ? "" : call + "\n";
+        wanted += InOrder("fill", false) + InOrder("show", true);
+        const bool isAsked = lacking != "IsInstalledDLManager", isDisabled = isAsked && downloadManager == 0;
+        wanted += std::string(isAsked ? "IsInstalledDLManager\n" : "") + (isDisabled ? "disable 1393\n" : "");
+        settings = FullSettings();
+        events.clear();
+        Open();
+        EXPECT_EQ(Events(With(kCallbacks, {"fill", "show", "disable"})), wanted);
+        EXPECT_EQ(!IsWindowEnabled(Control(1393)), isDisabled);
+
+        // What an earlier opening had is not used again.
+        constraints = [](uint32_t control) { return control == 0 ? 0 : 100; };
+        const bool isRefusable = lacking != "DoConstraints";
+        Choose(1354, 2);
+        EXPECT_EQ(Selection(1354), isRefusable ? 1 : 2);
+        EXPECT_EQ(Events(kCallbacks), std::string(isRefusable ? "DoConstraints 1354\n" : "")
+                                          + (lacking != "DispHintControl" ? "DispHintControl 128\n" : ""));
+        Close();
+    }
+}
+
+TEST_F(FullDialog, WorksWithoutTheModule) {
+    Open();
+    Close();
+    hasUiModule = false;
+    downloadManager = 0;
+    constraints = [](uint32_t) { return 100; };
+    events.clear();
+    Open();
+    EXPECT_EQ(initAnswer, (Answer{0, 1}));
+    EXPECT_EQ(Events({"fill", "show", "disable"}), InOrder("fill", false) + InOrder("show", true));
+    EXPECT_TRUE(IsWindowEnabled(Control(1393)));
+    ExpectSaved(FullSettings());
+    EXPECT_EQ(Choose(1354, 2), (Answer{1, 1}));
+    EXPECT_EQ(Check(kBox, false), (Answer{0, 1}));
+    Tell(WM_ACTIVATE, WA_ACTIVE);
+    ExpectSettings(FullSettings().U8(2153, 2).U8(3534, 0));
+    EXPECT_EQ(Events(kCallbacks), "");
+    Close();
+    EXPECT_EQ(uiFrees, 1);
+}
+
+// Of the save area what the first constraint call has left, but not what the fallbacks change.
+TEST_F(FullDialog, SavesTheSettingsBetweenConstraintsAndFallbacks) {
+    settings.U16(2514, 300).U16(2166, 77);
+    RawBytes saved = settings;
+    saved.U8(2153, 3).U8(0, 200).U8(7807, 201);
+    constraints = [this](uint32_t) {
+        settings.U8(2153, 3).U8(0, 200).U8(7807, 201);
+        return 100; // to all controls at once nothing can be refused
+    };
+    Open();
+    ExpectSaved(saved);
+    EXPECT_EQ(Selection(1354), 3);
+    EXPECT_EQ(NumberAt<uint16_t>(settings.bytes.data(), 2514), 0);
+    Command(IDCANCEL);
+    ExpectSettings(saved);
+}
+
+TEST_F(FullDialog, LocksItsControlsInOrder) {
+    context.changesAllowed = 0;
+    Open();
+    std::string wanted = "IsInstalledDLManager\n";
+    for (const int control : kLocked)
+        wanted += "disable " + std::to_string(control) + "\n";
+    EXPECT_EQ(Events({"IsInstalledDLManager", "disable"}), wanted);
+    for (const int control : kLocked)
+        EXPECT_TRUE(GetWindowLongW(Control(control), GWL_STYLE) & WS_VISIBLE) << control;
+    for (const int control : {IDOK, IDCANCEL, IDHELP})
+        EXPECT_TRUE(IsWindowEnabled(Control(control)));
+    Close();
+    Open(false); // without a context nothing is locked
+    EXPECT_TRUE(IsWindowEnabled(Control(1504)));
+}
+
+TEST_F(FullDialog, RefreshesWhenActivatedOrTold) {
+    Open();
+    settings.U8(2153, 0).U16(2166, 2).U8(3534, 0);
+    simulations.clear();
+    PassProfiles();
+    const RawBytes wanted = settings;
+    const std::set<std::string> kinds = With(kCallbacks, {"fill", "show", "disable"});
+    const std::string refresh = InOrder("fill", false) + InOrder("show", true);
+    for (const WPARAM inactive : {WPARAM{WA_INACTIVE}, WPARAM{MAKEWPARAM(WA_INACTIVE, 1)}}) {
+        events.clear();
+        Tell(WM_ACTIVATE, inactive);
+        EXPECT_EQ(Events(kinds), "");
+    }
+    for (const WPARAM active : {WPARAM{WA_ACTIVE}, WPARAM{MAKEWPARAM(WA_CLICKACTIVE, 1)}}) {
+        events.clear();
+        EXPECT_EQ(Tell(WM_ACTIVATE, active), (Answer{0, 1}));
+        EXPECT_EQ(Events(kinds), "DoConstraints 0\nDispHintControl 128\n" + refresh);
+    }
+    EXPECT_EQ(Entries(1524), kSimuItems);
+    events.clear();
+    EXPECT_EQ(Tell(WM_USER + 100), (Answer{1, 1}));
+    EXPECT_EQ(Events(kinds), refresh);
+    EXPECT_EQ(std::vector({Selection(1354), Selection(1524)}), std::vector({0, 2}));
+    EXPECT_EQ(Send(kBox, BM_GETCHECK), BST_UNCHECKED);
+    ExpectSettings(wanted);
+    ExpectSaved(FullSettings());
+}
+
+// Each initialisation takes the module anew; the end gives back what was taken last.
+TEST_F(FullDialog, TakesTheModuleAtEveryInitialisation) {
+    Open();
+    missing = {"DoConstraints"};
+    Tell(WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&context));
+    EXPECT_EQ(uiLoads, 2);
+    EXPECT_EQ(uiFrees, 0);
+    Choose(1354, 0);
+    EXPECT_EQ(Events({"DoConstraints"}), "");
+    Close();
+    EXPECT_EQ(uiFrees, 1);
+    FreeLibrary(GetModuleHandleW(L"TELMAR_U.DLL"));
+}
+
+// Windows are slow to come, so a window is opened ten times over.
+TEST_F(FullDialog, LeavesNothingBehind) {
+    for (int i = 0; i < 200; ++i) {
+        if (i % 10 == 0)
+            Open();
+        else
+            Tell(WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&context));
+        if (i % 10 == 9)
+            Close();
+        else
+            Tell(WM_DESTROY);
+    }
+    EXPECT_EQ(uiLoads, 200);
+    EXPECT_EQ(uiFrees, 200);
+    EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
+}
+
+// With the family's own module: the paper can't be matched without a simulation.
+TEST_F(FullDialog, WorksWithTheFamilysModule) {
+    usesOwnCallbacks = true;
+    settings.U8(2094, 0).U8(3534, 0).U16(3536, 0).U16(2166, 0); // a colour printer
+    Open();
+    for (const int simulation : {0, 1}) {
+        Choose(1524, simulation);
+        EXPECT_EQ(Check(kBox, true), (Answer{0, 1}));
+        EXPECT_EQ(Send(kBox, BM_GETCHECK), simulation);
+        EXPECT_EQ(settings.bytes[3534], simulation);
+    }
+}
+
+} // namespace

@@ -1,0 +1,359 @@
+// A model dialog that is driven and watched: see the header.
+#include "dialog_driver.h"
+
+#include <map>
+#include <winspool.h>
+
+namespace {
+
+DialogDriver* current;
+const HANDLE kPrinter = reinterpret_cast<HANDLE>(0x5150);
+const HWND kHintWindow = reinterpret_cast<HWND>(0x4711);
+
+std::string Narrow(const wchar_t* text) {
+    std::string narrow;
+    for (; *text != 0; ++text)
+        narrow += static_cast<char>(*text);
+    return narrow;
+}
+
+void Note(const std::string& event, bool isAsExpected = true) {
+    current->Note(event + (isAsExpected ? "" : " WRONG"));
+}
+
+// The text of a control text table's first row.
+std::string FirstText(const uint8_t* table) {
+    return Narrow(reinterpret_cast<const wchar_t*>(table + 20));
+}
+
+// --- The user-interface module -----------------------------------------------------------------------------
+
+void WINAPI ReplaceCommon(HWND dialog, const uint8_t* texts, uint32_t zero, const DialogContext* context) {
+    const bool isContext = context == reinterpret_cast<void*>(GetWindowLongPtrW(dialog, DWLP_USER));
+    Note("ReplaceDlgDispStringCmnItem " + FirstText(texts), zero == 0 && isContext);
+}
+void WINAPI Replace(HWND, const uint8_t* texts) {
+    Note("ReplaceDlgDispString " + FirstText(texts));
+}
+HWND WINAPI CreateHintWindow(HWND) {
+    Note("CreateToolWnd");
+    return kHintWindow;
+}
+void WINAPI StoreIcons(HWND, const uint8_t* table) {
+    current->stopIcons = table;
+    Note("StoreStopIconRect", NumberAt<uint64_t>(table, 0) == 0 && NumberAt<uint64_t>(table, 8) == 0);
+}
+int32_t WINAPI Constrain(const void* none, HWND dialog, HWND hints, uint32_t control, int32_t all,
+                         const void* alsoNone) {
+    const bool isHintWindow = hints == (current->missing.count("CreateToolWnd") ? nullptr : kHintWindow);
+    Note("DoConstraints " + std::to_string(control),
+         none == nullptr && IsWindow(dialog) && isHintWindow && all == -1 && alsoNone == nullptr);
+    return current->constraints(control);
+}
+void WINAPI Hint(HWND dialog, const DialogContext* context, uint16_t id) {
+    const bool isContext = context == reinterpret_cast<void*>(GetWindowLongPtrW(dialog, DWLP_USER));
+    Note("DispHintControl " + std::to_string(id), isContext);
+}
+int32_t WINAPI HasDownloadManager() {
+    Note("IsInstalledDLManager");
+    return current->downloadManager;
+}
+void WINAPI DrawIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item, const void* table) {
+    Note("ReqDrawStopInfoIcon " + std::to_string(control),
+         IsWindow(dialog) && item->CtlID == control && table == current->stopIcons);
+}
+
+template <typename Function>
+FARPROC Address(Function* function) {
+    return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function));
+}
+
+FARPROC WINAPI FindProcedure(HMODULE library, const char* name) {
+    static const std::map<std::string, FARPROC> kCallbacks = {
+        {"ReplaceDlgDispStringCmnItem", Address(ReplaceCommon)},
+        {"ReplaceDlgDispString", Address(Replace)},
+        {"CreateToolWnd", Address(CreateHintWindow)},
+        {"StoreStopIconRect", Address(StoreIcons)},
+        {"DoConstraints", Address(Constrain)},
+        {"DispHintControl", Address(Hint)},
+        {"IsInstalledDLManager", Address(HasDownloadManager)},
+        {"ReqDrawStopInfoIcon", Address(DrawIcon)},
+    };
+    const auto found = kCallbacks.find(name);
+    if (current->usesOwnCallbacks || found == kCallbacks.end())
+        return GetProcAddress(library, name);
+    return current->missing.count(name) != 0 ? nullptr : found->second;
+}
+
+HMODULE WINAPI Load(const wchar_t* path) {
+    ++current->uiLoads;
+    EXPECT_TRUE(std::filesystem::equivalent(path, ProductFolder() / L"TELMAR_U.DLL"));
+    return current->hasUiModule ? LoadLibraryW(path) : nullptr;
+}
+BOOL WINAPI Free(HMODULE library) {
+    ++current->uiFrees;
+    EXPECT_EQ(library, GetModuleHandleW(L"TELMAR_U.DLL"));
+    return FreeLibrary(library);
+}
+
+// --- The system --------------------------------------------------------------------------------------------
+
+BOOL WINAPI End(HWND, INT_PTR code) {
+    Note("EndDialog " + std::to_string(code));
+    return TRUE;
+}
+
+BOOL WINAPI Help(HWND window, const wchar_t* file, UINT command, ULONG_PTR data) {
+    const int asked = window == current->window ? 0 : GetDlgCtrlID(window);
+    const bool isFile = file == (ProductFolder() / L"TELMAR__.HLP").wstring();
+    Note("WinHelp " + std::to_string(asked) + " " + std::to_string(command)
+             + (command == HELP_CONTEXT ? " " + std::to_string(data) : ""),
+         isFile);
+    current->helpTable.clear();
+    for (const auto* at = reinterpret_cast<uint32_t*>(data); command != HELP_CONTEXT; at += 2) {
+        current->helpTable.insert(current->helpTable.end(), {at[0], at[1]});
+        if (at[0] == 0)
+            break;
+    }
+    return TRUE;
+}
+
+DWORD WINAPI ReadPrinterData(HANDLE printer, wchar_t* name, DWORD* type, BYTE* data, DWORD size,
+                             DWORD* needed) {
+    EXPECT_EQ(printer, kPrinter);
+    EXPECT_STREQ(name, L"DefaultOEMDEV");
+    EXPECT_EQ(size, kSettingsSize);
+    if (!current->storedDefaults)
+        return ERROR_FILE_NOT_FOUND;
+    *needed = static_cast<DWORD>(current->storedDefaults->size());
+    *type = REG_BINARY;
+    memcpy(data, current->storedDefaults->data(), std::min(*needed, size));
+    return *needed > size ? ERROR_MORE_DATA : ERROR_SUCCESS;
+}
+
+BOOL WINAPI DescribePrinter(HANDLE printer, DWORD level, BYTE* data, DWORD size, DWORD* needed) {
+    EXPECT_EQ(std::pair(printer, level), std::pair(kPrinter, DWORD{2}));
+    const std::wstring& driver = current->printerDriver;
+    *needed = static_cast<DWORD>(sizeof(PRINTER_INFO_2W) + 2 * (driver.size() + 1));
+    if (size < *needed)
+        return FALSE;
+    auto* info = reinterpret_cast<PRINTER_INFO_2W*>(data);
+    info->pDriverName = reinterpret_cast<wchar_t*>(info + 1);
+    memcpy(info->pDriverName, driver.c_str(), 2 * (driver.size() + 1));
+    return TRUE;
+}
+
+int WINAPI ReadLocale(LCID locale, LCTYPE type, wchar_t* text, int capacity) {
+    EXPECT_EQ(locale, LCID{LOCALE_USER_DEFAULT});
+    const std::wstring& value = type == LOCALE_ICOUNTRY ? current->country : current->measure;
+    EXPECT_TRUE(type == LOCALE_ICOUNTRY || type == LOCALE_IMEASURE);
+    if (value.empty() || capacity <= static_cast<int>(value.size()))
+        return 0;
+    memcpy(text, value.c_str(), 2 * (value.size() + 1));
+    return static_cast<int>(value.size()) + 1;
+}
+
+template <typename Handle>
+Handle Made(Handle made) {
+    current->owned.insert(made);
+    return made;
+}
+void* WINAPI Allocate(UINT flags, SIZE_T size) {
+    return current->failingAllocation-- == 1 ? nullptr : Made(LocalAlloc(flags, size));
+}
+void* WINAPI Release(void* block) {
+    EXPECT_EQ(current->owned.erase(block), 1u);
+    return LocalFree(block);
+}
+HBRUSH WINAPI MakeBrush(COLORREF color) {
+    return Made(CreateSolidBrush(color));
+}
+BOOL WINAPI Delete(HGDIOBJ object) {
+    EXPECT_EQ(current->owned.erase(object), 1u);
+    return DeleteObject(object);
+}
+
+HICON WINAPI LoadSystemIcon(HINSTANCE library, const wchar_t* name) {
+    Note("LoadIcon " + std::to_string(reinterpret_cast<uintptr_t>(name)), library == nullptr);
+    return LoadIconW(library, name);
+}
+BOOL WINAPI Destroy(HICON icon) {
+    Note("DestroyIcon");
+    return DestroyIcon(icon);
+}
+
+// --- The window --------------------------------------------------------------------------------------------
+
+INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    current->window = dialog;
+    const Answer answer = current->Tell(message, wParam, lParam);
+    if (message == WM_INITDIALOG)
+        current->initAnswer = answer;
+    return answer.result;
+}
+
+// What the controls are sent.
+LRESULT WINAPI SendToControl(HWND dialog, int control, UINT message, WPARAM wParam, LPARAM lParam) {
+    static const std::map<UINT, std::string> kKinds = {{CB_RESETCONTENT, "fill"},
+                                                       {CB_SETCURSEL, "show"},
+                                                       {BM_SETCHECK, "show"},
+                                                       {CB_GETCURSEL, "read"},
+                                                       {BM_GETCHECK, "read"}};
+    const auto kind = kKinds.find(message);
+    if (kind != kKinds.end())
+        Note(kind->second + " " + std::to_string(control), dialog == current->window);
+    return SendDlgItemMessageW(dialog, control, message, wParam, lParam);
+}
+BOOL WINAPI Enable(HWND control, BOOL isEnabled) {
+    Note("disable " + std::to_string(GetDlgCtrlID(control)), !isEnabled);
+    return EnableWindow(control, isEnabled);
+}
+
+} // namespace
+
+std::ostream& operator<<(std::ostream& out, const Answer& answer) {
+    return out << "result " << answer.result << ", handled " << answer.handled;
+}
+
+RawBytes Profile(const wchar_t* qualifier, const wchar_t* name, uint32_t location) {
+    return RawBytes(kProfileSize).Wide(0, qualifier).Wide(82, name).U32(164, location);
+}
+
+RawBytes Pattern(unsigned seed) {
+    RawBytes record(kSettingsSize);
+    for (size_t i = 0; i < kSettingsSize; ++i)
+        record.U8(i, static_cast<unsigned>((i * 89 + seed) % 255 + 1));
+    return record;
+}
+
+DialogDriver::DialogDriver(uint32_t identifier)
+    : dialogId(identifier), context{nullptr, nullptr, nullptr, &lists, kPrinter, 1, 0, nullptr},
+      resources(LoadLibraryW(L"TELMAR_S.DLL")) {
+    current = this;
+    Patch();
+}
+
+DialogDriver::~DialogDriver() {
+    Close();
+    FreeLibrary(resources);
+    EXPECT_TRUE(owned.empty());
+}
+
+void DialogDriver::Patch() {
+    const auto patch = [this](auto* system, auto* other) {
+        patches.push_back(std::make_unique<PatchedImport>(module.handle, system, other));
+    };
+    patch(LoadLibraryW, Load);
+    patch(FreeLibrary, Free);
+    patch(GetProcAddress, FindProcedure);
+    patch(SendDlgItemMessageW, SendToControl);
+    patch(EnableWindow, Enable);
+    patch(EndDialog, End);
+    patch(WinHelpW, Help);
+    patch(GetProcAddress(GetModuleHandleW(L"winspool.drv"), "GetPrinterDataW"), Address(ReadPrinterData));
+    patch(GetProcAddress(GetModuleHandleW(L"winspool.drv"), "GetPrinterW"), Address(DescribePrinter));
+    patch(GetLocaleInfoW, ReadLocale);
+    patch(LocalAlloc, Allocate);
+    patch(LocalFree, Release);
+    patch(CreateSolidBrush, MakeBrush);
+    patch(DeleteObject, Delete);
+    patch(LoadIconW, LoadSystemIcon);
+    patch(DestroyIcon, Destroy);
+}
+
+void DialogDriver::PassProfiles() {
+    const std::vector<RawBytes>* const profiles[] = {&rgbSources, &simulations, &destinations};
+    ProfileList* const passed[] = {&lists.rgbSources, &lists.simulations, &lists.destinations};
+    for (size_t i = 0; i < std::size(passed); ++i) {
+        RawBytes all(0);
+        for (const RawBytes& profile : *profiles[i])
+            all.Append(profile);
+        listed[i] = all.bytes;
+        *passed[i] = {reinterpret_cast<const ProfileEntry*>(listed[i].data()),
+                      static_cast<uint32_t>(profiles[i]->size())};
+    }
+}
+
+void DialogDriver::Open(bool withContext) {
+    const auto area = [](RawBytes& record) { return reinterpret_cast<OemDevmode*>(record.bytes.data()); };
+    context.settings = area(settings);
+    context.saveArea = area(saveArea);
+    context.scratch = area(scratch);
+    PassProfiles();
+    CreateDialogParamW(resources, MAKEINTRESOURCEW(dialogId), nullptr, DialogProcedure,
+                       withContext ? reinterpret_cast<LPARAM>(&context) : 0);
+    ASSERT_NE(window, nullptr);
+}
+
+void DialogDriver::Close() {
+    if (IsWindow(window))
+        DestroyWindow(window);
+    window = nullptr;
+}
+
+Answer DialogDriver::Tell(UINT message, WPARAM wParam, LPARAM lParam) {
+    int32_t handled = kUntouched;
+    return Ask(dialogId, window, message, wParam, lParam, &handled);
+}
+
+Answer DialogDriver::Ask(uint32_t other, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
+                         int32_t* handled) const {
+    using Function = int32_t WINAPI(uint32_t, HWND, UINT, WPARAM, LPARAM, int32_t*);
+    const int32_t result =
+        module.Export<Function>("DDProc_DlgProc")(other, dialog, message, wParam, lParam, handled);
+    return {result, handled != nullptr ? *handled : kUntouched};
+}
+
+LRESULT DialogDriver::Send(int control, UINT message, WPARAM wParam, LPARAM lParam) const {
+    return SendDlgItemMessageW(window, control, message, wParam, lParam);
+}
+
+Answer DialogDriver::Choose(int list, int index) {
+    Send(list, CB_SETCURSEL, static_cast<WPARAM>(index));
+    events.clear();
+    return Command(Chosen(static_cast<WPARAM>(list)));
+}
+
+Answer DialogDriver::Check(int box, bool isChecked) {
+    Send(box, BM_SETCHECK, isChecked ? BST_CHECKED : BST_UNCHECKED);
+    events.clear();
+    return Command(static_cast<WPARAM>(box));
+}
+
+std::string DialogDriver::Entries(int list) const {
+    std::string entries;
+    const int count = static_cast<int>(Send(list, CB_GETCOUNT));
+    for (int i = 0; i < count; ++i) {
+        wchar_t text[300] = L"";
+        Send(list, CB_GETLBTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
+        entries += (i == 0 ? "" : "|") + Narrow(text) + "="
+                   + std::to_string(Send(list, CB_GETITEMDATA, static_cast<WPARAM>(i)));
+    }
+    return entries;
+}
+
+std::string DialogDriver::Events(const std::set<std::string>& kinds) const {
+    std::string text;
+    for (const std::string& event : events)
+        if (kinds.count(event.substr(0, event.find(' '))) != 0)
+            text += event + "\n";
+    return text;
+}
+
+uint8_t* DialogDriver::FindItem(const std::string& key) const {
+    uint8_t* const base = reinterpret_cast<uint8_t*>(module.handle);
+    const auto* head =
+        reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<const IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    const auto* section = reinterpret_cast<const IMAGE_SECTION_HEADER*>(head + 1);
+    for (WORD i = 0; i < head->FileHeader.NumberOfSections; ++i, ++section) {
+        if ((section->Characteristics & IMAGE_SCN_MEM_WRITE) == 0)
+            continue;
+        uint8_t* const data = base + section->VirtualAddress;
+        for (size_t at = 0; at + 144 <= section->Misc.VirtualSize; ++at)
+            if (memcmp(data + at + 4, key.c_str(), key.size() + 1) == 0
+                && NumberAt<uint32_t>(data, at) == 144)
+                return data + at;
+    }
+    ADD_FAILURE() << "no item " << key;
+    return nullptr;
+}

@@ -1,0 +1,186 @@
+// Which messages and commands the module answers, and how; dialogs that it doesn't know, callers who give
+// less than all.
+#include "full_dialog.h"
+
+namespace {
+
+constexpr Answer kNotHandled = {0, kUntouched}, kActed0 = {0, 1}, kActed1 = {1, 1};
+
+TEST_F(FullDialog, OtherDialogsAreNotHandled) {
+    Open();
+    events.clear();
+    std::vector<uint32_t> unknown = {0, 1, 126, 127, 157, 0x10080, 0x80000080, 0xFFFFFFFF};
+    for (uint32_t other = 129; other <= 155; ++other)
+        unknown.push_back(other);
+    DRAWITEMSTRUCT item = {};
+    item.CtlID = 1504;
+    for (const uint32_t other : unknown)
+        for (const auto& [message, wParam] : {std::pair(UINT{WM_INITDIALOG}, WPARAM{0}),
+                                              {WM_COMMAND, IDOK},
+                                              {WM_COMMAND, 1847},
+                                              {WM_USER + 100, 0},
+                                              {WM_ACTIVATE, 1},
+                                              {WM_DRAWITEM, 1504},
+                                              {WM_DESTROY, 0}}) {
+            int32_t handled = kUntouched;
+            const LPARAM lParam = message == WM_DRAWITEM ? reinterpret_cast<LPARAM>(&item) : 0;
+            EXPECT_EQ(Ask(other, window, message, wParam, lParam, &handled), kNotHandled) << other;
+            EXPECT_EQ(Ask(other, window, message, wParam, lParam, nullptr).result, 0) << other;
+        }
+    EXPECT_TRUE(events.empty());
+    EXPECT_EQ(uiFrees, 0);
+}
+
+TEST_F(FullDialog, Commands) {
+    struct {
+        WPARAM command;
+        Answer answer;
+    } const cases[] = {
+        {IDOK, kActed1},
+        {IDCANCEL, kActed1},
+        {9, kActed0},
+        {1032, kActed0},
+        {kBox, kActed0},
+        {1393, {1, kUntouched}},
+        {1528, {1, kUntouched}},
+        {0, kNotHandled},
+        {1504, kNotHandled},
+        {1354, kNotHandled},
+        {1525, kNotHandled},
+        {1847, kNotHandled},
+        {1477, kNotHandled},
+        {Chosen(1477), kNotHandled},
+        {Chosen(1525), kNotHandled},
+        {Chosen(1634), kNotHandled},
+        {Chosen(kBox), kNotHandled},
+        {Chosen(IDOK), kNotHandled},
+        {Chosen(0), kNotHandled},
+        {MAKEWPARAM(IDOK, 1), kNotHandled},
+        {MAKEWPARAM(IDCANCEL, 1), kNotHandled},
+        {MAKEWPARAM(1032, 1), kNotHandled},
+        {MAKEWPARAM(kBox, 1), kNotHandled},
+        {MAKEWPARAM(1528, 1), kNotHandled},
+        {MAKEWPARAM(1504, CBN_SELCHANGE), kNotHandled},
+        {MAKEWPARAM(1599, CBN_SELENDCANCEL), kNotHandled},
+        {Chosen(1354) | 1ull << 32, kNotHandled},
+        {IDOK | 1ull << 32, kNotHandled},
+    };
+    for (const bool withContext : {true, false}) {
+        settings = FullSettings();
+        Open(withContext);
+        const RawBytes stored = settings;
+        for (const auto& row : cases) {
+            SCOPED_TRACE(testing::Message() << std::hex << "command " << row.command);
+            events.clear();
+            EXPECT_EQ(Command(row.command), row.answer);
+            EXPECT_EQ(Ask(128, window, WM_COMMAND, row.command, 0, nullptr).result, row.answer.result);
+            EXPECT_TRUE(events.empty() || row.answer.handled == 1);
+        }
+        for (const FullControl& control : kFull)
+            EXPECT_EQ(Command(control.id == kBox ? kBox : Chosen(control.id)), (Answer{control.result, 1}))
+                << control.id;
+        if (!withContext)
+            ExpectSettings(stored);
+        Close();
+    }
+}
+
+TEST_F(FullDialog, Messages) {
+    for (const bool withContext : {true, false}) {
+        Open(withContext);
+        EXPECT_EQ(initAnswer, kActed0);
+        EXPECT_EQ(Entries(1524), withContext ? kSimulations : kSimuItems);
+        HELPINFO help = {};
+        help.hItemHandle = Control(1504);
+        const LPARAM helpPointer = reinterpret_cast<LPARAM>(&help);
+        struct {
+            UINT message;
+            WPARAM wParam;
+            LPARAM lParam;
+            Answer answer;
+        } const cases[] = {
+            {WM_USER + 100, 0, 0, kActed1},
+            {WM_ACTIVATE, WA_ACTIVE, 0, withContext ? kActed0 : kNotHandled},
+            {WM_ACTIVATE, WA_INACTIVE, 0, kNotHandled},
+            {WM_HELP, 0, helpPointer, kActed0},
+            {WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), 0, kActed0},
+            {WM_USER + 101, 0, 0, kNotHandled},
+            {WM_CLOSE, 0, 0, kNotHandled},
+            {WM_NOTIFY, 0, 0, kNotHandled},
+            {WM_NCDESTROY, 0, 0, kNotHandled},
+            {WM_SHOWWINDOW, 1, 0, kNotHandled},
+            {WM_DESTROY, 0, 0, kActed0},
+            {WM_DESTROY, 0, 0, kActed0},
+        };
+        for (const auto& row : cases) {
+            SCOPED_TRACE(testing::Message() << "message " << row.message);
+            EXPECT_EQ(Tell(row.message, row.wParam, row.lParam), row.answer);
+            EXPECT_EQ(Ask(128, window, row.message, row.wParam, row.lParam, nullptr).result,
+                      row.answer.result);
+        }
+        EXPECT_EQ(uiFrees, 1) << "a module that is gone is not freed again";
+        uiFrees = 0;
+        Close();
+    }
+}
+
+// Lists are measured before the dialog is initialised.
+TEST_F(FullDialog, MeasuresItsListsOnly) {
+    window = GetDesktopWindow();
+    for (const FullControl& control : kFull) {
+        MEASUREITEMSTRUCT item = {ODT_COMBOBOX, control.id, 0, 11, 22, 33};
+        const bool isList = control.id != kBox;
+        EXPECT_EQ(Tell(WM_MEASUREITEM, control.id, reinterpret_cast<LPARAM>(&item)),
+                  isList ? kActed1 : kNotHandled);
+        EXPECT_EQ(item.itemHeight, isList ? 16u : 22u) << control.id;
+        EXPECT_EQ(item.itemWidth, 11u);
+    }
+    for (const UINT other : {1525u, 1634u, 1503u, 0u}) {
+        MEASUREITEMSTRUCT item = {ODT_COMBOBOX, other, 0, 11, 22, 33};
+        EXPECT_EQ(Tell(WM_MEASUREITEM, other, reinterpret_cast<LPARAM>(&item)), kNotHandled);
+        EXPECT_EQ(item.itemHeight, 22u);
+    }
+    window = nullptr;
+}
+
+// The page with the tray-settings button: it never reports anything as handled.
+TEST_F(FullDialog, TrayButtonActsOnItsOwnClickOnly) {
+    Open();
+    const int loads = uiLoads;
+    int32_t handled = kUntouched;
+    for (const WPARAM command : {WPARAM{1846}, WPARAM{MAKEWPARAM(1847, 1)}, 1847 | WPARAM{1} << 32})
+        EXPECT_EQ(Ask(156, window, WM_COMMAND, command, 0, &handled), kNotHandled);
+    EXPECT_EQ(Ask(156, window, WM_NOTIFY, 1847, 0, &handled), kNotHandled);
+    SetWindowLongPtrW(window, DWLP_USER, 0);
+    EXPECT_EQ(Ask(156, window, WM_COMMAND, 1847, 0, &handled), kNotHandled);
+    EXPECT_EQ(uiLoads, loads);
+    SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
+    EXPECT_EQ(Ask(156, window, WM_COMMAND, 1847, 0, &handled), kNotHandled);
+    EXPECT_EQ(uiLoads, loads + 1);
+    FreeLibrary(GetModuleHandleW(L"TELMAR_U.DLL")); // the one that the button's has taken the place of
+}
+
+constexpr uint32_t kHelp128[] = {
+    // clang-format off
+    1501, 6640, 1502, 6650, 1504, 6650, 1468, 6660, 1354, 6660, 1469, 6670, 1335, 6670, 1597, 6860, 1599, 6860, 1471, 6675,
+    1332, 6675, 1506, 6680, 1507, 6690, 1509, 6690, 1465, 6700, 1353, 6700, 1466, 6710, 1334, 6710, 1589, 6865, 1592, 6865,
+    1467, 6720, 1330, 6720, 1473, 6730, 1511, 6740, 1513, 6740, 1514, 6750, 1516, 6750, 1517, 6760, 1519, 6760, 1582, 6870,
+    1584, 6870, 1520, 6770, 1522, 6770, 1523, ~0u,  1398, 6810, 1524, 6810, 1526, 6830, 1625, 6855, 1627, 6855, 1393, 6840,
+    1528, 6850, 1069, ~0u,  1032, 9510, 0,    0,
+    // clang-format on
+};
+
+TEST_F(FullDialog, HelpIsAskedOfTheFileBesideTheModule) {
+    Open();
+    events.clear();
+    HELPINFO help = {sizeof(help), HELPINFO_WINDOW, 1354, Control(1354), 0, {}};
+    const std::vector<uint32_t> table(std::begin(kHelp128), std::end(kHelp128));
+    Tell(WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
+    EXPECT_EQ(helpTable, table);
+    Tell(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Control(1526)));
+    EXPECT_EQ(helpTable, table);
+    Command(9);
+    EXPECT_EQ(Events({"WinHelp"}), "WinHelp 1354 12\nWinHelp 1526 10\nWinHelp 0 1 6631\n");
+}
+
+} // namespace

@@ -1,0 +1,207 @@
+// Entries of the lists of dialog 128, drawn into bitmaps and compared with bitmaps drawn by hand.
+#include "canvas.h"
+#include "full_dialog.h"
+
+namespace {
+
+constexpr RECT kPlace = {30, 7, 190, 23};
+
+struct Drawing : FullDialog {
+    Drawing() { Open(); }
+
+    DRAWITEMSTRUCT Item(int list, ULONG_PTR data, UINT action, UINT state) const {
+        return {ODT_COMBOBOX, static_cast<UINT>(list), 0, action, state, Control(list), nullptr, kPlace,
+                data};
+    }
+
+    // Draws it on a canvas of the ground's colour.
+    Answer Draw(DRAWITEMSTRUCT item, bool isAsked = true) {
+        for (Canvas* canvas : {&got, &wanted})
+            std::fill_n(canvas->bits, canvas->width * canvas->height, kGround);
+        item.hDC = got.dc;
+        int32_t handled = kUntouched;
+        return Ask(128, window, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item),
+                   isAsked ? &handled : nullptr);
+    }
+
+    void WantBackground(int color) {
+        const COLORREF c = GetSysColor(color);
+        const uint32_t pixel = static_cast<uint32_t>(GetRValue(c) << 16 | GetGValue(c) << 8 | GetBValue(c));
+        for (int y = kPlace.top; y < kPlace.bottom; ++y)
+            std::fill_n(wanted.bits + y * wanted.width + kPlace.left, kPlace.right - kPlace.left, pixel);
+    }
+    void WantText(const std::wstring& text, int indent, int color) {
+        SetBkMode(wanted.dc, TRANSPARENT);
+        SetTextColor(wanted.dc, GetSysColor(color));
+        TextOutW(wanted.dc, kPlace.left + indent, kPlace.top + 1, text.c_str(),
+                 static_cast<int>(text.size()));
+    }
+    void WantFocus() { DrawFocusRect(wanted.dc, &kPlace); }
+
+    Canvas got{220, 30}, wanted{220, 30};
+};
+
+TEST_F(Drawing, BackgroundAndTextByState) {
+    const struct {
+        UINT type, state;
+        int background, text;
+    } cases[] = {
+        {ODT_COMBOBOX, 0, COLOR_WINDOW, COLOR_WINDOWTEXT},
+        {ODT_COMBOBOX, ODS_SELECTED, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT},
+        {ODT_COMBOBOX, ODS_DISABLED, COLOR_BTNFACE, COLOR_GRAYTEXT},
+        {ODT_COMBOBOX, ODS_SELECTED | ODS_DISABLED, COLOR_INACTIVECAPTION, COLOR_HIGHLIGHTTEXT},
+        {ODT_LISTBOX, 0, COLOR_WINDOW, COLOR_WINDOWTEXT},
+        {ODT_LISTBOX, ODS_SELECTED, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT},
+        {ODT_LISTBOX, ODS_DISABLED, COLOR_WINDOW, COLOR_GRAYTEXT},
+        {ODT_LISTBOX, ODS_SELECTED | ODS_DISABLED, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT},
+    };
+    std::set<COLORREF> colors;
+    for (const int color : {COLOR_WINDOW, COLOR_HIGHLIGHT, COLOR_BTNFACE, COLOR_INACTIVECAPTION})
+        colors.insert(GetSysColor(color));
+    ASSERT_EQ(colors.size(), 4u);
+    for (const auto& row : cases)
+        for (const UINT edit : {0u, UINT{ODS_COMBOBOXEDIT}})
+            for (const UINT action : {ODA_DRAWENTIRE, ODA_SELECT, ODA_SELECT | ODA_FOCUS, ODA_FOCUS}) {
+                SCOPED_TRACE(testing::Message()
+                             << row.type << " " << row.state << " " << edit << " " << action);
+                DRAWITEMSTRUCT item = Item(1353, 2, action, row.state | edit);
+                item.CtlType = row.type;
+                EXPECT_EQ(Draw(item), (Answer{1, 1}));
+                if (action != ODA_FOCUS) {
+                    WantBackground(row.background);
+                    WantText(L"Proof", edit != 0 ? 0 : 20, row.text);
+                }
+                if ((action & ODA_FOCUS) != 0)
+                    WantFocus();
+                EXPECT_TRUE(SamePicture(got, wanted));
+            }
+}
+
+TEST_F(Drawing, TextByItemData) {
+    const struct {
+        int list;
+        LONG_PTR data;
+        std::wstring text;
+    } cases[] = {
+        {1504, 1, L"sRGB"},
+        {1504, 141, L"sRGB (blue adjusted)"},
+        {1509, 256, L"Camera Hard disk"},
+        {1513, 257, L"Scanner (Office) Memory"},
+        {1504, 258, L""},
+        {1504, 2, L""},
+        {1504, 255, L""},
+        {1504, -1, L""},
+        {1504, 1ll << 32, L""},
+        {1599, 0, L"Automatic"},
+        {1592, 128, L"Press A Built in"},
+        {1584, 129, L"Press B (Coated) Built in, hard disk"},
+        {1584, 130, L""},
+        {1584, 127, L""},
+        {1584, 256, L""},
+        {1524, 5, L"DIC"},
+        {1524, 128, L"Sim A Flash memory"},
+        {1524, 129, L"Sim B (Q) "},
+        {1524, 6, L""},
+        {1522, 3, L"Same as text setting"},
+        {1522, 5, L""},
+        {1354, 128, L""},
+        {1335, 256, L""},
+        {1627, 1, L"Black and grey"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(testing::Message() << row.list << ", data " << row.data);
+        Draw(Item(row.list, static_cast<ULONG_PTR>(row.data), ODA_DRAWENTIRE, 0));
+        WantBackground(COLOR_WINDOW);
+        WantText(row.text, 20, COLOR_WINDOWTEXT);
+        EXPECT_TRUE(SamePicture(got, wanted));
+    }
+    failingAllocation = 1;
+    Draw(Item(1592, 128, ODA_DRAWENTIRE, 0));
+    WantBackground(COLOR_WINDOW);
+    EXPECT_TRUE(SamePicture(got, wanted));
+    context.profiles = nullptr;
+    Draw(Item(1592, 128, ODA_DRAWENTIRE, 0));
+    WantBackground(COLOR_WINDOW);
+    EXPECT_TRUE(SamePicture(got, wanted));
+}
+
+// The text then stands beside the icon in the edit field, too.
+TEST_F(Drawing, IconOfAnItemThatHasOne) {
+    FindItem("Text_Proof")[40] = 1;
+    for (const UINT edit : {0u, UINT{ODS_COMBOBOXEDIT}}) {
+        events.clear();
+        DRAWITEMSTRUCT item = Item(1353, 2, ODA_DRAWENTIRE, edit);
+        Draw(item);
+        EXPECT_EQ(Events({"LoadIcon", "DestroyIcon"}), "LoadIcon 32515\nDestroyIcon\n");
+        WantBackground(COLOR_WINDOW);
+        DrawIconEx(wanted.dc, kPlace.left, kPlace.top, LoadIconW(nullptr, IDI_WARNING), 16, 16, 0, nullptr,
+                   DI_NORMAL);
+        WantText(L"Proof", 20, COLOR_WINDOWTEXT);
+        EXPECT_TRUE(SamePicture(got, wanted));
+    }
+    events.clear();
+    Draw(Item(1353, 1, ODA_DRAWENTIRE, 0));
+    EXPECT_EQ(Events({"LoadIcon"}), "");
+}
+
+TEST_F(Drawing, FocusRectangle) {
+    const auto draws = [this](int list, UINT action, UINT state) {
+        Draw(Item(list, 999, action, state));
+        if (action != ODA_FOCUS && action != 0)
+            WantBackground(COLOR_WINDOW);
+        const bool isPlain = static_cast<bool>(SamePicture(got, wanted));
+        WantFocus();
+        EXPECT_NE(isPlain, static_cast<bool>(SamePicture(got, wanted)));
+        return !isPlain;
+    };
+    SetFocus(Control(1504));
+    ASSERT_EQ(GetFocus(), Control(1504));
+    EXPECT_FALSE(draws(1504, ODA_DRAWENTIRE, 0));
+    EXPECT_TRUE(draws(1504, ODA_DRAWENTIRE, ODS_FOCUS));
+    EXPECT_TRUE(draws(1504, ODA_SELECT, ODS_FOCUS));
+    EXPECT_TRUE(draws(1504, 0, ODS_FOCUS));
+    EXPECT_FALSE(draws(1354, ODA_DRAWENTIRE, ODS_FOCUS));
+    EXPECT_TRUE(draws(1354, ODA_FOCUS, 0));
+    for (const UINT action : {ODA_DRAWENTIRE, ODA_SELECT, ODA_FOCUS}) { // an empty list
+        DRAWITEMSTRUCT item = Item(1354, 1, action, ODS_SELECTED);
+        item.itemID = ~0u;
+        EXPECT_EQ(Draw(item), (Answer{1, 1}));
+        WantFocus();
+        EXPECT_TRUE(SamePicture(got, wanted));
+    }
+}
+
+TEST_F(Drawing, EntriesForThoseWhoAskWhetherTheyAreHandled) {
+    for (const FullControl& control : kFull) {
+        const bool isList = control.id != kBox;
+        EXPECT_EQ(Draw(Item(control.id, 0, ODA_DRAWENTIRE, 0), false).result, isList);
+        EXPECT_TRUE(SamePicture(got, wanted)) << control.id;
+        EXPECT_EQ(Draw(Item(control.id, 0, ODA_DRAWENTIRE, 0)), (Answer{isList, isList ? 1 : kUntouched}));
+        EXPECT_EQ(static_cast<bool>(SamePicture(got, wanted)), !isList) << control.id;
+    }
+}
+
+TEST_F(Drawing, IconControlsAreTheUserInterfaceModules) {
+    constexpr uint16_t kIcons[] = {1400, 1401, 1402, 1403, 1482, 1503, 1505, 1508, 1510, 1512,
+                                   1515, 1518, 1521, 1527, 1529, 1530, 1587, 1594, 1601, 1629};
+    for (const int icon : kIcons) {
+        const std::string call = "ReqDrawStopInfoIcon " + std::to_string(icon) + "\n";
+        for (const bool isAsked : {true, false}) {
+            events.clear();
+            EXPECT_EQ(Draw(Item(icon, 0, ODA_DRAWENTIRE, 0), isAsked), (Answer{1, isAsked ? 1 : kUntouched}));
+            EXPECT_EQ(Events({"ReqDrawStopInfoIcon"}), call);
+        }
+    }
+    events.clear();
+    for (const int other : {1486, 1636, 1393, 1032, 1}) // of other dialogs, and none
+        EXPECT_EQ(Draw(Item(other, 0, ODA_DRAWENTIRE, 0)), (Answer{0, kUntouched})) << other;
+    missing = {"ReqDrawStopInfoIcon"};
+    EXPECT_EQ(Draw(Item(1503, 0, ODA_DRAWENTIRE, 0)), (Answer{0, kUntouched}));
+    missing = {};
+    Tell(WM_DESTROY);
+    EXPECT_EQ(Draw(Item(1503, 0, ODA_DRAWENTIRE, 0)), (Answer{0, kUntouched}));
+    EXPECT_EQ(Draw(Item(1504, 0, ODA_DRAWENTIRE, 0)), (Answer{1, 1}));
+    EXPECT_EQ(Events({"ReqDrawStopInfoIcon"}), "");
+}
+
+} // namespace
