@@ -172,13 +172,14 @@ void StoreDestination(const ColorControls& controls, const ColorControl& control
                        FindListedProfile(profiles, profiles.firstData + index - kOneAutomaticItem), 0);
 }
 
+// A profile that has gone meanwhile counts as the first entry, too.
 void StoreSimulation(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
-    const LONG_PTR selected = SelectedIndex(controls, control.id);
-    const LONG_PTR index = selected < 0 ? 0 : selected;
+    const LONG_PTR index = SelectedIndex(controls, control.id);
     const ListedProfiles profiles = ProfilesOf(controls, control);
+    const LONG_PTR item = index < 0 || index >= kSimulationItems ? 0 : index;
     StoreProfileChoice(settings, control,
                        FindListedProfile(profiles, profiles.firstData + index - kSimulationItems),
-                       static_cast<uint32_t>(DataAt(controls, control.id, index)));
+                       static_cast<uint32_t>(DataAt(controls, control.id, item)));
 }
 
 void StoreCheckBox(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
