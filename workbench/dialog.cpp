@@ -1,7 +1,7 @@
 // `workbench dialog`: opens one of the model's dialogs on settings of its own, has a script or a person use
 // it, and tells what has changed.
 #include "commands.h"
-#include "dialog_session.h"
+#include "dialog_run.h"
 #include "input_file.h"
 #include "output.h"
 #include "paramdata/default_settings.h"

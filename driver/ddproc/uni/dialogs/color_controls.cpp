@@ -13,8 +13,7 @@ constexpr LONG_PTR kOneAutomaticItem = 1;
 constexpr LONG_PTR kSimulationItems = 6;
 constexpr uint32_t kProfileChosen = 128; // value of a destination or simulation that is one of the printer's
 
-// --- Lists
-// ---------------------------------------------------------------------------------------------------
+// --- Lists -----------------------------------------------------------------------------------------------
 
 LRESULT Send(const ColorControls& controls, uint16_t id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendDlgItemMessageW(controls.dialog, id, message, wParam, lParam);
@@ -61,8 +60,7 @@ bool SelectData(const ColorControls& controls, uint16_t id, LONG_PTR data) {
     return false;
 }
 
-// --- Items and profiles
-// --------------------------------------------------------------------------------------
+// --- Items and profiles ----------------------------------------------------------------------------------
 
 const ItemRecord* ItemsOf(const ColorControls& controls, const ColorControl& control) {
     return control.shortItems != nullptr && IsShortRgbListContext(controls.context) ? control.shortItems
@@ -133,8 +131,7 @@ int16_t RgbValue(const OemDevmode& settings, DevmodeField field) {
     return static_cast<int16_t>(Load(settings, field));
 }
 
-// --- Kinds: filling
-// ------------------------------------------------------------------------------------------
+// --- Kinds: filling --------------------------------------------------------------------------------------
 
 void FillEntries(const ColorControls& controls, const ColorControl& control) {
     Send(controls, control.id, CB_RESETCONTENT);
@@ -151,8 +148,7 @@ void FillEntries(const ColorControls& controls, const ColorControl& control) {
     }
 }
 
-// --- Kinds: storing
-// ------------------------------------------------------------------------------------------
+// --- Kinds: storing --------------------------------------------------------------------------------------
 
 void StoreItem(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     Store(settings, control.field, static_cast<uint32_t>(SelectedData(controls, control.id)));
@@ -202,8 +198,7 @@ void StoreGraphicsChoice(const ColorControls& controls, const ColorControl& cont
     }
 }
 
-// --- Kinds: showing
-// ------------------------------------------------------------------------------------------
+// --- Kinds: showing --------------------------------------------------------------------------------------
 
 // Selects the first entry, if there is one, and stores what it stands for.
 void FallBack(const ColorControls& controls, const ColorControl& control) {
@@ -233,7 +228,7 @@ void ShowProfile(const ColorControls& controls, const ColorControl& control, Oem
         FindRemembered(ProfilesOf(controls, control), ProfileAt(settings, control.profile));
     if (position >= 0)
         Select(controls, control.id, itemsBefore + position);
-    else
+    if (position < 0 || SelectedIndex(controls, control.id) != itemsBefore + position)
         FallBack(controls, control);
 }
 
@@ -262,8 +257,7 @@ void ShowGraphicsChoice(const ColorControls& controls, const ColorControl& contr
     Send(controls, control.otherId, BM_SETCHECK, likeImages ? BST_UNCHECKED : BST_CHECKED);
 }
 
-// --- The kinds
-// -----------------------------------------------------------------------------------------------
+// --- The kinds -------------------------------------------------------------------------------------------
 
 using Handler = void(const ColorControls& controls, const ColorControl& control, OemDevmode& settings);
 

@@ -39,8 +39,7 @@ OpenDialog Open(const ColorDialog& description, HWND window) {
     return {description, {window, context, description.graphicsSources}};
 }
 
-// --- The settings and the controls
-// ---------------------------------------------------------------------------
+// --- The settings and the controls -----------------------------------------------------------------------
 
 void FillAll(const OpenDialog& dialog) {
     for (const ColorControl& control : dialog.description.controls)
@@ -74,8 +73,7 @@ void CopySettings(OemDevmode* to, const OemDevmode* from) {
         *to = *from;
 }
 
-// --- The user-interface module
-// -------------------------------------------------------------------------------
+// --- The user-interface module ---------------------------------------------------------------------------
 
 bool IsRefused(const OpenDialog& dialog, uint32_t control) {
     return IsChangeRefused(dialog.Window(), dialogState.hintToolWindow, control);
@@ -107,8 +105,7 @@ void PutBack(OemDevmode& settings, const ColorControl& control, const Kept& kept
     memcpy(FieldAt(settings, control.profile), &kept.profile, control.profile.size);
 }
 
-// --- Messages
-// ------------------------------------------------------------------------------------------------
+// --- Messages --------------------------------------------------------------------------------------------
 
 Answer OnInitDialog(const ColorDialog& description, HWND window, LPARAM parameter) {
     SetWindowLongPtrW(window, DWLP_USER, parameter);

@@ -26,12 +26,11 @@ constexpr size_t kStopIconCount = sizeof(kStopIcons) / sizeof(kStopIcons[0]);
 StopIconTable stopIcons;
 static_assert(kStopIconCount < sizeof(StopIconTable::records) / sizeof(StopIconRecord));
 
-const StopIconTable* FillStopIcons() {
+void FillStopIcons() {
     for (size_t i = 0; i < kStopIconCount; ++i) {
         stopIcons.records[i].iconControl = kStopIcons[i].iconControl;
         stopIcons.records[i].control = kStopIcons[i].control;
     }
-    return &stopIcons;
 }
 
 } // namespace
@@ -50,6 +49,7 @@ void ReleaseUiModule() {
 }
 
 void BindUiModule(HWND dialog, DialogContext* context, const UiBinding& binding) {
+    FillStopIcons();
     if (const auto replace = UiCallback<ReplaceDlgDispStringCmnItemFunction>("ReplaceDlgDispStringCmnItem"))
         replace(dialog, propertyTexts, binding.commonItemsId, context);
     if (const auto replace = UiCallback<ReplaceDlgDispStringFunction>("ReplaceDlgDispString"))
@@ -57,7 +57,7 @@ void BindUiModule(HWND dialog, DialogContext* context, const UiBinding& binding)
     if (const auto create = UiCallback<CreateToolWndFunction>("CreateToolWnd"))
         *binding.hintWindow = create(dialog);
     if (const auto store = UiCallback<StoreStopIconRectFunction>("StoreStopIconRect"))
-        store(dialog, FillStopIcons());
+        store(dialog, &stopIcons);
     dialogState.doConstraintsEntry = UiCallback<DoConstraintsFunction>("DoConstraints");
     IsChangeRefused(dialog, dialogState.hintToolWindow, 0);
     dialogState.dispHintControlEntry = UiCallback<DispHintControlFunction>("DispHintControl");

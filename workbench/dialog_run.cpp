@@ -1,7 +1,7 @@
 // A dialog that is run modally: see the header. The script runs from a timer, one action at a time: timers
 // come last, so that each action finds the dialog as the one before it, its paint messages included, has left
 // it.
-#include "dialog_session.h"
+#include "dialog_run.h"
 
 #include "output.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 constexpr UINT kActionInterval = 30; // milliseconds
 
-struct Session {
+struct DialogRun {
     const ModelDialog& dialog;
     DialogScript& script;
     bool waitsForPerson;
@@ -20,16 +20,16 @@ struct Session {
     DialogView atEnd = {};
     std::exception_ptr failure = nullptr;
 };
-Session* session; // the one that runs
+DialogRun* running; // the one that runs
 
 // What the last action has left.
-void NoteHint(Session& run) {
+void NoteHint(DialogRun& run) {
     const std::string hint = HintOf(run.window);
     if (!run.script.done.empty())
         run.script.done.back()["hint"] = hint.empty() ? Document() : Document(hint);
 }
 
-void Act(Session& run) {
+void Act(DialogRun& run) {
     NoteHint(run);
     if (run.script.next < run.script.actions.size()) {
         RunNextAction(run.script, run.window);
@@ -41,19 +41,19 @@ void Act(Session& run) {
 }
 
 void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
-    if (session->failure != nullptr || !IsWindowVisible(session->window))
+    if (running->failure != nullptr || !IsWindowVisible(running->window))
         return;
     try {
-        Act(*session);
+        Act(*running);
     } catch (...) {
-        session->failure = std::current_exception();
-        EndDialog(session->window, IDCANCEL);
+        running->failure = std::current_exception();
+        EndDialog(running->window, IDCANCEL);
     }
 }
 
 // Hands every message to the module.
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    Session& run = *session;
+    DialogRun& run = *running;
     if (message == WM_COMMAND && (wParam == IDOK || wParam == IDCANCEL)) {
         NoteHint(run);
         run.atEnd = ViewDialog(window);
@@ -71,11 +71,11 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     return result;
 }
 
-[[noreturn]] void FailToOpen(const Session& run, DWORD error) {
+[[noreturn]] void FailToOpen(const DialogRun& run, DWORD error) {
     const std::string name = "dialog " + std::to_string(run.dialog.id);
     if (run.window != nullptr)
         throw Failure(kExitFailed,
-                      name + ": TELMAR_D.DLL doesn't know it; it is an older version: build it again");
+                      name + ": TELMAR_D.DLL doesn't run this dialog; the README says which it does");
     throw Failure(kExitFailed, name + ": can't be opened (" + ErrorText(error)
                                    + "); it needs a display and its template in TELMAR_S.DLL");
 }
@@ -84,14 +84,14 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, DialogScript& script,
                     bool waitsForPerson) {
-    Session run = {dialog, script, waitsForPerson};
-    session = &run;
+    DialogRun run = {dialog, script, waitsForPerson};
+    running = &run;
     const UINT_PTR timer = SetTimer(nullptr, 0, kActionInterval, OnTimer);
     const INT_PTR code = DialogBoxParamW(dialog.templates, MAKEINTRESOURCEW(dialog.id), nullptr,
                                          DialogProcedure, reinterpret_cast<LPARAM>(&context));
     const DWORD error = GetLastError();
     KillTimer(nullptr, timer);
-    session = nullptr;
+    running = nullptr;
     if (run.failure != nullptr)
         std::rethrow_exception(run.failure);
     if (code != IDOK && code != IDCANCEL)

@@ -1,7 +1,7 @@
 // One of the model's dialogs, run modally: a dialog box whose messages the module answers, as the
 // user-interface module runs it, and a script or a person that uses it.
-#ifndef WORKBENCH_DIALOG_SESSION_H
-#define WORKBENCH_DIALOG_SESSION_H
+#ifndef WORKBENCH_DIALOG_RUN_H
+#define WORKBENCH_DIALOG_RUN_H
 
 #include "dialog_script.h"
 #include "dialog_view.h"
