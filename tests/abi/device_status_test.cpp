@@ -128,36 +128,6 @@ TEST(Bdc, OrderAndArgumentsOfTheCalls) {
     }
 }
 
-TEST(Bdc, Options) {
-    const Family family;
-    Device& device = script.device;
-    device.options.items = OptionItem(5, "QB-220");
-    device.finishers.items = FinisherItem(0x24);
-    EXPECT_EQ(family.Option("OpOutTrayUnit"), "OpOutTrayUnit1");
-    EXPECT_EQ(family.Option("OpPunchKit"), "DisOpPunchKit");
-    device.options.items.Append(OptionItem(6, "QC-330"));
-    EXPECT_EQ(family.Option("OpPunchKit"), "OpPunchKit2");
-
-    device.options.items = OptionItem(6, "QE-550");
-    EXPECT_EQ(family.Option("OpMailBinKit"), "EnaOpMailBinKit");
-    device.options.items.Append(OptionItem(6, "QE-550"));
-    EXPECT_EQ(family.Option("OpMailBinKit"), "DisOpMailBinKit");
-
-    device.memory.items = MemoryItem(3);
-    EXPECT_EQ(family.Option("OpHDD"), "EnaOpHDD");
-    device.memory.items.Append(MemoryItem(3));
-    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
-    device.memory.items = MemoryItem(1);
-    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
-    device.memory.status = 1;
-    device.memory.items = MemoryItem(3);
-    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
-
-    EXPECT_EQ(family.Option("OpMachine"), "OpMachine1");
-    EXPECT_EQ(family.Option("opmachine"), "OpMachine1");
-    EXPECT_EQ(family.Option("OpNothing"), "");
-}
-
 TEST(Bdc, Trays) {
     const Family family;
     TrayState tray = {2, 260, 1, 0xFFFF, 3};
@@ -169,32 +139,6 @@ TEST(Bdc, Trays) {
     EXPECT_EQ(family.Tray("intray2"), "A4 MediaTypeList_Landscape Color    65535");
     for (const char* key : {"InTray5", "InTray1"})
         EXPECT_EQ(family.Tray(key), kUnknownTray) << key;
-}
-
-TEST(Bdc, AnotherModelAndNoAnswer) {
-    const Family family;
-    script.device.name.octets =
-        RawBytes(324).Text(4, "quorvane lumora r880").Text(260, "quorvane lumora r880");
-    EXPECT_EQ(family.Everything(), Words({"1", "0", "refused", "refused"}));
-    for (Answer* answer : {&script.version, &script.device.communication, &script.device.name}) {
-        script.device = {};
-        script.version.status = 0;
-        answer->status = -1;
-        EXPECT_EQ(family.Communicates(), -1);
-    }
-}
-
-TEST(Bdc, NullArguments) {
-    const Family family;
-    char items[228] = {};
-    for (const char* name : {"DDProc_OptionRequest", "DDProc_InputTrayStatus"})
-        for (const bool agent : {false, true}) {
-            SetLastError(0);
-            EXPECT_EQ(family.Query(name)(agent ? kAgent : nullptr, 1, agent ? nullptr : items), FALSE);
-            EXPECT_EQ(GetLastError(), 87u) << name;
-        }
-    EXPECT_EQ(family.Communicates(nullptr), -1);
-    EXPECT_TRUE(script.calls.empty());
 }
 
 TEST(Bdc, NothingIsLeftBehind) {

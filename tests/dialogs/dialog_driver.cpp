@@ -60,7 +60,8 @@ int32_t WINAPI HasDownloadManager() {
 }
 void WINAPI DrawIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item, const void* table) {
     Note("ReqDrawStopInfoIcon " + std::to_string(control),
-         IsWindow(dialog) && item->CtlID == control && table == current->stopIcons);
+         IsWindow(dialog) && item->CtlID == control && NumberAt<uint32_t>(table, 16) != 0
+             && (current->missing.count("StoreStopIconRect") != 0 || table == current->stopIcons));
 }
 
 template <typename Function>

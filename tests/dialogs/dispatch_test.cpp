@@ -9,23 +9,14 @@ constexpr Answer kNotHandled = {0, kUntouched}, kActed0 = {0, 1}, kActed1 = {1, 
 TEST_F(FullDialog, OtherDialogsAreNotHandled) {
     Open();
     events.clear();
-    std::vector<uint32_t> unknown = {0, 1, 126, 127, 157, 0x10080, 0x80000080, 0xFFFFFFFF};
-    for (uint32_t other = 129; other <= 155; ++other)
-        unknown.push_back(other);
-    DRAWITEMSTRUCT item = {};
-    item.CtlID = 1504;
-    for (const uint32_t other : unknown)
+    for (const uint32_t other : {0u, 126u, 127u, 129u, 155u, 157u, 0x10080u, 0xFFFFFFFFu})
         for (const auto& [message, wParam] : {std::pair(UINT{WM_INITDIALOG}, WPARAM{0}),
                                               {WM_COMMAND, IDOK},
                                               {WM_COMMAND, 1847},
-                                              {WM_USER + 100, 0},
-                                              {WM_ACTIVATE, 1},
-                                              {WM_DRAWITEM, 1504},
                                               {WM_DESTROY, 0}}) {
             int32_t handled = kUntouched;
-            const LPARAM lParam = message == WM_DRAWITEM ? reinterpret_cast<LPARAM>(&item) : 0;
-            EXPECT_EQ(Ask(other, window, message, wParam, lParam, &handled), kNotHandled) << other;
-            EXPECT_EQ(Ask(other, window, message, wParam, lParam, nullptr).result, 0) << other;
+            EXPECT_EQ(Ask(other, window, message, wParam, 0, &handled), kNotHandled) << other;
+            EXPECT_EQ(Ask(other, window, message, wParam, 0, nullptr).result, 0) << other;
         }
     EXPECT_TRUE(events.empty());
     EXPECT_EQ(uiFrees, 0);
@@ -45,23 +36,14 @@ TEST_F(FullDialog, Commands) {
         {1528, {1, kUntouched}},
         {0, kNotHandled},
         {1504, kNotHandled},
-        {1354, kNotHandled},
-        {1525, kNotHandled},
-        {1847, kNotHandled},
         {1477, kNotHandled},
-        {Chosen(1477), kNotHandled},
         {Chosen(1525), kNotHandled},
-        {Chosen(1634), kNotHandled},
         {Chosen(kBox), kNotHandled},
-        {Chosen(IDOK), kNotHandled},
-        {Chosen(0), kNotHandled},
+        {Chosen(0), kNotHandled}, // no control has the identifier of a missing second one
         {MAKEWPARAM(IDOK, 1), kNotHandled},
-        {MAKEWPARAM(IDCANCEL, 1), kNotHandled},
-        {MAKEWPARAM(1032, 1), kNotHandled},
         {MAKEWPARAM(kBox, 1), kNotHandled},
         {MAKEWPARAM(1528, 1), kNotHandled},
         {MAKEWPARAM(1504, CBN_SELCHANGE), kNotHandled},
-        {MAKEWPARAM(1599, CBN_SELENDCANCEL), kNotHandled},
         {Chosen(1354) | 1ull << 32, kNotHandled},
         {IDOK | 1ull << 32, kNotHandled},
     };
@@ -106,9 +88,6 @@ TEST_F(FullDialog, Messages) {
             {WM_CONTEXTMENU, reinterpret_cast<WPARAM>(window), 0, kActed0},
             {WM_USER + 101, 0, 0, kNotHandled},
             {WM_CLOSE, 0, 0, kNotHandled},
-            {WM_NOTIFY, 0, 0, kNotHandled},
-            {WM_NCDESTROY, 0, 0, kNotHandled},
-            {WM_SHOWWINDOW, 1, 0, kNotHandled},
             {WM_DESTROY, 0, 0, kActed0},
             {WM_DESTROY, 0, 0, kActed0},
         };

@@ -125,15 +125,14 @@ Answer OnInitDialog(const ColorDialog& description, HWND window, LPARAM paramete
 
 // A control has been changed; `clicked` is the one of its windows that was used.
 Answer OnChange(const OpenDialog& dialog, const ColorControl& control, uint16_t clicked) {
-    if (OemDevmode* settings = GetDialogSettings(dialog.Context())) {
-        const Kept kept = Keep(*settings, control);
-        StoreControl(dialog.controls, control);
-        if (IsRefused(dialog, clicked)) {
-            PutBack(*settings, control, kept);
-            ShowControl(dialog.controls, control);
-        }
-        ShowHints(dialog);
+    OemDevmode* settings = GetDialogSettings(dialog.Context());
+    const Kept kept = settings != nullptr ? Keep(*settings, control) : Kept();
+    StoreControl(dialog.controls, control);
+    if (IsRefused(dialog, clicked) && settings != nullptr) {
+        PutBack(*settings, control, kept);
+        ShowControl(dialog.controls, control);
     }
+    ShowHints(dialog);
     return {AnswerOf(control).result, true};
 }
 
