@@ -49,19 +49,29 @@ size_t WordsEnd(const Text& text) {
     return end;
 }
 
-bool HasAccessKeys(HWND control) {
+// Whether the window is of this class and has, of its style's bits in the mask, these.
+bool IsKind(HWND window, const wchar_t* name, LONG_PTR mask, LONG_PTR style) {
     wchar_t className[16] = L"";
-    GetClassNameW(control, className, sizeof(className) / sizeof(className[0]));
-    const bool isPlain =
-        lstrcmpiW(className, L"Static") == 0 && (GetWindowLongPtrW(control, GWL_STYLE) & SS_NOPREFIX) != 0;
-    return !isPlain;
+    GetClassNameW(window, className, sizeof(className) / sizeof(className[0]));
+    return lstrcmpiW(className, name) == 0 && (GetWindowLongPtrW(window, GWL_STYLE) & mask) == style;
+}
+
+bool HasAccessKeys(HWND control) {
+    return !IsKind(control, L"Static", SS_NOPREFIX, SS_NOPREFIX);
 }
 
 bool IsGroupBox(HWND control) {
-    wchar_t className[16] = L"";
-    GetClassNameW(control, className, sizeof(className) / sizeof(className[0]));
-    return lstrcmpiW(className, L"Button") == 0
-           && (GetWindowLongPtrW(control, GWL_STYLE) & BS_TYPEMASK) == BS_GROUPBOX;
+    return IsKind(control, L"Button", BS_TYPEMASK, BS_GROUPBOX);
+}
+
+LONG FontHeight(HWND window) {
+    TEXTMETRICW metrics = {};
+    const HDC dc = GetDC(window);
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
+    GetTextMetricsW(dc, &metrics);
+    SelectObject(dc, before);
+    ReleaseDC(window, dc);
+    return metrics.tmHeight;
 }
 
 // Gives the text the access key that the control's present one has, unless it has an '&' itself.
@@ -105,5 +115,18 @@ void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel) {
         if (HasAccessKeys(control))
             KeepAccessKey(text, control);
         SetWindowTextW(control, text);
+    }
+}
+
+void FitListEntries(HWND dialog) {
+    constexpr LONG kMargins = 2;                             // pixels above and below a text
+    constexpr WPARAM parts[] = {0, static_cast<WPARAM>(-1)}; // entries, edit field
+    for (HWND at = GetWindow(dialog, GW_CHILD); at != nullptr; at = GetWindow(at, GW_HWNDNEXT)) {
+        if (!IsKind(at, L"ComboBox", CBS_OWNERDRAWFIXED, CBS_OWNERDRAWFIXED))
+            continue;
+        const LONG height = FontHeight(at) + kMargins;
+        for (const WPARAM part : parts)
+            if (SendMessageW(at, CB_GETITEMHEIGHT, part, 0) < height)
+                SendMessageW(at, CB_SETITEMHEIGHT, part, height);
     }
 }

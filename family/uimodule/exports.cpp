@@ -64,6 +64,7 @@ void WINAPI ReplaceDlgDispStringCmnItem(HWND dialog, const ControlTextRecord* te
                                         DialogContext* context) {
     LogCall({"ReplaceDlgDispStringCmnItem", dialog, nullptr, 0, dialogId, context != nullptr, 0});
     ReplaceTexts(dialog, texts, false);
+    FitListEntries(dialog);
 }
 
 void WINAPI ReplaceDlgDispString(HWND dialog, const ControlTextRecord* texts) {
@@ -72,6 +73,8 @@ void WINAPI ReplaceDlgDispString(HWND dialog, const ControlTextRecord* texts) {
 }
 
 HWND WINAPI CreateToolWnd(HWND dialog) {
+    if (dialog == nullptr)
+        return nullptr;
     open = {dialog, CreateHintWindow(dialog), {}, 0, nullptr};
     LogCall({"CreateToolWnd", dialog, open.hintWindow, 0, 0, false, 0});
     return open.hintWindow;
@@ -79,11 +82,15 @@ HWND WINAPI CreateToolWnd(HWND dialog) {
 
 void WINAPI StoreStopIconRect(HWND dialog, const StopIconTable* table) {
     LogCall({"StoreStopIconRect", dialog, nullptr, 0, 0, false, 0});
+    if (dialog == nullptr)
+        return;
     StateOf(dialog).icons = FindStopIcons(dialog, table);
 }
 
 int32_t WINAPI DoConstraints(const void* /*reserved1*/, HWND dialog, HWND hintWindow, uint32_t control,
                              int32_t /*all*/, const void* /*reserved2*/) {
+    if (dialog == nullptr)
+        return 0;
     OpenDialog& state = StateOf(dialog);
     const int32_t answer = Check(dialog, control, state.refusedHint);
     state.refusedControl = control;
@@ -93,6 +100,8 @@ int32_t WINAPI DoConstraints(const void* /*reserved1*/, HWND dialog, HWND hintWi
 
 void WINAPI DispHintControl(HWND dialog, DialogContext* context, uint16_t dialogId) {
     LogCall({"DispHintControl", dialog, nullptr, 0, dialogId, context != nullptr, 0});
+    if (dialog == nullptr)
+        return;
     const OpenDialog& state = StateOf(dialog);
     HintText hint = {};
     const OemDevmode* settings = GetDialogSettings(context);
@@ -114,7 +123,7 @@ int32_t WINAPI IsInstalledDLManager() {
 void WINAPI ReqDrawStopInfoIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item,
                                 const StopIconTable* table) {
     LogCall({"ReqDrawStopInfoIcon", dialog, nullptr, control, 0, false, 0});
-    if (item == nullptr)
+    if (dialog == nullptr || item == nullptr)
         return;
     const uint32_t beside = ControlBeside(table, control);
     DrawStopIcon(*item, beside != 0 && IsMarked(StateOf(dialog), beside));

@@ -20,7 +20,7 @@ extern "C" {
 // Empty texts change nothing. Where a text without '&' replaces one with an access key, the key stays: at the
 // first place of its letter, otherwise behind the text as " (&X)" (in front of a closing colon or "..."). A
 // group box is not added to. Texts are cut to their fields. The dialog's identifier and the context are not
-// needed.
+// needed. The first also makes the entries of owner-drawn lists as high as their font needs.
 ReplaceDlgDispStringCmnItemFunction ReplaceDlgDispStringCmnItem;
 ReplaceDlgDispStringFunction ReplaceDlgDispString;
 

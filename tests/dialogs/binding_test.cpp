@@ -1,5 +1,6 @@
 // How dialog 128 finds the user-interface module and calls it, at its opening and later; what is left behind.
 #include "full_dialog.h"
+#include "live_objects.h"
 
 namespace {
 
@@ -46,6 +47,12 @@ TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
         EXPECT_EQ(Events(With(kCallbacks, {"fill", "show", "disable"})), wanted);
         EXPECT_EQ(!IsWindowEnabled(Control(1393)), isDisabled);
 
+        // The icon controls are drawn from the table, whoever has been told of it.
+        events.clear();
+        DRAWITEMSTRUCT item = {ODT_STATIC, 1503, 0, ODA_DRAWENTIRE, 0, Control(1503), nullptr, {}, 0};
+        Tell(WM_DRAWITEM, 1503, reinterpret_cast<LPARAM>(&item));
+        EXPECT_EQ(Events(kCallbacks), lacking == "ReqDrawStopInfoIcon" ? "" : "ReqDrawStopInfoIcon 1503\n");
+
         // What an earlier opening had is not used again.
         constraints = [](uint32_t control) { return control == 0 ? 0 : 100; };
         const bool isRefusable = lacking != "DoConstraints";
@@ -54,6 +61,24 @@ TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
         EXPECT_EQ(Events(kCallbacks), std::string(isRefusable ? "DoConstraints 1354\n" : "")
                                           + (lacking != "DispHintControl" ? "DispHintControl 128\n" : ""));
         Close();
+    }
+}
+
+// (icon control, control beside it), for all dialogs at once.
+constexpr uint16_t kStopIcons[][2] = {
+    {1503, 1504}, {1402, 1354}, {1403, 1335}, {1601, 1599}, {1401, 1332}, {1508, 1509},
+    {1505, 1353}, {1510, 1334}, {1594, 1592}, {1400, 1330}, {1512, 1513}, {1515, 1516},
+    {1518, 1519}, {1587, 1584}, {1521, 1522}, {1482, 1524}, {1629, 1627}, {1527, 1526},
+    {1530, 1393}, {1529, 1528}, {1486, 1525}, {1636, 1634}, {0, 0},
+};
+
+TEST_F(FullDialog, HandsOverTheStopIcons) {
+    Open();
+    const auto* record = static_cast<const uint8_t*>(stopIcons) + 16;
+    for (const auto& [icon, control] : kStopIcons) {
+        EXPECT_EQ(NumberAt<uint32_t>(record, 0), icon);
+        EXPECT_EQ(NumberAt<uint16_t>(record, 4), control);
+        record += 8232;
     }
 }
 
@@ -153,20 +178,24 @@ TEST_F(FullDialog, TakesTheModuleAtEveryInitialisation) {
     FreeLibrary(GetModuleHandleW(L"TELMAR_U.DLL"));
 }
 
-// Windows are slow to come, so a window is opened ten times over.
 TEST_F(FullDialog, LeavesNothingBehind) {
-    for (int i = 0; i < 200; ++i) {
-        if (i % 10 == 0)
-            Open();
-        else
-            Tell(WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&context));
-        if (i % 10 == 9)
-            Close();
-        else
-            Tell(WM_DESTROY);
+    usesOwnCallbacks = true;
+    std::optional<LiveObjects> before;
+    for (int i = 0; i < 202; ++i) {
+        Open();
+        ShowWindow(window, i % 20 < 5 ? SW_SHOWNOACTIVATE : SW_HIDE); // which takes its time
+        UpdateWindow(window);
+        Choose(1524, 0);
+        Check(kBox, true); // refused, with a hint and a stop sign
+        Command(1032);
+        Close();
+        if (i == 4)
+            before = CountLiveObjects();
     }
-    EXPECT_EQ(uiLoads, 200);
-    EXPECT_EQ(uiFrees, 200);
+    EXPECT_EQ(CountLiveObjects(), *before);
+    EXPECT_GT(before->graphics, 0);
+    EXPECT_EQ(uiLoads, 202);
+    EXPECT_EQ(uiFrees, 202);
     EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
 }
 

@@ -47,9 +47,12 @@ TEST_F(Defaults, TakeTheirFieldsOnlyAndRefillNothing) {
     ExpectSettings(wanted);
     ExpectSaved(FullSettings());
     EXPECT_EQ(Differences(scratch.bytes.data(), OtherSettings()), "");
-    EXPECT_EQ(Events({"DoConstraints", "DispHintControl", "fill", "show", "EndDialog"}),
-              "DoConstraints 0\nDispHintControl 128\n" + InOrder("show", true));
+    EXPECT_EQ(Events({"DoConstraints", "DispHintControl", "fill", "show", "EndDialog", "focus"}),
+              "focus 1032\nDoConstraints 0\nDispHintControl 128\n" + InOrder("show", true));
     EXPECT_EQ(Shown(), std::vector({17, 0, 2, 2, 1, 0, 2, 1, 1, 0, 16, 3, 0, 0, 0, 4, 0, 1}));
+    events.clear();
+    Command(kDefaults);
+    EXPECT_EQ(Events({"focus"}), "") << "it has the focus already";
 }
 
 // Moving the focus activates a dialog that is not active, which then refreshes itself from the old settings.

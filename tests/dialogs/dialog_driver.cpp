@@ -205,6 +205,12 @@ LRESULT WINAPI SendToControl(HWND dialog, int control, UINT message, WPARAM wPar
         Note(kind->second + " " + std::to_string(control), dialog == current->window);
     return SendDlgItemMessageW(dialog, control, message, wParam, lParam);
 }
+LRESULT WINAPI SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NEXTDLGCTL)
+        Note("focus " + std::to_string(GetDlgCtrlID(reinterpret_cast<HWND>(wParam))),
+             target == current->window && lParam == 1);
+    return SendMessageW(target, message, wParam, lParam);
+}
 BOOL WINAPI Enable(HWND control, BOOL isEnabled) {
     Note("disable " + std::to_string(GetDlgCtrlID(control)), !isEnabled);
     return EnableWindow(control, isEnabled);
@@ -248,6 +254,7 @@ void DialogDriver::Patch() {
     patch(FreeLibrary, Free);
     patch(GetProcAddress, FindProcedure);
     patch(SendDlgItemMessageW, SendToControl);
+    patch(SendMessageW, SendToWindow);
     patch(EnableWindow, Enable);
     patch(EndDialog, End);
     patch(WinHelpW, Help);
