@@ -64,22 +64,23 @@ TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
     }
 }
 
-// (icon control, control beside it), for all dialogs at once.
-constexpr uint16_t kStopIcons[][2] = {
-    {1503, 1504}, {1402, 1354}, {1403, 1335}, {1601, 1599}, {1401, 1332}, {1508, 1509},
-    {1505, 1353}, {1510, 1334}, {1594, 1592}, {1400, 1330}, {1512, 1513}, {1515, 1516},
-    {1518, 1519}, {1587, 1584}, {1521, 1522}, {1482, 1524}, {1629, 1627}, {1527, 1526},
-    {1530, 1393}, {1529, 1528}, {1486, 1525}, {1636, 1634}, {0, 0},
-};
-
-TEST_F(FullDialog, HandsOverTheStopIcons) {
+// The table's pairs of icon and control stand side by side.
+TEST_F(FullDialog, StopIconsStandBesideTheirControls) {
     Open();
     const auto* record = static_cast<const uint8_t*>(stopIcons) + 16;
-    for (const auto& [icon, control] : kStopIcons) {
-        EXPECT_EQ(NumberAt<uint32_t>(record, 0), icon);
-        EXPECT_EQ(NumberAt<uint16_t>(record, 4), control);
-        record += 8232;
+    int pairs = 0;
+    for (; NumberAt<uint32_t>(record, 0) != 0; record += 8232) {
+        const HWND icon = Control(NumberAt<int32_t>(record, 0)),
+                   control = Control(NumberAt<uint16_t>(record, 4));
+        EXPECT_EQ(icon == nullptr, control == nullptr);
+        RECT beside = {}, at = {}, shared = {};
+        GetWindowRect(icon, &at);
+        GetWindowRect(control, &beside);
+        InflateRect(&at, 8, 4);
+        EXPECT_TRUE(icon == nullptr || IntersectRect(&shared, &at, &beside)) << GetDlgCtrlID(icon);
+        pairs += icon != nullptr;
     }
+    EXPECT_EQ(pairs, 20);
 }
 
 TEST_F(FullDialog, WorksWithoutTheModule) {
