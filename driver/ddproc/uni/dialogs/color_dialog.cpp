@@ -223,7 +223,7 @@ Answer OnDrawItem(const OpenDialog& dialog, const DRAWITEMSTRUCT& item, bool isA
         return kHandled1;
     }
     for (const uint16_t icon : dialog.description.iconControls)
-        if (item.CtlID == icon && DrawStopIcon(dialog.Window(), icon, item))
+        if (item.CtlID == icon && DrawIconControl(dialog.Window(), icon, item))
             return kHandled1;
     return kNotHandled;
 }

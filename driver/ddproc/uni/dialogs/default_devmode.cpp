@@ -38,18 +38,18 @@ uint32_t RegionalPaper() {
     return kA4;
 }
 
+// The paper size with this value; of several under its name the first.
 const PaperSizeRecord* FindPaper(const DeviceTable* table, uint32_t value) {
-    const PaperSizeRecord* paper = table != nullptr ? table->paperSizes : nullptr;
-    for (; paper != nullptr && paper->head.key[0] != 0; ++paper)
-        if (paper->head.value == value)
-            break;
+    const PaperSizeRecord* const papers = table != nullptr ? table->paperSizes : nullptr;
+    const PaperSizeRecord* paper = papers;
+    while (paper != nullptr && paper->head.key[0] != 0 && paper->head.value != value)
+        ++paper;
     if (paper == nullptr || paper->head.key[0] == 0)
         return nullptr;
-    const char(&key)[32] = paper->head.key;
-    for (const PaperSizeRecord* named = table->paperSizes;;
-         ++named) // the first of that name, if two share it
-        if (SameText(named->head.key, key))
-            return named;
+    const PaperSizeRecord* named = papers;
+    while (!SameText(named->head.key, paper->head.key))
+        ++named;
+    return named;
 }
 
 void LocalizePaper(const DeviceTable* table) {

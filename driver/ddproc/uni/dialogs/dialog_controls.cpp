@@ -33,10 +33,9 @@ void DisableControls(HWND dialog, const uint32_t* controls) {
 }
 
 void ShowDialogHelp(HWND window, UINT command, ULONG_PTR data) {
-    constexpr const wchar_t* kHelpFile = L"TELMAR__.HLP";
     wchar_t path[kPathCapacity];
-    const bool isKnown = SiblingPath(ModuleInstance(), kHelpFile, path);
-    WinHelpW(window, isKnown ? path : kHelpFile, command, data);
+    if (SiblingPath(ModuleInstance(), L"TELMAR__.HLP", path))
+        WinHelpW(window, path, command, data);
 }
 
 void AnswerHelp(LPARAM helpInfo, const HelpId* table) {

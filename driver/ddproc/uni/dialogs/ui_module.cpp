@@ -76,7 +76,7 @@ void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId) {
         dialogState.dispHintControlEntry(dialog, context, dialogId);
 }
 
-bool DrawStopIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item) {
+bool DrawIconControl(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item) {
     const auto draw = UiCallback<ReqDrawStopInfoIconFunction>("ReqDrawStopInfoIcon");
     if (draw != nullptr)
         draw(dialog, control, &item, &stopIcons);

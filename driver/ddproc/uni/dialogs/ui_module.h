@@ -49,6 +49,6 @@ bool IsChangeRefused(HWND dialog, HWND hintWindow, uint32_t control);
 void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId);
 
 // Has the module draw an icon control. False when it can't.
-bool DrawStopIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item);
+bool DrawIconControl(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item);
 
 #endif
