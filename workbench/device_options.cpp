@@ -2,6 +2,7 @@
 #include "device_options.h"
 
 #include "devcomm/printer_queries.h"
+#include "paramdata/text.h"
 #include "record_fields.h"
 
 namespace {
@@ -35,6 +36,18 @@ std::string RequestErrorText(DWORD error) {
         if (row.error == error)
             return row.text;
     return ErrorText(error);
+}
+
+// Asks one of the library's exports about each of the keys. Throws Failure when it declines.
+template <typename Item, size_t kKeys>
+std::vector<Item> AskByLibrary(BOOL(WINAPI* ask)(const char*, DWORD, Item*), const std::string& agent,
+                               QueryKey Item::*key, const char* const (&keys)[kKeys]) {
+    std::vector<Item> items(kKeys);
+    for (size_t i = 0; i < kKeys; ++i)
+        CopyText(items[i].*key, keys[i]);
+    if (!ask(agent.c_str(), static_cast<DWORD>(kKeys), items.data()))
+        throw Failure(kExitFailed, agent + ": the device answers no longer; try again");
+    return items;
 }
 
 } // namespace
@@ -81,6 +94,10 @@ void FailToAsk(const std::string& agent, const char* what) {
 OptionAnswers AskOptionsByLibrary(const FamilyFiles& family, const std::string& agent) {
     return AskByLibrary(EXPORT(family, DDProc_OptionRequest), agent, &OptionRequestItem::key,
                         kLibraryOptions);
+}
+
+TrayAnswers AskTraysByLibrary(const FamilyFiles& family, const std::string& agent) {
+    return AskByLibrary(EXPORT(family, DDProc_InputTrayStatus), agent, &InputTrayStatusItem::tray, kTrayKeys);
 }
 
 OptionAnswers AskOptionsBySnmp(const FamilyFiles& family, const std::string& agent) {

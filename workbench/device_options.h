@@ -5,9 +5,12 @@
 
 #include "devcomm/device_status.h"
 #include "family_files.h"
-#include "paramdata/text.h"
 
 #include <vector>
+
+// The trays that a printer of the model can have, and the picture a way from.
+inline constexpr const char* kTrayKeys[] = {"InTray1", "InTray2",      "InTray3",
+                                            "InTray4", "InTrayManual", "InTrayLCT"};
 
 using OptionAnswers = std::vector<OptionRequestItem>; // an empty value: the printer doesn't tell
 
@@ -33,6 +36,10 @@ void CheckSnmpRoad(const FamilyFiles& family, const std::string& agent);
 OptionAnswers AskOptionsByLibrary(const FamilyFiles& family, const std::string& agent);
 OptionAnswers AskOptionsBySnmp(const FamilyFiles& family, const std::string& agent);
 
+// What the library says of the paper in each of the trays. Throws Failure when the asking fails.
+using TrayAnswers = std::vector<InputTrayStatusItem>; // an empty key or text: the printer doesn't tell
+TrayAnswers AskTraysByLibrary(const FamilyFiles& family, const std::string& agent);
+
 // By the library where that is usable, otherwise by SNMP, as the driver asks. Throws Failure when the device
 // doesn't answer or is of another model.
 struct DeviceOptions {
@@ -43,17 +50,5 @@ DeviceOptions AskDeviceOptions(const FamilyFiles& family, const std::string& age
 
 // Option and answer, row by row.
 Document OptionAnswersDocument(const OptionAnswers& answers);
-
-// Asks one of the library's exports about each of the keys. Throws Failure when it declines.
-template <typename Item, size_t kKeys>
-std::vector<Item> AskByLibrary(BOOL(WINAPI* ask)(const char*, DWORD, Item*), const std::string& agent,
-                               QueryKey Item::*key, const char* const (&keys)[kKeys]) {
-    std::vector<Item> items(kKeys);
-    for (size_t i = 0; i < kKeys; ++i)
-        CopyText(items[i].*key, keys[i]);
-    if (!ask(agent.c_str(), static_cast<DWORD>(kKeys), items.data()))
-        throw Failure(kExitFailed, agent + ": the device answers no longer; try again");
-    return items;
-}
 
 #endif

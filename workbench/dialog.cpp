@@ -60,19 +60,12 @@ Library OpenTemplates(const FamilyFiles& family) {
     return library;
 }
 
-DialogScript ReadScript(const Options& options) {
-    DialogScript script = options.script ? ReadDialogScript(*options.script) : DialogScript{};
-    if (options.out)
-        AddLastPicture(script, *options.out);
-    return script;
-}
-
 Document Dialog(const FamilyFiles& family, const Options& options) {
     const uint32_t id = FindDialog(options.id);
     const OemDevmode opening = options.settings ? ReadSettings(*options.settings) : defaultSettings;
     const PrinterProfiles profiles =
         options.profiles ? ReadPrinterProfiles(*options.profiles) : PrinterProfiles{};
-    DialogScript script = ReadScript(options);
+    DialogScript script = options.script ? ReadDialogScript(*options.script) : DialogScript{};
     const Library templates = OpenTemplates(family);
 
     OemDevmode settings = opening;
@@ -86,8 +79,8 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
     context.profiles = &lists;
     context.changesAllowed = options.isLocked ? 0 : 1;
     context.shortRgbLists = options.isShort ? 1 : 0;
-    const DialogEnd end = RunDialog({id, templates.get(), EXPORT(family, DDProc_DlgProc)}, context, script,
-                                    options.waitsForPerson);
+    const DialogEnd end = RunDialog({id, templates.get(), EXPORT(family, DDProc_DlgProc)}, context,
+                                    {script, options.waitsForPerson, options.out.value_or("")});
     return {
         {"files", FamilyDocument(family)},
         {"dialog",
@@ -110,8 +103,7 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
 Run SetUpDialog(CLI::App& command) {
     const auto options = std::make_shared<Options>();
     command.add_option("ID", options->id, "The dialog: 122, 123, 124, 125 or 128")->required();
-    command.add_option("--out", options->out, "Saves a picture: at the script's end, before OK or Cancel")
-        ->type_name("FILE");
+    command.add_option("--out", options->out, "Saves a picture of what OK or Cancel ends")->type_name("FILE");
     command
         .add_option("--script", options->script,
                     "Runs these actions; a dialog that they leave open is cancelled")

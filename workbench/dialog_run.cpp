@@ -13,8 +13,7 @@ constexpr UINT kActionInterval = 30; // milliseconds
 
 struct DialogRun {
     const ModelDialog& dialog;
-    DialogScript& script;
-    bool waitsForPerson;
+    const DialogUse& use;
     HWND window = nullptr;
     bool isCancelled = false; // by the script's end
     DialogView atEnd = {};
@@ -25,15 +24,36 @@ DialogRun* running; // the one that runs
 // What the last action has left.
 void NoteHint(DialogRun& run) {
     const std::string hint = HintOf(run.window);
-    if (!run.script.done.empty())
-        run.script.done.back()["hint"] = hint.empty() ? Document() : Document(hint);
+    Document& done = run.use.script.done;
+    if (!done.empty())
+        done.back()["hint"] = hint.empty() ? Document() : Document(hint);
+}
+
+// What OK or Cancel ends.
+void NoteEnd(DialogRun& run) {
+    NoteHint(run);
+    run.atEnd = ViewDialog(run.window);
+    if (!run.use.lastPicture.empty())
+        run.use.script.pictures.push_back(TakePicture(run.window, run.use.lastPicture));
+}
+
+// Carries a failure past the system, which calls what is run here.
+template <typename Step>
+bool Try(DialogRun& run, const Step& step) {
+    try {
+        step(run);
+        return true;
+    } catch (...) {
+        run.failure = std::current_exception();
+        return false;
+    }
 }
 
 void Act(DialogRun& run) {
     NoteHint(run);
-    if (run.script.next < run.script.actions.size()) {
-        RunNextAction(run.script, run.window);
-    } else if (!run.waitsForPerson) {
+    if (run.use.script.next < run.use.script.actions.size()) {
+        RunNextAction(run.use.script, run.window);
+    } else if (!run.use.waitsForPerson) {
         if (std::exchange(run.isCancelled, true))
             throw Failure(kExitFailed, "the dialog doesn't end at Cancel; the module is at fault");
         PressButton(run.window, IDCANCEL);
@@ -43,21 +63,15 @@ void Act(DialogRun& run) {
 void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
     if (running->failure != nullptr || !IsWindowVisible(running->window))
         return;
-    try {
-        Act(*running);
-    } catch (...) {
-        running->failure = std::current_exception();
+    if (!Try(*running, Act))
         EndDialog(running->window, IDCANCEL);
-    }
 }
 
 // Hands every message to the module.
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DialogRun& run = *running;
-    if (message == WM_COMMAND && (wParam == IDOK || wParam == IDCANCEL)) {
-        NoteHint(run);
-        run.atEnd = ViewDialog(window);
-    }
+    if (message == WM_COMMAND && (wParam == IDOK || wParam == IDCANCEL))
+        Try(run, NoteEnd);
     int32_t handled = 0;
     const int32_t result = run.dialog.answer(run.dialog.id, window, message, wParam, lParam, &handled);
     if (message == WM_INITDIALOG) {
@@ -82,9 +96,8 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 } // namespace
 
-DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, DialogScript& script,
-                    bool waitsForPerson) {
-    DialogRun run = {dialog, script, waitsForPerson};
+DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const DialogUse& use) {
+    DialogRun run = {dialog, use};
     running = &run;
     const UINT_PTR timer = SetTimer(nullptr, 0, kActionInterval, OnTimer);
     const INT_PTR code = DialogBoxParamW(dialog.templates, MAKEINTRESOURCEW(dialog.id), nullptr,
@@ -96,6 +109,7 @@ DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, DialogScr
         std::rethrow_exception(run.failure);
     if (code != IDOK && code != IDCANCEL)
         FailToOpen(run, error);
+    const DialogScript& script = use.script;
     if (script.next < script.actions.size())
         throw Failure(kExitUsage, script.actions[script.next].place + ": the dialog has ended before this");
     return {code, run.atEnd};

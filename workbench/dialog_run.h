@@ -19,10 +19,14 @@ struct DialogEnd {
     DialogView view; // what it showed when OK or Cancel was pressed
 };
 
-// Opens the dialog, runs the script once it is up, and presses Cancel where the script leaves it open, unless
-// it waits for a person. Throws Failure when there is no such dialog, no display, or the script can't be run
-// to its end. One at a time.
-DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, DialogScript& script,
-                    bool waitsForPerson);
+struct DialogUse {
+    DialogScript& script; // runs once the dialog is up
+    bool waitsForPerson;  // after the script; otherwise Cancel is pressed where that leaves the dialog open
+    std::string lastPicture; // file for a picture of what OK or Cancel ends; empty: none is taken
+};
+
+// Opens the dialog and uses it. Throws Failure when there is no such dialog, no display, or the script can't
+// be run to its end. One at a time.
+DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const DialogUse& use);
 
 #endif

@@ -2,6 +2,7 @@
 #include "dialog_script.h"
 
 #include "dialog_view.h"
+#include "dialogs/color_dialog.h"
 #include "input_file.h"
 
 #include <algorithm>
@@ -18,8 +19,6 @@ struct ScriptVerb {
 namespace {
 
 constexpr const char* kBlanks = " \t\r";
-constexpr int kDefaultsButton = 1032;
-constexpr UINT kRefreshMessage = WM_USER + 100;
 
 constexpr struct {
     const char* name;
@@ -182,7 +181,7 @@ void At(const std::string& place, const Act& act) {
 
 DialogScript ReadDialogScript(const std::string& path) {
     DialogScript script;
-    std::istringstream file(ReadInputFile(path, "--script"));
+    std::istringstream file(ReadTextFile(path, "--script"));
     size_t number = 0;
     for (std::string line; std::getline(file, line);) {
         const std::string place = path + ":" + std::to_string(++number);
@@ -200,20 +199,10 @@ DialogScript ReadDialogScript(const std::string& path) {
     return script;
 }
 
-void AddLastPicture(DialogScript& script, const std::string& path) {
-    const auto ends = [](const ScriptAction& action) {
-        return action.verb == &FindVerb("ok") || action.verb == &FindVerb("cancel");
-    };
-    const auto end = std::find_if(script.actions.begin(), script.actions.end(), ends);
-    script.actions.insert(end, {&FindVerb("picture"), path, 0, "--out"});
-}
-
 void RunNextAction(DialogScript& script, HWND dialog) {
     const ScriptAction& action = script.actions[script.next++];
-    script.done.push_back({{"line", action.line != 0 ? Document(action.line) : Document()},
-                           {"action", action.verb->name},
-                           {"on", action.argument},
-                           {"hint", nullptr}});
+    script.done.push_back(
+        {{"line", action.line}, {"action", action.verb->name}, {"on", action.argument}, {"hint", nullptr}});
     At(action.place, [&] { action.verb->run(script, dialog, action.argument); });
 }
 

@@ -13,8 +13,8 @@ struct ScriptVerb;
 struct ScriptAction {
     const ScriptVerb* verb;
     std::string argument;
-    size_t line;       // of the script; 0: --out has asked for it
-    std::string place; // for messages: "FILE:LINE" or the option
+    size_t line;       // of the script
+    std::string place; // for messages: "FILE:LINE"
 };
 
 struct DialogScript {
@@ -26,9 +26,6 @@ struct DialogScript {
 
 // Reads the script at this path (UTF-8). Throws Failure that names the line and what is possible.
 DialogScript ReadDialogScript(const std::string& path);
-
-// Has a picture taken at the script's end; before the OK or Cancel that it ends with.
-void AddLastPicture(DialogScript& script, const std::string& path);
 
 // Runs the next action on the dialog, which must be visible. Keys are posted: they act once the dialog's
 // message loop runs again. Throws Failure that names the line when the dialog doesn't allow it.

@@ -8,4 +8,7 @@
 // read.
 std::string ReadInputFile(const std::string& path, const char* option);
 
+// The text of a file in UTF-8, without the byte order mark that it may begin with.
+std::string ReadTextFile(const std::string& path, const char* option);
+
 #endif

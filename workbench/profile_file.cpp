@@ -81,7 +81,7 @@ ProfileEntry TakeEntry(const std::string& place, const Document& value) {
 
 Document Parse(const std::string& path) {
     try {
-        return Document::parse(ReadInputFile(path, "--profiles"));
+        return Document::parse(ReadTextFile(path, "--profiles"));
     } catch (const Document::parse_error& error) {
         throw Failure(kExitFailed, path + ": not JSON: " + error.what());
     }

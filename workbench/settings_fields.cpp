@@ -46,6 +46,8 @@ constexpr SettingsField kFields[] = {
     VALUE("paper", userOutputLength),
     VALUE("paper", userOutputWidthInches),
     VALUE("paper", userOutputLengthInches),
+    VALUE("paper", unitFlags),
+    VALUE("paper", regionalPaper),
     VALUE("paper", paperOption1),
     VALUE("paper", paperOption2),
     VALUE("paper", userPaperWidthAgain),

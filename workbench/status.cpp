@@ -6,9 +6,6 @@
 
 namespace {
 
-// What the module can be asked on this road. Its table of them is its own, without an export.
-constexpr const char* kTrays[] = {"InTray1", "InTray2", "InTray3", "InTray4", "InTrayLCT", "InTrayManual"};
-
 // Null where the driver has no word for what the device tells.
 template <auto kField>
 Document ShowKey(const void* record) {
@@ -43,9 +40,7 @@ Document Status(const FamilyFiles& family, const std::string& agent) {
     document["trays"] = nullptr;
     if (road.isThisModel) {
         document["options"] = OptionAnswersDocument(AskOptionsByLibrary(family, agent));
-        document["trays"] = RowsDocument(
-            AskByLibrary(EXPORT(family, DDProc_InputTrayStatus), agent, &InputTrayStatusItem::tray, kTrays),
-            kTrayFields);
+        document["trays"] = RowsDocument(AskTraysByLibrary(family, agent), kTrayFields);
     }
     return document;
 }

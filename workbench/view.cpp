@@ -14,10 +14,6 @@ namespace {
 
 constexpr LONG kLargestSide = 4096; // pixels
 
-// Sources that have a way through the picture, whether the model lists them or not.
-constexpr const char* kPictureTrays[] = {"InTray1", "InTray2",      "InTray3",
-                                         "InTray4", "InTrayManual", "InTrayLCT"};
-
 struct Options {
     std::string out; // UTF-8, as all texts of the command line
     std::string size = "200x200";
@@ -51,11 +47,12 @@ SIZE ParseSize(const std::string& text) {
     return {width, height};
 }
 
+// Those that the model lists, and those of the picture, listed or not.
 std::vector<std::string> TrayKeys(const DeviceTable& table) {
     std::vector<std::string> keys;
     for (const InputSlotRecord* slot = table.inputTrays; slot != nullptr && slot->head.key[0] != 0; ++slot)
         keys.emplace_back(Utf8(slot->head.key));
-    for (const char* key : kPictureTrays)
+    for (const char* key : kTrayKeys)
         if (std::find(keys.begin(), keys.end(), key) == keys.end())
             keys.emplace_back(key);
     return keys;

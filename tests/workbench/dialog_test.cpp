@@ -104,9 +104,13 @@ TEST(WorkbenchDialog, DefaultsAndCancel) {
 // Begins with a record of zeros, whose choices all exist. Keys go where the focus is.
 TEST(WorkbenchDialog, TakesKeysAndARecord) {
     const DialogFolder folder;
-    const Json report = folder.Run("choose 1524 DIC\nchoose 1627 #0\nkey tab\nkey space\nkey enter\n",
-                                   L"--settings" + folder.Write("record", std::string(7808, '\0')));
+    const Json report = folder.Run("\xEF\xBB\xBF" // a byte order mark
+                                   "choose 1524 DIC\nchoose 1627 #0\nkey tab\nkey space\nkey enter\n",
+                                   L"--settings" + folder.Write("record", std::string(7808, '\0'))
+                                       + L" --out \"" + folder.path.wstring() + L"/end.png\"");
     EXPECT_EQ(report["dialog"]["endCode"], 1);
+    EXPECT_EQ(report["pictures"].size(), 1) << "of the dialog that a key has ended";
+    EXPECT_FALSE(Pixels(folder.path / "end.png").empty());
     EXPECT_EQ(Changes(report),
               "simulation:0:5 matchPaperColor:0:1 textRgbProfile.qualifier::Device RGB "
               "imageRgbProfile.qualifier::Device RGB graphicsRgbProfile.qualifier::Device RGB ");
@@ -153,6 +157,7 @@ TEST(WorkbenchDialog, SaysWhatIsWrong) {
         {"--script", "cancel\nok", "2 .*wrong:2: the dialog has ended before"},
         {"--locked --script", "click 1526", "2 .*wrong:1: control 1526 is disabled"},
         {"--script", "picture nowhere/a.png", "1 .*wrong:1: .*there is no folder .*nowhere"},
+        {"--out nowhere/a.png --script", "ok", "1 .*there is no folder .*nowhere"},
         {"--settings", std::string(7807, '\0'), "1 .*wrong: 7807 bytes .* 7808"},
         {"--profiles", longName, "1 .*wrong: simulations\\[0\\].name: .*41 .* 40\n"},
         {"--profiles", R"({"rgbSources": [{"name": ""}]})", "1 .*wrong: rgbSources\\[0\\]: lacks its name"},

@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int kDefaultsButton = 1032;
 constexpr int kDownloadManagerButton = 1393;
 constexpr int kManageProfilesButton = 1528;
 constexpr WPARAM kHelpButton = 9;

@@ -10,6 +10,8 @@
 // A message of the user-interface module: show the settings anew.
 constexpr UINT kRefreshMessage = WM_USER + 100;
 
+constexpr int kDefaultsButton = 1032;
+
 struct ColorDialog {
     uint16_t id;
     uint32_t helpTopic;
