@@ -4,24 +4,11 @@
 #define DIALOGS_COLOR_CONTROLS_H
 
 #include "dialogs/dialog_context.h"
+#include "dialogs/rows.h"
 #include "paramdata/device_table.h"
 #include "paramdata/devmode_fields.h"
 
 #include <windows.h>
-
-// Rows of a table that lives as long as the module.
-template <typename Row>
-struct Rows {
-    constexpr Rows() = default;
-    template <size_t Count>
-    constexpr Rows(const Row (&rows)[Count]) : first(rows), count(Count) {} // a table is its rows
-
-    const Row* begin() const { return first; }
-    const Row* end() const { return first + count; }
-
-    const Row* first = nullptr;
-    size_t count = 0;
-};
 
 enum class ColorControlKind {
     kItems,          // list of a table's items; a value that it lacks selects nothing

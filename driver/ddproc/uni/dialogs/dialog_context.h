@@ -7,7 +7,7 @@
 
 #include <windows.h>
 
-struct TrayPaperSetting;
+struct TrayPaperSetting; // trays/tray_settings.h
 
 #pragma pack(push, 1)
 

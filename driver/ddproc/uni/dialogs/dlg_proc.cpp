@@ -5,6 +5,8 @@
 #include "dialogs/ui_module.h"
 #include "frame/module_handles.h"
 #include "paramdata/device_data.h"
+#include "paramdata/device_table.h"
+#include "trays/tray_dialog.h"
 
 namespace {
 
@@ -12,27 +14,11 @@ constexpr uint32_t kTrayButtonPage = 156;
 constexpr int kTrayButton = 1847;
 constexpr UINT kTraysChangedMessage = WM_USER + 104; // to the page's parent
 
-// Value of the switch -> kind of the tray-setting dialog. None is built in yet.
-struct TrayDialog {
-    uint32_t type;
-    uint32_t templateId;
-    DLGPROC procedure;
-};
-
-const TrayDialog* FindTrayDialog(uint32_t) {
-    return nullptr;
-}
-
-// The number of a switch "TYPEn"; 0 without a device table.
-uint32_t SwitchType(FeatureSwitch position) {
-    return deviceTable != nullptr ? deviceTable->switches[position] : 0;
-}
-
 void OpenTraySettings(HWND page, DialogContext* context) {
     SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(context));
     LoadUiModule();
     const auto run = UiCallback<MyDialogBoxFunction>("MyDialogBox");
-    const TrayDialog* tray = FindTrayDialog(SwitchType(kSwitchDlgMediaType));
+    const TrayDialogEntry* tray = FindTrayDialog(SwitchValue(deviceTable, kSwitchDlgMediaType));
     if (run == nullptr || tray == nullptr)
         return;
     const INT_PTR end =

@@ -257,6 +257,11 @@ static_assert(sizeof(DeviceTable) == 818 && offsetof(DeviceTable, copiesA) == 34
 
 #pragma pack(pop)
 
+// A switch's value; 0 without a table.
+inline uint32_t SwitchValue(const DeviceTable* table, FeatureSwitch position) {
+    return table != nullptr ? table->switches[position] : 0;
+}
+
 struct PrmFile;
 
 // Builds the model's device table from an open parameter data file. Entries that the file lacks leave their

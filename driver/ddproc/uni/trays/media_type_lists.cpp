@@ -111,10 +111,8 @@ void FillLists(const PrmFile& file, const DeviceTable& table, MediaTypeLists& li
 
 // The value of a switch, unless the dialog type hides what it stands for.
 uint32_t ShownUnless(const DeviceTable* table, FeatureSwitch feature, bool hiddenOnType2) {
-    if (table == nullptr)
-        return 0;
-    const uint32_t type = table->switches[kSwitchDlgMediaType];
-    return type == 3 || (type == 2 && hiddenOnType2) ? 0 : table->switches[feature];
+    const uint32_t type = SwitchValue(table, kSwitchDlgMediaType);
+    return type == 3 || (type == 2 && hiddenOnType2) ? 0 : SwitchValue(table, feature);
 }
 
 } // namespace

@@ -1,0 +1,52 @@
+// What the settings say of the paper in each tray, and the attributes that it is said by: which list offers
+// an attribute's values, which controls of the tray-setting dialogs show it, where its value is stored.
+#ifndef TRAYS_TRAY_SETTINGS_H
+#define TRAYS_TRAY_SETTINGS_H
+
+#include "paramdata/device_table.h"
+#include "trays/media_type_lists.h"
+
+#pragma pack(push, 1)
+// One tray's record; the user-interface module owns ten of them and reads the same layout. The values are
+// those of the media type lists, -1 stands for "unknown".
+struct TrayPaperSetting {
+    char key[32]; // of the paper source; this and its bin number are rewritten with the list of trays
+    uint32_t bin;
+    int16_t size;
+    int16_t orientation; // 1 portrait, 2 landscape
+    int16_t type;
+    int16_t weight;
+    int16_t color;
+    int8_t hole;
+    uint8_t unused;
+};
+#pragma pack(pop)
+static_assert(sizeof(TrayPaperSetting) == 48 && offsetof(TrayPaperSetting, bin) == 32
+              && offsetof(TrayPaperSetting, size) == 36 && offsetof(TrayPaperSetting, orientation) == 38
+              && offsetof(TrayPaperSetting, type) == 40 && offsetof(TrayPaperSetting, weight) == 42
+              && offsetof(TrayPaperSetting, color) == 44 && offsetof(TrayPaperSetting, hole) == 46
+              && offsetof(TrayPaperSetting, unused) == 47);
+constexpr size_t kTrayCount = 10;
+
+// An attribute; its column of the tray list is the one behind its position.
+struct TrayAttribute {
+    uint16_t comboBox;
+    uint16_t label;
+    uint16_t offset; // of the value in the record
+    uint16_t size;   // of the value; signed
+    uint32_t (*isColumnShown)(const DeviceTable* table);
+    FeatureSwitch feature; // without it the controls are hidden; kFeatureSwitchCount: never
+};
+
+// By position: those of MediaTypeList.
+extern const TrayAttribute trayAttributes[kMediaTypeListCount];
+
+int32_t LoadAttribute(const TrayPaperSetting& tray, const TrayAttribute& attribute);
+
+// Takes as many low octets of the value as the field has.
+void StoreAttribute(TrayPaperSetting& tray, const TrayAttribute& attribute, int32_t value);
+
+// The values that an attribute can take; null when nothing is known of them. Ends at an empty key.
+const ItemRecord* AttributeValues(MediaTypeList attribute);
+
+#endif
