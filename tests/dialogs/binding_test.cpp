@@ -5,7 +5,7 @@
 namespace {
 
 const std::vector<std::string> kBinding = {
-    "ReplaceDlgDispStringCmnItem Printer view",
+    "ReplaceDlgDispStringCmnItem Printer view 0",
     "ReplaceDlgDispString Colour Settings",
     "CreateToolWnd",
     "StoreStopIconRect",

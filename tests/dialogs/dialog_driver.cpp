@@ -28,9 +28,9 @@ std::string FirstText(const uint8_t* table) {
 
 // --- The user-interface module -----------------------------------------------------------------------------
 
-void WINAPI ReplaceCommon(HWND dialog, const uint8_t* texts, uint32_t zero, const DialogContext* context) {
+void WINAPI ReplaceCommon(HWND dialog, const uint8_t* texts, uint32_t id, const DialogContext* context) {
     const bool isContext = context == reinterpret_cast<void*>(GetWindowLongPtrW(dialog, DWLP_USER));
-    Note("ReplaceDlgDispStringCmnItem " + FirstText(texts), zero == 0 && isContext);
+    Note("ReplaceDlgDispStringCmnItem " + FirstText(texts) + " " + std::to_string(id), isContext);
 }
 void WINAPI Replace(HWND, const uint8_t* texts) {
     Note("ReplaceDlgDispString " + FirstText(texts));
@@ -45,7 +45,8 @@ void WINAPI StoreIcons(HWND, const uint8_t* table) {
 }
 int32_t WINAPI Constrain(const void* none, HWND dialog, HWND hints, uint32_t control, int32_t all,
                          const void* alsoNone) {
-    const bool isHintWindow = hints == (current->missing.count("CreateToolWnd") ? nullptr : kHintWindow);
+    const HWND own = current->missing.count("CreateToolWnd") != 0 ? nullptr : kHintWindow;
+    const bool isHintWindow = hints == (control == 0 && current->isTray ? current->hintsOfAll : own);
     Note("DoConstraints " + std::to_string(control),
          none == nullptr && IsWindow(dialog) && isHintWindow && all == -1 && alsoNone == nullptr);
     return current->constraints(control);
@@ -58,6 +59,7 @@ int32_t WINAPI HasDownloadManager() {
     Note("IsInstalledDLManager");
     return current->downloadManager;
 }
+INT_PTR WINAPI RunModally(HINSTANCE resources, HWND owner, uint32_t id, DLGPROC procedure, LPARAM parameter);
 void WINAPI DrawIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item, const void* table) {
     Note("ReqDrawStopInfoIcon " + std::to_string(control),
          IsWindow(dialog) && item->CtlID == control && NumberAt<uint32_t>(table, 16) != 0
@@ -79,16 +81,19 @@ FARPROC WINAPI FindProcedure(HMODULE library, const char* name) {
         {"DispHintControl", Address(Hint)},
         {"IsInstalledDLManager", Address(HasDownloadManager)},
         {"ReqDrawStopInfoIcon", Address(DrawIcon)},
+        {"MyDialogBox", Address(RunModally)},
     };
+    if (current->missing.count(name) != 0)
+        return nullptr;
     const auto found = kCallbacks.find(name);
-    if (current->usesOwnCallbacks || found == kCallbacks.end())
-        return GetProcAddress(library, name);
-    return current->missing.count(name) != 0 ? nullptr : found->second;
+    const bool isOwn =
+        current->usesOwnCallbacks && found != kCallbacks.end() && found->first != "MyDialogBox";
+    return isOwn || found == kCallbacks.end() ? GetProcAddress(library, name) : found->second;
 }
 
 HMODULE WINAPI Load(const wchar_t* path) {
     ++current->uiLoads;
-    EXPECT_TRUE(std::filesystem::equivalent(path, ProductFolder() / L"TELMAR_U.DLL"));
+    EXPECT_TRUE(std::filesystem::equivalent(path, current->folder / L"TELMAR_U.DLL"));
     return current->hasUiModule ? LoadLibraryW(path) : nullptr;
 }
 BOOL WINAPI Free(HMODULE library) {
@@ -106,7 +111,7 @@ BOOL WINAPI End(HWND, INT_PTR code) {
 
 BOOL WINAPI Help(HWND window, const wchar_t* file, UINT command, ULONG_PTR data) {
     const int asked = window == current->window ? 0 : GetDlgCtrlID(window);
-    const bool isFile = file == (ProductFolder() / L"TELMAR__.HLP").wstring();
+    const bool isFile = file == (current->folder / L"TELMAR__.HLP").wstring();
     Note("WinHelp " + std::to_string(asked) + " " + std::to_string(command)
              + (command == HELP_CONTEXT ? " " + std::to_string(data) : ""),
          isFile);
@@ -193,6 +198,20 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
     return answer.result;
 }
 
+// The dialogs that the module has run by the user-interface module.
+INT_PTR CALLBACK ModuleProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    current->window = dialog;
+    return current->procedure(dialog, message, wParam, lParam);
+}
+INT_PTR WINAPI RunModally(HINSTANCE resources, HWND owner, uint32_t id, DLGPROC procedure, LPARAM parameter) {
+    Note("MyDialogBox " + std::to_string(id), resources == GetModuleHandleW(L"TELMAR_S.DLL")
+                                                  && owner == current->page
+                                                  && parameter == GetWindowLongPtrW(owner, DWLP_USER));
+    current->procedure = procedure;
+    CreateDialogParamW(resources, MAKEINTRESOURCEW(id), nullptr, ModuleProcedure, parameter);
+    return current->endCode;
+}
+
 // What the controls are sent.
 LRESULT WINAPI SendToControl(HWND dialog, int control, UINT message, WPARAM wParam, LPARAM lParam) {
     static const std::map<UINT, std::string> kKinds = {{CB_RESETCONTENT, "fill"},
@@ -209,6 +228,9 @@ LRESULT WINAPI SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lPa
     if (message == WM_NEXTDLGCTL)
         Note("focus " + std::to_string(GetDlgCtrlID(reinterpret_cast<HWND>(wParam))),
              target == current->window && lParam == 1);
+    if (message == WM_USER + 104)
+        Note("told", target == GetParent(current->page) && wParam == reinterpret_cast<WPARAM>(current->page)
+                         && lParam == 0);
     return SendMessageW(target, message, wParam, lParam);
 }
 BOOL WINAPI Enable(HWND control, BOOL isEnabled) {
@@ -233,9 +255,22 @@ RawBytes Pattern(unsigned seed) {
     return record;
 }
 
-DialogDriver::DialogDriver(uint32_t identifier)
-    : dialogId(identifier), context{nullptr, nullptr, nullptr, &lists, kPrinter, 1, 0, nullptr},
-      resources(LoadLibraryW(L"TELMAR_S.DLL")) {
+// Of the files that a model needs copies of.
+std::unique_ptr<TemporaryFolder> MakeFolder(const std::wstring& model) {
+    if (model.empty())
+        return nullptr;
+    auto folder = std::make_unique<TemporaryFolder>(L"lumora_" + model);
+    for (const wchar_t* name : {L"TELMAR_D.DLL", L"TELMAR_S.DLL", L"TELMAR_U.DLL"})
+        folder->Add(name, name);
+    folder->Add((L"models/" + model + L".prm").c_str(), L"TELMAR_D.PRM");
+    return folder;
+}
+
+DialogDriver::DialogDriver(uint32_t identifier, const std::wstring& model)
+    : otherModel(MakeFolder(model)), folder(otherModel != nullptr ? otherModel->path : ProductFolder()),
+      module(folder),
+      dialogId(identifier), context{nullptr, nullptr, nullptr, &lists, kPrinter, 1, 0, nullptr},
+      resources(LoadLibraryW((folder / L"TELMAR_S.DLL").c_str())) {
     current = this;
     Patch();
 }

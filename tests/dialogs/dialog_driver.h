@@ -39,7 +39,8 @@ RawBytes Profile(const wchar_t* qualifier, const wchar_t* name, uint32_t locatio
 RawBytes Pattern(unsigned seed);
 
 struct DialogDriver {
-    explicit DialogDriver(uint32_t identifier);
+    // The module as built, or a copy with another model's parameter data (a file of tests/models).
+    explicit DialogDriver(uint32_t identifier, const std::wstring& model = L"");
     ~DialogDriver();
     DialogDriver(const DialogDriver&) = delete;
     DialogDriver& operator=(const DialogDriver&) = delete;
@@ -69,6 +70,8 @@ struct DialogDriver {
     // The module's own item record with this key, by raw offset, to be changed; null when there is none.
     uint8_t* FindItem(const std::string& key) const;
 
+    std::unique_ptr<TemporaryFolder> otherModel;
+    const std::filesystem::path folder;
     LoadedModule module;
     const uint32_t dialogId;
     HWND window = nullptr;
@@ -85,6 +88,11 @@ struct DialogDriver {
     std::function<int32_t(uint32_t control)> constraints = [](uint32_t) { return 0; };
     int32_t downloadManager = 1;
     const void* stopIcons = nullptr;
+    bool isTray = false;
+    HWND hintsOfAll = nullptr;  // that tray dialogs pass when all settings are checked: a colour dialog's
+    INT_PTR endCode = IDCANCEL; // of a dialog that the module has run, which stays open
+    DLGPROC procedure = nullptr;
+    HWND page = nullptr; // that has the button for it
 
     // The system.
     std::optional<std::vector<uint8_t>> storedDefaults;
