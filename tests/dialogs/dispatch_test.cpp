@@ -122,23 +122,6 @@ TEST_F(FullDialog, MeasuresItsListsOnly) {
     window = nullptr;
 }
 
-// The page with the tray-settings button: it never reports anything as handled.
-TEST_F(FullDialog, TrayButtonActsOnItsOwnClickOnly) {
-    Open();
-    const int loads = uiLoads;
-    int32_t handled = kUntouched;
-    for (const WPARAM command : {WPARAM{1846}, WPARAM{MAKEWPARAM(1847, 1)}, 1847 | WPARAM{1} << 32})
-        EXPECT_EQ(Ask(156, window, WM_COMMAND, command, 0, &handled), kNotHandled);
-    EXPECT_EQ(Ask(156, window, WM_NOTIFY, 1847, 0, &handled), kNotHandled);
-    SetWindowLongPtrW(window, DWLP_USER, 0);
-    EXPECT_EQ(Ask(156, window, WM_COMMAND, 1847, 0, &handled), kNotHandled);
-    EXPECT_EQ(uiLoads, loads);
-    SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
-    EXPECT_EQ(Ask(156, window, WM_COMMAND, 1847, 0, &handled), kNotHandled);
-    EXPECT_EQ(uiLoads, loads + 1);
-    FreeLibrary(GetModuleHandleW(L"TELMAR_U.DLL")); // the one that the button's has taken the place of
-}
-
 constexpr uint32_t kHelp128[] = {
     // clang-format off
     1501, 6640, 1502, 6650, 1504, 6650, 1468, 6660, 1354, 6660, 1469, 6670, 1335, 6670, 1597, 6860, 1599, 6860, 1471, 6675,

@@ -38,6 +38,18 @@ TEST(TrayButton, RunsTheKindOfTheModelAndTellsOfItsOk) {
     }
 }
 
+TEST(TrayButton, ActsOnItsOwnClickOnly) {
+    Trays dialog;
+    SetWindowLongPtrW(dialog.page, DWLP_USER, reinterpret_cast<LONG_PTR>(&dialog.context));
+    int32_t handled = kUntouched;
+    for (const auto& [message, wParam] : {std::pair(UINT{WM_COMMAND}, WPARAM{1846}),
+                                          {WM_COMMAND, MAKEWPARAM(1847, 1)},
+                                          {WM_COMMAND, 1847 | WPARAM{1} << 32},
+                                          {WM_NOTIFY, 1847}})
+        EXPECT_EQ(dialog.Ask(156, dialog.page, message, wParam, 0, &handled), (Answer{0, kUntouched}));
+    EXPECT_EQ(dialog.uiLoads, 0);
+}
+
 TEST(TrayDialogs, OpenInOrderWithTheFirstTray) {
     for (const Kind& kind : kKinds) {
         SCOPED_TRACE(kind.templateId);
