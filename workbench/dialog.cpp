@@ -7,6 +7,7 @@
 #include "paramdata/default_settings.h"
 #include "profile_file.h"
 #include "settings_fields.h"
+#include "tray_papers.h"
 
 #include <optional>
 
@@ -14,8 +15,12 @@ namespace {
 
 constexpr const wchar_t* kTemplatesName = L"TELMAR_S.DLL";
 
-// The dialogs that the user-interface module opens itself.
-constexpr uint32_t kDialogs[] = {122, 123, 124, 125, 128};
+// The user-interface module opens the colour dialogs. The module opens that for trays, which its model
+// chooses.
+constexpr struct DialogRow {
+    uint32_t id;
+    uint32_t trayType; // of the models that have this dialog for trays; 0: of colours
+} kDialogs[] = {{122, 0}, {123, 0}, {124, 0}, {125, 0}, {128, 0}, {155, 1}, {165, 2}, {166, 3}};
 
 struct Options {
     std::string id; // UTF-8, as all texts of the command line
@@ -23,19 +28,29 @@ struct Options {
     std::optional<std::string> profiles;
     std::optional<std::string> settings;
     std::optional<std::string> script;
+    std::optional<std::string> from;
     bool isShort = false;
     bool isLocked = false;
     bool waitsForPerson = false;
 };
 
-uint32_t FindDialog(const std::string& wanted) {
+const DialogRow& FindDialog(const std::string& wanted) {
     std::string choices;
-    for (const uint32_t id : kDialogs) {
-        if (wanted == std::to_string(id))
-            return id;
-        choices += (choices.empty() ? "" : ", ") + std::to_string(id);
+    for (const DialogRow& row : kDialogs) {
+        if (wanted == std::to_string(row.id))
+            return row;
+        choices += (choices.empty() ? "" : ", ") + std::to_string(row.id);
     }
     throw Failure(kExitUsage, "there is no dialog '" + wanted + "'; possible: " + choices);
+}
+
+// The other dialogs for trays can't be opened: the module takes the model's.
+void CheckTrayType(const FamilyFiles& family, const DialogRow& row) {
+    const uint32_t type = SwitchValue(family.table.get(), kSwitchDlgMediaType);
+    if (row.trayType != 0 && row.trayType != type)
+        throw Failure(kExitFailed, "dialog " + std::to_string(row.id) + ": models with Dlg_MediaType TYPE"
+                                       + std::to_string(row.trayType) + " have it, this one's is "
+                                       + std::to_string(type) + "; name the folder of another with --folder");
 }
 
 OemDevmode ReadSettings(const std::string& path) {
@@ -60,11 +75,22 @@ Library OpenTemplates(const FamilyFiles& family) {
     return library;
 }
 
+// What the dialog did: of colours to the settings, of trays to their papers.
+void AddChanges(Document& report, const DialogRow& row, const DialogContext& context,
+                const OemDevmode& opening, const TrayPapers& papersBefore, const TrayPapers& papers) {
+    report["changes"] =
+        row.trayType == 0 ? SettingsChanges(opening, *context.settings) : PaperChanges(papersBefore, papers);
+    if (row.trayType != 0)
+        report["trays"] = PapersDocument(papers);
+}
+
 Document Dialog(const FamilyFiles& family, const Options& options) {
-    const uint32_t id = FindDialog(options.id);
+    const DialogRow& row = FindDialog(options.id);
+    CheckTrayType(family, row);
     const OemDevmode opening = options.settings ? ReadSettings(*options.settings) : defaultSettings;
     const PrinterProfiles profiles =
         options.profiles ? ReadPrinterProfiles(*options.profiles) : PrinterProfiles{};
+    const TrayPapers papersBefore = options.from ? AskPapers(family, *options.from) : UnknownPapers();
     DialogScript script = options.script ? ReadDialogScript(*options.script) : DialogScript{};
     const Library templates = OpenTemplates(family);
 
@@ -72,6 +98,7 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
     OemDevmode saveArea = {};
     OemDevmode scratch = {};
     const ProfileLists lists = ListsOf(profiles);
+    TrayPapers papers = papersBefore;
     DialogContext context = {};
     context.settings = &settings;
     context.saveArea = &saveArea;
@@ -79,30 +106,34 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
     context.profiles = &lists;
     context.changesAllowed = options.isLocked ? 0 : 1;
     context.shortRgbLists = options.isShort ? 1 : 0;
-    const DialogEnd end = RunDialog({id, templates.get(), EXPORT(family, DDProc_DlgProc)}, context,
-                                    {script, options.waitsForPerson, options.out.value_or("")});
-    return {
-        {"files", FamilyDocument(family)},
-        {"dialog",
-         {{"id", id},
-          {"title", end.view.title},
-          {"end", end.code == IDOK ? "OK" : "Cancel"},
-          {"endCode", end.code},
-          {"hint", end.view.hint},
-          {"disabled", end.view.disabled}}},
-        {"actions", script.done},
-        {"changes", SettingsChanges(opening, settings)},
-        {"controls", end.view.controls},
-        {"entries", end.view.entries},
-        {"pictures", script.pictures},
-    };
+    context.trays = papers.data();
+    const DialogEnd end =
+        RunDialog({row.id, templates.get(), EXPORT(family, DDProc_DlgProc), row.trayType != 0}, context,
+                  {script, options.waitsForPerson, options.out.value_or("")});
+    Document report;
+    report["files"] = FamilyDocument(family);
+    report["dialog"] = {{"id", row.id},
+                        {"title", end.view.title},
+                        {"end", end.code == IDOK ? "OK" : "Cancel"},
+                        {"endCode", end.code},
+                        {"pageTold", row.trayType != 0 ? Document(end.isPageTold) : Document()},
+                        {"hint", end.view.hint},
+                        {"disabled", end.view.disabled}};
+    report["actions"] = script.done;
+    AddChanges(report, row, context, opening, papersBefore, papers);
+    report["controls"] = end.view.controls;
+    report["entries"] = end.view.entries;
+    report["pictures"] = script.pictures;
+    return report;
 }
 
 } // namespace
 
 Run SetUpDialog(CLI::App& command) {
     const auto options = std::make_shared<Options>();
-    command.add_option("ID", options->id, "The dialog: 122, 123, 124, 125 or 128")->required();
+    command
+        .add_option("ID", options->id, "The dialog: 122 to 125 or 128 of colours, 155, 165 or 166 of trays")
+        ->required();
     command.add_option("--out", options->out, "Saves a picture of what OK or Cancel ends")->type_name("FILE");
     command
         .add_option("--script", options->script,
@@ -115,6 +146,11 @@ Run SetUpDialog(CLI::App& command) {
         .add_option("--settings", options->settings,
                     "Settings to begin with, a record of 7808 bytes (the model's defaults)")
         ->type_name("FILE");
+    command
+        .add_option(
+            "--from", options->from,
+            "Papers in the trays as a printer (IPv4 address or host name) tells them; otherwise unknown")
+        ->type_name("ADDRESS");
     command.add_flag("--short-rgb", options->isShort, "Offers device RGB and sRGB as RGB sources only");
     command.add_flag("--locked", options->isLocked, "The user may look, but not change");
     command.footer(ScriptHelp());

@@ -10,12 +10,18 @@
 namespace {
 
 constexpr UINT kActionInterval = 30; // milliseconds
+constexpr uint32_t kTrayButtonPage = 156;
+constexpr WPARAM kTrayButton = 1847;
+constexpr UINT kTraysChangedMessage = WM_USER + 104; // to the page's parent
 
 struct DialogRun {
     const ModelDialog& dialog;
     const DialogUse& use;
     HWND window = nullptr;
     bool isCancelled = false; // by the script's end
+    INT_PTR pressed = 0;      // OK or Cancel
+    bool isPageTold = false;
+    WNDPROC ownProcedure = nullptr; // of a dialog that the module has opened
     DialogView atEnd = {};
     std::exception_ptr failure = nullptr;
 };
@@ -60,18 +66,60 @@ void Act(DialogRun& run) {
     }
 }
 
-void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
-    if (running->failure != nullptr || !IsWindowVisible(running->window))
+void NoteCommand(DialogRun& run, UINT message, WPARAM wParam) {
+    if (message != WM_COMMAND || (wParam != IDOK && wParam != IDCANCEL))
         return;
-    if (!Try(*running, Act))
-        EndDialog(running->window, IDCANCEL);
+    run.pressed = static_cast<INT_PTR>(wParam);
+    Try(run, NoteEnd);
 }
+
+// --- A dialog that the module opens
+// --------------------------------------------------------------------------
+
+LRESULT CALLBACK WatchDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    NoteCommand(*running, message, wParam);
+    return CallWindowProcW(running->ownProcedure, window, message, wParam, lParam);
+}
+
+BOOL CALLBACK FindOpened(HWND window, LPARAM /*parameter*/) {
+    constexpr LPCWSTR kDialogClass = L"#32770";
+    wchar_t name[8] = L"";
+    GetClassNameW(window, name, sizeof(name) / sizeof(name[0]));
+    if (!IsWindowVisible(window) || lstrcmpW(name, kDialogClass) != 0)
+        return TRUE;
+    running->window = window;
+    running->ownProcedure = reinterpret_cast<WNDPROC>(
+        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchDialog)));
+    return FALSE;
+}
+
+// The property sheet, whose page has the button.
+LRESULT CALLBACK SheetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == kTraysChangedMessage)
+        running->isPageTold = true;
+    return DefWindowProcW(window, message, wParam, lParam);
+}
+
+// Presses the button on a page of its own, which nobody sees. 0 when no dialog has come.
+INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
+    const HWND sheet =
+        CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+    const HWND page = CreateWindowW(L"#32770", L"", WS_CHILD, 0, 0, 0, 0, sheet, nullptr, nullptr, nullptr);
+    SetWindowLongPtrW(sheet, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SheetProcedure));
+    SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
+    int32_t handled = 0;
+    run.dialog.answer(kTrayButtonPage, page, WM_COMMAND, kTrayButton, 0, &handled);
+    DestroyWindow(sheet);
+    return run.pressed;
+}
+
+// --- A dialog that the workbench opens, as the user-interface module does
+// --------------------------------------
 
 // Hands every message to the module.
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DialogRun& run = *running;
-    if (message == WM_COMMAND && (wParam == IDOK || wParam == IDCANCEL))
-        Try(run, NoteEnd);
+    NoteCommand(run, message, wParam);
     int32_t handled = 0;
     const int32_t result = run.dialog.answer(run.dialog.id, window, message, wParam, lParam, &handled);
     if (message == WM_INITDIALOG) {
@@ -85,13 +133,27 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     return result;
 }
 
+INT_PTR RunByTemplate(DialogRun& run, DialogContext& context) {
+    return DialogBoxParamW(run.dialog.templates, MAKEINTRESOURCEW(run.dialog.id), nullptr, DialogProcedure,
+                           reinterpret_cast<LPARAM>(&context));
+}
+
+void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
+    if (running->window == nullptr)
+        EnumThreadWindows(GetCurrentThreadId(), FindOpened, 0);
+    if (running->failure != nullptr || !IsWindowVisible(running->window))
+        return;
+    if (!Try(*running, Act))
+        EndDialog(running->window, IDCANCEL);
+}
+
 [[noreturn]] void FailToOpen(const DialogRun& run, DWORD error) {
     const std::string name = "dialog " + std::to_string(run.dialog.id);
     if (run.window != nullptr)
-        throw Failure(kExitFailed,
-                      name + ": TELMAR_D.DLL doesn't run this dialog; the README says which it does");
+        throw Failure(kExitFailed, name + ": TELMAR_D.DLL doesn't run this dialog");
     throw Failure(kExitFailed, name + ": can't be opened (" + ErrorText(error)
-                                   + "); it needs a display and its template in TELMAR_S.DLL");
+                                   + "); it needs a display, its template in TELMAR_S.DLL and, for trays, "
+                                     "TELMAR_U.DLL beside the module");
 }
 
 } // namespace
@@ -100,8 +162,7 @@ DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const Dia
     DialogRun run = {dialog, use};
     running = &run;
     const UINT_PTR timer = SetTimer(nullptr, 0, kActionInterval, OnTimer);
-    const INT_PTR code = DialogBoxParamW(dialog.templates, MAKEINTRESOURCEW(dialog.id), nullptr,
-                                         DialogProcedure, reinterpret_cast<LPARAM>(&context));
+    const INT_PTR code = dialog.hasButton ? RunByButton(run, context) : RunByTemplate(run, context);
     const DWORD error = GetLastError();
     KillTimer(nullptr, timer);
     running = nullptr;
@@ -112,5 +173,5 @@ DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const Dia
     const DialogScript& script = use.script;
     if (script.next < script.actions.size())
         throw Failure(kExitUsage, script.actions[script.next].place + ": the dialog has ended before this");
-    return {code, run.atEnd};
+    return {code, run.atEnd, run.isPageTold};
 }

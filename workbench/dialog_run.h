@@ -12,11 +12,13 @@ struct ModelDialog {
     uint32_t id; // of the dialog and its template
     HINSTANCE templates;
     decltype(&DDProc_DlgProc) answer; // the module's
+    bool hasButton; // opened by the module itself, when the button of a property page is pressed
 };
 
 struct DialogEnd {
     INT_PTR code;    // that the dialog ends with
     DialogView view; // what it showed when OK or Cancel was pressed
+    bool isPageTold; // of a dialog with a button: the page's parent has been told of the OK
 };
 
 struct DialogUse {

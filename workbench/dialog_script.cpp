@@ -72,7 +72,8 @@ HWND FindControl(HWND dialog, const std::string& id, bool isList) {
     std::vector<std::string> possible;
     for (HWND control : ControlsOf(dialog)) {
         const ControlKind kind = KindOf(control);
-        if (kind == ControlKind::kNone || (kind == ControlKind::kList) != isList)
+        const bool hasEntries = kind == ControlKind::kList || kind == ControlKind::kRows;
+        if (kind == ControlKind::kNone || hasEntries != isList)
             continue;
         if (GetDlgCtrlID(control) == Number(id)) {
             if (!IsWindowVisible(control) || !IsWindowEnabled(control))
@@ -101,9 +102,7 @@ void Choose(DialogScript& /*script*/, HWND dialog, const std::string& argument) 
     const HWND list = FindControl(dialog, TakeWord(entry), true);
     const WPARAM index = FindEntry(list, entry);
     SetFocus(list);
-    SendMessageW(list, CB_SETCURSEL, index, 0);
-    SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), CBN_SELENDOK),
-                 reinterpret_cast<LPARAM>(list));
+    SelectEntry(list, index);
 }
 
 void Click(DialogScript& /*script*/, HWND dialog, const std::string& argument) {
@@ -143,7 +142,7 @@ void Press(DialogScript& /*script*/, HWND dialog, const std::string& /*argument*
 }
 
 constexpr ScriptVerb kVerbs[] = {
-    {"choose", "LIST TEXT|#INDEX", "selects an entry by its text or its position from 0", Choose},
+    {"choose", "LIST TEXT|#INDEX", "selects an entry or a row by its text or its position from 0", Choose},
     {"click", "BUTTON", "clicks a button, check box or radio button", Click},
     {"key", "NAME", "presses a key, such as tab, space, down, enter", PressKey},
     {"picture", "FILE.png", "saves a picture of the dialog as it is now", TakeOnePicture},

@@ -4,6 +4,8 @@
 #include "output.h"
 #include "picture_file.h"
 
+#include <commctrl.h>
+
 namespace {
 
 constexpr int kSettlingWaits = 4;   // before a picture, each of
@@ -18,7 +20,7 @@ constexpr ButtonKind kButtonKinds[] = {
     {BS_CHECKBOX, ControlKind::kCheckBox},       {BS_AUTOCHECKBOX, ControlKind::kCheckBox},
     {BS_RADIOBUTTON, ControlKind::kRadioButton}, {BS_AUTORADIOBUTTON, ControlKind::kRadioButton},
 };
-constexpr const char* kKindNames[] = {"", "list", "button", "check box", "radio button"};
+constexpr const char* kKindNames[] = {"", "list", "rows", "button", "check box", "radio button"};
 
 bool IsOfClass(HWND window, const wchar_t* name) {
     wchar_t className[32] = L"";
@@ -52,13 +54,53 @@ std::string PlainText(HWND window) {
     return text;
 }
 
+bool IsListView(HWND control) {
+    return IsOfClass(control, WC_LISTVIEWW);
+}
+
 LRESULT SelectionOf(HWND list) {
-    return SendMessageW(list, CB_GETCURSEL, 0, 0);
+    return IsListView(list) ? SendMessageW(list, LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_SELECTED)
+                            : SendMessageW(list, CB_GETCURSEL, 0, 0);
+}
+
+LRESULT CountOf(HWND list) {
+    return SendMessageW(list, IsListView(list) ? LVM_GETITEMCOUNT : CB_GETCOUNT, 0, 0);
+}
+
+std::string CellText(HWND listView, WPARAM row, int column) {
+    wchar_t text[MAX_PATH] = L"";
+    LVITEMW item = {};
+    item.iSubItem = column;
+    item.pszText = text;
+    item.cchTextMax = MAX_PATH;
+    SendMessageW(listView, LVM_GETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
+    return Utf8(text);
+}
+
+std::string RowText(HWND listView, WPARAM row) {
+    const auto header = reinterpret_cast<HWND>(SendMessageW(listView, LVM_GETHEADER, 0, 0));
+    const auto columns = static_cast<int>(SendMessageW(header, HDM_GETITEMCOUNT, 0, 0));
+    std::string text;
+    for (int column = 0; column < columns; ++column)
+        text += (column == 0 ? "" : " | ") + CellText(listView, row, column);
+    return text;
+}
+
+std::string EntryText(HWND comboBox, WPARAM index) {
+    const LRESULT length = SendMessageW(comboBox, CB_GETLBTEXTLEN, index, 0);
+    std::wstring text(static_cast<size_t>(length < 0 ? 0 : length) + 1, L'\0');
+    SendMessageW(comboBox, CB_GETLBTEXT, index, reinterpret_cast<LPARAM>(text.data()));
+    text.pop_back();
+    return Utf8(text);
+}
+
+bool HasEntries(ControlKind kind) {
+    return kind == ControlKind::kList || kind == ControlKind::kRows;
 }
 
 // The text that is selected, or the state of a button that has one.
 Document Shown(HWND control, ControlKind kind) {
-    if (kind == ControlKind::kList) {
+    if (HasEntries(kind)) {
         const std::vector<std::string> texts = EntriesOf(control);
         const auto selection = static_cast<size_t>(SelectionOf(control)); // -1: none
         return selection < texts.size() ? Document(texts[selection]) : Document();
@@ -69,7 +111,7 @@ Document Shown(HWND control, ControlKind kind) {
 }
 
 Document ControlRow(HWND control, ControlKind kind, HWND group, HWND before) {
-    const bool isList = kind == ControlKind::kList;
+    const bool isList = HasEntries(kind);
     return {
         {"control", GetDlgCtrlID(control)},
         {"kind", kKindNames[static_cast<int>(kind)]},
@@ -83,13 +125,20 @@ Document ControlRow(HWND control, ControlKind kind, HWND group, HWND before) {
     };
 }
 
+// The value that an entry stands for; null where it holds an address, and for rows.
+Document DataAt(HWND list, WPARAM index) {
+    constexpr LRESULT kLargestValue = 0xFFFF; // of a setting; addresses are larger
+    const LRESULT data = IsListView(list) ? INT32_MAX : SendMessageW(list, CB_GETITEMDATA, index, 0);
+    return data <= kLargestValue ? Document(data) : Document();
+}
+
 void AddEntries(HWND list, Document& rows) {
-    const std::vector<std::string> texts = EntriesOf(list);
-    for (size_t i = 0; i < texts.size(); ++i)
+    const LRESULT count = CountOf(list);
+    for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i)
         rows.push_back({{"list", GetDlgCtrlID(list)},
                         {"index", i},
-                        {"data", SendMessageW(list, CB_GETITEMDATA, i, 0)},
-                        {"text", texts[i]}});
+                        {"data", DataAt(list, i)},
+                        {"text", IsListView(list) ? RowText(list, i) : EntryText(list, i)}});
 }
 
 // Calls `use` for each visible window that the dialog owns.
@@ -135,6 +184,8 @@ void CopyFromScreen(const Canvas& canvas, POINT origin, const RECT& frame) {
 ControlKind KindOf(HWND control) {
     if (IsOfClass(control, L"ComboBox"))
         return ControlKind::kList;
+    if (IsListView(control))
+        return ControlKind::kRows;
     if (IsOfClass(control, L"Button"))
         for (const ButtonKind& row : kButtonKinds)
             if (row.type == StyleOf(control, BS_TYPEMASK))
@@ -151,15 +202,22 @@ std::vector<HWND> ControlsOf(HWND dialog) {
 
 std::vector<std::string> EntriesOf(HWND list) {
     std::vector<std::string> texts;
-    const LRESULT count = SendMessageW(list, CB_GETCOUNT, 0, 0);
-    for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i) {
-        const LRESULT length = SendMessageW(list, CB_GETLBTEXTLEN, i, 0);
-        std::wstring text(static_cast<size_t>(length < 0 ? 0 : length) + 1, L'\0');
-        SendMessageW(list, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text.data()));
-        text.pop_back();
-        texts.push_back(Utf8(text));
-    }
+    const LRESULT count = CountOf(list);
+    for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i)
+        texts.push_back(IsListView(list) ? CellText(list, i, 0) : EntryText(list, i));
     return texts;
+}
+
+void SelectEntry(HWND list, WPARAM index) {
+    if (!IsListView(list)) {
+        SendMessageW(list, CB_SETCURSEL, index, 0);
+        SendMessageW(GetParent(list), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(list), CBN_SELENDOK),
+                     reinterpret_cast<LPARAM>(list));
+        return;
+    }
+    LVITEMW item = {};
+    item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    SendMessageW(list, LVM_SETITEMSTATE, index, reinterpret_cast<LPARAM>(&item));
 }
 
 std::string HintOf(HWND dialog) {
@@ -181,7 +239,7 @@ DialogView ViewDialog(HWND dialog) {
         group = IsGroup(control) ? control : group;
         if (kind != ControlKind::kNone)
             view.controls.push_back(ControlRow(control, kind, group, before));
-        if (kind == ControlKind::kList)
+        if (HasEntries(kind))
             AddEntries(control, view.entries);
         if (!IsWindowEnabled(control))
             view.disabled.push_back(GetDlgCtrlID(control));

@@ -98,8 +98,8 @@ TEST(TrayDialogs, OpenInOrderWithTheFirstTray) {
 
 // Titles and 20 pixels more; the last column has the rest.
 TEST(TrayDialogs, ColumnsFollowTheModel) {
-    const std::wstring titles[] = {L"Tray",   L"Paper size", L"Orientation", L"Paper type",
-                                   L"Weight", L"Colour",     L"Holes"};
+    const std::wstring titles[] = {L"Paper source", L"Paper size",   L"Orientation", L"Paper type",
+                                   L"Paper weight", L"Paper colour", L"Holes"};
     const struct {
         const wchar_t* model;
         std::vector<int> columns;
@@ -193,7 +193,7 @@ TEST(TrayDialogs, ValuesWithoutAnEntryShowNothing) {
     Trays dialog;
     dialog.records.U16(36, 40000).U16(42, 0xFFFF).U8(46, 200).U16(48 + 38, 3).U8(48 + 46, 255);
     dialog.PressButton();
-    EXPECT_EQ(dialog.RowText(0), L"Tray 1||Portrait|Plain paper|Unknown weight|Other colour||0");
+    EXPECT_EQ(dialog.RowText(0), L"Tray 1||Portrait|Plain paper|Unknown|Other colour||0");
     EXPECT_EQ(dialog.Selections(kKinds[0]), (std::vector{-1, 0, 0, 6, 5, -1}));
     dialog.Select(1);
     EXPECT_EQ(dialog.RowText(1).substr(0, 10), L"Tray 2|A4|");

@@ -143,6 +143,63 @@ TEST(WorkbenchDialog, PicturesAndContext) {
     EXPECT_EQ(locked["entries"][2]["list"], 1354) << "1504 has two entries";
 }
 
+// "TRAY ATTRIBUTE:BEFORE:AFTER=VALUE" of all changes.
+std::string TrayChanges(const Json& report) {
+    std::string changes;
+    for (const Json& row : report["changes"])
+        changes += row["tray"].get<std::string>() + " " + row["attribute"].get<std::string>() + ":"
+                   + row["before"].get<std::string>() + ":" + row["after"].get<std::string>() + "="
+                   + row["value"].dump() + " ";
+    return changes;
+}
+
+TEST(WorkbenchDialog, SetsTrays) {
+    const DialogFolder folder;
+    const std::string script = "choose 1844 Tray 2\nchoose 1860 A4\nchoose 1094 #1\nchoose 1844 #6\n"
+                               "choose 1003 Thick 1\n";
+    for (const bool isKept : {true, false}) {
+        const Json report =
+            RunForJson(L"dialog 155 --script" + folder.Write("s.txt", script + (isKept ? "ok" : "")));
+        EXPECT_EQ(report["dialog"]["endCode"], isKept ? 1 : 2);
+        EXPECT_EQ(report["dialog"]["pageTold"], isKept);
+        EXPECT_EQ(ControlRow(report, 1844)["shows"], "Manual feed");
+        EXPECT_EQ(ControlRow(report, 1003)["shows"], "Thick 1");
+        EXPECT_EQ(TrayChanges(report), !isKept ? ""
+                                               : "InTray2 size:Unknown:A4=9 "
+                                                 "InTray2 hole:Not known whether punched:Pre-punched=1 "
+                                                 "InTrayManual type:Unknown:Thick 1=263 ");
+    }
+    const Json locked = RunForJson(L"dialog 155 --locked");
+    EXPECT_EQ(locked["dialog"]["disabled"], Json({1844, 1860, 1862, 1003, 1086, 1091, 1094}));
+}
+
+// Another model's files: the module beside its siblings and other parameter data.
+TEST(WorkbenchDialog, SetsTraysOfOtherModels) {
+    const struct {
+        const wchar_t *model, *id;
+        std::vector<int> lists;
+    } cases[] = {{L"type2", L"165", {1844, 1860, 1862, 1003, 1091, 1094}},
+                 {L"type3", L"166", {1844, 1860, 1862, 1003}}};
+    for (const auto& row : cases) {
+        const DialogFolder folder;
+        for (const wchar_t* name : {L"TELMAR_D.DLL", L"TELMAR_S.DLL", L"TELMAR_U.DLL"})
+            fs::copy_file(ProgramFolder() / name, folder.path / name);
+        const std::wstring other = L" --folder \"" + folder.path.wstring() + L"\"";
+        fs::copy_file(ProgramFolder() / L"models" / (std::wstring(row.model) + L".prm"),
+                      folder.path / "TELMAR_D.PRM");
+        const Json report = RunForJson(L"dialog " + std::wstring(row.id) + other + L" --script"
+                                       + folder.Write("s.txt", "choose 1862 Portrait\nok"));
+        EXPECT_EQ(TrayChanges(report), "InTray1 orientation:Unknown:Portrait=1 ");
+        Json lists = Pick(report["controls"], "control");
+        lists.erase(lists.end() - 3, lists.end()); // OK, Cancel, Help
+        EXPECT_EQ(lists, Json(row.lists));
+        EXPECT_NE(RunWorkbench(L"dialog 155" + other).errors.find("TYPE1"), std::string::npos);
+        fs::remove(folder.path / "TELMAR_U.DLL");
+        EXPECT_NE(RunWorkbench(L"dialog " + std::wstring(row.id) + other).errors.find("TELMAR_U.DLL"),
+                  std::string::npos);
+    }
+}
+
 TEST(WorkbenchDialog, SaysWhatIsWrong) {
     const DialogFolder folder;
     const std::string longName = R"({"simulations": [{"name": ")" + std::string(41, 'x') + "\"}]}";

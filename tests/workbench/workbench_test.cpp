@@ -63,7 +63,8 @@ TEST(Workbench, ShowsTheTextsOfTheDialogs) {
     EXPECT_EQ(Pick(texts["mediaTypeLists"]["MediaTypeList_Orient"], "value"), Json({1, 2, -1}));
     EXPECT_EQ(texts["mediaTypeLists"]["MediaTypeList_Hole"].back()["value"], -1);
     EXPECT_EQ(Pick(texts["mediaTypeColumns"], "title"),
-              Json({"Tray", "Paper size", "Orientation", "Paper type", "Weight", "Colour", "Holes"}));
+              Json({"Paper source", "Paper size", "Orientation", "Paper type", "Paper weight", "Paper colour",
+                    "Holes"}));
     EXPECT_EQ(Pick(texts["mediaTypeColumns"], "shown"), Json(std::vector<bool>(7, true))); // TYPE1
 }
 

@@ -1,0 +1,24 @@
+// The paper in the trays, for the tray-setting dialogs: unknown, or as a printer tells it; and what has
+// changed.
+#ifndef WORKBENCH_TRAY_PAPERS_H
+#define WORKBENCH_TRAY_PAPERS_H
+
+#include "family_files.h"
+#include "trays/tray_settings.h"
+
+#include <array>
+
+using TrayPapers = std::array<TrayPaperSetting, kTrayCount>;
+
+// Of all trays nothing is known.
+TrayPapers UnknownPapers();
+
+// As the printer tells through the bidirectional library. Throws Failure when it can't be asked.
+TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent);
+
+// Tray, attribute, names and values before and after of what differs; and of every tray that the dialog has
+// listed what is set now.
+Document PaperChanges(const TrayPapers& before, const TrayPapers& after);
+Document PapersDocument(const TrayPapers& papers);
+
+#endif
