@@ -67,13 +67,14 @@ const ItemRecord* ItemsOf(const ColorControls& controls, const ColorControl& con
                                                                                     : control.items;
 }
 
-// The printer's profiles that a control lists.
+// The printer's profiles that entries of a control can stand for.
 ListedProfiles ProfilesOf(const ColorControls& controls, const ColorControl& control) {
     const ProfileLists* lists = GetPrinterProfileLists(controls.context);
     if (lists == nullptr)
         return {};
     switch (control.kind) {
     case ColorControlKind::kRgbSource:
+    case ColorControlKind::kRgbItems:
         return {IsShortRgbListContext(controls.context) ? nullptr : &lists->rgbSources, kFirstRgbProfile};
     case ColorControlKind::kDestination:
         return {&lists->destinations, kFirstProfile};
@@ -138,6 +139,8 @@ void FillEntries(const ColorControls& controls, const ColorControl& control) {
     for (const ItemRecord* item = ItemsOf(controls, control); item->head.key[0] != 0; ++item)
         if (!AddEntry(controls, control.id, item->display, static_cast<LONG_PTR>(item->head.value)))
             return;
+    if (control.kind == ColorControlKind::kRgbItems)
+        return;
     const ListedProfiles profiles = ProfilesOf(controls, control);
     LONG_PTR data = profiles.firstData;
     while (const ProfileEntry* profile = FindListedProfile(profiles, data)) {
@@ -188,7 +191,7 @@ void StoreGraphicsChoice(const ColorControls& controls, const ColorControl& cont
     Store(settings, control.field, likeImages ? 1 : 0);
     for (const GraphicsSource& source : controls.graphicsSources) {
         const uint16_t list = likeImages ? source.imageList : source.textList;
-        const LONG_PTR data = GetDlgItem(controls.dialog, list) != nullptr ? SelectedData(controls, list) : 0;
+        const LONG_PTR data = list != 0 ? SelectedData(controls, list) : 0;
         Store(settings, source.field, static_cast<uint32_t>(data));
         if (source.profile.size == 0)
             continue;
@@ -274,6 +277,7 @@ constexpr KindRow kKinds[] = {
     {ColorControlKind::kItems,            {true,  CBN_SELENDOK,  1},     ShowItem,           StoreItem},
     {ColorControlKind::kItemsOrFirst,     {true,  CBN_SELENDOK,  1},     ShowItemOrFirst,    StoreItem},
     {ColorControlKind::kRgbSource,        {true,  CBN_SELENDOK,  1},     ShowRgbSource,      StoreRgbSource},
+    {ColorControlKind::kRgbItems,         {true,  CBN_SELENDOK,  1},     ShowRgbSource,      StoreItem},
     {ColorControlKind::kDestination,      {true,  CBN_SELENDOK,  0},     ShowDestination,    StoreDestination},
     {ColorControlKind::kSimulation,       {true,  CBN_SELENDOK,  0},     ShowSimulation,     StoreSimulation},
     {ColorControlKind::kCheckBox,         {false, BN_CLICKED,    0},     ShowCheckBox,       StoreCheckBox},

@@ -14,6 +14,7 @@ enum class ColorControlKind {
     kItems,          // list of a table's items; a value that it lacks selects nothing
     kItemsOrFirst,   // the same, but a value that it lacks becomes the first item's
     kRgbSource,      // items, then the printer's RGB source profiles
+    kRgbItems,       // items of RGB sources alone; a value that they lack becomes the first item's
     kDestination,    // the automatic destination, then the printer's destination profiles
     kSimulation,     // items, then the printer's simulation profiles
     kCheckBox,       // 0 or 1
@@ -31,11 +32,11 @@ struct ColorControl {
     uint16_t otherId;             // of the two radio buttons: text settings
 };
 
-// What graphics take when they follow the image or the text settings: the item data of one of two lists. A
-// dialog without the list gives 0.
+// What graphics take when they follow the image or the text settings: the item data of one of two lists, or 0
+// where there is none.
 struct GraphicsSource {
     DevmodeField field;
-    uint16_t imageList;
+    uint16_t imageList; // 0: none
     uint16_t textList;
     DevmodeField profile;    // where an RGB source is remembered; size 0: nowhere
     const ItemRecord* items; // of the RGB source

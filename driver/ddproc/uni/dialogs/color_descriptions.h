@@ -4,6 +4,8 @@
 
 #include "dialogs/color_dialog.h"
 
-extern const ColorDialog kFullColorDialog; // 128: text, image and graphics each with lists of their own
+// The dialog with this identifier, in the variant that the type of the model's "ColorSetting" asks for; null
+// when there is none. Lives as long as the module.
+const ColorDialog* FindColorDialog(uint32_t id, uint32_t type);
 
 #endif

@@ -199,6 +199,16 @@ Answer OnActivate(const OpenDialog& dialog, WPARAM wParam) {
     return kHandled0;
 }
 
+// Whether a control is one of the dialog's; its icon, beside it, then is, too.
+bool HasControl(const ColorDialog& description, uint32_t id) {
+    if (description.listsProfiles && (id == kDownloadManagerButton || id == kManageProfilesButton))
+        return true;
+    for (const ColorControl& control : description.controls)
+        if (control.id == id)
+            return true;
+    return false;
+}
+
 const ColorControl* FindList(const ColorDialog& description, UINT id) {
     for (const ColorControl& control : description.controls)
         if (control.id == id && AnswerOf(control).isList)
@@ -221,10 +231,8 @@ Answer OnDrawItem(const OpenDialog& dialog, const DRAWITEMSTRUCT& item, bool isA
             DrawControlEntry(dialog.controls, *list, item);
         return kHandled1;
     }
-    for (const uint16_t icon : dialog.description.iconControls)
-        if (item.CtlID == icon && DrawIconControl(dialog.Window(), icon, item))
-            return kHandled1;
-    return kNotHandled;
+    const bool isIcon = HasControl(dialog.description, ControlBesideIcon(item.CtlID));
+    return isIcon && DrawIconControl(dialog.Window(), item.CtlID, item) ? kHandled1 : kNotHandled;
 }
 
 Answer Run(const ColorDialog& description, HWND window, UINT message, WPARAM wParam, LPARAM lParam,

@@ -14,6 +14,7 @@ constexpr int kDefaultsButton = 1032;
 
 struct ColorDialog {
     uint16_t id;
+    uint32_t variant; // the model's type that asks for it; 0: any other
     uint32_t helpTopic;
     // It lists the printer's profiles: it can be told to read them anew, does so when it is activated, and
     // has buttons to manage them, on which the user-interface module acts.
@@ -21,7 +22,6 @@ struct ColorDialog {
     Rows<ColorControl> controls; // in the order of filling, showing and storing
     Rows<GraphicsSource> graphicsSources;
     Rows<DevmodeField> defaults; // what the Defaults button takes
-    Rows<uint16_t> iconControls; // drawn by the user-interface module
     const HelpId* helpIds;
     const uint32_t* lockList; // disabled when the user may not change settings; ends with 0
 };

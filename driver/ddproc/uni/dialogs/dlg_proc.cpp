@@ -33,16 +33,13 @@ void RunTrayButton(HWND page, UINT message, WPARAM wParam) {
         OpenTraySettings(page, context);
 }
 
-constexpr const ColorDialog* kColorDialogs[] = {&kFullColorDialog};
-
 } // namespace
 
 int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                               int32_t* handled) {
     if (dialogId == kTrayButtonPage)
         RunTrayButton(window, message, wParam);
-    for (const ColorDialog* dialog : kColorDialogs)
-        if (dialog->id == dialogId)
-            return RunColorDialog(*dialog, window, message, wParam, lParam, handled);
+    if (const ColorDialog* dialog = FindColorDialog(dialogId, SwitchValue(deviceTable, kSwitchColorSetting)))
+        return RunColorDialog(*dialog, window, message, wParam, lParam, handled);
     return 0;
 }

@@ -76,6 +76,13 @@ void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId) {
         dialogState.dispHintControlEntry(dialog, context, dialogId);
 }
 
+uint16_t ControlBesideIcon(uint32_t iconControl) {
+    for (const auto& row : kStopIcons)
+        if (row.iconControl == iconControl)
+            return row.control;
+    return 0;
+}
+
 bool DrawIconControl(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item) {
     const auto draw = UiCallback<ReqDrawStopInfoIconFunction>("ReqDrawStopInfoIcon");
     if (draw != nullptr)

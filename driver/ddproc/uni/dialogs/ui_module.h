@@ -48,6 +48,9 @@ bool IsChangeRefused(HWND dialog, HWND hintWindow, uint32_t control);
 // Refreshes the hints for the current dialog.
 void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId);
 
+// The control that an icon control stands beside; 0 when it is none.
+uint16_t ControlBesideIcon(uint32_t iconControl);
+
 // Has the module draw an icon control. False when it can't.
 bool DrawIconControl(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item);
 

@@ -105,6 +105,7 @@ static_assert(kFeatureSwitchCount == 85);
 
 // Positions of the switches that the module itself reads.
 enum FeatureSwitch : size_t {
+    kSwitchColorSetting = 11, // variant of the basic colour dialog
     kSwitchMediaWeight = 18,
     kSwitchMediaColor = 19,
     kSwitchMediaPrePunched = 20,

@@ -1,0 +1,388 @@
+// The colour dialogs in which graphics follow images or text: 124, 122, 125 and both variants of 123.
+#include "full_dialog.h"
+#include "live_objects.h"
+
+namespace {
+
+constexpr int kImages = 1477, kText = 1475; // what graphics follow; stand for their pair in the lists below
+
+// A dialog as a person would write it down.
+struct Reduced {
+    const char* name;
+    uint32_t id;
+    const wchar_t* model;
+    uint32_t topic;
+    bool listsProfiles;               // has the messages and buttons that go with the printer's profiles
+    std::vector<int> controls, fills; // in their orders of showing and storing, and of filling
+    std::vector<std::pair<size_t, size_t>> defaults; // offset and length
+    std::vector<int> locks;
+    std::vector<uint32_t> help;
+    std::vector<int> icons;
+};
+
+// clang-format off
+#define HELP_TOP 1501, 6640, 1502, 6650, 1504, 6650, 1468, 6660, 1354, 6660
+#define HELP_GRAY 1469, 6670, 1335, 6670
+#define HELP_TEXT 1471, 6675, 1332, 6675, 1506, 6680, 1507, 6690, 1509, 6690, 1465, 6700, 1353, 6700, 1466, 6710, 1334, 6710, \
+    1467, 6720, 1330, 6720, 1473, 6730, 1477, 6780, 1475, 6790
+#define HELP_SIMULATION 1523, ~0u, 1398, 6810, 1524, 6810, 1526, 6830, 1625, 6855, 1627, 6855
+#define HELP_END 1069, ~0u, 1032, 9510, 0, 0
+const std::vector<int> kBasic = {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, kImages};
+const std::vector<int> kBasicFills = {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330};
+const std::vector<std::pair<size_t, size_t>> kBasicDefaults = {{2514, 2}, {2688, 168}, {2153, 4}, {2516, 2}, {2520, 168}, {2157, 4}, {2165, 1}};
+const std::vector<uint32_t> kBasicHelp = {HELP_TOP, HELP_GRAY, HELP_TEXT, HELP_END};
+const std::vector<int> kBasicIcons = {1400, 1401, 1402, 1403, 1503, 1505, 1508, 1510};
+const Reduced kDialogs[] = {
+    {"124", 124, L"", 6630, true,
+     {1504, 1354, 1332, 1509, 1353, 1334, 1330, kImages, 1524, 1526, 1627},
+     {1504, 1354, 1332, 1509, 1353, 1334, 1330, 1524, 1627},
+     {{2514, 2}, {2688, 168}, {2153, 4}, {2516, 2}, {2520, 168}, {2157, 4}, {2165, 1}, {2166, 2}, {2168, 168}, {3534, 1}, {3536, 2}},
+     {1501, 1502, 1504, 1468, 1354, 1471, 1332, 1506, 1507, 1509, 1465, 1353, 1466, 1334, 1467, 1330, 1473, 1477, 1475, 1523, 1398, 1524, 1526, 1625, 1627, 1528, 1393, 1032},
+     {HELP_TOP, HELP_TEXT, HELP_SIMULATION, 1393, 6840, 1528, 6850, HELP_END},
+     {1400, 1401, 1402, 1482, 1503, 1505, 1508, 1510, 1527, 1529, 1530, 1629}},
+    {"122", 122, L"", 6610, true,
+     {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, kImages, 1524, 1526, 1627, 1525},
+     {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, 1524, 1627, 1525},
+     {{2514, 2}, {2688, 168}, {2153, 4}, {2516, 2}, {2520, 168}, {2157, 4}, {2165, 1}, {2166, 2}, {2168, 168}, {3534, 1}, {3536, 2}, {2336, 2}, {2338, 168}},
+     {1501, 1502, 1504, 1468, 1354, 1469, 1335, 1471, 1332, 1506, 1509, 1465, 1353, 1466, 1334, 1467, 1330, 1473, 1477, 1475, 1523, 1398, 1524, 1526, 1625, 1627, 1630, 1408, 1525, 1528, 1393, 1032},
+     {HELP_TOP, HELP_GRAY, HELP_TEXT, HELP_SIMULATION, 1630, ~0u, 1408, 6820, 1525, 6820, 1393, 6840, 1528, 6850, HELP_END},
+     {1400, 1401, 1402, 1403, 1482, 1486, 1503, 1505, 1508, 1510, 1527, 1529, 1530, 1629}},
+    {"125", 125, L"", 6620, false,
+     {1634, 1354, 1332, 1353, 1334, 1330, kImages},
+     {1634, 1354, 1332, 1353, 1334, 1330},
+     {{2512, 2}, {2153, 4}, {2157, 4}, {2165, 1}},
+     {1632, 1634, 1501, 1468, 1354, 1471, 1332, 1506, 1465, 1353, 1466, 1334, 1467, 1330, 1473, 1477, 1475, 1032},
+     {1501, 6640, 1468, 6660, 1354, 6660, 1471, 6675, 1332, 6675, 1506, 6680, 1465, 6700, 1353, 6700, 1466, 6710, 1334, 6710,
+      1467, 6720, 1330, 6720, 1473, 6730, 1477, 6780, 1475, 6790, HELP_END},
+     {1400, 1401, 1402, 1505, 1510, 1636}},
+    {"123 A", 123, L"type2", 6621, false, kBasic, kBasicFills, kBasicDefaults,
+     {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, 1477, 1475, 1032}, kBasicHelp, kBasicIcons},
+    {"123 B", 123, L"type3", 6600, false, kBasic, kBasicFills, kBasicDefaults,
+     {1501, 1502, 1504, 1468, 1354, 1469, 1335, 1471, 1332, 1506, 1507, 1509, 1465, 1353, 1466, 1334, 1467, 1330, 1473, 1477, 1475, 1032},
+     kBasicHelp, kBasicIcons},
+};
+
+// An entry that is chosen, and what it stores; `record` only where the dialog remembers profiles.
+struct Change {
+    int control, entry;
+    size_t field, size;
+    unsigned value;
+    size_t recordAt; // 0: none
+    RawBytes record;
+    int result;
+};
+const Change kChanges[] = {
+    {1504, 3, 2514, 2, 129, 2688, Profile(L"Apple RGB", L"", 0), 1}, {1354, 3, 2153, 1, 3, 0, kNone, 1}, {1335, 1, 2155, 1, 1, 0, kNone, 1},
+    {1332, 0, 2154, 1, 0, 0, kNone, 1}, {1509, 0, 2516, 2, 0, 2520, Profile(L"Device RGB", L"", 0), 1}, {1353, 0, 2157, 1, 0, 0, kNone, 1},
+    {1334, 1, 2159, 1, 1, 0, kNone, 1}, {1330, 2, 2158, 1, 2, 0, kNone, 1}, {1524, 6, 2166, 2, 128, 2168, kSimA, 0},
+    {1526, 0, 3534, 1, 0, 0, kNone, 0}, {1627, 1, 3536, 2, 1, 0, kNone, 1}, {1525, 2, 2336, 2, 128, 2338, kPressB, 0},
+    {1634, 0, 2512, 2, 0, 0, kNone, 1},
+};
+// clang-format on
+
+// All choices are offered; graphics follow images.
+RawBytes Settings(const Reduced& dialog) {
+    RawBytes settings = FullSettings().U8(2155, 2).U8(2165, 1).U16(2512, 1);
+    settings.U16(2336, 128).Wide(2338 + 82, L"Press A").U16(2338 + 96, 0);
+    return dialog.id == 123 ? settings.U16(2516, 129) : settings;
+}
+
+struct Driver : DialogDriver {
+    explicit Driver(const Reduced& reduced) : DialogDriver(reduced.id, reduced.model), dialog(reduced) {
+        rgbSources = {kCamera, kScanner};
+        simulations = {kSimA, kSimB};
+        destinations = {kPressA, kPressB};
+        settings = Settings(dialog);
+    }
+
+    bool Has(int control) const {
+        return std::count(dialog.controls.begin(), dialog.controls.end(), control) != 0;
+    }
+    bool HasRecords() const { return dialog.listsProfiles; }
+    static std::string Lines(const std::string& action, const std::vector<int>& controls) {
+        std::string text;
+        for (const int control : controls)
+            text += action + " " + std::to_string(control) + "\n"
+                    + (control == kImages ? action + " " + std::to_string(kText) + "\n" : "");
+        return text;
+    }
+    std::string Fills() const { return Lines("fill", dialog.fills); }
+    std::string Shows() const { return Lines("show", dialog.controls); }
+    int Shown(int control) const {
+        const bool isButton = control == kBox || control == kImages || control == kText;
+        return static_cast<int>(Send(control, isButton ? UINT{BM_GETCHECK} : CB_GETCURSEL));
+    }
+    Answer Make(int control, int entry) {
+        const bool isButton = control == kBox || control == kImages || control == kText;
+        if (control == kImages || control == kText)
+            Send(control == kImages ? kText : kImages, BM_SETCHECK, BST_UNCHECKED);
+        return isButton ? Check(control, entry != 0) : Choose(control, entry);
+    }
+    void Expect(const RawBytes& wanted) const { EXPECT_EQ(Differences(settings.bytes.data(), wanted), ""); }
+
+    // What graphics take, on the settings above.
+    RawBytes& Derive(RawBytes& wanted, bool fromImages) const {
+        const unsigned gray = !fromImages ? 2 : Has(1335) ? 2 : 0;
+        wanted.U8(2165, fromImages).U8(2161, fromImages ? 1 : 3).U8(2163, gray).U8(2162, fromImages ? 2 : 1);
+        if (!Has(1504))
+            return wanted;
+        wanted.U16(2518, fromImages ? 128 : HasRecords() ? 257 : 129);
+        return !HasRecords() ? wanted
+               : fromImages  ? PutRecord(wanted, 2856, Profile(L"Adobe RGB (1998)", L"", 0))
+                             : PutRecord(wanted, 2856, kScanner);
+    }
+
+    const Reduced& dialog;
+};
+
+struct ReducedDialogs : testing::TestWithParam<Reduced> {};
+INSTANTIATE_TEST_SUITE_P(All, ReducedDialogs, testing::ValuesIn(kDialogs), [](const auto& dialog) {
+    std::string name = dialog.param.name;
+    name.erase(std::remove(name.begin(), name.end(), ' '), name.end());
+    return name;
+});
+
+TEST_P(ReducedDialogs, OpenAndRefreshInOrder) {
+    Driver driver(GetParam());
+    driver.downloadManager = 0;
+    const std::set<std::string> kinds = {"fill",          "show",           "disable", "IsInstalledDLManager",
+                                         "DoConstraints", "DispHintControl"};
+    const std::string check = "DoConstraints 0\nDispHintControl " + std::to_string(GetParam().id) + "\n";
+    const bool lists = GetParam().listsProfiles;
+    driver.Open();
+    EXPECT_EQ(driver.initAnswer, (Answer{0, 1}));
+    EXPECT_EQ(driver.Events(kinds), check + driver.Fills() + driver.Shows()
+                                        + (lists ? "IsInstalledDLManager\ndisable 1393\n" : ""));
+    driver.Expect(Settings(GetParam()));
+    EXPECT_EQ(Differences(driver.saveArea.bytes.data(), Settings(GetParam())), "");
+    EXPECT_EQ(driver.Shown(kImages), 1);
+    EXPECT_EQ(driver.Shown(kText), 0);
+    for (const auto& [list, entries] :
+         {std::pair(1504, lists ? kRgb : kRgbItems), {1634, "Device RGB=0|sRGB=1"}, {1525, kDestinations}})
+        EXPECT_EQ(driver.Entries(list), driver.Has(list) ? entries : "") << list;
+
+    driver.events.clear();
+    EXPECT_EQ(driver.Tell(WM_ACTIVATE, WA_ACTIVE), (Answer{0, 1}));
+    EXPECT_EQ(driver.Events(kinds), check + (lists ? driver.Fills() : "") + driver.Shows());
+    driver.Expect(Settings(GetParam()));
+
+    driver.events.clear();
+    driver.settings.U8(2165, 2); // neither: text
+    RawBytes wanted = driver.settings;
+    EXPECT_EQ(driver.Tell(WM_USER + 100), lists ? (Answer{1, 1}) : (Answer{0, kUntouched}));
+    EXPECT_EQ(driver.Events(kinds), lists ? driver.Fills() + driver.Shows() : "");
+    if (lists)
+        driver.Derive(wanted, false);
+    driver.Expect(wanted);
+    EXPECT_EQ(driver.Shown(kText), lists);
+}
+
+TEST_P(ReducedDialogs, AnswerTheirOwnMessagesOnly) {
+    Driver driver(GetParam());
+    driver.Open();
+    driver.events.clear();
+    for (const WPARAM command : {WPARAM{1393}, WPARAM{1528}})
+        EXPECT_EQ(driver.Command(command), (Answer{GetParam().listsProfiles ? 1 : 0, kUntouched}));
+    for (const WPARAM command :
+         {WPARAM{MAKEWPARAM(kImages, 1)}, Chosen(kText), Chosen(1599), Chosen(1513), WPARAM{1504}})
+        EXPECT_EQ(driver.Command(command), (Answer{0, kUntouched})) << command;
+    for (const Change& change : kChanges) {
+        const WPARAM command = change.control == kBox ? kBox : Chosen(static_cast<WPARAM>(change.control));
+        EXPECT_EQ(driver.Command(command),
+                  driver.Has(change.control) ? (Answer{change.result, 1}) : (Answer{0, kUntouched}))
+            << change.control;
+        MEASUREITEMSTRUCT item = {ODT_COMBOBOX, static_cast<UINT>(change.control), 0, 0, 3, 0};
+        driver.Tell(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
+        EXPECT_EQ(item.itemHeight, driver.Has(change.control) && change.control != kBox ? 16u : 3u)
+            << change.control;
+    }
+    driver.events.clear();
+    EXPECT_EQ(driver.Command(9), (Answer{0, 1}));
+    driver.Tell(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(driver.Control(1354)));
+    EXPECT_EQ(driver.Events({"WinHelp"}),
+              "WinHelp 0 1 " + std::to_string(GetParam().topic) + "\nWinHelp 1354 10\n");
+    EXPECT_EQ(driver.helpTable, GetParam().help);
+
+    std::vector<int> icons;
+    for (int icon = 1390; icon < 1640; ++icon) {
+        DRAWITEMSTRUCT item = {
+            ODT_STATIC, static_cast<UINT>(icon), 0, ODA_DRAWENTIRE, 0, driver.window, nullptr, {}, 0};
+        driver.events.clear();
+        driver.Tell(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+        if (driver.Events({"ReqDrawStopInfoIcon"}) == "ReqDrawStopInfoIcon " + std::to_string(icon) + "\n")
+            icons.push_back(icon);
+    }
+    EXPECT_EQ(icons, GetParam().icons);
+    driver.Close();
+
+    driver.context.changesAllowed = 0;
+    driver.events.clear();
+    driver.Open();
+    std::string locks;
+    for (const int control : GetParam().locks)
+        locks += "disable " + std::to_string(control) + "\n";
+    EXPECT_EQ(driver.Events({"disable"}), locks);
+}
+
+TEST_P(ReducedDialogs, ChangesAreKeptOrRefused) {
+    Driver driver(GetParam());
+    driver.Open();
+    for (const Change& change : kChanges)
+        for (const int32_t answer : {100, 101, 99, 0}) {
+            if (!driver.Has(change.control))
+                continue;
+            SCOPED_TRACE(testing::Message() << change.control << ", " << answer);
+            const RawBytes before = driver.settings;
+            RawBytes wanted = before;
+            change.size == 1 ? wanted.U8(change.field, change.value) : wanted.U16(change.field, change.value);
+            if (change.recordAt != 0 && driver.HasRecords())
+                PutRecord(wanted, change.recordAt, change.record);
+            driver.constraints = [&](uint32_t) {
+                driver.Expect(wanted);
+                return answer;
+            };
+            const int shown = driver.Shown(change.control);
+            const bool isRefused = answer >= 100;
+            EXPECT_EQ(driver.Make(change.control, change.entry), (Answer{change.result, 1}));
+            driver.Expect(isRefused ? before : wanted);
+            EXPECT_EQ(driver.Shown(change.control), isRefused ? shown : change.entry);
+        }
+}
+
+TEST_P(ReducedDialogs, GraphicsFollowWhatIsChosen) {
+    Driver driver(GetParam());
+    driver.Open();
+    RawBytes wanted = driver.settings;
+    for (const auto& [button, answer] : {std::pair(kText, 100), {kText, 0}, {kImages, 101}, {kImages, 99}}) {
+        SCOPED_TRACE(testing::Message() << button << ", " << answer);
+        const uint8_t before = wanted.bytes[2165];
+        driver.constraints = [answer = answer](uint32_t) { return answer; };
+        driver.Derive(wanted, button == kImages);
+        EXPECT_EQ(driver.Make(button, 1), (Answer{1, 1}));
+        EXPECT_EQ(driver.Events({"DoConstraints"}), "DoConstraints " + std::to_string(button) + "\n");
+        const bool isRefused = answer >= 100; // puts back the choice alone
+        if (isRefused)
+            wanted.U8(2165, before);
+        driver.Expect(wanted);
+        EXPECT_EQ(driver.Shown(kImages), wanted.bytes[2165]);
+        EXPECT_EQ(driver.Shown(kText), 1 - wanted.bytes[2165]);
+    }
+}
+
+TEST_P(ReducedDialogs, DefaultsTakeTheirFieldsOnly) {
+    Driver driver(GetParam());
+    RawBytes defaults =
+        Pattern(128).U16(2514, 0).U16(2516, 1).U16(2512, 0).U16(2336, 0).U16(2166, 3).U16(3536, 1);
+    defaults.U8(2165, 0);
+    driver.storedDefaults = defaults.bytes;
+    driver.Open();
+    SetFocus(driver.Control(1032));
+    driver.events.clear();
+    EXPECT_EQ(driver.Command(1032), (Answer{0, 1}));
+    RawBytes wanted = Settings(GetParam());
+    for (const auto& [offset, length] : GetParam().defaults)
+        memcpy(&wanted.bytes[offset], &defaults.bytes[offset], length);
+    driver.Expect(wanted);
+    EXPECT_EQ(driver.Events({"DoConstraints", "DispHintControl", "fill", "show"}),
+              "DoConstraints 0\nDispHintControl " + std::to_string(GetParam().id) + "\n" + driver.Shows());
+    EXPECT_EQ(driver.Shown(kText), 1);
+}
+
+// What is no longer offered becomes the first entry; only where profiles are remembered in their record, too.
+TEST_P(ReducedDialogs, ChoicesThatAreNotOfferedBecomeTheFirst) {
+    Driver driver(GetParam());
+    driver.settings.U16(2514, 300).U16(2516, 0x8001).U16(2512, 5).U16(2336, 1).Wide(2338 + 82, L"Press C");
+    driver.settings.U16(2166, 99).U16(3536, 7).U8(2153, 9);
+    RawBytes wanted = driver.settings;
+    const auto become0 = [&](int control, size_t field, size_t record, const wchar_t* text) {
+        if (!driver.Has(control))
+            return;
+        wanted.U16(field, 0);
+        if (record != 0 && driver.HasRecords())
+            PutRecord(wanted, record, Profile(text, L"", 0));
+    };
+    become0(1504, 2514, 2688, L"Device RGB");
+    become0(1509, 2516, 2520, L"Device RGB");
+    become0(1634, 2512, 0, L"");
+    become0(1525, 2336, 2338, L"");
+    become0(1524, 2166, 2168, L"");
+    become0(1627, 3536, 0, L"");
+    driver.Open();
+    driver.Expect(wanted);
+    EXPECT_EQ(driver.Shown(1354), -1);
+    driver.Command(IDCANCEL);
+    EXPECT_EQ(NumberAt<uint16_t>(driver.settings.bytes.data(), 2514), 300);
+}
+
+// A whole visit: several changes, a refused one, Defaults, changes again, OK.
+TEST_P(ReducedDialogs, Visit) {
+    Driver driver(GetParam());
+    RawBytes defaults =
+        Pattern(200).U16(2514, 1).U16(2516, 0).U16(2512, 1).U16(2336, 128).U16(2166, 128).U16(3536, 2);
+    defaults.U8(2153, 2).U8(2154, 1).U8(2155, 1).U8(2157, 0).U8(2158, 2).U8(2159, 0).U8(2165, 1).U8(3534, 1);
+    defaults.Wide(2338 + 82, L"PRESS b").U16(2338 + 96, 0).Wide(2168 + 82, L"sim a").U16(2168 + 92, 0);
+    driver.storedDefaults = defaults.bytes;
+    driver.Open();
+    driver.constraints = [](uint32_t control) { return control == 1330 ? 101 : 0; };
+    for (const Change& change : kChanges)
+        if (driver.Has(change.control))
+            driver.Make(change.control, change.entry);
+    driver.Make(kText, 1);
+    driver.Command(1032);
+    driver.Make(1354, 0);
+    driver.Make(1330, 0); // refused
+    if (driver.Has(1509))
+        driver.Make(1509, driver.HasRecords() ? 16 : 2);
+    driver.events.clear();
+    EXPECT_EQ(driver.Command(IDOK), (Answer{1, 1}));
+    EXPECT_EQ(driver.events.back(), "EndDialog 1");
+    EXPECT_EQ(driver.Events({"DoConstraints"}), "");
+
+    RawBytes wanted = Settings(GetParam());
+    for (const auto& [offset, length] : GetParam().defaults)
+        memcpy(&wanted.bytes[offset], &defaults.bytes[offset], length);
+    wanted.U8(2153, 0).U8(2161, 0).U8(2162, 1).U8(2163, driver.Has(1335) ? 1 : 0); // graphics like images
+    if (driver.Has(1509))
+        wanted.U16(2518, 1).U16(2516, driver.HasRecords() ? 256 : 128);
+    if (driver.HasRecords()) {
+        PutRecord(PutRecord(wanted, 2688, Profile(L"sRGB", L"", 0)), 2520, kCamera);
+        PutRecord(PutRecord(wanted, 2856, Profile(L"sRGB", L"", 0)), 2168, kSimA);
+    }
+    if (driver.Has(1525))
+        PutRecord(wanted, 2338, kPressB);
+    driver.Expect(wanted);
+}
+
+TEST_P(ReducedDialogs, LeaveNothingBehind) {
+    Driver driver(GetParam());
+    driver.usesOwnCallbacks = true;
+    std::optional<LiveObjects> before;
+    for (int i = 0; i < 24; ++i) {
+        driver.Open();
+        ShowWindow(driver.window, i < 4 ? SW_SHOWNOACTIVATE : SW_HIDE);
+        UpdateWindow(driver.window);
+        driver.Make(kText, 1);
+        driver.Command(1032);
+        driver.Close();
+        if (i == 3)
+            before = CountLiveObjects();
+    }
+    EXPECT_EQ(CountLiveObjects(), *before);
+}
+
+// In a context of short lists 123 offers two sources; entries are drawn as those of RGB sources.
+TEST(BasicDialog, ShortListsAndPrinterProfiles) {
+    Driver driver(kDialogs[4]);
+    driver.settings.U16(2514, 0).U16(2516, 1);
+    driver.context.shortRgbLists = 1;
+    driver.Open();
+    EXPECT_EQ(driver.Entries(1504) + driver.Entries(1509), "Device RGB=0|sRGB=1Device RGB=0|sRGB=1");
+    driver.Close();
+    driver.context.shortRgbLists = 0;
+    driver.Open();
+    RawBytes wanted = driver.settings;
+    driver.Choose(1509, 2);
+    EXPECT_EQ(Differences(driver.settings.bytes.data(), wanted.U16(2516, 128)), "") << "no record is written";
+}
+
+} // namespace
