@@ -41,6 +41,9 @@ Run SetUpLogo(CLI::App& command);
 // One sheet of all telling pictures of the printer, written as PNG.
 Run SetUpGallery(CLI::App& command);
 
+// Pictures on one sheet, written as PNG.
+Run SetUpSheet(CLI::App& command);
+
 // One of the model's dialogs, used by a script or a person: what it shows and which settings it changes.
 Run SetUpDialog(CLI::App& command);
 

@@ -3,6 +3,7 @@
 #include "commands.h"
 #include "output.h"
 #include "picture_file.h"
+#include "picture_text.h"
 #include "printer_scene.h"
 
 #include <iterator>
@@ -89,34 +90,10 @@ constexpr SIZE kSheet = {kAcross * kCell.cx + 2 * kMargin + 1,
                          kTitleHeight + kDown* kCell.cy + 2 * kMargin + 1};
 
 constexpr COLORREF kGridColor = RGB(222, 226, 230);
-constexpr COLORREF kCaptionColor = RGB(73, 80, 87);
 constexpr COLORREF kTitleColor = RGB(33, 37, 41);
 constexpr const char* kTitle = "QUORVANE lumora R880: the printer's picture";
 
-struct TextStyle {
-    LONG height; // of a line
-    LONG weight;
-    COLORREF color;
-    UINT placement; // DT_ flags
-};
 constexpr TextStyle kTitleStyle = {26, FW_BOLD, kTitleColor, DT_LEFT | DT_TOP};
-constexpr TextStyle kCaptionStyle = {14, FW_NORMAL, kCaptionColor, DT_CENTER | DT_VCENTER};
-
-void DrawLine(HDC to, RECT place, const TextStyle& style, const char* text) {
-    LOGFONTW description = {};
-    GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof(description), &description);
-    description.lfHeight = style.height;
-    description.lfWeight = style.weight;
-    description.lfQuality = ANTIALIASED_QUALITY;
-    const HFONT font = CreateFontIndirectW(&description);
-    const HGDIOBJ before = SelectObject(to, font);
-    SetTextColor(to, style.color);
-    SetBkMode(to, TRANSPARENT);
-    DrawTextW(to, Wide(text).c_str(), -1, &place,
-              style.placement | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
-    SelectObject(to, before);
-    DeleteObject(font);
-}
 
 PrinterScene SceneOf(const FamilyFiles& family, const Row& row) {
     PrinterScene scene = {ReadOptionFeatures(family), true, row.tray, {}};

@@ -21,6 +21,7 @@ constexpr struct {
     {"view", "Has the module draw the printer with its options", SetUpView},
     {"logo", "Has the module draw the logo", SetUpLogo},
     {"gallery", "Has the module draw all telling pictures of the printer on one sheet", SetUpGallery},
+    {"sheet", "Puts pictures on one sheet", SetUpSheet},
     {"dialog", "Opens one of the model's dialogs, uses it and shows what changes", SetUpDialog},
 };
 

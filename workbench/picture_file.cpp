@@ -166,3 +166,15 @@ Document WritePicture(const Canvas& canvas, const std::string& path) {
     written.Keep();
     return {{"path", file.u8string()}, {"width", canvas.size.cx}, {"height", canvas.size.cy}};
 }
+
+std::unique_ptr<Canvas> ReadPicture(const std::string& path) {
+    const GdiPlus gdiPlus;
+    Gdiplus::Bitmap bitmap(std::filesystem::u8path(path).c_str());
+    const SIZE size = {static_cast<LONG>(bitmap.GetWidth()), static_cast<LONG>(bitmap.GetHeight())};
+    if (bitmap.GetLastStatus() != Gdiplus::Ok || size.cx == 0 || size.cy == 0)
+        throw Failure(kExitFailed, path + ": is no picture, or can't be read; name a PNG file");
+    auto canvas = std::make_unique<Canvas>(size);
+    Gdiplus::Graphics graphics(canvas->context);
+    CheckStatus("Graphics::DrawImage", graphics.DrawImage(&bitmap, 0, 0, size.cx, size.cy));
+    return canvas;
+}

@@ -4,6 +4,7 @@
 
 #include "document.h"
 
+#include <memory>
 #include <windows.h>
 
 // White at the start, 32 bits per pixel. Sizes are pixels.
@@ -23,5 +24,8 @@ struct Canvas {
 // Writes the picture to this path (UTF-8), in place of what is there only once it is complete, and tells path
 // and size. Throws Failure that says why it can't be written.
 Document WritePicture(const Canvas& canvas, const std::string& path);
+
+// The picture in a file (UTF-8 path). Throws Failure when there is none.
+std::unique_ptr<Canvas> ReadPicture(const std::string& path);
 
 #endif

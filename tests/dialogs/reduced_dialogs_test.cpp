@@ -1,4 +1,5 @@
 // The colour dialogs in which graphics follow images or text: 124, 122, 125 and both variants of 123.
+#include "canvas.h"
 #include "full_dialog.h"
 #include "live_objects.h"
 
@@ -380,6 +381,13 @@ TEST(BasicDialog, ShortListsAndPrinterProfiles) {
     driver.Close();
     driver.context.shortRgbLists = 0;
     driver.Open();
+    Canvas known{220, 30}, unknown{220, 30};
+    for (const auto& [canvas, data] : {std::pair(&known, ULONG_PTR{257}), {&unknown, 258}}) {
+        DRAWITEMSTRUCT item = {ODT_COMBOBOX,    1504, 0, ODA_DRAWENTIRE, 0, driver.Control(1504), canvas->dc,
+                               {5, 5, 200, 21}, data};
+        driver.Tell(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    EXPECT_NE(known.Content().pixels, unknown.Content().pixels) << "the second profile has a text";
     RawBytes wanted = driver.settings;
     driver.Choose(1509, 2);
     EXPECT_EQ(Differences(driver.settings.bytes.data(), wanted.U16(2516, 128)), "") << "no record is written";
