@@ -33,9 +33,10 @@ void DisableControls(HWND dialog, const uint32_t* controls) {
 }
 
 void ShowDialogHelp(HWND window, UINT command, ULONG_PTR data) {
+    constexpr const wchar_t* kHelpFile = L"TELMAR__.HLP";
     wchar_t path[kPathCapacity];
-    if (SiblingPath(ModuleInstance(), L"TELMAR__.HLP", path))
-        WinHelpW(window, path, command, data);
+    const bool isKnown = SiblingPath(ModuleInstance(), kHelpFile, path);
+    WinHelpW(window, isKnown ? path : kHelpFile, command, data);
 }
 
 void AnswerHelp(LPARAM helpInfo, const HelpId* table) {

@@ -25,7 +25,7 @@ struct HelpId {
 };
 constexpr uint32_t kNoHelp = 0xFFFFFFFF; // topic of a control without help
 
-// WinHelp on TELMAR__.HLP beside the module; nothing when the module's own path is not known.
+// WinHelp on TELMAR__.HLP beside the module, or of that name alone when the module's own path is not known.
 void ShowDialogHelp(HWND window, UINT command, ULONG_PTR data);
 
 // Help for what WM_HELP (its help information) and WM_CONTEXTMENU (its window) ask about.
