@@ -126,6 +126,22 @@ TEST_F(FullDialog, FindsAProfileAtAnotherPosition) {
     ExpectSettings(stored);
 }
 
+// A model whose automatic destination the module doesn't know: profiles stand first.
+TEST_F(FullDialog, DestinationsWithoutTheAutomaticOne) {
+    FindItem("Text_DestAuto")[4] = 0;
+    settings.U16(3024, 0);
+    Open();
+    EXPECT_EQ(Selection(1592), -1);
+    for (const int entry : {0, 1}) {
+        RawBytes wanted = settings;
+        PutRecord(wanted.U16(3024, 128), 3030, entry == 0 ? kPressA : kPressB);
+        Choose(1592, entry);
+        ExpectSettings(wanted);
+        Tell(WM_USER + 100);
+        EXPECT_EQ(Selection(1592), entry);
+    }
+}
+
 TEST_F(FullDialog, ProfilesWithoutMemoryForTheirTextEndTheList) {
     Open();
     failingAllocation = 3; // after both of 1504

@@ -155,6 +155,22 @@ TEST_F(RowDrawing, BoxEntriesAreTheirItems) {
                  static_cast<int>(row.text.size()));
         EXPECT_TRUE(SamePicture(got, wanted));
     }
+    for (const Attribute& attribute : kAttributes) { // nothing is selected: the item data is nobody's
+        std::fill_n(got.bits, got.width * got.height, kGround);
+        std::fill_n(wanted.bits, wanted.width * wanted.height, kGround);
+        DRAWITEMSTRUCT none = {ODT_COMBOBOX,
+                               static_cast<UINT>(attribute.box),
+                               ~0u,
+                               ODA_DRAWENTIRE,
+                               0,
+                               Control(1094),
+                               got.dc,
+                               place,
+                               ~ULONG_PTR{0}};
+        EXPECT_EQ(Tell(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&none)), 1);
+        DrawFocusRect(wanted.dc, &place);
+        EXPECT_TRUE(SamePicture(got, wanted));
+    }
     DRAWITEMSTRUCT item = {ODT_COMBOBOX, 1845, 0, ODA_DRAWENTIRE, 0, Control(1094), got.dc, place, 0};
     EXPECT_EQ(Tell(WM_DRAWITEM, 1845, reinterpret_cast<LPARAM>(&item)), 0);
 }

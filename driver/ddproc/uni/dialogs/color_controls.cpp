@@ -9,7 +9,6 @@ namespace {
 
 constexpr LONG_PTR kFirstRgbProfile = 256;
 constexpr LONG_PTR kFirstProfile = 128; // of destinations and simulations
-constexpr LONG_PTR kOneAutomaticItem = 1;
 constexpr LONG_PTR kSimulationItems = 6;
 constexpr uint32_t kProfileChosen = 128; // value of a destination or simulation that is one of the printer's
 
@@ -163,22 +162,24 @@ void StoreRgbSource(const ColorControls& controls, const ColorControl& control, 
                     ItemsOf(controls, control), ProfilesOf(controls, control));
 }
 
-// Here and with simulations no selection counts as the first entry.
+// No selection counts as the automatic destination; so does a profile that has gone meanwhile.
 void StoreDestination(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
-    const LONG_PTR index = SelectedIndex(controls, control.id);
-    const ListedProfiles profiles = ProfilesOf(controls, control);
-    StoreProfileChoice(settings, control,
-                       FindListedProfile(profiles, profiles.firstData + index - kOneAutomaticItem), 0);
+    const LONG_PTR data = SelectedData(controls, control.id);
+    StoreProfileChoice(settings, control, FindListedProfile(ProfilesOf(controls, control), data), 0);
 }
 
-// A profile that has gone meanwhile counts as the first entry, too.
+// Behind the items stand the profiles. No selection, and a profile that has gone meanwhile, count as the
+// first item.
 void StoreSimulation(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     const LONG_PTR index = SelectedIndex(controls, control.id);
-    const ListedProfiles profiles = ProfilesOf(controls, control);
-    const LONG_PTR item = index < 0 || index >= kSimulationItems ? 0 : index;
-    StoreProfileChoice(settings, control,
-                       FindListedProfile(profiles, profiles.firstData + index - kSimulationItems),
-                       static_cast<uint32_t>(DataAt(controls, control.id, item)));
+    const ProfileEntry* profile = nullptr;
+    LONG_PTR item = index < 0 ? 0 : index;
+    if (index >= kSimulationItems) {
+        const ListedProfiles profiles = ProfilesOf(controls, control);
+        profile = FindListedProfile(profiles, profiles.firstData + index - kSimulationItems);
+        item = 0;
+    }
+    StoreProfileChoice(settings, control, profile, static_cast<uint32_t>(DataAt(controls, control.id, item)));
 }
 
 void StoreCheckBox(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
@@ -224,28 +225,25 @@ void ShowRgbSource(const ColorControls& controls, const ColorControl& control, O
         FallBack(controls, control);
 }
 
-// Selects the remembered profile behind the items, or falls back to the first entry.
-void ShowProfile(const ColorControls& controls, const ColorControl& control, OemDevmode& settings,
-                 LONG_PTR itemsBefore) {
-    const LONG_PTR position =
-        FindRemembered(ProfilesOf(controls, control), ProfileAt(settings, control.profile));
-    if (position >= 0)
-        Select(controls, control.id, itemsBefore + position);
-    if (position < 0 || SelectedIndex(controls, control.id) != itemsBefore + position)
+// Selects the remembered profile, or falls back to the first entry.
+void ShowProfile(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
+    const ListedProfiles profiles = ProfilesOf(controls, control);
+    const LONG_PTR position = FindRemembered(profiles, ProfileAt(settings, control.profile));
+    if (position < 0 || !SelectData(controls, control.id, profiles.firstData + position))
         FallBack(controls, control);
 }
 
 void ShowDestination(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     if (Load(settings, control.field) == 0)
-        Select(controls, control.id, 0);
+        SelectData(controls, control.id, 0);
     else
-        ShowProfile(controls, control, settings, kOneAutomaticItem);
+        ShowProfile(controls, control, settings);
 }
 
 void ShowSimulation(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     const uint32_t value = Load(settings, control.field);
     if (value == kProfileChosen)
-        ShowProfile(controls, control, settings, kSimulationItems);
+        ShowProfile(controls, control, settings);
     else if (value >= kSimulationItems || !SelectData(controls, control.id, static_cast<LONG_PTR>(value)))
         FallBack(controls, control);
 }

@@ -29,7 +29,7 @@ struct ColorControl {
     DevmodeField profile;         // where the profile is remembered; size 0: nowhere
     const ItemRecord* items;      // null: none
     const ItemRecord* shortItems; // instead, where only the short RGB lists are offered; null: the same
-    uint16_t otherId;             // of the two radio buttons: text settings
+    uint16_t otherId = 0;         // of the two radio buttons: text settings
 };
 
 // What graphics take when they follow the image or the text settings: the item data of one of two lists, or 0

@@ -72,20 +72,7 @@ void CopySettings(OemDevmode* to, const OemDevmode* from) {
         *to = *from;
 }
 
-// --- The user-interface module ---------------------------------------------------------------------------
-
-bool IsRefused(const OpenDialog& dialog, uint32_t control) {
-    return IsChangeRefused(dialog.Window(), dialogState.hintToolWindow, control);
-}
-
-void ShowHints(const OpenDialog& dialog) {
-    ShowHints(dialog.Window(), dialog.Context(), static_cast<uint16_t>(dialogState.currentDialogId));
-}
-
-void CheckAll(const OpenDialog& dialog) {
-    IsRefused(dialog, 0);
-    ShowHints(dialog);
-}
+// --- Changes ---------------------------------------------------------------------------------------------
 
 // What a change can alter in the settings, to be put back when it is refused.
 struct Kept {
@@ -127,11 +114,11 @@ Answer OnChange(const OpenDialog& dialog, const ColorControl& control, uint16_t 
     OemDevmode* settings = GetDialogSettings(dialog.Context());
     const Kept kept = settings != nullptr ? Keep(*settings, control) : Kept();
     StoreControl(dialog.controls, control);
-    if (IsRefused(dialog, clicked) && settings != nullptr) {
+    if (IsChangeRefused(dialog.Window(), dialogState.hintToolWindow, clicked) && settings != nullptr) {
         PutBack(*settings, control, kept);
         ShowControl(dialog.controls, control);
     }
-    ShowHints(dialog);
+    ShowHints(dialog.Window(), dialog.Context(), static_cast<uint16_t>(dialogState.currentDialogId));
     return {AnswerOf(control).result, true};
 }
 
@@ -144,7 +131,7 @@ void TakeDefaults(const OpenDialog& dialog) {
         return;
     for (const DevmodeField& field : dialog.description.defaults)
         memcpy(FieldAt(*settings, field), FieldAt(*defaults, field), field.size);
-    CheckAll(dialog);
+    CheckSettings(dialog.Window(), dialog.Context());
     ShowAll(dialog);
 }
 
@@ -192,19 +179,22 @@ Answer OnRefresh(const OpenDialog& dialog) {
 Answer OnActivate(const OpenDialog& dialog, WPARAM wParam) {
     if (LOWORD(wParam) == WA_INACTIVE || dialog.Context() == nullptr)
         return kNotHandled;
-    CheckAll(dialog);
+    CheckSettings(dialog.Window(), dialog.Context());
     if (dialog.description.listsProfiles)
         FillAll(dialog);
     ShowAll(dialog);
     return kHandled0;
 }
 
-// Whether a control is one of the dialog's; its icon, beside it, then is, too.
-bool HasControl(const ColorDialog& description, uint32_t id) {
-    if (description.listsProfiles && (id == kDownloadManagerButton || id == kManageProfilesButton))
-        return true;
+// Whether an icon control stands beside a control, or a button for profiles, that this dialog has.
+bool HasIcon(const ColorDialog& description, uint32_t icon) {
+    const uint16_t beside = ControlBesideIcon(icon);
+    if (beside == 0)
+        return false;
+    if (beside == kDownloadManagerButton || beside == kManageProfilesButton)
+        return description.listsProfiles;
     for (const ColorControl& control : description.controls)
-        if (control.id == id)
+        if (control.id == beside)
             return true;
     return false;
 }
@@ -231,8 +221,9 @@ Answer OnDrawItem(const OpenDialog& dialog, const DRAWITEMSTRUCT& item, bool isA
             DrawControlEntry(dialog.controls, *list, item);
         return kHandled1;
     }
-    const bool isIcon = HasControl(dialog.description, ControlBesideIcon(item.CtlID));
-    return isIcon && DrawIconControl(dialog.Window(), item.CtlID, item) ? kHandled1 : kNotHandled;
+    const bool isDrawn =
+        HasIcon(dialog.description, item.CtlID) && DrawIconControl(dialog.Window(), item.CtlID, item);
+    return isDrawn ? kHandled1 : kNotHandled;
 }
 
 Answer Run(const ColorDialog& description, HWND window, UINT message, WPARAM wParam, LPARAM lParam,

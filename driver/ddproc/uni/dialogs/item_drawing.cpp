@@ -9,7 +9,14 @@ namespace {
 constexpr int kTextLeft = 20; // room for an icon
 constexpr int kTextTop = 1;
 
-constexpr UINT kEmptyList = 0xFFFFFFFF;
+constexpr UINT kNoEntry = 0xFFFFFFFF;
+
+// What an entry shows.
+struct EntryContent {
+    const wchar_t* text; // null: nothing
+    bool hasIcon;
+    uint16_t icon; // of the system
+};
 
 bool IsSelected(const DRAWITEMSTRUCT& item) {
     return (item.itemState & ODS_SELECTED) != 0;
@@ -68,8 +75,6 @@ const ItemRecord* FindByValue(const ItemRecord* items, LONG_PTR data) {
     return nullptr;
 }
 
-} // namespace
-
 EntryContent ContentOf(const ItemRecord* item) {
     if (item == nullptr)
         return {};
@@ -77,10 +82,6 @@ EntryContent ContentOf(const ItemRecord* item) {
 }
 
 void DrawEntry(const DRAWITEMSTRUCT& item, const EntryContent& content) {
-    if (item.itemID == kEmptyList) {
-        DrawFocusRect(item.hDC, &item.rcItem);
-        return;
-    }
     if ((item.itemAction & (ODA_DRAWENTIRE | ODA_SELECT)) != 0) {
         FillBackground(item);
         if (content.text != nullptr && content.hasIcon)
@@ -92,6 +93,8 @@ void DrawEntry(const DRAWITEMSTRUCT& item, const EntryContent& content) {
         DrawFocusRect(item.hDC, &item.rcItem);
 }
 
+} // namespace
+
 const ProfileEntry* FindListedProfile(const ListedProfiles& profiles, LONG_PTR data) {
     const LONG_PTR position = data - profiles.firstData;
     if (profiles.list == nullptr || profiles.list->entries == nullptr || data < profiles.firstData
@@ -100,7 +103,18 @@ const ProfileEntry* FindListedProfile(const ListedProfiles& profiles, LONG_PTR d
     return &profiles.list->entries[position];
 }
 
+void DrawRecordEntry(const DRAWITEMSTRUCT& item) {
+    if (item.itemID == kNoEntry)
+        DrawFocusRect(item.hDC, &item.rcItem);
+    else
+        DrawEntry(item, ContentOf(reinterpret_cast<const ItemRecord*>(item.itemData)));
+}
+
 void DrawListEntry(const DRAWITEMSTRUCT& item, const ItemRecord* items, const ListedProfiles& profiles) {
+    if (item.itemID == kNoEntry) {
+        DrawFocusRect(item.hDC, &item.rcItem);
+        return;
+    }
     const auto data = static_cast<LONG_PTR>(item.itemData);
     const ItemRecord* known = FindByValue(items, data);
     const ProfileEntry* profile = known == nullptr ? FindListedProfile(profiles, data) : nullptr;

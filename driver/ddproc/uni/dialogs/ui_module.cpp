@@ -59,8 +59,12 @@ void BindUiModule(HWND dialog, DialogContext* context, const UiBinding& binding)
     if (const auto store = UiCallback<StoreStopIconRectFunction>("StoreStopIconRect"))
         store(dialog, &stopIcons);
     dialogState.doConstraintsEntry = UiCallback<DoConstraintsFunction>("DoConstraints");
-    IsChangeRefused(dialog, dialogState.hintToolWindow, 0);
     dialogState.dispHintControlEntry = UiCallback<DispHintControlFunction>("DispHintControl");
+    CheckSettings(dialog, context);
+}
+
+void CheckSettings(HWND dialog, DialogContext* context) {
+    IsChangeRefused(dialog, dialogState.hintToolWindow, 0);
     ShowHints(dialog, context, static_cast<uint16_t>(dialogState.currentDialogId));
 }
 

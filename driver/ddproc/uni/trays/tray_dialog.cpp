@@ -14,8 +14,8 @@
 
 namespace {
 
-constexpr uint32_t kTrayDialogId = 155; // for all kinds, but:
-constexpr uint16_t kChangedHintsId = 156;
+constexpr uint32_t kTrayDialogId = 155;   // for all kinds
+constexpr uint16_t kChangedHintsId = 156; // the same, to DispHintControl after a change
 constexpr uint32_t kHelpTopic = 7300;
 constexpr int kIconSize = 16;                        // pixels
 constexpr uint16_t kOrientationIcons[] = {473, 474}; // portrait, landscape; of the user-interface module
@@ -99,11 +99,6 @@ void StoreChoice(HWND window, const TrayAttribute& attribute, TrayPaperSetting& 
 
 // --- The dialog ------------------------------------------------------------------------------------------
 
-void CheckAll(HWND window) {
-    IsChangeRefused(window, dialogState.hintToolWindow, 0);
-    ShowHints(window, ContextOf(window), static_cast<uint16_t>(dialogState.currentDialogId));
-}
-
 // What the user may not change.
 void LockControls(const TrayDialog& dialog, HWND window) {
     if (IsSettingChangeAllowed(ContextOf(window)))
@@ -134,7 +129,11 @@ void SetOrientationIcons(HWND window) {
     for (const uint16_t id : kOrientationIcons) {
         auto* icon = static_cast<HICON>(
             LoadImageW(instance, MAKEINTRESOURCEW(id), IMAGE_ICON, kIconSize, kIconSize, LR_DEFAULTCOLOR));
-        ImageList_ReplaceIcon(images, -1, icon);
+        if (icon == nullptr
+            || ImageList_ReplaceIcon(images, -1, icon) < 0) { // one alone would stand for the other
+            ImageList_Destroy(images);
+            images = nullptr;
+        }
         DestroyIcon(icon);
     }
     Send(window, kTrayList, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
@@ -225,7 +224,7 @@ INT_PTR OnCommand(const TrayDialog& dialog, HWND window, WPARAM command) {
 void OnActivate(const TrayDialog& dialog, HWND window, WPARAM wParam) {
     if (ContextOf(window) == nullptr || LOWORD(wParam) == WA_INACTIVE)
         return;
-    CheckAll(window);
+    CheckSettings(window, ContextOf(window));
     SelectInBoxes(dialog, window);
     LockControls(dialog, window);
 }
@@ -241,7 +240,7 @@ bool IsAttributeBox(UINT control) {
 INT_PTR OnDrawItem(HWND window, const DRAWITEMSTRUCT& item) {
     const bool isBox = IsAttributeBox(item.CtlID);
     if (isBox)
-        DrawEntry(item, ContentOf(reinterpret_cast<const ItemRecord*>(item.itemData)));
+        DrawRecordEntry(item);
     else if (item.CtlID == kTrayList)
         DrawTrayRow(window, ContextOf(window), item);
     return isBox || item.CtlID == kTrayList ? 1 : 0;
@@ -315,6 +314,7 @@ constexpr HelpId kHelp2[] = {HELP_HEAD, HELP_TAIL, {0, 0}};
 constexpr HelpId kHelp3[] = {HELP_HEAD, {0, 0}};
 // clang-format on
 
+// Initialised by the compiler: the module runs no constructors.
 TrayDialog trayDialogs[] = {
     {kAttributes1, kHelp1, nullptr, {}},
     {kAttributes2, kHelp2, nullptr, {}},

@@ -8,16 +8,16 @@
 
 namespace {
 
-constexpr int kColumnExtra = 20;    // pixels behind a title
-constexpr int kIconRoom = 16;       // pixels before the orientation's text
-constexpr size_t kPlainColumns = 4; // tray, size, orientation, type
+constexpr int kColumnExtra = 20;      // pixels behind a title
+constexpr int kIconRoom = 16;         // pixels before the orientation's text
+constexpr uint32_t kPlainColumns = 4; // tray, size, orientation, type
 constexpr size_t kOrientationColumn = 2;
 constexpr size_t kNameCapacity = 32;  // of a tray's name, in characters
 constexpr size_t kTextCapacity = 260; // of a cell's
 constexpr int16_t kPortrait = 1;
 constexpr uint32_t kTypeWithFourColumns = 3; // of the dialog
 
-size_t trayColumnCount; // that a row has; 0 without rows
+uint32_t trayColumnCount; // that a row has; 0 without rows
 
 LRESULT Send(HWND list, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendMessageW(list, message, wParam, lParam);
@@ -48,6 +48,7 @@ bool IsColumnShown(size_t attribute) {
 // Columns have their titles' widths, the last one the rest.
 struct ColumnsSoFar {
     HWND list;
+    int room;   // that the list had at first
     int margin; // on either side of a title
     int count;
     int width;
@@ -60,8 +61,7 @@ void InsertColumn(ColumnsSoFar& columns, MediaTypeColumn& column, bool takesRest
     inserted.fmt = LVCFMT_LEFT;
     inserted.pszText = column.title;
     inserted.iSubItem = columns.count;
-    inserted.cx =
-        takesRest ? ClientWidth(columns.list) - columns.width : title + 2 * columns.margin + kColumnExtra;
+    inserted.cx = takesRest ? columns.room - columns.width : title + 2 * columns.margin + kColumnExtra;
     Send(columns.list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(columns.count), &inserted);
     ++columns.count;
     columns.width += inserted.cx;
@@ -149,7 +149,8 @@ COLORREF TextColor(const RowDrawing& row) {
 
 // The whole row, as far as the list is wide.
 RECT RowBounds(const RowDrawing& row) {
-    RECT bounds = {LVIR_BOUNDS, 0, 0, 0};
+    RECT bounds = {};
+    bounds.left = LVIR_BOUNDS; // what is asked for
     if (!Send(row.List(), LVM_GETITEMRECT, row.item.itemID, &bounds))
         return {};
     ++bounds.left;
@@ -216,7 +217,8 @@ void SetUpTrayColumns(HWND dialog) {
     SetWindowLongPtrW(header, GWL_STYLE, GetWindowLongPtrW(header, GWL_STYLE) & ~LONG_PTR{HDS_BUTTONS});
     const uint32_t type = SwitchValue(deviceTable, kSwitchDlgMediaType);
     const size_t last = type == kTypeWithFourColumns ? kMediaType : kMediaHole;
-    ColumnsSoFar columns = {list, static_cast<int>(SendMessageW(header, HDM_GETBITMAPMARGIN, 0, 0)), 0, 0};
+    ColumnsSoFar columns = {list, ClientWidth(list),
+                            static_cast<int>(SendMessageW(header, HDM_GETBITMAPMARGIN, 0, 0)), 0, 0};
     InsertColumn(columns, mediaTypeColumns[0], false);
     for (size_t i = 0; i < kMediaTypeListCount; ++i)
         if (IsColumnShown(i))

@@ -34,7 +34,9 @@ struct TrayAttribute {
     uint16_t label;
     uint16_t offset; // of the value in the record
     uint16_t size;   // of the value; signed
-    uint32_t (*isColumnShown)(const DeviceTable* table);
+    // The column follows the model's kind of dialog, too; the controls, where the kind has them, the feature
+    // alone.
+    uint32_t (*isColumnShown)(const DeviceTable* table); // null: always
     FeatureSwitch feature; // without it the controls are hidden; kFeatureSwitchCount: never
 };
 
