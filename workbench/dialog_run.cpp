@@ -13,6 +13,7 @@ constexpr UINT kActionInterval = 30; // milliseconds
 constexpr uint32_t kTrayButtonPage = 156;
 constexpr WPARAM kTrayButton = 1847;
 constexpr UINT kTraysChangedMessage = WM_USER + 104; // to the page's parent
+constexpr const wchar_t* kDialogClass = L"#32770";
 
 struct DialogRun {
     const ModelDialog& dialog;
@@ -73,8 +74,7 @@ void NoteCommand(DialogRun& run, UINT message, WPARAM wParam) {
     Try(run, NoteEnd);
 }
 
-// --- A dialog that the module opens
-// --------------------------------------------------------------------------
+// --- A dialog that the module opens -----------------------------------------------------------------------
 
 LRESULT CALLBACK WatchDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     NoteCommand(*running, message, wParam);
@@ -82,10 +82,7 @@ LRESULT CALLBACK WatchDialog(HWND window, UINT message, WPARAM wParam, LPARAM lP
 }
 
 BOOL CALLBACK FindOpened(HWND window, LPARAM /*parameter*/) {
-    constexpr LPCWSTR kDialogClass = L"#32770";
-    wchar_t name[8] = L"";
-    GetClassNameW(window, name, sizeof(name) / sizeof(name[0]));
-    if (!IsWindowVisible(window) || lstrcmpW(name, kDialogClass) != 0)
+    if (!IsWindowVisible(window) || !IsOfClass(window, kDialogClass))
         return TRUE;
     running->window = window;
     running->ownProcedure = reinterpret_cast<WNDPROC>(
@@ -104,7 +101,8 @@ LRESULT CALLBACK SheetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
 INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
     const HWND sheet =
         CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
-    const HWND page = CreateWindowW(L"#32770", L"", WS_CHILD, 0, 0, 0, 0, sheet, nullptr, nullptr, nullptr);
+    const HWND page =
+        CreateWindowW(kDialogClass, L"", WS_CHILD, 0, 0, 0, 0, sheet, nullptr, nullptr, nullptr);
     SetWindowLongPtrW(sheet, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SheetProcedure));
     SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
     int32_t handled = 0;
@@ -113,8 +111,7 @@ INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
     return run.pressed;
 }
 
-// --- A dialog that the workbench opens, as the user-interface module does
-// --------------------------------------
+// --- A dialog that the workbench opens, as the user-interface module does ---------------------------------
 
 // Hands every message to the module.
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -22,12 +22,6 @@ constexpr ButtonKind kButtonKinds[] = {
 };
 constexpr const char* kKindNames[] = {"", "list", "rows", "button", "check box", "radio button"};
 
-bool IsOfClass(HWND window, const wchar_t* name) {
-    wchar_t className[32] = L"";
-    GetClassNameW(window, className, sizeof(className) / sizeof(className[0]));
-    return lstrcmpiW(className, name) == 0;
-}
-
 LONG_PTR StyleOf(HWND window, LONG_PTR mask) {
     return GetWindowLongPtrW(window, GWL_STYLE) & mask;
 }
@@ -180,6 +174,12 @@ void CopyFromScreen(const Canvas& canvas, POINT origin, const RECT& frame) {
 }
 
 } // namespace
+
+bool IsOfClass(HWND window, const wchar_t* name) {
+    wchar_t className[32] = L"";
+    GetClassNameW(window, className, sizeof(className) / sizeof(className[0]));
+    return lstrcmpiW(className, name) == 0;
+}
 
 ControlKind KindOf(HWND control) {
     if (IsOfClass(control, L"ComboBox"))

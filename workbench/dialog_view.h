@@ -19,6 +19,8 @@ DialogView ViewDialog(HWND dialog);
 // The text of the window with the hint that the dialog has below itself, while it is visible.
 std::string HintOf(HWND dialog);
 
+bool IsOfClass(HWND window, const wchar_t* name);
+
 // What a user can do something with.
 enum class ControlKind { kNone, kList, kRows, kButton, kCheckBox, kRadioButton };
 ControlKind KindOf(HWND control);
