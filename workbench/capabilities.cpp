@@ -1,38 +1,9 @@
 // `workbench capabilities`: asks the module's DDProc_DeviceCapabilities with the option features set as
 // wanted.
+#include "capability_questions.h"
 #include "commands.h"
-#include "option_features.h"
-#include "output.h"
-
-#include <array>
 
 namespace {
-
-using BinName = std::array<wchar_t, 24>;
-
-// Puts questions to the export, with one set of tables.
-struct Questioner {
-    decltype(&DDProc_DeviceCapabilities) ask;
-    const DeviceTable* table;
-    const OptionFeatures& options;
-
-    bool Ask(WORD capability, void* output, DWORD& answer) const {
-        return ask(table, options.features.data(), nullptr, options.settings.data(), capability, output,
-                   &answer)
-               != FALSE;
-    }
-
-    // As applications do: the count first, then the elements. Empty when the module declines.
-    template <typename Element>
-    std::vector<Element> AskList(WORD capability) const {
-        DWORD count = 0;
-        if (!Ask(capability, nullptr, count))
-            return {};
-        std::vector<Element> elements(count);
-        Ask(capability, elements.data(), count);
-        return elements;
-    }
-};
 
 constexpr struct {
     const char* name;
@@ -44,11 +15,11 @@ constexpr struct {
     {"DC_STAPLE", DC_STAPLE},
 };
 
-Document Answers(const Questioner& questioner) {
+Document Answers(const CapabilityQuestions& questions) {
     Document rows = Document::array();
     for (const auto& question : kQuestions) {
         DWORD answer = 0;
-        const bool answered = questioner.Ask(question.capability, nullptr, answer);
+        const bool answered = questions.Ask(question.capability, nullptr, answer);
         rows.push_back({
             {"question", question.name},
             {"index", question.capability},
@@ -59,15 +30,10 @@ Document Answers(const Questioner& questioner) {
     return rows;
 }
 
-Document PaperSources(const Questioner& questioner) {
-    const auto bins = questioner.AskList<uint16_t>(DC_BINS);
-    const auto names = questioner.AskList<BinName>(DC_BINNAMES);
+Document PaperSources(const CapabilityQuestions& questions) {
     Document rows = Document::array();
-    for (size_t i = 0; i < bins.size() && i < names.size(); ++i)
-        rows.push_back({
-            {"bin", bins[i]},
-            {"name", Utf8(names[i].data())},
-        });
+    for (const PaperSource& source : questions.PaperSources())
+        rows.push_back({{"bin", source.bin}, {"name", source.name}});
     return rows;
 }
 
@@ -75,14 +41,12 @@ Document Capabilities(const FamilyFiles& family, const std::vector<std::string>&
     OptionFeatures options = ReadOptionFeatures(family);
     for (const std::string& assignment : assignments)
         SetOption(options, assignment);
-    const Questioner questioner = {
-        ModuleExport<decltype(&DDProc_DeviceCapabilities)>(family, "DDProc_DeviceCapabilities"),
-        family.table.get(), options};
+    const CapabilityQuestions questions(family, options);
     return {
         {"files", FamilyDocument(family)},
         {"options", OptionsDocument(options)},
-        {"answers", Answers(questioner)},
-        {"paperSources", PaperSources(questioner)},
+        {"answers", Answers(questions)},
+        {"paperSources", PaperSources(questions)},
     };
 }
 

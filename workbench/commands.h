@@ -42,9 +42,15 @@ Run SetUpLogo(CLI::App& command);
 Run SetUpGallery(CLI::App& command);
 
 // Pictures on one sheet, written as PNG.
-Run SetUpSheet(CLI::App& command);
+Run SetUpMontage(CLI::App& command);
 
 // One of the model's dialogs, used by a script or a person: what it shows and which settings it changes.
 Run SetUpDialog(CLI::App& command);
+
+// The property sheet, for a person.
+Run SetUpRun(CLI::App& command);
+
+// The same, used by the program: a picture of each page.
+Run SetUpTour(CLI::App& command);
 
 #endif

@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr const wchar_t* kTemplatesName = L"TELMAR_S.DLL";
-
 // The user-interface module opens the colour dialogs. The module opens that for trays, which its model
 // chooses.
 constexpr struct DialogRow {
@@ -62,17 +60,6 @@ OemDevmode ReadSettings(const std::string& path) {
                           + std::to_string(sizeof(settings)) + "; name another file with --settings");
     memcpy(&settings, bytes.data(), sizeof(settings));
     return settings;
-}
-
-using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, Release>;
-
-Library OpenTemplates(const FamilyFiles& family) {
-    const auto path = family.modulePath.parent_path() / kTemplatesName;
-    Library library(LoadLibraryW(path.c_str()));
-    if (library == nullptr)
-        throw Failure(kExitFailed, path.u8string() + ": the dialog templates can't be loaded ("
-                                       + ErrorText(GetLastError()) + "); put the file there");
-    return library;
 }
 
 // What the dialog did: of colours to the settings, of trays to their papers.

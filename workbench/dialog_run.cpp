@@ -82,7 +82,7 @@ LRESULT CALLBACK WatchDialog(HWND window, UINT message, WPARAM wParam, LPARAM lP
 }
 
 BOOL CALLBACK FindOpened(HWND window, LPARAM /*parameter*/) {
-    if (!IsWindowVisible(window) || !IsOfClass(window, kDialogClass))
+    if (!IsWindowVisible(window) || !IsWindowEnabled(window) || !IsOfClass(window, kDialogClass))
         return TRUE;
     running->window = window;
     running->ownProcedure = reinterpret_cast<WNDPROC>(

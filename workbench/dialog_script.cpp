@@ -178,12 +178,12 @@ void At(const std::string& place, const Act& act) {
 
 } // namespace
 
-DialogScript ReadDialogScript(const std::string& path) {
+DialogScript ParseDialogScript(const std::string& lines, const std::string& name) {
     DialogScript script;
-    std::istringstream file(ReadTextFile(path, "--script"));
+    std::istringstream file(lines);
     size_t number = 0;
     for (std::string line; std::getline(file, line);) {
-        const std::string place = path + ":" + std::to_string(++number);
+        const std::string place = name + ":" + std::to_string(++number);
         const std::string text = WithoutComment(line);
         if (text.empty())
             continue;
@@ -196,6 +196,10 @@ DialogScript ReadDialogScript(const std::string& path) {
         });
     }
     return script;
+}
+
+DialogScript ReadDialogScript(const std::string& path) {
+    return ParseDialogScript(ReadTextFile(path, "--script"), path);
 }
 
 void RunNextAction(DialogScript& script, HWND dialog) {

@@ -24,6 +24,10 @@ struct DialogScript {
     Document pictures = Document::array(); // that they have taken
 };
 
+// A script from its lines; messages call it by this name. Throws Failure that names the line and what is
+// possible.
+DialogScript ParseDialogScript(const std::string& lines, const std::string& name);
+
 // Reads the script at this path (UTF-8). Throws Failure that names the line and what is possible.
 DialogScript ReadDialogScript(const std::string& path);
 

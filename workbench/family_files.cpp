@@ -23,23 +23,6 @@ std::filesystem::path ProgramFolder() {
     throw Failure(kExitFailed, path.u8string() + ": " + what + " (" + reason + ")" + kOtherFolder);
 }
 
-// "major.minor.patch.build" of the file's version resource.
-std::string FileVersion(const std::filesystem::path& path) {
-    DWORD unused;
-    std::vector<uint8_t> data(GetFileVersionInfoSizeW(path.c_str(), &unused));
-    void* found;
-    UINT size;
-    if (data.empty() || !GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(data.size()), data.data())
-        || !VerQueryValueW(data.data(), L"\\", &found, &size))
-        return "unknown";
-    const auto& info = *static_cast<const VS_FIXEDFILEINFO*>(found);
-    std::string version;
-    for (const DWORD part : {info.dwFileVersionMS, info.dwFileVersionLS})
-        version +=
-            (version.empty() ? "" : ".") + std::to_string(HIWORD(part)) + "." + std::to_string(LOWORD(part));
-    return version;
-}
-
 } // namespace
 
 FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
@@ -67,6 +50,31 @@ FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
                                        + ": no device data: the path is too long for the module, or there is "
                                          "no memory");
     return family;
+}
+
+Library OpenTemplates(const FamilyFiles& family) {
+    const auto path = family.modulePath.parent_path() / L"TELMAR_S.DLL";
+    Library library(LoadLibraryW(path.c_str()));
+    if (library == nullptr)
+        throw Failure(kExitFailed, path.u8string() + ": the dialog templates can't be loaded ("
+                                       + ErrorText(GetLastError()) + "); put the file there");
+    return library;
+}
+
+std::string FileVersion(const std::filesystem::path& path) {
+    DWORD unused;
+    std::vector<uint8_t> data(GetFileVersionInfoSizeW(path.c_str(), &unused));
+    void* found;
+    UINT size;
+    if (data.empty() || !GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(data.size()), data.data())
+        || !VerQueryValueW(data.data(), L"\\", &found, &size))
+        return "unknown";
+    const auto& info = *static_cast<const VS_FIXEDFILEINFO*>(found);
+    std::string version;
+    for (const DWORD part : {info.dwFileVersionMS, info.dwFileVersionLS})
+        version +=
+            (version.empty() ? "" : ".") + std::to_string(HIWORD(part)) + "." + std::to_string(LOWORD(part));
+    return version;
 }
 
 Document FamilyDocument(const FamilyFiles& family) {

@@ -31,6 +31,13 @@ struct FamilyFiles {
 // unusable.
 FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder);
 
+// The library of the model's dialog templates, beside the module. Throws Failure when it can't be loaded.
+using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, Release>;
+Library OpenTemplates(const FamilyFiles& family);
+
+// "major.minor.patch.build" of a file's version resource; "unknown" when it has none.
+std::string FileVersion(const std::filesystem::path& path);
+
 // Where the files lie and which version the module is: the first section of every document.
 Document FamilyDocument(const FamilyFiles& family);
 

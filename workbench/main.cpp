@@ -21,8 +21,10 @@ constexpr struct {
     {"view", "Has the module draw the printer with its options", SetUpView},
     {"logo", "Has the module draw the logo", SetUpLogo},
     {"gallery", "Has the module draw all telling pictures of the printer on one sheet", SetUpGallery},
-    {"sheet", "Puts pictures on one sheet", SetUpSheet},
+    {"montage", "Puts pictures on one sheet", SetUpMontage},
     {"dialog", "Opens one of the model's dialogs, uses it and shows what changes", SetUpDialog},
+    {"run", "Opens the property sheet, as a user of the driver sees it", SetUpRun},
+    {"tour", "Opens the property sheet, uses its pages and saves a picture of each", SetUpTour},
 };
 
 struct CommonOptions {
@@ -44,8 +46,10 @@ void AddCommands(CLI::App& app, CommonOptions& common, Run& chosen) {
     }
 }
 
-// The arguments in UTF-8, last one first, as CLI11 takes them.
+// The arguments in UTF-8, last one first, as CLI11 takes them. Without any a person has started the program.
 std::vector<std::string> Arguments(int argc, wchar_t** argv) {
+    if (argc < 2)
+        return {"run"};
     std::vector<std::string> arguments;
     for (int i = argc - 1; i > 0; --i)
         arguments.push_back(Utf8(argv[i]));
@@ -77,10 +81,6 @@ int RunProgram(int argc, wchar_t** argv) {
     CommonOptions common;
     Run run;
     AddCommands(app, common, run);
-    if (argc < 2) {
-        Print(STD_ERROR_HANDLE, app.help());
-        return kExitUsage;
-    }
     try {
         app.parse(Arguments(argc, argv));
     } catch (const CLI::CallForHelp&) {

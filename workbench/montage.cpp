@@ -1,5 +1,5 @@
-// `workbench sheet`: puts pictures on one sheet, each with its name below it. Pictures of one width stand in
-// one column, in the order in which they are named.
+// `workbench montage`: puts pictures on one sheet, each with its name below it. Pictures of one width stand
+// in one column, in the order in which they are named.
 #include "commands.h"
 #include "picture_file.h"
 #include "picture_text.h"
@@ -47,7 +47,7 @@ std::vector<Placed> Place(const std::vector<std::string>& paths, std::vector<Col
     return pictures;
 }
 
-Document Sheet(const std::vector<std::string>& paths, const std::string& out) {
+Document Montage(const std::vector<std::string>& paths, const std::string& out) {
     std::vector<Column> columns;
     const std::vector<Placed> pictures = Place(paths, columns);
     SIZE size = {columns.back().left + columns.back().width + kGap, 0};
@@ -69,7 +69,7 @@ Document Sheet(const std::vector<std::string>& paths, const std::string& out) {
 
 } // namespace
 
-Run SetUpSheet(CLI::App& command) {
+Run SetUpMontage(CLI::App& command) {
     struct Options {
         std::string out; // UTF-8, as all texts of the command line
         std::vector<std::string> pictures;
@@ -77,5 +77,5 @@ Run SetUpSheet(CLI::App& command) {
     const auto options = std::make_shared<Options>();
     command.add_option("--out", options->out, "Where to write the sheet")->type_name("FILE")->required();
     command.add_option("PICTURE", options->pictures, "PNG files")->required();
-    return [options](const FamilyFiles& /*family*/) { return Sheet(options->pictures, options->out); };
+    return [options](const FamilyFiles& /*family*/) { return Montage(options->pictures, options->out); };
 }

@@ -1,5 +1,6 @@
 // The colour dialogs in which graphics follow images or text: 124, 122, 125 and both variants of 123.
 #include "canvas.h"
+#include "dialogs/color_descriptions.h"
 #include "full_dialog.h"
 #include "live_objects.h"
 
@@ -73,7 +74,7 @@ struct Change {
     int result;
 };
 const Change kChanges[] = {
-    {1504, 3, 2514, 2, 129, 2688, Profile(L"Apple RGB", L"", 0), 1}, {1354, 3, 2153, 1, 3, 0, kNone, 1}, {1335, 1, 2155, 1, 1, 0, kNone, 1},
+    {1504, 3, 2514, 2, 129, 2688, Profile(L"Apple RGB", L"", 0), 1}, {1354, 3, 2153, 1, 3, 0, kNone, 1}, {1335, 2, 2155, 1, 2, 0, kNone, 1},
     {1332, 0, 2154, 1, 0, 0, kNone, 1}, {1509, 0, 2516, 2, 0, 2520, Profile(L"Device RGB", L"", 0), 1}, {1353, 0, 2157, 1, 0, 0, kNone, 1},
     {1334, 1, 2159, 1, 1, 0, kNone, 1}, {1330, 2, 2158, 1, 2, 0, kNone, 1}, {1524, 6, 2166, 2, 128, 2168, kSimA, 0},
     {1526, 0, 3534, 1, 0, 0, kNone, 0}, {1627, 1, 3536, 2, 1, 0, kNone, 1}, {1525, 2, 2336, 2, 128, 2338, kPressB, 0},
@@ -83,7 +84,7 @@ const Change kChanges[] = {
 
 // All choices are offered; graphics follow images.
 RawBytes Settings(const Reduced& dialog) {
-    RawBytes settings = FullSettings().U8(2155, 2).U8(2165, 1).U16(2512, 1);
+    RawBytes settings = FullSettings().U8(2155, 1).U8(2165, 1).U16(2512, 1);
     settings.U16(2336, 128).Wide(2338 + 82, L"Press A").U16(2338 + 96, 0);
     return dialog.id == 123 ? settings.U16(2516, 129) : settings;
 }
@@ -123,7 +124,7 @@ struct Driver : DialogDriver {
 
     // What graphics take, on the settings above.
     RawBytes& Derive(RawBytes& wanted, bool fromImages) const {
-        const unsigned gray = !fromImages ? 2 : Has(1335) ? 2 : 0;
+        const unsigned gray = !fromImages ? 2 : Has(1335) ? 1 : 0;
         wanted.U8(2165, fromImages).U8(2161, fromImages ? 1 : 3).U8(2163, gray).U8(2162, fromImages ? 2 : 1);
         if (!Has(1504))
             return wanted;
@@ -245,6 +246,9 @@ TEST_P(ReducedDialogs, ChangesAreKeptOrRefused) {
             const int shown = driver.Shown(change.control);
             const bool isRefused = answer >= 100;
             EXPECT_EQ(driver.Make(change.control, change.entry), (Answer{change.result, 1}));
+            EXPECT_EQ(driver.Events({"DoConstraints", "DispHintControl"}),
+                      "DoConstraints " + std::to_string(change.control) + "\nDispHintControl "
+                          + std::to_string(GetParam().id) + "\n");
             driver.Expect(isRefused ? before : wanted);
             EXPECT_EQ(driver.Shown(change.control), isRefused ? shown : change.entry);
         }
@@ -257,8 +261,11 @@ TEST_P(ReducedDialogs, GraphicsFollowWhatIsChosen) {
     for (const auto& [button, answer] : {std::pair(kText, 100), {kText, 0}, {kImages, 101}, {kImages, 99}}) {
         SCOPED_TRACE(testing::Message() << button << ", " << answer);
         const uint8_t before = wanted.bytes[2165];
-        driver.constraints = [answer = answer](uint32_t) { return answer; };
         driver.Derive(wanted, button == kImages);
+        driver.constraints = [&, answer = answer](uint32_t) {
+            driver.Expect(wanted); // which sees what has been derived
+            return answer;
+        };
         EXPECT_EQ(driver.Make(button, 1), (Answer{1, 1}));
         EXPECT_EQ(driver.Events({"DoConstraints"}), "DoConstraints " + std::to_string(button) + "\n");
         const bool isRefused = answer >= 100; // puts back the choice alone
@@ -308,11 +315,65 @@ TEST_P(ReducedDialogs, ChoicesThatAreNotOfferedBecomeTheFirst) {
     become0(1525, 2336, 2338, L"");
     become0(1524, 2166, 2168, L"");
     become0(1627, 3536, 0, L"");
+    const RawBytes opening = driver.settings;
     driver.Open();
     driver.Expect(wanted);
     EXPECT_EQ(driver.Shown(1354), -1);
-    driver.Command(IDCANCEL);
-    EXPECT_EQ(NumberAt<uint16_t>(driver.settings.bytes.data(), 2514), 300);
+    driver.settings.U8(0, 99).U16(2165, 0);
+    EXPECT_EQ(driver.Command(IDCANCEL), (Answer{1, 1}));
+    EXPECT_EQ(driver.events.back(), "EndDialog 2");
+    driver.Expect(opening);
+    driver.Command(IDOK); // no selection is -1, for graphics, too
+    EXPECT_EQ(std::pair(driver.settings.bytes[2153], driver.settings.bytes[2161]),
+              std::pair(uint8_t{255}, uint8_t{255}));
+}
+
+// What the lists show counts at OK, told or not.
+TEST_P(ReducedDialogs, OkStoresWhatIsShown) {
+    Driver driver(GetParam());
+    driver.Open();
+    RawBytes wanted = driver.settings;
+    for (const Change& change : kChanges) {
+        if (!driver.Has(change.control))
+            continue;
+        driver.Send(change.control, change.control == kBox ? UINT{BM_SETCHECK} : CB_SETCURSEL,
+                    static_cast<WPARAM>(change.entry));
+        change.size == 1 ? wanted.U8(change.field, change.value) : wanted.U16(change.field, change.value);
+        if (change.recordAt != 0 && driver.HasRecords())
+            PutRecord(wanted, change.recordAt, change.record);
+    }
+    driver.Send(kImages, BM_SETCHECK, BST_UNCHECKED);
+    driver.Send(kText, BM_SETCHECK, BST_CHECKED);
+    wanted.U8(2165, 0).U8(2161, 0).U8(2163, 1).U8(2162, 2); // as text has them now
+    if (driver.Has(1509))
+        wanted.U16(2518, 0);
+    if (driver.HasRecords())
+        PutRecord(wanted, 2856, Profile(L"Device RGB", L"", 0));
+    driver.Command(IDOK);
+    driver.Expect(wanted);
+}
+
+// Each list takes the table of its own, though many say the same.
+TEST_P(ReducedDialogs, ListsHaveTheirOwnTables) {
+    constexpr struct {
+        int list;
+        const char* key;
+    } kMarked[] = {{1504, "Img_AdobeRGB1998"}, {1509, "Text_AdobeRGB1998"}, {1354, "Img_Proof"},
+                   {1353, "Text_Proof"},       {1335, "Img_BandG"},         {1334, "Text_BandG"},
+                   {1332, "Img_Detail"},       {1330, "Text_Detail"},       {1524, "Simu_SWOP"},
+                   {1627, "Simu_BandG"},       {1525, "Dest_Auto"},         {1634, "sRGB"}};
+    Driver driver(GetParam());
+    for (const auto& [list, key] : kMarked)
+        memcpy(driver.FindItem(key) + 48, std::to_wstring(list).c_str(), 10);
+    memcpy(driver.FindItem("Graph_AdobeRGB1998") + 48, L"mark", 10);
+    driver.Open();
+    for (const auto& [list, key] : kMarked)
+        EXPECT_EQ(driver.Entries(list).find(std::to_string(list) + "=") != std::string::npos,
+                  driver.Has(list))
+            << list;
+    driver.Command(IDOK);
+    const std::wstring derived = reinterpret_cast<wchar_t*>(&driver.settings.bytes[2856]);
+    EXPECT_EQ(derived == L"mark", driver.HasRecords());
 }
 
 // A whole visit: several changes, a refused one, Defaults, changes again, OK.
@@ -369,6 +430,12 @@ TEST_P(ReducedDialogs, LeaveNothingBehind) {
             before = CountLiveObjects();
     }
     EXPECT_EQ(CountLiveObjects(), *before);
+}
+
+TEST(BasicDialog, VariantByTheModelsType) {
+    for (const uint32_t type : {0u, 1u, 2u, 4u, 13u, 255u})
+        EXPECT_EQ(FindColorDialog(123, type)->helpTopic, 6600u) << type;
+    EXPECT_EQ(FindColorDialog(123, 3)->helpTopic, 6621u);
 }
 
 // In a context of short lists 123 offers two sources; entries are drawn as those of RGB sources.

@@ -237,7 +237,6 @@ TEST(Workbench, SaysWhatIsWrong) {
         int exitCode;
         std::string says; // a regular expression
     } cases[] = {
-        {L"", 2, "Usage: workbench .*COMMAND[^]*describe [^]*capabilities "},
         {L"foo", 2, "workbench: no command 'foo'.*describe, capabilities"},
         {L"describe --color", 2, "workbench: describe has no option '--color'.*--folder, --json"},
         {L"describe --folder", 2, "workbench: --folder"},

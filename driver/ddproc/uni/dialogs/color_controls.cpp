@@ -66,6 +66,12 @@ const ItemRecord* ItemsOf(const ColorControls& controls, const ColorControl& con
                                                                                     : control.items;
 }
 
+ListedProfiles RgbProfiles(const ColorControls& controls) {
+    const ProfileLists* lists = GetPrinterProfileLists(controls.context);
+    const bool hasThem = lists != nullptr && !IsShortRgbListContext(controls.context);
+    return {hasThem ? &lists->rgbSources : nullptr, kFirstRgbProfile};
+}
+
 // The printer's profiles that entries of a control can stand for.
 ListedProfiles ProfilesOf(const ColorControls& controls, const ColorControl& control) {
     const ProfileLists* lists = GetPrinterProfileLists(controls.context);
@@ -74,7 +80,7 @@ ListedProfiles ProfilesOf(const ColorControls& controls, const ColorControl& con
     switch (control.kind) {
     case ColorControlKind::kRgbSource:
     case ColorControlKind::kRgbItems:
-        return {IsShortRgbListContext(controls.context) ? nullptr : &lists->rgbSources, kFirstRgbProfile};
+        return RgbProfiles(controls);
     case ColorControlKind::kDestination:
         return {&lists->destinations, kFirstProfile};
     case ColorControlKind::kSimulation:
@@ -196,9 +202,8 @@ void StoreGraphicsChoice(const ColorControls& controls, const ColorControl& cont
         Store(settings, source.field, static_cast<uint32_t>(data));
         if (source.profile.size == 0)
             continue;
-        const ProfileLists* lists = GetPrinterProfileLists(controls.context);
         StoreRgbProfile(ProfileAt(settings, source.profile), RgbValue(settings, source.field), source.items,
-                        {lists != nullptr ? &lists->rgbSources : nullptr, kFirstRgbProfile});
+                        RgbProfiles(controls));
     }
 }
 

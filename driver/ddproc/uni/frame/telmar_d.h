@@ -1,0 +1,20 @@
+// The public interface of TELMAR_D.DLL, for the driver's generic modules: its exports with their records, the context
+// of its dialogs, and the callbacks that it asks of TELMAR_U.DLL. Each header says who owns what, and what fails how;
+// docs/using_the_module.md is the way in.
+//
+// Two exports are known under a second name each, which has no declaration of its own: MIB_FreeProfileInfo is
+// MIB_FreeOverlayInfo, DDProc_FeatureNameValuePtr is DDProc_FeatureNameItemTable.
+#ifndef FRAME_TELMAR_D_H
+#define FRAME_TELMAR_D_H
+
+#include "devcomm/device_status.h"
+#include "devcomm/printer_address.h"
+#include "devcomm/printer_queries.h"
+#include "dialogs/dlg_proc.h"
+#include "dialogs/ui_callbacks.h"
+#include "frame/exports.h"
+#include "picture/logo.h"
+#include "picture/printer_view.h"
+#include "trays/tray_settings.h"
+
+#endif

@@ -1,0 +1,87 @@
+// The property sheet as a process, on a screen and beside simulated printers: the program uses its pages, the
+// tests look at what has come of it.
+#include "workbench/workbench_run.h"
+
+#include <regex>
+
+namespace {
+
+struct SheetFolder : Folder {
+    SheetFolder() : Folder(L"workbench_sheet") {}
+    std::wstring Name(const char* name) const { return L" \"" + (path / name).wstring() + L"\""; }
+    Json Tour(const std::wstring& options = L"") const {
+        return RunForJson(L"tour --out" + Name("") + L" --state" + Name("kept.json") + options);
+    }
+};
+
+// "NAME=VALUE " of all settings that differ from the defaults.
+std::string Changes(const Json& report) {
+    std::string changes;
+    for (const Json& row : report["changes"])
+        changes += row["name"].get<std::string>() + "=" + row["after"].dump() + " ";
+    return changes;
+}
+
+std::string ItemOf(const Json& report, const std::string& feature) {
+    for (const Json& row : report["options"])
+        if (row["feature"] == feature)
+            return row["item"];
+    return "none";
+}
+
+TEST(WorkbenchSheet, KeepsWhatIsChosenAndWhatAPrinterTells) {
+    const SheetFolder folder;
+    const Json told = folder.Tour(L" --from 127.0.162.1");
+    EXPECT_EQ(told["printer"]["told"], true);
+    EXPECT_EQ(told["printer"]["status"], "Told by 127.0.162.1 over the bidirectional library.");
+    EXPECT_EQ(ItemOf(told, "OpOutTrayUnit"), "OpOutTrayUnit1"); // that the printer has
+    EXPECT_EQ(ItemOf(told, "OpFAXUnit"), "EnaOpFAXKit");
+    EXPECT_EQ(told["trays"][1]["size"], "A3");
+    EXPECT_EQ(told["trays"][3]["type"], "Thick 1");
+    EXPECT_EQ(told["pictures"].size(), 4);
+    for (const Json& picture : told["pictures"]) {
+        EXPECT_EQ(picture["width"], told["pictures"][0]["width"]);
+        EXPECT_TRUE(fs::exists(fs::u8path(picture["path"].get<std::string>())));
+    }
+    // Tray 2, letterhead, exact match; OK of the colour dialog makes new records of the RGB sources.
+    EXPECT_TRUE(
+        std::regex_search(Changes(told), std::regex("^inputTray=258 mediaType=261 image.colorMatch=3 ")))
+        << Changes(told);
+
+    const Json kept = folder.Tour();
+    EXPECT_EQ(kept["printer"]["told"], false);
+    EXPECT_EQ(kept["printer"]["address"], ""); // the tour has cleared it
+    EXPECT_EQ(ItemOf(kept, "OpOutTrayUnit"), "OpOutTrayUnit1");
+    EXPECT_EQ(kept["trays"][3]["type"], "Thick 1");
+    EXPECT_EQ(Changes(kept), Changes(told));
+
+    const Json reset = folder.Tour(L" --reset");
+    EXPECT_EQ(reset["changes"], Json::array());
+    EXPECT_EQ(ItemOf(reset, "OpOutTrayUnit"), "DisOpOutTrayUnit");
+}
+
+TEST(WorkbenchSheet, SaysWhyAPrinterIsNotTold) {
+    const SheetFolder folder;
+    for (const auto& [address, says] :
+         {std::pair(L"127.0.162.9", "no device answers"), {L"127.0.162.3", "another model"}}) {
+        const Json report = folder.Tour(std::wstring(L" --from ") + address);
+        EXPECT_EQ(report["printer"]["told"], false);
+        EXPECT_NE(report["printer"]["status"].get<std::string>().find(says), std::string::npos)
+            << report["printer"]["status"];
+    }
+}
+
+TEST(WorkbenchSheet, TakesWhatFitsOfAKeptFile) {
+    const SheetFolder folder;
+    const auto keep = [&](const std::string& text) { std::ofstream(folder.path / "kept.json") << text; };
+    keep(
+        R"({"address": 7, "options": {"OpFAXUnit": "NoSuch", "Other": "x"}, "settings": "zz", "trays": "00"})");
+    EXPECT_EQ(ItemOf(folder.Tour(), "OpHDD"), "DisOpHDD");
+    keep("{");
+    const Result result =
+        RunWorkbench(L"tour --out" + folder.Name("") + L" --state" + folder.Name("kept.json"));
+    EXPECT_EQ(result.exitCode, 1u);
+    EXPECT_NE(result.errors.find("kept.json: holds no settings"), std::string::npos) << result.errors;
+}
+
+} // namespace

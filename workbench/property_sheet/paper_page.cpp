@@ -1,0 +1,124 @@
+// The page of the paper: where it comes from, what it is, and what lies in the trays.
+#include "page_ids.h"
+#include "property_page.h"
+
+#include "../capability_questions.h"
+#include "../output.h"
+#include "paramdata/devmode_fields.h"
+#include "paramdata/text.h"
+
+#include <algorithm>
+
+namespace {
+
+// A list of the device table, and the setting that it is chosen for.
+struct PaperChoice {
+    int control;
+    CompactItemRecord* DeviceTable::*list;
+    DevmodeField field;
+};
+constexpr PaperChoice kChoices[] = {
+    {ID_TYPE, &DeviceTable::mediaTypes, FIELD(mediaType)},
+    {ID_WEIGHT, &DeviceTable::mediaWeights, FIELD(mediaWeight)},
+    {ID_COLOR, &DeviceTable::mediaColors, FIELD(mediaColor)},
+    {ID_HOLES, &DeviceTable::prePunchedMedia, FIELD(mediaPrePunched)},
+};
+
+class PaperPage : public PropertyPage {
+public:
+    explicit PaperPage(SheetState& sheetState) : PropertyPage(PAGE_PAPER, sheetState) {}
+
+private:
+    void Init() override {
+        SetColumns(ID_TRAYS, {"Tray", "Size", "Orientation", "Type", "Weight", "Colour", "Holes"});
+    }
+
+    void Show() override {
+        ShowSources();
+        for (const PaperChoice& choice : kChoices)
+            ShowChoice(choice);
+        std::vector<std::vector<std::string>> rows;
+        for (const Document& paper : PapersDocument(state.papers)) {
+            std::vector<std::string> row;
+            for (const auto& cell : paper.items())
+                if (cell.key() != "bin")
+                    row.push_back(cell.value().is_string() ? cell.value().get<std::string>() : "");
+            row[0] = NameOfSource(row[0]);
+            rows.push_back(row);
+        }
+        SetRows(ID_TRAYS, rows);
+    }
+
+    void OnCommand(UINT control, UINT notification) override {
+        if (control == ID_TRAY_BUTTON && notification == BN_CLICKED)
+            RunModelDialog(0, true);
+        else if (control == ID_SOURCE && notification == CBN_SELCHANGE)
+            TakeSource();
+        else if (notification == CBN_SELCHANGE)
+            for (const PaperChoice& choice : kChoices)
+                if (choice.control == static_cast<int>(control))
+                    TakeChoice(choice);
+    }
+
+    // What the module offers depends on what is installed.
+    void ShowSources() {
+        const CapabilityQuestions questions(state.family, state.options);
+        sources = questions.PaperSources();
+        std::vector<std::string> names;
+        int selected = -1;
+        for (const PaperSource& source : sources) {
+            if (source.bin == state.settings.inputTray)
+                selected = static_cast<int>(names.size());
+            names.push_back(source.name);
+        }
+        SetEntries(ID_SOURCE, names, selected);
+        SetText(ID_ABILITIES, std::string("Prints on both sides: ")
+                                  + (questions.Has(DC_DUPLEX) ? "yes" : "no")
+                                  + "\nStaples: " + (questions.Has(DC_STAPLE) ? "yes" : "no"));
+    }
+
+    std::string NameOfSource(const std::string& key) const {
+        const InputSlotRecord* slot = state.family.table->inputTrays;
+        for (; slot != nullptr && slot->head.key[0] != 0; ++slot)
+            if (SameText(slot->head.key, key))
+                return Utf8(std::wstring_view(slot->display, TextLength(slot->display)));
+        return key;
+    }
+
+    // The key of the source is what the picture is drawn by.
+    void TakeSource() {
+        const PaperSource& source = sources.at(static_cast<size_t>(Send(ID_SOURCE, CB_GETCURSEL)));
+        state.settings.inputTray = source.bin;
+        const InputSlotRecord* slot = state.family.table->inputTrays;
+        for (; slot != nullptr && slot->head.key[0] != 0; ++slot)
+            if (slot->head.value == source.bin)
+                state.tray = slot->head.key;
+        NoteChange();
+    }
+
+    void ShowChoice(const PaperChoice& choice) const {
+        std::vector<std::string> names;
+        int selected = -1;
+        const CompactItemRecord* item = state.family.table.get()->*choice.list;
+        for (; item != nullptr && item->head.key[0] != 0; ++item) {
+            if (item->head.value == Load(state.settings, choice.field))
+                selected = static_cast<int>(names.size());
+            names.push_back(Utf8(std::wstring_view(item->display, TextLength(item->display))));
+        }
+        SetEntries(choice.control, names, selected);
+    }
+
+    void TakeChoice(const PaperChoice& choice) const {
+        const CompactItemRecord* items = state.family.table.get()->*choice.list;
+        Store(state.settings, choice.field, items[Send(choice.control, CB_GETCURSEL)].head.value);
+        NoteChange();
+    }
+
+    std::vector<PaperSource> sources;
+};
+
+} // namespace
+
+std::unique_ptr<PropertyPage> MakePaperPage(SheetState& state) {
+    return std::make_unique<PaperPage>(state);
+}

@@ -1,0 +1,72 @@
+// One page of the property sheet: what its window asks of it, and what all pages do with their controls.
+#ifndef PROPERTY_SHEET_PROPERTY_PAGE_H
+#define PROPERTY_SHEET_PROPERTY_PAGE_H
+
+#include "sheet_state.h"
+
+#include <functional>
+#include <windows.h>
+
+#include <prsht.h> // after windows.h
+
+// A page belongs to the sheet, which outlives its window. Failures that its functions throw are told to the
+// person.
+class PropertyPage {
+public:
+    PropertyPage(UINT id, SheetState& sheetState) : templateId(id), state(sheetState) {}
+    virtual ~PropertyPage() = default;
+    PropertyPage(const PropertyPage&) = delete;
+    PropertyPage& operator=(const PropertyPage&) = delete;
+
+    // For the sheet, once the page has its place in memory.
+    PROPSHEETPAGEW Description();
+
+protected:
+    virtual void Init() {}   // once
+    virtual void Show() = 0; // what the state says now; each time when the page comes to the front
+    virtual void OnCommand(UINT control, UINT notification) = 0;
+    virtual void OnNotify(const NMHDR& note) { static_cast<void>(note); }
+    virtual void OnDraw(const DRAWITEMSTRUCT& item) { static_cast<void>(item); }
+    virtual void OnMeasure(MEASUREITEMSTRUCT& item) { static_cast<void>(item); }
+    virtual void OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+        static_cast<void>(message), static_cast<void>(wParam), static_cast<void>(lParam);
+    }
+    virtual void Close() {} // the window goes
+
+    HWND Control(int id) const { return GetDlgItem(window, id); }
+    LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendDlgItemMessageW(window, id, message, wParam, lParam);
+    }
+    void SetText(int id, const std::string& utf8) const;
+    std::string Text(int id) const;
+
+    // A list view: its columns, once; its rows, a text for each column.
+    void SetColumns(int id, const std::vector<const char*>& titles) const;
+    void SetRows(int id, const std::vector<std::vector<std::string>>& rows) const;
+    int SelectedRow(int id) const;
+    void SelectRow(int id, int row) const;
+
+    // A combo box: its texts, and the one that is selected; -1: none.
+    void SetEntries(int id, const std::vector<std::string>& entries, int selected) const;
+
+    // There is something to be kept.
+    void NoteChange() const;
+
+    // Has one of the model's dialogs run, while the sheet waits. `trays`: the one for trays.
+    void RunModelDialog(uint32_t id, bool trays);
+
+    const UINT templateId;
+    SheetState& state;
+    HWND window = nullptr;
+
+private:
+    static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR Answer(UINT message, WPARAM wParam, LPARAM lParam);
+};
+
+std::unique_ptr<PropertyPage> MakePrinterPage(SheetState& state);
+std::unique_ptr<PropertyPage> MakePaperPage(SheetState& state);
+std::unique_ptr<PropertyPage> MakeQualityPage(SheetState& state);
+std::unique_ptr<PropertyPage> MakeVersionPage(SheetState& state);
+
+#endif

@@ -1,0 +1,23 @@
+// `workbench run`: the property sheet, as a user of the driver sees it; what it changes is kept between runs.
+#include "commands.h"
+#include "property_sheet/sheet_window.h"
+
+namespace {
+
+Document RunSheet(const FamilyFiles& family, const std::string& file) {
+    const Library templates = OpenTemplates(family);
+    SheetState state(family, templates.get());
+    state.file = file.empty() ? StateFile() : std::filesystem::u8path(file);
+    LoadState(state);
+    SheetWindow sheet(state);
+    while (sheet.HandleMessage()) {}
+    return {{"settings", {{"keptIn", state.file.u8string()}}}};
+}
+
+} // namespace
+
+Run SetUpRun(CLI::App& command) {
+    const auto file = std::make_shared<std::string>();
+    command.add_option("--state", *file, "Where settings are kept (a file of the user's)")->type_name("FILE");
+    return [file](const FamilyFiles& family) { return RunSheet(family, *file); };
+}
