@@ -9,8 +9,9 @@ namespace {
 struct SheetFolder : Folder {
     SheetFolder() : Folder(L"workbench_sheet") {}
     std::wstring Name(const char* name) const { return L" \"" + (path / name).wstring() + L"\""; }
+    std::wstring Out() const { return L" \"" + path.wstring() + L"\""; }
     Json Tour(const std::wstring& options = L"") const {
-        return RunForJson(L"tour --out" + Name("") + L" --state" + Name("kept.json") + options);
+        return RunForJson(L"tour --out" + Out() + L" --state" + Name("kept.json") + options);
     }
 };
 
@@ -78,8 +79,7 @@ TEST(WorkbenchSheet, TakesWhatFitsOfAKeptFile) {
         R"({"address": 7, "options": {"OpFAXUnit": "NoSuch", "Other": "x"}, "settings": "zz", "trays": "00"})");
     EXPECT_EQ(ItemOf(folder.Tour(), "OpHDD"), "DisOpHDD");
     keep("{");
-    const Result result =
-        RunWorkbench(L"tour --out" + folder.Name("") + L" --state" + folder.Name("kept.json"));
+    const Result result = RunWorkbench(L"tour --out" + folder.Out() + L" --state" + folder.Name("kept.json"));
     EXPECT_EQ(result.exitCode, 1u);
     EXPECT_NE(result.errors.find("kept.json: holds no settings"), std::string::npos) << result.errors;
 }
