@@ -1,6 +1,6 @@
-// The public interface of TELMAR_D.DLL, for the driver's generic modules: its exports with their records, the context
-// of its dialogs, and the callbacks that it asks of TELMAR_U.DLL. Each header says who owns what, and what fails how;
-// docs/using_the_module.md is the way in.
+// The public interface of TELMAR_D.DLL, for the driver's generic modules: its exports with their records, the
+// context of its dialogs, and the callbacks that it asks of TELMAR_U.DLL. Each header says who owns what, and
+// what fails how; docs/using_the_module.md is the way in.
 //
 // Two exports are known under a second name each, which has no declaration of its own: MIB_FreeProfileInfo is
 // MIB_FreeOverlayInfo, DDProc_FeatureNameValuePtr is DDProc_FeatureNameItemTable.
