@@ -9,8 +9,8 @@
 #include <vector>
 
 // The trays that a printer of the model can have, and the picture a way from.
-inline constexpr const char* kTrayKeys[] = {"InTray1", "InTray2",      "InTray3",
-                                            "InTray4", "InTrayManual", "InTrayLCT"};
+inline constexpr const char* kTrayKeys[] = {"InTray1", "InTray2",   "InTray3",
+                                            "InTray4", "InTrayLCT", "InTrayManual"};
 
 using OptionAnswers = std::vector<OptionRequestItem>; // an empty value: the printer doesn't tell
 
