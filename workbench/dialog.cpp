@@ -17,8 +17,11 @@ namespace {
 // chooses.
 constexpr struct DialogRow {
     uint32_t id;
-    uint32_t trayType; // of the models that have this dialog for trays; 0: of colours
-} kDialogs[] = {{122, 0}, {123, 0}, {124, 0}, {125, 0}, {128, 0}, {155, 1}, {165, 2}, {166, 3}};
+    bool isForTrays;
+} kDialogs[] = {
+    {122, false}, {123, false}, {124, false}, {125, false},
+    {128, false}, {155, true},  {165, true},  {166, true},
+};
 
 struct Options {
     std::string id; // UTF-8, as all texts of the command line
@@ -42,13 +45,13 @@ const DialogRow& FindDialog(const std::string& wanted) {
     throw Failure(kExitUsage, "there is no dialog '" + wanted + "'; possible: " + choices);
 }
 
-// The other dialogs for trays can't be opened: the module takes the model's.
-void CheckTrayType(const FamilyFiles& family, const DialogRow& row) {
-    const uint32_t type = SwitchValue(family.table.get(), kSwitchDlgMediaType);
-    if (row.trayType != 0 && row.trayType != type)
-        throw Failure(kExitFailed, "dialog " + std::to_string(row.id) + ": models with Dlg_MediaType TYPE"
-                                       + std::to_string(row.trayType) + " have it, this one's is "
-                                       + std::to_string(type) + "; name the folder of another with --folder");
+void CheckTrayDialog(const FamilyFiles& family, const DialogRow& row) {
+    const uint32_t own = TrayDialogOf(family.table.get());
+    if (row.isForTrays && row.id != own)
+        throw Failure(kExitFailed, "this model has no dialog " + std::to_string(row.id)
+                                       + "; its dialog for trays, by Dlg_MediaType, is "
+                                       + (own != 0 ? std::to_string(own) : "none")
+                                       + ". Name the folder of another model with --folder");
 }
 
 OemDevmode ReadSettings(const std::string& path) {
@@ -62,18 +65,9 @@ OemDevmode ReadSettings(const std::string& path) {
     return settings;
 }
 
-// What the dialog did: of colours to the settings, of trays to their papers.
-void AddChanges(Document& report, const DialogRow& row, const DialogContext& context,
-                const OemDevmode& opening, const TrayPapers& papersBefore, const TrayPapers& papers) {
-    report["changes"] =
-        row.trayType == 0 ? SettingsChanges(opening, *context.settings) : PaperChanges(papersBefore, papers);
-    if (row.trayType != 0)
-        report["trays"] = PapersDocument(papers);
-}
-
 Document Dialog(const FamilyFiles& family, const Options& options) {
     const DialogRow& row = FindDialog(options.id);
-    CheckTrayType(family, row);
+    CheckTrayDialog(family, row);
     const OemDevmode opening = options.settings ? ReadSettings(*options.settings) : defaultSettings;
     const PrinterProfiles profiles =
         options.profiles ? ReadPrinterProfiles(*options.profiles) : PrinterProfiles{};
@@ -82,20 +76,12 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
     const Library templates = OpenTemplates(family);
 
     OemDevmode settings = opening;
-    OemDevmode saveArea = {};
-    OemDevmode scratch = {};
-    const ProfileLists lists = ListsOf(profiles);
     TrayPapers papers = papersBefore;
-    DialogContext context = {};
-    context.settings = &settings;
-    context.saveArea = &saveArea;
-    context.scratch = &scratch;
-    context.profiles = &lists;
-    context.changesAllowed = options.isLocked ? 0 : 1;
-    context.shortRgbLists = options.isShort ? 1 : 0;
-    context.trays = papers.data();
+    DialogAreas areas(settings, papers.data(), profiles);
+    areas.context.changesAllowed = options.isLocked ? 0 : 1;
+    areas.context.shortRgbLists = options.isShort ? 1 : 0;
     const DialogEnd end =
-        RunDialog({row.id, templates.get(), EXPORT(family, DDProc_DlgProc), row.trayType != 0}, context,
+        RunDialog({row.id, templates.get(), EXPORT(family, DDProc_DlgProc), row.isForTrays}, areas.context,
                   {script, options.waitsForPerson, options.out.value_or("")});
     Document report;
     report["files"] = FamilyDocument(family);
@@ -103,11 +89,14 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
                         {"title", end.view.title},
                         {"end", end.code == IDOK ? "OK" : "Cancel"},
                         {"endCode", end.code},
-                        {"pageTold", row.trayType != 0 ? Document(end.isPageTold) : Document()},
+                        {"pageTold", row.isForTrays ? Document(end.isPageTold) : Document()},
                         {"hint", end.view.hint},
                         {"disabled", end.view.disabled}};
     report["actions"] = script.done;
-    AddChanges(report, row, context, opening, papersBefore, papers);
+    report["changes"] =
+        row.isForTrays ? PaperChanges(papersBefore, papers) : SettingsChanges(opening, settings);
+    if (row.isForTrays)
+        report["trays"] = PapersDocument(papers);
     report["controls"] = end.view.controls;
     report["entries"] = end.view.entries;
     report["pictures"] = script.pictures;

@@ -155,6 +155,22 @@ void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWO
 
 } // namespace
 
+uint32_t TrayDialogOf(const DeviceTable* table) {
+    constexpr uint32_t kDialogs[] = {0, 155, 165, 166}; // by type
+    const uint32_t type = SwitchValue(table, kSwitchDlgMediaType);
+    return type < std::size(kDialogs) ? kDialogs[type] : 0;
+}
+
+DialogAreas::DialogAreas(OemDevmode& settings, TrayPaperSetting* trays, const PrinterProfiles& profiles)
+    : lists(ListsOf(profiles)) {
+    context.settings = &settings;
+    context.saveArea = &saveArea;
+    context.scratch = &scratch;
+    context.profiles = &lists;
+    context.changesAllowed = 1;
+    context.trays = trays;
+}
+
 DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const DialogUse& use) {
     DialogRun run = {dialog, use};
     running = &run;

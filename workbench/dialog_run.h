@@ -7,6 +7,26 @@
 #include "dialog_view.h"
 #include "dialogs/dialog_context.h"
 #include "dialogs/dlg_proc.h"
+#include "paramdata/device_table.h"
+#include "profile_file.h"
+
+// The dialog for trays that the model chooses; 0 when it has none.
+uint32_t TrayDialogOf(const DeviceTable* table);
+
+// What a dialog is given: settings and trays to be changed, the areas that go with them, the printer's
+// profiles. All that is referred to outlives it.
+struct DialogAreas {
+    DialogAreas(OemDevmode& settings, TrayPaperSetting* trays, const PrinterProfiles& profiles);
+    DialogAreas(const DialogAreas&) = delete;
+    DialogAreas& operator=(const DialogAreas&) = delete;
+
+    DialogContext context = {}; // the user may change everything
+
+private:
+    OemDevmode saveArea = {};
+    OemDevmode scratch = {};
+    const ProfileLists lists;
+};
 
 struct ModelDialog {
     uint32_t id; // of the dialog and its template

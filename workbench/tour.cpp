@@ -35,7 +35,7 @@ struct Tour {
 
     void Click(int button) const { SendMessageW(Control(button), BM_CLICK, 0, 0); }
 
-    // The first entry with this text begins the name that is wanted.
+    // Chooses the first entry, or row, with this text.
     void Choose(int list, const std::string& wanted) const {
         const std::vector<std::string> entries = EntriesOf(Control(list));
         for (size_t i = 0; i < entries.size(); ++i)
@@ -118,7 +118,7 @@ Document RunTour(const FamilyFiles& family, const Options& options) {
     SendMessageW(sheet.Window(), PSM_PRESSBUTTON, PSBTN_OK, 0);
     return {{"pictures", tour.pictures},
             {"printer", {{"address", state.address}, {"told", state.hasReport}, {"status", tour.status}}},
-            {"options", OptionsDocument(state.options)},
+            {"options", OptionsDocument(state.scene.options)},
             {"changes", SettingsChanges(defaultSettings, state.settings)},
             {"trays", PapersDocument(state.papers)}};
 }

@@ -3,11 +3,10 @@
 #include "property_page.h"
 
 #include "../capability_questions.h"
+#include "../dialog_run.h"
 #include "../output.h"
 #include "paramdata/devmode_fields.h"
 #include "paramdata/text.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -34,6 +33,7 @@ private:
     }
 
     void Show() override {
+        EnableWindow(Control(ID_TRAY_BUTTON), TrayDialogOf(state.family.table.get()) != 0);
         ShowSources();
         for (const PaperChoice& choice : kChoices)
             ShowChoice(choice);
@@ -51,7 +51,7 @@ private:
 
     void OnCommand(UINT control, UINT notification) override {
         if (control == ID_TRAY_BUTTON && notification == BN_CLICKED)
-            RunModelDialog(0, true);
+            RunModelDialog(TrayDialogOf(state.family.table.get()), true);
         else if (control == ID_SOURCE && notification == CBN_SELCHANGE)
             TakeSource();
         else if (notification == CBN_SELCHANGE)
@@ -62,7 +62,7 @@ private:
 
     // What the module offers depends on what is installed.
     void ShowSources() {
-        const CapabilityQuestions questions(state.family, state.options);
+        const CapabilityQuestions questions(state.family, state.scene.options);
         sources = questions.PaperSources();
         std::vector<std::string> names;
         int selected = -1;
@@ -92,7 +92,7 @@ private:
         const InputSlotRecord* slot = state.family.table->inputTrays;
         for (; slot != nullptr && slot->head.key[0] != 0; ++slot)
             if (slot->head.value == source.bin)
-                state.tray = slot->head.key;
+                state.scene.tray = slot->head.key;
         NoteChange();
     }
 

@@ -6,7 +6,6 @@
 
 #include "../output.h"
 #include "../picture_file.h"
-#include "../printer_scene.h"
 #include "paramdata/text.h"
 
 #include <commctrl.h>
@@ -78,7 +77,7 @@ private:
 
     void OnCommand(UINT control, UINT notification) override {
         if (control == ID_OPTION_ITEMS && notification == CBN_SELCHANGE) {
-            state.options.settings[static_cast<size_t>(SelectedRow(ID_OPTIONS))] =
+            state.scene.options.settings[static_cast<size_t>(SelectedRow(ID_OPTIONS))] =
                 static_cast<int32_t>(Send(ID_OPTION_ITEMS, CB_GETCURSEL));
             ShowOptions();
             NoteChange();
@@ -124,16 +123,16 @@ private:
         stopped.clear();
     }
 
-    // --- Options
-    // ---------------------------------------------------------------------------------------------
+    // --- Options -------------------------------------------------------------------------------------
 
     void ShowOptions() {
         const int selected = std::max(SelectedRow(ID_OPTIONS), 0);
         std::vector<std::vector<std::string>> rows;
-        for (size_t i = 0; i < state.options.settings.size(); ++i) {
-            const ItemRecord* item = SelectedItem(state.options.features.data(),
-                                                  state.options.settings.data(), static_cast<int32_t>(i));
-            rows.push_back({NameOf(kOptionNames, state.options.features[i].feature.head.key),
+        for (size_t i = 0; i < state.scene.options.settings.size(); ++i) {
+            const ItemRecord* item =
+                SelectedItem(state.scene.options.features.data(), state.scene.options.settings.data(),
+                             static_cast<int32_t>(i));
+            rows.push_back({NameOf(kOptionNames, state.scene.options.features[i].feature.head.key),
                             item != nullptr ? Utf8(item->display) : ""});
         }
         SetRows(ID_OPTIONS, rows);
@@ -149,25 +148,22 @@ private:
         if (row < 0)
             return;
         std::vector<std::string> entries;
-        const ItemRecord* item = state.options.features[static_cast<size_t>(row)].items;
+        const ItemRecord* item = state.scene.options.features[static_cast<size_t>(row)].items;
         for (; item->head.key[0] != 0; ++item)
             entries.push_back(Utf8(item->display));
-        SetEntries(ID_OPTION_ITEMS, entries, state.options.settings[static_cast<size_t>(row)]);
+        SetEntries(ID_OPTION_ITEMS, entries, state.scene.options.settings[static_cast<size_t>(row)]);
     }
 
     // As the module's bitmaps are, or stretched where the screen's resolution is higher.
     void DrawPicture(const DRAWITEMSTRUCT& item) const {
         const Canvas canvas(kSceneSize);
-        PrinterScene scene = {ReadOptionFeatures(state.family), true, state.tray, {}};
-        scene.options.settings = state.options.settings;
-        DrawScene(state.family, scene, canvas.context, kSceneSize);
+        DrawScene(state.family, state.scene, canvas.context, kSceneSize);
         SetStretchBltMode(item.hDC, HALFTONE);
         StretchBlt(item.hDC, 0, 0, item.rcItem.right, item.rcItem.bottom, canvas.context, 0, 0, kSceneSize.cx,
                    kSceneSize.cy, SRCCOPY);
     }
 
-    // --- The printer
-    // -----------------------------------------------------------------------------------------
+    // --- The printer ---------------------------------------------------------------------------------
 
     void Ask() {
         if (state.address.empty())

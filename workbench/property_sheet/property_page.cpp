@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr uint32_t kTrayDialogs[] = {155, 165, 166}; // by type, from 1
-
 void Tell(HWND window, const std::string& failure) {
     MessageBoxW(GetParent(window), Wide(failure).c_str(), L"lumora R880", MB_OK | MB_ICONWARNING);
 }
@@ -140,31 +138,16 @@ void PropertyPage::NoteChange() const {
     SendMessageW(GetParent(window), PSM_CHANGED, reinterpret_cast<WPARAM>(window), 0);
 }
 
-void PropertyPage::RunModelDialog(uint32_t id, bool trays) {
+void PropertyPage::RunModelDialog(uint32_t id, bool isForTrays) {
     const PrinterProfiles profiles = ProfilesOf(state);
-    const ProfileLists lists = ListsOf(profiles);
-    OemDevmode saveArea = {};
-    OemDevmode scratch = {};
-    DialogContext context = {};
-    context.settings = &state.settings;
-    context.saveArea = &saveArea;
-    context.scratch = &scratch;
-    context.profiles = &lists;
-    context.changesAllowed = 1;
-    context.trays = state.papers.data();
+    DialogAreas areas(state.settings, state.papers.data(), profiles);
     DialogScript nothing;
     const bool isScripted = state.script != nullptr;
-    const uint32_t type = SwitchValue(state.family.table.get(), kSwitchDlgMediaType);
-    const bool hasTrays = type >= 1 && type <= std::size(kTrayDialogs);
-    if (trays && !hasTrays)
-        throw Failure(kExitFailed,
-                      "this model has no dialog for trays; its model file says so with Dlg_MediaType");
     HWND sheet = GetParent(window);
     EnableWindow(sheet, FALSE);
     try {
-        RunDialog({trays ? kTrayDialogs[type - 1] : id, state.templates, EXPORT(state.family, DDProc_DlgProc),
-                   trays},
-                  context, {isScripted ? *state.script : nothing, !isScripted, ""});
+        RunDialog({id, state.templates, EXPORT(state.family, DDProc_DlgProc), isForTrays}, areas.context,
+                  {isScripted ? *state.script : nothing, !isScripted, ""});
     } catch (...) {
         EnableWindow(sheet, TRUE);
         throw;

@@ -4,7 +4,6 @@
 
 #include "sheet_state.h"
 
-#include <functional>
 #include <windows.h>
 
 #include <prsht.h> // after windows.h
@@ -52,8 +51,8 @@ protected:
     // There is something to be kept.
     void NoteChange() const;
 
-    // Has one of the model's dialogs run, while the sheet waits. `trays`: the one for trays.
-    void RunModelDialog(uint32_t id, bool trays);
+    // Has one of the model's dialogs run, while the sheet waits.
+    void RunModelDialog(uint32_t id, bool isForTrays);
 
     const UINT templateId;
     SheetState& state;

@@ -69,8 +69,8 @@ SheetState::SheetState(const FamilyFiles& familyFiles, HINSTANCE dialogTemplates
 
 void ResetState(SheetState& state) {
     state.settings = defaultSettings;
-    state.options = ReadOptionFeatures(state.family);
-    state.tray = kFirstTray;
+    state.scene.options = ReadOptionFeatures(state.family);
+    state.scene.tray = kFirstTray;
     state.address.clear();
     state.papers = UnknownPapers();
     state.report = {};
@@ -83,21 +83,21 @@ void LoadState(SheetState& state) {
     const Document kept = ParseState(state.file);
     TakeHex(Find(kept, "settings"), &state.settings, sizeof(state.settings));
     TakeHex(Find(kept, "trays"), state.papers.data(), sizeof(state.papers));
-    for (const auto& [name, text] : {std::pair("address", &state.address), {"tray", &state.tray}})
+    for (const auto& [name, text] : {std::pair("address", &state.address), {"tray", &state.scene.tray}})
         if (const Document found = Find(kept, name); found.is_string())
             *text = found.get<std::string>();
     const Document options = Find(kept, "options");
     for (const auto& option : options.items())
         if (option.value().is_string())
-            TakeReportedOption(state.options, option.key().c_str(),
+            TakeReportedOption(state.scene.options, option.key().c_str(),
                                option.value().get<std::string>().c_str());
 }
 
 void SaveState(const SheetState& state) {
     if (state.file.empty())
         return;
-    Document kept = {{"address", state.address}, {"tray", state.tray}};
-    for (const Document& row : OptionsDocument(state.options))
+    Document kept = {{"address", state.address}, {"tray", state.scene.tray}};
+    for (const Document& row : OptionsDocument(state.scene.options))
         kept["options"][row["feature"].get<std::string>()] = row["item"];
     kept["trays"] = Hex(state.papers.data(), sizeof(state.papers));
     kept["settings"] = Hex(&state.settings, sizeof(state.settings));
@@ -121,7 +121,7 @@ std::filesystem::path StateFile() {
 
 void TakeReport(SheetState& state, DeviceReport report) {
     for (const OptionRequestItem& answer : report.options)
-        TakeReportedOption(state.options, answer.key, answer.value);
+        TakeReportedOption(state.scene.options, answer.key, answer.value);
     if (report.hasPapers)
         state.papers = report.papers;
     state.report = std::move(report);

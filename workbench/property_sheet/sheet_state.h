@@ -6,7 +6,7 @@
 #include "../device_options.h"
 #include "../device_resources.h"
 #include "../dialog_script.h"
-#include "../option_features.h"
+#include "../printer_scene.h"
 #include "../profile_file.h"
 #include "../tray_papers.h"
 
@@ -29,8 +29,7 @@ struct SheetState {
 
     // Kept between runs.
     OemDevmode settings;
-    OptionFeatures options;
-    std::string tray;    // key of the paper source
+    PrinterScene scene;  // options, and the key of the paper source
     std::string address; // of the printer
     TrayPapers papers;
 
