@@ -105,42 +105,6 @@ TEST(Bdc, BareNameComesFirst) {
     }
 }
 
-TEST(Bdc, OrderAndArgumentsOfTheCalls) {
-    const Family family;
-    script.device.inputTrays.items.Append(RawBytes(108)).Append(RawBytes(108));
-    script.device.outputTrays.items = RawBytes(0);
-    EXPECT_EQ(family.Option("OpHDD"), "DisOpHDD");
-    EXPECT_EQ(
-        CallTexts(),
-        Words({"BdcGetLibVersion, state 1", "BdcGetDevCommInfo 10.0.0.9, state 1", "BdcGetDevName, state 1",
-               "BdcGetDevFirmwareVersion, state 1, null", "BdcGetDevFirmwareVersion, state 1, 1 items",
-               "BdcGetDevMemoryCapacity, state 1, null", "BdcGetDevMemoryCapacity, state 1, 1 items",
-               "BdcGetDevOptionInfo, state 1, null", "BdcGetDevOptionInfo, state 1, 1 items",
-               "BdcGetDevInputTrayInfoEx, selector 2, state 1, null",
-               "BdcGetDevInputTrayInfoEx, selector 2, state 1, 3 items",
-               "BdcGetDevOutputTrayInfo, state 1, null", "BdcGetDevMediaPathInfo, state 1, information",
-               "BdcGetDevFinisherInfo, state 1, null", "BdcGetDevFinisherInfo, state 1, 1 items"}));
-    const RawBytes record =
-        RawBytes(428).U32(0, 1).U32(4, 1).Text(8, kAgent).U32(72, 0x12345678).Text(396, "tovask");
-    for (size_t i = 2; i < script.calls.size(); ++i) {
-        ASSERT_EQ(script.calls[i].record.size(), 428u);
-        EXPECT_EQ(Differences(script.calls[i].record.data(), record), "") << script.calls[i].text;
-    }
-}
-
-TEST(Bdc, Trays) {
-    const Family family;
-    TrayState tray = {2, 260, 1, 0xFFFF, 3};
-    script.device.inputTrays.items = TrayItem(tray);
-    EXPECT_EQ(family.Tray("InTray2"), "A4 MediaTypeList_Landscape Plain    65535");
-    tray.color = 15;
-    tray.secondSide = 1;
-    script.device.inputTrays.items = TrayItem(tray);
-    EXPECT_EQ(family.Tray("intray2"), "A4 MediaTypeList_Landscape Color    65535");
-    for (const char* key : {"InTray5", "InTray1"})
-        EXPECT_EQ(family.Tray(key), kUnknownTray) << key;
-}
-
 TEST(Bdc, NothingIsLeftBehind) {
     const Family family;
     const auto round = [&family] {

@@ -17,12 +17,6 @@ const std::set<std::string> kCallbacks = {
     "StoreStopIconRect",           "DoConstraints",        "DispHintControl",
     "IsInstalledDLManager",        "ReqDrawStopInfoIcon",
 };
-constexpr uint16_t kLocked[] = {
-    1501, 1502, 1504, 1468, 1354, 1469, 1335, 1597, 1599, 1471, 1332, 1506, 1507, 1509,
-    1465, 1353, 1466, 1334, 1589, 1592, 1467, 1330, 1473, 1511, 1513, 1514, 1516, 1517,
-    1519, 1582, 1584, 1520, 1522, 1523, 1398, 1524, 1526, 1625, 1627, 1393, 1528, 1032,
-};
-
 std::set<std::string> With(std::set<std::string> kinds, std::initializer_list<std::string> more) {
     kinds.insert(more);
     return kinds;
@@ -119,50 +113,6 @@ TEST_F(FullDialog, SavesTheSettingsBetweenConstraintsAndFallbacks) {
     EXPECT_EQ(NumberAt<uint16_t>(settings.bytes.data(), 2514), 0);
     Command(IDCANCEL);
     ExpectSettings(saved);
-}
-
-TEST_F(FullDialog, LocksItsControlsInOrder) {
-    context.changesAllowed = 0;
-    Open();
-    std::string wanted = "IsInstalledDLManager\n";
-    for (const int control : kLocked)
-        wanted += "disable " + std::to_string(control) + "\n";
-    EXPECT_EQ(Events({"IsInstalledDLManager", "disable"}), wanted);
-    for (const int control : kLocked)
-        EXPECT_TRUE(GetWindowLongW(Control(control), GWL_STYLE) & WS_VISIBLE) << control;
-    for (const int control : {IDOK, IDCANCEL, IDHELP})
-        EXPECT_TRUE(IsWindowEnabled(Control(control)));
-    Close();
-    Open(false); // without a context nothing is locked
-    EXPECT_TRUE(IsWindowEnabled(Control(1504)));
-}
-
-TEST_F(FullDialog, RefreshesWhenActivatedOrTold) {
-    Open();
-    settings.U8(2153, 0).U16(2166, 2).U8(3534, 0);
-    simulations.clear();
-    PassProfiles();
-    const RawBytes wanted = settings;
-    const std::set<std::string> kinds = With(kCallbacks, {"fill", "show", "disable"});
-    const std::string refresh = InOrder("fill", false) + InOrder("show", true);
-    for (const WPARAM inactive : {WPARAM{WA_INACTIVE}, WPARAM{MAKEWPARAM(WA_INACTIVE, 1)}}) {
-        events.clear();
-        Tell(WM_ACTIVATE, inactive);
-        EXPECT_EQ(Events(kinds), "");
-    }
-    for (const WPARAM active : {WPARAM{WA_ACTIVE}, WPARAM{MAKEWPARAM(WA_CLICKACTIVE, 1)}}) {
-        events.clear();
-        EXPECT_EQ(Tell(WM_ACTIVATE, active), (Answer{0, 1}));
-        EXPECT_EQ(Events(kinds), "DoConstraints 0\nDispHintControl 128\n" + refresh);
-    }
-    EXPECT_EQ(Entries(1524), kSimuItems);
-    events.clear();
-    EXPECT_EQ(Tell(WM_USER + 100), (Answer{1, 1}));
-    EXPECT_EQ(Events(kinds), refresh);
-    EXPECT_EQ(std::vector({Selection(1354), Selection(1524)}), std::vector({0, 2}));
-    EXPECT_EQ(Send(kBox, BM_GETCHECK), BST_UNCHECKED);
-    ExpectSettings(wanted);
-    ExpectSaved(FullSettings());
 }
 
 // Each initialisation takes the module anew; the end gives back what was taken last.

@@ -5,13 +5,6 @@ namespace {
 
 constexpr uint16_t kDefaults = 1032;
 
-// What is taken from the default settings: offset and length.
-constexpr uint16_t kTaken[][2] = {
-    {2514, 2},   {2688, 168}, {2153, 4},   {3026, 2}, {3198, 168}, {2516, 2}, {2520, 168},
-    {2157, 4},   {3024, 2},   {3030, 168}, {2518, 2}, {2856, 168}, {2161, 4}, {3028, 2},
-    {3366, 168}, {2166, 2},   {2168, 168}, {3534, 1}, {3536, 2},
-};
-
 // Differ from the settings in every byte but for zeros in names and numbers; all choices are offered.
 RawBytes OtherSettings() {
     // clang-format off
@@ -28,32 +21,6 @@ struct Defaults : FullDialog {
     void StoreDefaults(const RawBytes& defaults) { storedDefaults = defaults.bytes; }
     uint16_t Scratch16(size_t offset) const { return NumberAt<uint16_t>(scratch.bytes.data(), offset); }
 };
-
-TEST_F(Defaults, TakeTheirFieldsOnlyAndRefillNothing) {
-    StoreDefaults(OtherSettings());
-    Open();
-    SetFocus(Control(1504));
-    ASSERT_EQ(GetFocus(), Control(1504));
-    RawBytes wanted = FullSettings();
-    for (const auto& [offset, length] : kTaken)
-        memcpy(&wanted.bytes[offset], &OtherSettings().bytes[offset], length);
-    constraints = [&](uint32_t) {
-        ExpectSettings(wanted);
-        return 100; // refuses no defaults
-    };
-    events.clear();
-    EXPECT_EQ(Command(kDefaults), (Answer{0, 1}));
-    EXPECT_EQ(GetFocus(), Control(kDefaults));
-    ExpectSettings(wanted);
-    ExpectSaved(FullSettings());
-    EXPECT_EQ(Differences(scratch.bytes.data(), OtherSettings()), "");
-    EXPECT_EQ(Events({"DoConstraints", "DispHintControl", "fill", "show", "EndDialog", "focus"}),
-              "focus 1032\nDoConstraints 0\nDispHintControl 128\n" + InOrder("show", true));
-    EXPECT_EQ(Shown(), std::vector({17, 0, 2, 2, 1, 0, 2, 1, 1, 0, 16, 3, 0, 0, 0, 4, 0, 1}));
-    events.clear();
-    Command(kDefaults);
-    EXPECT_EQ(Events({"focus"}), "") << "it has the focus already";
-}
 
 // Moving the focus activates a dialog that is not active, which then refreshes itself from the old settings.
 TEST_F(Defaults, SurviveTheActivationByTheirFocus) {

@@ -103,46 +103,4 @@ TEST_F(FullDialog, Messages) {
     }
 }
 
-// Lists are measured before the dialog is initialised.
-TEST_F(FullDialog, MeasuresItsListsOnly) {
-    window = GetDesktopWindow();
-    for (const FullControl& control : kFull) {
-        MEASUREITEMSTRUCT item = {ODT_COMBOBOX, control.id, 0, 11, 22, 33};
-        const bool isList = control.id != kBox;
-        EXPECT_EQ(Tell(WM_MEASUREITEM, control.id, reinterpret_cast<LPARAM>(&item)),
-                  isList ? kActed1 : kNotHandled);
-        EXPECT_EQ(item.itemHeight, isList ? 16u : 22u) << control.id;
-        EXPECT_EQ(item.itemWidth, 11u);
-    }
-    for (const UINT other : {1525u, 1634u, 1503u, 0u}) {
-        MEASUREITEMSTRUCT item = {ODT_COMBOBOX, other, 0, 11, 22, 33};
-        EXPECT_EQ(Tell(WM_MEASUREITEM, other, reinterpret_cast<LPARAM>(&item)), kNotHandled);
-        EXPECT_EQ(item.itemHeight, 22u);
-    }
-    window = nullptr;
-}
-
-constexpr uint32_t kHelp128[] = {
-    // clang-format off
-    1501, 6640, 1502, 6650, 1504, 6650, 1468, 6660, 1354, 6660, 1469, 6670, 1335, 6670, 1597, 6860, 1599, 6860, 1471, 6675,
-    1332, 6675, 1506, 6680, 1507, 6690, 1509, 6690, 1465, 6700, 1353, 6700, 1466, 6710, 1334, 6710, 1589, 6865, 1592, 6865,
-    1467, 6720, 1330, 6720, 1473, 6730, 1511, 6740, 1513, 6740, 1514, 6750, 1516, 6750, 1517, 6760, 1519, 6760, 1582, 6870,
-    1584, 6870, 1520, 6770, 1522, 6770, 1523, ~0u,  1398, 6810, 1524, 6810, 1526, 6830, 1625, 6855, 1627, 6855, 1393, 6840,
-    1528, 6850, 1069, ~0u,  1032, 9510, 0,    0,
-    // clang-format on
-};
-
-TEST_F(FullDialog, HelpIsAskedOfTheFileBesideTheModule) {
-    Open();
-    events.clear();
-    HELPINFO help = {sizeof(help), HELPINFO_WINDOW, 1354, Control(1354), 0, {}};
-    const std::vector<uint32_t> table(std::begin(kHelp128), std::end(kHelp128));
-    Tell(WM_HELP, 0, reinterpret_cast<LPARAM>(&help));
-    EXPECT_EQ(helpTable, table);
-    Tell(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Control(1526)));
-    EXPECT_EQ(helpTable, table);
-    Command(9);
-    EXPECT_EQ(Events({"WinHelp"}), "WinHelp 1354 12\nWinHelp 1526 10\nWinHelp 0 1 6631\n");
-}
-
 } // namespace

@@ -172,27 +172,4 @@ TEST_F(Drawing, EntriesForThoseWhoAskWhetherTheyAreHandled) {
     }
 }
 
-TEST_F(Drawing, IconControlsAreTheUserInterfaceModules) {
-    constexpr uint16_t kIcons[] = {1400, 1401, 1402, 1403, 1482, 1503, 1505, 1508, 1510, 1512,
-                                   1515, 1518, 1521, 1527, 1529, 1530, 1587, 1594, 1601, 1629};
-    for (const int icon : kIcons) {
-        const std::string call = "ReqDrawStopInfoIcon " + std::to_string(icon) + "\n";
-        for (const bool isAsked : {true, false}) {
-            events.clear();
-            EXPECT_EQ(Draw(Item(icon, 0, ODA_DRAWENTIRE, 0), isAsked), (Answer{1, isAsked ? 1 : kUntouched}));
-            EXPECT_EQ(Events({"ReqDrawStopInfoIcon"}), call);
-        }
-    }
-    events.clear();
-    for (const int other : {1486, 1636, 1393, 1032, 1}) // of other dialogs, and none
-        EXPECT_EQ(Draw(Item(other, 0, ODA_DRAWENTIRE, 0)), (Answer{0, kUntouched})) << other;
-    missing = {"ReqDrawStopInfoIcon"};
-    EXPECT_EQ(Draw(Item(1503, 0, ODA_DRAWENTIRE, 0)), (Answer{0, kUntouched}));
-    missing = {};
-    Tell(WM_DESTROY);
-    EXPECT_EQ(Draw(Item(1503, 0, ODA_DRAWENTIRE, 0)), (Answer{0, kUntouched}));
-    EXPECT_EQ(Draw(Item(1504, 0, ODA_DRAWENTIRE, 0)), (Answer{1, 1}));
-    EXPECT_EQ(Events({"ReqDrawStopInfoIcon"}), "");
-}
-
 } // namespace

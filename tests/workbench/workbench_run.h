@@ -19,16 +19,21 @@ inline fs::path ProgramFolder() {
     return fs::path(path).parent_path();
 }
 
-// A new folder beside the test program, with copies of files from there.
+// A new folder beside the test program, with copies of files from there. Programs that run at the same time
+// have folders of their own. What a process that is still ending holds open is left to the next run.
 struct Folder {
     explicit Folder(const wchar_t* name, std::map<const char*, const char*> sourceByName = {})
-        : path(ProgramFolder() / name) {
-        fs::remove_all(path);
+        : path(ProgramFolder() / (name + std::to_wstring(GetCurrentProcessId()))) {
+        std::error_code isInUse;
+        fs::remove_all(path, isInUse);
         fs::create_directory(path);
         for (const auto& [file, source] : sourceByName)
             fs::copy_file(ProgramFolder() / source, path / file);
     }
-    ~Folder() { fs::remove_all(path); }
+    ~Folder() {
+        std::error_code isInUse;
+        fs::remove_all(path, isInUse);
+    }
 
     // Has the workbench look there.
     std::wstring Option() const { return L" --folder \"" + path.wstring() + L"\""; }
