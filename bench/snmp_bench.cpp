@@ -66,7 +66,7 @@ void ReadReply(benchmark::State& state) {
         SnmpReply read;
         SnmpResult result;
         AsnAny value;
-        if (!SnmpReadReply(reply, sizeof(reply), read) || !SnmpReadResult(read, result)
+        if (!SnmpReadReply(reply, sizeof(reply), read) || !SnmpReadResult(read, nullptr, nullptr, result)
             || !SnmpDecodeValue(result.valueType, result.value, value) || value.asnValue.number != 640)
             state.SkipWithError("the reply is not read");
         benchmark::DoNotOptimize(value);

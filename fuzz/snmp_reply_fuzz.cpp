@@ -77,7 +77,7 @@ Outcome ReadOne(const Datagram& datagram) {
     const bool isOther = reply.requestId != kFirstId;
     SnmpResult result;
     SnmpVarBind varBind = {};
-    const bool valid = SnmpReadResult(reply, result);
+    const bool valid = SnmpReadResult(reply, nullptr, nullptr, result);
     Require(!valid || block.Holds(result.value, datagram.size()), "a value beyond the datagram");
     const bool decoded = valid && SnmpDecodeValue(result.valueType, result.value, varBind.value) != FALSE;
     if (decoded)

@@ -47,7 +47,6 @@ constexpr SettingsField kFields[] = {
     VALUE("paper", userOutputWidthInches),
     VALUE("paper", userOutputLengthInches),
     VALUE("paper", unitFlags),
-    VALUE("paper", regionalPaper),
     VALUE("paper", paperOption1),
     VALUE("paper", paperOption2),
     VALUE("paper", userPaperWidthAgain),

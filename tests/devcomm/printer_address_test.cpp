@@ -324,10 +324,10 @@ TEST(PrinterAddress, QueuesThatLackSomething) {
         Outcome expected;
     } cases[] = {
         {{L"Other", L"IP_1"}, Refused(1801)},
-        {{L"Lumora", nullptr}, Refused(122)}, // which the question for the size has left
-        {{L"Lumora", L""}, Refused(122)},
+        {{L"Lumora", nullptr}, Refused(122)},       // which the question for the size has left
+        {{L"Lumora", L""}, Refused(1801)},          // by the print server: the name is asked as it is
         {{L"Lumora", nullptr, 30}, Refused(122)},   // ends within the pointer to the name
-        {{L"Lumora", L"IP_1", 136}, Refused(122)},  // the port's name begins where the block ends
+        {{L"Lumora", L"IP_1", 136}, Refused(1801)}, // the port's name begins where the block ends
         {{L"Lumora", L"IP_1", 144}, kFromRegistry}, // no terminator
         {{L"Lumora", L"IP_10", 145}, kFromRegistry},
     };

@@ -76,6 +76,7 @@ SnmpSession WINAPI Open(const char* agent, const char* community, INT timeOut, I
     }
     void* session = malloc(1);
     openSessions.insert(session);
+    SetLastError(kNoise);
     return session;
 }
 

@@ -61,7 +61,7 @@ struct Client {
         return ClientRequest(session, type, &list, &status, &index) != 0;
     }
 
-    // The last error of a request that fails and touches nothing of the caller's.
+    // The last error of a request that fails and leaves the list as it was.
     DWORD Failure() {
         const std::string before = Image();
         const int blocks = platform::Count().localBlocks;
@@ -71,12 +71,12 @@ struct Client {
         return GetLastError();
     }
 
-    // Everything of the caller's that a request could write.
+    // The caller's list.
     std::string Image() const {
         std::string image(reinterpret_cast<const char*>(list.list), list.len * sizeof(SnmpVarBind));
         image.append(reinterpret_cast<const char*>(list.list[0].name.ids), list.list[0].name.idLength * 4);
         image.append(reinterpret_cast<const char*>(&list), sizeof(list));
-        return image + std::to_string(status) + " " + std::to_string(index);
+        return image;
     }
 
     ExactBlock community;
@@ -391,14 +391,15 @@ TEST(SnmpReceive, CommunityIsComparedOverTheReplysLength) {
     }
 }
 
-// Only when the value can't be taken either is anything known that could be stored.
-TEST(SnmpReceive, MalformedRepliesChangeNothing) {
+// Only error-status and error-index are stored: they come before what is malformed.
+TEST(SnmpReceive, MalformedRepliesLeaveTheList) {
     for (const char* value : {"80 00", "02 00", "06 02 2B 81", "04 05 61"}) {
         ReplyParts malformed;
         malformed.status = Hex("02 01 05");
         malformed.value = Hex(value);
         Client client(Answering({malformed.Message(), kReply}));
         EXPECT_EQ(client.Failure(), 11u) << value;
+        EXPECT_EQ(client.status, 5);
         EXPECT_EQ(platform::ReadWire().receives, 1u) << "ends the request";
     }
 }

@@ -19,7 +19,7 @@ bool Read(const Octets& datagram, AsnAny& value) {
     const ExactBlock block(datagram);
     SnmpReply reply;
     SnmpResult result;
-    return SnmpReadReply(block.Start(), block.count, reply) && SnmpReadResult(reply, result)
+    return SnmpReadReply(block.Start(), block.count, reply) && SnmpReadResult(reply, nullptr, nullptr, result)
            && SnmpDecodeValue(result.valueType, result.value, value);
 }
 

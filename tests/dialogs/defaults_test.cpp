@@ -86,7 +86,7 @@ TEST_F(Defaults, BuiltInOnesHaveThePaperAndUnitsOfTheRegion) {
         const std::vector<int> wanted = row.isLetter ? std::vector{1, 2159, 2794, 43, 43, 43, 43, 1}
                                                      : std::vector{9, 2100, 2970, 43, 43, 43, 43, 9};
         std::vector<int> got;
-        for (const size_t offset : {66, 68, 70, 72, 74, 76, 78, 124})
+        for (const size_t offset : {66, 68, 70, 72, 74, 76, 78, 96})
             got.push_back(Scratch16(offset));
         EXPECT_EQ(got, wanted);
         EXPECT_EQ(NumberAt<uint32_t>(scratch.bytes.data(), 116), row.isInches ? 0x01010101u : 0u);

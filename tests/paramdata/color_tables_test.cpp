@@ -77,7 +77,7 @@ std::vector<Table> Tables() {
         {"Text_RGBProf",        &text.rgbProfiles,            16, With("Text_", kProfiles), textProfiles},
         {"Text_RGBColorMatch",  &text.colorMatches,           4,  With("Text_", kMatches),  "Text_Match=3:M;Text_Vivid=0;Img_Proof=0;Text_Proof=2;Text_Photographic=1"},
         {"Text_RGBGray",        &text.grays,                  3,  With("Text_", kGrays),    "Text_BlackOnly=2:B"},
-        {"Text_Halftone",       &text.halftones,              3,  "Text_UltraDetai=0;Text_Detail=1;Text_Smooth=2", "Text_Smooth=2:S;=0:no key;Text_UltraDetai=0"},
+        {"Text_Halftone",       &text.halftones,              3,  "Text_UltraDetai=0;Text_Detail=1;Text_Smooth=2", "Text_Smooth=2:S;=3:no key;Text_UltraDetai=0"},
         {"Img_RGBProf",         &image.shortRgbProfiles,      2,  With("Img_", kProfiles),  imageProfiles},
         {"Img_RGBProf",         &image.rgbProfiles,           16, With("Img_", kProfiles),  imageProfiles},
         {"Img_RGBColorMatch",   &image.colorMatches,          4,  With("Img_", kMatches),   ""},

@@ -320,7 +320,7 @@ TEST_F(DefaultsTest, Watermarks) {
         {"two of one key", "WM_A WM_B WM_A", "WM_A", "TRUE", 2, 2},
         {"none", "WM_A WM_None WM_NONE", "wm_none", "TRUE", 2, kNone},
         {"unknown key", "WM_None WM_AA", "WM_A", "TRUE", kNone, kNone},
-        {"empty key", "WM_A  WM_B", "", "TRUE", kNone, kNone},
+        {"empty key", "WM_A  WM_B", "", "TRUE", 1, 1},
     };
     for (const auto& c : cases) {
         PrmImage image;
@@ -357,7 +357,7 @@ TEST_F(DefaultsTest, Resolutions) {
         {"600x1x42", "600x1x42", 42},
         {"12345", "12345", 0},
         {"Res_2", "Res_", -1},
-        {"", "", -1},
+        {"", "", 0},
     };
     for (const auto& c : cases) {
         PrmImage image;

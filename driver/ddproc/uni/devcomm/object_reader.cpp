@@ -165,8 +165,12 @@ bool Matches(const ObjectReply& reply, int32_t comparison, const char* expected)
 
 } // namespace
 
-AgentSession::AgentSession(const char* agent, SessionLimits limits)
-    : handle(snmpEntryPoints.snmpMgrOpen(agent, kCommunity, limits.timeOut, limits.retries)) {}
+AgentSession::AgentSession(const char* agent, SessionLimits limits) {
+    const DWORD before = GetLastError();
+    handle = snmpEntryPoints.snmpMgrOpen(agent, kCommunity, limits.timeOut, limits.retries);
+    if (handle != nullptr)
+        SetLastError(before);
+}
 
 AgentSession::~AgentSession() {
     const KeepLastError keep;

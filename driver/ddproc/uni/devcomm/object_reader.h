@@ -27,15 +27,15 @@ struct SessionLimits {
 constexpr SessionLimits kReachLimits = {1000, 1};
 constexpr SessionLimits kQueryLimits = {2000, 3};
 
-// A session with an agent for the time of a scope. The last error of what happened in between stays when it
-// closes.
+// A session with an agent for the time of a scope. Opening and closing leave the last error as it was; only a
+// failed opening tells why.
 struct AgentSession {
     AgentSession(const char* agent, SessionLimits limits);
     ~AgentSession();
     AgentSession(const AgentSession&) = delete;
     AgentSession& operator=(const AgentSession&) = delete;
 
-    SnmpSession handle; // null: not opened, the last error tells why
+    SnmpSession handle; // null: not opened
 };
 
 // Where an object lies below its table's OID: ".N", ".1.N". Holds two arcs; what does not fit is cut.

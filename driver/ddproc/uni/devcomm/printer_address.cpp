@@ -257,8 +257,7 @@ bool AnswerFromQueue(const wchar_t* printerName, const Caller& caller) {
     if (!GetPrinterW(printer, kLevel, block, size, &sizeThen))
         return false;
     const wchar_t* port = reinterpret_cast<const PRINTER_INFO_2W*>(block)->pPortName;
-    const WideText portName = port != nullptr ? TextWithin(port, block + size) : WideText{};
-    return portName.length != 0 && AnswerFromPort(portName, caller);
+    return port != nullptr && AnswerFromPort(TextWithin(port, block + size), caller);
 }
 
 } // namespace

@@ -137,7 +137,8 @@ bool IsSameCommunity(const char* community, const BerReader& reply) {
 }
 
 // The reply to the session's last request. What was received earlier is dropped, without a look at all of it.
-bool ReceiveReply(SnmpClientSession& session, SnmpResult& result) {
+bool ReceiveReply(SnmpClientSession& session, AsnInteger32* errorStatus, AsnInteger32* errorIndex,
+                  SnmpResult& result) {
     for (int datagrams = 0; datagrams < kMostDatagrams; ++datagrams) {
         const int count = recv(session.socket, reinterpret_cast<char*>(session.receiveBuffer),
                                sizeof(session.receiveBuffer), 0);
@@ -149,7 +150,7 @@ bool ReceiveReply(SnmpClientSession& session, SnmpResult& result) {
         if (!IsSameCommunity(session.community, reply.community))
             SetLastError(kOtherCommunity);
         if (static_cast<uint32_t>(reply.requestId) == session.lastRequestId)
-            return SnmpReadResult(reply, result) || Fail(kSnmpBadReply);
+            return SnmpReadResult(reply, errorStatus, errorIndex, result) || Fail(kSnmpBadReply);
     }
     return Fail(kOtherRequests);
 }
@@ -191,15 +192,9 @@ INT WINAPI ClientRequest(SnmpSession session, BYTE requestType, SnmpVarBindList*
     BerBuffer message = SnmpBuildRequest(requestType, client.community, client.lastRequestId, *list);
     SnmpResult result = {};
     const bool answered = message.octets != nullptr && SendUntilAnswered(client.socket, message)
-                          && ReceiveReply(client, result)
+                          && ReceiveReply(client, errorStatus, errorIndex, result)
                           && SnmpDecodeValue(result.valueType, result.value, list->list[0].value);
     const KeepLastError keep;
     BerFree(message);
-    if (!answered)
-        return 0;
-    if (errorStatus != nullptr)
-        *errorStatus = result.errorStatus;
-    if (errorIndex != nullptr)
-        *errorIndex = result.errorIndex;
-    return 1;
+    return answered ? 1 : 0;
 }

@@ -17,9 +17,10 @@ BOOL WINAPI ClientClose(SnmpSession session);
 
 // Asks for the objects of the list, which holds one varbind at least, and stores the first value of the reply
 // as the value of the list's first varbind. Non-zero when a reply came and could be read, whatever its
-// error-status; the last error is then 5 when it came from another community. Otherwise 0, nothing stored,
-// and the last error 4102 (no answer to 5 sends), 3 (5 replies to other requests), 11 (malformed reply),
-// 0xFFFFFFFF (sending or receiving failed) or the heap's. Either out may be null.
+// error-status; the last error is then 5 when it came from another community. Otherwise 0, the list as it
+// was, and the last error 4102 (no answer to 5 sends), 3 (5 replies to other requests), 11 (malformed reply),
+// 0xFFFFFFFF (sending or receiving failed) or the heap's. Either out may be null; they are stored as soon as
+// they are read, even where what follows in the reply is malformed.
 INT WINAPI ClientRequest(SnmpSession session, BYTE requestType, SnmpVarBindList* list,
                          AsnInteger32* errorStatus, AsnInteger32* errorIndex);
 

@@ -55,9 +55,14 @@ bool SnmpReadReply(const uint8_t* datagram, size_t count, SnmpReply& reply) {
     return !reply.rest.failed;
 }
 
-bool SnmpReadResult(SnmpReply& reply, SnmpResult& result) {
-    result.errorStatus = BerReadInteger(reply.rest);
-    result.errorIndex = BerReadInteger(reply.rest);
+bool SnmpReadResult(SnmpReply& reply, AsnInteger32* errorStatus, AsnInteger32* errorIndex,
+                    SnmpResult& result) {
+    AsnInteger32* const outs[] = {errorStatus, errorIndex};
+    for (AsnInteger32* out : outs) {
+        const int32_t value = BerReadInteger(reply.rest);
+        if (out != nullptr && !reply.rest.failed)
+            *out = value;
+    }
     BerReader varBinds = BerOpenFilled(reply.rest, ASN_SEQUENCE);
     BerReader varBind = BerOpenFilled(varBinds, ASN_SEQUENCE);
     BerOpen(varBind, ASN_OBJECTIDENTIFIER); // the name, whatever it is

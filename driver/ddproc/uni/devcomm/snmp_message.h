@@ -25,13 +25,13 @@ struct SnmpReply {
 bool SnmpReadReply(const uint8_t* datagram, size_t count, SnmpReply& reply);
 
 struct SnmpResult {
-    int32_t errorStatus;
-    int32_t errorIndex;
     uint8_t valueType;
     BerReader value; // contents, in the datagram
 };
 
-// Reads on to the first varbind's value, whose name may be any. False when the reply is malformed.
-bool SnmpReadResult(SnmpReply& reply, SnmpResult& result);
+// Reads on to the first varbind's value, whose name may be any. Stores error-status and error-index as soon
+// as they are read; either out may be null. False when the reply is malformed.
+bool SnmpReadResult(SnmpReply& reply, AsnInteger32* errorStatus, AsnInteger32* errorIndex,
+                    SnmpResult& result);
 
 #endif

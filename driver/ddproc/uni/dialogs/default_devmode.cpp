@@ -56,7 +56,7 @@ void LocalizePaper(const DeviceTable* table) {
     const PaperSizeRecord* paper = FindPaper(table, RegionalPaper());
     if (paper == nullptr)
         return;
-    defaultSettings.paper = defaultSettings.regionalPaper = static_cast<uint16_t>(paper->head.value);
+    defaultSettings.paper = defaultSettings.outputPaper = static_cast<uint16_t>(paper->head.value);
     defaultSettings.paperWidth = static_cast<int16_t>(paper->width);
     defaultSettings.paperLength = static_cast<int16_t>(paper->length);
     for (size_t i = 0; i < 4; ++i)

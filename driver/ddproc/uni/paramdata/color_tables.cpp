@@ -164,10 +164,9 @@ const ItemRecord* FindItem(const ItemRecord* items, const char* key) {
     return nullptr;
 }
 
-// The value of the first row with this key; 0 without one. An empty key names no row, though some rows have
-// empty keys.
+// The value of the first row with this key; 0 without one.
 uint32_t ValueOf(const ValueRow* values, Column column, const char (&key)[32]) {
-    for (; key[0] != 0 && values->value != -1; ++values)
+    for (; values->value != -1; ++values)
         if (SameText(values->keys[column], key))
             return static_cast<uint32_t>(values->value);
     return 0;

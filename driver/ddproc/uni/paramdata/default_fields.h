@@ -17,7 +17,7 @@ bool ReadDefault(const PrmFile& file, const char* entry, Record& record) {
     return PrmReadRecord(file, items.defaultRecord, record);
 }
 
-// The key of an entry's default item; it may be empty, which names no item of any list.
+// The key of an entry's default item; it may be empty.
 using DefaultKey = char[128];
 inline bool ReadDefaultKey(const PrmFile& file, const char* entry, DefaultKey& key) {
     return PrmReadStringValue(file, entry, key, sizeof(key));

@@ -197,7 +197,7 @@ void ForEachDefaultItem(const PrmFile& file, const char* entry, Found found) {
         PrmReadRecord(file, PrmItemOffset(file, items, i), record);
         PrmText key = {};
         PrmReadString(file, record.head.key, key);
-        if (defaultKey[0] != 0 && SameText(key, defaultKey) && !found(record, key, i))
+        if (SameText(key, defaultKey) && !found(record, key, i))
             return;
     }
 }

@@ -69,8 +69,7 @@ struct OemDevmode {
     uint8_t unitFlags[4]; // 1: inches; the module's own choice of place
     uint16_t inputTray;   // bin number
     uint16_t mediaType;
-    uint16_t regionalPaper; // paper of the user's region; the module's own choice of place
-    uint8_t reserved7[34];
+    uint8_t reserved7[36];
     uint16_t detailMediaType; // the same, for the media details
     uint16_t mediaWeight;
     uint16_t mediaColor;
@@ -201,16 +200,15 @@ static_assert(
     && offsetof(OemDevmode, userOutputLength) == 105 && offsetof(OemDevmode, userOutputWidthInches) == 108
     && offsetof(OemDevmode, userOutputLengthInches) == 112 && offsetof(OemDevmode, unitFlags) == 116
     && offsetof(OemDevmode, inputTray) == 120 && offsetof(OemDevmode, mediaType) == 122
-    && offsetof(OemDevmode, regionalPaper) == 124 && offsetof(OemDevmode, detailMediaType) == 160
-    && offsetof(OemDevmode, mediaWeight) == 162 && offsetof(OemDevmode, mediaColor) == 164
-    && offsetof(OemDevmode, mediaPrePunched) == 166 && offsetof(OemDevmode, trays) == 167
-    && offsetof(OemDevmode, copies) == 598 && offsetof(OemDevmode, collate) == 600
-    && offsetof(OemDevmode, paperOption1) == 744 && offsetof(OemDevmode, paperOption2) == 745
-    && offsetof(OemDevmode, bindingEdge) == 1395 && offsetof(OemDevmode, sameBindShifts) == 1396
-    && offsetof(OemDevmode, bindShiftFront) == 1398 && offsetof(OemDevmode, bindShiftBack) == 1400
-    && offsetof(OemDevmode, bindShiftFrontInches) == 1402 && offsetof(OemDevmode, bindShiftBackInches) == 1404
-    && offsetof(OemDevmode, imageShiftFrontH) == 1412 && offsetof(OemDevmode, imageShiftFrontV) == 1414
-    && offsetof(OemDevmode, imageShiftFrontHInches) == 1420
+    && offsetof(OemDevmode, detailMediaType) == 160 && offsetof(OemDevmode, mediaWeight) == 162
+    && offsetof(OemDevmode, mediaColor) == 164 && offsetof(OemDevmode, mediaPrePunched) == 166
+    && offsetof(OemDevmode, trays) == 167 && offsetof(OemDevmode, copies) == 598
+    && offsetof(OemDevmode, collate) == 600 && offsetof(OemDevmode, paperOption1) == 744
+    && offsetof(OemDevmode, paperOption2) == 745 && offsetof(OemDevmode, bindingEdge) == 1395
+    && offsetof(OemDevmode, sameBindShifts) == 1396 && offsetof(OemDevmode, bindShiftFront) == 1398
+    && offsetof(OemDevmode, bindShiftBack) == 1400 && offsetof(OemDevmode, bindShiftFrontInches) == 1402
+    && offsetof(OemDevmode, bindShiftBackInches) == 1404 && offsetof(OemDevmode, imageShiftFrontH) == 1412
+    && offsetof(OemDevmode, imageShiftFrontV) == 1414 && offsetof(OemDevmode, imageShiftFrontHInches) == 1420
     && offsetof(OemDevmode, imageShiftFrontVInches) == 1422 && offsetof(OemDevmode, imageShiftBackH) == 1430
     && offsetof(OemDevmode, imageShiftBackV) == 1432 && offsetof(OemDevmode, imageShiftBackHInches) == 1438
     && offsetof(OemDevmode, imageShiftBackVInches) == 1440 && offsetof(OemDevmode, staple) == 1457
