@@ -71,7 +71,7 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
     const OemDevmode opening = options.settings ? ReadSettings(*options.settings) : defaultSettings;
     const PrinterProfiles profiles =
         options.profiles ? ReadPrinterProfiles(*options.profiles) : PrinterProfiles{};
-    const TrayPapers papersBefore = options.from ? AskPapers(family, *options.from) : UnknownPapers();
+    const TrayPapers papersBefore = options.from ? AskPapers(family, *options.from) : UnknownPapers(family);
     DialogScript script = options.script ? ReadDialogScript(*options.script) : DialogScript{};
     const Library templates = OpenTemplates(family);
 

@@ -100,13 +100,15 @@ LRESULT CALLBACK SheetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM
 // Presses the button on a page of its own, which nobody sees. 0 when no dialog has come.
 INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
     const HWND sheet =
-        CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);
+        CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 0, 0, run.use.owner, nullptr, nullptr, nullptr);
     const HWND page =
         CreateWindowW(kDialogClass, L"", WS_CHILD, 0, 0, 0, 0, sheet, nullptr, nullptr, nullptr);
     SetWindowLongPtrW(sheet, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SheetProcedure));
     SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
     int32_t handled = 0;
+    const BOOL wasDisabled = EnableWindow(run.use.owner, FALSE); // the dialog itself sees to `sheet` only
     run.dialog.answer(kTrayButtonPage, page, WM_COMMAND, kTrayButton, 0, &handled);
+    EnableWindow(run.use.owner, !wasDisabled);
     DestroyWindow(sheet);
     return run.pressed;
 }
@@ -131,8 +133,8 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 }
 
 INT_PTR RunByTemplate(DialogRun& run, DialogContext& context) {
-    return DialogBoxParamW(run.dialog.templates, MAKEINTRESOURCEW(run.dialog.id), nullptr, DialogProcedure,
-                           reinterpret_cast<LPARAM>(&context));
+    return DialogBoxParamW(run.dialog.templates, MAKEINTRESOURCEW(run.dialog.id), run.use.owner,
+                           DialogProcedure, reinterpret_cast<LPARAM>(&context));
 }
 
 void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {

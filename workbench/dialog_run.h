@@ -45,6 +45,7 @@ struct DialogUse {
     DialogScript& script; // runs once the dialog is up
     bool waitsForPerson;  // after the script; otherwise Cancel is pressed where that leaves the dialog open
     std::string lastPicture; // file for a picture of what OK or Cancel ends; empty: none is taken
+    HWND owner = nullptr;    // stays below the dialog, and is disabled meanwhile
 };
 
 // Opens the dialog and uses it. Throws Failure when there is no such dialog, no display, or the script can't

@@ -46,10 +46,24 @@ void AddCommands(CLI::App& app, CommonOptions& common, Run& chosen) {
     }
 }
 
-// The arguments in UTF-8, last one first, as CLI11 takes them. Without any a person has started the program.
+// Without arguments a person has started the program, from the desktop or a console.
+bool IsStartedByPerson(int argc) {
+    return argc < 2;
+}
+
+// The desktop gives the program a console of its own, where there is nothing to be seen.
+void LeaveOwnConsole() {
+    DWORD others[2];
+    if (GetConsoleProcessList(others, 2) == 1)
+        FreeConsole();
+}
+
+// The arguments in UTF-8, last one first, as CLI11 takes them.
 std::vector<std::string> Arguments(int argc, wchar_t** argv) {
-    if (argc < 2)
+    if (IsStartedByPerson(argc)) {
+        LeaveOwnConsole();
         return {"run"};
+    }
     std::vector<std::string> arguments;
     for (int i = argc - 1; i > 0; --i)
         arguments.push_back(Utf8(argv[i]));
@@ -94,16 +108,23 @@ int RunProgram(int argc, wchar_t** argv) {
     return 0;
 }
 
+void TellFailure(int argc, const char* failure) {
+    if (IsStartedByPerson(argc))
+        TellPerson(failure);
+    else
+        Print(STD_ERROR_HANDLE, std::string("workbench: ") + failure + "\n");
+}
+
 } // namespace
 
 int wmain(int argc, wchar_t** argv) {
     try {
         return RunProgram(argc, argv);
     } catch (const Failure& failure) {
-        Print(STD_ERROR_HANDLE, std::string("workbench: ") + failure.what() + "\n");
+        TellFailure(argc, failure.what());
         return failure.exitCode;
     } catch (const std::exception& error) {
-        Print(STD_ERROR_HANDLE, std::string("workbench: ") + error.what() + "\n");
+        TellFailure(argc, error.what());
         return kExitFailed;
     }
 }

@@ -10,7 +10,7 @@
 #include <vector>
 
 struct OptionFeatures {
-    std::vector<std::unique_ptr<ItemRecord[]>> items; // of each feature; the features refer to them
+    std::vector<std::shared_ptr<ItemRecord[]>> items; // of each feature; the features refer to them
     std::vector<FeatureRecord> features;              // ends at an empty key, as the items do
     std::vector<FeatureSettings> settings; // position of the item in force; -1: the file has no default
 };

@@ -28,6 +28,10 @@ std::string ErrorText(DWORD error) {
     return "error " + std::to_string(error) + ", " + std::system_category().message(static_cast<int>(error));
 }
 
+void TellPerson(const std::string& utf8, HWND owner) {
+    MessageBoxW(owner, Wide(utf8).c_str(), L"lumora R880", MB_OK | MB_ICONWARNING);
+}
+
 void Print(DWORD where, std::string_view utf8) {
     HANDLE handle = GetStdHandle(where);
     DWORD mode;

@@ -18,6 +18,9 @@ std::wstring Wide(std::string_view text, UINT codePage = CP_UTF8);
 // A last-error value and what the system says of it.
 std::string ErrorText(DWORD error);
 
+// In a box, for a person who has no console to look at.
+void TellPerson(const std::string& utf8, HWND owner = nullptr);
+
 // Writes UTF-8 to STD_OUTPUT_HANDLE or STD_ERROR_HANDLE: as UTF-16 to a console, byte for byte to a file or a
 // pipe.
 void Print(DWORD where, std::string_view utf8);

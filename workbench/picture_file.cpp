@@ -1,10 +1,8 @@
 // Pictures in memory and PNG files: see the header.
 #include "picture_file.h"
 
-#include "output.h"
+#include "output_file.h"
 
-#include <filesystem>
-#include <memory>
 #include <vector>
 
 #include <objidl.h> // before GDI+, which takes its streams from there
@@ -77,55 +75,6 @@ std::vector<uint8_t> EncodePng(const Canvas& canvas) {
     return Contents(*stream);
 }
 
-// Must be called before anything else sets the last error.
-[[noreturn]] void FailToWrite(const std::filesystem::path& path) {
-    const std::string reason = ErrorText(GetLastError());
-    throw Failure(kExitFailed,
-                  path.u8string() + ": can't be written (" + reason + "); name another file with --out");
-}
-
-// A new file, which is removed unless it is kept under its final name.
-struct NewFile {
-    explicit NewFile(const std::filesystem::path& finalPath) : keptAs(finalPath), path(finalPath) {
-        path += L".part";
-        handle = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                             nullptr);
-        if (handle == INVALID_HANDLE_VALUE)
-            FailToWrite(keptAs);
-    }
-    ~NewFile() {
-        Close();
-        if (!isKept)
-            DeleteFileW(path.c_str());
-    }
-    NewFile(const NewFile&) = delete;
-    NewFile& operator=(const NewFile&) = delete;
-
-    void Write(const std::vector<uint8_t>& bytes) {
-        DWORD written = 0;
-        if (!WriteFile(handle, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr))
-            FailToWrite(keptAs);
-    }
-
-    void Keep() {
-        Close();
-        isKept = MoveFileExW(path.c_str(), keptAs.c_str(), MOVEFILE_REPLACE_EXISTING) != FALSE;
-        if (!isKept)
-            FailToWrite(keptAs);
-    }
-
-    void Close() {
-        if (handle != INVALID_HANDLE_VALUE)
-            CloseHandle(handle);
-        handle = INVALID_HANDLE_VALUE;
-    }
-
-    const std::filesystem::path keptAs;
-    std::filesystem::path path;
-    HANDLE handle;
-    bool isKept = false;
-};
-
 } // namespace
 
 Canvas::Canvas(SIZE wanted) : size(wanted) {
@@ -161,9 +110,7 @@ Document WritePicture(const Canvas& canvas, const std::string& path) {
         throw Failure(kExitFailed, file.u8string() + ": there is no folder " + file.parent_path().u8string()
                                        + "; make it, or name another file with --out");
     const std::vector<uint8_t> png = EncodePng(canvas);
-    NewFile written(file);
-    written.Write(png);
-    written.Keep();
+    WriteOutputFile(file, {reinterpret_cast<const char*>(png.data()), png.size()}, "--out");
     return {{"path", file.u8string()}, {"width", canvas.size.cx}, {"height", canvas.size.cy}};
 }
 

@@ -1,5 +1,6 @@
 // `workbench run`: the property sheet, as a user of the driver sees it; what it changes is kept between runs.
 #include "commands.h"
+#include "output.h"
 #include "property_sheet/sheet_window.h"
 
 namespace {
@@ -8,9 +9,10 @@ Document RunSheet(const FamilyFiles& family, const std::string& file) {
     const Library templates = OpenTemplates(family);
     SheetState state(family, templates.get());
     state.file = file.empty() ? StateFile() : std::filesystem::u8path(file);
-    LoadState(state);
+    if (const std::string trouble = LoadState(state); !trouble.empty())
+        TellPerson(trouble);
     SheetWindow sheet(state);
-    while (sheet.HandleMessage()) {}
+    while (sheet.HandleMessages()) {}
     return {{"settings", {{"keptIn", state.file.u8string()}}}};
 }
 

@@ -1,14 +1,11 @@
 // `workbench tour`: opens the property sheet, uses every page of it as a person would, and saves a picture of
 // each.
 #include "commands.h"
-#include "dialog_view.h"
 #include "output.h"
 #include "paramdata/default_settings.h"
+#include "property_sheet/page_driver.h"
 #include "property_sheet/page_ids.h"
-#include "property_sheet/sheet_window.h"
 #include "settings_fields.h"
-
-#include <commctrl.h>
 
 namespace {
 
@@ -21,106 +18,79 @@ struct Options {
     bool resets = false;
 };
 
-// A sheet that is used by messages.
 struct Tour {
     SheetState& state;
-    SheetWindow& sheet;
+    SheetUser& user;
+    PageDriver driver;
     std::filesystem::path folder;
     std::string status = {}; // of asking the printer
     Document pictures = Document::array();
 
-    HWND Control(int id) const { return GetDlgItem(sheet.CurrentPage(), id); }
-
-    void TurnTo(int page) const { SendMessageW(sheet.Window(), PSM_SETCURSEL, static_cast<WPARAM>(page), 0); }
-
-    void Click(int button) const { SendMessageW(Control(button), BM_CLICK, 0, 0); }
-
-    // Chooses the first entry, or row, with this text.
-    void Choose(int list, const std::string& wanted) const {
-        const std::vector<std::string> entries = EntriesOf(Control(list));
-        for (size_t i = 0; i < entries.size(); ++i)
-            if (entries[i] == wanted) {
-                SelectEntry(Control(list), i);
-                SendMessageW(sheet.CurrentPage(), WM_COMMAND, MAKEWPARAM(list, CBN_SELCHANGE),
-                             reinterpret_cast<LPARAM>(Control(list)));
-                return;
-            }
-        throw Failure(kExitFailed, "the page has no '" + wanted + "' in list " + std::to_string(list));
-    }
-
-    // Until the page says that the printer is not being asked any more.
-    void WaitForPrinter() const {
-        const DWORD start = GetTickCount();
-        wchar_t label[32] = L"Stop";
-        while (lstrcmpW(label, L"Stop") == 0 && sheet.HandleMessage()) {
-            GetWindowTextW(Control(ID_ASK), label, 32);
-            if (GetTickCount() - start > kLongestWait)
-                throw Failure(kExitFailed, "the printer keeps the page waiting; try again");
-        }
-    }
-
     void Picture(const std::string& name) {
-        pictures.push_back(TakePicture(sheet.Window(), (folder / (name + ".png")).u8string()));
+        pictures.push_back(driver.Picture((folder / (name + ".png")).u8string()));
     }
 };
 
 void VisitPrinter(Tour& tour, const std::string& address) {
-    tour.TurnTo(0);
-    SetWindowTextW(tour.Control(ID_ADDRESS), Wide(address).c_str());
+    const PageDriver& driver = tour.driver;
+    driver.TurnTo(kPrinterPage);
+    driver.SetText(ID_ADDRESS, address);
     if (!address.empty()) {
-        tour.Click(ID_ASK);
-        tour.WaitForPrinter();
+        driver.Click(ID_ASK);
+        driver.WaitUntil([&] { return !tour.state.isAsking; }, kLongestWait);
     }
-    wchar_t text[256] = L"";
-    GetWindowTextW(tour.Control(ID_STATUS), text, 256);
-    tour.status = Utf8(text);
-    tour.Choose(ID_OPTIONS, "Fax");
-    tour.Choose(ID_OPTION_ITEMS, "Installed");
+    tour.status = driver.Text(ID_STATUS);
+    driver.Choose(ID_OPTIONS, "Fax");
+    driver.Choose(ID_OPTION_ITEMS, "Installed");
     tour.Picture("page-printer");
 }
 
-void VisitPaper(Tour& tour, DialogScript& script) {
-    tour.TurnTo(1);
-    tour.Choose(ID_SOURCE, "Tray 2");
-    tour.Choose(ID_TYPE, "Letterhead");
-    script = ParseDialogScript("choose 1844 Tray 2\nchoose 1860 A3\nok", "tour");
-    tour.Click(ID_TRAY_BUTTON);
+void VisitPaper(Tour& tour) {
+    tour.driver.TurnTo(kPaperPage);
+    tour.driver.Choose(ID_SOURCE, "Tray 2");
+    tour.driver.Choose(ID_TYPE, "Letterhead");
+    tour.user.script = ParseDialogScript("choose 1844 Tray 2\nchoose 1860 A3\nok", "tour");
+    tour.driver.Click(ID_TRAY_BUTTON);
     tour.Picture("page-paper");
 }
 
-void VisitQuality(Tour& tour, DialogScript& script) {
-    tour.TurnTo(2);
-    script = ParseDialogScript("choose 1354 Exact match\nok", "tour");
-    tour.Click(ID_COLOR_DIALOG);
+void VisitQuality(Tour& tour) {
+    tour.driver.TurnTo(kQualityPage);
+    tour.user.script = ParseDialogScript("choose 1354 Exact match\nok", "tour");
+    tour.driver.Click(ID_COLOR_DIALOG);
     tour.Picture("page-quality");
 }
 
 void VisitVersion(Tour& tour, bool resets) {
-    tour.TurnTo(3);
+    tour.driver.TurnTo(kVersionPage);
     tour.Picture("page-version");
     if (resets)
-        tour.Click(ID_RESET);
+        tour.driver.Click(ID_RESET);
 }
 
 Document RunTour(const FamilyFiles& family, const Options& options) {
     const Library templates = OpenTemplates(family);
     SheetState state(family, templates.get());
+    SheetUser user;
+    state.user = &user;
     state.file = std::filesystem::u8path(options.state);
-    LoadState(state);
-    DialogScript script;
-    state.script = &script;
+    const std::string trouble = LoadState(state);
     SheetWindow sheet(state);
-    Tour tour = {state, sheet, std::filesystem::u8path(options.out)};
+    Tour tour = {state, user, PageDriver(sheet), std::filesystem::u8path(options.out)};
     VisitPrinter(tour, options.from);
-    VisitPaper(tour, script);
-    VisitQuality(tour, script);
+    VisitPaper(tour);
+    VisitQuality(tour);
     VisitVersion(tour, options.resets);
-    SendMessageW(sheet.Window(), PSM_PRESSBUTTON, PSBTN_OK, 0);
-    return {{"pictures", tour.pictures},
-            {"printer", {{"address", state.address}, {"told", state.hasReport}, {"status", tour.status}}},
-            {"options", OptionsDocument(state.scene.options)},
-            {"changes", SettingsChanges(defaultSettings, state.settings)},
-            {"trays", PapersDocument(state.papers)}};
+    tour.driver.Press(PSBTN_OK);
+    if (!user.failures.empty())
+        throw Failure(kExitFailed, user.failures.front());
+    return {
+        {"pictures", tour.pictures},
+        {"settings", {{"keptIn", options.state}, {"trouble", trouble}}},
+        {"printer", {{"address", state.address}, {"toldBy", state.report.address}, {"status", tour.status}}},
+        {"options", OptionsDocument(state.options)},
+        {"changes", SettingsChanges(defaultSettings, state.settings)},
+        {"trays", PapersDocument(state.papers)}};
 }
 
 } // namespace

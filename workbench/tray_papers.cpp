@@ -51,32 +51,34 @@ std::string KeyOf(const TrayPaperSetting& paper) {
 
 } // namespace
 
-TrayPapers UnknownPapers() {
+// That of the model's sources without the automatic one.
+TrayPapers UnknownPapers(const FamilyFiles& family) {
     TrayPapers papers = {};
     for (TrayPaperSetting& paper : papers)
         for (const TrayAttribute& attribute : trayAttributes)
             StoreAttribute(paper, attribute, kUnknown);
+    auto next = papers.begin();
+    const InputSlotRecord* source = family.table->inputTrays;
+    for (; source != nullptr && source->head.key[0] != 0 && next != papers.end(); ++source) {
+        if (source->head.value == inputSlots[0].bin)
+            continue;
+        CopyText(next->key, source->head.key);
+        next->bin = source->head.value;
+        ++next;
+    }
     return papers;
 }
 
-// The records are in the order in which the dialog lists the sources: that of the model without the automatic
-// one.
 TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent) {
     const LibraryRoad road = TryLibraryRoad(family, agent);
     if (!road.isThisModel)
         throw Failure(kExitFailed, agent + ": " + Hint(family, road));
     const TrayAnswers answers = AskTraysByLibrary(family, agent);
-    TrayPapers papers = UnknownPapers();
-    size_t next = 0;
-    const InputSlotRecord* source = family.table->inputTrays;
-    for (; source != nullptr && source->head.key[0] != 0 && next < papers.size(); ++source) {
-        if (source->head.value == inputSlots[0].bin)
-            continue;
-        TrayPaperSetting& paper = papers[next++];
+    TrayPapers papers = UnknownPapers(family);
+    for (TrayPaperSetting& paper : papers)
         for (const InputTrayStatusItem& answer : answers)
-            for (size_t i = 0; i < kMediaTypeListCount && SameText(answer.tray, source->head.key); ++i)
+            for (size_t i = 0; i < kMediaTypeListCount && SameText(answer.tray, paper.key); ++i)
                 StoreAttribute(paper, trayAttributes[i], ValueOf(i, answer.*kAttributes[i].answer));
-    }
     return papers;
 }
 

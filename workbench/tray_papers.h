@@ -10,14 +10,13 @@
 
 using TrayPapers = std::array<TrayPaperSetting, kTrayCount>;
 
-// Of all trays nothing is known.
-TrayPapers UnknownPapers();
+// Of the model's trays nothing is known. They are in the order in which the dialogs list them.
+TrayPapers UnknownPapers(const FamilyFiles& family);
 
 // As the printer tells through the bidirectional library. Throws Failure when it can't be asked.
 TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent);
 
-// Tray, attribute, names and values before and after of what differs; and of every tray that the dialog has
-// listed what is set now.
+// Tray, attribute, names and values before and after of what differs; and of every tray what is set now.
 Document PaperChanges(const TrayPapers& before, const TrayPapers& after);
 Document PapersDocument(const TrayPapers& papers);
 

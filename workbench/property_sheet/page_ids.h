@@ -1,4 +1,4 @@
-// Identifiers of the property pages and their controls.
+// Identifiers of the property pages and their controls, and the texts that a button changes between.
 #ifndef PROPERTY_SHEET_PAGE_IDS_H
 #define PROPERTY_SHEET_PAGE_IDS_H
 
@@ -6,6 +6,9 @@
 #define PAGE_PAPER   102
 #define PAGE_QUALITY 103
 #define PAGE_VERSION 104
+
+#define TEXT_ASK  "As&k Printer"
+#define TEXT_STOP "Sto&p"
 
 #define ID_PICTURE      1001
 #define ID_OPTIONS      1002

@@ -2,7 +2,6 @@
 #include "page_ids.h"
 #include "property_page.h"
 
-#include "../capability_questions.h"
 #include "../dialog_run.h"
 #include "../output.h"
 #include "paramdata/devmode_fields.h"
@@ -62,8 +61,7 @@ private:
 
     // What the module offers depends on what is installed.
     void ShowSources() {
-        const CapabilityQuestions questions(state.family, state.scene.options);
-        sources = questions.PaperSources();
+        sources = OfferedSources(state);
         std::vector<std::string> names;
         int selected = -1;
         for (const PaperSource& source : sources) {
@@ -72,6 +70,7 @@ private:
             names.push_back(source.name);
         }
         SetEntries(ID_SOURCE, names, selected);
+        const CapabilityQuestions questions(state.family, state.options);
         SetText(ID_ABILITIES, std::string("Prints on both sides: ")
                                   + (questions.Has(DC_DUPLEX) ? "yes" : "no")
                                   + "\nStaples: " + (questions.Has(DC_STAPLE) ? "yes" : "no"));
@@ -85,14 +84,8 @@ private:
         return key;
     }
 
-    // The key of the source is what the picture is drawn by.
     void TakeSource() {
-        const PaperSource& source = sources.at(static_cast<size_t>(Send(ID_SOURCE, CB_GETCURSEL)));
-        state.settings.inputTray = source.bin;
-        const InputSlotRecord* slot = state.family.table->inputTrays;
-        for (; slot != nullptr && slot->head.key[0] != 0; ++slot)
-            if (slot->head.value == source.bin)
-                state.scene.tray = slot->head.key;
+        state.settings.inputTray = sources.at(static_cast<size_t>(Send(ID_SOURCE, CB_GETCURSEL))).bin;
         NoteChange();
     }
 

@@ -8,6 +8,9 @@
 #include "../picture_file.h"
 #include "paramdata/text.h"
 
+#include <algorithm>
+#include <list>
+
 #include <commctrl.h>
 
 namespace {
@@ -25,38 +28,31 @@ constexpr struct {
     {"OpInTrayManual", "Manual feed"},
 };
 
-// The consumables that are told apart by their colour.
+// The consumables that tell how full they are, in the order in which they are shown.
 constexpr struct {
     const char* key;
     const char* name;
 } kSupplyNames[] = {
-    {"Consumable2", "Cyan toner"},
-    {"Consumable3", "Magenta toner"},
-    {"Consumable4", "Yellow toner"},
-    {"Consumable5", "Black toner"},
+    {"Consumable2", "Cyan toner"},  {"Consumable3", "Magenta toner"},    {"Consumable4", "Yellow toner"},
+    {"Consumable5", "Black toner"}, {"Consumable11", "Waste toner box"},
 };
 
-constexpr const char* kLevels[] = {"not told", "empty", "nearly empty", "nearly full", "full", "in order"};
-constexpr const char* kSteps[kJobSteps] = {"options", "papers", "consumables", "overlays", "colour profiles"};
+constexpr const char* kNotTold = "not told";
+constexpr const char* kLevels[] = {kNotTold, "empty", "nearly empty", "nearly full", "full", "in order"};
 
-template <typename Row, size_t N>
-std::string NameOf(const Row (&rows)[N], const char* key) {
-    for (const Row& row : rows)
+const char* OptionName(const char* key) {
+    for (const auto& row : kOptionNames)
         if (SameText(row.key, key))
             return row.name;
-    return Utf8(key);
+    return key;
 }
 
-bool IsShown(const MrkSupRequestItem& supply) {
-    return supply.state == kStatePercent || supply.state == kStateLevel;
-}
-
-std::string Describe(const MrkSupRequestItem& supply) {
-    const std::string name = NameOf(kSupplyNames, supply.name) + ": ";
-    if (supply.state == kStatePercent)
-        return name + std::to_string(supply.value) + " %";
-    const bool isKnown = supply.value >= 0 && supply.value < static_cast<int32_t>(std::size(kLevels));
-    return name + kLevels[isKnown ? supply.value : 0];
+std::string Describe(const char* name, const MrkSupRequestItem& supply) {
+    const auto value = static_cast<size_t>(supply.value); // beyond all levels where it is negative
+    return std::string(name) + ": "
+           + (supply.state == kStatePercent ? std::to_string(supply.value) + " %"
+              : supply.state == kStateLevel && value < std::size(kLevels) ? kLevels[value]
+                                                                          : kNotTold);
 }
 
 class PrinterPage : public PropertyPage {
@@ -67,25 +63,24 @@ private:
     void Init() override {
         SetColumns(ID_OPTIONS, {"Option", "Installed"});
         Send(ID_PROGRESS, PBM_SETRANGE32, 0, kJobSteps);
+        Send(ID_SUPPLIES, LB_SETITEMHEIGHT, 0, FontHeight() * 3 / 2);
     }
 
     void Show() override {
         SetText(ID_ADDRESS, state.address);
+        SetText(ID_STATUS, state.status);
         ShowOptions();
         ShowReport();
     }
 
     void OnCommand(UINT control, UINT notification) override {
         if (control == ID_OPTION_ITEMS && notification == CBN_SELCHANGE) {
-            state.scene.options.settings[static_cast<size_t>(SelectedRow(ID_OPTIONS))] =
-                static_cast<int32_t>(Send(ID_OPTION_ITEMS, CB_GETCURSEL));
-            ShowOptions();
-            NoteChange();
+            TakeOption(static_cast<size_t>(SelectedRow(ID_OPTIONS)));
         } else if (control == ID_ADDRESS && notification == EN_CHANGE && Text(ID_ADDRESS) != state.address) {
             state.address = Text(ID_ADDRESS);
             NoteChange();
         } else if (control == ID_ASK && notification == BN_CLICKED) {
-            job == nullptr ? Ask() : StopAsking("Stopped.");
+            state.isAsking ? StopAsking() : Ask();
         }
     }
 
@@ -96,17 +91,6 @@ private:
 
     void OnDraw(const DRAWITEMSTRUCT& item) override {
         item.CtlID == ID_PICTURE ? DrawPicture(item) : DrawSupply(item);
-    }
-
-    void OnMeasure(MEASUREITEMSTRUCT& item) override {
-        TEXTMETRICW font = {};
-        const HDC dc = GetDC(window);
-        const HGDIOBJ before =
-            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
-        GetTextMetricsW(dc, &font);
-        SelectObject(dc, before);
-        ReleaseDC(window, dc);
-        item.itemHeight = static_cast<UINT>(font.tmHeight * 3 / 2);
     }
 
     void OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
@@ -121,6 +105,7 @@ private:
     void Close() override {
         job.reset();
         stopped.clear();
+        state.isAsking = false;
     }
 
     // --- Options -------------------------------------------------------------------------------------
@@ -128,17 +113,18 @@ private:
     void ShowOptions() {
         const int selected = std::max(SelectedRow(ID_OPTIONS), 0);
         std::vector<std::vector<std::string>> rows;
-        for (size_t i = 0; i < state.scene.options.settings.size(); ++i) {
-            const ItemRecord* item =
-                SelectedItem(state.scene.options.features.data(), state.scene.options.settings.data(),
-                             static_cast<int32_t>(i));
-            rows.push_back({NameOf(kOptionNames, state.scene.options.features[i].feature.head.key),
-                            item != nullptr ? Utf8(item->display) : ""});
-        }
+        for (size_t i = 0; i < state.options.settings.size(); ++i)
+            rows.push_back({OptionName(state.options.features[i].feature.head.key), NameOfItem(i)});
         SetRows(ID_OPTIONS, rows);
         SelectRow(ID_OPTIONS, selected);
         ShowItems();
         InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
+    }
+
+    std::string NameOfItem(size_t option) const {
+        const ItemRecord* item = SelectedItem(state.options.features.data(), state.options.settings.data(),
+                                              static_cast<int32_t>(option));
+        return item != nullptr ? Utf8(item->display) : "";
     }
 
     // Of the option that is selected.
@@ -148,16 +134,24 @@ private:
         if (row < 0)
             return;
         std::vector<std::string> entries;
-        const ItemRecord* item = state.scene.options.features[static_cast<size_t>(row)].items;
+        const ItemRecord* item = state.options.features[static_cast<size_t>(row)].items;
         for (; item->head.key[0] != 0; ++item)
             entries.push_back(Utf8(item->display));
-        SetEntries(ID_OPTION_ITEMS, entries, state.scene.options.settings[static_cast<size_t>(row)]);
+        SetEntries(ID_OPTION_ITEMS, entries, state.options.settings[static_cast<size_t>(row)]);
+    }
+
+    void TakeOption(size_t option) {
+        state.options.settings.at(option) = static_cast<int32_t>(Send(ID_OPTION_ITEMS, CB_GETCURSEL));
+        OfferedSources(state);
+        SetCell(ID_OPTIONS, option, 1, NameOfItem(option));
+        InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
+        NoteChange();
     }
 
     // As the module's bitmaps are, or stretched where the screen's resolution is higher.
     void DrawPicture(const DRAWITEMSTRUCT& item) const {
         const Canvas canvas(kSceneSize);
-        DrawScene(state.family, state.scene, canvas.context, kSceneSize);
+        DrawScene(state.family, SceneOf(state), canvas.context, kSceneSize);
         SetStretchBltMode(item.hDC, HALFTONE);
         StretchBlt(item.hDC, 0, 0, item.rcItem.right, item.rcItem.bottom, canvas.context, 0, 0, kSceneSize.cx,
                    kSceneSize.cy, SRCCOPY);
@@ -169,53 +163,72 @@ private:
         if (state.address.empty())
             throw Failure(kExitUsage,
                           "The printer's address is missing: enter an IPv4 address or a host name.");
-        SetText(ID_ASK, "Stop");
-        ShowProgress(0);
+        stopped.remove_if([](const auto& other) { return other->HasEnded(); });
         job = std::make_unique<DeviceJob>(state.family, state.address, window, ++jobNumber);
+        state.isAsking = true;
+        state.report = {};
+        ShowReport();
+        SetText(ID_ASK, TEXT_STOP);
+        ShowProgress(0);
     }
 
-    // Its thread ends with the question that is under way, for which nobody waits before the page is closed.
-    void StopAsking(const std::string& status) {
+    // The thread ends with the question that is under way, for which nobody waits before the page is closed.
+    void StopAsking() {
         job->Cancel();
         stopped.push_back(std::move(job));
-        SetText(ID_ASK, "As&k Printer");
-        Send(ID_PROGRESS, PBM_SETPOS, 0);
-        SetText(ID_STATUS, status);
+        ShowEnd("Stopped.");
     }
 
     void ShowProgress(int steps) {
         Send(ID_PROGRESS, PBM_SETPOS, static_cast<WPARAM>(steps));
         if (steps < kJobSteps)
-            SetText(ID_STATUS, "Asking for " + std::string(kSteps[steps]) + "...");
+            ShowStatus("Asking for " + std::string(StepName(steps)) + "...");
     }
 
     void EndJob() {
-        const std::string failure = job->Failure();
-        DeviceReport report = std::move(job->Report());
-        StopAsking(failure);
-        if (!failure.empty())
+        const std::unique_ptr<DeviceJob> ended = std::move(job);
+        if (!ended->Trouble().empty()) {
+            ShowEnd(ended->Trouble());
             return;
-        TakeReport(state, std::move(report));
+        }
+        const DeviceReport& report = ended->Report();
+        ShowEnd("Told by " + report.address + " (" + report.transport + ")."
+                + (report.missing.empty() ? "" : " Not told: " + report.missing + "."));
+        TakeReport(state, std::move(ended->Report()));
         NoteChange();
         Show();
     }
 
+    void ShowEnd(const std::string& status) {
+        state.isAsking = false;
+        SetText(ID_ASK, TEXT_ASK);
+        Send(ID_PROGRESS, PBM_SETPOS, 0);
+        ShowStatus(status);
+    }
+
+    void ShowStatus(const std::string& status) {
+        state.status = status;
+        SetText(ID_STATUS, status);
+    }
+
     void ShowReport() {
+        supplies.clear();
         Send(ID_SUPPLIES, LB_RESETCONTENT);
+        for (const auto& row : kSupplyNames)
+            for (const MrkSupRequestItem& supply : state.report.supplies)
+                if (SameText(supply.name, row.key))
+                    supplies.push_back({row.name, supply});
+        for (const ShownSupply& supply : supplies)
+            Send(ID_SUPPLIES, LB_ADDSTRING, 0,
+                 reinterpret_cast<LPARAM>(Wide(Describe(supply.name, supply.told)).c_str()));
+
         Send(ID_STORED, LB_RESETCONTENT);
-        for (size_t i = 0; i < state.report.supplies.size(); ++i)
-            if (IsShown(state.report.supplies[i]))
-                Send(ID_SUPPLIES, LB_ADDSTRING, 0, static_cast<LPARAM>(i));
         for (const StoredResources& overlays : state.report.overlays)
             AddStored("Overlay", overlays);
         constexpr const char* kUses[kProfileSelectors] = {"RGB profile", "Simulation profile",
                                                           "Output profile"};
         for (size_t i = 0; i < kProfileSelectors; ++i)
             AddStored(kUses[i], state.report.profiles[i]);
-        if (state.hasReport)
-            SetText(ID_STATUS, "Told by " + state.address + " over the " + state.report.road + ".");
-        else if (job == nullptr)
-            SetText(ID_STATUS, "Not asked yet. The picture shows what is chosen above.");
     }
 
     void AddStored(const std::string& use, const StoredResources& stored) {
@@ -228,9 +241,9 @@ private:
     void DrawSupply(const DRAWITEMSTRUCT& item) const {
         const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
         FillRect(item.hDC, &item.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
-        if (item.itemID >= UINT32_MAX || item.itemData >= state.report.supplies.size())
+        if (item.itemID >= supplies.size())
             return;
-        const MrkSupRequestItem& supply = state.report.supplies[item.itemData];
+        const auto& [name, supply] = supplies[item.itemID];
         RECT place = item.rcItem;
         InflateRect(&place, -3, -2);
         RECT bar = place;
@@ -246,14 +259,20 @@ private:
         FrameRect(item.hDC, &bar, GetSysColorBrush(COLOR_BTNSHADOW));
         SetBkMode(item.hDC, TRANSPARENT);
         SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-        DrawTextW(item.hDC, Wide(Describe(supply)).c_str(), -1, &place,
+        DrawTextW(item.hDC, Wide(Describe(name, supply)).c_str(), -1, &place,
                   DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
         if ((item.itemState & ODS_FOCUS) != 0)
             DrawFocusRect(item.hDC, &item.rcItem);
     }
 
-    std::unique_ptr<DeviceJob> job; // null: the printer is not being asked
-    std::vector<std::unique_ptr<DeviceJob>> stopped;
+    struct ShownSupply {
+        const char* name;
+        MrkSupRequestItem told;
+    };
+
+    std::vector<ShownSupply> supplies; // by position in the list
+    std::unique_ptr<DeviceJob> job;    // null: the printer is not being asked
+    std::list<std::unique_ptr<DeviceJob>> stopped;
     WPARAM jobNumber = 0;
 };
 

@@ -6,14 +6,6 @@
 
 #include <commctrl.h>
 
-namespace {
-
-void Tell(HWND window, const std::string& failure) {
-    MessageBoxW(GetParent(window), Wide(failure).c_str(), L"lumora R880", MB_OK | MB_ICONWARNING);
-}
-
-} // namespace
-
 PROPSHEETPAGEW PropertyPage::Description() {
     PROPSHEETPAGEW page = {};
     page.dwSize = sizeof(page);
@@ -36,7 +28,7 @@ INT_PTR CALLBACK PropertyPage::Procedure(HWND window, UINT message, WPARAM wPara
     try {
         return page->Answer(message, wParam, lParam);
     } catch (const std::exception& failure) {
-        Tell(window, failure.what());
+        page->Tell(failure.what());
         return TRUE;
     }
 }
@@ -55,16 +47,13 @@ INT_PTR PropertyPage::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
         if (note.code == static_cast<UINT>(PSN_SETACTIVE))
             Show();
         else if (note.code == static_cast<UINT>(PSN_APPLY))
-            SaveState(state);
+            return Apply();
         else
             OnNotify(note);
         return FALSE;
     }
     case WM_DRAWITEM:
         OnDraw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
-        return TRUE;
-    case WM_MEASUREITEM:
-        OnMeasure(*reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
         return TRUE;
     case WM_DESTROY:
         Close();
@@ -75,6 +64,27 @@ INT_PTR PropertyPage::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+// Every page is asked to apply; the first that is keeps what all have changed. The sheet stays open when that
+// fails.
+INT_PTR PropertyPage::Apply() const {
+    LONG_PTR answer = PSNRET_NOERROR;
+    try {
+        SaveState(state);
+    } catch (const std::exception& failure) {
+        Tell(failure.what());
+        answer = PSNRET_INVALID_NOCHANGEPAGE;
+    }
+    SetWindowLongPtrW(window, DWLP_MSGRESULT, answer);
+    return TRUE;
+}
+
+void PropertyPage::Tell(const std::string& failure) const {
+    if (state.user != nullptr)
+        state.user->failures.push_back(failure);
+    else
+        TellPerson(failure, GetParent(window));
+}
+
 void PropertyPage::SetText(int id, const std::string& utf8) const {
     SetDlgItemTextW(window, id, Wide(utf8).c_str());
 }
@@ -83,6 +93,16 @@ std::string PropertyPage::Text(int id) const {
     wchar_t text[256] = L"";
     GetDlgItemTextW(window, id, text, 256);
     return Utf8(text);
+}
+
+int PropertyPage::FontHeight() const {
+    TEXTMETRICW font = {};
+    const HDC dc = GetDC(window);
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
+    GetTextMetricsW(dc, &font);
+    SelectObject(dc, before);
+    ReleaseDC(window, dc);
+    return font.tmHeight;
 }
 
 void PropertyPage::SetColumns(int id, const std::vector<const char*>& titles) const {
@@ -100,21 +120,26 @@ void PropertyPage::SetColumns(int id, const std::vector<const char*>& titles) co
 void PropertyPage::SetRows(int id, const std::vector<std::vector<std::string>>& rows) const {
     Send(id, WM_SETREDRAW, FALSE);
     Send(id, LVM_DELETEALLITEMS);
-    size_t columns = 0;
-    for (size_t row = 0; row < rows.size(); ++row)
-        for (size_t column = 0; column < rows[row].size(); ++column) {
-            std::wstring text = Wide(rows[row][column]);
-            LVITEMW item = {};
-            item.mask = LVIF_TEXT;
-            item.iItem = static_cast<int>(row);
-            item.iSubItem = static_cast<int>(column);
-            item.pszText = text.data();
-            Send(id, column == 0 ? LVM_INSERTITEMW : LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
-            columns = std::max(columns, column + 1);
-        }
-    for (size_t column = 0; column < columns; ++column)
-        Send(id, LVM_SETCOLUMNWIDTH, column, LVSCW_AUTOSIZE_USEHEADER);
+    for (size_t row = 0; row < rows.size(); ++row) {
+        LVITEMW item = {};
+        item.iItem = static_cast<int>(row);
+        Send(id, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        for (size_t column = 0; column < rows[row].size(); ++column)
+            SetCell(id, row, column, rows[row][column]);
+    }
+    const auto header = reinterpret_cast<HWND>(Send(id, LVM_GETHEADER));
+    const LRESULT columns = SendMessageW(header, HDM_GETITEMCOUNT, 0, 0);
+    for (LRESULT column = 0; column < columns; ++column)
+        Send(id, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), LVSCW_AUTOSIZE_USEHEADER);
     Send(id, WM_SETREDRAW, TRUE);
+}
+
+void PropertyPage::SetCell(int id, size_t row, size_t column, const std::string& utf8) const {
+    std::wstring text = Wide(utf8);
+    LVITEMW item = {};
+    item.iSubItem = static_cast<int>(column);
+    item.pszText = text.data();
+    Send(id, LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
 }
 
 int PropertyPage::SelectedRow(int id) const {
@@ -135,25 +160,26 @@ void PropertyPage::SetEntries(int id, const std::vector<std::string>& entries, i
 }
 
 void PropertyPage::NoteChange() const {
+    state.hasChanges = true;
     SendMessageW(GetParent(window), PSM_CHANGED, reinterpret_cast<WPARAM>(window), 0);
 }
 
 void PropertyPage::RunModelDialog(uint32_t id, bool isForTrays) {
     const PrinterProfiles profiles = ProfilesOf(state);
-    DialogAreas areas(state.settings, state.papers.data(), profiles);
+    OemDevmode settings = state.settings;
+    TrayPapers papers = state.papers;
+    DialogAreas areas(settings, papers.data(), profiles);
     DialogScript nothing;
-    const bool isScripted = state.script != nullptr;
+    const bool isByPerson = state.user == nullptr;
     HWND sheet = GetParent(window);
-    EnableWindow(sheet, FALSE);
-    try {
+    const DialogEnd end =
         RunDialog({id, state.templates, EXPORT(state.family, DDProc_DlgProc), isForTrays}, areas.context,
-                  {isScripted ? *state.script : nothing, !isScripted, ""});
-    } catch (...) {
-        EnableWindow(sheet, TRUE);
-        throw;
-    }
-    EnableWindow(sheet, TRUE);
+                  {isByPerson ? nothing : state.user->script, isByPerson, "", sheet});
     SetActiveWindow(sheet);
+    if (end.code != IDOK)
+        return;
+    state.settings = settings;
+    state.papers = papers;
     NoteChange();
     Show();
 }

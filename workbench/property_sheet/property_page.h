@@ -8,8 +8,8 @@
 
 #include <prsht.h> // after windows.h
 
-// A page belongs to the sheet, which outlives its window. Failures that its functions throw are told to the
-// person.
+// A page belongs to the sheet, which outlives its window. Failures that its functions throw are told to who
+// uses the sheet.
 class PropertyPage {
 public:
     PropertyPage(UINT id, SheetState& sheetState) : templateId(id), state(sheetState) {}
@@ -24,12 +24,9 @@ protected:
     virtual void Init() {}   // once
     virtual void Show() = 0; // what the state says now; each time when the page comes to the front
     virtual void OnCommand(UINT control, UINT notification) = 0;
-    virtual void OnNotify(const NMHDR& note) { static_cast<void>(note); }
-    virtual void OnDraw(const DRAWITEMSTRUCT& item) { static_cast<void>(item); }
-    virtual void OnMeasure(MEASUREITEMSTRUCT& item) { static_cast<void>(item); }
-    virtual void OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-        static_cast<void>(message), static_cast<void>(wParam), static_cast<void>(lParam);
-    }
+    virtual void OnNotify(const NMHDR& /*note*/) {}
+    virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
+    virtual void OnMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {}
     virtual void Close() {} // the window goes
 
     HWND Control(int id) const { return GetDlgItem(window, id); }
@@ -39,9 +36,12 @@ protected:
     void SetText(int id, const std::string& utf8) const;
     std::string Text(int id) const;
 
+    int FontHeight() const; // pixels
+
     // A list view: its columns, once; its rows, a text for each column.
     void SetColumns(int id, const std::vector<const char*>& titles) const;
     void SetRows(int id, const std::vector<std::vector<std::string>>& rows) const;
+    void SetCell(int id, size_t row, size_t column, const std::string& utf8) const;
     int SelectedRow(int id) const;
     void SelectRow(int id, int row) const;
 
@@ -51,7 +51,7 @@ protected:
     // There is something to be kept.
     void NoteChange() const;
 
-    // Has one of the model's dialogs run, while the sheet waits.
+    // Has one of the model's dialogs run, while the sheet waits. It works on copies, which OK brings back.
     void RunModelDialog(uint32_t id, bool isForTrays);
 
     const UINT templateId;
@@ -61,7 +61,12 @@ protected:
 private:
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Answer(UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR Apply() const;
+    void Tell(const std::string& failure) const;
 };
+
+// The pages, by their position.
+enum SheetPage { kPrinterPage, kPaperPage, kQualityPage, kVersionPage };
 
 std::unique_ptr<PropertyPage> MakePrinterPage(SheetState& state);
 std::unique_ptr<PropertyPage> MakePaperPage(SheetState& state);

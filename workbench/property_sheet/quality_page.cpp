@@ -51,6 +51,7 @@ private:
         } else if (control == ID_DEFAULTS) {
             SetFocus(Control(ID_COLOR_DIALOG)); // this button goes grey
             state.settings = defaultSettings;
+            OfferedSources(state);
             NoteChange();
             Show();
         }

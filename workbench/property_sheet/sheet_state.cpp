@@ -4,16 +4,16 @@
 
 #include "../input_file.h"
 #include "../output.h"
+#include "../output_file.h"
 #include "paramdata/default_settings.h"
 #include "paramdata/text.h"
 
-#include <fstream>
-
 namespace {
 
-constexpr const char* kFirstTray = "InTrayAuto";
 constexpr const wchar_t* kFolderName = L"lumora workbench";
 constexpr const wchar_t* kFileName = L"property_sheet.json";
+constexpr const char* kOption = "--state";
+constexpr const char* kNotAsked = "Not asked yet. The picture shows what is chosen above.";
 
 std::string Hex(const void* record, size_t size) {
     constexpr const char* kDigits = "0123456789abcdef";
@@ -25,28 +25,35 @@ std::string Hex(const void* record, size_t size) {
     return text;
 }
 
-// False, and the record as it was, when the text is not its digits.
-bool TakeHex(const Document& text, void* record, size_t size) {
+// Leaves the record as it was when the text is not its digits.
+void TakeHex(const Document& text, void* record, size_t size) {
     const std::string digits = text.is_string() ? text.get<std::string>() : "";
     if (digits.size() != 2 * size || digits.find_first_not_of("0123456789abcdef") != std::string::npos)
-        return false;
+        return;
     for (size_t i = 0; i < size; ++i)
         static_cast<uint8_t*>(record)[i] =
             static_cast<uint8_t>(std::stoi(digits.substr(2 * i, 2), nullptr, 16));
-    return true;
+}
+
+void TakeText(const Document& from, std::string& text) {
+    if (from.is_string())
+        text = from.get<std::string>();
 }
 
 Document Find(const Document& from, const char* name) {
     return from.is_object() && from.contains(name) ? from[name] : Document();
 }
 
-Document ParseState(const std::filesystem::path& file) {
-    try {
-        return Document::parse(ReadTextFile(file.u8string(), "--state"));
-    } catch (const Document::parse_error& error) {
-        throw Failure(kExitFailed, file.u8string() + ": holds no settings (" + error.what()
-                                       + "); remove it, or name another with --state");
-    }
+void TakeKept(const Document& kept, SheetState& state) {
+    TakeHex(Find(kept, "settings"), &state.settings, sizeof(state.settings));
+    TakeHex(Find(kept, "trays"), state.papers.data(), sizeof(state.papers));
+    TakeText(Find(kept, "address"), state.address);
+    TakeText(Find(kept, "toldBy"), state.toldBy);
+    const Document options = Find(kept, "options");
+    for (const auto& option : options.items())
+        if (option.value().is_string())
+            TakeReportedOption(state.options, option.key().c_str(),
+                               option.value().get<std::string>().c_str());
 }
 
 // What the printer calls first is the name, the second is a file's.
@@ -69,45 +76,48 @@ SheetState::SheetState(const FamilyFiles& familyFiles, HINSTANCE dialogTemplates
 
 void ResetState(SheetState& state) {
     state.settings = defaultSettings;
-    state.scene.options = ReadOptionFeatures(state.family);
-    state.scene.tray = kFirstTray;
+    state.options = ReadOptionFeatures(state.family);
     state.address.clear();
-    state.papers = UnknownPapers();
+    state.toldBy.clear();
+    state.papers = UnknownPapers(state.family);
     state.report = {};
-    state.hasReport = false;
+    state.status = kNotAsked;
 }
 
-void LoadState(SheetState& state) {
+std::string LoadState(SheetState& state) {
     if (!std::filesystem::exists(state.file))
-        return;
-    const Document kept = ParseState(state.file);
-    TakeHex(Find(kept, "settings"), &state.settings, sizeof(state.settings));
-    TakeHex(Find(kept, "trays"), state.papers.data(), sizeof(state.papers));
-    for (const auto& [name, text] : {std::pair("address", &state.address), {"tray", &state.scene.tray}})
-        if (const Document found = Find(kept, name); found.is_string())
-            *text = found.get<std::string>();
-    const Document options = Find(kept, "options");
-    for (const auto& option : options.items())
-        if (option.value().is_string())
-            TakeReportedOption(state.scene.options, option.key().c_str(),
-                               option.value().get<std::string>().c_str());
+        return {};
+    const std::string text = ReadTextFile(state.file.u8string(), kOption);
+    const Document kept = Document::parse(text, nullptr, false);
+    if (!kept.is_discarded()) {
+        TakeKept(kept, state);
+        return {};
+    }
+    std::filesystem::path aside = state.file;
+    aside += L".damaged";
+    std::error_code isInUse;
+    std::filesystem::rename(state.file, aside, isInUse);
+    if (isInUse)
+        throw Failure(kExitFailed, state.file.u8string()
+                                       + ": holds no settings of the sheet; remove it, or name "
+                                         "another with "
+                                       + kOption);
+    return state.file.u8string()
+           + ": holds no settings of the sheet, which begins with the model's; the file "
+             "is now called "
+           + aside.u8string();
 }
 
-void SaveState(const SheetState& state) {
-    if (state.file.empty())
+void SaveState(SheetState& state) {
+    if (state.file.empty() || !state.hasChanges)
         return;
-    Document kept = {{"address", state.address}, {"tray", state.scene.tray}};
-    for (const Document& row : OptionsDocument(state.scene.options))
+    Document kept = {{"address", state.address}, {"toldBy", state.toldBy}};
+    for (const Document& row : OptionsDocument(state.options))
         kept["options"][row["feature"].get<std::string>()] = row["item"];
     kept["trays"] = Hex(state.papers.data(), sizeof(state.papers));
     kept["settings"] = Hex(&state.settings, sizeof(state.settings));
-    std::ofstream out(state.file, std::ios::binary | std::ios::trunc);
-    out << kept.dump(1) << '\n';
-    out.close();
-    if (!out)
-        throw Failure(kExitFailed, state.file.u8string()
-                                       + ": can't be written; make room for it, or name another with "
-                                         "--state");
+    WriteOutputFile(state.file, kept.dump(1) + "\n", kOption);
+    state.hasChanges = false;
 }
 
 std::filesystem::path StateFile() {
@@ -120,12 +130,36 @@ std::filesystem::path StateFile() {
 }
 
 void TakeReport(SheetState& state, DeviceReport report) {
+    if (state.toldBy != report.address)
+        state.options = ReadOptionFeatures(state.family);
     for (const OptionRequestItem& answer : report.options)
-        TakeReportedOption(state.scene.options, answer.key, answer.value);
+        TakeReportedOption(state.options, answer.key, answer.value);
     if (report.hasPapers)
         state.papers = report.papers;
+    else if (state.toldBy != report.address)
+        state.papers = UnknownPapers(state.family);
+    state.toldBy = report.address;
     state.report = std::move(report);
-    state.hasReport = true;
+    OfferedSources(state);
+}
+
+std::vector<PaperSource> OfferedSources(SheetState& state) {
+    const std::vector<PaperSource> sources = CapabilityQuestions(state.family, state.options).PaperSources();
+    const bool isOffered = std::any_of(sources.begin(), sources.end(), [&](const PaperSource& source) {
+        return source.bin == state.settings.inputTray;
+    });
+    if (!isOffered && !sources.empty())
+        state.settings.inputTray = sources.front().bin;
+    return sources;
+}
+
+PrinterScene SceneOf(const SheetState& state) {
+    PrinterScene scene = {state.options, true, {}, {}};
+    const InputSlotRecord* source = state.family.table->inputTrays;
+    for (; source != nullptr && source->head.key[0] != 0; ++source)
+        if (source->head.value == state.settings.inputTray)
+            scene.tray = source->head.key;
+    return scene;
 }
 
 PrinterProfiles ProfilesOf(const SheetState& state) {

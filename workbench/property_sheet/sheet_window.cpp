@@ -36,13 +36,14 @@ HWND SheetWindow::CurrentPage() const {
     return reinterpret_cast<HWND>(SendMessageW(window, PSM_GETCURRENTPAGEHWND, 0, 0));
 }
 
-bool SheetWindow::HandleMessage() {
+bool SheetWindow::HandleMessages(DWORD longestWait) {
+    MsgWaitForMultipleObjectsEx(0, nullptr, longestWait, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
     MSG message;
-    if (GetMessageW(&message, nullptr, 0, 0) <= 0)
-        return false;
-    if (SendMessageW(window, PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(&message)) == 0) {
-        TranslateMessage(&message);
-        DispatchMessageW(&message);
+    while (CurrentPage() != nullptr && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+        if (SendMessageW(window, PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(&message)) == 0) {
+            TranslateMessage(&message);
+            DispatchMessageW(&message);
+        }
     }
     return CurrentPage() != nullptr;
 }

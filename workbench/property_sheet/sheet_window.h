@@ -16,8 +16,9 @@ public:
     HWND Window() const { return window; }
     HWND CurrentPage() const;
 
-    // Waits for a message and handles it. False when the sheet has been ended, by OK or Cancel.
-    bool HandleMessage();
+    // Waits for messages, at most so many milliseconds, and handles them. False when the sheet has been
+    // ended, by OK or Cancel.
+    bool HandleMessages(DWORD longestWait = INFINITE);
 
 private:
     std::vector<std::unique_ptr<PropertyPage>> pages;
