@@ -187,3 +187,8 @@ ProfileInfo* WINAPI MIB_ProfileRequest(const char* agent) {
     });
     return done ? reinterpret_cast<ProfileInfo*>(BuildBlock(found, kProfileSelectors)) : nullptr;
 }
+
+void WINAPI MIB_FreeOverlayInfo(void* block) {
+    if (block != nullptr)
+        LocalFree(block);
+}
