@@ -2,6 +2,7 @@
 #include "devcomm/printer_queries.h"
 
 #include "devcomm/object_reader.h"
+#include "devcomm/query_catalogue.h"
 #include "frame/scope_guard.h"
 #include "paramdata/text.h"
 

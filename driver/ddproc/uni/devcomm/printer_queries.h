@@ -46,7 +46,4 @@ ProfileInfo* WINAPI MIB_ProfileRequest(const char* agent);
 void WINAPI MIB_FreeOverlayInfo(void* block);
 }
 
-// MIB_IsModelOK by any table.
-BOOL CheckModel(const ModelCheckInfo& check, const char* agent);
-
 #endif

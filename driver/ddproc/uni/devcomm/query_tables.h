@@ -1,5 +1,5 @@
-// What the module asks printers about by SNMP: the static tables that drive the queries and that callers read
-// through the exports, and the records of questions and answers. Layouts are shared with other modules:
+// What the module asks printers about by SNMP: the records of the static tables, which callers read through
+// the exports, and those of questions and answers. Layouts are shared with other modules:
 // fields never move. Texts are 8-bit and terminated.
 #ifndef DEVCOMM_QUERY_TABLES_H
 #define DEVCOMM_QUERY_TABLES_H
@@ -178,11 +178,5 @@ struct ProfileInfo {
 static_assert(sizeof(ProfileInfo) == 48);
 
 #pragma pack(pop)
-
-extern const ModelCheckInfo kModelCheckInfo;
-extern const OptionReqInfo kOptionReqInfo;
-extern const MrkSupReqInfo kMrkSupReqInfo;
-extern const OverlayReqInfo kOverlayReqInfo;
-extern const ProfileReqInfo kProfileReqInfo;
 
 #endif
