@@ -5,7 +5,8 @@
 
 #include "devcomm/bdc_library.h"
 
-// Statuses of the library: negative ones are failures, and this one is for some calls.
+// Statuses of the library: negative ones are failures. So is this one, that the device has none of what was
+// asked for, of every call but the version's and those that only count.
 constexpr int32_t kBdcNothing = 1;
 
 // Selects the input trays with what lies in them.
@@ -14,11 +15,11 @@ constexpr uint32_t kBdcTraySelector = 2;
 #pragma pack(push, 1)
 
 struct BdcDeviceRecord {
-    uint32_t flags[2];
+    uint32_t flags[2]; // 1 each
     char agent[64];
     uint32_t communication; // 0, then as the communication information tells it
     uint8_t zero[256];
-    char secondText[64];
+    char secondText[64]; // always empty
     char community[32];
 };
 static_assert(sizeof(BdcDeviceRecord) == 428 && offsetof(BdcDeviceRecord, agent) == 8
