@@ -4,6 +4,7 @@
 #define DEVCOMM_BDC_DEVICE_H
 
 #include "devcomm/bdc_library.h"
+#include "frame/rows.h"
 
 // Statuses of the library: negative ones are failures. So is this one, that the device has none of what was
 // asked for, of every call but the version's and those that only count.
@@ -113,19 +114,10 @@ struct BdcList {
     uint32_t count;
 };
 
-template <typename Item>
-struct BdcItems {
-    const Item* first;
-    const Item* last;
-    const Item* begin() const { return first; }
-    const Item* end() const { return last; }
-};
-
 // The list as what it holds: BdcItemsOf<BdcOptionItem>(context.options).
 template <typename Item>
-BdcItems<Item> BdcItemsOf(const BdcList& list) {
-    const auto* first = static_cast<const Item*>(list.items);
-    return {first, first + list.count};
+Rows<Item> BdcItemsOf(const BdcList& list) {
+    return {static_cast<const Item*>(list.items), list.count};
 }
 
 // Model names that pass for this model.

@@ -187,7 +187,7 @@ const char* MediaTypeOf(const BdcInputTrayItem& tray) {
     return "";
 }
 
-uint32_t OptionBits(const BdcItems<BdcOptionItem>& options) {
+uint32_t OptionBits(const Rows<BdcOptionItem>& options) {
     uint32_t bits = 0;
     for (const auto& row : OptionModelTable) {
         uint32_t count = 0;
@@ -198,7 +198,7 @@ uint32_t OptionBits(const BdcItems<BdcOptionItem>& options) {
     return bits;
 }
 
-uint32_t FinisherBits(const BdcItems<BdcFinisherItem>& finishers) {
+uint32_t FinisherBits(const Rows<BdcFinisherItem>& finishers) {
     uint32_t bits = 0;
     for (const auto& row : FinisherFlagTable)
         for (const BdcFinisherItem& finisher : finishers)
@@ -206,14 +206,14 @@ uint32_t FinisherBits(const BdcItems<BdcFinisherItem>& finishers) {
     return bits;
 }
 
-uint32_t MemoryBits(const BdcItems<BdcMemoryItem>& memories) {
+uint32_t MemoryBits(const Rows<BdcMemoryItem>& memories) {
     uint32_t hardDisks = 0;
     for (const BdcMemoryItem& memory : memories)
         hardDisks += memory.kind == kHardDisk ? 1 : 0;
     return hardDisks == 1 ? 1 : 0;
 }
 
-uint32_t MediaPathBits(const BdcItems<BdcMediaPathInfo>& paths) {
+uint32_t MediaPathBits(const Rows<BdcMediaPathInfo>& paths) {
     uint32_t bits = 0;
     for (const auto& row : MediaPathTable)
         for (const BdcMediaPathInfo& info : paths)
