@@ -2,6 +2,7 @@
 #include "devcomm/bdc_device.h"
 
 #include "devcomm/locked_block.h"
+#include "frame/entry_point.h"
 #include "paramdata/text.h"
 
 #include <cstring>
@@ -23,7 +24,7 @@ using TrayListFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t*
 
 template <typename Function>
 Function* EntryPoint(const BdcDeviceContext& context, BdcFunction function) {
-    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(context.functions.entryPoints[function]));
+    return AsFunction<Function>(context.functions.entryPoints[function]);
 }
 
 bool Succeeded(int32_t status) {
