@@ -2,6 +2,7 @@
 #include "devcomm/bdc_device.h"
 
 #include "devcomm/locked_block.h"
+#include "devcomm/model.h"
 #include "frame/entry_point.h"
 #include "paramdata/text.h"
 
@@ -9,8 +10,6 @@
 
 namespace {
 
-constexpr const char* kModelName = "QUORVANE lumora R880";
-constexpr const char* kCommunity = "tovask";
 constexpr uint32_t kFirstState = 1;
 
 using VersionFunction = int32_t WINAPI(uint32_t* state, BdcLibVersion* version);

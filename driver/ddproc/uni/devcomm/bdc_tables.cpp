@@ -1,6 +1,7 @@
 // The tables of the bidirectional path, and the look-ups in them: see the header.
 #include "devcomm/bdc_tables.h"
 
+#include "devcomm/model.h"
 #include "paramdata/text.h"
 
 namespace {
@@ -43,8 +44,7 @@ constexpr struct {
     {1, 0x2},
 };
 
-constexpr const char* kModelName = "QUORVANE lumora R880"; // letter case ignored here
-constexpr uint32_t kHardDisk = 3;                          // kind of memory
+constexpr uint32_t kHardDisk = 3; // kind of memory
 
 // --- Rules: of the rows of an option the first holds whose masks are each 0 or share a bit with the device.
 
@@ -237,7 +237,7 @@ const BdcTrayKeys kUnknownTrayKeys = {
 
 BdcDeviceBits BdcDeriveBits(const BdcDeviceContext& context) {
     BdcDeviceBits bits;
-    bits.words[kModelBits] = SameText(context.name.longName, kModelName) ? 1 : 0;
+    bits.words[kModelBits] = SameText(context.name.longName, kModelName) ? 1 : 0; // in any letter case
     bits.words[kOptionBits] = OptionBits(BdcItemsOf<BdcOptionItem>(context.options));
     bits.words[kFinisherBits] = FinisherBits(BdcItemsOf<BdcFinisherItem>(context.finishers));
     bits.words[kMemoryBits] = MemoryBits(BdcItemsOf<BdcMemoryItem>(context.memory));

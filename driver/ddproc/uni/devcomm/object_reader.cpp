@@ -1,6 +1,7 @@
 // Reading one object of a printer: see the header.
 #include "devcomm/object_reader.h"
 
+#include "devcomm/model.h"
 #include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
@@ -8,7 +9,6 @@
 
 namespace {
 
-constexpr const char* kCommunity = "tovask";
 constexpr uint8_t kNumberTypes[] = {ASN_INTEGER, ASN_UINTEGER32, ASN_COUNTER32, ASN_GAUGE32, ASN_TIMETICKS};
 constexpr uint8_t kTextTypes[] = {ASN_OCTETSTRING, ASN_BITS, ASN_SEQUENCE, ASN_IPADDRESS, ASN_OPAQUE};
 
