@@ -1,7 +1,6 @@
 // Reading one object of a printer: see the header.
 #include "devcomm/object_reader.h"
 
-#include "devcomm/model.h"
 #include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
@@ -153,9 +152,9 @@ bool Matches(const ObjectReply& reply, int32_t comparison, const char* expected)
 
 } // namespace
 
-AgentSession::AgentSession(const char* agent, SessionLimits limits) {
+AgentSession::AgentSession(const char* agent, SessionLimits limits, const char* community) {
     const DWORD before = GetLastError();
-    handle = snmpEntryPoints.snmpMgrOpen(agent, kCommunity, limits.timeOut, limits.retries);
+    handle = snmpEntryPoints.snmpMgrOpen(agent, community, limits.timeOut, limits.retries);
     if (handle != nullptr)
         SetLastError(before);
 }

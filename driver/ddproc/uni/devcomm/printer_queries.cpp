@@ -10,7 +10,6 @@
 
 namespace {
 
-constexpr const char* kSysObjectId = ".1.3.6.1.2.1.1.2.0";
 constexpr int32_t kSomeLeft = -3; // of a level: more than nothing, but how much is not known
 constexpr int32_t kWholePercentage = 100;
 
@@ -125,7 +124,7 @@ BOOL WINAPI MIB_IsAccessOK(const char* agent) {
     if (!CanQuery(agent != nullptr && agent[0] != 0))
         return FALSE;
     const AgentSession session(agent, kReachLimits);
-    return session.handle != nullptr && AskForObject(session.handle, kSysObjectId);
+    return session.handle != nullptr && AskForObject(session.handle, kReachObject);
 }
 
 BOOL CheckModel(const ModelCheckInfo& check, const char* agent) {
