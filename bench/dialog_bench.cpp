@@ -2,6 +2,8 @@
 // entries, in turn: created, filled, shown, painted once, destroyed.
 #include "bench/stopwatch.h"
 #include "dialogs/dialog_context.h"
+#include "dialogs/dlg_proc.h"
+#include "frame/entry_point.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -13,9 +15,7 @@ namespace {
 constexpr int kRounds = 100;
 constexpr uint32_t kDialogId = 128;
 
-using DlgProcFunction = int32_t WINAPI(uint32_t dialogId, HWND window, UINT message, WPARAM wParam,
-                                       LPARAM lParam, int32_t* handled);
-DlgProcFunction* dlgProc;
+decltype(DDProc_DlgProc)* dlgProc;
 
 // The entries of each list, as the module has filled them.
 std::map<int, std::vector<std::wstring>> entries;
@@ -74,8 +74,7 @@ int wmain(int, wchar_t** arguments) {
     const std::filesystem::path folder = std::filesystem::absolute(arguments[0]).parent_path();
     HMODULE module = LoadLibraryW((folder / "TELMAR_D.DLL").c_str());
     HMODULE templates = LoadLibraryW((folder / "TELMAR_S.DLL").c_str());
-    dlgProc = reinterpret_cast<DlgProcFunction*>(
-        reinterpret_cast<void (*)()>(GetProcAddress(module, "DDProc_DlgProc")));
+    dlgProc = FindEntryPoint<decltype(DDProc_DlgProc)>(module, "DDProc_DlgProc");
     OemDevmode settings = {};
     OemDevmode saveArea = {};
     OemDevmode scratch = {};

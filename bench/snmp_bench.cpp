@@ -1,6 +1,7 @@
 // The built-in SNMP client against net-snmp's library: a GetRequest built, a reply read, and requests to the
 // same agent on loopback, these also against a bare UDP echo; all the options of a printer asked at once; and
 // how long a silent agent is waited for.
+#include "devcomm/model.h"
 #include "devcomm/printer_queries.h"
 #include "devcomm/snmp_client.h"
 #include "devcomm/snmp_entry_points.h"
@@ -20,7 +21,6 @@ namespace {
 // hrStorageSize.1 and a reply to request 257, "640".
 constexpr const char* kObject = ".1.3.6.1.2.1.25.2.3.1.5.1";
 constexpr UINT kArcs[] = {1, 3, 6, 1, 2, 1, 25, 2, 3, 1, 5, 1};
-constexpr const char* kCommunity = "tovask";
 constexpr uint32_t kRequestId = 257;
 uint8_t reply[] = {0x30, 0x2C, 0x02, 0x01, 0x00, 0x04, 0x06, 't',  'o',  'v',  'a',  's',
                    'k',  0xA2, 0x1F, 0x02, 0x02, 0x01, 0x01, 0x02, 0x01, 0x00, 0x02, 0x01,

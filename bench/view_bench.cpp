@@ -1,7 +1,8 @@
 // Drawing the printer's picture, against the bare system calls that the same picture takes with its bitmaps
 // already loaded and selected, in turn; and what part of it goes into loading the bitmaps.
 #include "bench/stopwatch.h"
-#include "picture/view_request.h"
+#include "frame/entry_point.h"
+#include "picture/printer_view.h"
 
 #include <cstdio>
 #include <cstring>
@@ -64,9 +65,7 @@ void LoadAndFree(HMODULE module) {
 int wmain(int, wchar_t** arguments) {
     const std::filesystem::path folder = std::filesystem::absolute(arguments[0]).parent_path();
     HMODULE module = LoadLibraryW((folder / "TELMAR_D.DLL").c_str());
-    using Function = void WINAPI(HDC, const RECT*, const PrinterViewRequest*);
-    auto* draw =
-        reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(GetProcAddress(module, "DrawPrinterView")));
+    auto* draw = FindEntryPoint<decltype(DrawPrinterView)>(module, "DrawPrinterView");
     if (draw == nullptr) {
         fprintf(stderr, "view_bench: TELMAR_D.DLL must lie beside this program\n");
         return 1;

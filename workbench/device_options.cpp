@@ -2,6 +2,7 @@
 #include "device_options.h"
 
 #include "devcomm/printer_queries.h"
+#include "devcomm/snmp_errors.h"
 #include "paramdata/text.h"
 #include "record_fields.h"
 
@@ -20,15 +21,15 @@ constexpr Field kAnswerFields[] = {
     {"answer", Show<&OptionRequestItem::value>},
 };
 
-// Last errors that requests leave and that mean something else to the system.
+// Last errors of the module's own client, which mean something else to the system.
 constexpr struct {
     DWORD error;
     const char* text;
 } kRequestErrors[] = {
-    {3, "only answers to other requests came"},
-    {11, "its answer is malformed"},
-    {4102, "no answer came"},
-    {0xFFFFFFFF, "sending or receiving failed"},
+    {kSnmpOtherRequests, "only answers to other requests came"},
+    {kSnmpBadReply, "its answer is malformed"},
+    {kSnmpNoAnswer, "no answer came"},
+    {kSnmpTransferFailed, "sending or receiving failed"},
 };
 
 std::string RequestErrorText(DWORD error) {

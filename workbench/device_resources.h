@@ -13,9 +13,6 @@ using StoredResources = std::vector<StoredResourceEntry>;
 using StoredProfiles =
     std::array<StoredResources, kProfileSelectors>; // RGB sources, simulations, destinations
 
-// What the state of a supply says of its value.
-enum SupplyState : int32_t { kStateUnknown, kStatePercent, kStateLevel, kStatePresent };
-
 // All throw Failure when the printer can't be asked. Storages are 0 and 1.
 Supplies AskSupplies(const FamilyFiles& family, const std::string& agent);
 StoredResources AskOverlays(const FamilyFiles& family, const std::string& agent, int32_t storage);

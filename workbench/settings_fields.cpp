@@ -4,7 +4,6 @@
 #include "record_fields.h"
 
 #include <bitset>
-#include <iterator>
 #include <type_traits>
 
 namespace {
@@ -159,8 +158,8 @@ void AddChange(Document& changes, const Document& name, size_t offset, const Doc
 
 } // namespace
 
-SettingsFieldRange SettingsFields() {
-    return {std::begin(kFields), std::end(kFields)};
+Rows<SettingsField> SettingsFields() {
+    return kFields;
 }
 
 Document ShowSetting(const SettingsField& field, const OemDevmode& settings) {

@@ -3,6 +3,7 @@
 #define WORKBENCH_SETTINGS_FIELDS_H
 
 #include "document.h"
+#include "frame/rows.h"
 #include "paramdata/oem_devmode.h"
 
 // One field of the settings.
@@ -15,13 +16,7 @@ struct SettingsField {
 };
 
 // Every field, in the order of the record within a group; the font table, which is none of them, follows.
-struct SettingsFieldRange {
-    const SettingsField* first;
-    const SettingsField* last;
-    const SettingsField* begin() const { return first; }
-    const SettingsField* end() const { return last; }
-};
-SettingsFieldRange SettingsFields();
+Rows<SettingsField> SettingsFields();
 
 Document ShowSetting(const SettingsField& field, const OemDevmode& settings);
 

@@ -2,9 +2,6 @@
 // the rest is in the equipment's tables of docs/simulating_a_printer.md.
 #include "bdclib/device_reader.h"
 
-#include "frame/scope_guard.h"
-#include "paramdata/text.h"
-
 #include <cstring>
 
 namespace {
@@ -19,7 +16,7 @@ constexpr uint32_t kMostDevices = 16; // of the host, among which the printer is
 #define HOST_DEVICE ".1.3.6.1.2.1.25.3.2.1"
 #define PRINTER_MIB ".1.3.6.1.2.1.43"
 
-constexpr const char* kModelName = EQUIPMENT ".1";
+constexpr const char* kEquipmentName = EQUIPMENT ".1";
 constexpr const char* kHostDeviceType = HOST_DEVICE ".2";
 constexpr const char* kHostDeviceText = HOST_DEVICE ".3";
 constexpr const char* kTypePrinter = ".1.3.6.1.2.1.25.3.1.5";
@@ -62,7 +59,7 @@ Words Text(DeviceRow& row, const DeviceColumn& column) {
 }
 
 DeviceRow MakeRow(const DeviceSession& session, uint32_t number) {
-    DeviceRow row = {session.handle, number, {}, {}, false};
+    DeviceRow row = {session.connection.handle, number, {}, {}, false};
     AppendArc(row.ofDevice, number);
     AppendArc(row.ofPrinter, session.printer);
     AppendArc(row.ofPrinter, number);
@@ -180,19 +177,10 @@ const DeviceList kFinisherList   = {kFinisherNumber,    kMostRows,   false, size
 // clang-format on
 
 DeviceSession::DeviceSession(const BdcDeviceRecord& device)
-    : printer(device.communication != 0 ? device.communication : 1), agent(), community() {
-    CopyText(agent, device.agent);
-    CopyText(community, device.community);
-    // A device that has not told its printer's number has not been reached: it is not waited for as long.
-    const SessionLimits limits = device.communication != 0 ? kQueryLimits : kReachLimits;
-    handle = snmpEntryPoints.snmpMgrOpen(agent, community, limits.timeOut, limits.retries);
-}
-
-DeviceSession::~DeviceSession() {
-    const KeepLastError keep;
-    if (handle != nullptr)
-        snmpEntryPoints.snmpMgrClose(handle);
-}
+    : printer(device.communication != 0 ? device.communication : 1), community(device.community),
+      // A device that has not told its printer's number has not been reached: it is not waited for as long.
+      connection(TerminatedText(device.agent).text, device.communication != 0 ? kQueryLimits : kReachLimits,
+                 community.text) {}
 
 bool ReadList(const DeviceSession& session, const DeviceList& list, void* items, uint32_t capacity,
               uint32_t& count) {
@@ -223,13 +211,13 @@ bool ReadPrinterNumber(SnmpSession session, uint32_t& number) {
 }
 
 bool ReadModelName(const DeviceSession& session, ObjectText& name) {
-    if (!ReadText(session.handle, kModelName, ".0", name))
+    if (!ReadText(session.connection.handle, kEquipmentName, ".0", name))
         return false;
     if (name[0] != 0)
         return true;
     ObjectSuffix suffix = {};
     AppendArc(suffix, session.printer);
-    return ReadText(session.handle, kHostDeviceText, suffix, name);
+    return ReadText(session.connection.handle, kHostDeviceText, suffix, name);
 }
 
 bool ReadMediaPaths(const DeviceSession& session, uint32_t& count, bool& hasDuplex) {

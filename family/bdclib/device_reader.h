@@ -5,20 +5,22 @@
 
 #include "devcomm/bdc_device.h"
 #include "devcomm/object_reader.h"
+#include "paramdata/text.h"
+
+// The text of a record's field, terminated, as the field need not be.
+template <size_t kLength>
+struct TerminatedText {
+    explicit TerminatedText(const char (&field)[kLength]) { CopyText(text, field); }
+    char text[kLength + 1];
+};
 
 // A session with the device for the time of a scope, in the community of its record.
 struct DeviceSession {
     explicit DeviceSession(const BdcDeviceRecord& device);
-    ~DeviceSession();
-    DeviceSession(const DeviceSession&) = delete;
-    DeviceSession& operator=(const DeviceSession&) = delete;
 
-    SnmpSession handle; // null: not opened, the last error tells why
-    uint32_t printer;   // number of the printer among the host's devices
-
-private:
-    char agent[sizeof(BdcDeviceRecord::agent) + 1]; // both terminated, as the record's need not be
-    char community[sizeof(BdcDeviceRecord::community) + 1];
+    const uint32_t printer; // number of the printer among the host's devices
+    const TerminatedText<sizeof(BdcDeviceRecord::community)> community;
+    const AgentSession connection;
 };
 
 // A row of the device's tables. `failed`, that a request got no answer, is sticky: objects are read one after

@@ -16,7 +16,7 @@ int32_t AnswerList(const DeviceList& list, const BdcDeviceRecord* device, uint32
         return kBdcBadArgument;
     const DeviceSession session(*device);
     uint32_t found = 0;
-    if (session.handle == nullptr || !ReadList(session, list, items, *count, found))
+    if (session.connection.handle == nullptr || !ReadList(session, list, items, *count, found))
         return kBdcNoAnswer;
     *count = found;
     return found != 0 ? kBdcDone : kBdcNothing;
@@ -42,12 +42,11 @@ int32_t WINAPI BdcGetLibVersion(uint32_t* /*state*/, BdcLibVersion* version) {
 }
 
 int32_t WINAPI BdcGetDevCommInfo(const char* agent, uint32_t* /*state*/, BdcCommInfo* info) {
-    constexpr const char* kSysObjectId = ".1.3.6.1.2.1.1.2.0";
     if (agent == nullptr || agent[0] == 0 || info == nullptr)
         return kBdcBadArgument;
     const AgentSession session(agent, kReachLimits);
     uint32_t printer = 0;
-    if (session.handle == nullptr || !AskForObject(session.handle, kSysObjectId)
+    if (session.handle == nullptr || !AskForObject(session.handle, kReachObject)
         || !ReadPrinterNumber(session.handle, printer))
         return kBdcNoAnswer;
     *info = {};
@@ -60,7 +59,7 @@ int32_t WINAPI BdcGetDevName(const BdcDeviceRecord* device, uint32_t* /*state*/,
         return kBdcBadArgument;
     const DeviceSession session(*device);
     ObjectText name;
-    if (session.handle == nullptr || !ReadModelName(session, name))
+    if (session.connection.handle == nullptr || !ReadModelName(session, name))
         return kBdcNoAnswer;
     *info = {};
     CopyText(info->longName, name);
@@ -75,7 +74,7 @@ int32_t WINAPI BdcGetDevMediaPathInfo(const BdcDeviceRecord* device, uint32_t* /
     const DeviceSession session(*device);
     uint32_t count = 0;
     bool hasDuplex = false;
-    if (session.handle == nullptr || !ReadMediaPaths(session, count, hasDuplex))
+    if (session.connection.handle == nullptr || !ReadMediaPaths(session, count, hasDuplex))
         return kBdcNoAnswer;
     *info = {};
     info->path = hasDuplex ? 1 : 0;

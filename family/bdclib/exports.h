@@ -1,4 +1,4 @@
-// TELMAR_B.DLL, a stand-in of the driver family's bidirectional library: asks networked devices by SNMP and
+// TELMAR_B.DLL, a stand-in for the driver family's bidirectional library: asks networked devices by SNMP and
 // answers in the records of devcomm/bdc_device.h. What those records do not name stays 0, but for the numbers
 // and texts that bdclib/device_reader.cpp puts there.
 //

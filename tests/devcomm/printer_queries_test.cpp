@@ -2,6 +2,7 @@
 // asked, in which order, and what the caller gets.
 #include "devcomm/object_reader.h"
 #include "devcomm/printer_queries.h"
+#include "devcomm/query_catalogue.h"
 #include "devcomm/scripted_device.h"
 #include "frame/exports.h"
 #include "paramdata/text.h"

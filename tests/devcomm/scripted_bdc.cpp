@@ -1,4 +1,4 @@
-// The scripted stand-in of the bidirectional library: see the header.
+// The scripted stand-in for the bidirectional library: see the header.
 #include "devcomm/scripted_bdc.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-// A stand-in of the bidirectional library that answers as a test has scripted, and records every call. On the
+// A stand-in for the bidirectional library that answers as a test scripted, and records every call. On the
 // host a test registers its entry points; on Windows those of a library file (../abi/bdc_stub.cpp) lead here.
 // Records and items are laid out octet by octet, independently of the module's structs.
 #ifndef DEVCOMM_SCRIPTED_BDC_H

@@ -1,4 +1,5 @@
 // Host only: the module's entry point, its handles, and the exports that the frame itself answers.
+#include "devcomm/printer_queries.h"
 #include "frame/entry.h"
 #include "frame/exports.h"
 #include "frame/module_handles.h"

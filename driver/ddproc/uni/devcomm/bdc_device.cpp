@@ -2,14 +2,14 @@
 #include "devcomm/bdc_device.h"
 
 #include "devcomm/locked_block.h"
+#include "devcomm/model.h"
+#include "frame/entry_point.h"
 #include "paramdata/text.h"
 
 #include <cstring>
 
 namespace {
 
-constexpr const char* kModelName = "QUORVANE lumora R880";
-constexpr const char* kCommunity = "tovask";
 constexpr uint32_t kFirstState = 1;
 
 using VersionFunction = int32_t WINAPI(uint32_t* state, BdcLibVersion* version);
@@ -23,7 +23,7 @@ using TrayListFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t*
 
 template <typename Function>
 Function* EntryPoint(const BdcDeviceContext& context, BdcFunction function) {
-    return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(context.functions.entryPoints[function]));
+    return AsFunction<Function>(context.functions.entryPoints[function]);
 }
 
 bool Succeeded(int32_t status) {

@@ -4,8 +4,10 @@
 #define DEVCOMM_BDC_DEVICE_H
 
 #include "devcomm/bdc_library.h"
+#include "frame/rows.h"
 
-// Statuses of the library: negative ones are failures, and this one is for some calls.
+// Statuses of the library: negative ones are failures. So is this one, that the device has none of what was
+// asked for, of every call but the version's and those that only count.
 constexpr int32_t kBdcNothing = 1;
 
 // Selects the input trays with what lies in them.
@@ -14,11 +16,11 @@ constexpr uint32_t kBdcTraySelector = 2;
 #pragma pack(push, 1)
 
 struct BdcDeviceRecord {
-    uint32_t flags[2];
+    uint32_t flags[2]; // 1 each
     char agent[64];
     uint32_t communication; // 0, then as the communication information tells it
     uint8_t zero[256];
-    char secondText[64];
+    char secondText[64]; // always empty
     char community[32];
 };
 static_assert(sizeof(BdcDeviceRecord) == 428 && offsetof(BdcDeviceRecord, agent) == 8
@@ -112,19 +114,10 @@ struct BdcList {
     uint32_t count;
 };
 
-template <typename Item>
-struct BdcItems {
-    const Item* first;
-    const Item* last;
-    const Item* begin() const { return first; }
-    const Item* end() const { return last; }
-};
-
 // The list as what it holds: BdcItemsOf<BdcOptionItem>(context.options).
 template <typename Item>
-BdcItems<Item> BdcItemsOf(const BdcList& list) {
-    const auto* first = static_cast<const Item*>(list.items);
-    return {first, first + list.count};
+Rows<Item> BdcItemsOf(const BdcList& list) {
+    return {static_cast<const Item*>(list.items), list.count};
 }
 
 // Model names that pass for this model.

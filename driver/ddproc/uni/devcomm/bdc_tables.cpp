@@ -1,6 +1,7 @@
 // The tables of the bidirectional path, and the look-ups in them: see the header.
 #include "devcomm/bdc_tables.h"
 
+#include "devcomm/model.h"
 #include "paramdata/text.h"
 
 namespace {
@@ -43,8 +44,7 @@ constexpr struct {
     {1, 0x2},
 };
 
-constexpr const char* kModelName = "QUORVANE lumora R880"; // letter case ignored here
-constexpr uint32_t kHardDisk = 3;                          // kind of memory
+constexpr uint32_t kHardDisk = 3; // kind of memory
 
 // --- Rules: of the rows of an option the first holds whose masks are each 0 or share a bit with the device.
 
@@ -187,7 +187,7 @@ const char* MediaTypeOf(const BdcInputTrayItem& tray) {
     return "";
 }
 
-uint32_t OptionBits(const BdcItems<BdcOptionItem>& options) {
+uint32_t OptionBits(const Rows<BdcOptionItem>& options) {
     uint32_t bits = 0;
     for (const auto& row : OptionModelTable) {
         uint32_t count = 0;
@@ -198,7 +198,7 @@ uint32_t OptionBits(const BdcItems<BdcOptionItem>& options) {
     return bits;
 }
 
-uint32_t FinisherBits(const BdcItems<BdcFinisherItem>& finishers) {
+uint32_t FinisherBits(const Rows<BdcFinisherItem>& finishers) {
     uint32_t bits = 0;
     for (const auto& row : FinisherFlagTable)
         for (const BdcFinisherItem& finisher : finishers)
@@ -206,14 +206,14 @@ uint32_t FinisherBits(const BdcItems<BdcFinisherItem>& finishers) {
     return bits;
 }
 
-uint32_t MemoryBits(const BdcItems<BdcMemoryItem>& memories) {
+uint32_t MemoryBits(const Rows<BdcMemoryItem>& memories) {
     uint32_t hardDisks = 0;
     for (const BdcMemoryItem& memory : memories)
         hardDisks += memory.kind == kHardDisk ? 1 : 0;
     return hardDisks == 1 ? 1 : 0;
 }
 
-uint32_t MediaPathBits(const BdcItems<BdcMediaPathInfo>& paths) {
+uint32_t MediaPathBits(const Rows<BdcMediaPathInfo>& paths) {
     uint32_t bits = 0;
     for (const auto& row : MediaPathTable)
         for (const BdcMediaPathInfo& info : paths)
@@ -237,7 +237,7 @@ const BdcTrayKeys kUnknownTrayKeys = {
 
 BdcDeviceBits BdcDeriveBits(const BdcDeviceContext& context) {
     BdcDeviceBits bits;
-    bits.words[kModelBits] = SameText(context.name.longName, kModelName) ? 1 : 0;
+    bits.words[kModelBits] = SameText(context.name.longName, kModelName) ? 1 : 0; // in any letter case
     bits.words[kOptionBits] = OptionBits(BdcItemsOf<BdcOptionItem>(context.options));
     bits.words[kFinisherBits] = FinisherBits(BdcItemsOf<BdcFinisherItem>(context.finishers));
     bits.words[kMemoryBits] = MemoryBits(BdcItemsOf<BdcMemoryItem>(context.memory));

@@ -1,14 +1,11 @@
 // Reading of BER elements: see the header.
 #include "devcomm/ber_reader.h"
 
+#include "devcomm/ber.h"
+
 namespace {
 
-constexpr uint8_t kIntegerTag = 0x02;
-constexpr uint8_t kLongForm = 0x80; // of a length; the low bits count its octets
 constexpr uint8_t kMostLengthOctets = 4;
-constexpr uint8_t kMoreGroups = 0x80; // of an arc
-constexpr uint32_t kGroupBits = 7;
-constexpr uint32_t kArcsPerFirst = 40;
 
 size_t Left(const BerReader& reader) {
     return static_cast<size_t>(reader.end - reader.at);
@@ -26,9 +23,9 @@ uint8_t TakeOctet(BerReader& reader) {
 
 size_t TakeLength(BerReader& reader) {
     const uint8_t first = TakeOctet(reader);
-    if (first < kLongForm)
+    if (first < kBerLongForm)
         return first;
-    const uint8_t count = first - kLongForm;
+    const uint8_t count = first - kBerLongForm;
     if (count == 0 || count > kMostLengthOctets) // the indefinite form, or one that is too long
         Fail(reader);
     size_t length = 0;
@@ -90,7 +87,7 @@ int32_t BerInteger(BerReader& contents) {
 }
 
 int32_t BerReadInteger(BerReader& reader) {
-    BerReader contents = BerOpen(reader, kIntegerTag);
+    BerReader contents = BerOpen(reader, kBerIntegerTag);
     const int32_t value = BerInteger(contents);
     if (contents.failed)
         Fail(reader);
@@ -104,15 +101,15 @@ uint32_t BerReadArcs(BerReader& contents, uint32_t* arcs, uint32_t capacity) {
     }
     const uint8_t first = *contents.at++;
     uint32_t count = 0;
-    arcs[count++] = first / kArcsPerFirst;
-    arcs[count++] = first % kArcsPerFirst;
+    arcs[count++] = first / kBerArcsPerFirst;
+    arcs[count++] = first % kBerArcsPerFirst;
     while (contents.at != contents.end) {
         uint64_t arc = 0;
         uint8_t octet;
         do {
             octet = TakeOctet(contents); // an incomplete arc fails here
-            arc = arc << kGroupBits | (octet & ~kMoreGroups);
-        } while ((octet & kMoreGroups) != 0 && arc <= UINT32_MAX);
+            arc = arc << kBerGroupBits | (octet & ~kBerMoreGroups);
+        } while ((octet & kBerMoreGroups) != 0 && arc <= UINT32_MAX);
         if (contents.failed || arc > UINT32_MAX || count == capacity) {
             Fail(contents);
             return 0;

@@ -2,18 +2,15 @@
 // two, three or four length octets.
 #include "devcomm/ber_writer.h"
 
+#include "devcomm/ber.h"
+
 #include <cstring>
 #include <windows.h>
 
 namespace {
 
-constexpr uint8_t kIntegerTag = 0x02;
-constexpr uint8_t kOidTag = 0x06;
 constexpr uint32_t kMostShortLength = 0x7F;
-constexpr uint8_t kLongForm = 0x80;
-constexpr uint8_t kMoreGroups = 0x80;
 constexpr uint32_t kGroup = 0x7F;
-constexpr uint32_t kGroupBits = 7;
 
 uint32_t LengthOctets(uint32_t contents) {
     return contents <= kMostShortLength ? 0 : contents <= 0xFFFF ? 2 : contents <= 0xFFFFFF ? 3 : 4;
@@ -25,12 +22,12 @@ uint32_t HeaderSize(uint32_t contents) {
 
 // Of an element that is there already.
 uint32_t HeaderSize(const BerBuffer& element) {
-    return element.octets[1] <= kMostShortLength ? 2 : 2u + (element.octets[1] & ~kLongForm);
+    return element.octets[1] <= kMostShortLength ? 2 : 2u + (element.octets[1] & ~kBerLongForm);
 }
 
 void WriteLength(uint8_t* element, uint32_t contents) {
     const uint32_t lengthOctets = LengthOctets(contents);
-    element[1] = static_cast<uint8_t>(lengthOctets == 0 ? contents : kLongForm | lengthOctets);
+    element[1] = static_cast<uint8_t>(lengthOctets == 0 ? contents : kBerLongForm | lengthOctets);
     for (uint32_t i = lengthOctets; i > 0; --i, contents >>= 8)
         element[1 + i] = static_cast<uint8_t>(contents);
 }
@@ -52,19 +49,19 @@ void Grow(BerBuffer& element, uint32_t added) {
 
 // Contents of an OBJECT IDENTIFIER; 0 when they can't be written.
 uint32_t WriteArcs(const uint32_t* arcs, uint32_t count, uint8_t (&to)[kBerMostOid]) {
-    if (count < 2 || arcs[0] >= 3 || arcs[1] >= 40)
+    if (count < 2 || !AreFirstArcs(arcs[0], arcs[1]))
         return 0;
     uint32_t written = 0;
-    to[written++] = static_cast<uint8_t>(arcs[0] * 40 + arcs[1]);
+    to[written++] = static_cast<uint8_t>(arcs[0] * kBerArcsPerFirst + arcs[1]);
     for (uint32_t i = 2; i < count; ++i) {
         uint32_t groups = 1;
-        while (groups < 5 && arcs[i] >> (groups * kGroupBits) != 0)
+        while (groups < 5 && arcs[i] >> (groups * kBerGroupBits) != 0)
             ++groups;
         if (groups > kBerMostOid - written)
             return 0;
         while (groups-- > 0)
-            to[written++] = static_cast<uint8_t>((arcs[i] >> (groups * kGroupBits) & kGroup)
-                                                 | (groups > 0 ? kMoreGroups : 0));
+            to[written++] = static_cast<uint8_t>((arcs[i] >> (groups * kBerGroupBits) & kGroup)
+                                                 | (groups > 0 ? kBerMoreGroups : 0));
     }
     return written;
 }
@@ -114,13 +111,13 @@ void BerAppendInteger(BerBuffer& outer, int32_t value) {
     uint32_t skipped = 0;
     while (skipped < kBerMostInteger - 1 && octets[skipped] == ((octets[skipped + 1] & 0x80) != 0 ? 0xFF : 0))
         ++skipped;
-    BerAppendOctets(outer, kIntegerTag, octets + skipped, kBerMostInteger - skipped);
+    BerAppendOctets(outer, kBerIntegerTag, octets + skipped, kBerMostInteger - skipped);
 }
 
 bool BerAppendOid(BerBuffer& outer, const uint32_t* arcs, uint32_t count) {
     uint8_t contents[kBerMostOid];
     const uint32_t length = WriteArcs(arcs, count, contents);
     if (length > 0)
-        BerAppendOctets(outer, kOidTag, contents, length);
+        BerAppendOctets(outer, kBerOidTag, contents, length);
     return length > 0;
 }

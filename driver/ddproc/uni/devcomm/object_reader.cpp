@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr const char* kCommunity = "tovask";
 constexpr uint8_t kNumberTypes[] = {ASN_INTEGER, ASN_UINTEGER32, ASN_COUNTER32, ASN_GAUGE32, ASN_TIMETICKS};
 constexpr uint8_t kTextTypes[] = {ASN_OCTETSTRING, ASN_BITS, ASN_SEQUENCE, ASN_IPADDRESS, ASN_OPAQUE};
 
@@ -114,18 +113,6 @@ bool TextOf(const AsnAny* value, char (&text)[Capacity]) {
     return true;
 }
 
-// Leading blanks and a sign allowed; what follows the digits is ignored, and digits beyond 32 bits are lost.
-int32_t ParseNumber(const char* text) {
-    while (*text == ' ' || *text == '\t')
-        ++text;
-    const bool isNegative = *text == '-';
-    text += *text == '-' || *text == '+' ? 1 : 0;
-    uint32_t number = 0;
-    for (; IsDigit(*text); ++text)
-        number = number * 10 + static_cast<uint32_t>(*text - '0');
-    return static_cast<int32_t>(isNegative ? 0 - number : number);
-}
-
 bool IsSameOid(const AsnObjectIdentifier& oid, const char* text) {
     if (oid.ids == nullptr)
         return false;
@@ -152,7 +139,7 @@ bool Matches(const ObjectReply& reply, int32_t comparison, const char* expected)
     case kCompareExists:
         return reply.errorStatus == 0;
     case kCompareNumber:
-        return NumberOf(value, number) && number == ParseNumber(expected);
+        return NumberOf(value, number) && static_cast<uint32_t>(number) == ParseDecimal(expected);
     case kCompareText:
         return TextOf(value, text) && strcmp(text, expected) == 0;
     case kCompareOid:
@@ -165,9 +152,9 @@ bool Matches(const ObjectReply& reply, int32_t comparison, const char* expected)
 
 } // namespace
 
-AgentSession::AgentSession(const char* agent, SessionLimits limits) {
+AgentSession::AgentSession(const char* agent, SessionLimits limits, const char* community) {
     const DWORD before = GetLastError();
-    handle = snmpEntryPoints.snmpMgrOpen(agent, kCommunity, limits.timeOut, limits.retries);
+    handle = snmpEntryPoints.snmpMgrOpen(agent, community, limits.timeOut, limits.retries);
     if (handle != nullptr)
         SetLastError(before);
 }

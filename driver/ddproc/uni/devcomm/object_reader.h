@@ -4,6 +4,7 @@
 #ifndef DEVCOMM_OBJECT_READER_H
 #define DEVCOMM_OBJECT_READER_H
 
+#include "devcomm/model.h"
 #include "devcomm/query_tables.h"
 #include "devcomm/snmp_entry_points.h"
 
@@ -28,9 +29,9 @@ constexpr SessionLimits kReachLimits = {1000, 1};
 constexpr SessionLimits kQueryLimits = {2000, 3};
 
 // A session with an agent for the time of a scope. Opening and closing leave the last error as it was; only a
-// failed opening tells why.
+// failed opening tells why. The community must stay as long as the session does.
 struct AgentSession {
-    AgentSession(const char* agent, SessionLimits limits);
+    AgentSession(const char* agent, SessionLimits limits, const char* community = kCommunity);
     ~AgentSession();
     AgentSession(const AgentSession&) = delete;
     AgentSession& operator=(const AgentSession&) = delete;
@@ -41,6 +42,9 @@ struct AgentSession {
 // Where an object lies below its table's OID: ".N", ".1.N". Holds two arcs; what does not fit is cut.
 using ObjectSuffix = char[24];
 void AppendArc(ObjectSuffix& suffix, uint32_t arc);
+
+// What is asked where only an answer matters: sysObjectID, which every agent has.
+constexpr const char* kReachObject = ".1.3.6.1.2.1.1.2.0";
 
 // Whether the agent answers a request of the object, with whatever.
 bool AskForObject(SnmpSession session, const char* oid);

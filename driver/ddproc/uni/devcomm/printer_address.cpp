@@ -3,6 +3,7 @@
 #include "devcomm/printer_address.h"
 
 #include "devcomm/system_library.h"
+#include "frame/entry_point.h"
 #include "frame/scope_guard.h"
 #include "paramdata/text.h"
 

@@ -2,6 +2,7 @@
 #include "devcomm/printer_queries.h"
 
 #include "devcomm/object_reader.h"
+#include "devcomm/query_catalogue.h"
 #include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
@@ -9,14 +10,8 @@
 
 namespace {
 
-constexpr const char* kSysObjectId = ".1.3.6.1.2.1.1.2.0";
 constexpr int32_t kSomeLeft = -3; // of a level: more than nothing, but how much is not known
 constexpr int32_t kWholePercentage = 100;
-
-// States of a supply as the caller gets them, and the values of the level state.
-constexpr int32_t kStatePercentage = 1;
-constexpr int32_t kStateLevel = 2;
-constexpr int32_t kStateFixed = 3;
 
 const OptionRecord* FindOption(const QueryKey& key) {
     for (int32_t i = 0; i < kOptionReqInfo.count; ++i)
@@ -61,12 +56,12 @@ bool Percentage(int32_t level, int32_t capacity, int32_t& percentage) {
     return rounded >= 0 && rounded <= kWholePercentage;
 }
 
-int32_t LevelState(int32_t level, bool flag) {
+int32_t LevelOf(int32_t level, bool fillsUp) {
     if (level == 0)
-        return flag ? 4 : 1;
+        return fillsUp ? kLevelFull : kLevelEmpty;
     if (level == 1)
-        return flag ? 3 : 2;
-    return level > 1 || level == kSomeLeft ? 5 : 0;
+        return fillsUp ? kLevelNearlyFull : kLevelNearlyEmpty;
+    return level > 1 || level == kSomeLeft ? kLevelInOrder : kLevelNotTold;
 }
 
 bool ReadSupply(SnmpSession session, const MrkSupItem& supply, int32_t& capacity, int32_t& level) {
@@ -90,12 +85,12 @@ void AskSupply(SnmpSession session, const MrkSupItem& supply, MrkSupRequestItem&
         || !ReadSupply(session, supply, capacity, level))
         return;
     if (supply.kind == kSupplyPercentage && Percentage(level, capacity, percentage)) {
-        item.state = kStatePercentage;
+        item.state = kStatePercent;
         item.value = percentage;
         item.color = supply.color;
     } else if (supply.kind == kSupplyLevel) {
         item.state = kStateLevel;
-        item.value = LevelState(level, supply.levelFlag != 0);
+        item.value = LevelOf(level, supply.levelFlag != 0);
     }
 }
 
@@ -129,7 +124,7 @@ BOOL WINAPI MIB_IsAccessOK(const char* agent) {
     if (!CanQuery(agent != nullptr && agent[0] != 0))
         return FALSE;
     const AgentSession session(agent, kReachLimits);
-    return session.handle != nullptr && AskForObject(session.handle, kSysObjectId);
+    return session.handle != nullptr && AskForObject(session.handle, kReachObject);
 }
 
 BOOL CheckModel(const ModelCheckInfo& check, const char* agent) {
@@ -171,7 +166,7 @@ BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem*
         return FALSE;
     const KeepLastError keep; // whatever single items give
     for (DWORD i = 0; i < count; ++i) {
-        items[i].state = 0;
+        items[i].state = kStateUnknown;
         items[i].value = 0;
         items[i].color = 0;
         const MrkSupItem* supply = FindSupply(items[i].name);

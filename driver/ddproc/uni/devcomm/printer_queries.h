@@ -40,9 +40,10 @@ BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem*
 // fails, the last error telling why, for another storage (87) and without memory.
 OverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage);
 ProfileInfo* WINAPI MIB_ProfileRequest(const char* agent);
-}
 
-// MIB_IsModelOK by any table.
-BOOL CheckModel(const ModelCheckInfo& check, const char* agent);
+// Releases a block that MIB_OverlayRequest or MIB_ProfileRequest handed out; null is accepted. Exported under
+// both names, also as MIB_FreeProfileInfo.
+void WINAPI MIB_FreeOverlayInfo(void* block);
+}
 
 #endif

@@ -1,6 +1,6 @@
-// The static tables of the printer queries: see the header. All of it is constant data, laid out at compile
-// time.
-#include "devcomm/query_tables.h"
+// The static tables of the printer queries. All of it is constant data, laid out at compile time. Declared in
+// devcomm/query_catalogue.h.
+#include "devcomm/query_catalogue.h"
 
 #include <iterator>
 

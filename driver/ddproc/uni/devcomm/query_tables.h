@@ -1,5 +1,5 @@
-// What the module asks printers about by SNMP: the static tables that drive the queries and that callers read
-// through the exports, and the records of questions and answers. Layouts are shared with other modules:
+// What the module asks printers about by SNMP: the records of the static tables, which callers read through
+// the exports, and those of questions and answers. Layouts are shared with other modules:
 // fields never move. Texts are 8-bit and terminated.
 #ifndef DEVCOMM_QUERY_TABLES_H
 #define DEVCOMM_QUERY_TABLES_H
@@ -22,6 +22,20 @@ constexpr int32_t kSupplyPercentage = 1;
 constexpr int32_t kSupplyLevel = 2;
 constexpr int32_t kSupplyFixed = 3;
 constexpr int32_t kSupplyEnd = 999; // of the list
+
+// What is known of a supply, and so what its value is. Only a percentage has a colour.
+constexpr int32_t kStateUnknown = 0; // value 0
+constexpr int32_t kStatePercent = 1; // value in % of its capacity, 0 to 100
+constexpr int32_t kStateLevel = 2;   // value one of the levels below
+constexpr int32_t kStateFixed = 3;   // nothing that printers are asked about: value 0
+
+// Values in state kStateLevel.
+constexpr int32_t kLevelNotTold = 0;
+constexpr int32_t kLevelEmpty = 1;
+constexpr int32_t kLevelNearlyEmpty = 2;
+constexpr int32_t kLevelNearlyFull = 3;
+constexpr int32_t kLevelFull = 4;
+constexpr int32_t kLevelInOrder = 5;
 
 #pragma pack(push, 1)
 
@@ -65,9 +79,9 @@ struct MrkSupItem {
     QueryKey name;
     int32_t kind;
     int32_t callerFlag; // not read here
-    int32_t levelFlag;  // of kSupplyLevel: changes the values of levels 0 and 1
+    int32_t levelFlag;  // not 0: it fills up (kSupplyLevel)
     QueryKey suffix;
-    uint32_t color; // 0x00BBGGRR
+    uint32_t color; // COLORREF, 0x00BBGGRR
 };
 static_assert(sizeof(MrkSupItem) == 80 && offsetof(MrkSupItem, kind) == 32
               && offsetof(MrkSupItem, callerFlag) == 36 && offsetof(MrkSupItem, levelFlag) == 40
@@ -130,9 +144,9 @@ static_assert(sizeof(OptionRequestItem) == 64 && offsetof(OptionRequestItem, val
 // The same about one supply.
 struct MrkSupRequestItem {
     QueryKey name;
-    int32_t state; // 0: not known
-    int32_t value;
-    uint32_t color;
+    int32_t state;  // kState..., which says what the value is
+    int32_t value;  // % or kLevel...
+    uint32_t color; // COLORREF, 0x00BBGGRR; 0 except in state kStatePercent
 };
 static_assert(sizeof(MrkSupRequestItem) == 44 && offsetof(MrkSupRequestItem, state) == 32
               && offsetof(MrkSupRequestItem, value) == 36 && offsetof(MrkSupRequestItem, color) == 40);
@@ -164,11 +178,5 @@ struct ProfileInfo {
 static_assert(sizeof(ProfileInfo) == 48);
 
 #pragma pack(pop)
-
-extern const ModelCheckInfo kModelCheckInfo;
-extern const OptionReqInfo kOptionReqInfo;
-extern const MrkSupReqInfo kMrkSupReqInfo;
-extern const OverlayReqInfo kOverlayReqInfo;
-extern const ProfileReqInfo kProfileReqInfo;
 
 #endif

@@ -23,14 +23,6 @@ constexpr size_t kReceiveCapacity = 4096;
 // caller for ever.
 constexpr DWORD kReceiveLimit = 2000; // ms
 
-// Last errors.
-constexpr DWORD kNoMemory = 1;
-constexpr DWORD kOtherRequests = 3;
-constexpr DWORD kOtherCommunity = 5;
-constexpr DWORD kWrongSocketsVersion = 30;
-constexpr DWORD kNoAnswer = 4102;
-constexpr DWORD kTransferFailed = 0xFFFFFFFF;
-
 struct SnmpClientSession {
     SOCKET socket;
     sockaddr_in agent;
@@ -62,7 +54,7 @@ bool StartSockets() {
     if (granted.wVersion == kSocketsVersion)
         return true;
     WSACleanup();
-    return Fail(kWrongSocketsVersion);
+    return Fail(kSnmpWrongSocketsVersion);
 }
 
 bool FindAgent(const char* agent, in_addr& address) {
@@ -123,11 +115,11 @@ bool SendUntilAnswered(SOCKET socket, const BerBuffer& message) {
     const auto count = static_cast<int>(message.count);
     for (int sends = 0; sends < kMostSends; ++sends) {
         if (send(socket, reinterpret_cast<const char*>(message.octets), count, 0) != count)
-            return Fail(kTransferFailed);
+            return Fail(kSnmpTransferFailed);
         if (SomethingWaits(socket))
             return true;
     }
-    return Fail(kNoAnswer);
+    return Fail(kSnmpNoAnswer);
 }
 
 // Whether the session's community begins with the reply's. Its terminator counts as a character of it.
@@ -143,16 +135,16 @@ bool ReceiveReply(SnmpClientSession& session, AsnInteger32* errorStatus, AsnInte
         const int count = recv(session.socket, reinterpret_cast<char*>(session.receiveBuffer),
                                sizeof(session.receiveBuffer), 0);
         if (count < 0)
-            return Fail(kTransferFailed);
+            return Fail(kSnmpTransferFailed);
         SnmpReply reply;
         if (!SnmpReadReply(session.receiveBuffer, static_cast<size_t>(count), reply))
             return Fail(kSnmpBadReply);
         if (!IsSameCommunity(session.community, reply.community))
-            SetLastError(kOtherCommunity);
+            SetLastError(kSnmpOtherCommunity);
         if (static_cast<uint32_t>(reply.requestId) == session.lastRequestId)
             return SnmpReadResult(reply, errorStatus, errorIndex, result) || Fail(kSnmpBadReply);
     }
-    return Fail(kOtherRequests);
+    return Fail(kSnmpOtherRequests);
 }
 
 } // namespace
@@ -160,7 +152,7 @@ bool ReceiveReply(SnmpClientSession& session, AsnInteger32* errorStatus, AsnInte
 SnmpSession WINAPI ClientOpen(const char* agent, const char* community, INT timeOut, INT retries) {
     auto* session = static_cast<SnmpClientSession*>(LocalAlloc(LPTR, sizeof(SnmpClientSession)));
     if (session == nullptr) {
-        SetLastError(kNoMemory);
+        SetLastError(kSnmpNoMemory);
         return nullptr;
     }
     if (!OpenSession(*session, agent)) {

@@ -5,11 +5,12 @@
 #define DEVCOMM_SNMP_CLIENT_H
 
 #include "devcomm/snmp_entry_points.h"
+#include "devcomm/snmp_errors.h"
 
 // Opens a session with an agent, a dotted IPv4 address or a host name, on UDP port 161. The community is not
 // copied: it must stay until the session is closed. Time-out (ms) and retries are only kept: a request has
-// counts of its own. Null, everything released, with the last error 1 (no memory), WSAStartup's result, 30
-// (Windows Sockets 1.1 is not granted) or that of Windows Sockets (socket, agent's address, connection).
+// counts of its own. Null, everything released, with the last error kSnmpNoMemory, WSAStartup's result,
+// kSnmpWrongSocketsVersion or that of Windows Sockets (socket, agent's address, connection).
 SnmpSession WINAPI ClientOpen(const char* agent, const char* community, INT timeOut, INT retries);
 
 // Releases the session; TRUE, also for null. The last error, that of a request, stays.
@@ -17,10 +18,10 @@ BOOL WINAPI ClientClose(SnmpSession session);
 
 // Asks for the objects of the list, which holds one varbind at least, and stores the first value of the reply
 // as the value of the list's first varbind. Non-zero when a reply came and could be read, whatever its
-// error-status; the last error is then 5 when it came from another community. Otherwise 0, the list as it
-// was, and the last error 4102 (no answer to 5 sends), 3 (5 replies to other requests), 11 (malformed reply),
-// 0xFFFFFFFF (sending or receiving failed) or the heap's. Either out may be null; they are stored as soon as
-// they are read, even where what follows in the reply is malformed.
+// error-status; the last error is then kSnmpOtherCommunity when it came from another community. Otherwise 0,
+// the list as it was, and the last error kSnmpNoAnswer (to 5 sends), kSnmpOtherRequests (5 replies),
+// kSnmpBadReply, kSnmpTransferFailed or the heap's. Either out may be null; they are stored as soon as they
+// are read, even where what follows in the reply is malformed.
 INT WINAPI ClientRequest(SnmpSession session, BYTE requestType, SnmpVarBindList* list,
                          AsnInteger32* errorStatus, AsnInteger32* errorIndex);
 

@@ -4,6 +4,7 @@
 #include "devcomm/snmp_client.h"
 #include "devcomm/snmp_values.h"
 #include "devcomm/system_library.h"
+#include "frame/entry_point.h"
 
 SnmpEntryPoints snmpEntryPoints;
 

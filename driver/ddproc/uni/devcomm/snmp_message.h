@@ -14,7 +14,7 @@
 BerBuffer SnmpBuildRequest(uint8_t pduTag, const char* community, uint32_t requestId,
                            const SnmpVarBindList& list);
 
-// A reply, as far as its first varbind; the cursors point into the datagram.
+// A reply, as far as its request-id; the cursors point into the datagram.
 struct SnmpReply {
     BerReader community;
     int32_t requestId;

@@ -1,6 +1,7 @@
 // Values and names of the built-in client, and their memory: see the header.
 #include "devcomm/snmp_values.h"
 
+#include "devcomm/ber.h"
 #include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
@@ -149,5 +150,5 @@ BOOL WINAPI ClientStrToOid(const char* text, AsnObjectIdentifier* oid) {
     const KeepLastError keep;
     UINT arcs[kMostArcs];
     const UINT count = ParseArcs(text, arcs);
-    return count >= 2 && arcs[0] < 3 && arcs[1] < 40 && CopyArcs(arcs, count, *oid);
+    return count >= 2 && AreFirstArcs(arcs[0], arcs[1]) && CopyArcs(arcs, count, *oid);
 }

@@ -4,12 +4,10 @@
 #define DEVCOMM_SNMP_VALUES_H
 
 #include "devcomm/ber_reader.h"
+#include "devcomm/snmp_errors.h"
 
 #include <snmp.h>
 #include <windows.h>
-
-// Last error of a reply that is malformed or holds a value of an unknown type.
-constexpr DWORD kSnmpBadReply = 11;
 
 // How a value lies in an AsnAny.
 enum class SnmpForm {

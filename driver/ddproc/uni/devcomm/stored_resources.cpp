@@ -2,6 +2,7 @@
 // Declared in devcomm/printer_queries.h.
 #include "devcomm/object_reader.h"
 #include "devcomm/printer_queries.h"
+#include "devcomm/query_catalogue.h"
 #include "frame/scope_guard.h"
 #include "paramdata/text.h"
 
@@ -186,4 +187,9 @@ ProfileInfo* WINAPI MIB_ProfileRequest(const char* agent) {
         return ReadProfile(session.handle, suffix, entry);
     });
     return done ? reinterpret_cast<ProfileInfo*>(BuildBlock(found, kProfileSelectors)) : nullptr;
+}
+
+void WINAPI MIB_FreeOverlayInfo(void* block) {
+    if (block != nullptr)
+        LocalFree(block);
 }

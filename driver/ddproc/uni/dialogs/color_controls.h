@@ -4,7 +4,7 @@
 #define DIALOGS_COLOR_CONTROLS_H
 
 #include "dialogs/dialog_context.h"
-#include "dialogs/rows.h"
+#include "frame/rows.h"
 #include "paramdata/device_table.h"
 #include "paramdata/devmode_fields.h"
 

@@ -4,6 +4,7 @@
 #define DIALOGS_UI_MODULE_H
 
 #include "dialogs/ui_callbacks.h"
+#include "frame/entry_point.h"
 
 struct DialogState {
     HMODULE uiModule;                          // TELMAR_U.DLL; null when it is not loaded
@@ -24,10 +25,7 @@ void ReleaseUiModule();
 // A callback under its type; null without the module, or when the module lacks it.
 template <typename Function>
 Function* UiCallback(const char* name) {
-    if (dialogState.uiModule == nullptr)
-        return nullptr;
-    return reinterpret_cast<Function*>(
-        reinterpret_cast<void (*)()>(GetProcAddress(dialogState.uiModule, name)));
+    return dialogState.uiModule != nullptr ? FindEntryPoint<Function>(dialogState.uiModule, name) : nullptr;
 }
 
 // What differs between the dialogs when they bind themselves to the module.

@@ -5,11 +5,6 @@
 
 extern "C" {
 
-void WINAPI MIB_FreeOverlayInfo(void* block) {
-    if (block != nullptr)
-        LocalFree(block);
-}
-
 void* WINAPI DDProc_FeatureNameItemTable() {
     return nullptr;
 }

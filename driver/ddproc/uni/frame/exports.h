@@ -8,10 +8,6 @@
 
 extern "C" {
 
-// Releases a block that MIB_OverlayRequest or MIB_ProfileRequest handed out; null is accepted. Exported under
-// both names, also as MIB_FreeProfileInfo.
-void WINAPI MIB_FreeOverlayInfo(void* block);
-
 // Null, whatever the caller passes. Exported under both names, also as DDProc_FeatureNameValuePtr.
 void* WINAPI DDProc_FeatureNameItemTable();
 

@@ -46,17 +46,6 @@ uint32_t SwitchType(const char* value) {
     return number;
 }
 
-// Leading spaces, an optional sign, then digits; 0 when there are none.
-uint32_t DecimalNumber(const char* text) {
-    while (*text == ' ')
-        ++text;
-    const bool negative = *text == '-';
-    if (*text == '-' || *text == '+')
-        ++text;
-    const uint32_t number = IsDigit(*text) ? PrmParseFirstNumber(text) : 0;
-    return negative ? 0 - number : number;
-}
-
 uint8_t PrintRateUnit(const char* value) {
     constexpr const char* kUnits[] = {"CPS", "LPM", "IPM"};
     uint8_t number = 2;
@@ -83,8 +72,8 @@ struct NamedValue {
 
 // clang-format off
 constexpr NamedValue kDeviceFacts[] = {
-    {"PrintRatePPM",      [](DeviceTable& table, const char* value) { table.printRatePpm = DecimalNumber(value); }},
-    {"PrintRate",         [](DeviceTable& table, const char* value) { table.printRate = DecimalNumber(value); }},
+    {"PrintRatePPM",      [](DeviceTable& table, const char* value) { table.printRatePpm = ParseDecimal(value); }},
+    {"PrintRate",         [](DeviceTable& table, const char* value) { table.printRate = ParseDecimal(value); }},
     {"PrintRateUnit",     [](DeviceTable& table, const char* value) { table.printRateUnit = PrintRateUnit(value); }},
     {"Staple",            [](DeviceTable& table, const char* value) { table.stapler = SameText(value, "TRUE"); }},
     {"ColorDevice",       [](DeviceTable& table, const char* value) { table.colorDevice = SameText(value, "TRUE"); }},

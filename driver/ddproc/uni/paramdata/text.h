@@ -1,10 +1,11 @@
-// Texts in fixed fields: bounded copies and comparisons, for every subsystem. Nobody copies a text in another
-// way. A text is given as an array, which it may fill without a terminator, or as a pointer to a terminated
-// text.
+// Texts in fixed fields: bounded copies, comparisons and numbers, for every subsystem. Nobody copies a text
+// in another way. A text is given as an array, which it may fill without a terminator, or as a pointer to a
+// terminated text.
 #ifndef PARAMDATA_TEXT_H
 #define PARAMDATA_TEXT_H
 
 #include <cstddef>
+#include <cstdint>
 #include <type_traits>
 
 // The character at this position; 0 behind the end of an array.
@@ -67,6 +68,19 @@ constexpr bool SameText(const TextA& a, const TextB& b) {
 
 constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
+}
+
+// Leading spaces, an optional sign, then digits; what follows them is ignored. 0 when there are none. Digits
+// beyond 32 bits are lost; a negative number is its two's complement.
+constexpr uint32_t ParseDecimal(const char* text) {
+    while (*text == ' ')
+        ++text;
+    const bool isNegative = *text == '-';
+    text += *text == '-' || *text == '+' ? 1 : 0;
+    uint32_t number = 0;
+    for (; IsDigit(*text); ++text)
+        number = number * 10 + static_cast<uint32_t>(*text - '0');
+    return isNegative ? 0 - number : number;
 }
 
 #endif

@@ -3,8 +3,8 @@
 
 #include "dialogs/dialog_controls.h"
 #include "dialogs/item_drawing.h"
-#include "dialogs/rows.h"
 #include "dialogs/ui_module.h"
+#include "frame/rows.h"
 #include "paramdata/control_texts.h"
 #include "paramdata/device_data.h"
 #include "trays/tray_list_view.h"

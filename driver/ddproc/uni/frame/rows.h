@@ -1,13 +1,14 @@
-// Rows of a table of the module, for whoever goes through them.
-#ifndef DIALOGS_ROWS_H
-#define DIALOGS_ROWS_H
+// Rows that lie one behind the other, for whoever goes through them: of a table, or of a list in a block.
+#ifndef FRAME_ROWS_H
+#define FRAME_ROWS_H
 
 #include <cstddef>
 
-// A table lives as long as the module.
+// Owns nothing: good for as long as what it was made from.
 template <typename Row>
 struct Rows {
     constexpr Rows() = default;
+    constexpr Rows(const Row* firstRow, size_t rowCount) : first(firstRow), count(rowCount) {}
     template <size_t Count>
     constexpr Rows(const Row (&rows)[Count]) : first(rows), count(Count) {} // a table is its rows
 
