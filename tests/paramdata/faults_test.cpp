@@ -177,28 +177,6 @@ void BuildFrom(const TemporaryFile& disk, const std::vector<uint8_t>& bytes) {
     ASSERT_EQ(platform::Count().globalBlocks, 0);
 }
 
-TEST_F(FaultsTest, FileCutAtEveryByte) {
-    std::vector<uint8_t> bytes = CompleteImage().bytes;
-    const TemporaryFile disk({});
-    for (; !HasFatalFailure() && !bytes.empty(); bytes.pop_back())
-        BuildFrom(disk, bytes);
-    BuildFrom(disk, {});
-}
-
-TEST_F(FaultsTest, EveryWordReplaced) {
-    PrmImage image = CompleteImage();
-    const TemporaryFile disk({});
-    for (uint32_t offset = 0; offset + 4 <= image.Size() && !HasFatalFailure(); offset += 4) {
-        const uint32_t original = image.Word(offset);
-        for (const uint32_t word : {0u, 1u, 0xFFFFFFFFu, 0x7FFFFFFFu, image.Size(), offset}) {
-            SCOPED_TRACE(testing::Message() << offset << " becomes " << word);
-            image.SetWord(offset, word);
-            BuildFrom(disk, image.bytes);
-        }
-        image.SetWord(offset, original);
-    }
-}
-
 // A small file that claims much: every item of every list is the same record.
 TEST_F(FaultsTest, ManyItemsOfOneRecord) {
     PrmImage image;

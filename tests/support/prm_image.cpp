@@ -91,8 +91,7 @@ TemporaryFile::TemporaryFile(const std::vector<uint8_t>& bytes) {
     static unsigned number = 0;
     path =
         testing::TempDir() + "lumora_" + std::to_string(getpid()) + "_" + std::to_string(++number) + ".prm";
-    widePath.assign(path.begin(), path.end());
-    widePath.push_back(0);
+    widePath = Widened(path);
     Rewrite(bytes);
 }
 
