@@ -79,7 +79,6 @@ struct TemporaryFile {
     explicit TemporaryFile(const std::vector<uint8_t>& bytes);
     ~TemporaryFile() { remove(path.c_str()); }
     TemporaryFile(const TemporaryFile&) = delete;
-    void Rewrite(const std::vector<uint8_t>& bytes) const;
 
     std::string path;
     std::vector<wchar_t> widePath; // terminated
