@@ -1,5 +1,5 @@
-// What lies in the DLL's image: export directory, imports, version information, and nothing of the machine
-// that built it. The image is read where the system has loaded it.
+// What lies in the DLL's image: export directory, the exports that share an entry point, imports, version
+// information, and nothing of the machine that built it. The image is read where the system has loaded it.
 #include "product.h"
 
 #include <algorithm>
@@ -19,34 +19,19 @@ struct ExpectedExport {
 };
 
 // Ordinals without a row are unassigned.
+// clang-format off
 const ExpectedExport kExports[] = {
-    {1, "DrawPrinterView"},
-    {2, "DDProc_IsCommunicateDevice"},
-    {3, "DDProc_IsEnableBdcLib"},
-    {11, "MIB_ModelCheckInfo"},
-    {12, "MIB_OptionReqInfo"},
-    {13, "MIB_MrkSupReqInfo"},
-    {14, "MIB_OvlReqInfo"},
-    {15, "MIB_CMProfReqInfo"},
-    {21, "MIB_IsAccessOK"},
-    {22, "MIB_IsModelOK"},
-    {23, "MIB_OptionRequest"},
-    {24, "MIB_MrkSupRequest"},
-    {25, "MIB_OverlayRequest"},
-    {26, "MIB_FreeOverlayInfo"},
-    {27, "MIB_ProfileRequest"},
-    {28, "MIB_FreeProfileInfo"},
-    {29, "GET_MrkSupItemList"},
-    {30, "DrawLogoImage"},
-    {31, "DrawLogoVersionTab"},
-    {32, "DDProc_DeviceCapabilities"},
-    {33, "DDProc_DlgProc"},
-    {34, "DDProc_FeatureNameItemTable"},
-    {35, "DDProc_FeatureNameValuePtr"},
-    {36, "DDProc_GetPrinterIPAddress"},
-    {37, "DDProc_OptionRequest"},
+    {1, "DrawPrinterView"}, {2, "DDProc_IsCommunicateDevice"}, {3, "DDProc_IsEnableBdcLib"},
+    {11, "MIB_ModelCheckInfo"}, {12, "MIB_OptionReqInfo"}, {13, "MIB_MrkSupReqInfo"},
+    {14, "MIB_OvlReqInfo"}, {15, "MIB_CMProfReqInfo"}, {21, "MIB_IsAccessOK"}, {22, "MIB_IsModelOK"},
+    {23, "MIB_OptionRequest"}, {24, "MIB_MrkSupRequest"}, {25, "MIB_OverlayRequest"},
+    {26, "MIB_FreeOverlayInfo"}, {27, "MIB_ProfileRequest"}, {28, "MIB_FreeProfileInfo"},
+    {29, "GET_MrkSupItemList"}, {30, "DrawLogoImage"}, {31, "DrawLogoVersionTab"},
+    {32, "DDProc_DeviceCapabilities"}, {33, "DDProc_DlgProc"}, {34, "DDProc_FeatureNameItemTable"},
+    {35, "DDProc_FeatureNameValuePtr"}, {36, "DDProc_GetPrinterIPAddress"}, {37, "DDProc_OptionRequest"},
     {38, "DDProc_InputTrayStatus"},
 };
+// clang-format on
 
 const std::set<std::set<WORD>> kSharedEntryPoints = {{26, 28}, {34, 35}};
 
@@ -102,6 +87,24 @@ TEST_F(Image, ExportDirectoryHasExactlyTheAgreedNamesAtTheAgreedOrdinals) {
                 shared.insert(sharers);
         }
     EXPECT_EQ(shared, kSharedEntryPoints);
+}
+
+TEST_F(Image, FreeFunctionsReleaseALocalBlockAndAcceptNull) {
+    for (const char* name : {"MIB_FreeOverlayInfo", "MIB_FreeProfileInfo"}) {
+        const auto free = module.Export<void WINAPI(void*)>(name);
+        free(nullptr);
+        void* block = LocalAlloc(LMEM_FIXED, 1000);
+        ASSERT_TRUE(HeapValidate(GetProcessHeap(), 0, block));
+        free(block);
+        EXPECT_FALSE(HeapValidate(GetProcessHeap(), 0, block)) << name;
+    }
+}
+
+TEST_F(Image, FeatureNamesAreNullWhateverIsPassed) {
+    int anything = 0;
+    for (const char* name : {"DDProc_FeatureNameItemTable", "DDProc_FeatureNameValuePtr"})
+        for (void* argument : {static_cast<void*>(nullptr), static_cast<void*>(&anything)})
+            EXPECT_EQ(module.Export<void * WINAPI(void*)>(name)(argument), nullptr) << name;
 }
 
 TEST_F(Image, ImportsSystemLibrariesOnly) {

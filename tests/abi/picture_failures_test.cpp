@@ -65,14 +65,6 @@ TEST_F(PictureFailures, EachRefusedCallCostsItsOwnPartOnly) {
         }
 }
 
-TEST_F(PictureFailures, EverythingRefusedDoesNoHarm) {
-    for (const char* function : {"", "CreateCompatibleDC", "LoadImageW", "GetObjectW", "SelectObject"}) {
-        GdiRecorder recorder(module.handle);
-        recorder.Fail(function, GdiRecorder::kEvery);
-        records.Draw(module, got.dc, kRectangle);
-    }
-}
-
 // The process can make a limited number of drawing objects.
 size_t CountFreeObjects() {
     std::vector<HRGN> regions;

@@ -153,14 +153,14 @@ TEST_F(PrinterView, WhatNamesNoItemInstallsNothing) {
     std::fill(records.settings.begin(), records.settings.end(), 1);
     const auto wantBareWithout = [&](RawBytes& record, size_t offset) {
         const std::vector<uint8_t> before = record.bytes;
-        ViewRecords::PutPointer(record, offset, nullptr);
+        record.Pointer(offset, nullptr);
         EXPECT_TRUE(IsAsWanted(records, bare)) << offset;
         std::copy(before.begin(), before.end(), record.bytes.begin());
     };
     wantBareWithout(records.request, 1); // features
     wantBareWithout(records.request, 9); // settings
     for (size_t i = 0; i < 6; ++i)
-        ViewRecords::PutPointer(records.features, i * 152 + 144, nullptr);
+        records.features.Pointer(i * 152 + 144, nullptr);
     wantBareWithout(records.features, 6 * 152 + 144); // the last item table
     wantBareWithout(records.request, 9);
     EXPECT_TRUE(IsAsWanted(ViewRecords({}), bare));

@@ -187,10 +187,4 @@ TEST_F(Query, Faults) {
     EXPECT_EQ(Supplies("127.0.161.10", {"Consumable2", "Consumable7"}), Words({"0 0 000000", "3 0 000000"}));
 }
 
-TEST_F(Query, NobodyThere) {
-    EXPECT_FALSE(IsReached("127.0.161.99"));
-    EXPECT_EQ(Options("127.0.161.99", {"OpHDD"}), Words({""}));
-    EXPECT_EQ(Profiles("127.0.161.99"), nullptr);
-}
-
 } // namespace

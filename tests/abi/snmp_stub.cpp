@@ -47,29 +47,24 @@ int StubBlocks() {
 }
 
 void* WINAPI SnmpUtilMemAlloc(UINT octets) {
-    Log("SnmpUtilMemAlloc\n");
     return Allocate(octets);
 }
 
 void WINAPI SnmpUtilMemFree(void* block) {
-    Log("SnmpUtilMemFree\n");
     Free(block);
 }
 
 void WINAPI SnmpUtilOidFree(AsnObjectIdentifier* oid) {
-    Log("SnmpUtilOidFree\n");
     Free(oid->ids);
     *oid = {};
 }
 
 void WINAPI SnmpUtilVarBindFree(SnmpVarBind* varBind) {
-    Log("SnmpUtilVarBindFree\n");
     Free(varBind->name.ids);
     *varBind = {};
 }
 
 void WINAPI SnmpUtilVarBindListFree(SnmpVarBindList* list) {
-    Log("SnmpUtilVarBindListFree\n");
     for (UINT i = 0; i < list->len; ++i)
         Free(list->list[i].name.ids);
     Free(list->list);

@@ -63,19 +63,13 @@ ViewRecords::ViewRecords(const std::vector<Feature>& list)
         features.Text(i * kFeatureOctets + 4, list[i].key);
     }
     for (size_t i = 0; i < list.size(); ++i) // where they stay
-        PutPointer(features, i * kFeatureOctets + 144, items[i].bytes.data());
-    PutPointer(request, 1, features.bytes.data());
-    PutPointer(request, 9, settings.data());
+        features.Pointer(i * kFeatureOctets + 144, items[i].bytes.data());
+    request.Pointer(1, features.bytes.data()).Pointer(9, settings.data());
 }
 
 void ViewRecords::Draw(const LoadedModule& module, HDC target, const RECT& rectangle) const {
     using Function = void WINAPI(HDC, const RECT*, const void*);
     module.Export<Function>("DrawPrinterView")(target, &rectangle, request.bytes.data());
-}
-
-void ViewRecords::PutPointer(RawBytes& record, size_t offset, const void* target) {
-    const uint64_t address = reinterpret_cast<uintptr_t>(target);
-    record.U32(offset, static_cast<uint32_t>(address)).U32(offset + 4, static_cast<uint32_t>(address >> 32));
 }
 
 void ViewRecords::Choose(const Choice& choice) {

@@ -32,7 +32,6 @@ struct ViewRecords {
     // Fills the request in, and the settings where the table is UnitFeatures() with whatever behind.
     void Choose(const Choice& choice);
     void Draw(const LoadedModule& module, HDC target, const RECT& rectangle) const;
-    static void PutPointer(RawBytes& record, size_t offset, const void* target);
 
     std::vector<RawBytes> items; // one table for each feature
     RawBytes features;

@@ -87,6 +87,7 @@ TEST_F(BdcLoad, ByBareNameThenBesideTheModule) {
         EXPECT_EQ(platform::LibraryCalls(), loads + Checks() + Words{"free " + (bare ? kBare : kFull)});
         EXPECT_TRUE(script.calls.empty()) << "no question is asked";
     }
+    EXPECT_EQ(BdcLoadLibrary(nullptr, kBareName), 248);
 }
 
 TEST_F(BdcLoad, EachEntryPointIsNeeded) {
@@ -119,21 +120,6 @@ TEST_F(BdcLoad, EachSystemLibraryIsNeeded) {
         EXPECT_EQ(platform::LibraryCalls(), Load(kBare) + Checks(missing) + Words{"free " + kBare});
         EXPECT_EQ(Option("OpMachine"), "OpMachine1");
     }
-}
-
-TEST_F(BdcLoad, Table) {
-    BdcFunctionTable table = {};
-    EXPECT_EQ(BdcLoadLibrary(nullptr, kBareName), 248);
-    EXPECT_EQ(BdcLoadLibrary(&table, kBareName), 0);
-    Register(kBareName);
-    EXPECT_EQ(BdcLoadLibrary(&table, kBareName), 1);
-    EXPECT_NE(NumberAt<uint64_t>(&table, 0), 0u);
-    for (size_t i = 0; i < 30; ++i)
-        EXPECT_EQ(NumberAt<uint64_t>(&table, 8 + 8 * i),
-                  i < kEntryPointCount ? reinterpret_cast<uint64_t>(kEntryPoints[i].function) : 0)
-            << "slot " << i + 1;
-    BdcFreeLibrary(table);
-    EXPECT_EQ(Differences(&table, RawBytes(248)), "");
 }
 
 // --- What is asked
@@ -270,32 +256,6 @@ TEST_F(BdcStatus, WhatAFailingCallWroteIsThrownAway) {
         EXPECT_EQ(context->mediaPath.count, kept ? 1u : 0u);
         EXPECT_EQ(CallTexts(), Fill());
     }
-}
-
-TEST_F(BdcStatus, ContextBeforeTheFirstQuestion) {
-    const Context context(BdcOpenDevice(kAgent));
-    ASSERT_NE(context, nullptr);
-    HGLOBAL handle = GlobalHandle(context.get());
-    EXPECT_TRUE(handle != nullptr && handle != context.get()) << "movable";
-    RawBytes names(4 + 10 * 256 + 4 + 10 * 64);
-    names.U32(0, 1).Text(4, "QUORVANE lumora R880").U32(2564, 1).Text(2568, "QUORVANE lumora R880");
-    EXPECT_EQ(Differences(reinterpret_cast<const uint8_t*>(context.get()) + 248, names), "");
-    EXPECT_EQ(
-        Differences(&context->version, RawBytes(sizeof(*context) - offsetof(BdcDeviceContext, version))), "");
-}
-
-TEST_F(BdcStatus, EachSuccessKeepsTheStateWord) {
-    const Context context(BdcOpenDevice(kAgent));
-    ASSERT_NE(context, nullptr);
-    Answer* const answers[] = {&script.version, &script.device.communication, &script.device.name};
-    bool (*const questions[])(BdcDeviceContext&) = {BdcAskVersion, BdcAskCommunication, BdcAskName};
-    for (size_t i = 0; i < 3; ++i)
-        for (const int32_t status : {-1, 0}) {
-            context->lastState = 7;
-            answers[i]->status = status;
-            EXPECT_EQ(questions[i](*context), status == 0);
-            EXPECT_EQ(context->lastState, status == 0 ? kStateAfter : 7u) << i;
-        }
 }
 
 TEST_F(BdcStatus, AllocationFailures) {

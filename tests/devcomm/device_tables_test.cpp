@@ -63,29 +63,6 @@ TEST_F(BdcAnswers, ModelTestIsExact) {
     }
 }
 
-// Unlike the model test the bit ignores letter case.
-TEST_F(BdcAnswers, ModelBit) {
-    const std::pair<std::string, uint32_t> cases[] = {
-        {kModel, 1}, {"quorvane LUMORA r880", 1}, {kModel + "0", 0}, {"QUORVANE", 0}, {"", 0}};
-    const char machine[32] = "OpMachine";
-    for (const auto& [name, bit] : cases) {
-        script.device.name.octets = RawBytes(324).Text(4, name);
-        const BdcDeviceBits bits = BdcDeriveBits(*Filled());
-        EXPECT_EQ(bits.words[kModelBits], bit) << name;
-        EXPECT_STREQ(BdcApplyRules(machine, bits), bit == 1 ? "OpMachine1" : nullptr);
-    }
-}
-
-// No rule of today looks at it.
-TEST_F(BdcAnswers, MediaPathBits) {
-    for (const uint32_t path : {0u, 1u, 2u, 0xFFFFFFFFu})
-        for (const int32_t status : {0, 1, -1}) {
-            script.device.mediaPath = {RawBytes(8).U32(4, path), status};
-            EXPECT_EQ(BdcDeriveBits(*Filled()).words[kMediaPathBits], status != 0 || path > 1 ? 0 : path + 1)
-                << path << " " << status;
-        }
-}
-
 TEST_F(BdcAnswers, HardDisk) {
     const std::pair<std::vector<RawBytes>, const char*> cases[] = {
         {{MemoryItem(3)}, "EnaOpHDD"},

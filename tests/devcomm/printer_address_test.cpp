@@ -71,13 +71,6 @@ Bytes Xs(size_t octets) {
     return xs;
 }
 
-// For texts that are put together.
-std::vector<wchar_t> Wide(const std::string& ascii) {
-    std::vector<wchar_t> wide(ascii.begin(), ascii.end());
-    wide.push_back(0);
-    return wide;
-}
-
 RawBytes Record(unsigned flag, const Bytes& address) {
     RawBytes record(564);
     record.U8(562, flag);
@@ -310,8 +303,8 @@ TEST(PrinterAddress, LongPortNames) {
     for (const size_t length : {1023 - ports.size(), 1024 - ports.size(), size_t{2000}}) {
         SCOPED_TRACE(length);
         const std::string port(length, 'p');
-        Arrange({L"Long", Wide(port).data()});
-        platform::SetRegistryValue(Wide(key).data(), L"Server Name", Terminated(L"10.0.0.4"));
+        Arrange({L"Long", Widened(port).data()});
+        platform::SetRegistryValue(Widened(key).data(), L"Server Name", Terminated(L"10.0.0.4"));
         Expect(Ask(kAskQueue, 64, L"Long"), Stored("10.0.0.4"));
         EXPECT_EQ(CallsOf("OpenPrinterW").back(), "OpenPrinterW ,XcvPort " + port + " 1");
         EXPECT_EQ(CallsOf("RegOpenKeyExW").back(), "RegOpenKeyExW " + key);
@@ -385,26 +378,6 @@ TEST(PrinterAddress, EveryAllocationFailsInTurn) {
         ArrangeTransceiver();
         platform::FailAllocations(i + 1);
         Expect(Ask(kAskQueue), expected[i]);
-    }
-}
-
-TEST(PrinterAddress, TheSpoolersLibraryComesFromTheSystemDirectory) {
-    const struct {
-        std::string directory, library;
-        const char* function;
-        Outcome expected;
-    } cases[] = {
-        {"D:\\sys", "D:\\sys\\WINSPOOL.DRV", "XcvDataW", kFromTransceiver},
-        {"D:\\sys", "D:\\sys\\WINSPOOL.DRV", "XcvData", kFromRegistry},
-        {"D:\\sys", "WINSPOOL.DRV", "XcvDataW", kFromRegistry},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
-        Arrange();
-        platform::RegisterTransceiver(L",XcvPort IP_1", Terminated(L"10.0.0.1"));
-        platform::SetSystemDirectory(Wide(c.directory).data());
-        platform::RegisterLibrary(Wide(c.library).data(), {{c.function, XcvDataW}});
-        Expect(Ask(kAskQueue), c.expected);
     }
 }
 

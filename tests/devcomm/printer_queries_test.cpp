@@ -252,9 +252,7 @@ TEST(PrinterQueries, Options) {
         const char* value;
         Texts asked;
     } cases[] = {
-        {"OpMemory", {{kMemory, Number(128)}}, "128MB", Texts(1, kMemory)},
         {"OpMemory", {{kMemory, Number(640, 0x42)}}, "640MB", Texts(5, kMemory)},
-        {"OpMemory", {{kMemory, Number(1024)}}, "1024MB", Texts(8, kMemory)},
         {"OpMemory", {{kMemory, Number(2048)}}, "", Texts(8, kMemory)},
         {"OpMemory", {}, "", Texts(8, kMemory)},
         {"OpMemory", {{kMemory, Failing(kRequestError)}}, "", Texts(1, kMemory)},
@@ -262,6 +260,8 @@ TEST(PrinterQueries, Options) {
         {"OpHDD", {}, "DisOpHDD", {kHardDisk}},
         {"OpHDD", {{kHardDisk, Failing(kRequestError)}}, "", {kHardDisk}},
         {"opinTRAY3", {{kInTray + "3", Text("x")}}, "EnaOpInTray3", {kInTray + "3"}},
+        {"OpInTray2", {{kInTray + "2", Text("x")}}, "EnaOpInTray2", {kInTray + "2"}},
+        {"OpInTray4", {{kInTray + "4", Text("x")}}, "EnaOpInTray4", {kInTray + "4"}},
         {"OpInTray5", {{kInTray + "3", Text("x")}}, "DisOpInTray5", {kInTray + "5"}},
         {"OpDuplex", {{kDuplex, Number(-1)}}, "EnaOpDuplex", {kDuplex}},
         {"OpManualFeed", {}, "EnaOpManualFeed", {}},
@@ -277,6 +277,12 @@ TEST(PrinterQueries, Options) {
         device.answers = c.answers;
         ExpectOptions({c.key}, {c.value});
         EXPECT_EQ(device.asked, c.asked);
+    }
+    for (int step = 1; step <= 8; ++step) {
+        ScriptedDevice device;
+        device.answers = {{kMemory, Number(128 * step)}};
+        ExpectOptions({"OpMemory"}, {std::to_string(128 * step) + "MB"});
+        EXPECT_EQ(device.asked.size(), static_cast<size_t>(step));
     }
 }
 

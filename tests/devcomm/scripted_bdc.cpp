@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <mutex>
 #include <windows.h>
 
 namespace scripted_bdc {
@@ -13,12 +12,8 @@ Script script;
 namespace {
 
 constexpr size_t kRecordSize = 428;
-constexpr size_t kAgentOffset = 8;
-
-std::mutex mutex; // of the recorded calls
 
 void Record(const std::string& text, const void* record) {
-    const std::lock_guard<std::mutex> lock(mutex);
     const auto* octets = static_cast<const uint8_t*>(record);
     script.calls.push_back({text, octets != nullptr ? std::vector<uint8_t>(octets, octets + kRecordSize)
                                                     : std::vector<uint8_t>()});
@@ -31,15 +26,6 @@ std::string State(uint32_t* state) {
     return text;
 }
 
-const Device& DeviceAt(const std::string& agent) {
-    const auto other = script.others.find(agent);
-    return other != script.others.end() ? other->second : script.device;
-}
-
-const Device& DeviceOf(const void* record) {
-    return DeviceAt(static_cast<const char*>(record) + kAgentOffset);
-}
-
 int32_t Give(const Answer& answer, void* buffer) {
     memcpy(buffer, answer.octets.bytes.data(), answer.octets.bytes.size());
     return answer.status;
@@ -48,10 +34,7 @@ int32_t Give(const Answer& answer, void* buffer) {
 // Whether it is as the module is to allocate it: movable, locked, all zero.
 bool IsFit(const void* block, size_t size) {
     HGLOBAL handle = GlobalHandle(block);
-    bool fit = handle != nullptr && handle != block;
-#ifdef _WIN32
-    fit = fit && (GlobalFlags(handle) & GMEM_LOCKCOUNT) == 1 && GlobalSize(handle) >= size;
-#endif
+    const bool fit = handle != nullptr && handle != block;
     const auto* octets = static_cast<const uint8_t*>(block);
     return fit && std::all_of(octets, octets + size, [](uint8_t octet) { return octet == 0; });
 }
@@ -83,45 +66,45 @@ int32_t WINAPI GetLibVersion(uint32_t* state, void* buffer) {
 
 int32_t WINAPI GetDevCommInfo(const char* agent, uint32_t* state, void* buffer) {
     Record("BdcGetDevCommInfo " + std::string(agent) + State(state), nullptr);
-    return Give(DeviceAt(agent).communication, buffer);
+    return Give(script.device.communication, buffer);
 }
 
 int32_t WINAPI GetDevName(const void* record, uint32_t* state, void* buffer) {
     Record("BdcGetDevName" + State(state), record);
-    return Give(DeviceOf(record).name, buffer);
+    return Give(script.device.name, buffer);
 }
 
 int32_t WINAPI GetDevMediaPathInfo(const void* record, uint32_t* state, void* block) {
-    const Answer& answer = DeviceOf(record).mediaPath;
+    const Answer& answer = script.device.mediaPath;
     Record("BdcGetDevMediaPathInfo" + State(state) + Block(block, answer.octets.bytes.size(), "information"),
            record);
     return Give(answer, block);
 }
 
 int32_t WINAPI GetDevFirmwareVersion(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevFirmwareVersion", DeviceOf(record).firmware, record, count, state, items);
+    return GiveList("BdcGetDevFirmwareVersion", script.device.firmware, record, count, state, items);
 }
 
 int32_t WINAPI GetDevMemoryCapacity(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevMemoryCapacity", DeviceOf(record).memory, record, count, state, items);
+    return GiveList("BdcGetDevMemoryCapacity", script.device.memory, record, count, state, items);
 }
 
 int32_t WINAPI GetDevOptionInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevOptionInfo", DeviceOf(record).options, record, count, state, items);
+    return GiveList("BdcGetDevOptionInfo", script.device.options, record, count, state, items);
 }
 
 int32_t WINAPI GetDevInputTrayInfoEx(const void* record, uint32_t* count, uint32_t selector, uint32_t* state,
                                      void* items) {
     const std::string name = "BdcGetDevInputTrayInfoEx, selector " + std::to_string(selector);
-    return GiveList(name.c_str(), DeviceOf(record).inputTrays, record, count, state, items);
+    return GiveList(name.c_str(), script.device.inputTrays, record, count, state, items);
 }
 
 int32_t WINAPI GetDevOutputTrayInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevOutputTrayInfo", DeviceOf(record).outputTrays, record, count, state, items);
+    return GiveList("BdcGetDevOutputTrayInfo", script.device.outputTrays, record, count, state, items);
 }
 
 int32_t WINAPI GetDevFinisherInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevFinisherInfo", DeviceOf(record).finishers, record, count, state, items);
+    return GiveList("BdcGetDevFinisherInfo", script.device.finishers, record, count, state, items);
 }
 
 int32_t WINAPI NobodyAsks() {

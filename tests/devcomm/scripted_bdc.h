@@ -1,12 +1,10 @@
-// A stand-in for the bidirectional library that answers as a test scripted, and records every call. On the
-// host a test registers its entry points; on Windows those of a library file (../abi/bdc_stub.cpp) lead here.
-// Records and items are laid out octet by octet, independently of the module's structs.
+// Host only: a stand-in for the bidirectional library that answers as a test has scripted, and records every
+// call. Records and items are laid out octet by octet, independently of the module's structs.
 #ifndef DEVCOMM_SCRIPTED_BDC_H
 #define DEVCOMM_SCRIPTED_BDC_H
 
 #include "support/raw_bytes.h"
 
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -69,7 +67,6 @@ struct Call {
 struct Script {
     Answer version = {RawBytes(16).U32(0, 4).U32(12, 1)};
     Device device;
-    std::map<std::string, Device> others; // by agent
     std::vector<Call> calls;
 };
 extern Script script;

@@ -1,13 +1,15 @@
-// Host only: the scripted library registered with the platform, and the module's questions to its device.
+// Host only: the scripted library registered with the platform, and the module's questions to its device,
+// with records laid out octet by octet.
 #ifndef DEVCOMM_SCRIPTED_BDC_HOST_H
 #define DEVCOMM_SCRIPTED_BDC_HOST_H
 
 #include "devcomm/bdc_device.h"
-#include "devcomm/bdc_questions.h"
 #include "devcomm/device_status.h"
 #include "devcomm/scripted_bdc.h"
 #include "platform_control.h"
+#include "support/raw_bytes.h"
 
+#include <gtest/gtest.h>
 #include <memory>
 
 constexpr char kAgent[] = "10.0.0.9";
@@ -22,18 +24,49 @@ inline void Register(const wchar_t* path, size_t missing = kNone) {
     platform::RegisterLibrary(path, exports);
 }
 
-inline std::string Option(const std::string& key, const char* agent = kAgent) {
-    const auto ask = [](const char* device, DWORD count, void* items) {
-        return DDProc_OptionRequest(device, count, static_cast<OptionRequestItem*>(items));
-    };
-    return AskOption(ask, key, agent);
+const std::string kUnknownTray =
+    "MediaTypeList_Size_Unknown MediaTypeList_Orient_Unknown MediaTypeList_Type_Unknown "
+    "MediaTypeList_Weight_Unknown MediaTypeList_Color_Unknown MediaTypeList_Hole_Unknown 0";
+
+// The text of a 32-octet field whose rest is zero.
+inline std::string FieldAt(const RawBytes& record, size_t offset) {
+    const uint8_t* field = &record.bytes.at(offset + 31) - 31;
+    const std::string text(reinterpret_cast<const char*>(field), 31);
+    const std::string kept = text.substr(0, text.find('\0'));
+    EXPECT_EQ(Differences(field, RawBytes(32).Text(0, kept)), "");
+    return kept;
 }
 
+// Puts a query with one record, which must stay as it is when the query fails.
+template <typename Item>
+bool Ask(BOOL WINAPI (*query)(const char*, DWORD, Item*), const char* agent, const std::string& key,
+         RawBytes& record) {
+    const std::string field = key.size() < 32 ? key + '\0' : key;
+    record.U8(0, 0xAB, record.bytes.size()).Text(0, field);
+    const RawBytes before = record;
+    const BOOL result = query(agent, 1, reinterpret_cast<Item*>(record.bytes.data()));
+    EXPECT_EQ(memcmp(record.bytes.data(), before.bytes.data(), 32), 0) << "the key is the caller's";
+    if (result == FALSE) {
+        EXPECT_EQ(Differences(record.bytes.data(), before), "");
+    }
+    return result != FALSE;
+}
+
+// The two queries' answers in words, or "refused".
+inline std::string Option(const std::string& key, const char* agent = kAgent) {
+    RawBytes record(64);
+    return Ask(DDProc_OptionRequest, agent, key, record) ? FieldAt(record, 32) : "refused";
+}
+
+// "size orientation type weight color hole level".
 inline std::string Tray(const std::string& key, const char* agent = kAgent) {
-    const auto ask = [](const char* device, DWORD count, void* items) {
-        return DDProc_InputTrayStatus(device, count, static_cast<InputTrayStatusItem*>(items));
-    };
-    return AskTray(ask, key, agent);
+    RawBytes record(228);
+    if (!Ask(DDProc_InputTrayStatus, agent, key, record))
+        return "refused";
+    std::string answer;
+    for (size_t offset = 32; offset < 224; offset += 32)
+        answer += FieldAt(record, offset) + " ";
+    return answer + std::to_string(NumberAt<uint32_t>(record.bytes.data(), 224));
 }
 
 struct Closing {

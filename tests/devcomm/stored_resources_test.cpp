@@ -33,9 +33,8 @@ RawBytes Entry(const std::string& first, const std::string& second, const std::s
 void ExpectBlock(void* block, const std::vector<std::vector<RawBytes>>& lists) {
     RawBytes expected(lists.size() * 16), entries(0);
     for (size_t i = 0; i < lists.size(); ++i) {
-        const uint64_t at = reinterpret_cast<uint64_t>(block) + expected.bytes.size() + entries.bytes.size();
-        expected.U32(i * 16, static_cast<uint32_t>(lists[i].size()));
-        expected.U32(i * 16 + 8, static_cast<uint32_t>(at)).U32(i * 16 + 12, static_cast<uint32_t>(at >> 32));
+        const auto* at = static_cast<uint8_t*>(block) + expected.bytes.size() + entries.bytes.size();
+        expected.U32(i * 16, static_cast<uint32_t>(lists[i].size())).Pointer(i * 16 + 8, at);
         for (const RawBytes& entry : lists[i])
             entries.Append(entry);
     }

@@ -1,7 +1,5 @@
-// Host only: the module's entry point, its handles, and the exports that the frame itself answers.
-#include "devcomm/printer_queries.h"
+// Host only: the module's entry point and its handles.
 #include "frame/entry.h"
-#include "frame/exports.h"
 #include "frame/module_handles.h"
 #include "platform_control.h"
 
@@ -48,13 +46,7 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
     }
 }
 
-TEST(Frame, NeverLoadsASiblingByBareNameOrFromACutPath) {
-    platform::RegisterLibrary(L"TELMAR_S.DLL");
-    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
-    EXPECT_EQ(ResourceModule(), nullptr);
-    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
-    EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE) << "there is nothing left to free";
-
+TEST(Frame, NeverLoadsASiblingFromACutPath) {
     // The path ends in the midst of a folder's name: its parent holds another TELMAR_S.DLL.
     std::vector<wchar_t> module(400, L'a');
     module[0] = module[100] = L'\\';
@@ -80,16 +72,6 @@ TEST(Frame, SiblingPathFitsOrIsRefused) {
         EXPECT_EQ(SiblingPath(kInstance, L"TELMAR_S.DLL", path), folder < 248) << folder;
         EXPECT_EQ(path[0], folder < 248 ? L'\\' : L'\0') << folder;
     }
-}
-
-TEST(Frame, FreeExportReleasesOneLocalBlock) {
-    void* block = LocalAlloc(LPTR, 100);
-    EXPECT_EQ(platform::Count().localBlocks, 1);
-    MIB_FreeOverlayInfo(block);
-    EXPECT_EQ(platform::Count().localBlocks, 0);
-    MIB_FreeOverlayInfo(nullptr);
-    EXPECT_EQ(platform::Count().localBlocks, 0);
-    EXPECT_EQ(DDProc_FeatureNameItemTable(), nullptr);
 }
 
 } // namespace

@@ -25,12 +25,7 @@ struct StartUpTest : ParameterDataTest {
     ~StartUpTest() override { fs::remove_all(folder); }
     void Arrange() const {
         platform::Reset();
-        const auto path = [this](const char* file) {
-            const std::string text = (folder / file).string();
-            std::vector<wchar_t> wide(text.begin(), text.end());
-            wide.push_back(0);
-            return wide;
-        };
+        const auto path = [this](const char* file) { return Widened((folder / file).string()); };
         platform::SetModuleFileName(path("TELMAR_D.DLL").data());
         platform::RegisterLibrary(path("TELMAR_S.DLL").data());
     }
@@ -79,12 +74,8 @@ PrmImage CompleteImage() {
     return image;
 }
 
-RawBytes Item(const std::string& key, uint32_t value, const wchar_t* display) {
-    return RawBytes(144).U32(0, 144).Text(4, key).U32(36, value).U16(44, 32515).Wide(48, display);
-}
-
-const RawBytes kWeights =
-    Item("Plain", 3, L"Plain paper").Append(Item("MediaTypeList_Weight_Unknown", 0xFFFFFFFF, L"?"));
+const RawBytes kWeights = ListRecord("Plain", 3, L"Plain paper")
+                              .Append(ListRecord("MediaTypeList_Weight_Unknown", 0xFFFFFFFF, L"?"));
 
 TEST_F(StartUpTest, WithoutAFileEverythingStaysAsCompiledIn) {
     Attach();
@@ -130,12 +121,14 @@ TEST_F(StartUpTest, EveryBuilderRunsInItsPlace) {
         settings.U8(1395, 14).U8(1396, 1).U8(1478, 4).U8(1483, 4).U16(1480, 300).U16(2166, 5).U16(2516, 1);
         EXPECT_EQ(Differences(&defaultSettings, settings), "");
 
-        EXPECT_EQ(Differences(&colorTables.simulations, Item("Simu_DIC", 0, L"DIC").Append(RawBytes(144))),
+        EXPECT_EQ(
+            Differences(&colorTables.simulations, ListRecord("Simu_DIC", 0, L"DIC").Append(RawBytes(144))),
+            "");
+        EXPECT_EQ(Differences(&colorTables.text.rgbProfiles,
+                              ListRecord("Text_PAL", 133, L"PAL").Append(RawBytes(144))),
                   "");
         EXPECT_EQ(
-            Differences(&colorTables.text.rgbProfiles, Item("Text_PAL", 133, L"PAL").Append(RawBytes(144))),
-            "");
-        EXPECT_EQ(Differences(&colorTables.graphics.destinations, Item("Graph_DestAuto", 0, L"Printer")), "");
+            Differences(&colorTables.graphics.destinations, ListRecord("Graph_DestAuto", 0, L"Printer")), "");
         EXPECT_EQ(Differences(propertyTexts[12].display, RawBytes(96).Wide(0, L"Yes")), "");
         EXPECT_EQ(Differences(colorDialogTexts[2].display, RawBytes(96).Wide(0, L"Letters")), "");
         EXPECT_EQ(Differences(trayDialogTexts[3].display, RawBytes(96).Wide(0, L"Format")), "");
@@ -158,7 +151,7 @@ TEST_F(StartUpTest, AttachWithoutMemory) {
     Attach();
     Detach();
     const unsigned allocations = platform::Count().allocations;
-    const RawBytes destination = Item("Graph_DestAuto", 0, L"Printer");
+    const RawBytes destination = ListRecord("Graph_DestAuto", 0, L"Printer");
     unsigned withoutLists = 0, withoutDestination = 0;
     for (unsigned n = 1; n <= allocations; ++n) {
         SCOPED_TRACE(n);

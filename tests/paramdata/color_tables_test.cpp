@@ -38,20 +38,13 @@ std::vector<Item> Items(const std::string& text) {
     return items;
 }
 
-std::vector<wchar_t> Widened(const std::string& text) {
-    std::vector<wchar_t> wide(text.begin(), text.end());
-    wide.push_back(0);
-    return wide;
-}
-
 // The bytes of a table with room for so many items and the end record.
 RawBytes TableOf(const std::vector<Item>& items, size_t capacity) {
-    RawBytes table(144 * (capacity + 1));
-    for (size_t i = 0; i < items.size() && i < capacity; ++i) {
-        const size_t at = 144 * i;
-        table.U32(at, 144).Text(at + 4, items[i].key.substr(0, 31)).U32(at + 36, items[i].value);
-        table.U16(at + 44, 32515).Wide(at + 48, Widened(items[i].display.substr(0, 47)).data());
-    }
+    RawBytes table(0);
+    for (size_t i = 0; i < items.size() && i < capacity; ++i)
+        table.Append(ListRecord(items[i].key.substr(0, 31), items[i].value,
+                                Widened(items[i].display.substr(0, 47)).data()));
+    table.bytes.resize(144 * (capacity + 1));
     return table;
 }
 
@@ -197,21 +190,18 @@ TEST_F(ColorTablesTest, DestinationLists) {
 }
 
 TEST_F(ColorTablesTest, ControlTextsAsCompiledIn) {
+    // clang-format off
     const struct {
         const ControlTextRecord* table;
         size_t records; // the end included
         std::vector<uint32_t> templates;
         const char* rows; // behind the row of the templates
     } cases[] = {
-        {propertyTexts,
-         std::size(propertyTexts),
-         {1130},
+        {propertyTexts, std::size(propertyTexts), {1130},
          "ViewPrinter;ViewPaper=1130;ViewCover=1130;ViewOverlay=1130;ViewWatermark=1130;ViewQuality=1130;"
          "PrinterInfoBT=1201;EasySet=1131;EasySetDefaults=-1;EasySetUntitled=-1;SaveEasySet=1133;"
          "EditEasySet=1134;OK=1;Cancel=2;Default=1032;Help=9"},
-        {colorDialogTexts,
-         std::size(colorDialogTexts),
-         {122, 123, 124, 125, 128},
+        {colorDialogTexts, std::size(colorDialogTexts), {122, 123, 124, 125, 128},
          "Dlg_ColorSetting;RGBProf=1632;Text=1506;Text_RGBProf=1507;Text_RGBColorMatch=1465;"
          "Text_RGBGray=1466;Text_Halftone=1467;Text_Destination=1589;Image=1501;Img_RGBProf=1502;"
          "Img_RGBColorMatch=1468;Img_RGBGray=1469;Img_Halftone=1471;Img_Destination=1597;Graphics=1473;"
@@ -219,14 +209,13 @@ TEST_F(ColorTablesTest, ControlTextsAsCompiledIn) {
          "Graph_RGBGray=1517;Graph_Halftone=1520;Graph_Destination=1582;PSProfile=1523;SimulationProf=1398;"
          "MatchPaperColor=1526;Simu_CMYKGray=1625;PSProfile2=1630;DestinationProf=1408;"
          "Profile_Download=1393;ManageProfile=1528"},
-        {trayDialogTexts,
-         std::size(trayDialogTexts),
-         {155},
+        {trayDialogTexts, std::size(trayDialogTexts), {155},
          "Dlg_PaperSourceTraySetting;MediaType_Info=1845;MediaTypeList_Tray=-1;MediaTypeList_Size=-1;"
          "MediaTypeList_Orient=-1;MediaTypeList_Type=-1;MediaTypeList_Weight=-1;MediaTypeList_Color=-1;"
          "MediaTypeList_Hole=-1;MediaType_Size=1859;MediaType_Orientation=1861;MediaType_Paper=1005;"
          "MediaType_Weight=1084;MediaType_Color=1089;MediaType_Hole=1097"},
     };
+    // clang-format on
     for (const auto& c : cases) {
         RawBytes expected(148 * c.records);
         for (size_t i = 0; i < c.templates.size(); ++i)

@@ -13,13 +13,6 @@ constexpr wchar_t kCut32[] = L"\u00C4123456789_123456789_123456789_";
 constexpr wchar_t kCut48[] = L"\u00C4123456789_123456789_123456789_123456789_123456";
 static_assert(sizeof(kCut32) == 64 && sizeof(kCut48) == 96);
 
-// What every list record starts with.
-RawBytes ListRecord(size_t size, const std::string& key, uint32_t value, const wchar_t* display) {
-    RawBytes record(size);
-    record.U32(0, static_cast<uint32_t>(size)).Text(4, key).U32(36, value).U16(44, 32515).Wide(48, display);
-    return record;
-}
-
 // Compares the list at a position of the table, its terminating record included.
 void ExpectList(const BuiltTable& built, size_t position, RawBytes expected, size_t recordSize,
                 bool sizedEnd) {
@@ -52,9 +45,9 @@ TEST_F(ItemListsTest, ListsOfItemsWithText) {
     BuiltTable built(image);
     for (const auto& list : lists) {
         const size_t textAt = list.wide ? 144 : 112;
-        RawBytes expected = ListRecord(list.size, list.entry, 7, L"Fach \u4E2D").Text(textAt, "text");
-        RawBytes full = ListRecord(list.size, kCutKey, 0xFFFFFFFE, list.wide ? kCut48 : kCut32);
-        expected.Append(full.Text(textAt, kCutText)).Append(ListRecord(list.size, "NoDisplay", 0, L""));
+        RawBytes expected = ListRecord(list.entry, 7, L"Fach \u4E2D", list.size).Text(textAt, "text");
+        RawBytes full = ListRecord(kCutKey, 0xFFFFFFFE, list.wide ? kCut48 : kCut32, list.size);
+        expected.Append(full.Text(textAt, kCutText)).Append(ListRecord("NoDisplay", 0, L"", list.size));
         ExpectList(built, list.position, expected, list.size, false);
     }
 }
@@ -67,7 +60,7 @@ TEST_F(ItemListsTest, NoItemsAndItemsBehindTheFile) {
     BuiltTable built(image);
     ExpectList(built, 682, RawBytes(0), 288, false);
     ExpectList(built, 786, RawBytes(0), 180, true);
-    ExpectList(built, 642, ListRecord(240, "", 0, L"").Append(ListRecord(240, "", 0, L"")), 240, false);
+    ExpectList(built, 642, ListRecord("", 0, L"", 240).Append(ListRecord("", 0, L"", 240)), 240, false);
     EXPECT_EQ(built.List(598), nullptr) << "no entry";
 }
 
@@ -80,12 +73,12 @@ TEST_F(ItemListsTest, MediaTypesAndCollate) {
     // Both texts of the first item are full, with no terminator in between.
     image.Items<PrmMediaItem>("Collate", {image.Media("Sort", L"not taken", 3, 0xFFFFFFFF, kFullText), two});
     const BuiltTable built(image);
-    RawBytes types = ListRecord(240, "Plain", 1, L"Plain paper").Text(112, "first");
-    types.Append(ListRecord(240, "Thick", 2, kCut32).Text(112, "second"));
+    RawBytes types = ListRecord("Plain", 1, L"Plain paper", 240).Text(112, "first");
+    types.Append(ListRecord("Thick", 2, kCut32, 240).Text(112, "second"));
     ExpectList(built, 574, types, 240, true);
     const std::string t63(63, 't');
-    RawBytes collates = ListRecord(180, "Sort", 3, L"").U32(48, 0xFFFFFFFF).Text(52, t63).Text(116, t63);
-    collates.Append(ListRecord(180, "NoSort", 4, L"").Text(52, "one").Text(116, "two"));
+    RawBytes collates = ListRecord("Sort", 3, L"", 180).U32(48, 0xFFFFFFFF).Text(52, t63).Text(116, t63);
+    collates.Append(ListRecord("NoSort", 4, L"", 180).Text(52, "one").Text(116, "two"));
     ExpectList(built, 786, collates, 180, true);
 }
 
@@ -98,9 +91,9 @@ TEST_F(ItemListsTest, TabAndOutputPapers) {
     item.U32(308, image.Wide(kLongDisplay)).U32(312, 0x01020304).U32(316, 0x05060708);
     image.Entry("OutPaperSize", {image.Put(item)});
     const BuiltTable built(image);
-    const RawBytes tabs = ListRecord(156, "TabA4", 9, kCut48).U32(144, 5).U32(148, 2230).U32(152, 2970);
+    const RawBytes tabs = ListRecord("TabA4", 9, kCut48, 156).U32(144, 5).U32(148, 2230).U32(152, 2970);
     ExpectList(built, 778, tabs, 156, true);
-    RawBytes paper = ListRecord(440, "A4", 9, L"A4 paper").Wide(144, L"A4 paper").Wide(240, kCut48);
+    RawBytes paper = ListRecord("A4", 9, L"A4 paper", 440).Wide(144, L"A4 paper").Wide(240, kCut48);
     ExpectList(built, 566, paper.Wide(336, kCut48).U32(432, 0x01020304).U32(436, 0x05060708), 440, true);
 }
 
@@ -113,7 +106,7 @@ TEST_F(ItemListsTest, Resolutions) {
     std::vector<PrmResolution> items;
     RawBytes expected(0);
     for (const auto& [key, number] : cases) {
-        RawBytes record = ListRecord(120, key, static_cast<uint32_t>(items.size()), kCut32).U16(118, number);
+        RawBytes record = ListRecord(key, static_cast<uint32_t>(items.size()), kCut32, 120).U16(118, number);
         expected.Append(record.U16(112, 600).U16(114, 0x5678).U16(116, 2));
         PrmResolution& item = items.emplace_back(PrmResolution{image.Head(key, kLongDisplay), {}, {}});
         memset(item.unread, 0xAB, sizeof(item.unread));
@@ -144,7 +137,7 @@ RawBytes FilePaper(PrmImage& image, const char* key, unsigned present) {
 
 // The list record that it gives.
 RawBytes ListPaper(const char* key, unsigned present) {
-    RawBytes record = ListRecord(1004, key, 9, L"A4").Wide(144, L"A4").Wide(240, L"210 x 297 mm");
+    RawBytes record = ListRecord(key, 9, L"A4", 1004).Wide(144, L"A4").Wide(240, L"210 x 297 mm");
     record.Wide(336, L"210 x 297 mm").Text(432, kCutText).U32(560, 2100).U32(564, 2970);
     const size_t flags[] = {568, 644, 808, 812, 816}, sets[] = {572, 648, 656, 672, 792},
                  sizes[] = {72, 8, 16, 120, 16};

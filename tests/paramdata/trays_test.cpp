@@ -62,28 +62,10 @@ TEST_F(TraysTest, SelectionLists) {
         RawBytes expected(0);
         for (const std::string& item : Split(std::string(row.items) + unknown, ';')) {
             const std::vector<std::string> parts = Split(item, '=');
-            RawBytes record =
-                RawBytes(144).U32(0, 144).Text(4, parts[0]).U16(44, 32515).Wide(48, L"Tray \u00E4");
-            expected.Append(record.U32(36, static_cast<uint32_t>(std::stoul(parts[1]))));
+            const auto value = static_cast<uint32_t>(std::stoul(parts[1]));
+            expected.Append(ListRecord(parts[0], value, L"Tray \u00E4"));
         }
         EXPECT_EQ(Differences(built.List(row.position), expected.Append(RawBytes(144))), "") << row.feature;
-    }
-}
-
-TEST_F(TraysTest, SelectionValues) {
-    // clang-format off
-    const struct {
-        const char *feature, *key;
-        uint32_t value; // 77: not found, left as it was
-    } cases[] = {
-        {"fcovertray", "FCOVER_tray1", 257}, {"FCoverTray", "BCover_Tray1", 77}, {"", "FCover_Tray1", 77},
-        {"PIBackCover", "PIBTray2", 1002},   {"PIBackCover", "PIFTray2", 77},
-        {"FCover", "FCover_Tray1", 77},      {"PIFrontCover", "", 77}};
-    // clang-format on
-    for (const auto& c : cases) {
-        uint32_t value = 77;
-        EXPECT_EQ(TraySelectionValue(c.feature, c.key, value), c.value != 77) << c.feature << c.key;
-        EXPECT_EQ(value, c.value) << c.feature << c.key;
     }
 }
 
@@ -159,8 +141,7 @@ TEST_F(TraysTest, RowsTakeTheNamesOfItemsThatEndInTheirKeys) {
         RawBytes expected(0);
         for (const std::string& row : Split(c.rows, ' ')) {
             const auto bin = static_cast<uint32_t>(257 + expected.bytes.size() / 112);
-            RawBytes record =
-                RawBytes(112).U32(0, 112).U32(36, bin).U16(44, 32515).Text(4, row.substr(0, row.find(':')));
+            RawBytes record = ListRecord(row.substr(0, row.find(':')), bin, L"", 112);
             expected.Append(record.Text(48, row.substr(row.find(':') + 1)));
         }
         const BuiltTable built(image);

@@ -91,15 +91,8 @@ TemporaryFile::TemporaryFile(const std::vector<uint8_t>& bytes) {
     static unsigned number = 0;
     path =
         testing::TempDir() + "lumora_" + std::to_string(getpid()) + "_" + std::to_string(++number) + ".prm";
-    widePath.assign(path.begin(), path.end());
-    widePath.push_back(0);
-    Rewrite(bytes);
-}
-
-// A new file each time: some file systems write a file that was truncated through to the disk.
-void TemporaryFile::Rewrite(const std::vector<uint8_t>& bytes) const {
-    remove(path.c_str());
+    widePath = Widened(path);
     std::ofstream file(path, std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    ASSERT_TRUE(file.flush()) << path;
+    EXPECT_TRUE(file.flush()) << path;
 }

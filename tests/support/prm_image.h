@@ -79,7 +79,6 @@ struct TemporaryFile {
     explicit TemporaryFile(const std::vector<uint8_t>& bytes);
     ~TemporaryFile() { remove(path.c_str()); }
     TemporaryFile(const TemporaryFile&) = delete;
-    void Rewrite(const std::vector<uint8_t>& bytes) const;
 
     std::string path;
     std::vector<wchar_t> widePath; // terminated
@@ -110,6 +109,13 @@ struct BuiltTable {
 struct ParameterDataTest : testing::Test {
     CompiledInTables kept;
 };
+
+// What every list record starts with; the commonest kind has this size.
+inline RawBytes ListRecord(const std::string& key, uint32_t value, const wchar_t* display,
+                           size_t size = 144) {
+    const RawBytes record = RawBytes(size).U32(0, static_cast<uint32_t>(size)).Text(4, key).U32(36, value);
+    return RawBytes(record).U16(44, 32515).Wide(48, display);
+}
 
 // A text of this character, terminated.
 inline std::vector<wchar_t> Repeated(wchar_t character, size_t length) {

@@ -17,6 +17,11 @@ RawBytes& RawBytes::U32(size_t offset, uint32_t value) {
     return U16(offset, value & 0xFFFF).U16(offset + 2, value >> 16);
 }
 
+RawBytes& RawBytes::Pointer(size_t offset, const void* target) {
+    const uint64_t address = reinterpret_cast<uintptr_t>(target);
+    return U32(offset, static_cast<uint32_t>(address)).U32(offset + 4, static_cast<uint32_t>(address >> 32));
+}
+
 RawBytes& RawBytes::Text(size_t offset, const std::string& text) {
     for (const char c : text)
         U8(offset++, static_cast<uint8_t>(c));

@@ -15,6 +15,7 @@ struct RawBytes {
     RawBytes& U8(size_t offset, unsigned value, size_t repeat = 1);
     RawBytes& U16(size_t offset, unsigned value);
     RawBytes& U32(size_t offset, uint32_t value);
+    RawBytes& Pointer(size_t offset, const void* target);
     RawBytes& Text(size_t offset, const std::string& text); // without terminator
     RawBytes& Wide(size_t offset, const wchar_t* text);     // without terminator
     RawBytes& Append(const RawBytes& more);
@@ -27,6 +28,13 @@ Number NumberAt(const void* record, size_t offset) {
     Number number;
     memcpy(&number, static_cast<const uint8_t*>(record) + offset, sizeof(number));
     return number;
+}
+
+// A text of ASCII characters, terminated.
+inline std::vector<wchar_t> Widened(const std::string& ascii) {
+    std::vector<wchar_t> wide(ascii.begin(), ascii.end());
+    wide.push_back(0);
+    return wide;
 }
 
 // The first few bytes that differ, by offset; empty when the block at `actual` is as

@@ -7,18 +7,10 @@ namespace {
 
 struct MediaTypeListsTest : ParameterDataTest {};
 
-// A device table by raw offset, with lists at its pointers' positions.
-struct RawTable : RawBytes {
-    RawTable() : RawBytes(818) {}
-    void Point(size_t position, const RawBytes& list) {
-        const void* pointer = list.bytes.data();
-        memcpy(&bytes[position], &pointer, sizeof(pointer));
-    }
-    const DeviceTable* Table() const { return reinterpret_cast<const DeviceTable*>(bytes.data()); }
-};
+constexpr size_t kTableSize = 818;
 
-RawBytes Item(const std::string& key, uint32_t value, const wchar_t* display) {
-    return RawBytes(144).U32(0, 144).Text(4, key).U32(36, value).U16(44, 32515).Wide(48, display);
+const DeviceTable* AsTable(const RawBytes& table) {
+    return reinterpret_cast<const DeviceTable*>(table.bytes.data());
 }
 
 void AddTexts(PrmImage& image, const std::string& entry, const std::string& keys, const wchar_t* display) {
@@ -41,7 +33,7 @@ const struct {
 TEST_F(MediaTypeListsTest, RecordsAndThenTexts) {
     for (const bool records : {false, true})
         for (const bool texts : {false, true}) {
-            RawTable table;
+            RawBytes table(kTableSize);
             PrmImage image;
             std::vector<RawBytes> lists, expected;
             lists.reserve(std::size(kLists)); // the table points into them
@@ -55,25 +47,25 @@ TEST_F(MediaTypeListsTest, RecordsAndThenTexts) {
                     from.Wide(list.recordSize + 48, Repeated(L'x', list.displayRoom).data());
                     from.U16(list.recordSize + 48 + 2 * list.displayRoom, L'y');
                     lists.push_back(from);
-                    table.Point(list.position, lists.back());
-                    wanted.Append(Item(entry, 0x10001, L"A4"));
+                    table.Pointer(list.position, lists.back().bytes.data());
+                    wanted.Append(ListRecord(entry, 0x10001, L"A4"));
                     const size_t length = list.displayRoom == 48 ? 47 : 32;
-                    wanted.Append(Item(std::string(31, 'k'), 7, Repeated(L'x', length).data()));
+                    wanted.Append(ListRecord(std::string(31, 'k'), 7, Repeated(L'x', length).data()));
                 }
                 const std::string unknown = entry + "_Unknown";
                 if (texts && list.position == 0) {
                     AddTexts(image, entry, unknown + " mediatypelist_LANDSCAPE MediaTypeList_Portrait", L"T");
-                    wanted.Append(Item("MediaTypeList_Portrait", 1, L"T"));
-                    wanted.Append(Item("MediaTypeList_Landscape", 2, L"T"));
+                    wanted.Append(ListRecord("MediaTypeList_Portrait", 1, L"T"));
+                    wanted.Append(ListRecord("MediaTypeList_Landscape", 2, L"T"));
                 } else if (texts) {
                     AddTexts(image, entry, "Other " + unknown, Repeated(L'T', 60).data());
                 }
                 const auto name = Repeated(L'T', list.position == 0 ? 1 : 47);
                 if (texts)
-                    wanted.Append(Item(unknown, 0xFFFFFFFF, name.data()));
+                    wanted.Append(ListRecord(unknown, 0xFFFFFFFF, name.data()));
                 expected.push_back(wanted.Append(RawBytes(144)));
             }
-            MediaTypeLists* built = BuildMediaTypeLists(OpenedImage(image).file, table.Table());
+            MediaTypeLists* built = BuildMediaTypeLists(OpenedImage(image).file, AsTable(table));
             ASSERT_NE(built, nullptr);
             for (size_t i = 0; i < std::size(kLists); ++i)
                 EXPECT_EQ(Differences(built->lists[i], expected[i]), "")
@@ -88,18 +80,18 @@ TEST_F(MediaTypeListsTest, AMissingTextLeavesNoGap) {
     AddTexts(image, "MediaTypeList_Size", "MediaTypeList_Size_Unknown_", L"Longer key");
     PrmImage other;
     AddTexts(other, "MediaTypeList_Orient", "MediaTypeList_Landscape", L"Across");
-    const RawTable table;
+    const RawBytes table(kTableSize);
     for (const bool withLandscape : {false, true}) {
         const OpenedImage file(withLandscape ? other : image);
-        MediaTypeLists* built = BuildMediaTypeLists(file.file, table.Table());
+        MediaTypeLists* built = BuildMediaTypeLists(file.file, AsTable(table));
         ASSERT_NE(built, nullptr);
-        const RawBytes none(144), one = Item("MediaTypeList_Landscape", 2, L"Across").Append(none);
+        const RawBytes none(144), one = ListRecord("MediaTypeList_Landscape", 2, L"Across").Append(none);
         EXPECT_EQ(Differences(built->lists[1], withLandscape ? one : none), "");
         EXPECT_EQ(Differences(built->lists[0], none), "");
         FreeMediaTypeLists(built);
     }
     const OpenedImage file(image);
-    EXPECT_EQ(BuildMediaTypeLists(nullptr, table.Table()), nullptr);
+    EXPECT_EQ(BuildMediaTypeLists(nullptr, AsTable(table)), nullptr);
     EXPECT_EQ(BuildMediaTypeLists(file.file, nullptr), nullptr);
     FreeMediaTypeLists(nullptr);
 }
@@ -142,24 +134,13 @@ TEST_F(MediaTypeListsTest, ItemTexts) {
     EXPECT_FALSE(PrmGetItemText(*opened.file, "List", "Key", nullptr, 8));
 }
 
-TEST_F(MediaTypeListsTest, ColumnsThatShow) {
-    const bool shown[][3] = {{true, true, true},
-                             {true, true, true},
-                             {false, true, true},
-                             {false, false, false},
-                             {true, true, true}}; // by type: weight, colour, hole
-    for (uint32_t type = 0; type < 5; ++type)
-        for (uint32_t flags = 0; flags < 8; ++flags) {
-            RawTable table;
-            table.U32(4 * 83, type)
-                .U32(4 * 18, flags & 1)
-                .U32(4 * 19, flags >> 1 & 1)
-                .U32(4 * 20, flags >> 2);
-            EXPECT_EQ(MediaWeightShown(table.Table()), shown[type][0] ? flags & 1 : 0) << type << flags;
-            EXPECT_EQ(MediaColorShown(table.Table()), shown[type][1] ? flags >> 1 & 1 : 0) << type << flags;
-            EXPECT_EQ(MediaHoleShown(table.Table()), shown[type][2] ? flags >> 2 : 0) << type << flags;
-        }
-    EXPECT_EQ(MediaWeightShown(nullptr) + MediaColorShown(nullptr) + MediaHoleShown(nullptr), 0u);
+TEST_F(MediaTypeListsTest, EachColumnShowsByASwitchOfItsOwn) {
+    for (uint32_t i = 0; i < 3; ++i) {
+        const RawBytes table = RawBytes(kTableSize).U32(4 * (18 + i), 1);
+        EXPECT_EQ(MediaWeightShown(AsTable(table)), i == 0 ? 1u : 0u);
+        EXPECT_EQ(MediaColorShown(AsTable(table)), i == 1 ? 1u : 0u);
+        EXPECT_EQ(MediaHoleShown(AsTable(table)), i == 2 ? 1u : 0u);
+    }
 }
 
 } // namespace
