@@ -1,8 +1,8 @@
 // Device capabilities of the shipped model: the bin numbers and names of the paper sources whose option is
 // installed, against the same lists copied without a question.
-#include "frame/exports.h"
 #include "paramdata/prm_file.h"
 #include "paramdata/text.h"
+#include "picture/device_capabilities.h"
 
 #include <benchmark/benchmark.h>
 #include <cstring>
@@ -10,7 +10,6 @@
 namespace {
 
 constexpr size_t kMostTrays = 64;
-constexpr size_t kNameChars = 24;
 
 // The installable options of the model's trays, all installed.
 constexpr ItemRecord kInstalled[] = {{{sizeof(ItemRecord), "EnaOpInTray", 1, 0, 0, 0}, L""}, {}};
@@ -38,7 +37,7 @@ struct Model {
     PrmFile* file;
     DeviceTable* table;
     WORD bins[kMostTrays] = {};
-    wchar_t names[kMostTrays][kNameChars] = {};
+    wchar_t names[kMostTrays][kBinNameCharacters] = {};
 };
 
 // One item is one call.
@@ -69,7 +68,7 @@ void CopyOnly(benchmark::State& state) {
         count = 0;
         for (const InputSlotRecord* tray = model.table->inputTrays; tray->head.key[0] != 0; ++tray, ++count) {
             memcpy(model.names[count], tray->display, sizeof(model.names[count]));
-            model.names[count][kNameChars - 1] = 0;
+            model.names[count][kBinNameCharacters - 1] = 0;
         }
         benchmark::ClobberMemory();
     }

@@ -124,8 +124,7 @@ void CheckRequest(const std::vector<Datagram>& datagrams) {
         CheckValue(varBind.value, kReceiveCapacity);
     } else {
         Require(lastError == expected, "another last error");
-        Require(memcmp(&varBind, &before, sizeof(varBind)) == 0 && status == kNothing && index == kNothing,
-                "a failed request has stored something");
+        Require(memcmp(&varBind, &before, sizeof(varBind)) == 0, "a failed request has stored a value");
     }
     ClientVarBindFree(&varBind);
     ClientClose(session);

@@ -7,7 +7,7 @@
 
 namespace {
 
-using BinName = std::array<wchar_t, 24>;
+using BinName = std::array<wchar_t, kBinNameCharacters>;
 
 // As applications do: the count first, then the elements. Empty when the module declines.
 template <typename Element>

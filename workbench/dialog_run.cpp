@@ -10,9 +10,6 @@
 namespace {
 
 constexpr UINT kActionInterval = 30; // milliseconds
-constexpr uint32_t kTrayButtonPage = 156;
-constexpr WPARAM kTrayButton = 1847;
-constexpr UINT kTraysChangedMessage = WM_USER + 104; // to the page's parent
 constexpr const wchar_t* kDialogClass = L"#32770";
 
 struct DialogRun {

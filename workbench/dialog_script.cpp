@@ -3,6 +3,7 @@
 
 #include "dialog_view.h"
 #include "dialogs/color_dialog.h"
+#include "dialogs/dlg_proc.h"
 #include "input_file.h"
 
 #include <algorithm>

@@ -4,7 +4,6 @@
 #define WORKBENCH_FAMILY_FILES_H
 
 #include "document.h"
-#include "frame/exports.h"
 #include "paramdata/device_data.h"
 #include "paramdata/prm_file.h"
 

@@ -77,9 +77,8 @@ OptionFeatures ReadOptionFeatures(const FamilyFiles& family) {
     OptionFeatures options;
     for (const char* feature : kOptionFeatures)
         AddFeature(*family.parameters, feature, options);
-    for (const InputSlotRecord* slot = family.table->inputTrays; slot != nullptr && slot->head.key[0] != 0;
-         ++slot)
-        AddFeature(*family.parameters, std::string("Op") + slot->head.key, options);
+    for (const InputSlotRecord& slot : Listed(family.table->inputTrays))
+        AddFeature(*family.parameters, std::string("Op") + slot.head.key, options);
     options.features.push_back({});
     return options;
 }

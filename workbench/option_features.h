@@ -5,6 +5,7 @@
 
 #include "document.h"
 #include "family_files.h"
+#include "picture/feature_table.h"
 
 #include <CLI/CLI.hpp>
 #include <vector>

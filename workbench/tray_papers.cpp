@@ -22,9 +22,8 @@ constexpr struct {
 // Calls `use` with each value that an attribute can take.
 template <typename Use>
 void ForEachValue(size_t attribute, const Use& use) {
-    const ItemRecord* item = AttributeValues(static_cast<MediaTypeList>(attribute));
-    for (; item != nullptr && item->head.key[0] != 0; ++item)
-        use(*item);
+    for (const ItemRecord& item : Listed(AttributeValues(static_cast<MediaTypeList>(attribute))))
+        use(item);
 }
 
 int32_t ValueOf(size_t attribute, const QueryKey& key) {
@@ -58,12 +57,11 @@ TrayPapers UnknownPapers(const FamilyFiles& family) {
         for (const TrayAttribute& attribute : trayAttributes)
             StoreAttribute(paper, attribute, kUnknown);
     auto next = papers.begin();
-    const InputSlotRecord* source = family.table->inputTrays;
-    for (; source != nullptr && source->head.key[0] != 0 && next != papers.end(); ++source) {
-        if (source->head.value == inputSlots[0].bin)
+    for (const InputSlotRecord& source : Listed(family.table->inputTrays)) {
+        if (IsAutomaticBin(source.head.value) || next == papers.end())
             continue;
-        CopyText(next->key, source->head.key);
-        next->bin = source->head.value;
+        CopyText(next->key, source.head.key);
+        next->bin = source.head.value;
         ++next;
     }
     return papers;

@@ -50,8 +50,8 @@ SIZE ParseSize(const std::string& text) {
 // Those that the model lists, and those of the picture, listed or not.
 std::vector<std::string> TrayKeys(const DeviceTable& table) {
     std::vector<std::string> keys;
-    for (const InputSlotRecord* slot = table.inputTrays; slot != nullptr && slot->head.key[0] != 0; ++slot)
-        keys.emplace_back(Utf8(slot->head.key));
+    for (const InputSlotRecord& slot : Listed(table.inputTrays))
+        keys.emplace_back(Utf8(slot.head.key));
     for (const char* key : kTrayKeys)
         if (std::find(keys.begin(), keys.end(), key) == keys.end())
             keys.emplace_back(key);

@@ -1,4 +1,4 @@
-// The module with the system's SNMP libraries: stand-ins of them (snmp_stub.cpp) lie in the system directory
+// The module with the system's SNMP libraries: stand-ins for them (snmp_stub.cpp) lie in the system directory
 // while this program runs. Under wine only, whose prefix is the build's own, and with both loaded as native
 // libraries: ctest sets WINEDLLOVERRIDES for it.
 #include "product.h"

@@ -4,7 +4,6 @@
 #include "devcomm/printer_queries.h"
 #include "devcomm/query_catalogue.h"
 #include "devcomm/scripted_device.h"
-#include "frame/exports.h"
 #include "paramdata/text.h"
 #include "support/raw_bytes.h"
 

@@ -1,7 +1,6 @@
 // Host only: the walks over a scripted device while the local heap runs out at each allocation in turn.
 #include "devcomm/printer_queries.h"
 #include "devcomm/scripted_device.h"
-#include "frame/exports.h"
 #include "platform_control.h"
 
 #include <gtest/gtest.h>

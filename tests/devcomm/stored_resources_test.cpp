@@ -2,7 +2,6 @@
 // kept, and the blocks handed out.
 #include "devcomm/printer_queries.h"
 #include "devcomm/scripted_device.h"
-#include "frame/exports.h"
 #include "support/raw_bytes.h"
 
 #include <gtest/gtest.h>

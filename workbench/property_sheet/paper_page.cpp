@@ -77,10 +77,9 @@ private:
     }
 
     std::string NameOfSource(const std::string& key) const {
-        const InputSlotRecord* slot = state.family.table->inputTrays;
-        for (; slot != nullptr && slot->head.key[0] != 0; ++slot)
-            if (SameText(slot->head.key, key))
-                return Utf8(std::wstring_view(slot->display, TextLength(slot->display)));
+        for (const InputSlotRecord& slot : Listed(state.family.table->inputTrays))
+            if (SameText(slot.head.key, key))
+                return Utf8(std::wstring_view(slot.display, TextLength(slot.display)));
         return key;
     }
 
@@ -92,11 +91,10 @@ private:
     void ShowChoice(const PaperChoice& choice) const {
         std::vector<std::string> names;
         int selected = -1;
-        const CompactItemRecord* item = state.family.table.get()->*choice.list;
-        for (; item != nullptr && item->head.key[0] != 0; ++item) {
-            if (item->head.value == Load(state.settings, choice.field))
+        for (const CompactItemRecord& item : Listed(state.family.table.get()->*choice.list)) {
+            if (item.head.value == Load(state.settings, choice.field))
                 selected = static_cast<int>(names.size());
-            names.push_back(Utf8(std::wstring_view(item->display, TextLength(item->display))));
+            names.push_back(Utf8(std::wstring_view(item.display, TextLength(item.display))));
         }
         SetEntries(choice.control, names, selected);
     }

@@ -134,9 +134,8 @@ private:
         if (row < 0)
             return;
         std::vector<std::string> entries;
-        const ItemRecord* item = state.options.features[static_cast<size_t>(row)].items;
-        for (; item->head.key[0] != 0; ++item)
-            entries.push_back(Utf8(item->display));
+        for (const ItemRecord& item : Listed(state.options.features[static_cast<size_t>(row)].items))
+            entries.push_back(Utf8(item.display));
         SetEntries(ID_OPTION_ITEMS, entries, state.options.settings[static_cast<size_t>(row)]);
     }
 

@@ -60,10 +60,9 @@ void TakeKept(const Document& kept, SheetState& state) {
 ProfileEntry EntryOf(const SheetState& state, const StoredResourceEntry& stored) {
     ProfileEntry entry = {};
     CopyText(entry.name, Wide(stored.first, CP_ACP).c_str());
-    const TextItemRecord* location = state.family.table->profileLocations;
-    for (; location != nullptr && location->head.key[0] != 0; ++location)
-        if (SameText(location->head.key, stored.storage))
-            entry.location = location->head.value;
+    for (const TextItemRecord& location : Listed(state.family.table->profileLocations))
+        if (SameText(location.head.key, stored.storage))
+            entry.location = location.head.value;
     return entry;
 }
 
@@ -155,10 +154,9 @@ std::vector<PaperSource> OfferedSources(SheetState& state) {
 
 PrinterScene SceneOf(const SheetState& state) {
     PrinterScene scene = {state.options, true, {}, {}};
-    const InputSlotRecord* source = state.family.table->inputTrays;
-    for (; source != nullptr && source->head.key[0] != 0; ++source)
-        if (source->head.value == state.settings.inputTray)
-            scene.tray = source->head.key;
+    for (const InputSlotRecord& source : Listed(state.family.table->inputTrays))
+        if (source.head.value == state.settings.inputTray)
+            scene.tray = source.head.key;
     return scene;
 }
 

@@ -126,9 +126,9 @@ void StoreRgbProfile(ProfileEntry& to, LONG_PTR value, const ItemRecord* items,
         to = *profile;
         return;
     }
-    for (; value < kFirstRgbProfile && items->head.key[0] != 0; ++items)
-        if (static_cast<LONG_PTR>(items->head.value) == value) {
-            CopyText(to.qualifier, items->display);
+    for (const ItemRecord& item : Listed(items))
+        if (value < kFirstRgbProfile && static_cast<LONG_PTR>(item.head.value) == value) {
+            CopyText(to.qualifier, item.display);
             return;
         }
 }
@@ -141,8 +141,8 @@ int16_t RgbValue(const OemDevmode& settings, DevmodeField field) {
 
 void FillEntries(const ColorControls& controls, const ColorControl& control) {
     Send(controls, control.id, CB_RESETCONTENT);
-    for (const ItemRecord* item = ItemsOf(controls, control); item->head.key[0] != 0; ++item)
-        if (!AddEntry(controls, control.id, item->display, static_cast<LONG_PTR>(item->head.value)))
+    for (const ItemRecord& item : Listed(ItemsOf(controls, control)))
+        if (!AddEntry(controls, control.id, item.display, static_cast<LONG_PTR>(item.head.value)))
             return;
     if (control.kind == ColorControlKind::kRgbItems)
         return;

@@ -3,6 +3,7 @@
 #include "dialogs/color_dialog.h"
 
 #include "dialogs/default_devmode.h"
+#include "dialogs/dlg_proc.h"
 #include "dialogs/item_drawing.h"
 #include "dialogs/ui_module.h"
 #include "paramdata/control_texts.h"

@@ -7,9 +7,6 @@
 
 #include <windows.h>
 
-// A message of the user-interface module: show the settings anew.
-constexpr UINT kRefreshMessage = WM_USER + 100;
-
 constexpr int kDefaultsButton = 1032;
 
 struct ColorDialog {

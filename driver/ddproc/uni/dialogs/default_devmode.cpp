@@ -5,6 +5,7 @@
 #include "paramdata/default_settings.h"
 #include "paramdata/text.h"
 
+#include <algorithm>
 #include <cstring>
 #include <winspool.h>
 
@@ -38,18 +39,17 @@ uint32_t RegionalPaper() {
     return kA4;
 }
 
-// The paper size with this value; of several under its name the first.
+// The paper size with this value; of several under its name the first. Null when there is none.
 const PaperSizeRecord* FindPaper(const DeviceTable* table, uint32_t value) {
-    const PaperSizeRecord* const papers = table != nullptr ? table->paperSizes : nullptr;
-    const PaperSizeRecord* paper = papers;
-    while (paper != nullptr && paper->head.key[0] != 0 && paper->head.value != value)
-        ++paper;
-    if (paper == nullptr || paper->head.key[0] == 0)
+    const Rows<PaperSizeRecord> papers = Listed(table != nullptr ? table->paperSizes : nullptr);
+    const PaperSizeRecord* paper =
+        std::find_if(papers.begin(), papers.end(),
+                     [&](const PaperSizeRecord& other) { return other.head.value == value; });
+    if (paper == papers.end())
         return nullptr;
-    const PaperSizeRecord* named = papers;
-    while (!SameText(named->head.key, paper->head.key))
-        ++named;
-    return named;
+    return std::find_if(papers.begin(), papers.end(), [&](const PaperSizeRecord& other) {
+        return SameText(other.head.key, paper->head.key);
+    });
 }
 
 void LocalizePaper(const DeviceTable* table) {

@@ -10,10 +10,6 @@
 
 namespace {
 
-constexpr uint32_t kTrayButtonPage = 156;
-constexpr int kTrayButton = 1847;
-constexpr UINT kTraysChangedMessage = WM_USER + 104; // to the page's parent
-
 void OpenTraySettings(HWND page, DialogContext* context) {
     SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(context));
     LoadUiModule();

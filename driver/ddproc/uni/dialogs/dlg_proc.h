@@ -5,6 +5,16 @@
 #include <cstdint>
 #include <windows.h>
 
+constexpr uint32_t kTrayButtonPage = 156; // the property page with the tray-settings button
+constexpr int kTrayButton = 1847;
+
+// To a colour dialog that lists the printer's profiles: show the settings anew. No parameters.
+constexpr UINT kRefreshMessage = WM_USER + 100;
+
+// From the page with the tray-settings button to its parent, once the tray dialog has ended by OK: wParam is
+// the page.
+constexpr UINT kTraysChangedMessage = WM_USER + 104;
+
 // Answers one message of the dialog with this identifier. `handled`, which may be null, becomes 1 when the
 // dialog has acted on the message. 0, and nothing handled, for other identifiers.
 extern "C" int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam,

@@ -69,9 +69,9 @@ bool ShowsFocus(const DRAWITEMSTRUCT& item) {
 }
 
 const ItemRecord* FindByValue(const ItemRecord* items, LONG_PTR data) {
-    for (; items->head.key[0] != 0; ++items)
-        if (static_cast<LONG_PTR>(items->head.value) == data)
-            return items;
+    for (const ItemRecord& item : Listed(items))
+        if (static_cast<LONG_PTR>(item.head.value) == data)
+            return &item;
     return nullptr;
 }
 

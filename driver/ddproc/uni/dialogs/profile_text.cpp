@@ -8,10 +8,10 @@
 namespace {
 
 const TextItemRecord* FindLocation(uint32_t value) {
-    const TextItemRecord* location = deviceTable != nullptr ? deviceTable->profileLocations : nullptr;
-    for (; location != nullptr && location->head.key[0] != 0; ++location)
-        if (location->head.value == value)
-            return location;
+    for (const TextItemRecord& location :
+         Listed(deviceTable != nullptr ? deviceTable->profileLocations : nullptr))
+        if (location.head.value == value)
+            return &location;
     return nullptr;
 }
 

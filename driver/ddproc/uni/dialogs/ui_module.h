@@ -39,14 +39,14 @@ struct UiBinding {
 // The module must have been loaded.
 void BindUiModule(HWND dialog, DialogContext* context, const UiBinding& binding);
 
-// Checks the settings after this control has changed. True when the change is refused and must be undone.
-// Without module or callback nothing is.
+// Checks the settings after this control has changed. True when the change is refused, for a reason that the
+// hint window shows, and must be undone. Without module or callback nothing is.
 bool IsChangeRefused(HWND dialog, HWND hintWindow, uint32_t control);
 
 // Checks all settings at once, where nothing can be refused, and shows the hints for the current dialog.
 void CheckSettings(HWND dialog, DialogContext* context);
 
-// Refreshes the hints for the current dialog.
+// Shows the hints anew, for the dialog of this identifier.
 void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId);
 
 // The control that an icon control stands beside; 0 when it is none.

@@ -2,6 +2,8 @@
 // context of its dialogs, and the callbacks that it asks of TELMAR_U.DLL. Each header says who owns what, and
 // what fails how; docs/using_the_module.md is the way in.
 //
+// Only the exports can be called; other functions that these headers declare are the module's own.
+//
 // Two exports are known under a second name each, which has no declaration of its own: MIB_FreeProfileInfo is
 // MIB_FreeOverlayInfo, DDProc_FeatureNameValuePtr is DDProc_FeatureNameItemTable.
 #ifndef FRAME_TELMAR_D_H
@@ -13,6 +15,7 @@
 #include "dialogs/dlg_proc.h"
 #include "dialogs/ui_callbacks.h"
 #include "frame/exports.h"
+#include "picture/device_capabilities.h"
 #include "picture/logo.h"
 #include "picture/printer_view.h"
 #include "trays/tray_settings.h"

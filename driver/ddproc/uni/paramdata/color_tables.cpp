@@ -158,9 +158,9 @@ constexpr TableDescription kTables[] = {
 // clang-format on
 
 const ItemRecord* FindItem(const ItemRecord* items, const char* key) {
-    for (; items->head.key[0] != 0; ++items)
-        if (SameText(items->head.key, key))
-            return items;
+    for (const ItemRecord& item : Listed(items))
+        if (SameText(item.head.key, key))
+            return &item;
     return nullptr;
 }
 

@@ -154,11 +154,11 @@ void ApplyTraySelections(const PrmFile& file, OemDevmode& settings) {
 const TextItemRecord* FindDefaultLocation(const PrmFile& file, const char* entry,
                                           const TextItemRecord* list) {
     DefaultKey key;
-    if (list == nullptr || !ReadDefaultKey(file, entry, key))
+    if (!ReadDefaultKey(file, entry, key))
         return nullptr;
-    for (; list->head.key[0] != 0; ++list)
-        if (SameText(list->head.key, key))
-            return list;
+    for (const TextItemRecord& item : Listed(list))
+        if (SameText(item.head.key, key))
+            return &item;
     return nullptr;
 }
 
@@ -240,14 +240,15 @@ void DeriveBinding(const DeviceTable& table, OemDevmode& settings) {
 }
 
 void DeriveTrayPaper(const DeviceTable& table, OemDevmode& settings) {
-    const InputSlotRecord* tray = table.inputTrays;
     size_t slot = 0;
-    for (; tray != nullptr && tray->head.key[0] != 0 && slot < kTrayPaperDefaultCount; ++tray) {
-        if (tray->head.value == inputSlots[0].bin)
-            continue; // the automatic choice is no tray
+    for (const InputSlotRecord& tray : Listed(table.inputTrays)) {
+        if (IsAutomaticBin(tray.head.value))
+            continue;
+        if (slot == kTrayPaperDefaultCount)
+            return;
         TrayPaperDefault& paper = settings.trays[slot++];
-        CopyText(paper.key, tray->head.key);
-        paper.bin = tray->head.value;
+        CopyText(paper.key, tray.head.key);
+        paper.bin = tray.head.value;
         paper.mediaType = settings.mediaType;
         paper.mediaWeight = settings.mediaWeight;
         paper.mediaColor = settings.mediaColor;

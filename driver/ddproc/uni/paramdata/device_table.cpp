@@ -110,7 +110,6 @@ DeviceTable* BuildDeviceTable(PrmFile& file) {
     BuildLists(file, *table, ListStage::Output);
     BuildCountry(file, *table);
     BuildLists(file, *table, ListStage::Finishing);
-    table->reserved = 0;
     BuildLists(file, *table, ListStage::Location);
     for (size_t i = 0; i < kTraySelectionCount; ++i)
         BuildTraySelectionList(file, table, kTraySelectionFeatures[i], 1u << i);

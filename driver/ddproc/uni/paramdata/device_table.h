@@ -6,6 +6,7 @@
 #ifndef PARAMDATA_DEVICE_TABLE_H
 #define PARAMDATA_DEVICE_TABLE_H
 
+#include "frame/rows.h"
 #include "paramdata/feature_switches.h"
 #include "paramdata/input_slots.h"
 
@@ -256,6 +257,15 @@ static_assert(sizeof(DeviceTable) == 818 && offsetof(DeviceTable, copiesA) == 34
               && offsetof(DeviceTable, paperArrangements) == 802 && offsetof(DeviceTable, trayRows) == 810);
 
 #pragma pack(pop)
+
+// The records of a list, up to the one with the empty key. Null is an empty list.
+template <typename Record>
+Rows<Record> Listed(const Record* list) {
+    size_t count = 0;
+    while (list != nullptr && list[count].head.key[0] != 0)
+        ++count;
+    return {list, count};
+}
 
 // A switch's value; 0 without a table.
 inline uint32_t SwitchValue(const DeviceTable* table, FeatureSwitch position) {

@@ -32,6 +32,11 @@ static_assert(sizeof(TraySourceRecord) == 388 && offsetof(TraySourceRecord, bin)
 // Ends at an empty key. The first row is the automatic choice.
 extern TraySourceRecord inputSlots[12];
 
+// Whether this bin number is the automatic choice, which is no tray.
+inline bool IsAutomaticBin(uint32_t bin) {
+    return bin == inputSlots[0].bin;
+}
+
 // Takes bin numbers and tray texts from the file's "ALL_InTray".
 void UpdateInputSlots(const PrmFile& file);
 

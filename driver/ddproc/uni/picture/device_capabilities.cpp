@@ -7,7 +7,7 @@
 
 namespace {
 
-using BinName = wchar_t[24];
+using BinName = wchar_t[kBinNameCharacters];
 
 // A paper source without an option feature is always there; one that has such a feature when the option is
 // installed.
@@ -39,13 +39,11 @@ DWORD ListUsableSlots(const InputSlotRecord* slots, const FeatureRecord* feature
                       const FeatureSettings* settings, void* output, size_t elementSize,
                       void (*store)(const InputSlotRecord& slot, void* to)) {
     DWORD count = 0;
-    if (slots == nullptr)
-        return count;
-    for (; slots->head.key[0] != 0; ++slots) {
-        if (!IsUsable(*slots, features, settings))
+    for (const InputSlotRecord& slot : Listed(slots)) {
+        if (!IsUsable(slot, features, settings))
             continue;
         if (output != nullptr)
-            store(*slots, static_cast<uint8_t*>(output) + count * elementSize);
+            store(slot, static_cast<uint8_t*>(output) + count * elementSize);
         ++count;
     }
     return count;
@@ -61,9 +59,9 @@ bool CanStaple(const FeatureRecord* features, const FeatureSettings* settings) {
 
 } // namespace
 
-BOOL AnswerDeviceCapability(const DeviceTable* device, const FeatureRecord* features,
-                            const void* /*reserved*/, const FeatureSettings* settings, WORD capability,
-                            void* output, DWORD* answer) {
+BOOL WINAPI DDProc_DeviceCapabilities(const DeviceTable* device, const FeatureRecord* features,
+                                      const void* /*reserved*/, const FeatureSettings* settings,
+                                      WORD capability, void* output, DWORD* answer) {
     const InputSlotRecord* slots = device != nullptr ? device->inputTrays : nullptr;
     DWORD value = 0;
     switch (capability) {

@@ -15,7 +15,7 @@
 namespace {
 
 constexpr uint32_t kTrayDialogId = 155;   // for all kinds
-constexpr uint16_t kChangedHintsId = 156; // the same, to DispHintControl after a change
+constexpr uint16_t kChangedHintsId = 156; // what DispHintControl gets after a change: the button's page
 constexpr uint32_t kHelpTopic = 7300;
 constexpr int kIconSize = 16;                        // pixels
 constexpr uint16_t kOrientationIcons[] = {473, 474}; // portrait, landscape; of the user-interface module
@@ -57,13 +57,13 @@ const ItemRecord* ItemAt(HWND window, uint16_t box, LRESULT index) {
 void FillBox(HWND window, MediaTypeList attribute) {
     const uint16_t box = trayAttributes[attribute].comboBox;
     Send(window, box, CB_RESETCONTENT);
-    const ItemRecord* item = AttributeValues(attribute);
-    for (WPARAM next = 0; item != nullptr && item->head.key[0] != 0; ++item, ++next) {
+    WPARAM next = 0;
+    for (const ItemRecord& item : Listed(AttributeValues(attribute))) {
         const LRESULT index =
-            Send(window, box, CB_INSERTSTRING, next, reinterpret_cast<LPARAM>(item->display));
+            Send(window, box, CB_INSERTSTRING, next++, reinterpret_cast<LPARAM>(item.display));
         if (index < 0)
             return;
-        Send(window, box, CB_SETITEMDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(item));
+        Send(window, box, CB_SETITEMDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
     }
 }
 

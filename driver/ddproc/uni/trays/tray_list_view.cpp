@@ -77,24 +77,24 @@ struct TrayNames {
 
 // Notes the names, and gives each record its source.
 void TakeSources(TrayNames& trays, TrayPaperSetting* records) {
-    const InputSlotRecord* source = deviceTable != nullptr ? deviceTable->inputTrays : nullptr;
-    for (; source != nullptr && source->head.key[0] != 0 && trays.count < kTrayCount; ++source) {
-        if (source->head.value == inputSlots[0].bin) // the automatic choice
+    for (const InputSlotRecord& source : Listed(deviceTable != nullptr ? deviceTable->inputTrays : nullptr)) {
+        if (IsAutomaticBin(source.head.value))
             continue;
-        CopyText(trays.names[trays.count], source->display);
+        if (trays.count == kTrayCount)
+            return;
+        CopyText(trays.names[trays.count], source.display);
         TrayPaperSetting& record = records[trays.count++];
-        CopyText(record.key, source->head.key);
-        record.bin = source->head.value;
+        CopyText(record.key, source.head.key);
+        record.bin = source.head.value;
     }
 }
 
 // Of entries with the same value the last one's name; null when there is none.
 const wchar_t* NameOf(size_t attribute, int32_t value) {
     const wchar_t* name = nullptr;
-    const ItemRecord* item = AttributeValues(static_cast<MediaTypeList>(attribute));
-    for (; item != nullptr && item->head.key[0] != 0; ++item)
-        if (static_cast<int32_t>(item->head.value) == value)
-            name = item->display;
+    for (const ItemRecord& item : Listed(AttributeValues(static_cast<MediaTypeList>(attribute))))
+        if (static_cast<int32_t>(item.head.value) == value)
+            name = item.display;
     return name;
 }
 
