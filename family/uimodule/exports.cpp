@@ -2,7 +2,6 @@
 #include "uimodule/exports.h"
 
 #include "paramdata/text.h"
-#include "uimodule/call_log.h"
 #include "uimodule/constraints.h"
 #include "uimodule/dialog_texts.h"
 #include "uimodule/hint_window.h"
@@ -35,11 +34,6 @@ const OemDevmode* SettingsOf(HWND dialog) {
 
 // What the settings answer to a control's choice; the hint when it is refused, otherwise null.
 int32_t Check(HWND dialog, uint32_t control, const wchar_t*& hint) {
-    int32_t answer = 0;
-    if (TakeScriptedAnswer(control, answer)) {
-        hint = answer == kChangeRefused || answer == kChangeRefusedToo ? L"This choice is refused." : nullptr;
-        return answer;
-    }
     const OemDevmode* settings = SettingsOf(dialog);
     const Constraint* broken = settings != nullptr ? FindBroken(*settings, control) : nullptr;
     hint = broken != nullptr ? broken->hint : nullptr;
@@ -60,15 +54,13 @@ extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, void* /*reserved
     return TRUE;
 }
 
-void WINAPI ReplaceDlgDispStringCmnItem(HWND dialog, const ControlTextRecord* texts, uint32_t dialogId,
-                                        DialogContext* context) {
-    LogCall({"ReplaceDlgDispStringCmnItem", dialog, nullptr, 0, dialogId, context != nullptr, 0});
+void WINAPI ReplaceDlgDispStringCmnItem(HWND dialog, const ControlTextRecord* texts, uint32_t /*dialogId*/,
+                                        DialogContext* /*context*/) {
     ReplaceTexts(dialog, texts, false);
     FitListEntries(dialog);
 }
 
 void WINAPI ReplaceDlgDispString(HWND dialog, const ControlTextRecord* texts) {
-    LogCall({"ReplaceDlgDispString", dialog, nullptr, 0, 0, false, 0});
     ReplaceTexts(dialog, texts, true);
 }
 
@@ -76,30 +68,25 @@ HWND WINAPI CreateToolWnd(HWND dialog) {
     if (dialog == nullptr)
         return nullptr;
     open = {dialog, CreateHintWindow(dialog), {}, 0, nullptr};
-    LogCall({"CreateToolWnd", dialog, open.hintWindow, 0, 0, false, 0});
     return open.hintWindow;
 }
 
 void WINAPI StoreStopIconRect(HWND dialog, const StopIconTable* table) {
-    LogCall({"StoreStopIconRect", dialog, nullptr, 0, 0, false, 0});
     if (dialog == nullptr)
         return;
     StateOf(dialog).icons = FindStopIcons(dialog, table);
 }
 
-int32_t WINAPI DoConstraints(const void* /*reserved1*/, HWND dialog, HWND hintWindow, uint32_t control,
+int32_t WINAPI DoConstraints(const void* /*reserved1*/, HWND dialog, HWND /*hintWindow*/, uint32_t control,
                              int32_t /*all*/, const void* /*reserved2*/) {
     if (dialog == nullptr)
         return 0;
     OpenDialog& state = StateOf(dialog);
-    const int32_t answer = Check(dialog, control, state.refusedHint);
     state.refusedControl = control;
-    LogCall({"DoConstraints", dialog, hintWindow, control, 0, false, answer});
-    return answer;
+    return Check(dialog, control, state.refusedHint);
 }
 
-void WINAPI DispHintControl(HWND dialog, DialogContext* context, uint16_t dialogId) {
-    LogCall({"DispHintControl", dialog, nullptr, 0, dialogId, context != nullptr, 0});
+void WINAPI DispHintControl(HWND dialog, DialogContext* context, uint16_t /*dialogId*/) {
     if (dialog == nullptr)
         return;
     const OpenDialog& state = StateOf(dialog);
@@ -115,14 +102,11 @@ void WINAPI DispHintControl(HWND dialog, DialogContext* context, uint16_t dialog
 }
 
 int32_t WINAPI IsInstalledDLManager() {
-    const int32_t answer = ScriptedDownloadManager();
-    LogCall({"IsInstalledDLManager", nullptr, nullptr, 0, 0, false, answer});
-    return answer;
+    return 0;
 }
 
 void WINAPI ReqDrawStopInfoIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item,
                                 const StopIconTable* table) {
-    LogCall({"ReqDrawStopInfoIcon", dialog, nullptr, control, 0, false, 0});
     if (dialog == nullptr || item == nullptr)
         return;
     const uint32_t beside = ControlBeside(table, control);
@@ -131,13 +115,9 @@ void WINAPI ReqDrawStopInfoIcon(HWND dialog, uint32_t control, const DRAWITEMSTR
 
 INT_PTR WINAPI MyDialogBox(HINSTANCE resources, HWND owner, uint32_t templateId, DLGPROC procedure,
                            LPARAM parameter) {
-    const INT_PTR result =
-        DialogBoxParamW(resources, MAKEINTRESOURCEW(templateId), owner, procedure, parameter);
-    LogCall({"MyDialogBox", owner, nullptr, 0, templateId, parameter != 0, static_cast<int32_t>(result)});
-    return result;
+    return DialogBoxParamW(resources, MAKEINTRESOURCEW(templateId), owner, procedure, parameter);
 }
 
 HINSTANCE WINAPI GetImgResInst() {
-    LogCall({"GetImgResInst", nullptr, nullptr, 0, 0, false, 0});
     return instance;
 }

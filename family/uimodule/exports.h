@@ -43,7 +43,7 @@ DoConstraintsFunction DoConstraints;
 // dialog has the controls.
 DispHintControlFunction DispHintControl;
 
-// 0, unless a test has said otherwise.
+// 0: there is none.
 IsInstalledDLManagerFunction IsInstalledDLManager;
 
 // A stop sign when the choice of the control beside the icon is refused or in conflict, otherwise only the

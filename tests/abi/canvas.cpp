@@ -54,13 +54,18 @@ Canvas::Canvas(int canvasWidth, int canvasHeight, uint32_t color) : width(canvas
     bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, &section, nullptr, 0);
     bits = static_cast<uint32_t*>(section);
     own = SelectObject(dc, bitmap);
-    std::fill_n(bits, width * height, color);
+    Clear(color);
 }
 
 Canvas::~Canvas() {
     SelectObject(dc, own);
     DeleteDC(dc);
     DeleteObject(bitmap);
+}
+
+void Canvas::Clear(uint32_t color) {
+    GdiFlush();
+    std::fill_n(bits, width * height, color);
 }
 
 void Canvas::Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation) {

@@ -31,6 +31,7 @@ struct Canvas {
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
+    void Clear(uint32_t color = kGround);
     // Puts a picture here, pixel by pixel: SRCAND, SRCINVERT, SRCPAINT or SRCCOPY.
     void Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation);
     Picture Content() const;

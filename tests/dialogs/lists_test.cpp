@@ -1,5 +1,6 @@
-// What the lists of dialog 128 offer and select, and what the settings become when they no longer offer a
-// choice.
+// Dialog 128: what its lists offer and select, what the settings become when they no longer offer a choice,
+// and callers who give less than all.
+#include "dialogs/dialog_controls.h"
 #include "full_dialog.h"
 
 namespace {
@@ -68,6 +69,7 @@ const Stored kStored[] = {
 // clang-format on
 
 TEST_F(FullDialog, ChoicesThatAreNotOfferedBecomeTheFirst) {
+    destinations.push_back(kPressB); // the first of a name counts
     for (const Stored& row : kStored) {
         SCOPED_TRACE(testing::Message() << row.list << ", value " << row.value << ", row " << &row - kStored);
         settings = FullSettings().U16(row.field, row.value);
@@ -86,44 +88,6 @@ TEST_F(FullDialog, ChoicesThatAreNotOfferedBecomeTheFirst) {
         EXPECT_EQ(Events({"DoConstraints"}), "DoConstraints 0\n");
         Close();
     }
-}
-
-TEST_F(FullDialog, ItemsThatAreNotOfferedSelectNothing) {
-    const uint16_t rows[][2] = {{1354, 2153}, {1335, 2155}, {1332, 2154}, {1353, 2157}, {1334, 2159},
-                                {1330, 2158}, {1516, 2161}, {1519, 2163}, {1522, 2162}};
-    for (const auto& [list, field] : rows)
-        settings.U8(field, list == 1522 ? 5 : 4);
-    settings.U8(3534, 2); // not 0: checked
-    const RawBytes stored = settings;
-    Open();
-    for (const auto& [list, field] : rows)
-        EXPECT_EQ(Selection(list), -1) << list;
-    EXPECT_EQ(Send(kBox, BM_GETCHECK), BST_CHECKED);
-    ExpectSettings(stored);
-    constraints = [](uint32_t) { return 100; };
-    Choose(1354, 1);
-    EXPECT_EQ(Selection(1354), -1);
-    Check(kBox, false);
-    EXPECT_EQ(Send(kBox, BM_GETCHECK), BST_CHECKED);
-    ExpectSettings(stored);
-    Command(IDOK);
-    for (const auto& row : rows)
-        EXPECT_EQ(settings.bytes[row[1]], 255) << row[1];
-}
-
-TEST_F(FullDialog, FindsAProfileAtAnotherPosition) {
-    Open();
-    Choose(1592, 2);
-    Close();
-    std::swap(destinations[0], destinations[1]);
-    std::swap(simulations[0], simulations[1]);
-    destinations.push_back(kPressB); // the first of a name counts
-    const RawBytes stored = settings;
-    Open();
-    EXPECT_EQ(Selection(1592), 1);
-    EXPECT_EQ(Selection(1584), 2);
-    EXPECT_EQ(Selection(1524), 6);
-    ExpectSettings(stored);
 }
 
 // A model whose automatic destination the module doesn't know: profiles stand first.
@@ -171,6 +135,112 @@ TEST_F(FullDialog, TextsThatFillTheirFieldsStayInThem) {
     EXPECT_EQ(Selection(1599), 2);
     Choose(1504, 2);
     ExpectSettings(PutRecord(wanted, 2688, Profile(std::wstring(40, L'd').c_str(), L"", 0)));
+}
+
+TEST_F(FullDialog, OkWithoutSelections) {
+    Open();
+    for (const FullControl& control : kFull)
+        if (control.id != kBox)
+            Send(control.id, CB_SETCURSEL, static_cast<WPARAM>(-1));
+    RawBytes wanted = FullSettings();
+    for (const size_t item : {2153u, 2154u, 2155u, 2157u, 2158u, 2159u, 2161u, 2162u, 2163u})
+        wanted.U8(item, 255);
+    for (const size_t none : {2514u, 2516u, 2518u, 3536u})
+        wanted.U16(none, 0xFFFF);
+    for (const size_t first : {3024u, 3026u, 3028u, 2166u})
+        wanted.U16(first, 0);
+    for (const size_t record : {2520u, 2688u, 2856u, 3030u, 3198u, 3366u, 2168u})
+        PutRecord(wanted, record, kNone);
+    Command(IDOK);
+    ExpectSettings(wanted);
+}
+
+// The printer's profiles may go while the lists still show them; what is behind a list's end isn't read.
+TEST_F(FullDialog, ProfilesThatAreGoneAreNotRead) {
+    const struct {
+        int list, entry;
+        size_t field, record;
+    } cases[] = {{1504, 17, 2514, 2688}, {1599, 2, 3026, 3198}, {1592, 2, 3024, 3030}, {1524, 7, 2166, 2168}};
+    Open();
+    lists.rgbSources.count = lists.destinations.count = lists.simulations.count = 1;
+    RawBytes wanted = settings;
+    for (const auto& row : cases) {
+        Choose(row.list, row.entry);
+        const uint16_t value = NumberAt<uint16_t>(settings.bytes.data(), row.field);
+        EXPECT_NE(value, 128) << "a profile, but none is remembered";
+        PutRecord(wanted.U16(row.field, value), row.record, kNone);
+    }
+    ExpectSettings(wanted);
+    context.profiles = nullptr;
+    Choose(1509, 16);
+    ExpectSettings(PutRecord(wanted.U16(2516, 256), 2520, kNone));
+}
+
+TEST_F(FullDialog, OtherDialogsAreNotHandled) {
+    Open();
+    events.clear();
+    for (const uint32_t other : {0u, 126u, 127u, 129u, 155u, 157u, 0x10080u, 0xFFFFFFFFu})
+        for (const auto& [message, wParam] : {std::pair(UINT{WM_INITDIALOG}, WPARAM{0}),
+                                              {WM_COMMAND, IDOK},
+                                              {WM_COMMAND, 1847},
+                                              {WM_DESTROY, 0}}) {
+            int32_t handled = kUntouched;
+            EXPECT_EQ(Ask(other, window, message, wParam, 0, &handled), (Answer{0, kUntouched})) << other;
+            EXPECT_EQ(Ask(other, window, message, wParam, 0, nullptr).result, 0) << other;
+        }
+    EXPECT_TRUE(events.empty());
+    EXPECT_EQ(uiFrees, 0);
+}
+
+// Nothing is offered or stored, and those who don't ask whether a message is handled get its result.
+TEST_F(FullDialog, AnswersWithoutAContext) {
+    Open(false);
+    EXPECT_EQ(initAnswer, (Answer{0, 1}));
+    EXPECT_EQ(Entries(1524), kSimuItems);
+    const RawBytes stored = settings;
+    for (const FullControl& control : kFull)
+        EXPECT_EQ(Command(control.id == kBox ? kBox : Chosen(control.id)), (Answer{control.result, 1}));
+    const struct {
+        UINT message;
+        WPARAM wParam;
+        Answer answer;
+    } cases[] = {
+        {WM_COMMAND, 1032, {0, 1}},
+        {WM_COMMAND, 1393, {1, kUntouched}},
+        {WM_COMMAND, IDOK, {1, 1}},
+        {WM_COMMAND, IDCANCEL, {1, 1}},
+        {WM_ACTIVATE, WA_ACTIVE, {0, kUntouched}},
+        {WM_USER + 100, 0, {1, 1}},
+        {WM_CLOSE, 0, {0, kUntouched}},
+        {WM_DESTROY, 0, {0, 1}},
+        {WM_DESTROY, 0, {0, 1}},
+    };
+    for (const auto& row : cases) {
+        EXPECT_EQ(Tell(row.message, row.wParam), row.answer) << row.message;
+        EXPECT_EQ(Ask(128, window, row.message, row.wParam, 0, nullptr).result, row.answer.result);
+    }
+    ExpectSettings(stored);
+    EXPECT_EQ(uiFrees, 1) << "a module that is gone is not freed again";
+}
+
+// What the dialogs' own messages don't reach.
+TEST(Controls, AreEnabledOnlyWhereTheyAreVisible) {
+    HWND dialog = CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 90, 90, nullptr, nullptr,
+                                nullptr, nullptr);
+    HWND control = CreateWindowW(L"Button", L"", WS_CHILD, 0, 0, 20, 20, dialog, reinterpret_cast<HMENU>(7),
+                                 nullptr, nullptr);
+    const auto state = [control] {
+        return std::pair(IsWindowVisible(control) != 0, IsWindowEnabled(control) != 0);
+    };
+    EnableDlgControl(dialog, 7, true);
+    EXPECT_EQ(state(), std::pair(false, false));
+    ShowDlgControl(dialog, 7, true);
+    EXPECT_EQ(state(), std::pair(true, true));
+    EnableDlgControl(dialog, 7, false);
+    EXPECT_EQ(state(), std::pair(true, false));
+    EnableDlgControl(dialog, 7, true);
+    EXPECT_EQ(state(), std::pair(true, true));
+    DestroyWindow(dialog);
 }
 
 } // namespace

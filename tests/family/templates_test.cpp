@@ -114,7 +114,7 @@ struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<
         for (int text = 0; text < 3; ++text) // menu, class, title
             TakeText(at);
         at += 6; // size, weight, slant and character set of the font
-        font = TakeText(at);
+        TakeText(at); // its name
         for (Control& control : controls) {
             at += ((octets - at) & 3) + 8; // help, extended style
             control = {Take<DWORD>(at), TakeArea(at), Take<uint32_t>(at), kNamed, {}, 0};
@@ -138,7 +138,6 @@ struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<
 
     RECT area;
     std::vector<Control> controls;
-    std::wstring font;
 };
 INSTANTIATE_TEST_SUITE_P(, Templates, testing::ValuesIn(kDialogs));
 
@@ -185,30 +184,6 @@ TEST_P(Templates, ControlsLieInsideTheMarginAndApart) {
                         || (one->IsGroup() && Holds(one->area, other->area)))
                 << one->id << " and " << other->id;
     }
-}
-
-// Measured in the dialogs' font, from which the dialog units follow as they do for windows.
-TEST_P(Templates, TextsMayBeTwoFifthsLonger) {
-    const HDC context = CreateCompatibleDC(nullptr);
-    for (const int height : {-11, -16}) { // 8 points at 96 and at 144 dots per inch
-        const HFONT shown =
-            CreateFontW(height, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, font.c_str());
-        const HGDIOBJ before = SelectObject(context, shown);
-        const auto width = [context](const std::wstring& text) {
-            SIZE size = {};
-            GetTextExtentPoint32W(context, text.c_str(), static_cast<int>(text.size()), &size);
-            return static_cast<int>(size.cx);
-        };
-        const int baseUnit = (width(L"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz") / 26 + 1) / 2;
-        for (const Control& control : controls) {
-            const DWORD type = control.style & 0xF;
-            const int beside = control.kind != kButton ? 0 : type == BS_PUSHBUTTON ? 6 : 12; // frame; mark
-            const int room = static_cast<int>(control.area.right - control.area.left) - beside;
-            EXPECT_LE(width(control.text) * 14 / 10, room * baseUnit / 4) << control.id << " at " << height;
-        }
-        DeleteObject(SelectObject(context, before));
-    }
-    DeleteDC(context);
 }
 
 } // namespace

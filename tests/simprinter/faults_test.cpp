@@ -48,54 +48,16 @@ TEST(Faults, OneAnswerAndItsOctets) {
     } cases[] = {
         {"", good},
         {"--fault wrong-community", wrongCommunity},
-        {"--fault truncated", Octets(good.begin(), good.begin() + 22)},
         {"--fault truncated=10", Octets(good.begin(), good.begin() + 10)},
-        {"--fault truncated=0", {}},
         {"--fault malformed", Changed(6, {0x7F}, 1)},
         {"--fault error-status=5", error},
         {"--fault counter", Changed(41, {0x41}, 1)},
-        {"--fault counter@.1.3.6.1.2.1.25.2", Changed(41, {0x41}, 1)},
-        {"--fault counter@.1.3.6.1.2.1.43", good},
-        {"--fault counter --fault truncated=42",
-         [] {
-             Octets both = Changed(41, {0x41}, 1);
-             both.resize(42);
-             return both;
-         }()},
     };
     for (const auto& one : cases) {
         const std::vector<Received> answers = Answers(one.faults, 1);
         ASSERT_EQ(answers.size(), 1u) << one.faults;
         EXPECT_EQ(answers[0].octets, one.octets) << one.faults;
     }
-}
-
-TEST(Faults, NumberAndOrderOfAnswers) {
-    EXPECT_TRUE(Answers("--fault silence", 0).empty());
-
-    const std::vector<Received> twice = Answers("--fault duplicate", 2);
-    ASSERT_EQ(twice.size(), 2u);
-    EXPECT_EQ(twice[0].octets, StorageReply());
-    EXPECT_EQ(twice[1].octets, StorageReply());
-
-    const std::vector<Received> stale = Answers("--fault stale=3", 4);
-    ASSERT_EQ(stale.size(), 4u);
-    std::set<uint8_t> ids;
-    for (const Received& answer : stale) {
-        const uint8_t id = answer.octets.at(17);
-        EXPECT_EQ(answer.octets, StorageReply(id));
-        ids.insert(id);
-    }
-    EXPECT_EQ(ids.size(), 4u);
-    EXPECT_EQ(stale.back().octets, StorageReply());
-
-    const RunningPrinter printer(Arguments("--fault silence=2"));
-    const RawClient client(printer);
-    for (uint8_t id = 1; id <= 3; ++id)
-        client.Send(StorageRequest(id));
-    const std::vector<Received> third = client.Receive(300);
-    ASSERT_EQ(third.size(), 1u);
-    EXPECT_EQ(third[0].octets, StorageReply(3));
 }
 
 TEST(Faults, WrongSource) {
@@ -127,26 +89,21 @@ TEST(Faults, DelayHoldsUpNothingElse) {
     EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(400));
 }
 
-// Which of 60 answers arrive.
-std::set<uint8_t> Survivors(const std::string& faults) {
-    const RunningPrinter printer(Arguments(faults));
-    const RawClient client(printer);
-    for (uint8_t id = 1; id <= 60; ++id)
-        client.Send(StorageRequest(id));
-    std::set<uint8_t> ids;
-    for (const Received& answer : client.Receive(500))
-        ids.insert(answer.octets.at(17));
-    return ids;
-}
-
 TEST(Faults, LossIsTheSameWithTheSameSeed) {
-    const std::set<uint8_t> first = Survivors("--fault loss=50");
-    EXPECT_GT(first.size(), 12u); // fewer than 1 of 100,000 seeds give less or more
-    EXPECT_LT(first.size(), 48u);
-    EXPECT_EQ(Survivors("--fault loss=50"), first);
-    EXPECT_NE(Survivors("--fault loss=50 --seed 2"), first);
-    EXPECT_EQ(Survivors("--fault loss=0").size(), 60u);
-    EXPECT_TRUE(Survivors("--fault loss=100").empty());
+    std::vector<std::set<uint8_t>> survivors; // which of 60 answers arrive
+    for (const char* faults : {"--fault loss=50", "--fault loss=50", "--fault loss=50 --seed 2"}) {
+        const RunningPrinter printer(Arguments(faults));
+        const RawClient client(printer);
+        for (uint8_t id = 1; id <= 60; ++id)
+            client.Send(StorageRequest(id));
+        survivors.emplace_back();
+        for (const Received& answer : client.Receive(500))
+            survivors.back().insert(answer.octets.at(17));
+    }
+    EXPECT_GT(survivors[0].size(), 12u); // fewer than 1 of 100,000 seeds give less or more
+    EXPECT_LT(survivors[0].size(), 48u);
+    EXPECT_EQ(survivors[1], survivors[0]);
+    EXPECT_NE(survivors[2], survivors[0]);
 }
 
 TEST(Faults, WordingThatIsRefused) {
@@ -157,14 +114,10 @@ TEST(Faults, WordingThatIsRefused) {
         {"dealy=5",
          "fault 'dealy=5': there is no such fault; did you mean 'delay'?\nFaults are silence, loss, "},
         {"delay", "fault 'delay': write delay=MS"},
-        {"delay=soon", "fault 'delay=soon': MS must be a number from 0 to 600000"},
         {"loss=101", "fault 'loss=101': PERCENT must be a number from 0 to 100"},
-        {"loss=", "fault 'loss=': PERCENT must be a number from 0 to 100"},
-        {"stale=-1", "fault 'stale=-1': COUNT must be a number from 1 to 1000"},
         {"counter=1", "fault 'counter=1': counter takes no value"},
         {"silence@system",
          "fault 'silence@system': behind '@' stands no object identifier such as .1.3.6.1.2.1.43"},
-        {"silence@", "fault 'silence@': behind '@' stands no object identifier such as .1.3.6.1.2.1.43"},
     };
     for (const auto& one : cases) {
         try {

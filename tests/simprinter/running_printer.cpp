@@ -120,3 +120,11 @@ Octets StorageReply(uint8_t requestId) {
             0x02, 0x01, requestId, 0x02, 0x01, 0x00, 0x02, 0x01, 0x00, 0x30, 0x13, 0x30, 0x11, 0x06, 0x0B,
             0x2B, 0x06, 0x01,      0x02, 0x01, 0x19, 0x02, 0x03, 0x01, 0x05, 0x01, 0x02, 0x02, 0x02, 0x80};
 }
+
+std::string Listed(const Findings& findings) {
+    std::string list;
+    for (const Finding& finding : findings.list)
+        list += std::to_string(finding.place.line) + ':' + std::to_string(finding.place.column) + ": "
+                + (finding.isNote ? "note: " : "") + finding.message + '\n';
+    return list;
+}

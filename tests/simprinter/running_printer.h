@@ -2,6 +2,7 @@
 #ifndef TESTS_RUNNING_PRINTER_H
 #define TESTS_RUNNING_PRINTER_H
 
+#include "hosttools/findings.h"
 #include "simprinter/message.h"
 
 #include <netinet/in.h>
@@ -74,5 +75,8 @@ struct RawClient {
 // out by hand.
 Octets StorageRequest(uint8_t requestId = 0x11);
 Octets StorageReply(uint8_t requestId = 0x11);
+
+// "LINE:COLUMN: MESSAGE" of all findings, a line each; notes with "note: ".
+std::string Listed(const Findings& findings);
 
 #endif
