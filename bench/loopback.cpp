@@ -33,28 +33,33 @@ sockaddr_in Loopback(uint16_t port) {
     }
 }
 
+} // namespace
+
 // The child process serves the socket that the parent has bound.
-void StartEcho(Server& server) {
+Server EchoServer() {
+    uint16_t port = 0;
+    int process = -1;
     const int socket = ::socket(AF_INET, SOCK_DGRAM, 0);
     sockaddr_in address = Loopback(0);
     socklen_t length = sizeof(address);
     if (bind(socket, reinterpret_cast<sockaddr*>(&address), length) == 0
         && getsockname(socket, reinterpret_cast<sockaddr*>(&address), &length) == 0) {
-        server.process = fork();
-        if (server.process == 0)
+        process = fork();
+        if (process == 0)
             Echo(socket);
-        server.port = ntohs(address.sin_port);
+        port = ntohs(address.sin_port);
     }
     close(socket);
+    return {port, process};
 }
 
 // The first line that it writes ends with the port.
-void StartPrinter(Server& server, const std::string& arguments) {
+Server SimulatedPrinter(const std::string& arguments) {
     int ends[2];
     if (pipe(ends) != 0)
-        return;
-    server.process = fork();
-    if (server.process == 0) {
+        return {0, -1};
+    const int process = fork();
+    if (process == 0) {
         dup2(ends[1], STDOUT_FILENO);
         const std::string command = "exec " BIN_FOLDER "/simprinter --port 0 " + arguments;
         execl("/bin/sh", "sh", "-c", command.c_str(), static_cast<char*>(nullptr));
@@ -63,18 +68,9 @@ void StartPrinter(Server& server, const std::string& arguments) {
     close(ends[1]);
     FILE* output = fdopen(ends[0], "r");
     unsigned port = 0;
-    if (fscanf(output, "%*[^0-9]%*u.%*u.%*u.%*u:%u", &port) == 1)
-        server.port = static_cast<uint16_t>(port);
+    const bool isServing = fscanf(output, "%*[^0-9]%*u.%*u.%*u.%*u:%u", &port) == 1;
     fclose(output);
-}
-
-} // namespace
-
-Server::Server(const std::string& arguments) {
-    if (arguments.empty())
-        StartEcho(*this);
-    else
-        StartPrinter(*this, arguments);
+    return {static_cast<uint16_t>(isServing ? port : 0), process};
 }
 
 Server::~Server() {

@@ -9,14 +9,16 @@
 // A program that serves a UDP port of 127.0.0.1 until the end of its scope. Port 0 when it could not be
 // started.
 struct Server {
-    explicit Server(const std::string& arguments); // of simprinter; empty: the echo
+    Server(uint16_t servedPort, int child) : port(servedPort), process(child) {}
     ~Server();
     Server(const Server&) = delete;
     Server& operator=(const Server&) = delete;
 
-    uint16_t port = 0;
-    int process = -1;
+    uint16_t port;
+    int process; // not positive: none
 };
+Server EchoServer();
+Server SimulatedPrinter(const std::string& arguments); // of simprinter
 
 // One datagram to a connected socket and back.
 struct EchoClient {

@@ -91,7 +91,7 @@ SnmpSession OpenTo(uint16_t port) {
 }
 
 void RoundTrip(benchmark::State& state) {
-    const Server printer("--address 127.0.0.1");
+    const Server printer = SimulatedPrinter("--address 127.0.0.1");
     SnmpSession session = OpenTo(printer.port);
     Question question;
     for ([[maybe_unused]] auto _ : state) {
@@ -107,7 +107,7 @@ void RoundTrip(benchmark::State& state) {
 BENCHMARK(RoundTrip)->UseRealTime();
 
 void PeerRoundTrip(benchmark::State& state) {
-    const Server printer("--address 127.0.0.1");
+    const Server printer = SimulatedPrinter("--address 127.0.0.1");
     void* session = PeerOpen(printer.port, kCommunity);
     for ([[maybe_unused]] auto _ : state)
         if (session == nullptr || !PeerGet(session, kArcs, std::size(kArcs))) {
@@ -121,7 +121,7 @@ void PeerRoundTrip(benchmark::State& state) {
 BENCHMARK(PeerRoundTrip)->UseRealTime();
 
 void EchoRoundTrip(benchmark::State& state) {
-    const Server echo("");
+    const Server echo = EchoServer();
     const EchoClient client(echo.port);
     for ([[maybe_unused]] auto _ : state)
         if (!client.RoundTrip(reply, sizeof(reply))) {
@@ -137,7 +137,7 @@ BENCHMARK(EchoRoundTrip)->UseRealTime();
 constexpr int kOptionRequests = 4 + 1 + 5 + 1;
 
 void AllOptions(benchmark::State& state) {
-    const Server printer("--address 127.0.0.1");
+    const Server printer = SimulatedPrinter("--address 127.0.0.1");
     platform::RedirectPort(161, printer.port);
     SnmpApiBind();
     const OptionReqInfo& options = *MIB_OptionReqInfo();
@@ -155,7 +155,7 @@ void AllOptions(benchmark::State& state) {
 BENCHMARK(AllOptions)->UseRealTime();
 
 void EchoesOfAllOptions(benchmark::State& state) {
-    const Server echo("");
+    const Server echo = EchoServer();
     const EchoClient client(echo.port);
     for ([[maybe_unused]] auto _ : state)
         for (int i = 0; i < kOptionRequests; ++i)
@@ -165,7 +165,7 @@ void EchoesOfAllOptions(benchmark::State& state) {
 BENCHMARK(EchoesOfAllOptions)->UseRealTime();
 
 void SilentAgent(benchmark::State& state) {
-    const Server printer("--fault silence");
+    const Server printer = SimulatedPrinter("--fault silence");
     SnmpSession session = OpenTo(printer.port);
     Question question;
     for ([[maybe_unused]] auto _ : state)

@@ -1,5 +1,4 @@
-// File access, see files.h. A new file is written beside its place under another name and then
-// renamed.
+// File access, see files.h. A new file is written beside its place under another name and then renamed.
 #include "hosttools/files.h"
 
 #include <cerrno>

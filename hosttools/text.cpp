@@ -148,6 +148,12 @@ std::string Quote(std::string_view text) {
     return quoted + "'";
 }
 
+std::string Hex(uint64_t number) {
+    char text[24];
+    std::snprintf(text, sizeof text, "0x%llX", static_cast<unsigned long long>(number));
+    return text;
+}
+
 std::string Join(const std::vector<std::string>& texts, const char* last) {
     std::string joined;
     for (size_t i = 0; i < texts.size(); ++i)

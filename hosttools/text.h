@@ -3,6 +3,7 @@
 #define HOSTTOOLS_TEXT_H
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,9 @@ std::string Utf8FromBytes(std::string_view bytes);
 
 // For messages: in single quotes, control characters escaped.
 std::string Quote(std::string_view text);
+
+// "0x2C"
+std::string Hex(uint64_t number);
 
 // "A, B or C", with " or " as `last`.
 std::string Join(const std::vector<std::string>& texts, const char* last);

@@ -10,14 +10,11 @@
 #include "prmc/yaml_reader.h"
 #include "prmc/yaml_writer.h"
 
-#include <algorithm>
 #include <CLI/CLI.hpp>
-#include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <iostream>
 #include <stdexcept>
-#include <utility>
 #include <vector>
 
 namespace {
@@ -46,32 +43,20 @@ Model ReadModel(const std::string& path, bool isYaml, Findings& findings) {
     const std::string contents = ReadFile(path);
     Model model = isYaml ? ReadYaml(contents, findings) : ParsePrm(contents, findings);
     CheckRules(model, findings);
-    std::stable_sort(findings.list.begin(), findings.list.end(), [](const Finding& a, const Finding& b) {
-        return std::pair(a.place.line, a.place.column) < std::pair(b.place.line, b.place.column);
-    });
+    findings.Sort();
     return model;
 }
 
-std::string Describe(const Finding& finding, bool isYaml) {
-    char place[64];
-    if (isYaml)
-        std::snprintf(place, sizeof place, "%llu:%llu", static_cast<unsigned long long>(finding.place.line),
-                      static_cast<unsigned long long>(finding.place.column));
-    else
-        std::snprintf(place, sizeof place, "0x%llX", static_cast<unsigned long long>(finding.place.column));
-    return std::string(place) + ": " + (finding.isNote ? "note: " : "") + finding.message;
-}
-
-void Report(const std::string& path, bool isYaml, const Findings& findings) {
+void Report(const std::string& path, const Findings& findings) {
     for (const Finding& finding : findings.list)
-        std::cerr << path << ":" << Describe(finding, isYaml) << "\n";
+        std::cerr << path << ":" << FindingText(finding) << "\n";
 }
 
 ExitCode Build(const std::string& source, const std::string& target) {
     ExpectForm(source, true);
     Findings findings;
     const Model model = ReadModel(source, true, findings);
-    Report(source, true, findings);
+    Report(source, findings);
     if (findings.HasErrors())
         return kFaults;
     const std::vector<uint8_t> bytes = WritePrm(model);
@@ -86,7 +71,7 @@ ExitCode Dump(const std::string& path) {
     if (!findings.list.empty())
         std::cout << "# Findings on the binary file; what they name may be missing or changed below:\n";
     for (const Finding& finding : findings.list)
-        std::cout << "#   " << Describe(finding, false) << "\n";
+        std::cout << "#   " << FindingText(finding) << "\n";
     std::cout << WriteYaml(model);
     if (!std::cout.flush())
         throw std::runtime_error("cannot write to the standard output");
@@ -94,18 +79,16 @@ ExitCode Dump(const std::string& path) {
 }
 
 ExitCode Check(const std::string& path) {
-    const bool isYaml = IsYaml(path);
     Findings findings;
-    ReadModel(path, isYaml, findings);
-    Report(path, isYaml, findings);
+    ReadModel(path, IsYaml(path), findings);
+    Report(path, findings);
     return findings.HasErrors() ? kFaults : kDone;
 }
 
 Model ReadSound(const std::string& path) {
-    const bool isYaml = IsYaml(path);
     Findings findings;
-    Model model = ReadModel(path, isYaml, findings);
-    Report(path, isYaml, findings);
+    Model model = ReadModel(path, IsYaml(path), findings);
+    Report(path, findings);
     if (findings.HasErrors())
         throw std::runtime_error("'" + path + "' has faults: nothing to compare");
     return model;

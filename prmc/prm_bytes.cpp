@@ -5,13 +5,6 @@
 #include "paramdata/prm_layout.h"
 
 #include <algorithm>
-#include <cstdio>
-
-std::string Hex(uint64_t number) {
-    char text[24];
-    std::snprintf(text, sizeof text, "0x%llX", static_cast<unsigned long long>(number));
-    return text;
-}
 
 void PrmBytes::SetEntry(const std::string& name) {
     entryName = name;

@@ -13,8 +13,6 @@
 #include <string_view>
 #include <vector>
 
-std::string Hex(uint64_t number);
-
 class PrmBytes {
 public:
     PrmBytes(std::string_view file, Findings& where) : bytes(file), findings(where) {}

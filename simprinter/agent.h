@@ -7,8 +7,8 @@
 
 struct AgentOptions {
     std::string community = "tovask";
-    size_t largestReply =
-        1472; // octets; a larger one is answered with tooBig. What a network carries in one piece
+    // Octets; a larger one is answered with tooBig. What a network carries in one piece.
+    size_t largestReply = 1472;
 };
 
 struct Agent {

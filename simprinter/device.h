@@ -3,7 +3,6 @@
 #ifndef SIMPRINTER_DEVICE_H
 #define SIMPRINTER_DEVICE_H
 
-#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>

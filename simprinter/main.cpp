@@ -6,7 +6,6 @@
 #include "simprinter/recording.h"
 #include "simprinter/server.h"
 
-#include <algorithm>
 #include <chrono>
 #include <CLI/CLI.hpp>
 #include <climits>
@@ -79,16 +78,10 @@ std::vector<Fault> ReadFaults(const std::vector<std::string>& texts) {
 }
 
 // What the findings say goes to the standard error output; any but notes end the program.
-void Report(const std::string& path, Findings& findings, bool hasColumns) {
-    std::stable_sort(findings.list.begin(), findings.list.end(), [](const Finding& a, const Finding& b) {
-        return std::pair(a.place.line, a.place.column) < std::pair(b.place.line, b.place.column);
-    });
-    for (const Finding& finding : findings.list) {
-        std::cerr << path << ':' << finding.place.line << ':';
-        if (hasColumns)
-            std::cerr << finding.place.column << ':';
-        std::cerr << ' ' << (finding.isNote ? "note: " : "") << finding.message << '\n';
-    }
+void Report(const std::string& path, Findings& findings) {
+    findings.Sort();
+    for (const Finding& finding : findings.list)
+        std::cerr << path << ':' << FindingText(finding) << '\n';
     if (findings.HasErrors())
         throw std::runtime_error("'" + path + "' has faults: mend them and start again");
 }
@@ -97,13 +90,13 @@ ObjectMap ReadObjects(const CommandLine& line) {
     Findings findings;
     if (!line.replayFile.empty()) {
         ObjectMap objects = ReadRecording(ReadFile(line.replayFile), findings);
-        Report(line.replayFile, findings, false);
+        Report(line.replayFile, findings);
         return objects;
     }
     if (line.deviceFile.empty())
         return ObjectsOf(PlainDevice());
     const Device device = ReadDevice(ReadFile(line.deviceFile), findings);
-    Report(line.deviceFile, findings, true);
+    Report(line.deviceFile, findings);
     return ObjectsOf(device);
 }
 

@@ -1,6 +1,7 @@
 // The codec, see message.h: a thin layer over net-snmp's functions.
 #include "simprinter/message.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 // net-snmp's headers need this order.

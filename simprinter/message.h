@@ -13,7 +13,6 @@ enum ErrorStatus : long {
     kNoError = 0,
     kTooBig = 1,
     kNoSuchName = 2,
-    kBadValue = 3,
     kGenErr = 5,
 };
 

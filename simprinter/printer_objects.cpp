@@ -75,8 +75,8 @@ constexpr Column<Tray> kInput[] = {
     {19, Fixed<5>},                                                   // prtInputSecurity: notPresent
     {20, [](const Tray& t) { return NumberValue(t.type->weight); }},  // prtInputMediaWeight
     {21, [](const Tray& t) { return TextValue(t.type->mediaType); }}, // prtInputMediaType
-    {22,
-     [](const Tray& t) { return TextValue(t.type->colorCode ? "other" : "white"); }}, // prtInputMediaColor
+    // prtInputMediaColor
+    {22, [](const Tray& t) { return TextValue(t.type->colorCode ? "other" : "white"); }},
 };
 
 std::vector<ConceptualRow<Tray>> Inputs(const Device& device) {

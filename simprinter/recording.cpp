@@ -84,13 +84,25 @@ void Recording::Add(Place place, std::string_view name, const std::optional<Valu
         findings.Note(place, OidText(*oid) + " is recorded twice: the first counts");
 }
 
+void Recording::LeaveOutCounter64(Place place) {
+    if (counter64s++ == 0)
+        firstCounter64 = place;
+}
+
+void Recording::NoteWhatIsLeftOut() {
+    if (counter64s != 0)
+        findings.Note(firstCounter64,
+                      "SNMPv1 can't carry Counter64: this object and all further ones of the type, "
+                          + std::to_string(counter64s) + " in all, are left out");
+}
+
 ObjectMap ReadRecording(const std::string& text, Findings& findings) {
     const std::vector<std::string_view> lines = SplitLines(text);
-    Recording recording{{}, findings};
+    Recording recording(findings);
     const auto isFirst = [](std::string_view line) { return IsSnmprecLine(line) || IsWalkLine(line); };
     const auto first = std::find_if(lines.begin(), lines.end(), isFirst);
     if (first == lines.end()) {
-        findings.Error({1, 1},
+        findings.Error(AtLine(1),
                        "no recorded object: expected '.1.3.6... = TYPE: VALUE' as 'snmpwalk -On' prints it, "
                        "or '1.3.6...|TAG|VALUE'");
     } else if (IsSnmprecLine(*first)) {
@@ -98,9 +110,6 @@ ObjectMap ReadRecording(const std::string& text, Findings& findings) {
     } else {
         ReadWalk(lines, recording);
     }
-    if (recording.counter64s != 0)
-        findings.Note(recording.firstCounter64,
-                      "SNMPv1 can't carry Counter64: this object and all further ones of the type, "
-                          + std::to_string(recording.counter64s) + " in all, are left out");
+    recording.NoteWhatIsLeftOut();
     return recording.objects;
 }

@@ -12,12 +12,18 @@ ObjectMap ReadRecording(const std::string& text, Findings& findings);
 
 // What the formats' readers share: the objects so far, and what was noticed.
 struct Recording {
-    ObjectMap objects;
-    Findings& findings;
-    size_t counter64s = 0; // left out
-    Place firstCounter64 = {};
+    explicit Recording(Findings& where) : findings(where) {}
 
     void Add(Place place, std::string_view name, const std::optional<Value>& value, std::string_view text);
+    void LeaveOutCounter64(Place place);
+    void NoteWhatIsLeftOut(); // once all is read
+
+    ObjectMap objects;
+    Findings& findings;
+
+private:
+    size_t counter64s = 0; // left out
+    Place firstCounter64;
 };
 
 // How a value is written in a format: reads it as one of this tag; nothing when it is not well written.

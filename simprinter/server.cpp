@@ -2,6 +2,7 @@
 // once.
 #include "simprinter/server.h"
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <cerrno>
 #include <chrono>

@@ -46,11 +46,8 @@ void ReadLine(std::string_view line, Place place, Recording& recording) {
     if (second == std::string_view::npos)
         return recording.findings.Error(place, "expected OID|TAG|VALUE, not " + Quote(line));
     const std::string_view tagText = line.substr(first + 1, second - first - 1);
-    if (tagText == kCounter64Tag) {
-        if (recording.counter64s++ == 0)
-            recording.firstCounter64 = place;
-        return;
-    }
+    if (tagText == kCounter64Tag)
+        return recording.LeaveOutCounter64(place);
     const auto row = std::find_if(std::begin(kTags), std::end(kTags),
                                   [&](const TagRow& r) { return tagText == r.tagText; });
     if (row == std::end(kTags))
@@ -72,6 +69,6 @@ bool IsSnmprecLine(std::string_view line) {
 void ReadSnmprec(const std::vector<std::string_view>& lines, Recording& recording) {
     for (size_t i = 0; i < lines.size(); ++i) {
         if (!lines[i].empty() && lines[i].front() != '#')
-            ReadLine(lines[i], {i + 1, 1}, recording);
+            ReadLine(lines[i], AtLine(i + 1), recording);
     }
 }

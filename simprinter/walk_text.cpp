@@ -139,17 +139,14 @@ void ReadObject(Place place, std::string_view name, std::string_view text, Recor
     if (std::any_of(std::begin(kNoObject), std::end(kNoObject),
                     [&](const char* s) { return StartsWith(text, s); }))
         return;
-    if (StartsWith(text, "Counter64: ")) {
-        if (recording.counter64s++ == 0)
-            recording.firstCounter64 = place;
-        return;
-    }
+    if (StartsWith(text, "Counter64: "))
+        return recording.LeaveOutCounter64(place);
     for (const TypeRow& row : kTypes) {
         if (StartsWith(text, row.name))
             return recording.Add(place, name, row.parse(row.tag, text.substr(std::strlen(row.name))), text);
     }
-    if (const std::optional<Value> number =
-            ParseNumber(kUnsigned, text)) // the one type that is printed without name
+    // The one type that is printed without name.
+    if (const std::optional<Value> number = ParseNumber(kUnsigned, text))
         return recording.Add(place, name, number, text);
     recording.findings.Error(place, "no known type stands behind the equals sign: " + Quote(text));
 }
@@ -177,7 +174,7 @@ bool IsWalkLine(std::string_view line) {
 
 void ReadWalk(const std::vector<std::string_view>& lines, Recording& recording) {
     for (size_t i = 0; i < lines.size();) {
-        const Place place{i + 1, 1};
+        const Place place = AtLine(i + 1);
         const std::string_view line = lines[i++];
         if (!IsWalkLine(line)) {
             if (!Trimmed(line).empty() && line != "End of MIB")

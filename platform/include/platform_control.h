@@ -7,7 +7,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <map>
 #include <string>
 #include <vector>
@@ -86,8 +85,8 @@ void LetReleasesSetLastError(DWORD error);
 struct Queue {
     const wchar_t* name;
     const wchar_t* port;
-    DWORD infoSize =
-        0; // octets of level 2 that there are, instead of as many as it takes, the port's name last
+    // Octets of level 2 that there are, instead of as many as it takes, the port's name last.
+    DWORD infoSize = 0;
 };
 void RegisterQueue(const Queue& queue);
 

@@ -25,7 +25,6 @@ struct AsnAny {
         AsnInteger32 number;
         AsnOctetString string;
         AsnObjectIdentifier object;
-        uint64_t counter64;
     } asnValue;
 };
 

@@ -36,7 +36,6 @@
 #define OPEN_EXISTING         3
 #define FILE_ATTRIBUTE_NORMAL 0x00000080u
 #define FILE_BEGIN            0
-#define FILE_CURRENT          1
 #define FILE_END              2
 
 #define INVALID_HANDLE_VALUE     (reinterpret_cast<HANDLE>(static_cast<INT_PTR>(-1)))
@@ -54,11 +53,10 @@
 
 #define VER_PLATFORM_WIN32_NT 2
 
-#define DC_BINS       6
-#define DC_DUPLEX     7
-#define DC_BINNAMES   12
-#define DC_PRINTERMEM 28
-#define DC_STAPLE     30
+#define DC_BINS     6
+#define DC_DUPLEX   7
+#define DC_BINNAMES 12
+#define DC_STAPLE   30
 
 using BOOL = int;
 using BYTE = uint8_t;

@@ -12,7 +12,6 @@ using u_short = uint16_t;
 using u_long = uint32_t;
 
 constexpr SOCKET INVALID_SOCKET = ~SOCKET{0};
-constexpr int SOCKET_ERROR = -1;
 constexpr u_long INADDR_NONE = 0xFFFFFFFF;
 constexpr int AF_INET = 2;
 constexpr int SOCK_DGRAM = 2;
@@ -20,7 +19,6 @@ constexpr int SOL_SOCKET = 0xFFFF;
 constexpr int SO_RCVTIMEO = 0x1006;
 constexpr u_long FIONREAD = 0x4004667F;
 
-constexpr int WSAEFAULT = 10014;
 constexpr int WSAEINVAL = 10022;
 constexpr int WSAEMSGSIZE = 10040;
 constexpr int WSAECONNRESET = 10054;

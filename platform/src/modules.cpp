@@ -101,10 +101,7 @@ std::vector<std::string> LibraryCalls() {
 }
 
 void SetModuleFileName(const wchar_t* path) {
-    const wchar_t* end = path;
-    while (*end != 0)
-        ++end;
-    moduleFileName.assign(path, end + 1);
+    moduleFileName = Copy(path);
 }
 
 } // namespace platform

@@ -1,5 +1,4 @@
-// What the stand-in's source files share: one reset function for each service, and the
-// record of calls.
+// What the stand-in's source files share: one reset function for each service, and the record of calls.
 #ifndef PLATFORM_SERVICES_H
 #define PLATFORM_SERVICES_H
 

@@ -112,12 +112,9 @@ void RegisterQueue(const Queue& queue) {
     Printer printer = {NameOf(queue.name), std::vector<BYTE>(sizeof(PRINTER_INFO_2W)), 0, false, {}, 0};
     if (queue.port != nullptr) {
         printer.portOffset = printer.info.size();
-        const wchar_t* end = queue.port;
-        while (*end != 0)
-            ++end;
-        const size_t octets = static_cast<size_t>(end + 1 - queue.port) * sizeof(*end);
-        printer.info.resize(printer.portOffset + octets);
-        memcpy(&printer.info[printer.portOffset], queue.port, octets);
+        const std::vector<wchar_t> port = Copy(queue.port);
+        printer.info.resize(printer.portOffset + port.size() * sizeof(port[0]));
+        memcpy(&printer.info[printer.portOffset], port.data(), port.size() * sizeof(port[0]));
     }
     if (queue.infoSize != 0)
         printer.info.resize(queue.infoSize);

@@ -1,16 +1,16 @@
 // What the system says of itself: its version and its directory, as a test has set them.
 #include "platform_control.h"
 #include "services.h"
+#include "unicode.h"
 
 #include <algorithm>
 #include <vector>
 
 namespace {
 
-constexpr DWORD kNtPlatform = 2;
 constexpr DWORD kUsualMajor = 6;
 
-DWORD platformId = kNtPlatform;
+DWORD platformId = VER_PLATFORM_WIN32_NT;
 DWORD majorVersion = kUsualMajor;
 std::vector<wchar_t> systemDirectory; // with its terminator; empty: the call fails
 
@@ -39,7 +39,7 @@ UINT WINAPI GetSystemDirectoryW(LPWSTR path, UINT capacity) {
 namespace platform {
 
 void ResetSystem() {
-    SetVersion(kNtPlatform, kUsualMajor);
+    SetVersion(VER_PLATFORM_WIN32_NT, kUsualMajor);
     SetSystemDirectory(L"C:\\Windows\\system32");
 }
 
@@ -49,10 +49,7 @@ void SetVersion(DWORD id, DWORD major) {
 }
 
 void SetSystemDirectory(const wchar_t* path) {
-    const wchar_t* end = path;
-    while (*end != 0)
-        ++end;
-    systemDirectory.assign(path, end + 1);
+    systemDirectory = Copy(path);
 }
 
 } // namespace platform

@@ -1,4 +1,4 @@
-// UTF-16 to UTF-8: see the header.
+// UTF-16 texts: see the header.
 #include "unicode.h"
 
 #include <cstdint>
@@ -35,6 +35,13 @@ std::string ToUtf8(const wchar_t* text) {
         append(0x80 | (code & 0x3F));
     }
     return result;
+}
+
+std::vector<wchar_t> Copy(const wchar_t* text) {
+    const wchar_t* end = text;
+    while (*end != 0)
+        ++end;
+    return {text, end + 1};
 }
 
 } // namespace platform

@@ -1,7 +1,7 @@
-// ui_icons: draws the icons of the user-interface module. `ui_icons FOLDER` writes the files, `ui_icons
-// --check FOLDER` tells whether the files are what it draws. Exit codes: 0; 1 when files differ or can't be
-// written; 2 for a wrong command line.
-#include "hosttools/files.h"
+// ui_icons: draws the icons of the user-interface module. `ui_icons FOLDER` writes the files that have
+// changed, `ui_icons --check FOLDER` tells whether the files are what it draws. Exit codes: 0; 1 when files
+// differ or can't be written; 2 for a wrong command line.
+#include "hosttools/generated_files.h"
 
 #include <cstdint>
 #include <exception>
@@ -75,11 +75,6 @@ uint32_t ColorOf(char mark) {
     return 0;
 }
 
-void Put(std::string& file, size_t value, int octets) {
-    for (int i = 0; i < octets; ++i)
-        file += static_cast<char>(value >> (8 * i) & 0xFF);
-}
-
 // One image of an icon file: a header for colours and mask together, the colours, the mask, both from the
 // bottom row. Each mark is `scale` pixels wide and high.
 std::string Image(const Icon& icon, int scale) {
@@ -89,23 +84,23 @@ std::string Image(const Icon& icon, int scale) {
     std::string mask;
     for (int y = size - 1; y >= 0; --y) {
         for (int x = 0; x < size; ++x)
-            Put(colors, ColorOf(mark(x, y)), 4);
+            PutNumber(colors, ColorOf(mark(x, y)), 4);
         uint32_t row = 0; // a bit for each transparent pixel, the leftmost one highest; at most 32
         for (int x = 0; x < size; ++x)
             row |= ColorOf(mark(x, y)) == 0 ? 0x80000000U >> x : 0U;
         for (int shift = 24; shift >= 0; shift -= 8)
-            Put(mask, row >> shift, 1);
+            PutNumber(mask, row >> shift, 1);
     }
     std::string image;
-    Put(image, 40, 4);
-    Put(image, static_cast<size_t>(size), 4);
-    Put(image, static_cast<size_t>(size) * 2, 4);
-    Put(image, 1, 2);  // planes
-    Put(image, 32, 2); // bits per pixel
-    Put(image, 0, 4);  // not compressed
-    Put(image, colors.size() + mask.size(), 4);
+    PutNumber(image, 40, 4);
+    PutNumber(image, static_cast<size_t>(size), 4);
+    PutNumber(image, static_cast<size_t>(size) * 2, 4);
+    PutNumber(image, 1, 2);  // planes
+    PutNumber(image, 32, 2); // bits per pixel
+    PutNumber(image, 0, 4);  // not compressed
+    PutNumber(image, colors.size() + mask.size(), 4);
     for (int i = 0; i < 4; ++i)
-        Put(image, 0, 4); // resolution and colour table: none
+        PutNumber(image, 0, 4); // resolution and colour table: none
     return image + colors + mask;
 }
 
@@ -115,35 +110,28 @@ std::string IconFile(const Icon& icon) {
     constexpr size_t kCount = sizeof(kScales) / sizeof(kScales[0]);
     std::string file;
     std::string images;
-    Put(file, 0, 2);
-    Put(file, 1, 2); // an icon file
-    Put(file, kCount, 2);
+    PutNumber(file, 0, 2);
+    PutNumber(file, 1, 2); // an icon file
+    PutNumber(file, kCount, 2);
     for (const int scale : kScales) {
         const std::string image = Image(icon, scale);
-        Put(file, static_cast<size_t>(kSize * scale), 1);
-        Put(file, static_cast<size_t>(kSize * scale), 1);
-        Put(file, 0, 2);  // no colour table
-        Put(file, 1, 2);  // planes
-        Put(file, 32, 2); // bits per pixel
-        Put(file, image.size(), 4);
-        Put(file, 6 + 16 * kCount + images.size(), 4);
+        PutNumber(file, static_cast<size_t>(kSize * scale), 1);
+        PutNumber(file, static_cast<size_t>(kSize * scale), 1);
+        PutNumber(file, 0, 2);  // no colour table
+        PutNumber(file, 1, 2);  // planes
+        PutNumber(file, 32, 2); // bits per pixel
+        PutNumber(file, image.size(), 4);
+        PutNumber(file, 6 + 16 * kCount + images.size(), 4);
         images += image;
     }
     return file + images;
 }
 
-int Run(const std::string& folder, bool isCheck) {
-    int result = 0;
-    for (const Icon& icon : kIcons) {
-        const std::string path = folder + "/" + icon.file;
-        if (!isCheck) {
-            WriteFileWhole(path, IconFile(icon));
-        } else if (ReadFile(path) != IconFile(icon)) {
-            std::cerr << path << ": is not what is drawn; './dev artwork' draws it anew\n";
-            result = 1;
-        }
-    }
-    return result;
+std::vector<GeneratedFile> DrawAll() {
+    std::vector<GeneratedFile> files;
+    for (const Icon& icon : kIcons)
+        files.push_back({icon.file, IconFile(icon)});
+    return files;
 }
 
 } // namespace
@@ -155,7 +143,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     try {
-        return Run(argv[argc - 1], isCheck);
+        return UpdateFiles(argv[argc - 1], DrawAll(), isCheck);
     } catch (const std::exception& error) {
         std::cerr << "ui_icons: " << error.what() << "\n";
         return 1;

@@ -2,6 +2,8 @@
 // octets.
 #include "bitmap_file.h"
 
+#include "hosttools/generated_files.h"
+
 #include <algorithm>
 #include <set>
 #include <stdexcept>
@@ -12,11 +14,6 @@ constexpr size_t kFileHeaderSize = 14;
 constexpr size_t kInfoHeaderSize = 40;
 constexpr size_t kTableEntrySize = 4;
 constexpr uint32_t kPixelsPerMeter = 3780; // 96 per inch
-
-void Put(std::string& file, size_t value, int octets) {
-    for (int i = 0; i < octets; ++i)
-        file += static_cast<char>(value >> (8 * i) & 0xFF);
-}
 
 void PutColor(std::string& file, const Rgb& color) {
     for (const uint8_t channel : {color.b, color.g, color.r})
@@ -64,23 +61,23 @@ std::string BitmapFile(const Picture& picture, int bitsPerPixel, size_t tableSiz
     }
     const size_t offset = kFileHeaderSize + kInfoHeaderSize + tableSize * kTableEntrySize;
     std::string file = "BM";
-    Put(file, offset + pixels.size(), 4);
-    Put(file, 0, 4);
-    Put(file, offset, 4);
-    Put(file, kInfoHeaderSize, 4);
-    Put(file, static_cast<size_t>(picture.width), 4);
-    Put(file, static_cast<size_t>(picture.height), 4);
-    Put(file, 1, 2); // planes
-    Put(file, static_cast<size_t>(bitsPerPixel), 2);
-    Put(file, 0, 4); // not compressed
-    Put(file, pixels.size(), 4);
-    Put(file, kPixelsPerMeter, 4);
-    Put(file, kPixelsPerMeter, 4);
-    Put(file, tableSize, 4);
-    Put(file, tableSize, 4);
+    PutNumber(file, offset + pixels.size(), 4);
+    PutNumber(file, 0, 4);
+    PutNumber(file, offset, 4);
+    PutNumber(file, kInfoHeaderSize, 4);
+    PutNumber(file, static_cast<size_t>(picture.width), 4);
+    PutNumber(file, static_cast<size_t>(picture.height), 4);
+    PutNumber(file, 1, 2); // planes
+    PutNumber(file, static_cast<size_t>(bitsPerPixel), 2);
+    PutNumber(file, 0, 4); // not compressed
+    PutNumber(file, pixels.size(), 4);
+    PutNumber(file, kPixelsPerMeter, 4);
+    PutNumber(file, kPixelsPerMeter, 4);
+    PutNumber(file, tableSize, 4);
+    PutNumber(file, tableSize, 4);
     for (size_t i = 0; i < tableSize; ++i) {
         PutColor(file, i < table.size() ? table[i] : kBlack);
-        Put(file, 0, 1);
+        PutNumber(file, 0, 1);
     }
     return file + pixels;
 }

@@ -8,8 +8,7 @@ namespace {
 
 const Paint kSheet = Across({255, 158, 48}, {246, 120, 22});
 const Paint kStackFront = Down({240, 112, 20}, {222, 92, 14});
-constexpr Color kEdge = {255, 218, 168};
-constexpr double kEdgeWidth = 1.3;
+constexpr Outline kEdge = {{255, 218, 168}, 1.3};
 constexpr double kSheetsDrawn = 3.6; // from one drawn sheet of a high stack to the next
 
 constexpr double kAnywhere = 1000;
@@ -52,30 +51,23 @@ constexpr Paper kPaper[] = {
 };
 // clang-format on
 
-void AddFace(Scene& scene, const Plane& plane, const Area& area, const Paint& paint) {
-    scene.Panel(plane, area, Flat(kEdge));
-    scene.Panel(
-        plane,
-        {area.left + kEdgeWidth, area.top + kEdgeWidth, area.right - kEdgeWidth, area.bottom - kEdgeWidth},
-        paint);
-}
-
 Scene Draw(const Paper& paper) {
     Scene scene;
     const double length = paper.right.x - paper.left.x;
     const Point along = {1, (paper.right.y - paper.left.y) / length};
     const Point front = At(paper.left.x, paper.left.y, paper.z.from);
-    AddFace(scene, {front, along, {1, -1}}, {0, 0, length, paper.z.to - paper.z.from}, kSheet);
+    AddFace(scene, {front, along, {1, -1}}, {0, 0, length, paper.z.to - paper.z.from}, kSheet, kEdge);
     if (paper.height == 0)
         return scene;
     const Plane face = {front, along, {0, 1}};
-    AddFace(scene, face, {0, 0, length, paper.height}, kStackFront);
-    for (int sheet = 1; sheet * kSheetsDrawn < paper.height - kEdgeWidth; ++sheet) {
+    AddFace(scene, face, {0, 0, length, paper.height}, kStackFront, kEdge);
+    for (int sheet = 1; sheet * kSheetsDrawn < paper.height - kEdge.width; ++sheet) {
         const double y = sheet * kSheetsDrawn;
-        scene.Panel(face, {kEdgeWidth, y, length - kEdgeWidth, y + 0.9}, Tint(kEdge, 0.55));
+        scene.Panel(face, {kEdge.width, y, length - kEdge.width, y + 0.9}, Tint(kEdge.color, 0.55));
     }
     const Point end = At(paper.right.x, paper.right.y, paper.z.from);
-    AddFace(scene, {end, {1, -1}, {0, 1}}, {0, 0, paper.z.to - paper.z.from, paper.height}, kStackFront);
+    AddFace(scene, {end, {1, -1}, {0, 1}}, {0, 0, paper.z.to - paper.z.from, paper.height}, kStackFront,
+            kEdge);
     return scene;
 }
 

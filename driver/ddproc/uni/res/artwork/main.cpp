@@ -4,12 +4,11 @@
 #include "badge.h"
 #include "bitmap_file.h"
 #include "highlights.h"
-#include "hosttools/files.h"
+#include "hosttools/generated_files.h"
 #include "logo.h"
 #include "parts.h"
 
 #include <CLI/CLI.hpp>
-#include <filesystem>
 #include <iostream>
 
 namespace {
@@ -18,20 +17,15 @@ constexpr int kFrame = 200; // pixels in each direction, the same for all parts 
 constexpr size_t kFrameColors = 256;
 constexpr size_t kBadgeColors = 4;
 
-struct BitmapEntry {
-    std::string file;
-    std::string bytes;
-};
-
 std::string FileName(int id, const std::string& name) {
     return std::to_string(id) + "_" + name + ".bmp";
 }
 
-std::vector<BitmapEntry> DrawAll() {
-    std::vector<BitmapEntry> entries;
-    const auto add = [&entries](int id, const std::string& name, const Picture& picture, int bits,
-                                size_t colors) {
-        entries.push_back({FileName(id, name), BitmapFile(picture, bits, colors)});
+std::vector<GeneratedFile> DrawAll() {
+    std::vector<GeneratedFile> files;
+    const auto add = [&files](int id, const std::string& name, const Picture& picture, int bits,
+                              size_t colors) {
+        files.push_back({FileName(id, name), BitmapFile(picture, bits, colors)});
     };
     for (const Part& part : DrawParts(kFrame, kFrame, kFrameColors))
         add(part.id, part.name, part.picture, 8, kFrameColors);
@@ -42,27 +36,7 @@ std::vector<BitmapEntry> DrawAll() {
     add(201, "disk_missing", DrawBadge(false), 4, kBadgeColors);
     add(202, "disk_installed", DrawBadge(true), 4, kBadgeColors);
     add(502, "logo", DrawLogo(), 24, 0);
-    return entries;
-}
-
-bool IsSame(const std::string& path, const std::string& bytes) {
-    return std::filesystem::exists(path) && ReadFile(path) == bytes;
-}
-
-int Run(const std::string& folder, bool isCheck) {
-    int changed = 0;
-    for (const BitmapEntry& entry : DrawAll()) {
-        const std::string path = folder + "/" + entry.file;
-        if (IsSame(path, entry.bytes))
-            continue;
-        ++changed;
-        std::cout << path << (isCheck ? ": is not what is drawn" : ": written") << "\n";
-        if (!isCheck)
-            WriteFileWhole(path, entry.bytes);
-    }
-    if (isCheck && changed > 0)
-        std::cerr << "artwork: " << changed << " bitmaps differ; './dev artwork' draws them anew\n";
-    return isCheck && changed > 0 ? 1 : 0;
+    return files;
 }
 
 } // namespace
@@ -79,7 +53,7 @@ int main(int argc, char** argv) {
         } catch (const CLI::ParseError& error) {
             return app.exit(error) == 0 ? 0 : 2;
         }
-        return Run(folder, isCheck);
+        return UpdateFiles(folder, DrawAll(), isCheck);
     } catch (const std::exception& error) {
         std::cerr << "artwork: " << error.what() << "\n";
         return 1;

@@ -1,19 +1,6 @@
 // Solid bodies in the printer's view: see the header.
 #include "solids.h"
 
-namespace {
-
-constexpr double kOutline = 0.7;
-
-void AddFace(Scene& scene, const Plane& plane, const Area& area, const Paint& paint, const Color& edge) {
-    scene.Panel(plane, area, Flat(edge));
-    scene.Panel(plane,
-                {area.left + kOutline, area.top + kOutline, area.right - kOutline, area.bottom - kOutline},
-                paint);
-}
-
-} // namespace
-
 Plane FrontPlane(double z) {
     return {At(0, 0, z), {1, 0}, {0, 1}};
 }
@@ -26,13 +13,22 @@ Plane TopPlane(double y) {
     return {{0, y}, {1, 0}, {1, -1}};
 }
 
+void AddFace(Scene& scene, const Plane& plane, const Area& area, const Paint& paint, const Outline& edge) {
+    scene.Panel(plane, area, Flat(edge.color));
+    scene.Panel(
+        plane,
+        {area.left + edge.width, area.top + edge.width, area.right - edge.width, area.bottom - edge.width},
+        paint);
+}
+
 void AddSolid(Scene& scene, const Solid& solid, const Material& material) {
+    const Outline edge = {material.edge, 0.7};
     AddFace(scene, TopPlane(solid.y.from), {solid.x.from, solid.z.from, solid.x.to, solid.z.to}, material.top,
-            material.edge);
+            edge);
     AddFace(scene, SidePlane(solid.x.to), {solid.z.from, solid.y.from, solid.z.to, solid.y.to}, material.side,
-            material.edge);
+            edge);
     AddFace(scene, FrontPlane(solid.z.from), {solid.x.from, solid.y.from, solid.x.to, solid.y.to},
-            material.front, material.edge);
+            material.front, edge);
 }
 
 void AddPlate(Scene& scene, const Plate& plate, const Material& material) {

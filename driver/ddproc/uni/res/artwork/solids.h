@@ -17,6 +17,14 @@ Plane FrontPlane(double z);
 Plane SidePlane(double x);
 Plane TopPlane(double y);
 
+struct Outline {
+    Color color;
+    double width;
+};
+
+// A panel within its outline.
+void AddFace(Scene& scene, const Plane& plane, const Area& area, const Paint& paint, const Outline& edge);
+
 struct Span {
     double from;
     double to;
