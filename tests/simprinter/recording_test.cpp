@@ -73,9 +73,9 @@ TEST(Recording, NotesAndWhatEndsAWalk) {
         {".1.3.1 = INTEGER: 1\n.1.3.1 = No more variables left in this MIB View (It is past the end of the MIB tree)\n",
          ""},
         {".1.3.1 = INTEGER: 1\n.1.3.1 = INTEGER: 2\n",
-         "2:1: note: .1.3.1 is recorded twice: the first counts\n"},
+         "2: note: .1.3.1 is recorded twice: the first counts\n"},
         {".1.3.1 = Counter64: 1\n.1.3.2 = INTEGER: 2\n.1.3.3 = Counter64: 3\n",
-         "1:1: note: SNMPv1 can't carry Counter64: this object and all further ones of the type, 2 in all, are left "
+         "1: note: SNMPv1 can't carry Counter64: this object and all further ones of the type, 2 in all, are left "
          "out\n"},
     };
     for (const auto& one : cases) {
@@ -91,14 +91,14 @@ TEST(Recording, FaultsAndTheirLines) {
         std::string text;
         std::string findings;
     } cases[] = {
-        {"SNMPv2-MIB::sysDescr.0 = STRING: x\n", "1:1: no recorded object: expected "},
-        {good + "1.3.2.0|3|1\n", "2:1: there is no tag '3': known are 2, 4, 5, 6, 64 to 68"},
-        {good + "# text\n1.3.2.0|2|2147483648\n", "3:1: this is no value of its type: '2147483648'"},
-        {good + "1.3.2.0|64|10.0.0.256\n", "2:1: this is no value of its type: '10.0.0.256'"},
-        {good + "1.3.2.0|4x|123\n", "2:1: this is no value of its type: '123'"},
-        {good + "1.40.2|2|1\n", "2:1: '1.40.2' is no object identifier that SNMP can carry"},
+        {"SNMPv2-MIB::sysDescr.0 = STRING: x\n", "1: no recorded object: expected "},
+        {good + "1.3.2.0|3|1\n", "2: there is no tag '3': known are 2, 4, 5, 6, 64 to 68"},
+        {good + "# text\n1.3.2.0|2|2147483648\n", "3: this is no value of its type: '2147483648'"},
+        {good + "1.3.2.0|64|10.0.0.256\n", "2: this is no value of its type: '10.0.0.256'"},
+        {good + "1.3.2.0|4x|123\n", "2: this is no value of its type: '123'"},
+        {good + "1.40.2|2|1\n", "2: '1.40.2' is no object identifier that SNMP can carry"},
         {goodWalk + ".1.3.2.0 = STRING: \"open\n.1.3.3.0 = INTEGER: 5\n",
-         "2:1: the quote that opens here is never closed"},
+         "2: the quote that opens here is never closed"},
     };
     for (const auto& one : cases) {
         Findings findings;

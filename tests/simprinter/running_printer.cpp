@@ -124,7 +124,6 @@ Octets StorageReply(uint8_t requestId) {
 std::string Listed(const Findings& findings) {
     std::string list;
     for (const Finding& finding : findings.list)
-        list += std::to_string(finding.place.line) + ':' + std::to_string(finding.place.column) + ": "
-                + (finding.isNote ? "note: " : "") + finding.message + '\n';
+        list += FindingText(finding) + '\n';
     return list;
 }

@@ -76,7 +76,7 @@ struct RawClient {
 Octets StorageRequest(uint8_t requestId = 0x11);
 Octets StorageReply(uint8_t requestId = 0x11);
 
-// "LINE:COLUMN: MESSAGE" of all findings, a line each; notes with "note: ".
+// The texts of all findings, a line each.
 std::string Listed(const Findings& findings);
 
 #endif

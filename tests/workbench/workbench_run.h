@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <regex>
 #include <windows.h>
 
 namespace fs = std::filesystem;
@@ -69,6 +70,16 @@ inline Json RunForJson(const std::wstring& arguments) {
     const Result result = RunWorkbench(arguments + L" --json");
     EXPECT_EQ(result.exitCode, 0) << result.errors;
     return Json::parse(result.output, nullptr, false);
+}
+
+// A command that must fail says on the error output what is wrong, by this regular expression, and writes
+// nothing else.
+inline void ExpectFailure(const std::wstring& arguments, int exitCode, const std::string& says) {
+    const Result result = RunWorkbench(arguments);
+    EXPECT_EQ(result.exitCode, exitCode) << result.errors;
+    EXPECT_EQ(result.output, "");
+    EXPECT_TRUE(std::regex_search(result.errors, std::regex("^workbench: .*" + says)))
+        << says << " in: " << result.errors;
 }
 
 // One field of every row of a table.
