@@ -113,7 +113,7 @@ struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<
         area = TakeArea(at);
         for (int text = 0; text < 3; ++text) // menu, class, title
             TakeText(at);
-        at += 6; // size, weight, slant and character set of the font
+        at += 6;      // size, weight, slant and character set of the font
         TakeText(at); // its name
         for (Control& control : controls) {
             at += ((octets - at) & 3) + 8; // help, extended style
