@@ -63,7 +63,7 @@ private:
     void Init() override {
         SetColumns(ID_OPTIONS, {"Option", "Installed"});
         Send(ID_PROGRESS, PBM_SETRANGE32, 0, kJobSteps);
-        Send(ID_SUPPLIES, LB_SETITEMHEIGHT, 0, FontHeight() * 3 / 2);
+        Send(ID_SUPPLIES, LB_SETITEMHEIGHT, 0, FontHeight() * 5 / 4);
     }
 
     void Show() override {

@@ -130,8 +130,23 @@ void PropertyPage::SetRows(int id, const std::vector<std::vector<std::string>>& 
     const auto header = reinterpret_cast<HWND>(Send(id, LVM_GETHEADER));
     const LRESULT columns = SendMessageW(header, HDM_GETITEMCOUNT, 0, 0);
     for (LRESULT column = 0; column < columns; ++column)
-        Send(id, LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), LVSCW_AUTOSIZE_USEHEADER);
+        FitColumn(id, static_cast<WPARAM>(column));
     Send(id, WM_SETREDRAW, TRUE);
+}
+
+// As wide as its cells and its title need. The system leaves a title less room around than it then draws.
+void PropertyPage::FitColumn(int id, WPARAM column) const {
+    wchar_t title[64] = L"";
+    LVCOLUMNW shown = {};
+    shown.mask = LVCF_TEXT;
+    shown.pszText = title;
+    shown.cchTextMax = static_cast<int>(std::size(title));
+    Send(id, LVM_GETCOLUMNW, column, reinterpret_cast<LPARAM>(&shown));
+    Send(id, LVM_SETCOLUMNWIDTH, column, LVSCW_AUTOSIZE_USEHEADER);
+    const LRESULT needed =
+        Send(id, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title)) + 2 * FontHeight();
+    if (Send(id, LVM_GETCOLUMNWIDTH, column) < needed)
+        Send(id, LVM_SETCOLUMNWIDTH, column, needed);
 }
 
 void PropertyPage::SetCell(int id, size_t row, size_t column, const std::string& utf8) const {

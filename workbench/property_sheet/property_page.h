@@ -62,6 +62,7 @@ private:
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Answer(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Apply() const;
+    void FitColumn(int id, WPARAM column) const;
     void Tell(const std::string& failure) const;
 };
 
