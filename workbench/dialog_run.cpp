@@ -3,6 +3,7 @@
 // it.
 #include "dialog_run.h"
 
+#include "frame/scope_guard.h"
 #include "output.h"
 
 #include <exception>
@@ -103,9 +104,12 @@ INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
     SetWindowLongPtrW(sheet, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(SheetProcedure));
     SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
     int32_t handled = 0;
-    const BOOL wasDisabled = EnableWindow(run.use.owner, FALSE); // the dialog itself sees to `sheet` only
+    if (run.use.owner != nullptr)
+        EnableWindow(run.use.owner, FALSE); // the dialog itself sees to `sheet` only
     run.dialog.answer(kTrayButtonPage, page, WM_COMMAND, kTrayButton, 0, &handled);
-    EnableWindow(run.use.owner, !wasDisabled);
+    const KeepLastError keep; // why no dialog has come
+    if (run.use.owner != nullptr)
+        EnableWindow(run.use.owner, TRUE);
     DestroyWindow(sheet);
     return run.pressed;
 }

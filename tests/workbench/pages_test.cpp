@@ -236,6 +236,17 @@ RECT PlaceOf(HWND window) {
     return place;
 }
 
+// What a text needs in the control's font, broken into lines of at most this width.
+RECT TextSize(HWND control, const std::wstring& text, LONG width) {
+    const HDC dc = GetDC(control);
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    RECT needed = {0, 0, width, 0};
+    DrawTextW(dc, text.c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK);
+    SelectObject(dc, before);
+    ReleaseDC(control, dc);
+    return needed;
+}
+
 struct SheetLayout : Sheet, testing::WithParamInterface<int> {
     SheetLayout() { driver.TurnTo(static_cast<SheetPage>(GetParam())); }
 };
@@ -274,13 +285,7 @@ TEST_P(SheetLayout, EverythingFits) {
         }
         if (!IsOfClass(control, L"Static") && !IsOfClass(control, L"Button"))
             continue;
-        const HDC dc = GetDC(control);
-        const HGDIOBJ font =
-            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-        RECT needed = {0, 0, place.right - place.left, 0};
-        DrawTextW(dc, TextOf(control).c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK);
-        SelectObject(dc, font);
-        ReleaseDC(control, dc);
+        const RECT needed = TextSize(control, TextOf(control), place.right - place.left);
         EXPECT_LE(needed.right, place.right - place.left);
         EXPECT_LE(needed.bottom, place.bottom - place.top + 1);
     }
@@ -290,14 +295,8 @@ TEST_P(SheetLayout, RowsAreAsHighAsTheirText) {
     for (HWND control : Children(sheet.CurrentPage())) {
         if (!IsOfClass(control, L"ListBox"))
             continue;
-        TEXTMETRICW font = {};
-        const HDC dc = GetDC(control);
-        const HGDIOBJ before =
-            SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
-        GetTextMetricsW(dc, &font);
-        SelectObject(dc, before);
-        ReleaseDC(control, dc);
-        EXPECT_GE(SendMessageW(control, LB_GETITEMHEIGHT, 0, 0), font.tmHeight);
+        const LONG text = TextSize(control, L"Ag", 1000).bottom;
+        EXPECT_GE(SendMessageW(control, LB_GETITEMHEIGHT, 0, 0), text);
     }
 }
 
