@@ -65,50 +65,28 @@ Document CallDocument(const Call& call) {
                                      "itself with --record");
 }
 
-struct Options {
-    std::string record; // UTF-8, as all texts of the command line
-    std::string queue;
-    const CLI::Option* givesRecord;
-    const CLI::Option* givesQueue;
-};
+} // namespace
 
-Document Address(const FamilyFiles& family, const Options& options) {
-    const bool ofRecord = options.givesRecord->count() != 0;
-    if (!ofRecord && options.givesQueue->count() == 0)
+Document FindAddress(const FamilyFiles& family, const AddressOptions& options) {
+    if (!options.record && !options.queue)
         throw Failure(kExitUsage, "address lacks the printer; possible: --record TEXT, --queue NAME");
     const auto get = ModuleExport<Export>(family, "DDProc_GetPrinterIPAddress");
-    const std::wstring address = Wide(options.record);
-    const std::wstring queue = Wide(options.queue);
-    const std::vector<uint8_t> record = MakeRecord(ofRecord ? &address : nullptr);
+    const std::wstring address = Wide(options.record.value_or(""));
+    const std::wstring queue = Wide(options.queue.value_or(""));
+    const std::vector<uint8_t> record = MakeRecord(options.record ? &address : nullptr);
 
     const Call size = Ask(get, queue, record, 0);
     const Call answer = size.neededSize != 0 ? Ask(get, queue, record, size.neededSize) : size;
     if (!answer.succeeded || answer.bufferSize == 0 || answer.neededSize > answer.bufferSize) {
-        if (ofRecord)
+        if (options.record)
             FailOnRecord();
-        FailOnQueue(options.queue, answer.lastError);
+        FailOnQueue(*options.queue, answer.lastError);
     }
     return {
         {"files", FamilyDocument(family)},
         {"calls", {CallDocument(size), CallDocument(answer)}},
         {"printer",
-         {{ofRecord ? "record" : "queue", ofRecord ? options.record : options.queue},
+         {{options.record ? "record" : "queue", options.record ? *options.record : *options.queue},
           {"address", answer.text}}},
     };
-}
-
-} // namespace
-
-Run SetUpAddress(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
-    CLI::Option* record = command
-                              .add_option("--record", options->record,
-                                          "Takes it from a settings record that carries this address")
-                              ->type_name("TEXT");
-    options->givesRecord = record;
-    options->givesQueue =
-        command.add_option("--queue", options->queue, "Finds that of this print queue's printer")
-            ->type_name("NAME")
-            ->excludes(record);
-    return [options](const FamilyFiles& family) { return Address(family, *options); };
 }

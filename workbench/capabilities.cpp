@@ -16,11 +16,11 @@ constexpr struct {
 };
 
 Document Answers(const CapabilityQuestions& questions) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (const auto& question : kQuestions) {
         DWORD answer = 0;
         const bool answered = questions.Ask(question.capability, nullptr, answer);
-        rows.push_back({
+        rows.Add({
             {"question", question.name},
             {"index", question.capability},
             {"answered", answered},
@@ -31,13 +31,15 @@ Document Answers(const CapabilityQuestions& questions) {
 }
 
 Document PaperSources(const CapabilityQuestions& questions) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (const PaperSource& source : questions.PaperSources())
-        rows.push_back({{"bin", source.bin}, {"name", source.name}});
+        rows.Add({{"bin", source.bin}, {"name", source.name}});
     return rows;
 }
 
-Document Capabilities(const FamilyFiles& family, const std::vector<std::string>& assignments) {
+} // namespace
+
+Document AskCapabilities(const FamilyFiles& family, const std::vector<std::string>& assignments) {
     OptionFeatures options = ReadOptionFeatures(family);
     for (const std::string& assignment : assignments)
         SetOption(options, assignment);
@@ -48,11 +50,4 @@ Document Capabilities(const FamilyFiles& family, const std::vector<std::string>&
         {"answers", Answers(questions)},
         {"paperSources", PaperSources(questions)},
     };
-}
-
-} // namespace
-
-Run SetUpCapabilities(CLI::App& command) {
-    const auto assignments = AddSetOption(command);
-    return [assignments](const FamilyFiles& family) { return Capabilities(family, *assignments); };
 }

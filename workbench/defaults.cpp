@@ -10,9 +10,9 @@ namespace {
 // The slots in use, with the offset of each of their parts.
 Document FontTable(const OemDevmode& settings) {
     constexpr UINT kJapanese = 932; // code page of the names
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (size_t i = 0; i < settings.fontCount; ++i)
-        rows.push_back({
+        rows.Add({
             {"nameOffset", offsetof(OemDevmode, trueTypeNames) + i * sizeof(settings.trueTypeNames[i])},
             {"trueTypeName", Utf8(settings.trueTypeNames[i], kJapanese)},
             {"printerFontOffset", offsetof(OemDevmode, printerFonts) + i * sizeof(settings.printerFonts[i])},
@@ -25,20 +25,16 @@ Document FontTable(const OemDevmode& settings) {
     return rows;
 }
 
-Document Defaults(const FamilyFiles& family) {
+} // namespace
+
+Document ShowDefaults(const FamilyFiles& family) {
     Document document;
     document["files"] = FamilyDocument(family);
     for (const SettingsField& field : SettingsFields())
-        document[field.group].push_back({{"name", field.name},
-                                         {"offset", field.offset},
-                                         {"bytes", field.bytes},
-                                         {"value", ShowSetting(field, defaultSettings)}});
+        document[field.group].Add({{"name", field.name},
+                                   {"offset", field.offset},
+                                   {"bytes", field.bytes},
+                                   {"value", ShowSetting(field, defaultSettings)}});
     document["fontTable"] = FontTable(defaultSettings);
     return document;
-}
-
-} // namespace
-
-Run SetUpDefaults(CLI::App& /*command*/) {
-    return Defaults;
 }

@@ -2,18 +2,10 @@
 #include "commands.h"
 #include "device_document.h"
 
-namespace {
-
 Document Describe(const FamilyFiles& family) {
     Document document;
     document["files"] = FamilyDocument(family);
     AddDevice(*family.table, document);
     AddInputSlots(document);
     return document;
-}
-
-} // namespace
-
-Run SetUpDescribe(CLI::App& /*command*/) {
-    return Describe;
 }

@@ -18,7 +18,10 @@ Document ShowIf(const void* record) {
 template <auto kField>
 Document ShowIfAny(const void* record) {
     const Document numbers = Show<kField>(record);
-    return numbers == Document(std::vector<int>(numbers.size())) ? Document() : numbers;
+    for (const Document& number : numbers.Elements())
+        if (number.Integer() != 0)
+            return numbers;
+    return nullptr;
 }
 
 template <auto kField>
@@ -168,11 +171,11 @@ constexpr Field kInputSlot[] = {
 
 // Switches are "on" or "off", those that hold the number of a variant are that number.
 Document Switches(const DeviceTable& table) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (size_t i = 0; i < kFeatureSwitchCount; ++i) {
         const uint32_t value = table.switches[i];
         const bool isNumber = kFeatureSwitches[i].enablingValue == nullptr;
-        rows.push_back({
+        rows.Add({
             {"index", i},
             {"name", kFeatureSwitches[i].name},
             {"value", isNumber ? Document(value) : Document(value ? "on" : "off")},
@@ -182,21 +185,20 @@ Document Switches(const DeviceTable& table) {
 }
 
 Document Ranges(const DeviceTable& table) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (const auto& range : kRanges)
-        rows.push_back({{"name", range.name}, {"a", range.a.show(&table)}, {"b", range.b.show(&table)}});
+        rows.Add({{"name", range.name}, {"a", range.a.show(&table)}, {"b", range.b.show(&table)}});
     return rows;
 }
 
 Document MachineInformation(const DeviceTable& table) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (uint32_t i = 0; i + 1 < table.machineInfoCount; ++i) {
         const MachineInfoRecord& machine = table.machineInfo[i];
-        Document details = Document::array();
+        Document details = Document::MakeList();
         for (uint32_t j = 0; machine.details != nullptr && j + 1 < machine.detailCount; ++j)
-            details.push_back(
-                {ToDocument(machine.details[j].texts[0]), ToDocument(machine.details[j].texts[1])});
-        rows.push_back({{"name", ToDocument(machine.name)}, {"details", details}});
+            details.Add({ToDocument(machine.details[j].texts[0]), ToDocument(machine.details[j].texts[1])});
+        rows.Add({{"name", ToDocument(machine.name)}, {"details", details}});
     }
     return rows;
 }
@@ -222,6 +224,6 @@ void AddInputSlots(Document& document) {
         AddFields(kInputSlot, slot, row);
         for (size_t i = 0; i < kTraySelectionCount; ++i)
             row[kTraySelectionFeatures[i]] = ToDocument(slot->selectionKeys[i]);
-        rows.push_back(row);
+        rows.Add(row);
     }
 }

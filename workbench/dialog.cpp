@@ -9,8 +9,6 @@
 #include "settings_fields.h"
 #include "tray_papers.h"
 
-#include <optional>
-
 namespace {
 
 // The user-interface module opens the colour dialogs. The module opens that for trays, which its model
@@ -21,18 +19,6 @@ constexpr struct DialogRow {
 } kDialogs[] = {
     {122, false}, {123, false}, {124, false}, {125, false},
     {128, false}, {155, true},  {165, true},  {166, true},
-};
-
-struct Options {
-    std::string id; // UTF-8, as all texts of the command line
-    std::optional<std::string> out;
-    std::optional<std::string> profiles;
-    std::optional<std::string> settings;
-    std::optional<std::string> script;
-    std::optional<std::string> from;
-    bool isShort = false;
-    bool isLocked = false;
-    bool waitsForPerson = false;
 };
 
 const DialogRow& FindDialog(const std::string& wanted) {
@@ -65,7 +51,9 @@ OemDevmode ReadSettings(const std::string& path) {
     return settings;
 }
 
-Document Dialog(const FamilyFiles& family, const Options& options) {
+} // namespace
+
+Document UseDialog(const FamilyFiles& family, const DialogOptions& options) {
     const DialogRow& row = FindDialog(options.id);
     CheckTrayDialog(family, row);
     const OemDevmode opening = options.settings ? ReadSettings(*options.settings) : defaultSettings;
@@ -101,34 +89,4 @@ Document Dialog(const FamilyFiles& family, const Options& options) {
     report["entries"] = end.view.entries;
     report["pictures"] = script.pictures;
     return report;
-}
-
-} // namespace
-
-Run SetUpDialog(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
-    command
-        .add_option("ID", options->id, "The dialog: 122 to 125 or 128 of colours, 155, 165 or 166 of trays")
-        ->required();
-    command.add_option("--out", options->out, "Saves a picture of what OK or Cancel ends")->type_name("FILE");
-    command
-        .add_option("--script", options->script,
-                    "Runs these actions; a dialog that they leave open is cancelled")
-        ->type_name("FILE");
-    command.add_flag("--open", options->waitsForPerson, "Leaves the dialog to a person, after the script");
-    command.add_option("--profiles", options->profiles, "Colour profiles that the printer holds (JSON)")
-        ->type_name("FILE");
-    command
-        .add_option("--settings", options->settings,
-                    "Settings to begin with, a record of 7808 bytes (the model's defaults)")
-        ->type_name("FILE");
-    command
-        .add_option(
-            "--from", options->from,
-            "Papers in the trays as a printer (IPv4 address or host name) tells them; otherwise unknown")
-        ->type_name("ADDRESS");
-    command.add_flag("--short-rgb", options->isShort, "Offers device RGB and sRGB as RGB sources only");
-    command.add_flag("--locked", options->isLocked, "The user may look, but not change");
-    command.footer(ScriptHelp());
-    return [options](const FamilyFiles& family) { return Dialog(family, *options); };
 }

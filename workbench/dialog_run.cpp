@@ -7,6 +7,7 @@
 #include "output.h"
 
 #include <exception>
+#include <utility>
 
 namespace {
 
@@ -30,8 +31,8 @@ DialogRun* running; // the one that runs
 void NoteHint(DialogRun& run) {
     const std::string hint = HintOf(run.window);
     Document& done = run.use.script.done;
-    if (!done.empty())
-        done.back()["hint"] = hint.empty() ? Document() : Document(hint);
+    if (!done.Elements().empty())
+        done.Elements().back()["hint"] = hint.empty() ? Document() : Document(hint);
 }
 
 // What OK or Cancel ends.
@@ -39,7 +40,7 @@ void NoteEnd(DialogRun& run) {
     NoteHint(run);
     run.atEnd = ViewDialog(run.window);
     if (!run.use.lastPicture.empty())
-        run.use.script.pictures.push_back(TakePicture(run.window, run.use.lastPicture));
+        run.use.script.pictures.Add(TakePicture(run.window, run.use.lastPicture));
 }
 
 // Carries a failure past the system, which calls what is run here.

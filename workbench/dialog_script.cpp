@@ -130,7 +130,7 @@ void PressKey(DialogScript& /*script*/, HWND /*dialog*/, const std::string& argu
 }
 
 void TakeOnePicture(DialogScript& script, HWND dialog, const std::string& argument) {
-    script.pictures.push_back(TakePicture(dialog, argument));
+    script.pictures.Add(TakePicture(dialog, argument));
 }
 
 void Refresh(DialogScript& /*script*/, HWND dialog, const std::string& /*argument*/) {
@@ -205,7 +205,7 @@ DialogScript ReadDialogScript(const std::string& path) {
 
 void RunNextAction(DialogScript& script, HWND dialog) {
     const ScriptAction& action = script.actions[script.next++];
-    script.done.push_back(
+    script.done.Add(
         {{"line", action.line}, {"action", action.verb->name}, {"on", action.argument}, {"hint", nullptr}});
     At(action.place, [&] { action.verb->run(script, dialog, action.argument); });
 }

@@ -19,9 +19,9 @@ struct ScriptAction {
 
 struct DialogScript {
     std::vector<ScriptAction> actions;
-    size_t next = 0;                       // the first that has not been run
-    Document done = Document::array();     // a row for each that has
-    Document pictures = Document::array(); // that they have taken
+    size_t next = 0;                          // the first that has not been run
+    Document done = Document::MakeList();     // a row for each that has
+    Document pictures = Document::MakeList(); // that they have taken
 };
 
 // A script from its lines; messages call it by this name. Throws Failure that names the line and what is

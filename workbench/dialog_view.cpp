@@ -129,10 +129,10 @@ Document DataAt(HWND list, WPARAM index) {
 void AddEntries(HWND list, Document& rows) {
     const LRESULT count = CountOf(list);
     for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i)
-        rows.push_back({{"list", GetDlgCtrlID(list)},
-                        {"index", i},
-                        {"data", DataAt(list, i)},
-                        {"text", IsListView(list) ? RowText(list, i) : EntryText(list, i)}});
+        rows.Add({{"list", GetDlgCtrlID(list)},
+                  {"index", i},
+                  {"data", DataAt(list, i)},
+                  {"text", IsListView(list) ? RowText(list, i) : EntryText(list, i)}});
 }
 
 // Calls `use` for each visible window that the dialog owns.
@@ -230,19 +230,19 @@ std::string HintOf(HWND dialog) {
 }
 
 DialogView ViewDialog(HWND dialog) {
-    DialogView view = {TextOf(dialog), HintOf(dialog), Document::array(), Document::array(),
-                       Document::array()};
+    DialogView view = {TextOf(dialog), HintOf(dialog), Document::MakeList(), Document::MakeList(),
+                       Document::MakeList()};
     HWND group = nullptr;
     HWND before = nullptr;
     for (HWND control : ControlsOf(dialog)) {
         const ControlKind kind = KindOf(control);
         group = IsGroup(control) ? control : group;
         if (kind != ControlKind::kNone)
-            view.controls.push_back(ControlRow(control, kind, group, before));
+            view.controls.Add(ControlRow(control, kind, group, before));
         if (HasEntries(kind))
             AddEntries(control, view.entries);
         if (!IsWindowEnabled(control))
-            view.disabled.push_back(GetDlgCtrlID(control));
+            view.disabled.Add(GetDlgCtrlID(control));
         before = control;
     }
     return view;

@@ -120,7 +120,9 @@ void DrawCell(const FamilyFiles& family, const Row& row, HDC to, POINT at) {
     SetViewportOrgEx(to, 0, 0, nullptr);
 }
 
-Document Gallery(const FamilyFiles& family, const std::string& out) {
+} // namespace
+
+Document DrawGallery(const FamilyFiles& family, const std::string& out) {
     const Canvas sheet(kSheet);
     DrawLine(sheet.context, {kMargin, kMargin, kSheet.cx - kMargin, kMargin + kTitleHeight}, kTitleStyle,
              kTitle);
@@ -133,12 +135,4 @@ Document Gallery(const FamilyFiles& family, const std::string& out) {
     Document picture = WritePicture(sheet, out);
     picture["printers"] = std::size(kRows);
     return {{"files", FamilyDocument(family)}, {"picture", picture}};
-}
-
-} // namespace
-
-Run SetUpGallery(CLI::App& command) {
-    const auto out = std::make_shared<std::string>();
-    command.add_option("--out", *out, "Where to write the sheet")->type_name("FILE")->required();
-    return [out](const FamilyFiles& family) { return Gallery(family, *out); };
 }

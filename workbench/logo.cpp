@@ -8,16 +8,10 @@ namespace {
 constexpr LONG kMargin = 12; // pixels of white around the logo
 constexpr SIZE kLogoSize = {176, 120};
 
-Document Logo(const FamilyFiles& family, const std::string& out) {
+} // namespace
+
+Document DrawLogo(const FamilyFiles& family, const std::string& out) {
     const Canvas canvas({kLogoSize.cx + 2 * kMargin, kLogoSize.cy + 2 * kMargin});
     EXPORT(family, DrawLogoVersionTab)(canvas.context, nullptr, canvas.size.cx / 2, canvas.size.cy / 2);
     return {{"files", FamilyDocument(family)}, {"picture", WritePicture(canvas, out)}};
-}
-
-} // namespace
-
-Run SetUpLogo(CLI::App& command) {
-    const auto out = std::make_shared<std::string>();
-    command.add_option("--out", *out, "Where to write the picture")->type_name("FILE")->required();
-    return [out](const FamilyFiles& family) { return Logo(family, *out); };
 }

@@ -47,7 +47,9 @@ std::vector<Placed> Place(const std::vector<std::string>& paths, std::vector<Col
     return pictures;
 }
 
-Document Montage(const std::vector<std::string>& paths, const std::string& out) {
+} // namespace
+
+Document MakeMontage(const std::vector<std::string>& paths, const std::string& out) {
     std::vector<Column> columns;
     const std::vector<Placed> pictures = Place(paths, columns);
     SIZE size = {columns.back().left + columns.back().width + kGap, 0};
@@ -65,17 +67,4 @@ Document Montage(const std::vector<std::string>& paths, const std::string& out) 
     Document written = WritePicture(sheet, out);
     written["pictures"] = pictures.size();
     return {{"picture", written}};
-}
-
-} // namespace
-
-Run SetUpMontage(CLI::App& command) {
-    struct Options {
-        std::string out; // UTF-8, as all texts of the command line
-        std::vector<std::string> pictures;
-    };
-    const auto options = std::make_shared<Options>();
-    command.add_option("--out", options->out, "Where to write the sheet")->type_name("FILE")->required();
-    command.add_option("PICTURE", options->pictures, "PNG files")->required();
-    return [options](const FamilyFiles& /*family*/) { return Montage(options->pictures, options->out); };
 }

@@ -101,15 +101,6 @@ void SetOption(OptionFeatures& options, const std::string& assignment) {
     options.settings[static_cast<size_t>(feature)] = item;
 }
 
-std::shared_ptr<std::vector<std::string>> AddSetOption(CLI::App& command) {
-    auto assignments = std::make_shared<std::vector<std::string>>();
-    command.add_option("--set", *assignments, "Sets an option feature, such as OpInTray3=DisOpInTray3")
-        ->type_name("FEATURE=ITEM")
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    return assignments;
-}
-
 void TakeReportedOption(OptionFeatures& options, const char* featureKey, const char* itemKey) {
     const int32_t feature = FindFeature(options.features.data(), featureKey);
     if (feature < 0)
@@ -145,11 +136,11 @@ void AddMachine(OptionFeatures& options, const std::string& name) {
 }
 
 Document OptionsDocument(const OptionFeatures& options) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (size_t i = 0; i < options.settings.size(); ++i) {
         const ItemRecord* item =
             SelectedItem(options.features.data(), options.settings.data(), static_cast<int32_t>(i));
-        rows.push_back({
+        rows.Add({
             {"feature", Utf8(options.features[i].feature.head.key)},
             {"item", item == nullptr ? Document() : Document(Utf8(item->head.key))},
             {"name", item == nullptr ? Document() : Document(Utf8(item->display))},

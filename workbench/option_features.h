@@ -7,7 +7,7 @@
 #include "family_files.h"
 #include "picture/feature_table.h"
 
-#include <CLI/CLI.hpp>
+#include <memory>
 #include <vector>
 
 struct OptionFeatures {
@@ -21,9 +21,6 @@ OptionFeatures ReadOptionFeatures(const FamilyFiles& family);
 
 // Applies "FEATURE=ITEM" (letter case ignored). Throws Failure that names what is possible.
 void SetOption(OptionFeatures& options, const std::string& assignment);
-
-// The option --set of a command: what it gives, in the order of the line, each for SetOption.
-std::shared_ptr<std::vector<std::string>> AddSetOption(CLI::App& command);
 
 // Puts the item in force that a printer reports; a feature or item that the model doesn't have changes
 // nothing.

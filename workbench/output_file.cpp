@@ -4,6 +4,8 @@
 #include "document.h"
 #include "output.h"
 
+#include <utility>
+
 namespace {
 
 // A file beside the final one, which is removed unless it takes that one's place. Its functions are false,

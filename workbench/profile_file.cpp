@@ -3,6 +3,7 @@
 
 #include "document.h"
 #include "input_file.h"
+#include "json_form.h"
 #include "output.h"
 #include "paramdata/text.h"
 
@@ -21,9 +22,9 @@ constexpr struct {
 
 // Each throws when the value is of the wrong kind.
 void TakeText(const std::string& place, const Document& value, wchar_t (&text)[kMostUnits + 1]) {
-    if (!value.is_string())
-        throw Failure(kExitFailed, place + ": " + value.dump() + " is no text");
-    const std::wstring wide = Wide(value.get<std::string>());
+    if (!value.IsText())
+        throw Failure(kExitFailed, place + ": " + JsonForm(value) + " is no text");
+    const std::wstring wide = Wide(value.Text());
     if (wide.size() > kMostUnits)
         throw Failure(kExitFailed, place + ": the text has " + std::to_string(wide.size())
                                        + " UTF-16 units; shorten it to " + std::to_string(kMostUnits));
@@ -39,11 +40,11 @@ void TakeName(const std::string& place, const Document& value, ProfileEntry& ent
 }
 
 void TakeLocation(const std::string& place, const Document& value, ProfileEntry& entry) {
-    if (!value.is_number_unsigned() || value.get<uint64_t>() > UINT32_MAX)
-        throw Failure(kExitFailed, place + ": " + value.dump()
+    if (!value.IsInteger() || value.Integer() < 0 || value.Integer() > UINT32_MAX)
+        throw Failure(kExitFailed, place + ": " + JsonForm(value)
                                        + " is no location; possible: the value of a Prof_Location item, such "
                                          "as 4");
-    entry.location = value.get<uint32_t>();
+    entry.location = static_cast<uint32_t>(value.Integer());
 }
 
 constexpr struct {
@@ -68,40 +69,32 @@ const Row& FindRow(const Row (&rows)[N], const std::string& place, const std::st
 }
 
 ProfileEntry TakeEntry(const std::string& place, const Document& value) {
-    if (!value.is_object())
+    if (!value.IsObject())
         throw Failure(kExitFailed,
-                      place + ": " + value.dump() + " is no profile; possible: {\"name\": TEXT}");
+                      place + ": " + JsonForm(value) + " is no profile; possible: {\"name\": TEXT}");
     ProfileEntry entry = {};
-    for (const auto& field : value.items())
-        FindRow(kFields, place, field.key()).take(place + "." + field.key(), field.value(), entry);
+    for (const auto& field : value.Fields())
+        FindRow(kFields, place, field.name).take(place + "." + field.name, field.value, entry);
     if (entry.name[0] == 0)
         throw Failure(kExitFailed, place + ": lacks its name");
     return entry;
-}
-
-Document Parse(const std::string& path) {
-    try {
-        return Document::parse(ReadTextFile(path, "--profiles"));
-    } catch (const Document::parse_error& error) {
-        throw Failure(kExitFailed, path + ": not JSON: " + error.what());
-    }
 }
 
 } // namespace
 
 PrinterProfiles ReadPrinterProfiles(const std::string& path) {
     PrinterProfiles profiles;
-    const Document document = Parse(path);
-    if (!document.is_object())
+    const Document document = ParseJson(ReadTextFile(path, "--profiles"), path);
+    if (!document.IsObject())
         throw Failure(kExitFailed, path + ": holds no lists; possible: {\"rgbSources\": [...]}");
-    for (const auto& list : document.items()) {
-        const auto& row = FindRow(kLists, path, list.key());
-        if (!list.value().is_array())
-            throw Failure(kExitFailed, path + ": " + list.key() + ": is no list; possible: [...]");
-        for (size_t i = 0; i < list.value().size(); ++i)
-            (profiles.*row.entries)
-                .push_back(
-                    TakeEntry(path + ": " + list.key() + "[" + std::to_string(i) + "]", list.value()[i]));
+    for (const auto& list : document.Fields()) {
+        const auto& row = FindRow(kLists, path, list.name);
+        const std::string place = path + ": " + list.name;
+        if (!list.value.IsList())
+            throw Failure(kExitFailed, place + ": is no list; possible: [...]");
+        const Document::List& entries = list.value.Elements();
+        for (size_t i = 0; i < entries.size(); ++i)
+            (profiles.*row.entries).push_back(TakeEntry(place + "[" + std::to_string(i) + "]", entries[i]));
     }
     return profiles;
 }

@@ -25,7 +25,7 @@ Document SuppliesDocument(const Supplies& supplies) {
         char color[8];
         snprintf(color, sizeof(color), "#%02x%02x%02x", GetRValue(supplies[i].color),
                  GetGValue(supplies[i].color), GetBValue(supplies[i].color));
-        rows[i]["color"] = supplies[i].state == kStatePercent ? Document(color) : Document();
+        rows.Elements()[i]["color"] = supplies[i].state == kStatePercent ? Document(color) : Document();
     }
     return rows;
 }
@@ -46,7 +46,9 @@ Document Profiles(const FamilyFiles& family, const std::string& agent) {
     return lists;
 }
 
-Document Query(const FamilyFiles& family, const std::string& agent) {
+} // namespace
+
+Document AskBySnmp(const FamilyFiles& family, const std::string& agent) {
     CheckSnmpRoad(family, agent);
     return {
         {"printer", {{"address", agent}}},
@@ -55,12 +57,4 @@ Document Query(const FamilyFiles& family, const std::string& agent) {
         {"overlays", Overlays(family, agent)},
         {"profiles", Profiles(family, agent)},
     };
-}
-
-} // namespace
-
-Run SetUpQuery(CLI::App& command) {
-    const auto agent = std::make_shared<std::string>();
-    command.add_option("ADDRESS", *agent, "IPv4 address or host name of the printer")->required();
-    return [agent](const FamilyFiles& family) { return Query(family, *agent); };
 }

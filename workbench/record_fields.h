@@ -64,11 +64,11 @@ void AddFields(const Field (&fields)[N], const void* record, Document& to) {
 
 template <typename Record, size_t N>
 Document RowsDocument(const std::vector<Record>& records, const Field (&fields)[N]) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (const Record& record : records) {
         Document row;
         AddFields(fields, &record, row);
-        rows.push_back(row);
+        rows.Add(row);
     }
     return rows;
 }
@@ -79,14 +79,14 @@ template <typename Record, size_t N>
 Document ListDocument(const Record* list, const Field (&fields)[N]) {
     if (list == nullptr)
         return nullptr;
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (; list->head.key[0] != 0; ++list) {
         Document row = {
             {"key", ToDocument(list->head.key)},
             {"value", static_cast<int32_t>(list->head.value)}, // -1 is "unknown"
         };
         AddFields(fields, list, row);
-        rows.push_back(row);
+        rows.Add(row);
     }
     return rows;
 }

@@ -3,8 +3,6 @@
 #include "output.h"
 #include "property_sheet/sheet_window.h"
 
-namespace {
-
 Document RunSheet(const FamilyFiles& family, const std::string& file) {
     const Library templates = OpenTemplates(family);
     SheetState state(family, templates.get());
@@ -14,12 +12,4 @@ Document RunSheet(const FamilyFiles& family, const std::string& file) {
     SheetWindow sheet(state);
     while (sheet.HandleMessages()) {}
     return {{"settings", {{"keptIn", state.file.u8string()}}}};
-}
-
-} // namespace
-
-Run SetUpRun(CLI::App& command) {
-    const auto file = std::make_shared<std::string>();
-    command.add_option("--state", *file, "Where settings are kept (a file of the user's)")->type_name("FILE");
-    return [file](const FamilyFiles& family) { return RunSheet(family, *file); };
 }

@@ -153,7 +153,7 @@ const uint8_t* At(const OemDevmode& settings, size_t offset) {
 
 void AddChange(Document& changes, const Document& name, size_t offset, const Document& before,
                const Document& after) {
-    changes.push_back({{"name", name}, {"offset", offset}, {"before", before}, {"after", after}});
+    changes.Add({{"name", name}, {"offset", offset}, {"before", before}, {"after", after}});
 }
 
 } // namespace
@@ -167,7 +167,7 @@ Document ShowSetting(const SettingsField& field, const OemDevmode& settings) {
 }
 
 Document SettingsChanges(const OemDevmode& before, const OemDevmode& after) {
-    Document changes = Document::array();
+    Document changes = Document::MakeList();
     std::bitset<sizeof(OemDevmode)> named;
     for (const SettingsField& field : kFields) {
         for (size_t i = 0; i < field.bytes; ++i)

@@ -10,7 +10,7 @@ namespace {
 template <auto kField>
 Document ShowKey(const void* record) {
     const Document key = Show<kField>(record);
-    return key == "" ? Document() : key;
+    return key.Text().empty() ? Document() : key;
 }
 
 constexpr Field kTrayFields[] = {
@@ -24,8 +24,10 @@ constexpr Field kTrayFields[] = {
     {"hole", ShowKey<&InputTrayStatusItem::hole>},
 };
 
+} // namespace
+
 // A question that depends on one that was answered by no is not asked: null.
-Document Status(const FamilyFiles& family, const std::string& agent) {
+Document AskByLibrary(const FamilyFiles& family, const std::string& agent) {
     const LibraryRoad road = TryLibraryRoad(family, agent);
     Document document;
     document["printer"] = {
@@ -43,12 +45,4 @@ Document Status(const FamilyFiles& family, const std::string& agent) {
         document["trays"] = RowsDocument(AskTraysByLibrary(family, agent), kTrayFields);
     }
     return document;
-}
-
-} // namespace
-
-Run SetUpStatus(CLI::App& command) {
-    const auto agent = std::make_shared<std::string>();
-    command.add_option("ADDRESS", *agent, "IPv4 address or host name of the printer")->required();
-    return [agent](const FamilyFiles& family) { return Status(family, *agent); };
 }

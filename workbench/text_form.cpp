@@ -44,19 +44,18 @@ std::string Title(const std::string& name) {
 }
 
 std::string Cell(const Document& value) {
-    if (value.is_null())
-        return "";
-    if (value.is_boolean())
-        return value.get<bool>() ? "yes" : "no";
-    if (value.is_string())
-        return value.get<std::string>();
-    if (!value.is_array())
-        return value.dump();
-    if (value.size() > kMostNumbers && value[0].is_number())
-        return "(" + std::to_string(value.size()) + " numbers)";
+    if (value.IsBool())
+        return value.Bool() ? "yes" : "no";
+    if (value.IsInteger())
+        return std::to_string(value.Integer());
+    if (value.IsText())
+        return value.Text();
+    const Document::List& elements = value.Elements();
+    if (elements.size() > kMostNumbers && elements[0].IsNumber())
+        return "(" + std::to_string(elements.size()) + " numbers)";
     std::string text;
-    for (const Document& element : value)
-        text += (text.empty() ? "" : value[0].is_array() ? ", " : " ") + Cell(element);
+    for (const Document& element : elements)
+        text += (text.empty() ? "" : element.IsList() ? ", " : " ") + Cell(element);
     return text;
 }
 
@@ -75,10 +74,10 @@ bool IsBlank(const std::string& text) {
 Column MakeColumn(const Document& rows, const std::string& field) {
     Column column = {Title(field)};
     bool right = true; // numbers are aligned on the right
-    for (const Document& row : rows) {
-        const Document& value = row.at(field);
+    for (const Document& row : rows.Elements()) {
+        const Document& value = row[field];
         column.push_back(Cell(value));
-        right = right && (value.is_number() || value.is_null());
+        right = right && (value.IsNumber() || value.IsNull());
     }
     size_t width = 0;
     for (const std::string& cell : column)
@@ -90,8 +89,8 @@ Column MakeColumn(const Document& rows, const std::string& field) {
 
 std::vector<Column> MakeColumns(const Document& rows) {
     std::vector<Column> columns;
-    for (const auto& field : rows[0].items()) {
-        Column column = MakeColumn(rows, field.key());
+    for (const auto& field : rows.Elements()[0].Fields()) {
+        Column column = MakeColumn(rows, field.name);
         if (!std::all_of(column.begin() + 1, column.end(), IsBlank))
             columns.push_back(std::move(column));
     }
@@ -135,7 +134,7 @@ std::string Page(const std::vector<std::string>& lines) {
 }
 
 std::string Table(const Document& rows) {
-    if (rows.empty())
+    if (rows.Elements().empty())
         return "";
     const std::vector<Column> columns = MakeColumns(rows);
     std::string text;
@@ -148,29 +147,31 @@ std::string Table(const Document& rows) {
 
 std::string Pairs(const Document& object) {
     size_t width = 0;
-    for (const auto& field : object.items())
-        width = std::max(width, Width(Title(field.key())));
+    for (const auto& field : object.Fields())
+        width = std::max(width, Width(Title(field.name)));
     std::string text;
-    for (const auto& field : object.items())
-        text += WithoutEnd(kIndent + Padded(Title(field.key()), width, false) + kGap + Cell(field.value()))
-                + "\n";
+    for (const auto& field : object.Fields())
+        text +=
+            WithoutEnd(kIndent + Padded(Title(field.name), width, false) + kGap + Cell(field.value)) + "\n";
     return text;
 }
 
-bool IsTable(const Document& value) {
-    return value.is_null() || (value.is_array() && (value.empty() || value[0].is_object()));
+bool IsTable(const Document::Field& field) {
+    const Document::List& rows = field.value.Elements();
+    return field.value.IsNull() || (field.value.IsList() && (rows.empty() || rows[0].IsObject()));
 }
 
 std::string Section(const std::string& name, const Document& value) {
-    if (value.is_null())
+    if (value.IsNull())
         return Title(name) + ": none\n\n";
-    if (value.is_array())
-        return Title(name) + " (" + std::to_string(value.size()) + ")\n" + Table(value) + "\n";
-    if (!std::all_of(value.begin(), value.end(), IsTable))
+    if (value.IsList())
+        return Title(name) + " (" + std::to_string(value.Elements().size()) + ")\n" + Table(value) + "\n";
+    const Document::Object& fields = value.Fields();
+    if (!std::all_of(fields.begin(), fields.end(), IsTable))
         return Title(name) + "\n" + Pairs(value) + "\n";
     std::string text;
-    for (const auto& table : value.items())
-        text += Section(table.key(), table.value());
+    for (const Document::Field& table : fields)
+        text += Section(table.name, table.value);
     return text;
 }
 
@@ -178,8 +179,8 @@ std::string Section(const std::string& name, const Document& value) {
 
 std::string TextForm(const Document& document) {
     std::string text;
-    for (const auto& section : document.items())
-        text += Section(section.key(), section.value());
+    for (const auto& section : document.Fields())
+        text += Section(section.name, section.value);
     text.pop_back(); // the empty line behind the last section
     return text;
 }

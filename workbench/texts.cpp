@@ -62,15 +62,15 @@ static_assert(std::size(kColumnRules) + 1 == std::size(mediaTypeColumns));
 // Without the unused places, which are 0.
 Document Identifiers(const ControlTextRecord& row) {
     Document identifiers = Show<&ControlTextRecord::identifiers>(&row);
-    while (identifiers.back() == 0)
-        identifiers.erase(identifiers.size() - 1);
+    while (identifiers.Elements().back().Integer() == 0)
+        identifiers.Elements().pop_back();
     return identifiers;
 }
 
 Document ControlTexts(const ControlTextRecord* row) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (; row->key[0] != 0; ++row)
-        rows.push_back({
+        rows.Add({
             {"identifiers", Identifiers(*row)},
             {"key", ToDocument(row->key)},
             {"text", Show<&ControlTextRecord::display>(row)},
@@ -95,9 +95,9 @@ Document MediaTypes() {
 }
 
 Document Columns(const DeviceTable& table) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (size_t i = 0; i < std::size(kColumnRules); ++i)
-        rows.push_back({
+        rows.Add({
             {"key", mediaTypeColumns[i].key},
             {"title", ToDocument(mediaTypeColumns[i].title)},
             {"shown", kColumnRules[i] == nullptr || kColumnRules[i](&table) != 0},
@@ -105,7 +105,9 @@ Document Columns(const DeviceTable& table) {
     return rows;
 }
 
-Document Texts(const FamilyFiles& family) {
+} // namespace
+
+Document ShowTexts(const FamilyFiles& family) {
     Document document;
     document["files"] = FamilyDocument(family);
     for (const auto& table : kControlTexts)
@@ -115,10 +117,4 @@ Document Texts(const FamilyFiles& family) {
     document["mediaTypeLists"] = MediaTypes();
     document["mediaTypeColumns"] = Columns(*family.table);
     return document;
-}
-
-} // namespace
-
-Run SetUpTexts(CLI::App& /*command*/) {
-    return Texts;
 }

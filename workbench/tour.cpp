@@ -11,23 +11,16 @@ namespace {
 
 constexpr DWORD kLongestWait = 60000; // milliseconds, for a printer's answers
 
-struct Options {
-    std::string out; // UTF-8, as all texts of the command line
-    std::string from;
-    std::string state;
-    bool resets = false;
-};
-
 struct Tour {
     SheetState& state;
     SheetUser& user;
     PageDriver driver;
     std::filesystem::path folder;
     std::string status = {}; // of asking the printer
-    Document pictures = Document::array();
+    Document pictures = Document::MakeList();
 
     void Picture(const std::string& name) {
-        pictures.push_back(driver.Picture((folder / (name + ".png")).u8string()));
+        pictures.Add(driver.Picture((folder / (name + ".png")).u8string()));
     }
 };
 
@@ -68,7 +61,9 @@ void VisitVersion(Tour& tour, bool resets) {
         tour.driver.Click(ID_RESET);
 }
 
-Document RunTour(const FamilyFiles& family, const Options& options) {
+} // namespace
+
+Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
     const Library templates = OpenTemplates(family);
     SheetState state(family, templates.get());
     SheetUser user;
@@ -91,17 +86,4 @@ Document RunTour(const FamilyFiles& family, const Options& options) {
         {"options", OptionsDocument(state.options)},
         {"changes", SettingsChanges(defaultSettings, state.settings)},
         {"trays", PapersDocument(state.papers)}};
-}
-
-} // namespace
-
-Run SetUpTour(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
-    command.add_option("--out", options->out, "Folder for the pictures")->type_name("DIR")->required();
-    command.add_option("--from", options->from, "Asks this printer (IPv4 address or host name)")
-        ->type_name("ADDRESS");
-    command.add_option("--state", options->state, "Where settings are kept; otherwise nowhere")
-        ->type_name("FILE");
-    command.add_flag("--reset", options->resets, "Puts everything back at the end");
-    return [options](const FamilyFiles& family) { return RunTour(family, *options); };
 }

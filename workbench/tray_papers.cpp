@@ -81,30 +81,30 @@ TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent) {
 }
 
 Document PaperChanges(const TrayPapers& before, const TrayPapers& after) {
-    Document changes = Document::array();
+    Document changes = Document::MakeList();
     for (size_t tray = 0; tray < after.size(); ++tray)
         for (size_t i = 0; i < kMediaTypeListCount; ++i) {
             const int32_t was = LoadAttribute(before[tray], trayAttributes[i]);
             const int32_t is = LoadAttribute(after[tray], trayAttributes[i]);
             if (was != is)
-                changes.push_back({{"tray", KeyOf(after[tray])},
-                                   {"attribute", kAttributes[i].name},
-                                   {"before", NameOf(i, was)},
-                                   {"after", NameOf(i, is)},
-                                   {"value", is}});
+                changes.Add({{"tray", KeyOf(after[tray])},
+                             {"attribute", kAttributes[i].name},
+                             {"before", NameOf(i, was)},
+                             {"after", NameOf(i, is)},
+                             {"value", is}});
         }
     return changes;
 }
 
 Document PapersDocument(const TrayPapers& papers) {
-    Document rows = Document::array();
+    Document rows = Document::MakeList();
     for (const TrayPaperSetting& paper : papers) {
         if (paper.key[0] == 0)
             continue;
         Document row = {{"tray", KeyOf(paper)}, {"bin", paper.bin}};
         for (size_t i = 0; i < kMediaTypeListCount; ++i)
             row[kAttributes[i].name] = NameOf(i, LoadAttribute(paper, trayAttributes[i]));
-        rows.push_back(row);
+        rows.Add(row);
     }
     return rows;
 }

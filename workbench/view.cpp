@@ -8,22 +8,10 @@
 #include "printer_scene.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace {
 
 constexpr LONG kLargestSide = 4096; // pixels
-
-struct Options {
-    std::string out; // UTF-8, as all texts of the command line
-    std::string size = "200x200";
-    std::shared_ptr<std::vector<std::string>> assignments;
-    std::optional<std::string> tray;
-    std::vector<int> outputFlags;
-    bool machineOnly = false;
-    std::optional<std::string> from;
-    std::optional<std::string> machine;
-};
 
 // The number of pixels that the text starts with; what is behind it stays. 0 when there is none.
 LONG TakeSide(std::string& text) {
@@ -77,7 +65,9 @@ Document TakeOptionsFrom(const FamilyFiles& family, const std::string& agent, Op
     return {{"address", agent}, {"road", device.road}};
 }
 
-Document View(const FamilyFiles& family, const Options& options) {
+} // namespace
+
+Document DrawView(const FamilyFiles& family, const ViewOptions& options) {
     const SIZE size = ParseSize(options.size);
     PrinterScene scene = {ReadOptionFeatures(family), !options.machineOnly, {}, options.outputFlags};
     if (options.tray)
@@ -87,7 +77,7 @@ Document View(const FamilyFiles& family, const Options& options) {
         printer = TakeOptionsFrom(family, *options.from, scene.options);
     if (options.machine)
         AddMachine(scene.options, *options.machine);
-    for (const std::string& assignment : *options.assignments)
+    for (const std::string& assignment : options.assignments)
         SetOption(scene.options, assignment);
 
     const Canvas canvas(size);
@@ -95,38 +85,13 @@ Document View(const FamilyFiles& family, const Options& options) {
     Document picture = WritePicture(canvas, options.out);
     picture["paperPath"] = scene.showsPaperPath;
     picture["tray"] = scene.tray.empty() ? Document() : Document(scene.tray);
-    picture["outputFlags"] = scene.outputFlags;
+    Document& flags = picture["outputFlags"] = Document::MakeList();
+    for (const int flag : scene.outputFlags)
+        flags.Add(flag);
     return {
         {"files", FamilyDocument(family)},
         {"printer", printer},
         {"options", OptionsDocument(scene.options)},
         {"picture", picture},
     };
-}
-
-} // namespace
-
-Run SetUpView(CLI::App& command) {
-    const auto options = std::make_shared<Options>();
-    command.add_option("--out", options->out, "Where to write the picture")->type_name("FILE")->required();
-    command.add_option("--size", options->size, "Of the picture in pixels (200x200)")->type_name("WxH");
-    options->assignments = AddSetOption(command);
-    command
-        .add_option("--from", options->from,
-                    "Takes the options that the printer at this address reports; --set wins")
-        ->type_name("ADDRESS");
-    command
-        .add_option("--machine", options->machine,
-                    "Offers a second machine of this name and selects it, so that its name appears")
-        ->type_name("NAME");
-    command.add_option("--tray", options->tray, "The paper source in use, such as InTray1")->type_name("KEY");
-    command
-        .add_option("--output-flag", options->outputFlags,
-                    "Marks an output destination as in use, 1 to 9; may be repeated")
-        ->type_name("N")
-        ->check(CLI::Range(kFirstOutputFlag, kLastOutputFlag).description(""))
-        ->expected(1)
-        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    command.add_flag("--machine-only", options->machineOnly, "Leaves out the paper's way");
-    return [options](const FamilyFiles& family) { return View(family, *options); };
 }

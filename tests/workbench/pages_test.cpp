@@ -1,6 +1,7 @@
 // The property sheet in this process, on a screen and beside simulated printers: what its pages do at once,
 // and what a printer's answers, their lack and a full disk make of them.
 #include "dialog_view.h"
+#include "json_form.h"
 #include "picture_file.h"
 #include "property_sheet/page_driver.h"
 #include "property_sheet/page_ids.h"
@@ -50,10 +51,14 @@ struct Sheet : testing::Test {
     }
 
     std::string ItemOf(const std::string& feature) const {
-        for (const Document& row : OptionsDocument(state.options))
-            if (row["feature"] == feature)
-                return row["item"];
+        for (const Document& row : OptionsDocument(state.options).Elements())
+            if (row["feature"].Text() == feature)
+                return row["item"].Text();
         return "none";
+    }
+
+    std::string PaperType(size_t tray) const {
+        return PapersDocument(state.papers).Elements().at(tray)["type"].Text();
     }
 
     // What a control shows on the screen.
@@ -127,14 +132,14 @@ TEST_F(Sheet, ShowsWhatAPrinterTells) {
         EXPECT_EQ(RGB(pixel[2], pixel[1], pixel[0]) & 0xFFFFFF, colors[i]) << "bar " << i;
     }
     EXPECT_EQ(Lines(driver.Control(ID_STORED)).at(0), "Overlay: Company letterhead");
-    EXPECT_EQ(PapersDocument(state.papers)[3]["type"], "Thick 1");
+    EXPECT_EQ(PaperType(3), "Thick 1");
     EXPECT_EQ(ItemOf("OpOutTrayUnit"), "OpOutTrayUnit1");
 
     // Of another printer nothing of this one's stays.
     EXPECT_EQ(Ask("127.0.162.2"), "Told by 127.0.162.2 (bidirectional library).");
     EXPECT_EQ(Lines(supplies).at(1), "Magenta toner: 4 %");
     EXPECT_EQ(ItemOf("OpOutTrayUnit"), "DisOpOutTrayUnit");
-    EXPECT_EQ(PapersDocument(state.papers)[3]["type"], "Unknown"); // there is no such tray
+    EXPECT_EQ(PaperType(3), "Unknown"); // there is no such tray
     EXPECT_NE(Ask("127.0.162.9").find("no device answers"), std::string::npos);
     EXPECT_EQ(SendMessageW(supplies, LB_GETCOUNT, 0, 0), 0);
     driver.TurnTo(kPaperPage);
@@ -189,7 +194,7 @@ TEST_F(Sheet, StaysOpenWhenNothingCanBeKept) {
     SheetState next(Family(), templates.get());
     next.file = state.file;
     EXPECT_EQ(LoadState(next), "");
-    EXPECT_EQ(OptionsDocument(next.options), OptionsDocument(state.options));
+    EXPECT_EQ(JsonForm(OptionsDocument(next.options)), JsonForm(OptionsDocument(state.options)));
 }
 
 TEST_F(Sheet, DialogsWorkOnCopies) {

@@ -37,11 +37,11 @@ private:
         for (const PaperChoice& choice : kChoices)
             ShowChoice(choice);
         std::vector<std::vector<std::string>> rows;
-        for (const Document& paper : PapersDocument(state.papers)) {
+        for (const Document& paper : PapersDocument(state.papers).Elements()) {
             std::vector<std::string> row;
-            for (const auto& cell : paper.items())
-                if (cell.key() != "bin")
-                    row.push_back(cell.value().is_string() ? cell.value().get<std::string>() : "");
+            for (const auto& cell : paper.Fields())
+                if (cell.name != "bin")
+                    row.push_back(cell.value.IsText() ? cell.value.Text() : "");
             row[0] = NameOfSource(row[0]);
             rows.push_back(row);
         }

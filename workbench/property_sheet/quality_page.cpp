@@ -2,6 +2,7 @@
 #include "page_ids.h"
 #include "property_page.h"
 
+#include "../json_form.h"
 #include "../settings_fields.h"
 #include "paramdata/default_settings.h"
 #include "paramdata/devmode_fields.h"
@@ -23,7 +24,7 @@ uint32_t ColorDialogOf(const DeviceTable& table) {
 }
 
 std::string Shown(const Document& value) {
-    return value.is_string() ? value.get<std::string>() : value.dump();
+    return value.IsText() ? value.Text() : JsonForm(value);
 }
 
 class QualityPage : public PropertyPage {
@@ -37,7 +38,7 @@ private:
         SetText(ID_VARIANT, "This model's colour dialog is number "
                                 + std::to_string(ColorDialogOf(*state.family.table)) + ".");
         std::vector<std::vector<std::string>> rows;
-        for (const Document& change : SettingsChanges(defaultSettings, state.settings))
+        for (const Document& change : SettingsChanges(defaultSettings, state.settings).Elements())
             rows.push_back({Shown(change["name"]), Shown(change["before"]), Shown(change["after"])});
         SetRows(ID_CHANGED, rows);
         EnableWindow(Control(ID_DEFAULTS), !rows.empty());

@@ -3,10 +3,13 @@
 #include "sheet_state.h"
 
 #include "../input_file.h"
+#include "../json_form.h"
 #include "../output.h"
 #include "../output_file.h"
 #include "paramdata/default_settings.h"
 #include "paramdata/text.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -27,7 +30,7 @@ std::string Hex(const void* record, size_t size) {
 
 // Leaves the record as it was when the text is not its digits.
 void TakeHex(const Document& text, void* record, size_t size) {
-    const std::string digits = text.is_string() ? text.get<std::string>() : "";
+    const std::string digits = text.IsText() ? text.Text() : "";
     if (digits.size() != 2 * size || digits.find_first_not_of("0123456789abcdef") != std::string::npos)
         return;
     for (size_t i = 0; i < size; ++i)
@@ -36,24 +39,18 @@ void TakeHex(const Document& text, void* record, size_t size) {
 }
 
 void TakeText(const Document& from, std::string& text) {
-    if (from.is_string())
-        text = from.get<std::string>();
-}
-
-Document Find(const Document& from, const char* name) {
-    return from.is_object() && from.contains(name) ? from[name] : Document();
+    if (from.IsText())
+        text = from.Text();
 }
 
 void TakeKept(const Document& kept, SheetState& state) {
-    TakeHex(Find(kept, "settings"), &state.settings, sizeof(state.settings));
-    TakeHex(Find(kept, "trays"), state.papers.data(), sizeof(state.papers));
-    TakeText(Find(kept, "address"), state.address);
-    TakeText(Find(kept, "toldBy"), state.toldBy);
-    const Document options = Find(kept, "options");
-    for (const auto& option : options.items())
-        if (option.value().is_string())
-            TakeReportedOption(state.options, option.key().c_str(),
-                               option.value().get<std::string>().c_str());
+    TakeHex(kept["settings"], &state.settings, sizeof(state.settings));
+    TakeHex(kept["trays"], state.papers.data(), sizeof(state.papers));
+    TakeText(kept["address"], state.address);
+    TakeText(kept["toldBy"], state.toldBy);
+    for (const auto& option : kept["options"].Fields())
+        if (option.value.IsText())
+            TakeReportedOption(state.options, option.name.c_str(), option.value.Text().c_str());
 }
 
 // What the printer calls first is the name, the second is a file's.
@@ -87,10 +84,10 @@ std::string LoadState(SheetState& state) {
     if (!std::filesystem::exists(state.file))
         return {};
     const std::string text = ReadTextFile(state.file.u8string(), kOption);
-    const Document kept = Document::parse(text, nullptr, false);
-    if (!kept.is_discarded()) {
-        TakeKept(kept, state);
+    try {
+        TakeKept(ParseJson(text, state.file.u8string()), state);
         return {};
+    } catch (const Failure&) { // put aside below
     }
     std::filesystem::path aside = state.file;
     aside += L".damaged";
@@ -111,11 +108,11 @@ void SaveState(SheetState& state) {
     if (state.file.empty() || !state.hasChanges)
         return;
     Document kept = {{"address", state.address}, {"toldBy", state.toldBy}};
-    for (const Document& row : OptionsDocument(state.options))
-        kept["options"][row["feature"].get<std::string>()] = row["item"];
+    for (const Document& row : OptionsDocument(state.options).Elements())
+        kept["options"][row["feature"].Text()] = row["item"];
     kept["trays"] = Hex(state.papers.data(), sizeof(state.papers));
     kept["settings"] = Hex(&state.settings, sizeof(state.settings));
-    WriteOutputFile(state.file, kept.dump(1) + "\n", kOption);
+    WriteOutputFile(state.file, JsonForm(kept, 1) + "\n", kOption);
     state.hasChanges = false;
 }
 

@@ -1,0 +1,13 @@
+// The JSON form of a document: the one place that uses the JSON library.
+#ifndef WORKBENCH_JSON_FORM_H
+#define WORKBENCH_JSON_FORM_H
+
+#include "document.h"
+
+// `indent` is the number of blanks for each level; without it all is on one line.
+std::string JsonForm(const Document& document, int indent = -1);
+
+// Throws Failure, which begins with `name`, the file's, and gives line and column, when the text is not JSON.
+Document ParseJson(const std::string& text, const std::string& name);
+
+#endif
