@@ -3,6 +3,7 @@
 #include "workbench/workbench_run.h"
 
 #include <algorithm>
+#include <fstream>
 #include <objidl.h> // before GDI+
 
 #include <gdiplus.h>
@@ -187,7 +188,7 @@ TEST(WorkbenchDialog, SaysWhatIsWrong) {
         {"--profiles", longName, 1, "wrong: simulations\\[0\\].name: .*41 .* 40\n"},
         {"--profiles", R"({"rgbSources": [{"name": ""}]})", 1, "wrong: rgbSources\\[0\\]: lacks its name"},
         {"--profiles", R"({"cmyk": []})", 1, "'cmyk'; possible: rgbSources, simulations, destinations"},
-        {"--profiles", "{", 1, "wrong: not JSON: .*line 1, column 2"},
+        {"--profiles", "{", 1, "wrong: not JSON; see line 1, column 2\n"},
     };
     for (const auto& c : cases)
         ExpectFailure(L"dialog 128 " + fs::path(c.option).wstring() + folder.Write("wrong", c.file),

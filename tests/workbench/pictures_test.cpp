@@ -3,6 +3,7 @@
 #include "workbench/workbench_run.h"
 
 #include <algorithm>
+#include <fstream>
 
 namespace {
 
@@ -87,8 +88,7 @@ TEST(WorkbenchPictures, ViewTakesTheOptionsOfAPrinterOverEitherRoad) {
             const Result result =
                 RunWorkbench(L"view --json" + options + pictures.Out(L"view.png"), c.folder);
             EXPECT_EQ(result.exitCode, 0) << result.errors;
-            return std::make_pair(Json::parse(result.output, nullptr, false),
-                                  Contents(pictures.path / "view.png"));
+            return std::make_pair(ParseJson(result.output), Contents(pictures.path / "view.png"));
         };
         const std::string plain = view(L"").second;
         const auto [asked, picture] = view(L" --from 127.0.162.1");

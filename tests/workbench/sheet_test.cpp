@@ -2,6 +2,7 @@
 // tests look at what has come of it.
 #include "workbench/workbench_run.h"
 
+#include <fstream>
 #include <regex>
 
 namespace {
@@ -73,7 +74,7 @@ TEST(WorkbenchSheet, SaysHowAPrinterIsAskedOrWhyNot) {
                                                       {"TELMAR_U.DLL", "TELMAR_U.DLL"}});
     const Result bySnmp = RunWorkbench(L"tour --json --from 127.0.162.1 --out" + folder.Out(), lacking.path);
     ASSERT_EQ(bySnmp.exitCode, 0) << bySnmp.errors;
-    EXPECT_EQ(Json::parse(bySnmp.output)["printer"]["status"], "Told by 127.0.162.1 (SNMP).");
+    EXPECT_EQ(ParseJson(bySnmp.output)["printer"]["status"], "Told by 127.0.162.1 (SNMP).");
 }
 
 TEST(WorkbenchSheet, TakesWhatFitsOfAKeptFile) {

@@ -38,7 +38,7 @@ TEST(Workbench, ShowsTheDefaultSettings) {
     };
     for (const auto& w : wanted) {
         const Json& rows = defaults[w.group];
-        EXPECT_NE(std::find(rows.begin(), rows.end(), Json::parse(w.row)), rows.end()) << w.row << rows;
+        EXPECT_NE(std::find(rows.begin(), rows.end(), ParseJson(w.row)), rows.end()) << w.row << rows;
     }
 }
 
@@ -204,7 +204,7 @@ TEST(Workbench, SaysWhereTheBidirectionalLibraryIsLookedFor) {
     for (const Folder& folder : folders) {
         const Result result = RunWorkbench(L"status 127.0.162.1 --json", folder.path);
         EXPECT_EQ(result.exitCode, 0) << result.errors;
-        const Json status = Json::parse(result.output, nullptr, false);
+        const Json status = ParseJson(result.output);
         EXPECT_EQ(status["printer"]["libraryUsable"], false);
         EXPECT_EQ(status["printer"]["reached"], nullptr);
         EXPECT_EQ(status["options"], nullptr);
