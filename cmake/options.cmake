@@ -5,9 +5,25 @@ set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 
+option(TOOLS "Build the host's tools alone" OFF)
+set(HOST_TOOLS "${CMAKE_SOURCE_DIR}/build/host/bin" CACHE PATH "Folder of the host's tools, built by the preset 'tools'")
+if(TOOLS)
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${HOST_TOOLS}")
+elseif(NOT EXISTS "${HOST_TOOLS}/prmc")
+    message(FATAL_ERROR "The host's tools are missing in ${HOST_TOOLS}. Build them first: "
+                        "cmake --preset tools && cmake --build --preset tools")
+endif()
+
 option(SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(FUZZ "Build the fuzz targets (clang)" OFF)
 option(BENCH "Build the benchmarks" OFF)
+
+# With ccache what was compiled once is not compiled again, in another clone either.
+find_program(CCACHE ccache)
+if(CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=1
+        "${CCACHE}")
+endif()
 
 # No path of the machine ends up in a product, so that it is the same wherever it is built.
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
