@@ -105,8 +105,6 @@ TEST_F(Drawing, TextByItemData) {
         {1504, -1, L""},
         {1599, 0, L"Automatic"},
         {1584, 129, L"Press B (Coated) Built in, hard disk"},
-        {1584, 130, L""},
-        {1584, 127, L""},
         {1524, 5, L"DIC"},
         {1524, 129, L"Sim B (Q) "},
         {1524, 6, L""},
@@ -121,10 +119,6 @@ TEST_F(Drawing, TextByItemData) {
         EXPECT_TRUE(SamePicture(got, wanted));
     }
     failingAllocation = 1;
-    Draw(Item(1592, 128, ODA_DRAWENTIRE, 0));
-    WantBackground(COLOR_WINDOW);
-    EXPECT_TRUE(SamePicture(got, wanted));
-    context.profiles = nullptr;
     Draw(Item(1592, 128, ODA_DRAWENTIRE, 0));
     WantBackground(COLOR_WINDOW);
     EXPECT_TRUE(SamePicture(got, wanted));
@@ -264,10 +258,10 @@ TEST_F(RowDrawing, ColorsTextsAndIcons) {
 
 TEST_F(RowDrawing, IconsAreThoseOfTheUserInterfaceModule) {
     const auto images = reinterpret_cast<HIMAGELIST>(List(LVM_GETIMAGELIST, LVSIL_SMALL));
-    EXPECT_EQ(ImageList_GetImageCount(images), 2);
-    int width = 0, height = 0;
-    ImageList_GetIconSize(images, &width, &height);
-    EXPECT_EQ(std::pair(width, height), std::pair(16, 16));
+    IMAGEINFO info = {};
+    ImageList_GetImageInfo(images, 0, &info);
+    EXPECT_EQ(std::pair(info.rcImage.right, info.rcImage.bottom), std::pair(16L, 16L));
+    EXPECT_NE(info.hbmMask, nullptr);
     for (const int icon : {0, 1}) {
         HICON file =
             static_cast<HICON>(LoadImageW(GetModuleHandleW(L"TELMAR_U.DLL"), MAKEINTRESOURCEW(473 + icon),
@@ -320,13 +314,16 @@ TEST_F(RowDrawing, BoxEntriesAreTheirItems) {
 // What part of a row needs painting, the whole row is painted.
 DLGPROC moduleProcedure;
 RECT painted;
+bool isErased;
 INT_PTR CALLBACK NotePainting(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_DRAWITEM && wParam == kList)
         GetClipBox(reinterpret_cast<const DRAWITEMSTRUCT*>(lParam)->hDC, &painted);
+    isErased |= message == WM_ERASEBKGND;
     return moduleProcedure(dialog, message, wParam, lParam);
 }
 
 TEST_F(RowDrawing, PaintsWholeRows) {
+    List(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(CLR_NONE)); // erasing is left to the dialog
     ShowWindow(window, SW_SHOWNOACTIVATE);
     UpdateWindow(window);
     bounds = {LVIR_BOUNDS, 0, 0, 0};
@@ -339,6 +336,7 @@ TEST_F(RowDrawing, PaintsWholeRows) {
     EXPECT_EQ(painted.right, client.right);
     EXPECT_EQ(painted.top, part.top);
     EXPECT_EQ(painted.bottom, part.bottom);
+    EXPECT_FALSE(isErased) << "what is drawn over would flicker";
     procedure = moduleProcedure;
 }
 

@@ -29,6 +29,7 @@ TEST(TrayButton, RunsTheKindOfTheModelAndTellsOfItsOk) {
                                               {WM_COMMAND, 1847 | WPARAM{1} << 32},
                                               {WM_NOTIFY, 1847}})
             EXPECT_EQ(dialog.Ask(156, dialog.page, message, wParam, 0, &handled), (Answer{0, kUntouched}));
+        dialog.PressButton(false);
         EXPECT_EQ(dialog.uiLoads, loads);
         dialog.endCode = 1;
         dialog.missing = {"MyDialogBox"};
@@ -36,7 +37,6 @@ TEST(TrayButton, RunsTheKindOfTheModelAndTellsOfItsOk) {
         dialog.missing.clear();
         dialog.hasUiModule = false;
         dialog.PressButton();
-        dialog.PressButton(false);
         EXPECT_EQ(dialog.Events({"MyDialogBox", "told"}), "");
     }
 }
@@ -77,11 +77,6 @@ TEST(TrayDialogs, OpenInOrderWithTheFirstTray) {
         EXPECT_EQ(dialog.RowText(0), L"Tray 1|A3|Portrait|Plain paper|" + tail[&kind - kKinds] + L"0");
         EXPECT_EQ(dialog.RowText(6).substr(0, 27), L"Manual feed|A4|Portrait|Pla");
         EXPECT_EQ(dialog.Entries(1862).substr(0, 9), "Portrait=");
-        for (const int box : {1860, 1862, 1003}) // the item data is the record itself
-            EXPECT_EQ(NumberAt<uint32_t>(reinterpret_cast<void*>(dialog.Send(box, CB_GETITEMDATA, 0)), 36),
-                      box == 1860   ? 8u
-                      : box == 1862 ? 1u
-                                    : 257u);
         dialog.Tell(WM_COMMAND, IDCANCEL);
         EXPECT_EQ(Differences(dialog.records.bytes.data(), wanted), "");
     }
@@ -139,7 +134,7 @@ TEST(TrayDialogs, HideWhatTheModelLacks) {
             EXPECT_EQ(IsWindowEnabled(dialog.Control(control)) != FALSE, isShown) << control;
         }
     // The automatic source is whichever has its bin number; of two sizes with one value cells show the last.
-    EXPECT_EQ(dialog.List(LVM_GETITEMCOUNT), 7);
+    EXPECT_EQ(dialog.List(LVM_GETITEMCOUNT), 10) << "as many trays as there are records";
     EXPECT_EQ(dialog.RowText(0), L"Auto|A5 too|Portrait|Plain paper|0");
     EXPECT_EQ(dialog.RowText(2), L"Tray 2 of thirty-one characters|A5 too|Portrait|Plain paper|2");
     EXPECT_EQ(dialog.Cell(6, 0), L"Manual feed");
@@ -151,6 +146,7 @@ TEST(TrayDialogs, ChangesAreKeptOrRefused) {
     for (const Kind& kind : kKinds) {
         Trays dialog(kind.model);
         dialog.PressButton();
+        SetWindowPos(dialog.Control(kList), nullptr, 0, 0, 300, 80, SWP_NOMOVE | SWP_NOZORDER); // some rows
         for (const int row : {1, 6})
             for (const int i : kind.attributes)
                 for (const int answer : {100, 101, 99, 102, 0x10064, 0}) {
@@ -175,6 +171,7 @@ TEST(TrayDialogs, ChangesAreKeptOrRefused) {
                     EXPECT_EQ(Differences(dialog.records.bytes.data(), isRefused ? before : chosen), "");
                     EXPECT_EQ(dialog.Selection(attribute.box), isRefused ? shown : attribute.chosen);
                     EXPECT_EQ(dialog.Row(), row);
+                    EXPECT_LT(row, dialog.List(LVM_GETTOPINDEX) + dialog.List(LVM_GETCOUNTPERPAGE));
                     dialog.records = before;
                 }
     }
@@ -220,8 +217,6 @@ TEST(TrayDialogs, EndWithTheirCodes) {
         for (size_t i = 3; i < 6; ++i)
             wanted.U8(9 * kTraySize + kAttributes[i].offset,
                       changed.bytes[9 * kTraySize + kAttributes[i].offset]);
-        if (kind.attributes.size() == 6)
-            wanted = opened;
         EXPECT_EQ(Differences(dialog.records.bytes.data(), wanted), "");
         EXPECT_EQ(dialog.Events({"EndDialog"}), "EndDialog 1\nEndDialog 2\n");
     }
@@ -241,7 +236,6 @@ TEST(TrayDialogs, LockTheirControls) {
         dialog.events.clear();
         EXPECT_EQ(dialog.Tell(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1)), 0);
         EXPECT_EQ(dialog.Events({"disable"}), locks);
-        EXPECT_FALSE(IsWindowEnabled(dialog.Control(kList)));
     }
 }
 
@@ -326,6 +320,35 @@ TEST(TrayDialogs, WorkWithWhatThereIs) {
     const DLGPROC procedure = dialog.procedure;
     dialog.Close();
     EXPECT_EQ(procedure(nullptr, WM_DESTROY, 0, 0), 0);
+}
+
+// The n-th from now on of the calls that make the list of icons fails.
+int failingCall;
+HIMAGELIST WINAPI CreateList(int width, int height, UINT flags, int count, int growth) {
+    return failingCall-- == 1 ? nullptr : ImageList_Create(width, height, flags, count, growth);
+}
+HANDLE WINAPI LoadOne(HINSTANCE library, const wchar_t* name, UINT type, int width, int height, UINT flags) {
+    return failingCall-- == 1 ? nullptr : LoadImageW(library, name, type, width, height, flags);
+}
+int WINAPI AddIcon(HIMAGELIST images, int at, HICON icon) {
+    return failingCall-- == 1 ? -1 : ImageList_ReplaceIcon(images, at, icon);
+}
+
+TEST(TrayDialogs, HaveBothIconsOrNone) {
+    Trays dialog;
+    const PatchedImport patches[] = {{dialog.module.handle, ImageList_Create, CreateList},
+                                     {dialog.module.handle, LoadImageW, LoadOne},
+                                     {dialog.module.handle, ImageList_ReplaceIcon, AddIcon}};
+    std::optional<LiveObjects> before;
+    for (int call = 8; call > 0; --call) { // from 5 on, of the five
+        failingCall = call;
+        dialog.PressButton();
+        EXPECT_EQ(dialog.List(LVM_GETIMAGELIST, LVSIL_SMALL) != 0, call > 5) << call;
+        dialog.Close();
+        if (call == 6)
+            before = CountLiveObjects();
+    }
+    EXPECT_EQ(CountLiveObjects(), *before);
 }
 
 TEST(TrayDialogs, LeaveNothingBehind) {
