@@ -222,7 +222,8 @@ LRESULT WINAPI SendToControl(HWND dialog, int control, UINT message, WPARAM wPar
     const auto kind = kKinds.find(message);
     if (kind != kKinds.end())
         Note(kind->second + " " + std::to_string(control), dialog == current->window);
-    return SendDlgItemMessageW(dialog, control, message, wParam, lParam);
+    const bool isFull = message == CB_INSERTSTRING && current->failingEntry-- == 1;
+    return isFull ? CB_ERRSPACE : SendDlgItemMessageW(dialog, control, message, wParam, lParam);
 }
 LRESULT WINAPI SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NEXTDLGCTL)

@@ -97,8 +97,8 @@ struct DialogDriver {
     // The system.
     std::optional<std::vector<uint8_t>> storedDefaults;
     std::wstring printerDriver = L"QUORVANE lumora", country = L"49", measure = L"0";
-    int failingAllocation = 0;   // the n-th from now on, and no other
-    std::set<const void*> owned; // by the module: brushes, local blocks
+    int failingAllocation = 0, failingEntry = 0; // the n-th from now on, and no other; CB_INSERTSTRING
+    std::set<const void*> owned;                 // by the module: brushes, local blocks
     int uiLoads = 0, uiFrees = 0;
     std::vector<uint32_t> helpTable;
 
