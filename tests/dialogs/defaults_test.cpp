@@ -1,5 +1,10 @@
 // The Defaults button of dialog 128: which bytes it takes, and from where.
+#include "dialogs/default_devmode.h"
 #include "full_dialog.h"
+#include "paramdata/default_settings.h"
+#include "support/print_queue.h"
+
+#include <winspool.h>
 
 namespace {
 
@@ -51,23 +56,6 @@ TEST_F(Defaults, StoredOnesCountAtTheirFullLengthOnly) {
     EXPECT_EQ(scratch.bytes[2094], OtherSettings().bytes[2094]); // taken as they are
 }
 
-// The model's own: what its parameter file says, with the default place of profiles, 5, in the RGB records.
-TEST_F(Defaults, BuiltInOnesComeFromTheModel) {
-    Open();
-    Command(kDefaults);
-    const RawBytes place = Profile(L"", L"", 5);
-    RawBytes wanted = FullSettings();
-    for (const size_t record : {2520u, 2688u, 2856u})
-        PutRecord(wanted.U16(record == 2520 ? 2516 : record == 2688 ? 2514 : 2518, 1), record, place);
-    for (const size_t flag : {3024u, 3026u, 3028u, 2166u, 3536u})
-        wanted.U16(flag, 0);
-    for (const size_t record : {3030u, 3198u, 3366u, 2168u})
-        PutRecord(wanted, record, record == 2168 ? place : kNone);
-    wanted.U32(2153, 0x00'00'02'01).U32(2157, 0x00'02'00'00).U32(2161, 0x00'01'01'00).U8(3534, 0);
-    ExpectSettings(wanted);
-    EXPECT_EQ(Shown(), std::vector({1, 1, 0, 0, 2, 1, 0, 2, 0, 0, 1, 0, 1, 0, 3, 0, 0, 0}));
-}
-
 TEST_F(Defaults, BuiltInOnesHaveThePaperAndUnitsOfTheRegion) {
     const struct {
         const wchar_t *country, *measure;
@@ -116,6 +104,41 @@ TEST_F(Defaults, AreNoneWithoutTheirArea) {
     context.scratch = nullptr;
     EXPECT_EQ(Command(kDefaults), (Answer{0, 1}));
     ExpectSettings(FullSettings());
+}
+
+// The functions themselves, linked in, for what the dialogs don't reach.
+TEST(DefaultSettings, StayWithoutThePaperOfTheRegion) {
+    PaperSizeRecord papers[2] = {};
+    papers[0].head.key[0] = 'X';
+    DeviceTable table = {};
+    table.paperSizes = papers;
+    for (const DeviceTable* without : {static_cast<const DeviceTable*>(nullptr), &std::as_const(table)}) {
+        defaultSettings.paper = 77;
+        LocalizeDefaultOemDevmode(without);
+        EXPECT_EQ(defaultSettings.paper, 77);
+    }
+}
+
+HANDLE closed;
+BOOL WINAPI NoteClosing(HANDLE printer) {
+    closed = printer;
+    return TRUE;
+}
+
+TEST(DefaultSettings, BlackPrintersAreOpenedByTheirName) {
+    constexpr wchar_t kQueue[] = L"Lumora mono test";
+    Queue queue(kQueue, L"LPT1:");
+    EXPECT_FALSE(IsMonoDriver(nullptr, kQueue));
+    queue.Text(L"Printer Driver", L"lumora Mono");
+    {
+        const auto close = GetProcAddress(GetModuleHandleW(L"winspool.drv"), "ClosePrinter");
+        const PatchedImport patch(GetModuleHandleW(nullptr), reinterpret_cast<void*>(close),
+                                  reinterpret_cast<void*>(NoteClosing));
+        EXPECT_TRUE(IsMonoDriver(nullptr, kQueue));
+    }
+    EXPECT_TRUE(ClosePrinter(closed)) << "what has been opened";
+    EXPECT_FALSE(IsMonoDriver(nullptr, L"Lumora mono"));
+    EXPECT_FALSE(IsMonoDriver(nullptr, nullptr));
 }
 
 } // namespace
