@@ -105,6 +105,11 @@ TEST_F(TraysTest, UpdateOfInputSlotsComesBeforeTheSelectionLists) {
 
 TEST_F(TraysTest, RowsTakeTheNamesOfItemsThatEndInTheirKeys) {
     const std::string long37 = std::string(30, 'x') + "InTray1";
+    std::string trays63, rows63;
+    for (int i = 0; i < 63; ++i) {
+        trays63 += "T ";
+        rows63 += "T: ";
+    }
     // clang-format off
     const struct {
         const char* what;
@@ -121,6 +126,7 @@ TEST_F(TraysTest, RowsTakeTheNamesOfItemsThatEndInTheirKeys) {
         {"renamed again",          "InTray1",          "xInTray1:A yxInTray1:B", "yxInTray1:B"},
         {"cut key",                "InTray1",          long37 + ":A",            long37.substr(0, 31) + ":A"},
         {"behind an empty key",    "InTray1  InTray3", "xInTray3:A",             "InTray1:"},
+        {"65th row", trays63 + "InTray64 InTray65", "xInTray65:A xInTray64:B", rows63 + "xInTray64:B InTray65:"},
     };
     // clang-format on
     for (const auto& c : cases) {

@@ -135,12 +135,13 @@ TEST_F(MediaTypeListsTest, ItemTexts) {
 }
 
 TEST_F(MediaTypeListsTest, EachColumnShowsByASwitchOfItsOwn) {
-    for (uint32_t i = 0; i < 3; ++i) {
-        const RawBytes table = RawBytes(kTableSize).U32(4 * (18 + i), 1);
-        EXPECT_EQ(MediaWeightShown(AsTable(table)), i == 0 ? 1u : 0u);
-        EXPECT_EQ(MediaColorShown(AsTable(table)), i == 1 ? 1u : 0u);
-        EXPECT_EQ(MediaHoleShown(AsTable(table)), i == 2 ? 1u : 0u);
-    }
+    for (const uint32_t type : {0u, 1u, 4u})
+        for (uint32_t i = 0; i < 3; ++i) {
+            const RawBytes table = RawBytes(kTableSize).U32(4 * (18 + i), 1).U32(4 * 83, type);
+            EXPECT_EQ(MediaWeightShown(AsTable(table)), i == 0 ? 1u : 0u);
+            EXPECT_EQ(MediaColorShown(AsTable(table)), i == 1 ? 1u : 0u);
+            EXPECT_EQ(MediaHoleShown(AsTable(table)), i == 2 ? 1u : 0u);
+        }
 }
 
 } // namespace
