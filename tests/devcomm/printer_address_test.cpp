@@ -118,10 +118,11 @@ void Arrange(const platform::Queue& queue = {L"Lumora", L"IP_1"}) {
 }
 
 // And a transceiver.
-void ArrangeTransceiver(const Bytes& reply = Terminated(L"10.0.0.1"), DWORD status = 0) {
+void ArrangeTransceiver(const Bytes& reply = Terminated(L"10.0.0.1"), DWORD status = 0,
+                        const std::vector<platform::Export>& exports = {{"XcvDataW", XcvDataW}}) {
     Arrange();
     platform::RegisterTransceiver(L",XcvPort IP_1", reply, status);
-    platform::RegisterLibrary(L"C:\\Windows\\system32\\WINSPOOL.DRV", {{"XcvDataW", XcvDataW}});
+    platform::RegisterLibrary(L"C:\\Windows\\system32\\WINSPOOL.DRV", exports);
 }
 
 TEST(PrinterAddress, FromTheRecord) {
@@ -257,6 +258,12 @@ TEST(PrinterAddress, NoReplyLeadsToTheRegistryAndNoValueToTheNextMonitor) {
     Expect(Ask(kAskQueue), kFromRegistry);
     ArrangeTransceiver(Terminated(L"10.0.0.1"), 5); // refused, though the call itself succeeds
     Expect(Ask(kAskQueue), kFromRegistry);
+    ArrangeTransceiver(Terminated(L"10.0.0.1"), 0, {}); // the spooler's library lacks the call
+    Expect(Ask(kAskQueue), kFromRegistry);
+    ArrangeTransceiver();
+    platform::SetSystemDirectory(L"C:\\Elsewhere"); // which has no such library
+    Expect(Ask(kAskQueue), kFromRegistry);
+    EXPECT_EQ(platform::LibraryCalls().size(), 1u) << "nothing is looked for in it";
 
     Arrange();
     platform::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", Xs(513));

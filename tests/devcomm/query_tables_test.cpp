@@ -16,6 +16,16 @@ TEST(QueryTables, ModelCheckIsOff) {
     EXPECT_EQ(Differences(MIB_ModelCheckInfo(), RawBytes(520)), "");
 }
 
+// What the queries make of them is tested with these.
+TEST(QueryTables, Options) {
+    EXPECT_EQ(Differences(MIB_OptionReqInfo(), RawBytes(8).U32(0, 13)), "");
+    std::string keys;
+    for (size_t i = 0; i < 13; ++i)
+        keys += std::string(" ") + reinterpret_cast<const char*>(PointerAt(MIB_OptionReqInfo(), 8) + 48 * i);
+    EXPECT_EQ(keys, " OpMemory OpHDD OpManualFeed OpInTray1 OpInTray2 OpInTray3 OpInTray4 OpInTray5 "
+                    "OpOutTray1 OpOutTray2 OpOutTray3 OpOutTray4 OpDuplex");
+}
+
 TEST(QueryTables, Supplies) {
     const struct {
         const char* name;
