@@ -5,6 +5,8 @@
 #include "dialogs/profile_text.h"
 #include "paramdata/text.h"
 
+#include <iterator>
+
 namespace {
 
 constexpr LONG_PTR kFirstRgbProfile = 256;
@@ -287,6 +289,14 @@ constexpr KindRow kKinds[] = {
     {ColorControlKind::kGraphicsChoice,   {false, BN_CLICKED,    1},     ShowGraphicsChoice, StoreGraphicsChoice},
 };
 // clang-format on
+static_assert(
+    [] {
+        size_t inOrder = 0;
+        while (inOrder < std::size(kKinds) && kKinds[inOrder].kind == static_cast<ColorControlKind>(inOrder))
+            ++inOrder;
+        return inOrder == std::size(kKinds) && kKinds[inOrder - 1].kind == ColorControlKind::kGraphicsChoice;
+    }(),
+    "a row for each kind, in the order of the kinds");
 
 const KindRow& RowOf(const ColorControl& control) {
     return kKinds[static_cast<size_t>(control.kind)];

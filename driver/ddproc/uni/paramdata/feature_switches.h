@@ -103,16 +103,29 @@ inline constexpr FeatureSwitchRow kFeatureSwitches[] = {
 constexpr size_t kFeatureSwitchCount = sizeof(kFeatureSwitches) / sizeof(kFeatureSwitches[0]);
 static_assert(kFeatureSwitchCount == 85);
 
+// Position of the first row of this name. A name that no row has does not compile.
+constexpr size_t SwitchPosition(const char* name) {
+    for (size_t i = 0;; ++i) {
+        const char* row = kFeatureSwitches[i].name;
+        size_t same = 0;
+        while (name[same] != 0 && row[same] == name[same])
+            ++same;
+        if (row[same] == name[same])
+            return i;
+    }
+}
+
 // Positions of the switches that the module itself reads.
 enum FeatureSwitch : size_t {
-    kSwitchColorSetting = 11, // variant of the basic colour dialog
-    kSwitchMediaWeight = 18,
-    kSwitchMediaColor = 19,
-    kSwitchMediaPrePunched = 20,
-    kSwitchBindingEdge = 26,
-    kSwitchFCoverPrint = 73,
-    kSwitchDlgMediaType = 83, // variant of the tray dialog
+    kSwitchColorSetting = SwitchPosition("ColorSetting"), // variant of the basic colour dialog
+    kSwitchMediaWeight = SwitchPosition("MediaWeight"),
+    kSwitchMediaColor = SwitchPosition("MediaColor"),
+    kSwitchMediaPrePunched = SwitchPosition("MediaPrePunched"),
+    kSwitchBindingEdge = SwitchPosition("BindingEdge"),
+    kSwitchFCoverPrint = SwitchPosition("FCoverPrint"),
+    kSwitchDlgMediaType = SwitchPosition("Dlg_MediaType"), // variant of the tray dialog
 };
+static_assert(kSwitchColorSetting == 11 && kSwitchDlgMediaType == 83);
 
 constexpr unsigned kMostSwitchType = 255; // "TYPE%d" is looked for from 1 to this number
 
