@@ -4,13 +4,15 @@
 #include "product.h"
 #include "support/raw_bytes.h"
 
+#include <algorithm>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 namespace {
 
 // Answers the path of the file.
-std::string WriteBitmap(const char* name, const Picture& picture) {
+std::string WriteBitmap(const std::string& name, const Picture& picture) {
     const auto width = static_cast<uint32_t>(picture.width), height = static_cast<uint32_t>(picture.height);
     RawBytes file(54 + 4 * width * height);
     file.Text(0, "BM").U32(2, 54 + 4 * width * height).U32(10, 54);
@@ -22,6 +24,17 @@ std::string WriteBitmap(const char* name, const Picture& picture) {
         .write(reinterpret_cast<const char*>(file.bytes.data()),
                static_cast<std::streamsize>(file.bytes.size()));
     return path.string();
+}
+
+// After the test that runs: "Suite.Test_1", _2 and so on; empty when it has left enough to look at.
+std::string NameOfPair() {
+    constexpr int kMaxPairs = 5; // of one test
+    static std::map<std::string, int> pairs;
+    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+    std::string name = std::string(test->test_suite_name()) + "." + test->name();
+    std::replace(name.begin(), name.end(), '/', '-'); // of a test with parameters
+    const int pair = ++pairs[name];
+    return pair <= kMaxPairs ? name + "_" + std::to_string(pair) : "";
 }
 
 } // namespace
@@ -63,12 +76,12 @@ Canvas::~Canvas() {
     DeleteObject(bitmap);
 }
 
-void Canvas::Clear(uint32_t color) {
+void Canvas::Clear(uint32_t color) const {
     GdiFlush();
     std::fill_n(bits, width * height, color);
 }
 
-void Canvas::Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation) {
+void Canvas::Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation) const {
     GdiFlush();
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x) {
@@ -100,10 +113,12 @@ testing::AssertionResult SamePicture(const Canvas& got, const Canvas& wanted) {
     std::ostringstream text;
     text << "differs first at (" << (at - a.pixels.begin()) % a.width << ", "
          << (at - a.pixels.begin()) / a.width << "): got " << std::hex << *at << ", wanted " << *other;
-    static bool isWritten = false;
-    if (!isWritten)
-        text << "; see " << WriteBitmap("picture_got.bmp", a) << " and "
-             << WriteBitmap("picture_wanted.bmp", b);
-    isWritten = true;
+    if (const std::string name = NameOfPair(); !name.empty())
+        text << "; see " << WriteBitmap(name + "_got.bmp", a) << " and "
+             << WriteBitmap(name + "_wanted.bmp", b);
     return testing::AssertionFailure() << text.str();
+}
+
+bool IsSamePicture(const Canvas& got, const Canvas& wanted) {
+    return got.Content().pixels == wanted.Content().pixels;
 }

@@ -31,9 +31,9 @@ struct Canvas {
     Canvas(const Canvas&) = delete;
     Canvas& operator=(const Canvas&) = delete;
 
-    void Clear(uint32_t color = kGround);
+    void Clear(uint32_t color = kGround) const;
     // Puts a picture here, pixel by pixel: SRCAND, SRCINVERT, SRCPAINT or SRCCOPY.
-    void Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation);
+    void Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation) const;
     Picture Content() const;
 
     const int width, height;
@@ -43,7 +43,11 @@ struct Canvas {
     HGDIOBJ own;
 };
 
-// The first pair of a run that differs is left as bitmaps beside the test program.
+// For a test that expects them to be the same: a pair that differs is left as two bitmaps beside the test
+// program, named after the test.
 testing::AssertionResult SamePicture(const Canvas& got, const Canvas& wanted);
+
+// For a test that goes by the answer.
+bool IsSamePicture(const Canvas& got, const Canvas& wanted);
 
 #endif

@@ -5,47 +5,48 @@
 
 namespace {
 
-GdiRecorder* current;
+GdiRecorder* recording;
 
 bool Fails(const char* function, DWORD type = 0) {
-    if (!current->failing.empty() && current->failing != function)
+    if (!recording->failing.empty() && recording->failing != function)
         return false;
-    if (++current->calls != current->failingCall && current->failingCall != GdiRecorder::kEvery)
+    if (++recording->calls != recording->failingCall && recording->failingCall != GdiRecorder::kEvery)
         return false;
-    current->hasFailed = true;
-    current->loadsBefore = current->ids.size();
-    current->failedType = type;
+    recording->hasFailed = true;
+    recording->loadsBefore = recording->ids.size();
+    recording->failedType = type;
     return true;
 }
 
 template <typename Handle>
-Handle Made(Handle handle) {
+Handle NoteMade(Handle handle) {
     if (handle != nullptr)
-        current->live.insert(handle);
+        recording->live.insert(handle);
     return handle;
 }
 
 HDC WINAPI MakeContext(HDC like) {
-    return Fails("CreateCompatibleDC") ? nullptr : Made(CreateCompatibleDC(like));
+    return Fails("CreateCompatibleDC") ? nullptr : NoteMade(CreateCompatibleDC(like));
 }
 
 HBITMAP WINAPI MakeBitmap(HDC like, int width, int height) {
-    return Fails("CreateCompatibleBitmap") ? nullptr : Made(CreateCompatibleBitmap(like, width, height));
+    return Fails("CreateCompatibleBitmap") ? nullptr : NoteMade(CreateCompatibleBitmap(like, width, height));
 }
 
 HFONT WINAPI MakeFont(const LOGFONTW* description) {
-    return Fails("CreateFontIndirectW", OBJ_FONT) ? nullptr : Made(CreateFontIndirectW(description));
+    return Fails("CreateFontIndirectW", OBJ_FONT) ? nullptr : NoteMade(CreateFontIndirectW(description));
 }
 
 HANDLE WINAPI LoadBitmapImage(HINSTANCE module, const wchar_t* name, UINT type, int width, int height,
                               UINT flags) {
     const UINT id = static_cast<UINT>(reinterpret_cast<uintptr_t>(name));
-    current->ids.push_back(id);
+    recording->ids.push_back(id);
     if (Fails("LoadImageW"))
         return nullptr;
-    const auto served = current->served.find(id);
-    return Made(served != current->served.end() ? CopyImage(served->second, type, 0, 0, LR_CREATEDIBSECTION)
-                                                : LoadImageW(module, name, type, width, height, flags));
+    const auto served = recording->served.find(id);
+    return NoteMade(served != recording->served.end()
+                        ? CopyImage(served->second, type, 0, 0, LR_CREATEDIBSECTION)
+                        : LoadImageW(module, name, type, width, height, flags));
 }
 
 int WINAPI ReadObject(HANDLE object, int size, void* description) {
@@ -55,42 +56,42 @@ int WINAPI ReadObject(HANDLE object, int size, void* description) {
 // Only what the module made can fail to be selected: what was selected before always goes back.
 HGDIOBJ WINAPI Select(HDC context, HGDIOBJ object) {
     const DWORD type = GetObjectType(object);
-    if (current->live.count(object) != 0 && Fails("SelectObject", type))
+    if (recording->live.count(object) != 0 && Fails("SelectObject", type))
         return nullptr;
     const HGDIOBJ before = SelectObject(context, object);
     if (before != nullptr)
-        current->selected[context][type] = object;
+        recording->selected[context][type] = object;
     return before;
 }
 
-BOOL WINAPI Delete(HGDIOBJ object) {
-    if (current->live.erase(object) == 0)
-        current->misdeeds += "deletes what it does not own; ";
-    for (const auto& context : current->selected)
+BOOL WINAPI DeleteNoted(HGDIOBJ object) {
+    if (recording->live.erase(object) == 0)
+        recording->misdeeds += "deletes what it does not own; ";
+    for (const auto& context : recording->selected)
         for (const auto& of : context.second)
             if (of.second == object)
-                current->misdeeds += "deletes what is still selected; ";
+                recording->misdeeds += "deletes what is still selected; ";
     return DeleteObject(object);
 }
 
 BOOL WINAPI DeleteContext(HDC context) {
-    if (current->live.erase(context) == 0)
-        current->misdeeds += "deletes a context that it does not own; ";
-    for (const auto& of : current->selected[context])
-        if (current->live.count(of.second) != 0)
-            current->misdeeds += "deletes a context with its object still selected; ";
-    current->selected.erase(context);
+    if (recording->live.erase(context) == 0)
+        recording->misdeeds += "deletes a context that it does not own; ";
+    for (const auto& of : recording->selected[context])
+        if (recording->live.count(of.second) != 0)
+            recording->misdeeds += "deletes a context with its object still selected; ";
+    recording->selected.erase(context);
     return DeleteDC(context);
 }
 
 BOOL WINAPI Copy(HDC to, int x, int y, int width, int height, HDC from, int fromX, int fromY,
                  DWORD operation) {
-    ++current->copies[to];
+    ++recording->copies[to];
     return BitBlt(to, x, y, width, height, from, fromX, fromY, operation);
 }
 
 int WINAPI ReadCapability(HDC context, int index) {
-    return GetDeviceCaps(context, index) * (context == current->fineContext && index == LOGPIXELSY ? 2 : 1);
+    return GetDeviceCaps(context, index) * (context == recording->fineContext && index == LOGPIXELSY ? 2 : 1);
 }
 
 // Where the module's import table holds this function's address; null when it does not import it.
@@ -132,11 +133,11 @@ GdiRecorder::GdiRecorder(HMODULE module)
               {module, LoadImageW, LoadBitmapImage},
               {module, GetObjectW, ReadObject},
               {module, SelectObject, Select},
-              {module, DeleteObject, Delete},
+              {module, DeleteObject, DeleteNoted},
               {module, DeleteDC, DeleteContext},
               {module, BitBlt, Copy},
               {module, GetDeviceCaps, ReadCapability}} {
-    current = this;
+    recording = this;
 }
 
 GdiRecorder::~GdiRecorder() {

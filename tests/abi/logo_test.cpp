@@ -66,10 +66,10 @@ struct Logo : testing::Test {
         recorder.served[id] = logo.bitmap;
         recorder.served[id + 1] = mask.bitmap;
     }
-    void DrawOnPage(uint32_t kind) { // the upper half of the argument is anything
+    void DrawOnPage(uint32_t kind) const { // the upper half of the argument is anything
         module.Export<void WINAPI(HDC, HWND, void*, uint32_t)>("DrawLogoImage")(got.dc, kPage, nullptr, kind);
     }
-    void DrawOnTab(LONG x, LONG y) {
+    void DrawOnTab(LONG x, LONG y) const {
         module.Export<void WINAPI(HDC, void*, LONG, LONG)>("DrawLogoVersionTab")(got.dc, nullptr, x, y);
     }
     void WantThroughMask(POINT corner) {
@@ -123,7 +123,7 @@ TEST_F(Logo, TabIsTransparentWithAMask) {
 TEST_F(Logo, PageIsLeftAloneUnlessBothBitmapsAreThere) {
     DrawOnPage(6);
     Serve(500);
-    for (const size_t missing : {1, 2})
+    for (const size_t missing : {size_t{1}, size_t{2}})
         Refuse("LoadImageW", missing, [&] { DrawOnPage(6); });
     EXPECT_EQ(page.moves, none);
 }

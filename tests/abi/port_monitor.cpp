@@ -36,7 +36,7 @@ BOOL WINAPI CloseTransceiver(HANDLE handle) {
 
 } // namespace
 
-extern "C" __declspec(dllexport) LPMONITOREX WINAPI InitializePrintMonitor(LPWSTR /*registryRoot*/) {
+extern "C" LPMONITOREX WINAPI InitializePrintMonitor(LPWSTR /*registryRoot*/) {
     static MONITOREX monitor = {};
     monitor.dwMonitorSize = sizeof(monitor.Monitor);
     monitor.Monitor.pfnXcvOpenPort = OpenTransceiver;

@@ -5,6 +5,7 @@
 #include "dialogs/color_descriptions.h"
 #include "full_dialog.h"
 #include "live_objects.h"
+#include "support/rounds.h"
 
 namespace {
 
@@ -456,7 +457,8 @@ TEST_P(ColorDialogs, LeaveNothingBehind) {
     Driver driver(GetParam());
     driver.usesOwnCallbacks = true;
     std::optional<LiveObjects> before;
-    for (int i = 0; i < 60; ++i) {
+    const int rounds = Rounds(20, 200);
+    for (int i = 0; i < rounds; ++i) {
         driver.Open();
         ShowWindow(driver.window, i % 20 < 4 ? SW_SHOWNOACTIVATE : SW_HIDE); // which takes its time
         UpdateWindow(driver.window);
@@ -470,8 +472,8 @@ TEST_P(ColorDialogs, LeaveNothingBehind) {
     }
     EXPECT_EQ(CountLiveObjects(), *before);
     EXPECT_GT(before->graphics, 0);
-    EXPECT_EQ(driver.uiLoads, 60);
-    EXPECT_EQ(driver.uiFrees, 60);
+    EXPECT_EQ(driver.uiLoads, rounds);
+    EXPECT_EQ(driver.uiFrees, rounds);
     EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
 }
 

@@ -148,9 +148,9 @@ TEST_F(Drawing, FocusRectangle) {
         Draw(Item(list, 999, action, state));
         if (action != ODA_FOCUS && action != 0)
             WantBackground(COLOR_WINDOW);
-        const bool isPlain = static_cast<bool>(SamePicture(got, wanted));
+        const bool isPlain = IsSamePicture(got, wanted);
         WantFocus();
-        EXPECT_NE(isPlain, static_cast<bool>(SamePicture(got, wanted)));
+        EXPECT_NE(isPlain, IsSamePicture(got, wanted));
         return !isPlain;
     };
     SetFocus(Control(1504));
@@ -176,7 +176,7 @@ TEST_F(Drawing, EntriesForThoseWhoAskWhetherTheyAreHandled) {
         EXPECT_EQ(Draw(Item(control.id, 0, ODA_DRAWENTIRE, 0), false).result, isList);
         EXPECT_TRUE(SamePicture(got, wanted)) << control.id;
         EXPECT_EQ(Draw(Item(control.id, 0, ODA_DRAWENTIRE, 0)), (Answer{isList, isList ? 1 : kUntouched}));
-        EXPECT_EQ(static_cast<bool>(SamePicture(got, wanted)), !isList) << control.id;
+        EXPECT_EQ(IsSamePicture(got, wanted), !isList) << control.id;
     }
 }
 

@@ -1,6 +1,7 @@
 // The tray-setting dialogs: how the button opens them, what they list, what changes and is refused, how they
 // end. The trays and lists are those of the model file.
 #include "live_objects.h"
+#include "support/rounds.h"
 #include "tray_driver.h"
 
 namespace {
@@ -355,7 +356,7 @@ TEST(TrayDialogs, LeaveNothingBehind) {
     Trays dialog;
     dialog.usesOwnCallbacks = true;
     std::optional<LiveObjects> before;
-    for (int i = 0; i < 103; ++i) {
+    for (int i = 0, rounds = Rounds(23, 203); i < rounds; ++i) {
         dialog.PressButton();
         const HWND list = dialog.Control(kList);
         ShowWindow(dialog.window, i < 5 ? SW_SHOWNOACTIVATE : SW_HIDE);
