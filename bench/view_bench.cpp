@@ -2,10 +2,10 @@
 // already loaded and selected, in turn; and what part of it goes into loading the bitmaps.
 #include "bench/stopwatch.h"
 #include "frame/entry_point.h"
+#include "paramdata/text.h"
 #include "picture/printer_view.h"
 
 #include <cstdio>
-#include <cstring>
 #include <filesystem>
 #include <iterator>
 #include <vector>
@@ -14,6 +14,7 @@ namespace {
 
 constexpr int kRounds = 500;
 constexpr int kEdge = 200;
+constexpr size_t kPixels = size_t{kEdge} * kEdge;
 constexpr RECT kRectangle = {0, 0, kEdge, kEdge};
 
 // What the request below shows, in the order of drawing: parts, masks and images of both highlights, badge.
@@ -32,8 +33,8 @@ HBITMAP Load(HMODULE module, size_t i) {
 
 // One feature with one item, which is selected.
 void Install(FeatureRecord& feature, ItemRecord (&items)[2], const char* featureKey, const char* itemKey) {
-    strcpy(feature.feature.head.key, featureKey);
-    strcpy(items[0].head.key, itemKey);
+    CopyText(feature.feature.head.key, featureKey);
+    CopyText(items[0].head.key, itemKey);
     feature.items = items;
 }
 
@@ -91,6 +92,7 @@ int wmain(int, wchar_t** arguments) {
     HDC target = CreateCompatibleDC(nullptr);
     SelectObject(target, CreateDIBSection(target, &info, DIB_RGB_COLORS, &pixels, nullptr, 0));
 
+    const auto* const drawn = static_cast<const uint32_t*>(pixels);
     std::vector<uint32_t> pictures[2];
     std::vector<double> ours, bare, loading;
     for (int i = 0; i < kRounds; ++i) {
@@ -98,12 +100,12 @@ int wmain(int, wchar_t** arguments) {
             draw(target, &kRectangle, &request);
             GdiFlush();
         }));
-        pictures[0].assign(static_cast<uint32_t*>(pixels), static_cast<uint32_t*>(pixels) + kEdge * kEdge);
+        pictures[0].assign(drawn, drawn + kPixels);
         bare.push_back(Measure([&] {
             DrawBare(target, loaded);
             GdiFlush();
         }));
-        pictures[1].assign(static_cast<uint32_t*>(pixels), static_cast<uint32_t*>(pixels) + kEdge * kEdge);
+        pictures[1].assign(drawn, drawn + kPixels);
         loading.push_back(Measure([&] { LoadAndFree(module); }));
         if (pictures[0] != pictures[1]) {
             fprintf(stderr, "view_bench: the two pictures are not the same\n");

@@ -9,10 +9,13 @@ option(TOOLS "Build the host's tools alone" OFF)
 set(HOST_TOOLS "${CMAKE_SOURCE_DIR}/build/host/bin" CACHE PATH "Folder of the host's tools, built by the preset 'tools'")
 if(TOOLS)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${HOST_TOOLS}")
-elseif(NOT EXISTS "${HOST_TOOLS}/prmc")
-    message(FATAL_ERROR "The host's tools are missing in ${HOST_TOOLS}. Build them first: "
-                        "cmake --preset tools && cmake --build --preset tools")
 endif()
+
+# The files of a tool or a test program are compiled as one: what they include takes most of the time, and lint reads it
+# once. Names in their unnamed namespaces must differ. Each file by itself, so that none lacks an include: UNITY=OFF.
+option(UNITY "Compile the files of each target that is no product as one" ON)
+set(CMAKE_UNITY_BUILD ${UNITY})
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
 
 option(SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(FUZZ "Build the fuzz targets (clang)" OFF)

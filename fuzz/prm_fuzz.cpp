@@ -177,14 +177,14 @@ struct ModuleFolder {
 
 } // namespace
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     // Per byte of the file: its image, 16 bytes of the device table's records, and the media type lists,
     // which take 144 bytes for records of 240.
     constexpr size_t kMostPerByte = 1 + 16 + 10;
     constexpr size_t kMostAnyway = 16384;
 
     static const ModuleFolder folder;
-    folder.Store(bytes, size);
+    folder.Store(octets, count);
     const CompiledInTables kept;
     platform::Reset();
     platform::SetModuleFileName(folder.modulePath.data());
@@ -200,7 +200,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const platform::Counts counts = platform::Count();
     Require(counts.globalBlocks == 0 && counts.localBlocks == 0 && counts.files == 0,
             "something is left over");
-    Require(counts.allocatedBytes <= kMostAnyway + kMostPerByte * size,
+    Require(counts.allocatedBytes <= kMostAnyway + kMostPerByte * count,
             "memory out of proportion to the file");
     return 0;
 }

@@ -1,14 +1,12 @@
 // Runs a fuzz target over given files as they are and, the small ones, over every cut and over every 32-bit
 // field and octet replaced by awkward values: always the same inputs, as a plain test. A failing input ends
 // the program.
-#include <cstdint>
-#include <cstdio>
+#include "require.h"
+
 #include <cstring>
 #include <fstream>
 #include <iterator>
 #include <vector>
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size);
 
 namespace {
 

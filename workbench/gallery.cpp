@@ -83,9 +83,9 @@ constexpr LONG kAcross = 7;
 constexpr LONG kDown = (static_cast<LONG>(std::size(kRows)) + kAcross - 1) / kAcross;
 constexpr LONG kMargin = 24;
 constexpr LONG kTitleHeight = 44;
-constexpr LONG kGap = 10; // around a picture
-constexpr LONG kCaptionHeight = 26;
-constexpr SIZE kCell = {kSceneSize.cx + 2 * kGap, kSceneSize.cy + kGap + kCaptionHeight};
+constexpr LONG kCellGap = 10; // around a picture
+constexpr LONG kCellCaptionHeight = 26;
+constexpr SIZE kCell = {kSceneSize.cx + 2 * kCellGap, kSceneSize.cy + kCellGap + kCellCaptionHeight};
 constexpr SIZE kSheet = {kAcross * kCell.cx + 2 * kMargin + 1,
                          kTitleHeight + kDown* kCell.cy + 2 * kMargin + 1};
 
@@ -112,10 +112,10 @@ void DrawCell(const FamilyFiles& family, const Row& row, HDC to, POINT at) {
     const RECT edge = {at.x, at.y, at.x + kCell.cx + 1, at.y + kCell.cy + 1};
     SetDCBrushColor(to, kGridColor);
     FrameRect(to, &edge, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-    DrawLine(to, {at.x + 1, edge.bottom - kCaptionHeight, edge.right - 1, edge.bottom - 1}, kCaptionStyle,
+    DrawLine(to, {at.x + 1, edge.bottom - kCellCaptionHeight, edge.right - 1, edge.bottom - 1}, kCaptionStyle,
              row.caption);
     // The module draws at the origin.
-    SetViewportOrgEx(to, at.x + kGap, at.y + kGap, nullptr);
+    SetViewportOrgEx(to, at.x + kCellGap, at.y + kCellGap, nullptr);
     DrawScene(family, SceneOf(family, row), to, kSceneSize);
     SetViewportOrgEx(to, 0, 0, nullptr);
 }

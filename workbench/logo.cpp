@@ -5,13 +5,13 @@
 
 namespace {
 
-constexpr LONG kMargin = 12; // pixels of white around the logo
+constexpr LONG kLogoMargin = 12; // pixels of white around the logo
 constexpr SIZE kLogoSize = {176, 120};
 
 } // namespace
 
 Document DrawLogo(const FamilyFiles& family, const std::string& out) {
-    const Canvas canvas({kLogoSize.cx + 2 * kMargin, kLogoSize.cy + 2 * kMargin});
+    const Canvas canvas({kLogoSize.cx + 2 * kLogoMargin, kLogoSize.cy + 2 * kLogoMargin});
     EXPORT(family, DrawLogoVersionTab)(canvas.context, nullptr, canvas.size.cx / 2, canvas.size.cy / 2);
     return {{"files", FamilyDocument(family)}, {"picture", WritePicture(canvas, out)}};
 }

@@ -14,7 +14,7 @@ constexpr size_t kMostUnits = std::extent_v<decltype(ProfileEntry::name)> - 1; /
 constexpr struct {
     const char* name;
     std::vector<ProfileEntry> PrinterProfiles::*entries;
-} kLists[] = {
+} kProfileLists[] = {
     {"rgbSources", &PrinterProfiles::rgbSources},
     {"simulations", &PrinterProfiles::simulations},
     {"destinations", &PrinterProfiles::destinations},
@@ -50,7 +50,7 @@ void TakeLocation(const std::string& place, const Document& value, ProfileEntry&
 constexpr struct {
     const char* name;
     void (*take)(const std::string& place, const Document& value, ProfileEntry& entry);
-} kFields[] = {
+} kProfileFields[] = {
     {"name", TakeName},
     {"qualifier", TakeQualifier},
     {"location", TakeLocation},
@@ -74,7 +74,7 @@ ProfileEntry TakeEntry(const std::string& place, const Document& value) {
                       place + ": " + JsonForm(value) + " is no profile; possible: {\"name\": TEXT}");
     ProfileEntry entry = {};
     for (const auto& field : value.Fields())
-        FindRow(kFields, place, field.name).take(place + "." + field.name, field.value, entry);
+        FindRow(kProfileFields, place, field.name).take(place + "." + field.name, field.value, entry);
     if (entry.name[0] == 0)
         throw Failure(kExitFailed, place + ": lacks its name");
     return entry;
@@ -88,7 +88,7 @@ PrinterProfiles ReadPrinterProfiles(const std::string& path) {
     if (!document.IsObject())
         throw Failure(kExitFailed, path + ": holds no lists; possible: {\"rgbSources\": [...]}");
     for (const auto& list : document.Fields()) {
-        const auto& row = FindRow(kLists, path, list.name);
+        const auto& row = FindRow(kProfileLists, path, list.name);
         const std::string place = path + ": " + list.name;
         if (!list.value.IsList())
             throw Failure(kExitFailed, place + ": is no list; possible: [...]");

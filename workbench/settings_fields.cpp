@@ -24,12 +24,12 @@ Document ShowAt(const void* at) {
 #define PROFILE(field)                                                                                       \
     VALUE("profiles", field.qualifier), VALUE("profiles", field.name), VALUE("profiles", field.location)
 #define TRAY(slot)                                                                                           \
-    VALUE("trays", trays[slot].key), VALUE("trays", trays[slot].bin), VALUE("trays", trays[slot].mediaType), \
-        VALUE("trays", trays[slot].mediaWeight), VALUE("trays", trays[slot].mediaColor),                     \
-        VALUE("trays", trays[slot].mediaPrePunched)
+    VALUE("trays", slot.key), VALUE("trays", slot.bin), VALUE("trays", slot.mediaType),                      \
+        VALUE("trays", slot.mediaWeight), VALUE("trays", slot.mediaColor),                                   \
+        VALUE("trays", slot.mediaPrePunched)
 
 // Every field, in the order of the record within a group. The font table follows them.
-constexpr SettingsField kFields[] = {
+constexpr SettingsField kSettingsFields[] = {
     VALUE("paper", paper),
     VALUE("paper", paperWidth),
     VALUE("paper", paperLength),
@@ -56,16 +56,16 @@ constexpr SettingsField kFields[] = {
     VALUE("media", mediaWeight),
     VALUE("media", mediaColor),
     VALUE("media", mediaPrePunched),
-    TRAY(0),
-    TRAY(1),
-    TRAY(2),
-    TRAY(3),
-    TRAY(4),
-    TRAY(5),
-    TRAY(6),
-    TRAY(7),
-    TRAY(8),
-    TRAY(9),
+    TRAY(trays[0]),
+    TRAY(trays[1]),
+    TRAY(trays[2]),
+    TRAY(trays[3]),
+    TRAY(trays[4]),
+    TRAY(trays[5]),
+    TRAY(trays[6]),
+    TRAY(trays[7]),
+    TRAY(trays[8]),
+    TRAY(trays[9]),
     VALUE("layout", copies),
     VALUE("layout", bindingEdge),
     VALUE("layout", sameBindShifts),
@@ -159,7 +159,7 @@ void AddChange(Document& changes, const Document& name, size_t offset, const Doc
 } // namespace
 
 Rows<SettingsField> SettingsFields() {
-    return kFields;
+    return kSettingsFields;
 }
 
 Document ShowSetting(const SettingsField& field, const OemDevmode& settings) {
@@ -169,7 +169,7 @@ Document ShowSetting(const SettingsField& field, const OemDevmode& settings) {
 Document SettingsChanges(const OemDevmode& before, const OemDevmode& after) {
     Document changes = Document::MakeList();
     std::bitset<sizeof(OemDevmode)> named;
-    for (const SettingsField& field : kFields) {
+    for (const SettingsField& field : kSettingsFields) {
         for (size_t i = 0; i < field.bytes; ++i)
             named.set(field.offset + i);
         if (memcmp(At(before, field.offset), At(after, field.offset), field.bytes) != 0)

@@ -12,7 +12,7 @@ constexpr size_t kPageWidth = 128;
 constexpr size_t kLongTable = 24;  // more lines than this run side by side, if they are narrow enough
 constexpr size_t kMostNumbers = 5; // more numbers than this in one cell are only counted
 constexpr const char* kIndent = "  ";
-constexpr const char* kGap = "  ";
+constexpr const char* kFieldGap = "  ";
 constexpr const char* kColumnGap = "     ";
 
 // On the screen, in columns: one for every byte that doesn't continue another one, and one more for the wide
@@ -65,14 +65,14 @@ std::string WithoutEnd(const std::string& line) {
 }
 
 // One column of a table: its title, then its cells, all of one width.
-using Column = std::vector<std::string>;
+using TextColumn = std::vector<std::string>;
 
 bool IsBlank(const std::string& text) {
     return text.find_first_not_of(' ') == std::string::npos;
 }
 
-Column MakeColumn(const Document& rows, const std::string& field) {
-    Column column = {Title(field)};
+TextColumn MakeColumn(const Document& rows, const std::string& field) {
+    TextColumn column = {Title(field)};
     bool right = true; // numbers are aligned on the right
     for (const Document& row : rows.Elements()) {
         const Document& value = row[field];
@@ -87,10 +87,10 @@ Column MakeColumn(const Document& rows, const std::string& field) {
     return column;
 }
 
-std::vector<Column> MakeColumns(const Document& rows) {
-    std::vector<Column> columns;
+std::vector<TextColumn> MakeColumns(const Document& rows) {
+    std::vector<TextColumn> columns;
     for (const auto& field : rows.Elements()[0].Fields()) {
-        Column column = MakeColumn(rows, field.name);
+        TextColumn column = MakeColumn(rows, field.name);
         if (!std::all_of(column.begin() + 1, column.end(), IsBlank))
             columns.push_back(std::move(column));
     }
@@ -98,16 +98,16 @@ std::vector<Column> MakeColumns(const Document& rows) {
 }
 
 // Takes the columns from `next` on that fit the page beside the first column, and moves `next` behind them.
-std::vector<std::string> TakePage(const std::vector<Column>& columns, size_t& next) {
+std::vector<std::string> TakePage(const std::vector<TextColumn>& columns, size_t& next) {
     const bool continued = next > 1;
     std::vector<std::string> lines = columns[0];
     std::vector<bool> blank(lines.size(), continued);
     for (const size_t first = next; next < columns.size(); ++next) {
-        const Column& column = columns[next];
-        if (next > first && Width(lines[0] + kGap + column[0]) > kPageWidth)
+        const TextColumn& column = columns[next];
+        if (next > first && Width(lines[0] + kFieldGap + column[0]) > kPageWidth)
             break;
         for (size_t i = 0; i < lines.size(); ++i) {
-            lines[i] += kGap + column[i];
+            lines[i] += kFieldGap + column[i];
             blank[i] = blank[i] && IsBlank(column[i]);
         }
     }
@@ -136,7 +136,7 @@ std::string Page(const std::vector<std::string>& lines) {
 std::string Table(const Document& rows) {
     if (rows.Elements().empty())
         return "";
-    const std::vector<Column> columns = MakeColumns(rows);
+    const std::vector<TextColumn> columns = MakeColumns(rows);
     std::string text;
     size_t next = 1;
     do
@@ -151,8 +151,8 @@ std::string Pairs(const Document& object) {
         width = std::max(width, Width(Title(field.name)));
     std::string text;
     for (const auto& field : object.Fields())
-        text +=
-            WithoutEnd(kIndent + Padded(Title(field.name), width, false) + kGap + Cell(field.value)) + "\n";
+        text += WithoutEnd(kIndent + Padded(Title(field.name), width, false) + kFieldGap + Cell(field.value))
+                + "\n";
     return text;
 }
 

@@ -18,8 +18,8 @@ struct Library {
 };
 
 std::list<Library> libraries;
-std::vector<std::string> calls;      // in the words of LibraryCalls()
-std::vector<wchar_t> moduleFileName; // with its terminator; empty: not set
+std::vector<std::string> libraryCalls; // in the words of LibraryCalls()
+std::vector<wchar_t> moduleFileName;   // with its terminator; empty: not set
 
 Library* FromHandle(HMODULE handle) {
     for (Library& library : libraries)
@@ -32,7 +32,7 @@ Library* FromHandle(HMODULE handle) {
 
 HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
     const std::string wanted = platform::ToUtf8(path);
-    calls.push_back("load " + wanted);
+    libraryCalls.push_back("load " + wanted);
     for (Library& library : libraries)
         if (library.path == wanted) {
             ++library.references;
@@ -43,7 +43,7 @@ HMODULE WINAPI LoadLibraryW(LPCWSTR path) {
 }
 
 FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
-    calls.push_back(std::string("find ") + name);
+    libraryCalls.push_back(std::string("find ") + name);
     if (const Library* library = FromHandle(handle))
         for (const platform::Export& function : library->exports)
             if (std::string(function.name) == name)
@@ -58,7 +58,7 @@ BOOL WINAPI FreeLibrary(HMODULE handle) {
         SetLastError(ERROR_INVALID_HANDLE);
         return FALSE;
     }
-    calls.push_back("free " + library->path);
+    libraryCalls.push_back("free " + library->path);
     --library->references;
     platform::Released();
     return TRUE;
@@ -81,7 +81,7 @@ namespace platform {
 
 void ResetModules() {
     libraries.clear();
-    calls.clear();
+    libraryCalls.clear();
     moduleFileName.clear();
 }
 
@@ -97,7 +97,7 @@ void RegisterLibrary(const wchar_t* path, const std::vector<Export>& exports) {
 }
 
 std::vector<std::string> LibraryCalls() {
-    return calls;
+    return libraryCalls;
 }
 
 void SetModuleFileName(const wchar_t* path) {

@@ -15,7 +15,6 @@ namespace {
 using Texts = std::vector<std::string>;
 
 constexpr DWORD kUntouched = 777; // a last error that nobody sets
-constexpr const char* kAgent = "192.0.2.7";
 const std::string kSysObjectId = ".1.3.6.1.2.1.1.2.0";
 const std::string kMemory = ".1.3.6.1.2.1.25.2.3.1.5.1";
 const std::string kHardDisk = ".1.3.6.1.2.1.25.2.3.1.5.2";

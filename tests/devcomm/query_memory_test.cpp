@@ -8,7 +8,6 @@
 
 namespace {
 
-constexpr const char* kAgent = "192.0.2.7";
 constexpr size_t kHeader[] = {16, 48}; // of the overlays' block, of the profiles'
 
 void* Ask(bool profiles) {
@@ -16,15 +15,15 @@ void* Ask(bool profiles) {
 }
 
 // Forty of each: columns 2 and 5 are numbers, 3 and 4 texts. A profile is then in two lists.
-void Script(ScriptedDevice& device) {
+void Script(ScriptedDevice& scripted) {
     for (const char* table : {"12", "13"})
         for (const char* column : {"2", "3", "4", "5"})
             for (int row = 1; row <= 40; ++row) {
                 std::ostringstream object;
                 object << ".1.3.6.1.4.1.47913.1.1.1.1.6." << table << ".1.1." << column << ".1." << row;
-                device.answers[object.str()] = *column == '2'   ? Number(1)
-                                               : *column == '5' ? Number(3)
-                                                                : Text("text");
+                scripted.answers[object.str()] = *column == '2'   ? Number(1)
+                                                 : *column == '5' ? Number(3)
+                                                                  : Text("text");
             }
 }
 
@@ -34,9 +33,9 @@ TEST(QueryMemory, EachAllocationFailing) {
             bool done = false;
             for (unsigned failing = 1; !done; ++failing) {
                 SCOPED_TRACE(failing);
-                ScriptedDevice device;
+                ScriptedDevice scripted;
                 if (!isEmpty)
-                    Script(device);
+                    Script(scripted);
                 const platform::Counts before = platform::Count();
                 platform::FailAllocations(failing);
                 void* block = Ask(profiles);

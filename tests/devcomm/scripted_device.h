@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+constexpr const char* kAgent = "192.0.2.7"; // its address
+
 // A reply, or none: the request then fails with this last error.
 struct Answer {
     BYTE type = ASN_NULL;

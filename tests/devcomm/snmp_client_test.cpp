@@ -12,7 +12,7 @@ namespace {
 using platform::Datagram;
 using Datagrams = std::vector<Datagram>;
 
-constexpr DWORD kUntouched = 777; // a last error that nobody sets
+constexpr DWORD kErrorBefore = 777; // a last error that nobody sets
 constexpr AsnInteger32 kNothing = 0x5A5A5A5A;
 
 const Octets kSmallest = Hex("30 21 02 01 00 04 00 A0 1A 02 02 01 01 02 01 00 02 01 00 30 0E 30 0C 06 08 2B"
@@ -49,25 +49,25 @@ struct Client {
     }
     ~Client() {
         ClientVarBindListFree(&list);
-        SetLastError(kUntouched);
+        SetLastError(kErrorBefore);
         EXPECT_EQ(ClientClose(session), TRUE);
-        EXPECT_EQ(GetLastError(), kUntouched) << "a caller then sees why the request failed";
+        EXPECT_EQ(GetLastError(), kErrorBefore) << "a caller then sees why the request failed";
     }
     Client(const Client&) = delete;
     Client& operator=(const Client&) = delete;
 
     bool Request(BYTE type = SNMP_PDU_GET) {
-        SetLastError(kUntouched);
+        SetLastError(kErrorBefore);
         return ClientRequest(session, type, &list, &status, &index) != 0;
     }
 
     // The last error of a request that fails and leaves the list as it was.
     DWORD Failure() {
         const std::string before = Image();
-        const int blocks = platform::Count().localBlocks;
+        const int blocksBefore = platform::Count().localBlocks;
         EXPECT_FALSE(Request());
         EXPECT_EQ(Image(), before);
-        EXPECT_EQ(platform::Count().localBlocks, blocks);
+        EXPECT_EQ(platform::Count().localBlocks, blocksBefore);
         return GetLastError();
     }
 
@@ -149,7 +149,7 @@ TEST(SnmpOpen, Failures) {
         platform::Wire wire;
         c.prepare(wire);
         platform::SetWire(wire);
-        SetLastError(kUntouched);
+        SetLastError(kErrorBefore);
         EXPECT_EQ(ClientOpen(c.agent, "tovask", 2000, 3), nullptr);
         EXPECT_EQ(GetLastError(), c.lastError);
         const platform::Counts left = platform::Count();
@@ -308,7 +308,7 @@ TEST(SnmpReceive, SeveralVarBinds) {
     const Octets pdu = Element(0xA2, {reply.requestId, reply.status, reply.index, varBinds});
     Client client(Answering({Element(0x30, {reply.version, reply.community, pdu})}), "tovask", 2);
     ASSERT_TRUE(client.Request());
-    EXPECT_EQ(GetLastError(), kUntouched);
+    EXPECT_EQ(GetLastError(), kErrorBefore);
     const AsnOctetString& text = client.list.list[0].value.asnValue.string;
     EXPECT_EQ(Octets(text.stream, text.stream + text.length), Hex("61 62"));
     const UINT asked[] = {1, 3, 6, 1, 2, 1, 1, 2, 0};
@@ -324,7 +324,7 @@ TEST(SnmpReceive, StaleReplies) {
         Client client(Answering(replies));
         if (stale < 5) {
             EXPECT_TRUE(client.Request());
-            EXPECT_EQ(GetLastError(), kUntouched);
+            EXPECT_EQ(GetLastError(), kErrorBefore);
         } else {
             EXPECT_EQ(client.Failure(), 3u);
         }
@@ -347,7 +347,7 @@ TEST(SnmpReceive, StaleAndMore) {
         bool succeeds;
         DWORD lastError;
     } cases[] = {
-        {{stale.Message(), kReply}, true, kUntouched},
+        {{stale.Message(), kReply}, true, kErrorBefore},
         {{foreign.Message(), kReply}, true, 5},
         {{nameless.Message(), kReply}, false, 11},
         {{kStale, {}, kReply}, false, 11}, // empty, with the stale one still in the buffer
@@ -386,7 +386,7 @@ TEST(SnmpReceive, CommunityIsComparedOverTheReplysLength) {
         reply.community = Element(0x04, {Characters(c.reply)});
         Client client(Answering({reply.Message()}), c.session);
         EXPECT_TRUE(client.Request());
-        EXPECT_EQ(GetLastError(), c.same ? kUntouched : 5u);
+        EXPECT_EQ(GetLastError(), c.same ? kErrorBefore : 5u);
         EXPECT_EQ(client.list.list[0].value.asnValue.number, 42);
     }
 }
@@ -447,11 +447,11 @@ TEST(SnmpReceive, WithoutMemory) {
     }
     AsnObjectIdentifier oid;
     platform::FailAllocations(1);
-    SetLastError(kUntouched);
+    SetLastError(kErrorBefore);
     EXPECT_FALSE(ClientStrToOid("1.3", &oid));
     EXPECT_TRUE(oid.ids == nullptr);
     EXPECT_EQ(oid.idLength, 0u);
-    EXPECT_EQ(GetLastError(), kUntouched);
+    EXPECT_EQ(GetLastError(), kErrorBefore);
 }
 
 } // namespace

@@ -11,7 +11,6 @@ namespace {
 using Texts = std::vector<std::string>;
 using Answers = std::map<std::string, Answer>;
 
-constexpr const char* kAgent = "192.0.2.7";
 const std::string kOverlay = ".1.3.6.1.4.1.47913.1.1.1.1.6.12.1.1.";
 const std::string kProfile = ".1.3.6.1.4.1.47913.1.1.1.1.6.13.1.1.";
 const Answer kAbsent = Answer{ASN_NULL}.With(2, 1);

@@ -189,7 +189,7 @@ TEST_P(ColorDialogs, OpenAndRefreshInOrder) {
     EXPECT_EQ(driver.Shown(kImages), driver.Has(kImages));
     EXPECT_EQ(driver.Shown(kText), 0);
     for (const auto& [list, entries] :
-         {std::pair(1504, lists ? kRgb : kRgbItems), {1634, "Device RGB=0|sRGB=1"}, {1525, kDestinations}})
+         {std::pair(1504, lists ? kRgb : kBuiltInRgb), {1634, "Device RGB=0|sRGB=1"}, {1525, kDestinations}})
         EXPECT_EQ(driver.Entries(list), driver.Has(list) ? entries : "") << list;
 
     driver.events.clear();

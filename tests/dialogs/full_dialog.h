@@ -6,12 +6,12 @@
 #include "dialog_driver.h"
 
 // clang-format off
-inline const std::string kRgbItems =
+inline const std::string kBuiltInRgb =
     "Device RGB=0|sRGB=1|Adobe RGB (1998)=128|Apple RGB=129|CIE RGB=130|ColorMatch RGB=131|NTSC (1953)=132|PAL=133|"
     "SMPTE-C=134|sRGB (monitor)=135|Wide gamut RGB=136|SMPTE-240M=137|Print server RGB=138|sRGB (standard)=139|"
     "ProPhoto RGB=140|sRGB (blue adjusted)=141";
 inline const std::string
-    kRgb          = kRgbItems + "|Camera Hard disk=256|Scanner (Office) Memory=257",
+    kRgb          = kBuiltInRgb + "|Camera Hard disk=256|Scanner (Office) Memory=257",
     kMatch        = "Vivid=0|Photographic=1|Proof=2|Exact match=3",
     kGray         = "Four-colour black=0|Black and grey=1|Black toner only=2",
     kHalftone     = "Finest detail=0|Detail=1|Smooth gradation=2",

@@ -21,7 +21,7 @@ TEST_F(FullDialog, OffersNoProfilesThatTheContextLacks) {
     context.shortRgbLists = 0;
     lists.rgbSources.entries = lists.destinations.entries = lists.simulations.entries = nullptr;
     Tell(WM_USER + 100);
-    EXPECT_EQ(Entries(1509) + Entries(1584) + Entries(1524), kRgbItems + "Automatic=0" + kSimuItems);
+    EXPECT_EQ(Entries(1509) + Entries(1584) + Entries(1524), kBuiltInRgb + "Automatic=0" + kSimuItems);
 }
 
 // A stored choice -> what it becomes, and which entry shows it.
@@ -107,7 +107,8 @@ TEST_F(FullDialog, ProfilesWithoutMemoryForTheirTextEndTheList) {
     failingAllocation = 4;
     Tell(WM_USER + 100);
     EXPECT_EQ(Entries(1599), "Automatic=0|Press A Built in=128");
-    for (const auto& [entry, entries] : {std::pair(3, std::string("Device RGB=0|sRGB=1")), {17, kRgbItems}}) {
+    for (const auto& [entry, entries] :
+         {std::pair(3, std::string("Device RGB=0|sRGB=1")), {17, kBuiltInRgb}}) {
         failingEntry = entry; // no room for it
         Tell(WM_USER + 100);
         EXPECT_EQ(Entries(1504), entries);

@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-const auto kInstance = reinterpret_cast<HINSTANCE>(uintptr_t{0x10000});
+const auto kModule = reinterpret_cast<HINSTANCE>(uintptr_t{0x10000});
 
 // The module lies in a folder of its own, with the resource module beside it.
 struct StartUpTest : ParameterDataTest {
@@ -34,14 +34,14 @@ struct StartUpTest : ParameterDataTest {
             .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
     }
     static void Attach() {
-        EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
+        EXPECT_EQ(DllMain(kModule, DLL_PROCESS_ATTACH, nullptr), TRUE);
         EXPECT_NE(ResourceModule(), nullptr);
         EXPECT_EQ(platform::Count().files, 0) << "the parameter data file is closed again";
     }
     // As often as one likes: the second time there is nothing left to release.
     static void Detach(int times = 1) {
         for (int i = 0; i < times; ++i) {
-            EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
+            EXPECT_EQ(DllMain(kModule, DLL_PROCESS_DETACH, nullptr), TRUE);
             EXPECT_EQ(deviceTable, nullptr);
             EXPECT_EQ(mediaTypeLists, nullptr);
             EXPECT_EQ(platform::Count().globalBlocks, 0);

@@ -123,7 +123,7 @@ TEST(WorkbenchDialog, PicturesAndContext) {
     const std::string path = folder.path.u8string();
     const Json open = folder.Run("picture " + path + "/a.png\nchoose 1504 CIE RGB\nclick 1526\ncancel",
                                  L"--out \"" + folder.path.wstring() + L"/b.png\"");
-    const Json pictures = open["pictures"];
+    const Json& pictures = open["pictures"];
     for (const Json& picture : pictures)
         EXPECT_EQ(picture["width"], frame.right - frame.left);
     EXPECT_EQ(pictures[0]["height"], frame.bottom - frame.top);

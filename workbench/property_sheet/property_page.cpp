@@ -144,7 +144,7 @@ void PropertyPage::FitColumn(int id, WPARAM column) const {
     Send(id, LVM_GETCOLUMNW, column, reinterpret_cast<LPARAM>(&shown));
     Send(id, LVM_SETCOLUMNWIDTH, column, LVSCW_AUTOSIZE_USEHEADER);
     const LRESULT needed =
-        Send(id, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title)) + 2 * FontHeight();
+        Send(id, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title)) + LRESULT{2} * FontHeight();
     if (Send(id, LVM_GETCOLUMNWIDTH, column) < needed)
         Send(id, LVM_SETCOLUMNWIDTH, column, needed);
 }

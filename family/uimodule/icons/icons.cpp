@@ -115,8 +115,8 @@ std::string IconFile(const Icon& icon) {
     PutNumber(file, kCount, 2);
     for (const int scale : kScales) {
         const std::string image = Image(icon, scale);
-        PutNumber(file, static_cast<size_t>(kSize * scale), 1);
-        PutNumber(file, static_cast<size_t>(kSize * scale), 1);
+        PutNumber(file, size_t{kSize} * static_cast<size_t>(scale), 1);
+        PutNumber(file, size_t{kSize} * static_cast<size_t>(scale), 1);
         PutNumber(file, 0, 2);  // no colour table
         PutNumber(file, 1, 2);  // planes
         PutNumber(file, 32, 2); // bits per pixel

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr Color kPaper = {255, 255, 255};
+constexpr Color kBlankPaper = {255, 255, 255};
 constexpr double kOwned = 0.5; // coverage from which a pixel where two parts meet is the body's
 
 struct UnitRow {
@@ -64,7 +64,7 @@ Picture BasePicture(const Raster<Sample>& base, const std::vector<RenderedUnit>&
         if (std::any_of(units.begin(), units.end(),
                         [i](const RenderedUnit& unit) { return unit.behind.pixels[i].coverage > 0; }))
             sample.coverage = sample.coverage >= kOwned ? 1 : 0;
-        picture.pixels[i] = Round(Over(sample, kPaper));
+        picture.pixels[i] = Round(Over(sample, kBlankPaper));
     }
     return picture;
 }
@@ -78,7 +78,7 @@ Picture WantedUnit(const RenderedUnit& unit, const Raster<Sample>& base, const P
         const Sample& before = unit.before.pixels[i];
         if (behind.coverage > 0 || before.coverage > 0)
             picture.pixels[i] =
-                Round(Over(before, Over(behind, isBase ? ToColor(basePicture.pixels[i]) : kPaper)));
+                Round(Over(before, Over(behind, isBase ? ToColor(basePicture.pixels[i]) : kBlankPaper)));
     }
     return picture;
 }
