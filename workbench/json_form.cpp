@@ -29,7 +29,12 @@ Json ToJson(const Document& document) {
     return json;
 }
 
-Document FromJson(const Json& json) {
+constexpr int kMaxDepth = 64; // of values in values, which are gone through by recursion
+
+// Throws std::length_error when values lie deeper than that.
+Document FromJson(const Json& json, int depth = 0) {
+    if (depth > kMaxDepth)
+        throw std::length_error("too deep");
     if (json.is_boolean())
         return json.get<bool>();
     if (json.is_number_float() || (json.is_number_unsigned() && json.get<uint64_t>() > INT64_MAX))
@@ -41,12 +46,12 @@ Document FromJson(const Json& json) {
     if (json.is_array()) {
         Document list = Document::MakeList();
         for (const Json& element : json)
-            list.Add(FromJson(element));
+            list.Add(FromJson(element, depth + 1));
         return list;
     }
     Document object = json.is_object() ? Document(std::initializer_list<Document>{}) : Document();
     for (const auto& field : json.items())
-        object[field.key()] = FromJson(field.value());
+        object[field.key()] = FromJson(field.value(), depth + 1);
     return object;
 }
 
@@ -59,6 +64,9 @@ std::string JsonForm(const Document& document, int indent) {
 Document ParseJson(const std::string& text, const std::string& name) {
     try {
         return FromJson(Json::parse(text));
+    } catch (const std::length_error&) {
+        throw Failure(kExitFailed, name + ": values lie more than " + std::to_string(kMaxDepth)
+                                       + " levels deep; remove what is not needed");
     } catch (const Json::parse_error& error) {
         // The byte that could not be read, counted from 1; the text's end counts as one.
         const std::string before = text.substr(0, error.byte - 1);

@@ -189,6 +189,8 @@ TEST(WorkbenchDialog, SaysWhatIsWrong) {
         {"--profiles", R"({"rgbSources": [{"name": ""}]})", 1, "wrong: rgbSources\\[0\\]: lacks its name"},
         {"--profiles", R"({"cmyk": []})", 1, "'cmyk'; possible: rgbSources, simulations, destinations"},
         {"--profiles", "{", 1, "wrong: not JSON; see line 1, column 2\n"},
+        {"--profiles", std::string(100000, '[') + std::string(100000, ']'), 1,
+         "wrong: values .* levels deep"},
     };
     for (const auto& c : cases)
         ExpectFailure(L"dialog 128 " + fs::path(c.option).wstring() + folder.Write("wrong", c.file),
