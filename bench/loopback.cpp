@@ -61,7 +61,7 @@ Server SimulatedPrinter(const std::string& arguments) {
     const int process = fork();
     if (process == 0) {
         dup2(ends[1], STDOUT_FILENO);
-        const std::string command = "exec " HOST_TOOLS "/simprinter --port 0 " + arguments;
+        const std::string command = "exec '" HOST_TOOLS "/simprinter' --port 0 " + arguments;
         execl("/bin/sh", "sh", "-c", command.c_str(), static_cast<char*>(nullptr));
         _exit(1);
     }

@@ -27,7 +27,7 @@ Run WithAddress(CLI::App& command) {
 template <Document (*kCommand)(const FamilyFiles& family, const std::string& out)>
 Run WithOut(CLI::App& command) {
     const auto out = std::make_shared<std::string>();
-    command.add_option("--out", *out, "Where to write the picture")->type_name("FILE")->required();
+    command.add_option("--out", *out, "Where to write the PNG file")->type_name("FILE")->required();
     return [out](const FamilyFiles& family) { return kCommand(family, *out); };
 }
 

@@ -67,6 +67,8 @@ Document ParseJson(const std::string& text, const std::string& name) {
     } catch (const std::length_error&) {
         throw Failure(kExitFailed, name + ": values lie more than " + std::to_string(kMaxDepth)
                                        + " levels deep; remove what is not needed");
+    } catch (const Json::out_of_range&) {
+        throw Failure(kExitFailed, name + ": not JSON that can be read; a number is too large");
     } catch (const Json::parse_error& error) {
         // The byte that could not be read, counted from 1; the text's end counts as one.
         const std::string before = text.substr(0, error.byte - 1);

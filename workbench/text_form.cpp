@@ -3,6 +3,8 @@
 // its first column again and only the rows that have something there.
 #include "text_form.h"
 
+#include "json_form.h"
+
 #include <algorithm>
 #include <cctype>
 
@@ -50,6 +52,8 @@ std::string Cell(const Document& value) {
         return std::to_string(value.Integer());
     if (value.IsText())
         return value.Text();
+    if (value.IsNumber() || value.IsObject())
+        return JsonForm(value);
     const Document::List& elements = value.Elements();
     if (elements.size() > kMostNumbers && elements[0].IsNumber())
         return "(" + std::to_string(elements.size()) + " numbers)";

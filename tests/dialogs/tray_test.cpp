@@ -341,7 +341,7 @@ TEST(TrayDialogs, HaveBothIconsOrNone) {
                                      {dialog.module.handle, LoadImageW, LoadOne},
                                      {dialog.module.handle, ImageList_ReplaceIcon, AddIcon}};
     std::optional<LiveObjects> before;
-    for (int call = 8; call > 0; --call) { // from 5 on, of the five
+    for (int call = 8; call > 0; --call) { // calls beyond the fifth do not come, so none fails
         failingCall = call;
         dialog.PressButton();
         EXPECT_EQ(dialog.List(LVM_GETIMAGELIST, LVSIL_SMALL) != 0, call > 5) << call;

@@ -189,6 +189,7 @@ TEST(WorkbenchDialog, SaysWhatIsWrong) {
         {"--profiles", R"({"rgbSources": [{"name": ""}]})", 1, "wrong: rgbSources\\[0\\]: lacks its name"},
         {"--profiles", R"({"cmyk": []})", 1, "'cmyk'; possible: rgbSources, simulations, destinations"},
         {"--profiles", "{", 1, "wrong: not JSON; see line 1, column 2\n"},
+        {"--profiles", R"({"rgbSources": 1e999})", 1, "wrong: .*number is too large\n"},
         {"--profiles", std::string(100000, '[') + std::string(100000, ']'), 1,
          "wrong: values .* levels deep"},
     };

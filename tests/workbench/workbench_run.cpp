@@ -15,14 +15,17 @@ struct OutputFile {
             L"output" + std::to_wstring(GetCurrentProcessId()) + L"." + std::to_wstring(++count);
         SECURITY_ATTRIBUTES inheritable = {sizeof(inheritable), nullptr, TRUE};
         handle = CreateFileW((ProgramFolder() / name).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE,
-                             FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inheritable, CREATE_NEW,
-                             FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+                             FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inheritable,
+                             CREATE_ALWAYS, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+        EXPECT_NE(handle, INVALID_HANDLE_VALUE) << "error " << GetLastError();
     }
     ~OutputFile() { CloseHandle(handle); }
     OutputFile(const OutputFile&) = delete;
     OutputFile& operator=(const OutputFile&) = delete;
 
     std::string Contents() const {
+        if (handle == INVALID_HANDLE_VALUE)
+            return "";
         std::string text(GetFileSize(handle, nullptr), '\0');
         SetFilePointer(handle, 0, nullptr, FILE_BEGIN);
         DWORD read = 0;

@@ -294,7 +294,7 @@ static_assert(
         size_t inOrder = 0;
         while (inOrder < std::size(kKinds) && kKinds[inOrder].kind == static_cast<ColorControlKind>(inOrder))
             ++inOrder;
-        return inOrder == std::size(kKinds) && kKinds[inOrder - 1].kind == ColorControlKind::kGraphicsChoice;
+        return inOrder == static_cast<size_t>(ColorControlKind::kCount);
     }(),
     "a row for each kind, in the order of the kinds");
 

@@ -19,6 +19,7 @@ enum class ColorControlKind {
     kSimulation,     // items, then the printer's simulation profiles
     kCheckBox,       // 0 or 1
     kGraphicsChoice, // two radio buttons: graphics take the image or the text settings
+    kCount
 };
 
 // One control. A choice of one of the printer's profiles is remembered as a copy of it, too.
