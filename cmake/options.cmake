@@ -23,7 +23,7 @@ option(BENCH "Build the benchmarks" OFF)
 
 # With ccache what was compiled once is not compiled again, in another clone either.
 find_program(CCACHE ccache)
-if(CCACHE)
+if(CCACHE AND EXISTS "${CCACHE}" AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=1
         "${CCACHE}")
 endif()
