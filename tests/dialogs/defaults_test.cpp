@@ -108,6 +108,7 @@ TEST_F(Defaults, AreNoneWithoutTheirArea) {
 
 // The functions themselves, linked in, for what the dialogs don't reach.
 TEST(DefaultSettings, StayWithoutThePaperOfTheRegion) {
+    const OemDevmode before = defaultSettings;
     PaperSizeRecord papers[2] = {};
     papers[0].head.key[0] = 'X';
     DeviceTable table = {};
@@ -117,6 +118,7 @@ TEST(DefaultSettings, StayWithoutThePaperOfTheRegion) {
         LocalizeDefaultOemDevmode(without);
         EXPECT_EQ(defaultSettings.paper, 77);
     }
+    defaultSettings = before;
 }
 
 HANDLE closed;

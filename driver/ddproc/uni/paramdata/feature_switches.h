@@ -103,7 +103,8 @@ inline constexpr FeatureSwitchRow kFeatureSwitches[] = {
 constexpr size_t kFeatureSwitchCount = sizeof(kFeatureSwitches) / sizeof(kFeatureSwitches[0]);
 static_assert(kFeatureSwitchCount == 85);
 
-// Position of the first row of this name. A name that no row has does not compile.
+// Position of the first row of this name, for constant expressions only: there a name that no row has does
+// not compile.
 constexpr size_t SwitchPosition(const char* name) {
     for (size_t i = 0;; ++i) {
         const char* row = kFeatureSwitches[i].name;
