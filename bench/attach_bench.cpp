@@ -1,9 +1,10 @@
 // Work per process attach and detach: the device data built from the shipped model's file and released,
 // against the least that any reader does (open, read into memory, close); and the same for files of ever more
 // items.
-#include "paramdata/device_data.h"
+#include "frame/device_data.h"
 #include "platform_control.h"
 #include "synthetic_file.h"
+#include "trays/media_type_lists.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>

@@ -1,8 +1,8 @@
 // Device capabilities of the shipped model: the bin numbers and names of the paper sources whose option is
 // installed, against the same lists copied without a question.
+#include "base/text.h"
 #include "paramdata/prm_file.h"
-#include "paramdata/text.h"
-#include "picture/device_capabilities.h"
+#include "picture/capabilities/device_capabilities.h"
 
 #include <benchmark/benchmark.h>
 #include <cstring>

@@ -2,11 +2,11 @@
 // same agent on loopback, these also against a bare UDP echo; all the options of a printer asked at once; and
 // how long a silent agent is waited for.
 #include "devcomm/model.h"
-#include "devcomm/printer_queries.h"
-#include "devcomm/snmp_client.h"
-#include "devcomm/snmp_entry_points.h"
-#include "devcomm/snmp_message.h"
-#include "devcomm/snmp_values.h"
+#include "devcomm/queries/printer_queries.h"
+#include "devcomm/snmp/snmp_client.h"
+#include "devcomm/snmp/snmp_entry_points.h"
+#include "devcomm/snmp/snmp_message.h"
+#include "devcomm/snmp/snmp_values.h"
 #include "loopback.h"
 #include "net_snmp_peer.h"
 #include "platform_control.h"

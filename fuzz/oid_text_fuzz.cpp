@@ -3,9 +3,9 @@
 // its BER octets. Run by libFuzzer and, over a fixed set of inputs, by the regression test.
 #include "require.h"
 
-#include "devcomm/ber_reader.h"
-#include "devcomm/ber_writer.h"
-#include "devcomm/snmp_values.h"
+#include "devcomm/snmp/ber_reader.h"
+#include "devcomm/snmp/ber_writer.h"
+#include "devcomm/snmp/snmp_values.h"
 #include "platform_control.h"
 
 #include <string>

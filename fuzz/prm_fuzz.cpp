@@ -4,9 +4,8 @@
 #include "../tests/support/compiled_in.h"
 #include "require.h"
 
+#include "base/text.h"
 #include "frame/entry.h"
-#include "paramdata/device_data.h"
-#include "paramdata/text.h"
 #include "platform_control.h"
 
 #include <cstring>

@@ -4,9 +4,9 @@
 // of inputs, by the regression test.
 #include "require.h"
 
-#include "devcomm/snmp_client.h"
-#include "devcomm/snmp_message.h"
-#include "devcomm/snmp_values.h"
+#include "devcomm/snmp/snmp_client.h"
+#include "devcomm/snmp/snmp_message.h"
+#include "devcomm/snmp/snmp_values.h"
 #include "platform_control.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Text services, see text.h. UTF-8 follows the Unicode rules: no overlong forms, no surrogates.
 #include "hosttools/text.h"
 
-#include "paramdata/text.h"
+#include "base/text.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -2,9 +2,9 @@
 // schema and from the table of feature switches.
 #include "prmc/rules.h"
 
+#include "base/text.h"
 #include "hosttools/text.h"
 #include "paramdata/feature_switches.h"
-#include "paramdata/text.h"
 
 #include <algorithm>
 #include <set>

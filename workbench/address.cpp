@@ -1,7 +1,7 @@
 // `workbench address`: asks the module's DDProc_GetPrinterIPAddress as the user-interface module does, for
 // the size first, then for the address; of a settings record that carries an address, or of a print queue.
 #include "commands.h"
-#include "devcomm/printer_address.h"
+#include "devcomm/address/printer_address.h"
 #include "output.h"
 
 namespace {

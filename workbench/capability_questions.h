@@ -3,7 +3,7 @@
 #define WORKBENCH_CAPABILITY_QUESTIONS_H
 
 #include "option_features.h"
-#include "picture/device_capabilities.h"
+#include "picture/capabilities/device_capabilities.h"
 
 #include <vector>
 

@@ -1,9 +1,9 @@
 // A printer's options over both roads: see the header.
 #include "device_options.h"
 
-#include "devcomm/printer_queries.h"
-#include "devcomm/snmp_errors.h"
-#include "paramdata/text.h"
+#include "base/text.h"
+#include "devcomm/queries/printer_queries.h"
+#include "devcomm/snmp/snmp_errors.h"
 #include "record_fields.h"
 
 namespace {

@@ -3,7 +3,7 @@
 #ifndef WORKBENCH_DEVICE_OPTIONS_H
 #define WORKBENCH_DEVICE_OPTIONS_H
 
-#include "devcomm/device_status.h"
+#include "devcomm/bidi/device_status.h"
 #include "family_files.h"
 
 #include <vector>

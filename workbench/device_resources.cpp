@@ -1,8 +1,8 @@
 // What a printer tells besides its options: see the header.
 #include "device_resources.h"
 
+#include "base/text.h"
 #include "device_options.h"
-#include "paramdata/text.h"
 
 namespace {
 

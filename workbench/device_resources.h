@@ -2,7 +2,7 @@
 #ifndef WORKBENCH_DEVICE_RESOURCES_H
 #define WORKBENCH_DEVICE_RESOURCES_H
 
-#include "devcomm/printer_queries.h"
+#include "devcomm/queries/printer_queries.h"
 #include "family_files.h"
 
 #include <array>

@@ -3,7 +3,7 @@
 // it.
 #include "dialog_run.h"
 
-#include "frame/scope_guard.h"
+#include "base/scope_guard.h"
 #include "output.h"
 
 #include <exception>

@@ -5,8 +5,8 @@
 
 #include "dialog_script.h"
 #include "dialog_view.h"
-#include "dialogs/dialog_context.h"
-#include "dialogs/dlg_proc.h"
+#include "dialogs/shared/dialog_context.h"
+#include "frame/dlg_proc.h"
 #include "paramdata/device_table.h"
 #include "profile_file.h"
 

@@ -2,8 +2,8 @@
 #include "dialog_script.h"
 
 #include "dialog_view.h"
-#include "dialogs/color_dialog.h"
-#include "dialogs/dlg_proc.h"
+#include "dialogs/color/color_dialog.h"
+#include "frame/dlg_proc.h"
 #include "input_file.h"
 
 #include <algorithm>

@@ -4,7 +4,8 @@
 #define WORKBENCH_FAMILY_FILES_H
 
 #include "document.h"
-#include "paramdata/device_data.h"
+#include "frame/device_data.h"
+#include "paramdata/device_table.h"
 #include "paramdata/prm_file.h"
 
 #include <filesystem>

@@ -1,5 +1,5 @@
 // `workbench logo`: has the module draw the logo picture of the version page, and writes it.
-#include "picture/logo.h"
+#include "picture/view/logo.h"
 #include "commands.h"
 #include "picture_file.h"
 

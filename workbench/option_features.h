@@ -5,7 +5,7 @@
 
 #include "document.h"
 #include "family_files.h"
-#include "picture/feature_table.h"
+#include "picture/capabilities/feature_table.h"
 
 #include <memory>
 #include <vector>

@@ -1,8 +1,8 @@
 // One picture of the printer: see the header.
 #include "printer_scene.h"
 
-#include "paramdata/text.h"
-#include "picture/printer_view.h"
+#include "base/text.h"
+#include "picture/view/printer_view.h"
 
 void DrawScene(const FamilyFiles& family, const PrinterScene& scene, HDC to, SIZE size) {
     PrinterViewRequest request = {};

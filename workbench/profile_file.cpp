@@ -1,11 +1,11 @@
 // Profile files: see the header.
 #include "profile_file.h"
 
+#include "base/text.h"
 #include "document.h"
 #include "input_file.h"
 #include "json_form.h"
 #include "output.h"
-#include "paramdata/text.h"
 
 namespace {
 

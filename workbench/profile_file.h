@@ -2,7 +2,7 @@
 #ifndef WORKBENCH_PROFILE_FILE_H
 #define WORKBENCH_PROFILE_FILE_H
 
-#include "dialogs/dialog_context.h"
+#include "dialogs/shared/dialog_context.h"
 
 #include <string>
 #include <vector>

@@ -3,9 +3,9 @@
 #ifndef WORKBENCH_RECORD_FIELDS_H
 #define WORKBENCH_RECORD_FIELDS_H
 
+#include "base/text.h"
 #include "document.h"
 #include "output.h"
-#include "paramdata/text.h"
 
 #include <cstdint>
 #include <cstring>

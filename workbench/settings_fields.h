@@ -2,8 +2,8 @@
 #ifndef WORKBENCH_SETTINGS_FIELDS_H
 #define WORKBENCH_SETTINGS_FIELDS_H
 
+#include "base/rows.h"
 #include "document.h"
-#include "frame/rows.h"
 #include "paramdata/oem_devmode.h"
 
 // One field of the settings.

@@ -3,7 +3,7 @@
 #include "commands.h"
 #include "paramdata/color_tables.h"
 #include "paramdata/control_texts.h"
-#include "paramdata/device_data.h"
+#include "paramdata/device_table.h"
 #include "record_fields.h"
 #include "trays/media_type_lists.h"
 

@@ -1,9 +1,9 @@
 // The paper in the trays: see the header.
 #include "tray_papers.h"
 
+#include "base/text.h"
 #include "device_options.h"
 #include "output.h"
-#include "paramdata/text.h"
 
 namespace {
 

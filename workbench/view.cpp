@@ -1,9 +1,9 @@
 // `workbench view`: has the module draw the printer with the options as wanted, or as a printer on the
 // network reports them, and writes the picture.
+#include "base/text.h"
 #include "commands.h"
 #include "device_options.h"
 #include "output.h"
-#include "paramdata/text.h"
 #include "picture_file.h"
 #include "printer_scene.h"
 

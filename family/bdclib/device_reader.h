@@ -3,9 +3,9 @@
 #ifndef BDCLIB_DEVICE_READER_H
 #define BDCLIB_DEVICE_READER_H
 
-#include "devcomm/bdc_device.h"
-#include "devcomm/object_reader.h"
-#include "paramdata/text.h"
+#include "base/text.h"
+#include "devcomm/bidi/bdc_device.h"
+#include "devcomm/queries/object_reader.h"
 
 // The text of a record's field, terminated, as the field need not be.
 template <size_t kLength>

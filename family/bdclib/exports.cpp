@@ -1,8 +1,8 @@
 // The functions of the stand-in, and its entry point. See the header; the export table is telmar_b.def.
 #include "bdclib/exports.h"
 
+#include "base/text.h"
 #include "bdclib/device_reader.h"
-#include "paramdata/text.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 // TELMAR_B.DLL, a stand-in for the driver family's bidirectional library: asks networked devices by SNMP and
-// answers in the records of devcomm/bdc_device.h. What those records do not name stays 0, but for the numbers
-// and texts that bdclib/device_reader.cpp puts there.
+// answers in the records of devcomm/bidi/bdc_device.h. What those records do not name stays 0, but for the
+// numbers and texts that bdclib/device_reader.cpp puts there.
 //
 // Every function returns a status. A device is asked anew by each call; nothing is kept in between. `state`
 // is accepted and left as it is. Buffers are the caller's: one item, or as many as `*count` says, and of a
@@ -8,7 +8,7 @@
 #ifndef BDCLIB_EXPORTS_H
 #define BDCLIB_EXPORTS_H
 
-#include "devcomm/bdc_device.h"
+#include "devcomm/bidi/bdc_device.h"
 
 constexpr int32_t kBdcDone = 0;
 // kBdcNothing: the device answers, but has none of it

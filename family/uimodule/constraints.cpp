@@ -1,8 +1,8 @@
 // The constraint table: see the header.
 #include "uimodule/constraints.h"
 
-#include "dialogs/ui_callbacks.h"
-#include "paramdata/text.h"
+#include "base/text.h"
+#include "dialogs/shared/ui_callbacks.h"
 
 namespace {
 

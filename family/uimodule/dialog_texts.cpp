@@ -1,7 +1,7 @@
 // Texts of a dialog: see the header.
 #include "uimodule/dialog_texts.h"
 
-#include "paramdata/text.h"
+#include "base/text.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The callbacks of the stand-in, and its entry point. See the header; the export table is telmar_u.def.
 #include "uimodule/exports.h"
 
-#include "paramdata/text.h"
+#include "base/text.h"
 #include "uimodule/constraints.h"
 #include "uimodule/dialog_texts.h"
 #include "uimodule/hint_window.h"

@@ -1,14 +1,14 @@
 // TELMAR_U.DLL, a stand-in for the driver family's user-interface module: the callbacks with which the
-// model's dialogs put themselves into the hands of that module. They have the types of dialogs/ui_callbacks.h
-// and are found by their names. All of them run on the dialog's thread; state is kept for the one dialog that
-// is open (its stop icons, its hint window, the choice refused last). Texts, tables, contexts and settings
-// are the caller's; none is kept beyond a call.
+// model's dialogs put themselves into the hands of that module. They have the types of
+// dialogs/shared/ui_callbacks.h and are found by their names. All of them run on the dialog's thread; state
+// is kept for the one dialog that is open (its stop icons, its hint window, the choice refused last). Texts,
+// tables, contexts and settings are the caller's; none is kept beyond a call.
 //
 // A null dialog, table or context is answered by doing nothing, and 0 or null.
 #ifndef UIMODULE_EXPORTS_H
 #define UIMODULE_EXPORTS_H
 
-#include "dialogs/ui_callbacks.h"
+#include "dialogs/shared/ui_callbacks.h"
 
 extern "C" {
 

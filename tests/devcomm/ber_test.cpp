@@ -1,6 +1,6 @@
 // BER octets: what the writer builds, and that the reader takes nothing that is not there.
-#include "devcomm/ber_reader.h"
-#include "devcomm/ber_writer.h"
+#include "devcomm/snmp/ber_reader.h"
+#include "devcomm/snmp/ber_writer.h"
 #include "support/octets.h"
 
 #include <climits>

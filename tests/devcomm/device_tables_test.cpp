@@ -1,5 +1,5 @@
 // Host only: what the answers of the bidirectional library mean, through the exports and a scripted library.
-#include "devcomm/bdc_tables.h"
+#include "devcomm/bidi/bdc_tables.h"
 
 #include "devcomm/scripted_bdc_host.h"
 

@@ -1,7 +1,7 @@
 // Host only: binding of the SNMP entry points, by system version and by what its libraries hold.
-#include "devcomm/snmp_client.h"
-#include "devcomm/snmp_entry_points.h"
-#include "devcomm/snmp_values.h"
+#include "devcomm/snmp/snmp_client.h"
+#include "devcomm/snmp/snmp_entry_points.h"
+#include "devcomm/snmp/snmp_values.h"
 #include "platform_control.h"
 #include "support/raw_bytes.h"
 

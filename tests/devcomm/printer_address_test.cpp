@@ -1,6 +1,6 @@
 // Host only: the printer's address from the record, the transceiver and the registry; every call, allocation
 // and library that can fail. Records, replies and buffers are heap blocks of just their size.
-#include "devcomm/printer_address.h"
+#include "devcomm/address/printer_address.h"
 #include "platform_control.h"
 #include "support/raw_bytes.h"
 

@@ -1,10 +1,10 @@
 // The printer queries over a scripted device: sessions, refusals, comparisons, options and supplies. What is
 // asked, in which order, and what the caller gets.
-#include "devcomm/object_reader.h"
-#include "devcomm/printer_queries.h"
-#include "devcomm/query_catalogue.h"
+#include "base/text.h"
+#include "devcomm/queries/object_reader.h"
+#include "devcomm/queries/printer_queries.h"
+#include "devcomm/queries/query_catalogue.h"
 #include "devcomm/scripted_device.h"
-#include "paramdata/text.h"
 #include "support/raw_bytes.h"
 
 #include <climits>

@@ -1,5 +1,5 @@
 // Host only: the walks over a scripted device while the local heap runs out at each allocation in turn.
-#include "devcomm/printer_queries.h"
+#include "devcomm/queries/printer_queries.h"
 #include "devcomm/scripted_device.h"
 #include "platform_control.h"
 

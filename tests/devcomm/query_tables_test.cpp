@@ -1,5 +1,5 @@
 // The static tables of the printer queries, octet by octet at their published offsets.
-#include "devcomm/printer_queries.h"
+#include "devcomm/queries/printer_queries.h"
 #include "support/raw_bytes.h"
 
 #include <gtest/gtest.h>

@@ -3,8 +3,8 @@
 #ifndef DEVCOMM_SCRIPTED_BDC_HOST_H
 #define DEVCOMM_SCRIPTED_BDC_HOST_H
 
-#include "devcomm/bdc_device.h"
-#include "devcomm/device_status.h"
+#include "devcomm/bidi/bdc_device.h"
+#include "devcomm/bidi/device_status.h"
 #include "devcomm/scripted_bdc.h"
 #include "platform_control.h"
 #include "support/raw_bytes.h"

@@ -4,7 +4,7 @@
 #ifndef DEVCOMM_SCRIPTED_DEVICE_H
 #define DEVCOMM_SCRIPTED_DEVICE_H
 
-#include "devcomm/snmp_entry_points.h"
+#include "devcomm/snmp/snmp_entry_points.h"
 
 #include <map>
 #include <string>

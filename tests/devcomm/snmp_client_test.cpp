@@ -1,6 +1,6 @@
 // Host only: sessions and requests of the built-in client over a scripted wire.
-#include "devcomm/snmp_client.h"
-#include "devcomm/snmp_values.h"
+#include "devcomm/snmp/snmp_client.h"
+#include "devcomm/snmp/snmp_values.h"
 #include "platform_control.h"
 #include "support/octets.h"
 

@@ -1,6 +1,6 @@
 // Values, names and their memory, and whole replies from their first octet to the stored value.
-#include "devcomm/snmp_message.h"
-#include "devcomm/snmp_values.h"
+#include "devcomm/snmp/snmp_message.h"
+#include "devcomm/snmp/snmp_values.h"
 #include "support/octets.h"
 
 #include <climits>

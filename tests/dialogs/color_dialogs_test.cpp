@@ -2,7 +2,7 @@
 // and store. Graphics have lists of their own in 128 and follow images or text in 124, 122, 125 and both
 // variants of 123.
 #include "canvas.h"
-#include "dialogs/color_descriptions.h"
+#include "dialogs/color/color_descriptions.h"
 #include "full_dialog.h"
 #include "live_objects.h"
 #include "support/rounds.h"

@@ -1,5 +1,5 @@
 // The Defaults button of dialog 128: which bytes it takes, and from where.
-#include "dialogs/default_devmode.h"
+#include "dialogs/color/default_devmode.h"
 #include "full_dialog.h"
 #include "paramdata/default_settings.h"
 #include "support/print_queue.h"

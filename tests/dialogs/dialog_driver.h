@@ -4,7 +4,7 @@
 #ifndef DIALOGS_TEST_DIALOG_DRIVER_H
 #define DIALOGS_TEST_DIALOG_DRIVER_H
 
-#include "dialogs/dialog_context.h"
+#include "dialogs/shared/dialog_context.h"
 #include "gdi_recorder.h"
 #include "product.h"
 #include "support/raw_bytes.h"

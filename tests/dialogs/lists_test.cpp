@@ -1,6 +1,6 @@
 // Dialog 128: what its lists offer and select, what the settings become when they no longer offer a choice,
 // and callers who give less than all.
-#include "dialogs/dialog_controls.h"
+#include "dialogs/shared/dialog_controls.h"
 #include "full_dialog.h"
 
 namespace {

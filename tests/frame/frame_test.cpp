@@ -1,6 +1,6 @@
 // Host only: the module's entry point and its handles.
+#include "base/module_handles.h"
 #include "frame/entry.h"
-#include "frame/module_handles.h"
 #include "platform_control.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,7 @@
 // Host only: process attach and detach with a parameter data file beside the module: what is there in
 // between, what is released, and what a lack of memory leaves.
+#include "base/module_handles.h"
 #include "frame/entry.h"
-#include "frame/module_handles.h"
-#include "paramdata/device_data.h"
 #include "platform_control.h"
 #include "support/prm_image.h"
 

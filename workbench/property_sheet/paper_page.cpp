@@ -4,8 +4,8 @@
 
 #include "../dialog_run.h"
 #include "../output.h"
+#include "base/text.h"
 #include "paramdata/devmode_fields.h"
-#include "paramdata/text.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include "../output.h"
 #include "../picture_file.h"
-#include "paramdata/text.h"
+#include "base/text.h"
 
 #include <algorithm>
 #include <list>

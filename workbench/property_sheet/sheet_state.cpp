@@ -6,8 +6,8 @@
 #include "../json_form.h"
 #include "../output.h"
 #include "../output_file.h"
+#include "base/text.h"
 #include "paramdata/default_settings.h"
-#include "paramdata/text.h"
 
 #include <algorithm>
 

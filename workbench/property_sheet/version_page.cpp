@@ -2,7 +2,7 @@
 #include "page_ids.h"
 #include "property_page.h"
 
-#include "picture/logo.h"
+#include "picture/view/logo.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 // Start-up and shut-down order of the module.
 #include "frame/entry.h"
 
-#include "devcomm/snmp_entry_points.h"
-#include "frame/module_handles.h"
-#include "paramdata/device_data.h"
+#include "base/module_handles.h"
+#include "devcomm/snmp/snmp_entry_points.h"
+#include "frame/device_data.h"
 
 namespace {
 

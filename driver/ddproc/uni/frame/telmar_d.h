@@ -9,15 +9,15 @@
 #ifndef FRAME_TELMAR_D_H
 #define FRAME_TELMAR_D_H
 
-#include "devcomm/device_status.h"
-#include "devcomm/printer_address.h"
-#include "devcomm/printer_queries.h"
-#include "dialogs/dlg_proc.h"
-#include "dialogs/ui_callbacks.h"
+#include "devcomm/address/printer_address.h"
+#include "devcomm/bidi/device_status.h"
+#include "devcomm/queries/printer_queries.h"
+#include "dialogs/shared/ui_callbacks.h"
+#include "frame/dlg_proc.h"
 #include "frame/exports.h"
-#include "picture/device_capabilities.h"
-#include "picture/logo.h"
-#include "picture/printer_view.h"
+#include "picture/capabilities/device_capabilities.h"
+#include "picture/view/logo.h"
+#include "picture/view/printer_view.h"
 #include "trays/tray_settings.h"
 
 #endif

@@ -1,9 +1,9 @@
 // Colour defaults: see the header.
 #include "paramdata/color_defaults.h"
 
+#include "base/text.h"
 #include "paramdata/color_tables.h"
 #include "paramdata/default_fields.h"
-#include "paramdata/text.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Colour item tables: what is compiled in, and how the file replaces it.
 #include "paramdata/color_tables.h"
 
+#include "base/text.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 
 #include <cstring>
 #include <windows.h>

@@ -1,8 +1,8 @@
 // Control text tables: see the header.
 #include "paramdata/control_texts.h"
 
+#include "base/text.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 
 // The common property page.
 ControlTextRecord propertyTexts[] = {

@@ -1,12 +1,12 @@
 // Default settings: the compiled-in record, and the steps that take the file's defaults, in their order.
 #include "paramdata/default_settings.h"
 
+#include "base/text.h"
 #include "paramdata/color_defaults.h"
 #include "paramdata/default_fields.h"
 #include "paramdata/feature_lists.h"
 #include "paramdata/font_table.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 
 #include <cstring>
 

@@ -2,13 +2,15 @@
 // and country, and its release.
 #include "paramdata/device_table.h"
 
+#include "base/text.h"
 #include "paramdata/feature_lists.h"
 #include "paramdata/named_values.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 #include "paramdata/tray_rows.h"
 
 #include <windows.h>
+
+DeviceTable* deviceTable;
 
 namespace {
 

@@ -6,7 +6,7 @@
 #ifndef PARAMDATA_DEVICE_TABLE_H
 #define PARAMDATA_DEVICE_TABLE_H
 
-#include "frame/rows.h"
+#include "base/rows.h"
 #include "paramdata/feature_switches.h"
 #include "paramdata/input_slots.h"
 
@@ -273,6 +273,10 @@ inline uint32_t SwitchValue(const DeviceTable* table, FeatureSwitch position) {
 }
 
 struct PrmFile;
+
+// The model's, built once while the process attaches and only read afterwards. Null without a parameter data
+// file or without memory; readers must take that into account.
+extern DeviceTable* deviceTable;
 
 // Builds the model's device table from an open parameter data file. Entries that the file lacks leave their
 // fields 0 and their lists null. Also updates the compiled-in input slots from the file. The caller frees the

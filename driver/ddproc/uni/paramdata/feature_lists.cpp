@@ -2,7 +2,7 @@
 // record, one table that says which list is built from what.
 #include "paramdata/feature_lists.h"
 
-#include "paramdata/text.h"
+#include "base/text.h"
 
 #include <cstring>
 #include <windows.h>

@@ -3,8 +3,8 @@
 #ifndef PARAMDATA_FONT_TABLE_H
 #define PARAMDATA_FONT_TABLE_H
 
+#include "base/text.h"
 #include "paramdata/oem_devmode.h"
-#include "paramdata/text.h"
 
 struct FontSubstitution {
     const char* trueTypeName; // 8-bit; the Japanese names in code page 932

@@ -1,8 +1,8 @@
 // Input slots: the compiled-in table, its update from the file and the look-up of tray selection items.
 #include "paramdata/input_slots.h"
 
+#include "base/text.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 
 // clang-format off
 TraySourceRecord inputSlots[] = {

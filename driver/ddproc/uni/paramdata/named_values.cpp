@@ -2,9 +2,9 @@
 // builder, so a later row of the same name overwrites an earlier one, and one row may set two fields.
 #include "paramdata/named_values.h"
 
+#include "base/text.h"
 #include "paramdata/device_table.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // image gives the same results, only slower.
 #include "paramdata/prm_file.h"
 
-#include "paramdata/text.h"
+#include "base/text.h"
 
 #include <cstring>
 

@@ -1,7 +1,7 @@
 // Typed readers of the parameter data file: see the header.
 #include "paramdata/prm_readers.h"
 
-#include "paramdata/text.h"
+#include "base/text.h"
 
 #include <cstring>
 
@@ -87,6 +87,27 @@ uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t posi
     uint32_t offset = 0;
     PrmReadDword(file, items.offsets + uint64_t{sizeof(offset)} * position, offset);
     return offset;
+}
+
+bool PrmGetItemText(const PrmFile& file, const char* entry, const char* itemKey, wchar_t* text,
+                    size_t capacity) {
+    if (entry == nullptr || itemKey == nullptr || text == nullptr || capacity == 0)
+        return false;
+    memset(text, 0, capacity * sizeof(wchar_t));
+    PrmItems items;
+    if (!PrmFindItems(file, entry, items))
+        return false;
+    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
+        constexpr size_t kMostKeyBytes = 127;
+        if (TextLength(key) > kMostKeyBytes || !SameText(key, itemKey))
+            return true;
+        PrmWideText display = {};
+        PrmReadWideString(file, item.display, display);
+        const size_t length = TextLength(display);
+        memcpy(text, display, (length < capacity ? length : capacity - 1) * sizeof(wchar_t));
+        return false;
+    });
+    return text[0] != 0;
 }
 
 uint32_t PrmParseFirstNumber(const char* text) {

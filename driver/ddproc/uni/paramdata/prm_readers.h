@@ -3,8 +3,8 @@
 #ifndef PARAMDATA_PRM_READERS_H
 #define PARAMDATA_PRM_READERS_H
 
+#include "base/text.h"
 #include "paramdata/prm_file.h"
-#include "paramdata/text.h"
 
 // Room that a text reader needs: the longest text and its terminator.
 using PrmText = char[kPrmMostTextBytes + 1];
@@ -99,6 +99,11 @@ void PrmForEachInChain(const PrmFile& file, const PrmItems& items, Visit visit) 
         offset = item.next;
     }
 }
+
+// Display text of an entry's item, cut to `capacity` characters with its terminator. False, and an empty
+// text, when there is none. Null arguments answer false.
+bool PrmGetItemText(const PrmFile& file, const char* entry, const char* itemKey, wchar_t* text,
+                    size_t capacity);
 
 // First run of decimal digits as a number, 0 without one. A sign is not looked at.
 uint32_t PrmParseFirstNumber(const char* text);

@@ -1,9 +1,9 @@
 // Tray rows: see the header. An item of "MediaTypeList_Tray" names the row whose key its own key ends in.
 #include "paramdata/tray_rows.h"
 
+#include "base/text.h"
 #include "paramdata/device_table.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 
 namespace {
 

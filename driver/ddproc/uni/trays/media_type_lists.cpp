@@ -2,8 +2,8 @@
 // items that have a text in the file.
 #include "trays/media_type_lists.h"
 
+#include "base/text.h"
 #include "paramdata/prm_readers.h"
-#include "paramdata/text.h"
 
 #include <cstring>
 #include <windows.h>
@@ -117,6 +117,7 @@ uint32_t ShownUnless(const DeviceTable* table, FeatureSwitch feature, bool hidde
 
 } // namespace
 
+MediaTypeLists* mediaTypeLists;
 MediaTypeColumn mediaTypeColumns[] = {
     // clang-format off
     {L"Tray",        "MediaTypeList_Tray"},
@@ -144,6 +145,19 @@ MediaTypeLists* BuildMediaTypeLists(const PrmFile* file, const DeviceTable* tabl
     return lists;
 }
 
+void ApplyColumnTitles(const ControlTextRecord* texts) {
+    for (const ControlTextRecord* row = texts; row->key[0] != 0; ++row) {
+        if (row->identifiers[0] != -1 || row->display[0] == 0)
+            continue;
+        for (MediaTypeColumn* column = mediaTypeColumns; column->key[0] != 0; ++column) {
+            if (strcmp(column->key, row->key) != 0)
+                continue;
+            CopyText(column->title, row->display);
+            break;
+        }
+    }
+}
+
 void FreeMediaTypeLists(MediaTypeLists* lists) {
     if (lists == nullptr)
         return;
@@ -151,27 +165,6 @@ void FreeMediaTypeLists(MediaTypeLists* lists) {
         if (list != nullptr)
             GlobalFree(list);
     GlobalFree(lists);
-}
-
-bool PrmGetItemText(const PrmFile& file, const char* entry, const char* itemKey, wchar_t* text,
-                    size_t capacity) {
-    if (entry == nullptr || itemKey == nullptr || text == nullptr || capacity == 0)
-        return false;
-    memset(text, 0, capacity * sizeof(wchar_t));
-    PrmItems items;
-    if (!PrmFindItems(file, entry, items))
-        return false;
-    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
-        constexpr size_t kMostKeyBytes = 127;
-        if (TextLength(key) > kMostKeyBytes || !SameText(key, itemKey))
-            return true;
-        PrmWideText display = {};
-        PrmReadWideString(file, item.display, display);
-        const size_t length = TextLength(display);
-        memcpy(text, display, (length < capacity ? length : capacity - 1) * sizeof(wchar_t));
-        return false;
-    });
-    return text[0] != 0;
 }
 
 uint32_t MediaWeightShown(const DeviceTable* table) {

@@ -3,6 +3,7 @@
 #ifndef TRAYS_MEDIA_TYPE_LISTS_H
 #define TRAYS_MEDIA_TYPE_LISTS_H
 
+#include "paramdata/control_texts.h"
 #include "paramdata/device_table.h"
 
 // Positions of the lists.
@@ -15,6 +16,9 @@ struct MediaTypeLists {
 };
 static_assert(sizeof(MediaTypeLists) == 48);
 
+// The model's. Null without a parameter data file or without memory.
+extern MediaTypeLists* mediaTypeLists;
+
 // One column of the list view.
 struct MediaTypeColumn {
     wchar_t title[48];
@@ -22,15 +26,13 @@ struct MediaTypeColumn {
 };
 extern MediaTypeColumn mediaTypeColumns[8]; // ends at an empty key
 
+// Takes the columns' titles from the tray dialogs' texts, up to an empty key.
+void ApplyColumnTitles(const ControlTextRecord* texts);
+
 // Builds the lists from the device table and the texts of the file. Null when either is missing or there is
 // no memory. The caller frees them.
 MediaTypeLists* BuildMediaTypeLists(const PrmFile* file, const DeviceTable* table);
 void FreeMediaTypeLists(MediaTypeLists* lists); // null is accepted
-
-// Display text of an entry's item, cut to `capacity` characters with its terminator. False, and an empty
-// text, when there is none. Null arguments answer false.
-bool PrmGetItemText(const PrmFile& file, const char* entry, const char* itemKey, wchar_t* text,
-                    size_t capacity);
 
 // Whether the dialog shows a column: not 0 when it does. A null table shows none.
 uint32_t MediaWeightShown(const DeviceTable* table);

@@ -1,12 +1,12 @@
 // The tray-setting dialogs: one engine and a description of each kind. One is open at a time.
 #include "trays/tray_dialog.h"
 
-#include "dialogs/dialog_controls.h"
-#include "dialogs/item_drawing.h"
-#include "dialogs/ui_module.h"
-#include "frame/rows.h"
+#include "base/rows.h"
+#include "dialogs/shared/dialog_controls.h"
+#include "dialogs/shared/item_drawing.h"
+#include "dialogs/shared/ui_module.h"
 #include "paramdata/control_texts.h"
-#include "paramdata/device_data.h"
+#include "paramdata/device_table.h"
 #include "trays/tray_list_view.h"
 
 #include <commctrl.h>

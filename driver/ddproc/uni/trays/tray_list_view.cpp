@@ -1,8 +1,8 @@
 // The tray list: see the header.
 #include "trays/tray_list_view.h"
 
-#include "paramdata/device_data.h"
-#include "paramdata/text.h"
+#include "base/text.h"
+#include "paramdata/device_table.h"
 
 #include <commctrl.h>
 

@@ -3,7 +3,7 @@
 #ifndef TRAYS_TRAY_LIST_VIEW_H
 #define TRAYS_TRAY_LIST_VIEW_H
 
-#include "dialogs/dialog_context.h"
+#include "dialogs/shared/dialog_context.h"
 #include "trays/tray_settings.h"
 
 #include <windows.h>

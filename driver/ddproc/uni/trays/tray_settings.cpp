@@ -1,7 +1,7 @@
 // Attributes of the paper in a tray: see the header.
 #include "trays/tray_settings.h"
 
-#include "paramdata/device_data.h"
+#include "paramdata/device_table.h"
 
 #include <cstring>
 

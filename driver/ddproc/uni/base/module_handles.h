@@ -1,0 +1,22 @@
+// The module's process-wide handles, and paths beside its file. Ground floor of the module: every subsystem
+// may include this header. Written while the process attaches or detaches, only read in between.
+#ifndef BASE_MODULE_HANDLES_H
+#define BASE_MODULE_HANDLES_H
+
+#include <windows.h>
+
+// The module's own instance handle, set first thing at process attach.
+HINSTANCE ModuleInstance();
+void SetModuleInstance(HINSTANCE instance);
+
+// TELMAR_S.DLL with the model's dialog templates; null when it is missing or the module is detached.
+HMODULE ResourceModule();
+void SetResourceModule(HMODULE module);
+
+constexpr size_t kPathCapacity = 260;
+
+// Full path of a file that lies beside the module. False, and the path empty, when the module's own path is
+// not known in full or the file's would not fit: a bare name or a cut path could lead to another file.
+bool SiblingPath(HINSTANCE instance, const wchar_t* fileName, wchar_t (&path)[kPathCapacity]);
+
+#endif

@@ -1,0 +1,188 @@
+// A device as the bidirectional library tells of it: see the header.
+#include "devcomm/bidi/bdc_device.h"
+
+#include "base/entry_point.h"
+#include "base/text.h"
+#include "devcomm/bidi/locked_block.h"
+#include "devcomm/model.h"
+
+#include <cstring>
+
+namespace {
+
+constexpr uint32_t kFirstState = 1;
+
+using VersionFunction = int32_t WINAPI(uint32_t* state, BdcLibVersion* version);
+using CommInfoFunction = int32_t WINAPI(const char* agent, uint32_t* state, BdcCommInfo* info);
+using NameFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t* state, BdcNameInfo* info);
+using MediaPathFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t* state, void* info);
+using ListFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t* count, uint32_t* state,
+                                    void* items);
+using TrayListFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t* count, uint32_t selector,
+                                        uint32_t* state, void* items);
+
+template <typename Function>
+Function* EntryPoint(const BdcDeviceContext& context, BdcFunction function) {
+    return AsFunction<Function>(context.functions.entryPoints[function]);
+}
+
+bool Succeeded(int32_t status) {
+    return status >= 0 && status != kBdcNothing;
+}
+
+// The lists, in the order in which they are asked for.
+struct ListDescription {
+    BdcFunction function;
+    uint32_t itemSize;
+    BdcList BdcDeviceContext::*list;
+};
+// clang-format off
+constexpr ListDescription kLists[] = {
+    {kBdcGetDevFirmwareVersion, sizeof(BdcFirmwareItem),   &BdcDeviceContext::firmware},
+    {kBdcGetDevMemoryCapacity,  sizeof(BdcMemoryItem),     &BdcDeviceContext::memory},
+    {kBdcGetDevOptionInfo,      sizeof(BdcOptionItem),     &BdcDeviceContext::options},
+    {kBdcGetDevInputTrayInfoEx, sizeof(BdcInputTrayItem),  &BdcDeviceContext::inputTrays},
+    {kBdcGetDevOutputTrayInfo,  sizeof(BdcOutputTrayItem), &BdcDeviceContext::outputTrays},
+    {kBdcGetDevMediaPathInfo,   sizeof(BdcMediaPathInfo),  &BdcDeviceContext::mediaPath},
+    {kBdcGetDevFinisherInfo,    sizeof(BdcFinisherItem),   &BdcDeviceContext::finishers},
+};
+// clang-format on
+
+// One call for a list. The input trays are asked with a selector; the media path is one item, and has no
+// count.
+int32_t CallForList(const BdcDeviceContext& context, BdcFunction function, uint32_t& count, uint32_t& state,
+                    void* items) {
+    const BdcDeviceRecord* device = &context.device;
+    switch (function) {
+    case kBdcGetDevInputTrayInfoEx:
+        return EntryPoint<TrayListFunction>(context, function)(device, &count, kBdcTraySelector, &state,
+                                                               items);
+    case kBdcGetDevMediaPathInfo:
+        return EntryPoint<MediaPathFunction>(context, function)(device, &state, items);
+    default:
+        return EntryPoint<ListFunction>(context, function)(device, &count, &state, items);
+    }
+}
+
+// How many items there are to fetch; 0 when that is not known.
+uint32_t AskCount(BdcDeviceContext& context, BdcFunction function) {
+    if (function == kBdcGetDevMediaPathInfo)
+        return 1;
+    uint32_t count = 0;
+    uint32_t state = context.firstState;
+    if (CallForList(context, function, count, state, nullptr) < 0)
+        return 0;
+    context.lastState = state;
+    return count;
+}
+
+void FetchList(BdcDeviceContext& context, const ListDescription& description) {
+    const uint32_t count = AskCount(context, description.function);
+    if (count == 0)
+        return;
+    void* items = AllocateLockedOctets(size_t{count} * description.itemSize);
+    if (items == nullptr)
+        return;
+    uint32_t countThen = count; // the block stays as large as it is, whatever the library makes of it
+    uint32_t state = context.firstState;
+    if (!Succeeded(CallForList(context, description.function, countThen, state, items))) {
+        FreeLocked(items);
+        return;
+    }
+    context.*description.list = {items, count};
+    context.lastState = state;
+}
+
+void FillRecord(BdcDeviceContext& context) {
+    BdcDeviceRecord& device = context.device;
+    memcpy(device.flags, context.flags, sizeof(device.flags));
+    CopyText(device.agent, context.agent);
+    CopyText(device.secondText, context.secondText);
+    CopyText(device.community, context.community);
+}
+
+// Both texts within their fields, letter by letter.
+template <size_t kLength>
+bool IsOneOf(const BdcNameList<kLength>& list, const char (&name)[kLength]) {
+    for (uint32_t i = 0; i < list.count; ++i)
+        if (strncmp(list.names[i], name, kLength) == 0)
+            return true;
+    return false;
+}
+
+} // namespace
+
+BdcDeviceContext* BdcOpenDevice(const char* agent) {
+    auto* context = AllocateLocked<BdcDeviceContext>();
+    if (context == nullptr)
+        return nullptr;
+    if (!BdcLoadFromAnywhere(context->functions)) {
+        FreeLocked(context);
+        return nullptr;
+    }
+    context->longNames.count = 1;
+    CopyText(context->longNames.names[0], kModelName);
+    context->shortNames.count = 1;
+    CopyText(context->shortNames.names[0], kModelName);
+    context->firstState = kFirstState;
+    context->flags[0] = 1;
+    context->flags[1] = 1;
+    context->agent = agent;
+    context->secondText = "";
+    context->community = kCommunity;
+    FillRecord(*context);
+    return context;
+}
+
+void BdcCloseDevice(BdcDeviceContext* context) {
+    if (context == nullptr)
+        return;
+    for (const ListDescription& description : kLists)
+        FreeLocked((context->*description.list).items);
+    BdcFreeLibrary(context->functions);
+    FreeLocked(context);
+}
+
+bool BdcAskVersion(BdcDeviceContext& context) {
+    BdcLibVersion version = {};
+    uint32_t state = context.firstState;
+    if (EntryPoint<VersionFunction>(context, kBdcGetLibVersion)(&state, &version) < 0)
+        return false;
+    context.version = version;
+    context.lastState = state;
+    return true;
+}
+
+bool BdcAskCommunication(BdcDeviceContext& context) {
+    BdcCommInfo info = {};
+    uint32_t state = context.firstState;
+    if (!Succeeded(EntryPoint<CommInfoFunction>(context, kBdcGetDevCommInfo)(context.agent, &state, &info)))
+        return false;
+    context.communication = info;
+    context.device.communication = info.communication;
+    context.lastState = state;
+    return true;
+}
+
+bool BdcAskName(BdcDeviceContext& context) {
+    BdcNameInfo info = {};
+    uint32_t state = context.firstState;
+    if (!Succeeded(EntryPoint<NameFunction>(context, kBdcGetDevName)(&context.device, &state, &info)))
+        return false;
+    context.name = info;
+    context.lastState = state;
+    return true;
+}
+
+void BdcFillDevice(BdcDeviceContext& context) {
+    BdcAskVersion(context);
+    BdcAskCommunication(context);
+    BdcAskName(context);
+    for (const ListDescription& description : kLists)
+        FetchList(context, description);
+}
+
+bool BdcIsModel(const BdcDeviceContext& context) {
+    return IsOneOf(context.longNames, context.name.longName)
+           && IsOneOf(context.shortNames, context.name.shortName);
+}

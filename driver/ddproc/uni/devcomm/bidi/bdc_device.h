@@ -1,0 +1,169 @@
+// A device as the bidirectional library tells of it: the records handed to the library and read from its
+// answers, and a context that holds all of them for the time of one export call.
+#ifndef DEVCOMM_BIDI_BDC_DEVICE_H
+#define DEVCOMM_BIDI_BDC_DEVICE_H
+
+#include "base/rows.h"
+#include "devcomm/bidi/bdc_library.h"
+
+// Statuses of the library: negative ones are failures. So is this one, that the device has none of what was
+// asked for, of every call but the version's and those that only count.
+constexpr int32_t kBdcNothing = 1;
+
+// Selects the input trays with what lies in them.
+constexpr uint32_t kBdcTraySelector = 2;
+
+#pragma pack(push, 1)
+
+struct BdcDeviceRecord {
+    uint32_t flags[2]; // 1 each
+    char agent[64];
+    uint32_t communication; // 0, then as the communication information tells it
+    uint8_t zero[256];
+    char secondText[64]; // always empty
+    char community[32];
+};
+static_assert(sizeof(BdcDeviceRecord) == 428 && offsetof(BdcDeviceRecord, agent) == 8
+              && offsetof(BdcDeviceRecord, communication) == 72
+              && offsetof(BdcDeviceRecord, secondText) == 332 && offsetof(BdcDeviceRecord, community) == 396);
+
+// Answers of the library. What this module does not read has no name of its own.
+
+struct BdcLibVersion {
+    uint32_t numbers[4];
+};
+static_assert(sizeof(BdcLibVersion) == 16);
+
+struct BdcCommInfo {
+    uint8_t notRead1[72];
+    uint32_t communication;
+    uint8_t notRead2[260];
+};
+static_assert(sizeof(BdcCommInfo) == 336 && offsetof(BdcCommInfo, communication) == 72);
+
+struct BdcNameInfo {
+    uint8_t notRead[4];
+    char longName[256]; // may fill its field without a terminator, as the next may
+    char shortName[64];
+};
+static_assert(sizeof(BdcNameInfo) == 324 && offsetof(BdcNameInfo, longName) == 4
+              && offsetof(BdcNameInfo, shortName) == 260);
+
+struct BdcFirmwareItem {
+    uint8_t notRead[132];
+};
+static_assert(sizeof(BdcFirmwareItem) == 132);
+
+struct BdcMemoryItem {
+    uint8_t notRead[8];
+    uint32_t kind;
+};
+static_assert(sizeof(BdcMemoryItem) == 12 && offsetof(BdcMemoryItem, kind) == 8);
+
+struct BdcOptionItem {
+    uint8_t notRead[4];
+    uint32_t type;
+    char model[64];
+};
+static_assert(sizeof(BdcOptionItem) == 72 && offsetof(BdcOptionItem, type) == 4
+              && offsetof(BdcOptionItem, model) == 8);
+
+struct BdcInputTrayItem {
+    uint8_t notRead1[4];
+    int32_t tray;
+    uint8_t notRead2[4];
+    uint16_t mediaSize;
+    uint8_t notRead3[2];
+    int32_t mediaType;
+    uint16_t level;
+    uint8_t notRead4[66];
+    int32_t orientation;
+    int32_t weight;
+    int32_t color;
+    int32_t hole;
+    int32_t secondSide;
+};
+static_assert(sizeof(BdcInputTrayItem) == 108 && offsetof(BdcInputTrayItem, tray) == 4
+              && offsetof(BdcInputTrayItem, mediaSize) == 12 && offsetof(BdcInputTrayItem, mediaType) == 16
+              && offsetof(BdcInputTrayItem, level) == 20 && offsetof(BdcInputTrayItem, orientation) == 88
+              && offsetof(BdcInputTrayItem, weight) == 92 && offsetof(BdcInputTrayItem, color) == 96
+              && offsetof(BdcInputTrayItem, hole) == 100 && offsetof(BdcInputTrayItem, secondSide) == 104);
+
+struct BdcOutputTrayItem {
+    uint8_t notRead[144];
+};
+static_assert(sizeof(BdcOutputTrayItem) == 144);
+
+struct BdcMediaPathInfo {
+    uint8_t notRead[4];
+    uint32_t path;
+};
+static_assert(sizeof(BdcMediaPathInfo) == 8 && offsetof(BdcMediaPathInfo, path) == 4);
+
+struct BdcFinisherItem {
+    uint8_t notRead[136];
+    uint32_t flags;
+};
+static_assert(sizeof(BdcFinisherItem) == 140 && offsetof(BdcFinisherItem, flags) == 136);
+
+#pragma pack(pop)
+
+// Items in a block of their own; none when the library did not deliver them.
+struct BdcList {
+    void* items;
+    uint32_t count;
+};
+
+// The list as what it holds: BdcItemsOf<BdcOptionItem>(context.options).
+template <typename Item>
+Rows<Item> BdcItemsOf(const BdcList& list) {
+    return {static_cast<const Item*>(list.items), list.count};
+}
+
+// Model names that pass for this model.
+template <size_t kLength>
+struct BdcNameList {
+    uint32_t count;
+    char names[10][kLength];
+};
+
+struct BdcDeviceContext {
+    BdcFunctionTable functions;
+    BdcNameList<256> longNames;
+    BdcNameList<64> shortNames;
+    uint32_t firstState; // goes into each call
+    uint32_t flags[2];
+    const char* agent; // the texts as given
+    const char* secondText;
+    const char* community;
+    BdcDeviceRecord device;
+    BdcLibVersion version;
+    BdcCommInfo communication;
+    BdcNameInfo name;
+    BdcList firmware;
+    BdcList memory;
+    BdcList options;
+    BdcList inputTrays;
+    BdcList outputTrays;
+    BdcList mediaPath; // one item
+    BdcList finishers;
+    uint32_t lastState; // came out of the latest successful call
+};
+
+// A context for the agent, with the library loaded; null without memory or the library. BdcCloseDevice frees
+// both, and all lists; it accepts null.
+BdcDeviceContext* BdcOpenDevice(const char* agent);
+void BdcCloseDevice(BdcDeviceContext* context);
+
+// One question each. False when it failed: what the library has written is thrown away.
+bool BdcAskVersion(BdcDeviceContext& context);
+bool BdcAskCommunication(BdcDeviceContext& context);
+bool BdcAskName(BdcDeviceContext& context);
+
+// Asks everything there is to ask. What fails stays empty.
+void BdcFillDevice(BdcDeviceContext& context);
+
+// Whether both model names are exactly this model's.
+bool BdcIsModel(const BdcDeviceContext& context);
+
+#endif

@@ -1,0 +1,271 @@
+// The tables of the bidirectional path, and the look-ups in them: see the header.
+#include "devcomm/bidi/bdc_tables.h"
+
+#include "base/text.h"
+#include "devcomm/model.h"
+
+namespace {
+
+// clang-format off
+
+// --- Bits
+
+// A row's bit is set when the device has exactly so many options of its type and model.
+constexpr struct {
+    uint32_t type;
+    const char* model;
+    uint32_t count;
+    uint32_t bit;
+} OptionModelTable[] = {
+    {3,    "QA-110",           1, 0x01},
+    {5,    "QB-220",           1, 0x02},
+    {6,    "QC-330",           1, 0x04},
+    {6,    "QD-440",           1, 0x08},
+    {6,    "QE-550",           1, 0x10},
+    {6,    "QF-660",           1, 0x20},
+    {1000, "Bdc_Function_Fax", 1, 0x40},
+};
+
+// A row's bit is set when a finisher has all flags of its mask.
+constexpr struct {
+    uint32_t mask;
+    uint32_t bit;
+} FinisherFlagTable[] = {
+    {0x10, 0x1},
+    {0x20, 0x2},
+    {0x40, 0x4},
+};
+
+constexpr struct {
+    uint32_t path;
+    uint32_t bit;
+} MediaPathTable[] = {
+    {0, 0x1},
+    {1, 0x2},
+};
+
+constexpr uint32_t kHardDisk = 3; // kind of memory
+
+// --- Rules: of the rows of an option the first holds whose masks are each 0 or share a bit with the device.
+
+constexpr struct OptionRule {
+    const char* option;
+    uint32_t masks[kBitWords];
+    const char* item;
+} BdcOptionRuleTable[] = {
+    // option          model  option finisher memory path   item
+    {"OpMachine",     {0x1,   0,     0,       0,     0},   "OpMachine1"},
+    {"OpInTrayUnit",  {0,     0x01,  0,       0,     0},   "OpInTrayUnit1"},
+    {"OpInTrayUnit",  {0,     0,     0,       0,     0},   "DisOpInTrayUnit"},
+    {"OpOutTrayUnit", {0,     0x08,  0,       0,     0},   "OpOutTrayUnit2"},
+    {"OpOutTrayUnit", {0,     0x02,  0,       0,     0},   "OpOutTrayUnit1"},
+    {"OpOutTrayUnit", {0,     0,     0,       0,     0},   "DisOpOutTrayUnit"},
+    {"OpPunchKit",    {0,     0x04,  0x4,     0,     0},   "OpPunchKit3"},
+    {"OpPunchKit",    {0,     0x04,  0x2,     0,     0},   "OpPunchKit2"},
+    {"OpPunchKit",    {0,     0x04,  0x1,     0,     0},   "OpPunchKit1"},
+    {"OpPunchKit",    {0,     0,     0,       0,     0},   "DisOpPunchKit"},
+    {"OpMailBinKit",  {0,     0x10,  0,       0,     0},   "EnaOpMailBinKit"},
+    {"OpMailBinKit",  {0,     0,     0,       0,     0},   "DisOpMailBinKit"},
+    {"OpSaddleKit",   {0,     0x20,  0,       0,     0},   "EnaSaddleKit"},
+    {"OpSaddleKit",   {0,     0,     0,       0,     0},   "DisSaddleKit"},
+    {"OpFAXUnit",     {0,     0x40,  0,       0,     0},   "EnaOpFAXKit"},
+    {"OpFAXUnit",     {0,     0,     0,       0,     0},   "DisOpFAXKit"},
+    {"OpHDD",         {0,     0,     0,       0x1,   0},   "EnaOpHDD"},
+    {"OpHDD",         {0,     0,     0,       0,     0},   "DisOpHDD"},
+};
+
+// --- Trays and what lies in them
+
+struct CodeKey {
+    int32_t code;
+    const char* key;
+};
+
+constexpr CodeKey TrayKeyTable[] = {
+    {1, "InTray1"},
+    {2, "InTray2"},
+    {3, "InTray3"},
+    {4, "InTray4"},
+    {5, "InTrayLCT"},
+    {6, "InTrayManual"},
+};
+
+constexpr CodeKey MediaSizeTable[] = {
+    {259,  "A3"},
+    {260,  "A4"},
+    {261,  "A5"},
+    {262,  "A6"},
+    {516,  "B4_JIS"},
+    {517,  "B5_JIS"},
+    {518,  "B6"},
+    {1540, "12x18inch"},
+    {1541, "11x17inch"},
+    {1547, "8half14"},
+    {1551, "8half11"},
+    {1559, "7qtr10half"},
+    {1560, "5half8half"},
+    {2051, "8K"},
+    {2052, "16K"},
+    {773,  "B5_ISO"},
+    {1029, "EnvelopeC5"},
+    {2826, "EnvelopeDL"},
+    {3073, "EnvelopeMonarch"},
+    {3074, "Envelope10"},
+    {3587, "JpnPostcard"},
+    {3602, "4x6PostCard"},
+    {1556, "8x13"},
+    {1553, "8qtr13"},
+    {1549, "8half13"},
+    {1285, "220330mm"},
+    {1554, "8hq13qtr"},
+    {8451, "A3W"},
+    {8452, "A4W"},
+    {8453, "A5W"},
+    {8708, "B4W"},
+    {8709, "B5W"},
+    {9733, "11x17W"},
+    {9743, "8half11W"},
+    {9752, "5half8halfW"},
+};
+
+constexpr CodeKey kOrientations[] = {
+    {2, "MediaTypeList_Portrait"},
+    {3, "MediaTypeList_Landscape"},
+};
+
+// The device tells these codes, but the driver has no word for them: the keys come out empty.
+constexpr CodeKey kWeights[] = {{-1, ""}};
+constexpr CodeKey kColors[]  = {{0, ""}, {15, ""}};
+constexpr CodeKey kHoles[]   = {{-1, ""}};
+
+// The first row wins whose codes are those of the tray, as far as its flags say to compare them.
+constexpr uint32_t kType = 1;
+constexpr uint32_t kColor = 2;
+constexpr uint32_t kSide = 4;
+constexpr struct {
+    uint32_t flags;
+    int32_t type;
+    int32_t color;
+    int32_t secondSide;
+    const char* key;
+} MediaTypeTable[] = {
+    {kType | kColor, 1,   15, 0, "Color"},
+    {kType | kSide,  1,   0,  1, "PlainPaper2nd"},
+    {kType | kColor, 1,   0,  0, "Plain"},
+    {kType,          177, 0,  0, "Special"},
+    {kType,          40,  0,  0, "Envelope"},
+    {kType,          162, 0,  0, "Letterhead"},
+    {kType,          184, 0,  0, "SingleSided"},
+    {kType | kSide,  225, 0,  1, "Thick1_2nd"},
+    {kType,          225, 0,  0, "Thick1"},
+    {kType | kSide,  226, 0,  1, "Thick2_2nd"},
+    {kType,          226, 0,  0, "Thick2"},
+    {kType | kSide,  227, 0,  1, "Thick3_2nd"},
+    {kType,          227, 0,  0, "Thick3"},
+    {kType | kSide,  228, 0,  1, "Thick4_2nd"},
+    {kType,          228, 0,  0, "Thick4"},
+    {kType,          65,  0,  0, "OHP"},
+    {kType | kSide,  234, 0,  1, "Thick1Plus_2nd"},
+    {kType,          234, 0,  0, "Thick1Plus"},
+};
+// clang-format on
+
+template <size_t N>
+const char* KeyOf(const CodeKey (&table)[N], int32_t code) {
+    for (const CodeKey& row : table)
+        if (row.code == code)
+            return row.key;
+    return "";
+}
+
+const char* MediaTypeOf(const BdcInputTrayItem& tray) {
+    for (const auto& row : MediaTypeTable)
+        if (((row.flags & kType) == 0 || row.type == tray.mediaType)
+            && ((row.flags & kColor) == 0 || row.color == tray.color)
+            && ((row.flags & kSide) == 0 || row.secondSide == tray.secondSide))
+            return row.key;
+    return "";
+}
+
+uint32_t OptionBits(const Rows<BdcOptionItem>& options) {
+    uint32_t bits = 0;
+    for (const auto& row : OptionModelTable) {
+        uint32_t count = 0;
+        for (const BdcOptionItem& option : options)
+            count += option.type == row.type && SameText(option.model, row.model) ? 1 : 0;
+        bits |= count == row.count ? row.bit : 0;
+    }
+    return bits;
+}
+
+uint32_t FinisherBits(const Rows<BdcFinisherItem>& finishers) {
+    uint32_t bits = 0;
+    for (const auto& row : FinisherFlagTable)
+        for (const BdcFinisherItem& finisher : finishers)
+            bits |= (finisher.flags & row.mask) == row.mask ? row.bit : 0;
+    return bits;
+}
+
+uint32_t MemoryBits(const Rows<BdcMemoryItem>& memories) {
+    uint32_t hardDisks = 0;
+    for (const BdcMemoryItem& memory : memories)
+        hardDisks += memory.kind == kHardDisk ? 1 : 0;
+    return hardDisks == 1 ? 1 : 0;
+}
+
+uint32_t MediaPathBits(const Rows<BdcMediaPathInfo>& paths) {
+    uint32_t bits = 0;
+    for (const auto& row : MediaPathTable)
+        for (const BdcMediaPathInfo& info : paths)
+            bits |= info.path == row.path ? row.bit : 0;
+    return bits;
+}
+
+bool Holds(const OptionRule& rule, const BdcDeviceBits& bits) {
+    for (uint32_t i = 0; i < kBitWords; ++i)
+        if (rule.masks[i] != 0 && (rule.masks[i] & bits.words[i]) == 0)
+            return false;
+    return true;
+}
+
+} // namespace
+
+const BdcTrayKeys kUnknownTrayKeys = {
+    "MediaTypeList_Size_Unknown",   "MediaTypeList_Orient_Unknown", "MediaTypeList_Type_Unknown",
+    "MediaTypeList_Weight_Unknown", "MediaTypeList_Color_Unknown",  "MediaTypeList_Hole_Unknown",
+};
+
+BdcDeviceBits BdcDeriveBits(const BdcDeviceContext& context) {
+    BdcDeviceBits bits;
+    bits.words[kModelBits] = SameText(context.name.longName, kModelName) ? 1 : 0; // in any letter case
+    bits.words[kOptionBits] = OptionBits(BdcItemsOf<BdcOptionItem>(context.options));
+    bits.words[kFinisherBits] = FinisherBits(BdcItemsOf<BdcFinisherItem>(context.finishers));
+    bits.words[kMemoryBits] = MemoryBits(BdcItemsOf<BdcMemoryItem>(context.memory));
+    bits.words[kMediaPathBits] = MediaPathBits(BdcItemsOf<BdcMediaPathInfo>(context.mediaPath));
+    return bits;
+}
+
+const char* BdcApplyRules(const char (&option)[32], const BdcDeviceBits& bits) {
+    for (const OptionRule& rule : BdcOptionRuleTable)
+        if (SameText(rule.option, option) && Holds(rule, bits))
+            return rule.item;
+    return nullptr;
+}
+
+int32_t BdcTrayNumber(const char (&key)[32]) {
+    for (const CodeKey& row : TrayKeyTable)
+        if (SameText(row.key, key))
+            return row.code;
+    return 0;
+}
+
+BdcTrayKeys BdcKeysOf(const BdcInputTrayItem& tray) {
+    return {
+        KeyOf(MediaSizeTable, tray.mediaSize),
+        KeyOf(kOrientations, tray.orientation),
+        MediaTypeOf(tray),
+        KeyOf(kWeights, tray.weight),
+        KeyOf(kColors, tray.color),
+        KeyOf(kHoles, tray.hole),
+    };
+}

@@ -1,0 +1,19 @@
+// The tables by which this model's printers are asked, for the queries themselves. Callers of the module get
+// them through its exports.
+#ifndef DEVCOMM_QUERIES_QUERY_CATALOGUE_H
+#define DEVCOMM_QUERIES_QUERY_CATALOGUE_H
+
+#include "devcomm/queries/query_tables.h"
+
+#include <windows.h>
+
+extern const ModelCheckInfo kModelCheckInfo;
+extern const OptionReqInfo kOptionReqInfo;
+extern const MrkSupReqInfo kMrkSupReqInfo;
+extern const OverlayReqInfo kOverlayReqInfo;
+extern const ProfileReqInfo kProfileReqInfo;
+
+// MIB_IsModelOK by any table (printer_queries.cpp).
+BOOL CheckModel(const ModelCheckInfo& check, const char* agent);
+
+#endif

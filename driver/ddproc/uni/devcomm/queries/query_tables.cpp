@@ -1,0 +1,159 @@
+// The static tables of the printer queries. All of it is constant data, laid out at compile time. Declared in
+// devcomm/queries/query_catalogue.h.
+#include "devcomm/queries/query_catalogue.h"
+
+#include <iterator>
+
+// clang-format off
+namespace {
+
+#define STORAGE_SIZE     ".1.3.6.1.2.1.25.2.3.1.5"   // hrStorageSize
+#define INPUT_TYPE       ".1.3.6.1.2.1.43.8.2.1.2"   // prtInputType
+#define MEDIA_PATH_SPEED ".1.3.6.1.2.1.43.13.4.1.2"  // prtMediaPathMaxSpeedPrintUnit
+#define OVERLAYS         ".1.3.6.1.4.1.47913.1.1.1.1.6.12.1.1"
+#define PROFILES         ".1.3.6.1.4.1.47913.1.1.1.1.6.13.1.1"
+
+// --- Options: the answers of each, in the order in which they are tried.
+
+constexpr OptionValueRecord kMemory[] = {
+    // answer         object            suffix  comparison       expected
+    {"128MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "128"},
+    {"256MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "256"},
+    {"384MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "384"},
+    {"512MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "512"},
+    {"640MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "640"},
+    {"768MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "768"},
+    {"896MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "896"},
+    {"1024MB",          STORAGE_SIZE,     ".1",   kCompareNumber, "1024"},
+};
+constexpr OptionValueRecord kHardDisk[] = {
+    {"EnaOpHDD",        STORAGE_SIZE,     ".2",   kCompareExists, ""},
+    {"DisOpHDD",        "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kManualFeed[] = {
+    {"EnaOpManualFeed", "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kInTray1[] = {
+    {"EnaOpInTray1",    INPUT_TYPE,       ".1.1", kCompareExists, ""},
+    {"DisOpInTray1",    "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kInTray2[] = {
+    {"EnaOpInTray2",    INPUT_TYPE,       ".1.2", kCompareExists, ""},
+    {"DisOpInTray2",    "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kInTray3[] = {
+    {"EnaOpInTray3",    INPUT_TYPE,       ".1.3", kCompareExists, ""},
+    {"DisOpInTray3",    "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kInTray4[] = {
+    {"EnaOpInTray4",    INPUT_TYPE,       ".1.4", kCompareExists, ""},
+    {"DisOpInTray4",    "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kInTray5[] = {
+    {"EnaOpInTray5",    INPUT_TYPE,       ".1.5", kCompareExists, ""},
+    {"DisOpInTray5",    "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kOutTray1[] = {
+    {"DisOpOutTray1",   "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kOutTray2[] = {
+    {"DisOpOutTray2",   "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kOutTray3[] = {
+    {"DisOpOutTray3",   "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kOutTray4[] = {
+    {"DisOpOutTray4",   "",               "",     kCompareExists, ""},
+};
+constexpr OptionValueRecord kDuplex[] = {
+    {"EnaOpDuplex",     MEDIA_PATH_SPEED, ".1.2", kCompareExists, ""},
+    {"DisOpDuplex",     "",               "",     kCompareExists, ""},
+};
+
+constexpr OptionRecord kOptions[] = {
+    {"OpMemory",     std::size(kMemory),     0, kMemory},
+    {"OpHDD",        std::size(kHardDisk),   0, kHardDisk},
+    {"OpManualFeed", std::size(kManualFeed), 0, kManualFeed},
+    {"OpInTray1",    std::size(kInTray1),    0, kInTray1},
+    {"OpInTray2",    std::size(kInTray2),    0, kInTray2},
+    {"OpInTray3",    std::size(kInTray3),    0, kInTray3},
+    {"OpInTray4",    std::size(kInTray4),    0, kInTray4},
+    {"OpInTray5",    std::size(kInTray5),    0, kInTray5},
+    {"OpOutTray1",   std::size(kOutTray1),   0, kOutTray1},
+    {"OpOutTray2",   std::size(kOutTray2),   0, kOutTray2},
+    {"OpOutTray3",   std::size(kOutTray3),   0, kOutTray3},
+    {"OpOutTray4",   std::size(kOutTray4),   0, kOutTray4},
+    {"OpDuplex",     std::size(kDuplex),     0, kDuplex},
+};
+
+// --- Supplies.
+
+constexpr MrkSupItem kSupplies[] = {
+    // name         kind               flag  level  suffix  colour
+    {"Consumable1",  kSupplyNone,       0,    0,     "",     0},
+    {"Consumable2",  kSupplyPercentage, 1,    0,     ".1.1", 0x00FFFF00}, // cyan
+    {"Consumable3",  kSupplyPercentage, 1,    0,     ".1.2", 0x00FF00FF}, // magenta
+    {"Consumable4",  kSupplyPercentage, 1,    0,     ".1.3", 0x0000FFFF}, // yellow
+    {"Consumable5",  kSupplyPercentage, 1,    0,     ".1.4", 0x00000000}, // black
+    {"Consumable6",  kSupplyFixed,      0,    0,     "",     0},
+    {"Consumable7",  kSupplyFixed,      1,    0,     "",     0},
+    {"Consumable8",  kSupplyFixed,      1,    0,     "",     0},
+    {"Consumable9",  kSupplyFixed,      1,    0,     "",     0},
+    {"Consumable10", kSupplyFixed,      1,    0,     "",     0},
+    {"Consumable11", kSupplyLevel,      0,    1,     ".1.8", 0},
+    {"Consumable12", kSupplyFixed,      0,    0,     "",     0},
+    {"",             kSupplyEnd,        0,    0,     "",     0},
+};
+
+// --- What the printer stores.
+
+constexpr StorageNameRecord kOverlayStorages[] = {
+    {"OvlForm_Memory", 3},
+    {"OvlForm_HDD",    4},
+    {"OvlForm_Flash",  5},
+};
+constexpr int32_t kOverlayValues0[] = {1};
+constexpr int32_t kOverlayValues1[] = {2};
+
+constexpr StorageNameRecord kProfileStorages[] = {
+    {"Prof_Memory",    3},
+    {"Prof_HDD",       4},
+    {"Prof_Flash",     5},
+    {"internalROM",    1},
+    {"internalHD",     2},
+};
+constexpr int32_t kProfileValues0[] = {1, 2};
+constexpr int32_t kProfileValues1[] = {3};
+constexpr int32_t kProfileValues2[] = {3};
+
+} // namespace
+
+const ModelCheckInfo kModelCheckInfo = {}; // off
+
+const OptionReqInfo kOptionReqInfo = {std::size(kOptions), 0, kOptions};
+
+const MrkSupReqInfo kMrkSupReqInfo = {
+    ".1.3.6.1.2.1.43.11.1.1.8", // prtMarkerSuppliesMaxCapacity
+    ".1.3.6.1.2.1.43.11.1.1.9", // prtMarkerSuppliesLevel
+    std::size(kSupplies), 0, kSupplies,
+};
+
+const OverlayReqInfo kOverlayReqInfo = {
+    OVERLAYS ".3.1", OVERLAYS ".4.1", OVERLAYS ".5.1",
+    std::size(kOverlayStorages), 0, kOverlayStorages, "OvlForm_HDD",
+    {
+        {OVERLAYS ".2.1", std::size(kOverlayValues0), 0, kOverlayValues0},
+        {OVERLAYS ".2.1", std::size(kOverlayValues1), 0, kOverlayValues1},
+    },
+};
+
+const ProfileReqInfo kProfileReqInfo = {
+    PROFILES ".3.1", PROFILES ".4.1", PROFILES ".2.1",
+    std::size(kProfileStorages), 0, kProfileStorages, "Prof_HDD",
+    {
+        {PROFILES ".5.1", std::size(kProfileValues0), 0, kProfileValues0},
+        {PROFILES ".5.1", std::size(kProfileValues1), 0, kProfileValues1},
+        {PROFILES ".5.1", std::size(kProfileValues2), 0, kProfileValues2},
+    },
+};
+// clang-format on

@@ -1,0 +1,123 @@
+// Building of BER elements: see the header. Lengths up to 127 take one octet, longer ones the long form with
+// two, three or four length octets.
+#include "devcomm/snmp/ber_writer.h"
+
+#include "devcomm/snmp/ber.h"
+
+#include <cstring>
+#include <windows.h>
+
+namespace {
+
+constexpr uint32_t kMostShortLength = 0x7F;
+constexpr uint32_t kGroup = 0x7F;
+
+uint32_t LengthOctets(uint32_t contents) {
+    return contents <= kMostShortLength ? 0 : contents <= 0xFFFF ? 2 : contents <= 0xFFFFFF ? 3 : 4;
+}
+
+uint32_t HeaderSize(uint32_t contents) {
+    return 2 + LengthOctets(contents);
+}
+
+// Of an element that is there already.
+uint32_t HeaderSize(const BerBuffer& element) {
+    return element.octets[1] <= kMostShortLength ? 2 : 2u + (element.octets[1] & ~kBerLongForm);
+}
+
+void WriteLength(uint8_t* element, uint32_t contents) {
+    const uint32_t lengthOctets = LengthOctets(contents);
+    element[1] = static_cast<uint8_t>(lengthOctets == 0 ? contents : kBerLongForm | lengthOctets);
+    for (uint32_t i = lengthOctets; i > 0; --i, contents >>= 8)
+        element[1 + i] = static_cast<uint8_t>(contents);
+}
+
+uint8_t* FreeEnd(const BerBuffer& element) {
+    return element.octets + element.count;
+}
+
+// Takes the octets behind the element into its contents.
+void Grow(BerBuffer& element, uint32_t added) {
+    const uint32_t header = HeaderSize(element);
+    const uint32_t contents = element.count - header + added;
+    const uint32_t newHeader = HeaderSize(contents);
+    if (newHeader != header)
+        memmove(element.octets + newHeader, element.octets + header, contents);
+    WriteLength(element.octets, contents);
+    element.count = newHeader + contents;
+}
+
+// Contents of an OBJECT IDENTIFIER; 0 when they can't be written.
+uint32_t WriteArcs(const uint32_t* arcs, uint32_t count, uint8_t (&to)[kBerMostOid]) {
+    if (count < 2 || !AreFirstArcs(arcs[0], arcs[1]))
+        return 0;
+    uint32_t written = 0;
+    to[written++] = static_cast<uint8_t>(arcs[0] * kBerArcsPerFirst + arcs[1]);
+    for (uint32_t i = 2; i < count; ++i) {
+        uint32_t groups = 1;
+        while (groups < 5 && arcs[i] >> (groups * kBerGroupBits) != 0)
+            ++groups;
+        if (groups > kBerMostOid - written)
+            return 0;
+        while (groups-- > 0)
+            to[written++] = static_cast<uint8_t>((arcs[i] >> (groups * kBerGroupBits) & kGroup)
+                                                 | (groups > 0 ? kBerMoreGroups : 0));
+    }
+    return written;
+}
+
+} // namespace
+
+BerBuffer BerCreate(uint8_t tag, uint32_t capacity) {
+    BerBuffer element = {static_cast<uint8_t*>(LocalAlloc(LMEM_FIXED, capacity)), 2, 1};
+    if (element.octets == nullptr)
+        return {};
+    element.octets[0] = tag;
+    element.octets[1] = 0;
+    return element;
+}
+
+void BerFree(BerBuffer& element) {
+    if (element.owned != 0)
+        LocalFree(element.octets);
+    element = {};
+}
+
+BerBuffer BerBegin(const BerBuffer& outer, uint8_t tag) {
+    const BerBuffer element = {FreeEnd(outer), 2, 0};
+    element.octets[0] = tag;
+    element.octets[1] = 0;
+    return element;
+}
+
+void BerAppend(BerBuffer& outer, const BerBuffer& inner) {
+    Grow(outer, inner.count);
+}
+
+void BerAppendOctets(BerBuffer& outer, uint8_t tag, const void* octets, uint32_t count) {
+    uint8_t* element = FreeEnd(outer);
+    element[0] = tag;
+    WriteLength(element, count);
+    if (count > 0)
+        memcpy(element + HeaderSize(count), octets, count);
+    Grow(outer, HeaderSize(count) + count);
+}
+
+void BerAppendInteger(BerBuffer& outer, int32_t value) {
+    uint8_t octets[kBerMostInteger];
+    for (uint32_t i = 0; i < kBerMostInteger; ++i)
+        octets[i] = static_cast<uint8_t>(static_cast<uint32_t>(value) >> (8 * (kBerMostInteger - 1 - i)));
+    // An octet that only repeats the sign of the next one is left out.
+    uint32_t skipped = 0;
+    while (skipped < kBerMostInteger - 1 && octets[skipped] == ((octets[skipped + 1] & 0x80) != 0 ? 0xFF : 0))
+        ++skipped;
+    BerAppendOctets(outer, kBerIntegerTag, octets + skipped, kBerMostInteger - skipped);
+}
+
+bool BerAppendOid(BerBuffer& outer, const uint32_t* arcs, uint32_t count) {
+    uint8_t contents[kBerMostOid];
+    const uint32_t length = WriteArcs(arcs, count, contents);
+    if (length > 0)
+        BerAppendOctets(outer, kBerOidTag, contents, length);
+    return length > 0;
+}

@@ -1,0 +1,37 @@
+// The two messages of an SNMPv1 GetRequest (RFC 1157): the request that is sent, and what is read from a
+// datagram that came back. Knows nothing of sockets.
+#ifndef DEVCOMM_SNMP_SNMP_MESSAGE_H
+#define DEVCOMM_SNMP_SNMP_MESSAGE_H
+
+#include "devcomm/snmp/ber_reader.h"
+#include "devcomm/snmp/ber_writer.h"
+
+#include <snmp.h>
+
+// A request for the objects of the list, whose values are sent as NULL. A varbind whose value is not NULL
+// goes with its name only, one whose name can't be encoded without it. The caller frees the message by
+// BerFree; null octets without memory.
+BerBuffer SnmpBuildRequest(uint8_t pduTag, const char* community, uint32_t requestId,
+                           const SnmpVarBindList& list);
+
+// A reply, as far as its request-id; the cursors point into the datagram.
+struct SnmpReply {
+    BerReader community;
+    int32_t requestId;
+    BerReader rest; // of the PDU, behind the request-id
+};
+
+// Reads up to the request-id; what lies behind it is not looked at. False when that is malformed.
+bool SnmpReadReply(const uint8_t* datagram, size_t count, SnmpReply& reply);
+
+struct SnmpResult {
+    uint8_t valueType;
+    BerReader value; // contents, in the datagram
+};
+
+// Reads on to the first varbind's value, whose name may be any. Stores error-status and error-index as soon
+// as they are read; either out may be null. False when the reply is malformed.
+bool SnmpReadResult(SnmpReply& reply, AsnInteger32* errorStatus, AsnInteger32* errorIndex,
+                    SnmpResult& result);
+
+#endif

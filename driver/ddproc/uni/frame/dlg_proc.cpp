@@ -1,0 +1,40 @@
+// Dispatch of the dialogs' messages, and the tray-settings button: see the header.
+#include "frame/dlg_proc.h"
+
+#include "base/module_handles.h"
+#include "dialogs/color/color_descriptions.h"
+#include "dialogs/shared/ui_module.h"
+#include "paramdata/device_table.h"
+#include "trays/tray_dialog.h"
+
+namespace {
+
+void OpenTraySettings(HWND page, DialogContext* context) {
+    SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(context));
+    LoadUiModule();
+    const auto run = UiCallback<MyDialogBoxFunction>("MyDialogBox");
+    const TrayDialogEntry* tray = FindTrayDialog(SwitchValue(deviceTable, kSwitchDlgMediaType));
+    if (run == nullptr || tray == nullptr)
+        return;
+    const INT_PTR end =
+        run(ResourceModule(), page, tray->templateId, tray->procedure, reinterpret_cast<LPARAM>(context));
+    if (end == IDOK)
+        SendMessageW(GetParent(page), kTraysChangedMessage, reinterpret_cast<WPARAM>(page), 0);
+}
+
+void RunTrayButton(HWND page, UINT message, WPARAM wParam) {
+    auto* context = reinterpret_cast<DialogContext*>(GetWindowLongPtrW(page, DWLP_USER));
+    if (message == WM_COMMAND && context != nullptr && wParam == kTrayButton)
+        OpenTraySettings(page, context);
+}
+
+} // namespace
+
+int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
+                              int32_t* handled) {
+    if (dialogId == kTrayButtonPage)
+        RunTrayButton(window, message, wParam);
+    if (const ColorDialog* dialog = FindColorDialog(dialogId, SwitchValue(deviceTable, kSwitchColorSetting)))
+        return RunColorDialog(*dialog, window, message, wParam, lParam, handled);
+    return 0;
+}

@@ -1,0 +1,29 @@
+// The caller's feature table and current choices, and how to look a choice up. The records belong to the
+// caller and may be incomplete: whatever names no item answers null.
+#ifndef PICTURE_CAPABILITIES_FEATURE_TABLE_H
+#define PICTURE_CAPABILITIES_FEATURE_TABLE_H
+
+#include "paramdata/device_table.h"
+
+#pragma pack(push, 1)
+// One printing feature: fields as an ItemRecord's, then its items. A feature table ends at the first empty
+// key.
+struct FeatureRecord {
+    ItemRecord feature;
+    const ItemRecord* items; // ends at the first empty key
+};
+static_assert(sizeof(FeatureRecord) == 152 && offsetof(FeatureRecord, items) == 144);
+#pragma pack(pop)
+
+// The caller's choices: for each feature, by position, the position of the selected item.
+using FeatureSettings = int32_t;
+
+// Position of the first feature with this key (ASCII case ignored), -1 when there is none.
+int32_t FindFeature(const FeatureRecord* features, const char* key);
+
+// The selected item of the feature at this position; null when there is no item table or the choice names no
+// item.
+const ItemRecord* SelectedItem(const FeatureRecord* features, const FeatureSettings* settings,
+                               int32_t position);
+
+#endif

@@ -1,0 +1,46 @@
+// The summary of the option features: see the header.
+#include "picture/capabilities/option_summary.h"
+
+#include "base/text.h"
+
+namespace {
+
+constexpr size_t kMostItems = 4;
+
+// The field that a feature decides, and its items in the order of their numbers.
+constexpr struct {
+    const char* feature;
+    int32_t OptionSummary::*field;
+    const char* items[kMostItems];
+} kOptions[] = {
+    {"OpBody", &OptionSummary::bodyPrinter, {"OpBodyPrinter"}},
+    {"OpInTrayUnit", &OptionSummary::inputUnit, {"OpInTrayUnit1"}},
+    {"OpOutTrayUnit",
+     &OptionSummary::outputUnit,
+     {"OpOutTrayUnit1", "OpOutTrayUnit2", "OpOutTrayUnit3", "OpOutTrayUnit4"}},
+    {"OpHDD", &OptionSummary::hardDisk, {"EnaOpHDD"}},
+    {"OpMailBinKit", &OptionSummary::mailbinKit, {"EnaOpMailBinKit"}},
+    {"OpSaddleKit", &OptionSummary::saddleKit, {"EnaSaddleKit"}},
+};
+
+int32_t NumberOf(const ItemRecord* item, const char* const (&items)[kMostItems]) {
+    if (item == nullptr)
+        return 0;
+    for (size_t i = 0; i < kMostItems && items[i] != nullptr; ++i)
+        if (SameText(item->head.key, items[i]))
+            return static_cast<int32_t>(i + 1);
+    return 0;
+}
+
+} // namespace
+
+OptionSummary SummarizeOptions(const FeatureRecord* features, const FeatureSettings* settings) {
+    OptionSummary summary = {};
+    if (features == nullptr)
+        return summary;
+    for (int32_t i = 0; features[i].feature.head.key[0] != 0; ++i)
+        for (const auto& option : kOptions)
+            if (SameText(features[i].feature.head.key, option.feature))
+                summary.*option.field = NumberOf(SelectedItem(features, settings, i), option.items);
+    return summary;
+}

@@ -1,0 +1,102 @@
+// The printer's picture: see the header. Which bitmaps are drawn when, and in which order, is in
+// view_rules.cpp.
+#include "picture/view/printer_view.h"
+
+#include "base/text.h"
+#include "picture/view/bitmaps.h"
+#include "picture/view/view_rules.h"
+
+namespace {
+
+constexpr UINT kDiskMissing = 201;
+constexpr UINT kDiskInstalled = 202;
+constexpr int kBadgeMargin = 8; // pixels from the top right corner
+
+constexpr int kCaptionMargin = 4; // pixels from the top left corner
+constexpr int kCaptionPoints = 9;
+
+// Of two edges of the caller's rectangle, whichever way round they are.
+LONG Distance(LONG from, LONG to) {
+    const int64_t distance = static_cast<int64_t>(to) - from;
+    return static_cast<LONG>(distance < 0 ? -distance : distance);
+}
+
+void DrawBitmaps(HDC to, POINT centre, const ViewBitmaps& bitmaps) {
+    for (size_t i = 0; i < bitmaps.partCount; ++i)
+        DrawPart(to, centre, bitmaps.parts[i]);
+    for (size_t i = 0; i < bitmaps.highlightCount; ++i) {
+        DrawPart(to, centre, bitmaps.highlights[i] + 1); // its mask
+        DrawHighlightColor(to, centre, bitmaps.highlights[i]);
+    }
+}
+
+// Measures the badge for its place, then draws it as any part.
+void DrawBadge(HDC to, const RECT& rectangle, UINT id) {
+    const SIZE size = BitmapSize(LoadedBitmap(id).handle);
+    const POINT centre = {Sum(rectangle.right, -(size.cx / 2) - kBadgeMargin),
+                          Sum(rectangle.top, size.cy / 2 + kBadgeMargin)};
+    DrawPart(to, centre, id);
+}
+
+// The machine's name, when the feature offers several machines; null otherwise.
+const ItemRecord* CaptionItem(const PrinterViewRequest& request) {
+    const int32_t machine = FindFeature(request.features, "OpMachine");
+    if (machine < 0)
+        return nullptr;
+    const ItemRecord* items = request.features[machine].items;
+    if (items == nullptr || items[0].head.key[0] == 0 || items[1].head.key[0] == 0)
+        return nullptr;
+    return SelectedItem(request.features, request.settings, machine);
+}
+
+// Bold, in the size that the target's resolution asks for. The caller deletes it.
+HFONT CreateCaptionFont(HDC target) {
+    LOGFONTW font = {};
+    GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof(font), &font);
+    font.lfHeight = -MulDiv(kCaptionPoints, GetDeviceCaps(target, LOGPIXELSY), 72);
+    font.lfWeight = FW_BOLD;
+    return CreateFontIndirectW(&font);
+}
+
+void DrawCaption(HDC to, HDC target, const RECT& rectangle, const ItemRecord& item) {
+    HFONT font = CreateCaptionFont(target);
+    HGDIOBJ before = font != nullptr ? SelectObject(to, font) : nullptr;
+    TextOutW(to, Sum(rectangle.left, kCaptionMargin), Sum(rectangle.top, kCaptionMargin), item.display,
+             static_cast<int>(TextLength(item.display)));
+    if (before != nullptr)
+        SelectObject(to, before);
+    if (font != nullptr)
+        DeleteObject(font);
+}
+
+// Draws into `to`; the target tells the resolution.
+void DrawAll(HDC to, HDC target, const RECT& rectangle, SIZE size, const PrinterViewRequest& request) {
+    const OptionSummary options = SummarizeOptions(request.features, request.settings);
+    FillRect(to, &rectangle, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
+    DrawBitmaps(to, {Sum(rectangle.left, size.cx / 2), Sum(rectangle.top, size.cy / 2)},
+                ChooseBitmaps(options, request));
+    DrawBadge(to, rectangle, options.hardDisk == 1 ? kDiskInstalled : kDiskMissing);
+    if (const ItemRecord* item = CaptionItem(request))
+        DrawCaption(to, target, rectangle, *item);
+}
+
+} // namespace
+
+void WINAPI DrawPrinterView(HDC target, const RECT* rectangle, const PrinterViewRequest* request) {
+    if (rectangle == nullptr || request == nullptr)
+        return;
+    const SIZE size = {Distance(rectangle->left, rectangle->right),
+                       Distance(rectangle->top, rectangle->bottom)};
+    HBITMAP canvas = CreateCompatibleBitmap(target, size.cx, size.cy);
+    { // the context goes before what is selected into it
+        MemoryContext memory(target);
+        if (memory.handle != nullptr && canvas != nullptr && memory.Select(canvas)) {
+            DrawAll(memory.handle, target, *rectangle, size, *request);
+            BitBlt(target, 0, 0, size.cx, size.cy, memory.handle, 0, 0, SRCCOPY);
+        } else {
+            DrawAll(target, target, *rectangle, size, *request);
+        }
+    }
+    if (canvas != nullptr)
+        DeleteObject(canvas);
+}
