@@ -2,9 +2,9 @@
 // against the least that any reader does (open, read into memory, close); and the same for files of ever more
 // items.
 #include "frame/device_data.h"
-#include "platform_control.h"
 #include "synthetic_file.h"
 #include "trays/media_type_lists.h"
+#include "win32_control.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>
@@ -24,7 +24,7 @@ void Measure(benchmark::State& state, const std::string& folder) {
     const std::string name = folder + "/TELMAR_D.DLL";
     std::vector<wchar_t> module(name.begin(), name.end());
     module.push_back(0);
-    platform::SetModuleFileName(module.data());
+    win32::SetModuleFileName(module.data());
     for ([[maybe_unused]] auto _ : state) {
         InitDeviceData(nullptr);
         if (mediaTypeLists == nullptr) {

@@ -9,7 +9,7 @@
 #include "devcomm/snmp/snmp_values.h"
 #include "loopback.h"
 #include "net_snmp_peer.h"
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <benchmark/benchmark.h>
 #include <cstring>
@@ -86,7 +86,7 @@ BENCHMARK(PeerReadsReply);
 
 // A session with the agent that serves this port.
 SnmpSession OpenTo(uint16_t port) {
-    platform::RedirectPort(161, port);
+    win32::RedirectPort(161, port);
     return ClientOpen("127.0.0.1", kCommunity, 2000, 3);
 }
 
@@ -138,7 +138,7 @@ constexpr int kOptionRequests = 4 + 1 + 5 + 1;
 
 void AllOptions(benchmark::State& state) {
     const Server printer = SimulatedPrinter("--address 127.0.0.1");
-    platform::RedirectPort(161, printer.port);
+    win32::RedirectPort(161, printer.port);
     SnmpApiBind();
     const OptionReqInfo& options = *MIB_OptionReqInfo();
     std::vector<OptionRequestItem> items(static_cast<size_t>(options.count));

@@ -6,7 +6,7 @@
 #include "devcomm/snmp/ber_reader.h"
 #include "devcomm/snmp/ber_writer.h"
 #include "devcomm/snmp/snmp_values.h"
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <string>
 #include <vector>
@@ -72,7 +72,7 @@ void CheckOctets(const Arcs& arcs) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
-    platform::Reset();
+    win32::Reset();
     std::string text(octets, octets + count);
     text.resize(text.find('\0') != std::string::npos ? text.find('\0') : text.size());
     const Arcs arcs = Convert(text);
@@ -84,6 +84,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
         Require(Convert(printed) == arcs, "other arcs from the printed text");
         CheckOctets(arcs);
     }
-    Require(platform::Count().localBlocks == 0, "something is left over");
+    Require(win32::Count().localBlocks == 0, "something is left over");
     return 0;
 }

@@ -6,7 +6,7 @@
 
 #include "base/text.h"
 #include "frame/entry.h"
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <cstring>
 #include <filesystem>
@@ -185,8 +185,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     static const ModuleFolder folder;
     folder.Store(octets, count);
     const CompiledInTables kept;
-    platform::Reset();
-    platform::SetModuleFileName(folder.modulePath.data());
+    win32::Reset();
+    win32::SetModuleFileName(folder.modulePath.data());
     DllMain(nullptr, DLL_PROCESS_ATTACH, nullptr);
     Require(deviceTable != nullptr && mediaTypeLists != nullptr, "a readable file was not read");
     CheckTable(*deviceTable);
@@ -196,7 +196,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     CheckFixedParts(kept);
     DllMain(nullptr, DLL_PROCESS_DETACH, nullptr);
 
-    const platform::Counts counts = platform::Count();
+    const win32::Counts counts = win32::Count();
     Require(counts.globalBlocks == 0 && counts.localBlocks == 0 && counts.files == 0,
             "something is left over");
     Require(counts.allocatedBytes <= kMostAnyway + kMostPerByte * count,

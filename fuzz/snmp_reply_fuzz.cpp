@@ -7,7 +7,7 @@
 #include "devcomm/snmp/snmp_client.h"
 #include "devcomm/snmp/snmp_message.h"
 #include "devcomm/snmp/snmp_values.h"
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <algorithm>
 #include <cstring>
@@ -16,7 +16,7 @@
 
 namespace {
 
-using platform::Datagram;
+using win32::Datagram;
 
 constexpr int32_t kFirstId = 257;
 constexpr size_t kReceiveCapacity = 4096;
@@ -99,13 +99,13 @@ DWORD ExpectedError(const std::vector<Datagram>& datagrams) {
 }
 
 void CheckRequest(const std::vector<Datagram>& datagrams) {
-    platform::Wire wire;
+    win32::Wire wire;
     wire.answer = [&datagrams, answered = false](const Datagram&) mutable {
         const bool first = !answered;
         answered = true;
         return first ? datagrams : std::vector<Datagram>();
     };
-    platform::SetWire(wire);
+    win32::SetWire(wire);
     SnmpVarBind varBind;
     memset(&varBind, 0xEE, sizeof(varBind));
     varBind.name = {};
@@ -134,15 +134,15 @@ void CheckRequest(const std::vector<Datagram>& datagrams) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
-    platform::Reset();
+    win32::Reset();
     const std::vector<Datagram> datagrams = Split(octets, count);
     for (const Datagram& datagram : datagrams)
         ReadOne(datagram);
     if (!datagrams.empty() && !datagrams[0].empty()) // else nothing is seen waiting, which only takes time
         CheckRequest(datagrams);
-    const platform::Counts counts = platform::Count();
+    const win32::Counts counts = win32::Count();
     Require(counts.localBlocks == 0 && counts.sockets == 0 && counts.socketUses == 0,
             "something is left over");
-    platform::Reset(); // with nothing kept no search for leaks is due, which takes most of the time
+    win32::Reset(); // with nothing kept no search for leaks is due, which takes most of the time
     return 0;
 }

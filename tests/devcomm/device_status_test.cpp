@@ -3,7 +3,7 @@
 #include "devcomm/bidi/device_status.h"
 
 #include "devcomm/scripted_bdc_host.h"
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -24,7 +24,7 @@ const wchar_t* const kSystemLibrariesWide[] = {L"KERNEL32.DLL", L"WS2_32.DLL", L
 void RegisterSystemLibraries(size_t missing = kNone) {
     for (size_t i = 0; i < 3; ++i)
         if (i != missing)
-            platform::RegisterLibrary(kSystemLibrariesWide[i]);
+            win32::RegisterLibrary(kSystemLibrariesWide[i]);
 }
 
 // A load with its look-ups, the last of which fails when an entry point is missing.
@@ -48,8 +48,8 @@ struct BdcLoad : testing::Test {
     BdcLoad() { Start(); }
 
     static void Start() {
-        platform::Reset();
-        platform::SetModuleFileName(L"D:\\Family\\TELMAR_D.DLL");
+        win32::Reset();
+        win32::SetModuleFileName(L"D:\\Family\\TELMAR_D.DLL");
         script = {};
     }
 
@@ -61,8 +61,8 @@ struct BdcLoad : testing::Test {
         EXPECT_EQ(Option("OpHDD"), "refused");
         EXPECT_EQ(Tray("InTray1"), "refused");
         EXPECT_TRUE(script.calls.empty());
-        EXPECT_EQ(platform::Count().libraryReferences, 0);
-        EXPECT_EQ(platform::Count().globalBlocks, 0);
+        EXPECT_EQ(win32::Count().libraryReferences, 0);
+        EXPECT_EQ(win32::Count().globalBlocks, 0);
     }
 
     static Words Checks(size_t missing = kNone) {
@@ -76,7 +76,7 @@ struct BdcLoad : testing::Test {
 
 TEST_F(BdcLoad, ByBareNameThenBesideTheModule) {
     EXPECT_EQ(DDProc_IsEnableBdcLib(), FALSE);
-    EXPECT_EQ(platform::LibraryCalls(), Words({"load " + kBare, "load " + kFull}));
+    EXPECT_EQ(win32::LibraryCalls(), Words({"load " + kBare, "load " + kFull}));
     ExpectNobodyAnswers();
     for (const bool bare : {true, false}) {
         Start();
@@ -84,7 +84,7 @@ TEST_F(BdcLoad, ByBareNameThenBesideTheModule) {
         RegisterSystemLibraries();
         EXPECT_EQ(DDProc_IsEnableBdcLib(), TRUE);
         const Words loads = bare ? Load(kBare) : Words{"load " + kBare} + Load(kFull);
-        EXPECT_EQ(platform::LibraryCalls(), loads + Checks() + Words{"free " + (bare ? kBare : kFull)});
+        EXPECT_EQ(win32::LibraryCalls(), loads + Checks() + Words{"free " + (bare ? kBare : kFull)});
         EXPECT_TRUE(script.calls.empty()) << "no question is asked";
     }
     EXPECT_EQ(BdcLoadLibrary(nullptr, kBareName), 248);
@@ -105,7 +105,7 @@ TEST_F(BdcLoad, EachEntryPointIsNeeded) {
         Register(kBareName, missing);
         Register(kFullPath);
         EXPECT_EQ(Option("OpMachine"), "OpMachine1");
-        EXPECT_EQ(platform::LibraryCalls(), Load(kBare, missing) + Load(kFull) + Words{"free " + kFull});
+        EXPECT_EQ(win32::LibraryCalls(), Load(kBare, missing) + Load(kFull) + Words{"free " + kFull});
     }
 }
 
@@ -117,7 +117,7 @@ TEST_F(BdcLoad, EachSystemLibraryIsNeeded) {
         Register(kBareName);
         RegisterSystemLibraries(missing);
         EXPECT_EQ(DDProc_IsEnableBdcLib(), FALSE);
-        EXPECT_EQ(platform::LibraryCalls(), Load(kBare) + Checks(missing) + Words{"free " + kBare});
+        EXPECT_EQ(win32::LibraryCalls(), Load(kBare) + Checks(missing) + Words{"free " + kBare});
         EXPECT_EQ(Option("OpMachine"), "OpMachine1");
     }
 }
@@ -180,7 +180,7 @@ TEST_F(BdcStatus, IsCommunicateDeviceAsksInOrderUntilOneFails) {
             EXPECT_EQ(model, fails ? 0 : 1);
             EXPECT_EQ(CallTexts(), Words(all.begin(), all.begin() + (fails ? static_cast<long>(i) + 1 : 3)));
             EXPECT_EQ(DDProc_IsCommunicateDevice(kAgent, nullptr), fails ? FALSE : TRUE);
-            EXPECT_EQ(platform::Count().libraryReferences, 0);
+            EXPECT_EQ(win32::Count().libraryReferences, 0);
             EXPECT_EQ(Option("OpMachine"), fails && i == 2 ? "refused" : "OpMachine1");
             calls[i].answer.status = 0;
         }
@@ -260,23 +260,23 @@ TEST_F(BdcStatus, WhatAFailingCallWroteIsThrownAway) {
 
 TEST_F(BdcStatus, AllocationFailures) {
     RegisterSystemLibraries();
-    platform::FailAllocations(1);
+    win32::FailAllocations(1);
     EXPECT_EQ(DDProc_IsEnableBdcLib(), FALSE);
-    EXPECT_EQ(platform::LibraryCalls(), Words());
-    platform::FailAllocations(1);
+    EXPECT_EQ(win32::LibraryCalls(), Words());
+    win32::FailAllocations(1);
     EXPECT_EQ(Tray("InTray1"), "refused");
-    EXPECT_EQ(platform::LibraryCalls(), Words());
+    EXPECT_EQ(win32::LibraryCalls(), Words());
 
     // The context's block comes first, then those of the firmware, of memory and of five more.
     script.device.memory.items = MemoryItem(3);
     for (unsigned failing = 1; failing <= 9; ++failing) {
         SCOPED_TRACE(failing);
         script.calls.clear();
-        platform::FailAllocations(failing);
+        win32::FailAllocations(failing);
         EXPECT_EQ(Option("OpHDD"), failing == 1 ? "refused" : failing == 3 ? "DisOpHDD" : "EnaOpHDD");
-        platform::FailAllocations(0);
-        EXPECT_EQ(platform::Count().globalBlocks, 0);
-        EXPECT_EQ(platform::Count().libraryReferences, 0);
+        win32::FailAllocations(0);
+        EXPECT_EQ(win32::Count().globalBlocks, 0);
+        EXPECT_EQ(win32::Count().libraryReferences, 0);
         EXPECT_EQ(script.calls.size(), failing == 1 ? 0 : Fill().size() - (failing <= 8 ? 1 : 0));
     }
 }
@@ -300,8 +300,8 @@ TEST_F(BdcStatus, NullArguments) {
     EXPECT_EQ(DDProc_IsCommunicateDevice(nullptr, &model), FALSE);
     EXPECT_EQ(model, 0);
     EXPECT_EQ(DDProc_IsCommunicateDevice(nullptr, nullptr), FALSE);
-    EXPECT_EQ(platform::LibraryCalls(), Words()) << "before anything is loaded";
-    EXPECT_EQ(platform::Count().allocations, 0u);
+    EXPECT_EQ(win32::LibraryCalls(), Words()) << "before anything is loaded";
+    EXPECT_EQ(win32::Count().allocations, 0u);
     EXPECT_EQ(DDProc_OptionRequest(kAgent, 0, &option), TRUE);
     EXPECT_EQ(DDProc_InputTrayStatus(kAgent, 0, &tray), TRUE);
 }

@@ -59,7 +59,7 @@ TEST_F(BdcAnswers, ModelTestIsExact) {
         EXPECT_EQ(model, c.model);
         EXPECT_EQ(Option("OpMachine"), c.model == 1 ? "OpMachine1" : "refused");
         EXPECT_EQ(Tray("InTray9"), c.model == 1 ? kUnknownTray : "refused");
-        EXPECT_EQ(platform::Count().libraryReferences, 0);
+        EXPECT_EQ(win32::Count().libraryReferences, 0);
     }
 }
 

@@ -2,8 +2,8 @@
 #include "devcomm/snmp/snmp_client.h"
 #include "devcomm/snmp/snmp_entry_points.h"
 #include "devcomm/snmp/snmp_values.h"
-#include "platform_control.h"
 #include "support/raw_bytes.h"
+#include "win32_control.h"
 
 #include <array>
 #include <gtest/gtest.h>
@@ -56,13 +56,13 @@ Slots Bound() {
 }
 
 void Register(const std::string& path, size_t first, size_t end, size_t missing = kNone) {
-    std::vector<platform::Export> exports;
+    std::vector<win32::Export> exports;
     for (size_t i = first; i < end; ++i)
         if (i != missing) {
             exports.emplace_back(kNames[i], SystemFunction<0>);
             exports.back().function = reinterpret_cast<FARPROC>(kSystem[i]);
         }
-    platform::RegisterLibrary(Widened(path).data(), exports);
+    win32::RegisterLibrary(Widened(path).data(), exports);
 }
 
 void RegisterBoth(size_t missing = kNone) {
@@ -93,7 +93,7 @@ void ExpectReleased() {
     EXPECT_EQ(snmpEntryPoints.snmpApi, nullptr);
     EXPECT_EQ(snmpEntryPoints.bindCount, 0u);
     EXPECT_FALSE(SnmpApiIsBound());
-    EXPECT_EQ(platform::Count().libraryReferences, 0);
+    EXPECT_EQ(win32::Count().libraryReferences, 0);
 }
 
 TEST(SnmpBind, SystemVersions) {
@@ -106,8 +106,8 @@ TEST(SnmpBind, SystemVersions) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(std::to_string(c.platformId) + " " + std::to_string(c.major));
-        platform::Reset();
-        platform::SetVersion(c.platformId, c.major);
+        win32::Reset();
+        win32::SetVersion(c.platformId, c.major);
         RegisterBoth(c.systemSlots); // what isn't asked for may be missing
         Slots expected = kSystem;
         if (c.systemSlots < 9)
@@ -116,9 +116,9 @@ TEST(SnmpBind, SystemVersions) {
         EXPECT_EQ(Bound(), c.systemSlots > 0 ? expected : kClient);
         EXPECT_TRUE(SnmpApiIsBound());
         EXPECT_EQ(snmpEntryPoints.bindCount, 1u);
-        EXPECT_EQ(platform::LibraryCalls(), c.systemSlots > 0 ? Finds(c.systemSlots) : Words());
+        EXPECT_EQ(win32::LibraryCalls(), c.systemSlots > 0 ? Finds(c.systemSlots) : Words());
         SnmpApiRelease();
-        EXPECT_EQ(platform::LibraryCalls(), c.systemSlots > 0 ? WithFrees(Finds(c.systemSlots)) : Words());
+        EXPECT_EQ(win32::LibraryCalls(), c.systemSlots > 0 ? WithFrees(Finds(c.systemSlots)) : Words());
         ExpectReleased();
         SnmpApiRelease();
         ExpectReleased();
@@ -130,7 +130,7 @@ TEST(SnmpBind, LibraryThatDoesNotLoad) {
         for (const bool withSnmp : {false, true}) {
             if (withMgmt && withSnmp)
                 continue;
-            platform::Reset();
+            win32::Reset();
             if (withMgmt)
                 Register(kMgmt, 5, 9);
             if (withSnmp)
@@ -138,10 +138,10 @@ TEST(SnmpBind, LibraryThatDoesNotLoad) {
             EXPECT_EQ(SnmpApiBind(), TRUE);
             EXPECT_EQ(Bound(), kClient);
             EXPECT_TRUE(SnmpApiIsBound());
-            EXPECT_EQ(platform::LibraryCalls(), Loads()) << "the second is tried whatever the first gave";
+            EXPECT_EQ(win32::LibraryCalls(), Loads()) << "the second is tried whatever the first gave";
             EXPECT_EQ(snmpEntryPoints.mgmtApi != nullptr, withMgmt) << "stays loaded";
             EXPECT_EQ(snmpEntryPoints.snmpApi != nullptr, withSnmp);
-            EXPECT_EQ(platform::Count().libraryReferences, withMgmt + withSnmp);
+            EXPECT_EQ(win32::Count().libraryReferences, withMgmt + withSnmp);
             SnmpApiRelease();
             ExpectReleased();
         }
@@ -150,14 +150,14 @@ TEST(SnmpBind, LibraryThatDoesNotLoad) {
 TEST(SnmpBind, EntryPointThatIsMissing) {
     for (size_t missing = 0; missing < 9; ++missing) {
         SCOPED_TRACE(kNames[missing]);
-        platform::Reset();
+        win32::Reset();
         RegisterBoth(missing);
         EXPECT_EQ(SnmpApiBind(), FALSE);
-        EXPECT_EQ(platform::LibraryCalls(), WithFrees(Finds(missing + 1)));
+        EXPECT_EQ(win32::LibraryCalls(), WithFrees(Finds(missing + 1)));
         ExpectReleased();
         EXPECT_EQ(SnmpApiBind(), FALSE) << "tried anew, and not with the built-in client";
         SnmpApiRelease();
-        EXPECT_EQ(platform::LibraryCalls().size(), 2 * WithFrees(Finds(missing + 1)).size())
+        EXPECT_EQ(win32::LibraryCalls().size(), 2 * WithFrees(Finds(missing + 1)).size())
             << "nothing is freed twice";
     }
 }
@@ -167,7 +167,7 @@ TEST(SnmpBind, OnceBoundASecondBindChangesNothing) {
     RegisterBoth(); // would now be there
     EXPECT_EQ(SnmpApiBind(), TRUE);
     EXPECT_EQ(Bound(), kClient);
-    EXPECT_EQ(platform::LibraryCalls(), Loads());
+    EXPECT_EQ(win32::LibraryCalls(), Loads());
     SnmpApiRelease();
     EXPECT_EQ(SnmpApiBind(), TRUE);
     EXPECT_EQ(Bound(), kSystem);
@@ -180,15 +180,15 @@ TEST(SnmpBind, OnceBoundASecondBindChangesNothing) {
 TEST(SnmpBind, SystemDirectories) {
     for (const size_t length : {size_t{0}, size_t{247}, size_t{248}, size_t{260}, size_t{1000}}) {
         SCOPED_TRACE(length);
-        platform::Reset();
+        win32::Reset();
         const std::string directory = std::string("C:\\" + std::string(length, 's')).substr(0, length);
-        platform::SetSystemDirectory(Widened(directory).data());
+        win32::SetSystemDirectory(Widened(directory).data());
         Register(directory + "\\SNMPAPI.DLL", 0, 5);
         Register(directory + "\\MGMTAPI.DLL", 5, 9);
         EXPECT_EQ(SnmpApiBind(), TRUE);
         EXPECT_EQ(Bound(), length == 247 ? kSystem : kClient);
-        EXPECT_EQ(platform::Count().libraryReferences, length == 247 ? 2 : 0);
-        EXPECT_EQ(platform::LibraryCalls().empty(), length != 247);
+        EXPECT_EQ(win32::Count().libraryReferences, length == 247 ? 2 : 0);
+        EXPECT_EQ(win32::LibraryCalls().empty(), length != 247);
         SnmpApiRelease();
         ExpectReleased();
     }

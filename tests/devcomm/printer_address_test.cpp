@@ -1,8 +1,8 @@
 // Host only: the printer's address from the record, the transceiver and the registry; every call, allocation
 // and library that can fail. Records, replies and buffers are heap blocks of just their size.
 #include "devcomm/address/printer_address.h"
-#include "platform_control.h"
 #include "support/raw_bytes.h"
+#include "win32_control.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -91,7 +91,7 @@ Outcome Ask(const RawBytes& record, DWORD bufferSize = 64, const wchar_t* printe
     outcome.lastError = GetLastError();
     if (std::any_of(buffer.begin(), buffer.end(), [](char c) { return c != '#'; }))
         outcome.text.assign(buffer.begin(), std::find(buffer.begin(), buffer.end(), '\0'));
-    const platform::Counts counts = platform::Count();
+    const win32::Counts counts = win32::Count();
     EXPECT_EQ(counts.printers, 0);
     EXPECT_EQ(counts.registryKeys, 0);
     EXPECT_EQ(counts.libraryReferences, 0);
@@ -101,7 +101,7 @@ Outcome Ask(const RawBytes& record, DWORD bufferSize = 64, const wchar_t* printe
 
 std::vector<std::string> CallsOf(const std::string& function) {
     std::vector<std::string> found;
-    for (const std::string& call : platform::Calls())
+    for (const std::string& call : win32::Calls())
         if (call.compare(0, function.size() + 1, function + " ") == 0)
             found.push_back(call);
     return found;
@@ -110,19 +110,19 @@ std::vector<std::string> CallsOf(const std::string& function) {
 #define MONITORS L"System\\CurrentControlSet\\Control\\Print\\Monitors\\"
 
 // The queue on its port, of which the LPR monitor's key says 10.0.0.22, and no transceiver.
-void Arrange(const platform::Queue& queue = {L"Lumora", L"IP_1"}) {
-    platform::Reset();
-    platform::LetReleasesSetLastError(kReleases);
-    platform::RegisterQueue(queue);
-    platform::SetRegistryValue(MONITORS L"LPR Port\\Ports\\IP_1", L"Server Name", Terminated(L"10.0.0.22"));
+void Arrange(const win32::Queue& queue = {L"Lumora", L"IP_1"}) {
+    win32::Reset();
+    win32::LetReleasesSetLastError(kReleases);
+    win32::RegisterQueue(queue);
+    win32::SetRegistryValue(MONITORS L"LPR Port\\Ports\\IP_1", L"Server Name", Terminated(L"10.0.0.22"));
 }
 
 // And a transceiver.
 void ArrangeTransceiver(const Bytes& reply = Terminated(L"10.0.0.1"), DWORD status = 0,
-                        const std::vector<platform::Export>& exports = {{"XcvDataW", XcvDataW}}) {
+                        const std::vector<win32::Export>& exports = {{"XcvDataW", XcvDataW}}) {
     Arrange();
-    platform::RegisterTransceiver(L",XcvPort IP_1", reply, status);
-    platform::RegisterLibrary(L"C:\\Windows\\system32\\WINSPOOL.DRV", exports);
+    win32::RegisterTransceiver(L",XcvPort IP_1", reply, status);
+    win32::RegisterLibrary(L"C:\\Windows\\system32\\WINSPOOL.DRV", exports);
 }
 
 TEST(PrinterAddress, FromTheRecord) {
@@ -146,12 +146,12 @@ TEST(PrinterAddress, FromTheRecord) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
-        platform::SetAnsiCodePage(c.codePage);
+        win32::SetAnsiCodePage(c.codePage);
         Expect(Ask(Record(c.flag, c.address), c.bufferSize), c.expected);
     }
     EXPECT_EQ(CallsOf("OpenPrinterW").size(), 0u);
     for (const unsigned conversion : {1u, 2u}) {
-        platform::FailCall(conversion, 1113);
+        win32::FailCall(conversion, 1113);
         Expect(Ask(Record(1, Terminated(L"10.0.0.3"))), kNothing);
     }
 
@@ -172,7 +172,7 @@ TEST(PrinterAddress, NullArgumentsAndSizesThatNoBufferHas) {
     EXPECT_EQ(DDProc_GetPrinterIPAddress(L"Lumora", nullptr, buffer, sizeof(buffer), &needed), FALSE);
     EXPECT_EQ(GetLastError(), kBefore);
     EXPECT_EQ(needed, kUntouched);
-    EXPECT_TRUE(platform::Calls().empty());
+    EXPECT_TRUE(win32::Calls().empty());
 
     EXPECT_EQ(ask(record, 8), FALSE);
     EXPECT_EQ(ask(kAskQueue, 8), TRUE);
@@ -181,7 +181,7 @@ TEST(PrinterAddress, NullArgumentsAndSizesThatNoBufferHas) {
         EXPECT_STREQ(buffer, "10.0.0.3");
         EXPECT_EQ(ask(kAskQueue, claimed), TRUE);
         EXPECT_STREQ(buffer, "10.0.0.1");
-        EXPECT_EQ(platform::Calls().back(), "WideCharToMultiByte 1252 8");
+        EXPECT_EQ(win32::Calls().back(), "WideCharToMultiByte 1252 8");
     }
 }
 
@@ -198,7 +198,7 @@ TEST(PrinterAddress, ATransceiversAnswerNeedsNoRegistry) {
         "WideCharToMultiByte 1252 0",
         "WideCharToMultiByte 1252 8",
     };
-    EXPECT_EQ(platform::Calls(), calls);
+    EXPECT_EQ(win32::Calls(), calls);
 }
 
 TEST(PrinterAddress, TheSystemsVersionNamesTheTransceiver) {
@@ -214,8 +214,8 @@ TEST(PrinterAddress, TheSystemsVersionNamesTheTransceiver) {
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         ArrangeTransceiver();
-        platform::RegisterTransceiver(nullptr, Terminated(L"10.0.0.1"));
-        platform::SetVersion(c.platformId, c.major);
+        win32::RegisterTransceiver(nullptr, Terminated(L"10.0.0.1"));
+        win32::SetVersion(c.platformId, c.major);
         Expect(Ask(kAskQueue), c.platformId == 2 ? kFromTransceiver : kFromRegistry);
         EXPECT_EQ(CallsOf("OpenPrinterW").back(), c.opened);
     }
@@ -244,11 +244,11 @@ TEST(PrinterAddress, TextsOfAnyShape) {
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         ArrangeTransceiver(c.octets);
-        platform::SetAnsiCodePage(c.codePage);
+        win32::SetAnsiCodePage(c.codePage);
         Expect(Ask(kAskQueue, c.bufferSize), c.expected);
         Arrange();
-        platform::SetAnsiCodePage(c.codePage);
-        platform::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", c.octets);
+        win32::SetAnsiCodePage(c.codePage);
+        win32::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", c.octets);
         Expect(Ask(kAskQueue, c.bufferSize), c.expected);
     }
 }
@@ -261,15 +261,15 @@ TEST(PrinterAddress, NoReplyLeadsToTheRegistryAndNoValueToTheNextMonitor) {
     ArrangeTransceiver(Terminated(L"10.0.0.1"), 0, {}); // the spooler's library lacks the call
     Expect(Ask(kAskQueue), kFromRegistry);
     ArrangeTransceiver();
-    platform::SetSystemDirectory(L"C:\\Elsewhere"); // which has no such library
+    win32::SetSystemDirectory(L"C:\\Elsewhere"); // which has no such library
     Expect(Ask(kAskQueue), kFromRegistry);
-    EXPECT_EQ(platform::LibraryCalls().size(), 1u) << "nothing is looked for in it";
+    EXPECT_EQ(win32::LibraryCalls().size(), 1u) << "nothing is looked for in it";
 
     Arrange();
-    platform::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", Xs(513));
+    win32::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", Xs(513));
     Expect(Ask(kAskQueue), kFromRegistry);
     EXPECT_EQ(CallsOf("RegQueryValueExW").front(), "RegQueryValueExW IPAddress 512");
-    platform::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", {});
+    win32::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", {});
     Expect(Ask(kAskQueue), Stored(""));
 }
 
@@ -287,16 +287,16 @@ TEST(PrinterAddress, EveryPortMonitorInItsOrder) {
     };
     for (unsigned first = 1; first <= 8; ++first) { // the monitors before it lack the value or the whole key
         SCOPED_TRACE(first);
-        platform::Reset();
-        platform::LetReleasesSetLastError(kReleases);
-        platform::RegisterQueue({L"Lumora", L"IP_1"});
+        win32::Reset();
+        win32::LetReleasesSetLastError(kReleases);
+        win32::RegisterQueue({L"Lumora", L"IP_1"});
         for (unsigned i = 1; i <= 7; ++i) {
             const auto& monitor = kMonitors[i - 1];
             const BYTE digit = static_cast<BYTE>('0' + i);
             if (i % 2 == 0)
-                platform::SetRegistryValue(monitor.key, L"HostName", Terminated(L"other"));
+                win32::SetRegistryValue(monitor.key, L"HostName", Terminated(L"other"));
             if (i >= first)
-                platform::SetRegistryValue(monitor.key, monitor.value, {digit, 0});
+                win32::SetRegistryValue(monitor.key, monitor.value, {digit, 0});
         }
         // The transceiver, which can't be opened, is the last that leaves an error.
         Expect(Ask(kAskQueue), first < 8 ? Stored(std::to_string(first)) : Refused(1801));
@@ -311,7 +311,7 @@ TEST(PrinterAddress, LongPortNames) {
         SCOPED_TRACE(length);
         const std::string port(length, 'p');
         Arrange({L"Long", Widened(port).data()});
-        platform::SetRegistryValue(Widened(key).data(), L"Server Name", Terminated(L"10.0.0.4"));
+        win32::SetRegistryValue(Widened(key).data(), L"Server Name", Terminated(L"10.0.0.4"));
         Expect(Ask(kAskQueue, 64, L"Long"), Stored("10.0.0.4"));
         EXPECT_EQ(CallsOf("OpenPrinterW").back(), "OpenPrinterW ,XcvPort " + port + " 1");
         EXPECT_EQ(CallsOf("RegOpenKeyExW").back(), "RegOpenKeyExW " + key);
@@ -320,7 +320,7 @@ TEST(PrinterAddress, LongPortNames) {
 
 TEST(PrinterAddress, QueuesThatLackSomething) {
     const struct {
-        platform::Queue queue;
+        win32::Queue queue;
         Outcome expected;
     } cases[] = {
         {{L"Other", L"IP_1"}, Refused(1801)},
@@ -353,7 +353,7 @@ TEST(PrinterAddress, EveryCallFailsInTurn) {
     for (unsigned i = 0; i < std::size(withTransceiver); ++i) {
         SCOPED_TRACE(i);
         ArrangeTransceiver();
-        platform::FailCall(i + 1, 5);
+        win32::FailCall(i + 1, 5);
         Expect(Ask(kAskQueue), withTransceiver[i]);
     }
     const Outcome onRegistry[] = {
@@ -367,7 +367,7 @@ TEST(PrinterAddress, EveryCallFailsInTurn) {
     for (unsigned i = 0; i < std::size(onRegistry); ++i) {
         SCOPED_TRACE(i);
         Arrange();
-        platform::FailCall(i + 7, 5);
+        win32::FailCall(i + 7, 5);
         Expect(Ask(kAskQueue), onRegistry[i]);
         EXPECT_EQ(CallsOf("RegOpenKeyExW").size(), onRegistry[i].result ? 4u : 7u);
     }
@@ -383,7 +383,7 @@ TEST(PrinterAddress, EveryAllocationFailsInTurn) {
     for (unsigned i = 0; i < std::size(expected); ++i) {
         SCOPED_TRACE(i);
         ArrangeTransceiver();
-        platform::FailAllocations(i + 1);
+        win32::FailAllocations(i + 1);
         Expect(Ask(kAskQueue), expected[i]);
     }
 }

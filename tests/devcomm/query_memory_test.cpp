@@ -1,7 +1,7 @@
 // Host only: the walks over a scripted device while the local heap runs out at each allocation in turn.
 #include "devcomm/queries/printer_queries.h"
 #include "devcomm/scripted_device.h"
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <gtest/gtest.h>
 #include <sstream>
@@ -36,11 +36,11 @@ TEST(QueryMemory, EachAllocationFailing) {
                 ScriptedDevice scripted;
                 if (!isEmpty)
                     Script(scripted);
-                const platform::Counts before = platform::Count();
-                platform::FailAllocations(failing);
+                const win32::Counts before = win32::Count();
+                win32::FailAllocations(failing);
                 void* block = Ask(profiles);
-                const platform::Counts after = platform::Count();
-                platform::FailAllocations(0);
+                const win32::Counts after = win32::Count();
+                win32::FailAllocations(0);
                 done = block != nullptr;
                 EXPECT_EQ(done, after.allocations - before.allocations < failing)
                     << "one failed, and was missed";

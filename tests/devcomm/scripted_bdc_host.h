@@ -6,8 +6,8 @@
 #include "devcomm/bidi/bdc_device.h"
 #include "devcomm/bidi/device_status.h"
 #include "devcomm/scripted_bdc.h"
-#include "platform_control.h"
 #include "support/raw_bytes.h"
+#include "win32_control.h"
 
 #include <gtest/gtest.h>
 #include <memory>
@@ -17,11 +17,11 @@ constexpr wchar_t kBareName[] = L"TELMAR_B.DLL";
 constexpr size_t kNone = scripted_bdc::kEntryPointCount; // no entry point is missing
 
 inline void Register(const wchar_t* path, size_t missing = kNone) {
-    std::vector<platform::Export> exports;
+    std::vector<win32::Export> exports;
     for (size_t i = 0; i < scripted_bdc::kEntryPointCount; ++i)
         if (i != missing)
             exports.emplace_back(scripted_bdc::kEntryPoints[i].name, scripted_bdc::kEntryPoints[i].function);
-    platform::RegisterLibrary(path, exports);
+    win32::RegisterLibrary(path, exports);
 }
 
 const std::string kUnknownTray =

@@ -1,15 +1,15 @@
 // Host only: sessions and requests of the built-in client over a scripted wire.
 #include "devcomm/snmp/snmp_client.h"
 #include "devcomm/snmp/snmp_values.h"
-#include "platform_control.h"
 #include "support/octets.h"
+#include "win32_control.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
 
 namespace {
 
-using platform::Datagram;
+using win32::Datagram;
 using Datagrams = std::vector<Datagram>;
 
 constexpr DWORD kErrorBefore = 777; // a last error that nobody sets
@@ -18,15 +18,15 @@ constexpr AsnInteger32 kNothing = 0x5A5A5A5A;
 const Octets kSmallest = Hex("30 21 02 01 00 04 00 A0 1A 02 02 01 01 02 01 00 02 01 00 30 0E 30 0C 06 08 2B"
                              " 06 01 02 01 01 02 00 05 00");
 
-platform::Wire Answering(const Datagrams& replies) {
-    platform::Wire wire;
+win32::Wire Answering(const Datagrams& replies) {
+    win32::Wire wire;
     wire.answer = [replies](const Datagram&) { return replies; };
     return wire;
 }
 
 // The answer to the n-th sending, and to no other.
-platform::Wire AnsweringAt(int sending, const Datagram& reply) {
-    platform::Wire wire;
+win32::Wire AnsweringAt(int sending, const Datagram& reply) {
+    win32::Wire wire;
     wire.answer = [sending, reply, sendings = 0](const Datagram&) mutable {
         return ++sendings == sending ? Datagrams{reply} : Datagrams{};
     };
@@ -35,10 +35,10 @@ platform::Wire AnsweringAt(int sending, const Datagram& reply) {
 
 // A session with a community in a block that ends with its terminator, and a list to ask with.
 struct Client {
-    explicit Client(const platform::Wire& wire, const std::string& name = "tovask", UINT varBinds = 1)
+    explicit Client(const win32::Wire& wire, const std::string& name = "tovask", UINT varBinds = 1)
         : community(Join({Characters(name), {0}})) {
-        platform::SetWire(wire);
-        platform::LetReleasesSetLastError(0);
+        win32::SetWire(wire);
+        win32::LetReleasesSetLastError(0);
         session = ClientOpen("192.0.2.7", reinterpret_cast<const char*>(community.Start()), 2000, 3);
         EXPECT_NE(session, nullptr);
         list = {static_cast<SnmpVarBind*>(ClientMemAlloc(static_cast<UINT>(varBinds * sizeof(SnmpVarBind)))),
@@ -64,10 +64,10 @@ struct Client {
     // The last error of a request that fails and leaves the list as it was.
     DWORD Failure() {
         const std::string before = Image();
-        const int blocksBefore = platform::Count().localBlocks;
+        const int blocksBefore = win32::Count().localBlocks;
         EXPECT_FALSE(Request());
         EXPECT_EQ(Image(), before);
-        EXPECT_EQ(platform::Count().localBlocks, blocksBefore);
+        EXPECT_EQ(win32::Count().localBlocks, blocksBefore);
         return GetLastError();
     }
 
@@ -104,21 +104,21 @@ TEST(SnmpOpen, AddressPortAndLimit) {
         {"255.255.255.255", 0x0100007F}, // that one looks like none
     };
     for (const auto& c : cases) {
-        platform::Wire wire;
+        win32::Wire wire;
         wire.hosts = {{"printer", {0x0D0C0B0A, 0x01010101}}, {"255.255.255.255", {0x0100007F}}};
-        platform::SetWire(wire);
+        win32::SetWire(wire);
         const SnmpSession session = ClientOpen(c.agent, "tovask", 2000, 3);
         ASSERT_NE(session, nullptr) << c.agent;
-        const platform::WireRecord record = platform::ReadWire();
+        const win32::WireRecord record = win32::ReadWire();
         EXPECT_EQ(record.address, c.address) << c.agent;
         EXPECT_EQ(record.port, 161);
         EXPECT_GT(record.receiveLimit, 0u);
         EXPECT_LE(record.receiveLimit, 10000u);
         EXPECT_EQ(record.sent.size(), 0u);
-        EXPECT_EQ(platform::Count().sockets, 1);
+        EXPECT_EQ(win32::Count().sockets, 1);
         EXPECT_EQ(ClientClose(session), TRUE);
-        EXPECT_EQ(platform::Count().sockets, 0);
-        EXPECT_EQ(platform::Count().socketUses, 0);
+        EXPECT_EQ(win32::Count().sockets, 0);
+        EXPECT_EQ(win32::Count().socketUses, 0);
     }
     EXPECT_EQ(ClientClose(nullptr), TRUE);
 }
@@ -126,33 +126,33 @@ TEST(SnmpOpen, AddressPortAndLimit) {
 TEST(SnmpOpen, Failures) {
     const struct {
         const char* what;
-        void (*prepare)(platform::Wire& wire);
+        void (*prepare)(win32::Wire& wire);
         DWORD lastError;
         const char* agent = "192.0.2.7";
     } cases[] = {
-        {"no memory", [](platform::Wire&) { platform::FailAllocations(1); }, 1},
-        {"start-up", [](platform::Wire& wire) { wire.startupError = 10091; }, 10091},
-        {"version 2.2", [](platform::Wire& wire) { wire.versionGranted = 0x0202; }, 30},
-        {"version 1.2", [](platform::Wire& wire) { wire.versionGranted = 0x0201; }, 30},
-        {"version 2.1", [](platform::Wire& wire) { wire.versionGranted = 0x0102; }, 30},
-        {"socket", [](platform::Wire& wire) { wire.socketError = 10024; }, 10024},
-        {"unknown name", [](platform::Wire&) {}, 11001, "nowhere"},
-        {"empty name", [](platform::Wire&) {}, 11001, ""},
-        {"name without address", [](platform::Wire& wire) { wire.hosts["bare"] = {}; }, 0, "bare"},
-        {"connection", [](platform::Wire& wire) { wire.connectError = 10049; }, 10049},
-        {"receive limit", [](platform::Wire& wire) { wire.optionError = 10042; }, 10042},
+        {"no memory", [](win32::Wire&) { win32::FailAllocations(1); }, 1},
+        {"start-up", [](win32::Wire& wire) { wire.startupError = 10091; }, 10091},
+        {"version 2.2", [](win32::Wire& wire) { wire.versionGranted = 0x0202; }, 30},
+        {"version 1.2", [](win32::Wire& wire) { wire.versionGranted = 0x0201; }, 30},
+        {"version 2.1", [](win32::Wire& wire) { wire.versionGranted = 0x0102; }, 30},
+        {"socket", [](win32::Wire& wire) { wire.socketError = 10024; }, 10024},
+        {"unknown name", [](win32::Wire&) {}, 11001, "nowhere"},
+        {"empty name", [](win32::Wire&) {}, 11001, ""},
+        {"name without address", [](win32::Wire& wire) { wire.hosts["bare"] = {}; }, 0, "bare"},
+        {"connection", [](win32::Wire& wire) { wire.connectError = 10049; }, 10049},
+        {"receive limit", [](win32::Wire& wire) { wire.optionError = 10042; }, 10042},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        platform::Reset();
-        platform::LetReleasesSetLastError(0);
-        platform::Wire wire;
+        win32::Reset();
+        win32::LetReleasesSetLastError(0);
+        win32::Wire wire;
         c.prepare(wire);
-        platform::SetWire(wire);
+        win32::SetWire(wire);
         SetLastError(kErrorBefore);
         EXPECT_EQ(ClientOpen(c.agent, "tovask", 2000, 3), nullptr);
         EXPECT_EQ(GetLastError(), c.lastError);
-        const platform::Counts left = platform::Count();
+        const win32::Counts left = win32::Count();
         EXPECT_EQ(left.localBlocks, 0);
         EXPECT_EQ(left.sockets, 0);
         EXPECT_EQ(left.socketUses, 0);
@@ -162,9 +162,9 @@ TEST(SnmpOpen, Failures) {
 TEST(SnmpRequest, SmallestMessageIsSentFiveTimesAndPolledFor) {
     Client client({}, "");
     EXPECT_EQ(client.Failure(), 4102u);
-    EXPECT_EQ(platform::ReadWire().sent, Datagrams(5, kSmallest));
-    EXPECT_EQ(platform::ReadWire().polls, 50000u);
-    EXPECT_EQ(platform::ReadWire().receives, 0u);
+    EXPECT_EQ(win32::ReadWire().sent, Datagrams(5, kSmallest));
+    EXPECT_EQ(win32::ReadWire().polls, 50000u);
+    EXPECT_EQ(win32::ReadWire().receives, 0u);
 }
 
 TEST(SnmpRequest, SeveralVarBinds) {
@@ -182,7 +182,7 @@ TEST(SnmpRequest, SeveralVarBinds) {
     varBinds[3].value.asnValue.string = {};
     ASSERT_TRUE(ClientStrToOid("0.0", &varBinds[4].name));
     EXPECT_FALSE(client.Request(0xA1));
-    EXPECT_EQ(platform::ReadWire().sent.at(0),
+    EXPECT_EQ(win32::ReadWire().sent.at(0),
               Hex("30 30 02 01 00 04 00 A1 29 02 02 01 01 02 01 00 02 01 00 30 1D 30 07 06 03 2B 06 01 05 00"
                   " 30 05 06 03 77 81 00 30 02 05 00 30 00 30 05 06 01 00 05 00"));
     varBinds[2].name = varBinds[3].name = {};
@@ -200,7 +200,7 @@ TEST(SnmpRequest, LongestVarBinds) {
         varBinds = Join({varBinds, Hex("30 82 00 86 06 82 00 80 77"), Octets(127, 7), Hex("05 00")});
     }
     EXPECT_FALSE(client.Request());
-    EXPECT_EQ(platform::ReadWire().sent.at(0),
+    EXPECT_EQ(win32::ReadWire().sent.at(0),
               Element(0x30, {Hex("02 01 00 04 00"), Element(0xA0, {Hex("02 02 01 01 02 01 00 02 01 00"),
                                                                    Element(0x30, {varBinds})})}));
     for (UINT i = 0; i < kVarBinds; ++i)
@@ -223,19 +223,19 @@ TEST(SnmpRequest, Communities) {
         EXPECT_EQ(client.Failure(), 4102u);
         const Octets expected =
             Element(0x30, {Hex("02 01 00"), Hex(c.header), Characters(community), behind});
-        EXPECT_TRUE(platform::ReadWire().sent.at(0) == expected) << c.length;
+        EXPECT_TRUE(win32::ReadWire().sent.at(0) == expected) << c.length;
     }
 }
 
 TEST(SnmpRequest, CommunityIsTheCallers) {
     char community[] = "before";
-    platform::SetWire({});
+    win32::SetWire({});
     const SnmpSession session = ClientOpen("192.0.2.7", community, 2000, 3);
     strcpy(community, "after");
     SnmpVarBind varBind = {};
     SnmpVarBindList list = {&varBind, 1};
     EXPECT_EQ(ClientRequest(session, SNMP_PDU_GET, &list, nullptr, nullptr), 0);
-    const Datagram sent = platform::ReadWire().sent.at(0);
+    const Datagram sent = win32::ReadWire().sent.at(0);
     EXPECT_EQ(Octets(sent.begin() + 5, sent.begin() + 12), Hex("04 05 61 66 74 65 72"));
     ClientClose(session);
 }
@@ -244,17 +244,17 @@ TEST(SnmpRequest, IdsOfALongSession) {
     Client client(Answering({{0}}));
     for (unsigned id = 257; id < 0x8000; ++id)
         ASSERT_FALSE(client.Request());
-    const Datagrams sent = platform::ReadWire().sent;
+    const Datagrams sent = win32::ReadWire().sent;
     const auto idOf = [&sent](size_t i) { return Octets(sent[i].begin() + 15, sent[i].begin() + 19); };
     EXPECT_EQ(idOf(0), Hex("02 02 01 01"));
     EXPECT_EQ(idOf(1), Hex("02 02 01 02"));
     ASSERT_EQ(sent.size(), 0x7FFFu - 256);
     EXPECT_EQ(idOf(sent.size() - 1), Hex("02 02 7F FF"));
 
-    platform::SetWire(Answering({To("02 02 80 00").Message(), To("02 03 00 80 00").Message()}));
+    win32::SetWire(Answering({To("02 02 80 00").Message(), To("02 03 00 80 00").Message()}));
     EXPECT_TRUE(client.Request());
-    EXPECT_EQ(platform::ReadWire().receives, 2u) << "the first is that of -32768";
-    const Datagram last = platform::ReadWire().sent.at(0);
+    EXPECT_EQ(win32::ReadWire().receives, 2u) << "the first is that of -32768";
+    const Datagram last = win32::ReadWire().sent.at(0);
     EXPECT_EQ(Octets(last.begin() + 13, last.begin() + 20), Hex("A0 1B 02 03 00 80 00"));
 }
 
@@ -262,7 +262,7 @@ TEST(SnmpRequest, AnswerToALaterSending) {
     for (int sending = 1; sending <= 6; ++sending) {
         Client client(AnsweringAt(sending, kReply));
         EXPECT_EQ(client.Request(), sending <= 5);
-        const platform::WireRecord record = platform::ReadWire();
+        const win32::WireRecord record = win32::ReadWire();
         EXPECT_EQ(record.sent.size(), std::min<size_t>(static_cast<size_t>(sending), 5));
         EXPECT_EQ(record.polls, sending <= 5 ? static_cast<unsigned>(sending - 1) * 10000 + 1 : 50000u);
         EXPECT_EQ(record.receives, sending <= 5 ? 1u : 0u);
@@ -273,11 +273,11 @@ TEST(SnmpRequest, AnswerToALaterSending) {
 
 TEST(SnmpRequest, SendFails) {
     for (const unsigned sending : {1u, 5u}) {
-        platform::Wire wire;
+        win32::Wire wire;
         wire.failingSend = sending;
         Client client(wire);
         EXPECT_EQ(client.Failure(), 0xFFFFFFFFu);
-        EXPECT_EQ(platform::ReadWire().polls, (sending - 1) * 10000);
+        EXPECT_EQ(win32::ReadWire().polls, (sending - 1) * 10000);
     }
 }
 
@@ -328,9 +328,9 @@ TEST(SnmpReceive, StaleReplies) {
         } else {
             EXPECT_EQ(client.Failure(), 3u);
         }
-        EXPECT_EQ(platform::ReadWire().receives, std::min<size_t>(stale + 1, 5));
-        EXPECT_EQ(platform::ReadWire().sent.size(), 1u);
-        EXPECT_EQ(platform::ReadWire().polls, 1u) << "none before the receives that follow";
+        EXPECT_EQ(win32::ReadWire().receives, std::min<size_t>(stale + 1, 5));
+        EXPECT_EQ(win32::ReadWire().sent.size(), 1u);
+        EXPECT_EQ(win32::ReadWire().polls, 1u) << "none before the receives that follow";
     }
 }
 
@@ -400,7 +400,7 @@ TEST(SnmpReceive, MalformedRepliesLeaveTheList) {
         Client client(Answering({malformed.Message(), kReply}));
         EXPECT_EQ(client.Failure(), 11u) << value;
         EXPECT_EQ(client.status, 5);
-        EXPECT_EQ(platform::ReadWire().receives, 1u) << "ends the request";
+        EXPECT_EQ(win32::ReadWire().receives, 1u) << "ends the request";
     }
 }
 
@@ -410,7 +410,7 @@ TEST(SnmpReceive, EndsWithItsDatagramNotWithTheBuffer) {
     for (size_t count = 0; count < kReply.size(); ++count) {
         Client client(Answering({kStale, Octets(kReply.begin(), kReply.begin() + static_cast<long>(count))}));
         EXPECT_EQ(client.Failure(), 11u) << count;
-        platform::SetWire(Answering({To("02 02 01 02").Message()}));
+        win32::SetWire(Answering({To("02 02 01 02").Message()}));
         EXPECT_TRUE(client.Request()) << "the session can still be used";
     }
 }
@@ -438,15 +438,15 @@ TEST(SnmpReceive, WithoutMemory) {
         reply.value = Hex(value);
         for (const unsigned failing : {1u, 2u}) {
             Client client(Answering({reply.Message()}));
-            platform::FailAllocations(failing);
+            win32::FailAllocations(failing);
             EXPECT_EQ(client.Failure(), DWORD{ERROR_NOT_ENOUGH_MEMORY});
-            EXPECT_EQ(platform::ReadWire().sent.size(), failing - 1) << "the message, then the value";
-            platform::SetWire(Answering({To("02 02 01 02").Message()}));
+            EXPECT_EQ(win32::ReadWire().sent.size(), failing - 1) << "the message, then the value";
+            win32::SetWire(Answering({To("02 02 01 02").Message()}));
             EXPECT_TRUE(client.Request());
         }
     }
     AsnObjectIdentifier oid;
-    platform::FailAllocations(1);
+    win32::FailAllocations(1);
     SetLastError(kErrorBefore);
     EXPECT_FALSE(ClientStrToOid("1.3", &oid));
     EXPECT_TRUE(oid.ids == nullptr);

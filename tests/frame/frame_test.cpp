@@ -1,7 +1,7 @@
 // Host only: the module's entry point and its handles.
 #include "base/module_handles.h"
 #include "frame/entry.h"
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -25,9 +25,9 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
-        platform::Reset();
-        platform::SetModuleFileName(c.module);
-        platform::RegisterLibrary(c.sibling);
+        win32::Reset();
+        win32::SetModuleFileName(c.module);
+        win32::RegisterLibrary(c.sibling);
         EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
         EXPECT_EQ(ModuleInstance(), kInstance);
         EXPECT_EQ(ResourceModule() != nullptr, c.loads);
@@ -37,12 +37,12 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
             EXPECT_EQ(DllMain(nullptr, reason, nullptr), TRUE);
             EXPECT_EQ(ResourceModule(), loaded);
             EXPECT_EQ(ModuleInstance(), kInstance);
-            EXPECT_EQ(platform::Count().libraryReferences, c.loads ? 1 : 0);
+            EXPECT_EQ(win32::Count().libraryReferences, c.loads ? 1 : 0);
         }
         EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
         EXPECT_EQ(ResourceModule(), nullptr);
-        EXPECT_EQ(platform::Count().libraryReferences, 0);
-        EXPECT_EQ(platform::Count().globalBlocks, 0);
+        EXPECT_EQ(win32::Count().libraryReferences, 0);
+        EXPECT_EQ(win32::Count().globalBlocks, 0);
     }
 }
 
@@ -53,8 +53,8 @@ TEST(Frame, NeverLoadsASiblingFromACutPath) {
     module.back() = 0;
     std::vector<wchar_t> parentSibling(module.begin(), module.begin() + 101);
     parentSibling.insert(parentSibling.end(), std::begin(L"TELMAR_S.DLL"), std::end(L"TELMAR_S.DLL"));
-    platform::RegisterLibrary(parentSibling.data());
-    platform::SetModuleFileName(module.data());
+    win32::RegisterLibrary(parentSibling.data());
+    win32::SetModuleFileName(module.data());
     EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
     EXPECT_EQ(ResourceModule(), nullptr);
     EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
@@ -67,7 +67,7 @@ TEST(Frame, SiblingPathFitsOrIsRefused) {
         module[0] = module[folder - 1] = L'\\';
         for (const wchar_t c : L"T.DLL")
             module.push_back(c);
-        platform::SetModuleFileName(module.data());
+        win32::SetModuleFileName(module.data());
         wchar_t path[kPathCapacity];
         EXPECT_EQ(SiblingPath(kInstance, L"TELMAR_S.DLL", path), folder < 248) << folder;
         EXPECT_EQ(path[0], folder < 248 ? L'\\' : L'\0') << folder;

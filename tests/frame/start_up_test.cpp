@@ -2,8 +2,8 @@
 // between, what is released, and what a lack of memory leaves.
 #include "base/module_handles.h"
 #include "frame/entry.h"
-#include "platform_control.h"
 #include "support/prm_image.h"
+#include "win32_control.h"
 
 #include <filesystem>
 #include <fstream>
@@ -23,10 +23,10 @@ struct StartUpTest : ParameterDataTest {
     }
     ~StartUpTest() override { fs::remove_all(folder); }
     void Arrange() const {
-        platform::Reset();
+        win32::Reset();
         const auto path = [this](const char* file) { return Widened((folder / file).string()); };
-        platform::SetModuleFileName(path("TELMAR_D.DLL").data());
-        platform::RegisterLibrary(path("TELMAR_S.DLL").data());
+        win32::SetModuleFileName(path("TELMAR_D.DLL").data());
+        win32::RegisterLibrary(path("TELMAR_S.DLL").data());
     }
     void Store(const std::vector<uint8_t>& bytes) const {
         std::ofstream(folder / "TELMAR_D.PRM", std::ios::binary)
@@ -35,7 +35,7 @@ struct StartUpTest : ParameterDataTest {
     static void Attach() {
         EXPECT_EQ(DllMain(kModule, DLL_PROCESS_ATTACH, nullptr), TRUE);
         EXPECT_NE(ResourceModule(), nullptr);
-        EXPECT_EQ(platform::Count().files, 0) << "the parameter data file is closed again";
+        EXPECT_EQ(win32::Count().files, 0) << "the parameter data file is closed again";
     }
     // As often as one likes: the second time there is nothing left to release.
     static void Detach(int times = 1) {
@@ -43,8 +43,8 @@ struct StartUpTest : ParameterDataTest {
             EXPECT_EQ(DllMain(kModule, DLL_PROCESS_DETACH, nullptr), TRUE);
             EXPECT_EQ(deviceTable, nullptr);
             EXPECT_EQ(mediaTypeLists, nullptr);
-            EXPECT_EQ(platform::Count().globalBlocks, 0);
-            EXPECT_EQ(platform::Count().libraryReferences, 0);
+            EXPECT_EQ(win32::Count().globalBlocks, 0);
+            EXPECT_EQ(win32::Count().libraryReferences, 0);
         }
     }
 
@@ -149,7 +149,7 @@ TEST_F(StartUpTest, AttachWithoutMemory) {
     Store(CompleteImage().bytes);
     Attach();
     Detach();
-    const unsigned allocations = platform::Count().allocations;
+    const unsigned allocations = win32::Count().allocations;
     const RawBytes destination = ListRecord("Graph_DestAuto", 0, L"Printer");
     unsigned withoutLists = 0, withoutDestination = 0;
     for (unsigned n = 1; n <= allocations; ++n) {
@@ -157,7 +157,7 @@ TEST_F(StartUpTest, AttachWithoutMemory) {
         for (const unsigned howMany : {1u, allocations}) {
             Arrange();
             kept.Restore();
-            platform::FailAllocations(n, howMany);
+            win32::FailAllocations(n, howMany);
             Attach();
             const bool built = n == 2 ? howMany == 1 : n > 3; // 1 the file, 2 its image, 3 the device table
             EXPECT_EQ(deviceTable != nullptr, built);

@@ -1,8 +1,8 @@
 // Host only: what the reader and the whole build of the device table make of a system that refuses memory or
 // reads, and of a damaged file. The sanitizers watch every access; what is left behind is counted after each
 // test.
-#include "platform_control.h"
 #include "support/prm_image.h"
+#include "win32_control.h"
 
 #include <set>
 #include <sstream>
@@ -76,7 +76,7 @@ TEST_F(FaultsTest, EveryRoadOfLoadingGivesTheSameResults) {
     const struct {
         const char* what;
         unsigned failingAllocation;
-        platform::FileFaults faults; // failing read, most bytes per read, size query fails
+        win32::FileFaults faults; // failing read, most bytes per read, size query fails
         bool hasImage;
     } roads[] = {
         {"size query fails", 0, {0, 0, true}, false},
@@ -87,40 +87,40 @@ TEST_F(FaultsTest, EveryRoadOfLoadingGivesTheSameResults) {
         {"small reads without image", 2, {0, 3}, false},
     };
     for (const auto& road : roads) {
-        platform::FailAllocations(road.failingAllocation);
-        platform::SetFileFaults(road.faults);
+        win32::FailAllocations(road.failingAllocation);
+        win32::SetFileFaults(road.faults);
         OpenedImage file(image);
         ASSERT_NE(file.file, nullptr) << road.what;
         EXPECT_EQ(file.file->image != nullptr, road.hasImage) << road.what;
         EXPECT_EQ(Transcript(*file, image.Size()), expected) << road.what;
-        platform::SetFileFaults({});
+        win32::SetFileFaults({});
     }
-    platform::FailAllocations(1);
+    win32::FailAllocations(1);
     EXPECT_EQ(OpenedImage(image).file, nullptr) << "no memory for the handle";
 }
 
 TEST_F(FaultsTest, FailedReadsAndSeeksWithoutImage) {
     const PrmImage image;
-    platform::FailAllocations(2);
+    win32::FailAllocations(2);
     OpenedImage file(image);
     PrmText text = {};
     PrmEntry entry = {};
     uint32_t dword = 0;
-    platform::SetFileFaults({1});
+    win32::SetFileFaults({1});
     EXPECT_EQ(PrmRead(*file, &dword, 4, 8), -1);
-    platform::SetFileFaults({1});
+    win32::SetFileFaults({1});
     EXPECT_FALSE(PrmReadDword(*file, 8, dword));
-    platform::SetFileFaults({1});
+    win32::SetFileFaults({1});
     EXPECT_FALSE(PrmReadString(*file, 8, text));
-    platform::SetFileFaults({1});
+    win32::SetFileFaults({1});
     EXPECT_FALSE(PrmReadEntry(*file, 8, entry));
-    platform::SetFileFaults({0, 0, false, true}); // a seek that fails delivers nothing, no failure to some
+    win32::SetFileFaults({0, 0, false, true}); // a seek that fails delivers nothing, no failure to some
     EXPECT_EQ(PrmRead(*file, &dword, 4, 8), 0);
     EXPECT_TRUE(PrmReadDword(*file, 8, dword));
     EXPECT_TRUE(PrmReadString(*file, 8, text));
     EXPECT_FALSE(PrmReadEntry(*file, 8, entry));
     EXPECT_EQ(PrmFindEntry(*file, "First"), 0u);
-    platform::SetFileFaults({});
+    win32::SetFileFaults({});
     for (const uint64_t offset : {0x80000000u, 0xFFFFFFFFu}) // no distance below 0
         EXPECT_EQ(PrmRead(*file, &dword, 4, offset), 0) << offset;
 }
@@ -136,11 +136,11 @@ std::set<size_t> MissingLists(const DeviceTable* table) {
 TEST_F(FaultsTest, AnAllocationThatFailsCostsItsListOnly) {
     const PrmImage image = CompleteImage();
     EXPECT_EQ(MissingLists(BuiltTable(image).table), std::set<size_t>());
-    const unsigned allocations = platform::Count().allocations;
+    const unsigned allocations = win32::Count().allocations;
     std::set<size_t> failedOnce;
     unsigned tables = 0;
     for (unsigned n = 2; n <= allocations; ++n) { // the first is the file's handle
-        platform::FailAllocations(n);
+        win32::FailAllocations(n);
         const BuiltTable built(image);
         if (built.table == nullptr)
             continue;
@@ -155,7 +155,7 @@ TEST_F(FaultsTest, AnAllocationThatFailsCostsItsListOnly) {
     EXPECT_EQ(failedOnce.size(), std::size(kListPositions));
 
     OpenedImage file(image);
-    platform::FailAllocations(2, 1000);
+    win32::FailAllocations(2, 1000);
     DeviceTable* table = BuildDeviceTable(*file);
     ASSERT_NE(table, nullptr);
     EXPECT_EQ(MissingLists(table).size(), std::size(kListPositions));
@@ -172,9 +172,9 @@ TEST_F(FaultsTest, ManyItemsOfOneRecord) {
     for (const std::string& name :
          Split("PaperSize OutPaperSize MediaType InTray MediaTypeList_Tray Staple MachineInfo", ' '))
         image.Entry(name, items, items[0]);
-    const size_t before = platform::Count().allocatedBytes;
+    const size_t before = win32::Count().allocatedBytes;
     EXPECT_NE(BuiltTable(image).table, nullptr);
-    EXPECT_LE(platform::Count().allocatedBytes - before, 32 * image.Size() + 16384);
+    EXPECT_LE(win32::Count().allocatedBytes - before, 32 * image.Size() + 16384);
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 // alone.
 #include "engine_support.h"
 
-#include "hosttools/files.h"
+#include "common/files.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -2,8 +2,8 @@
 // misread.
 #include "engine_support.h"
 
-#include "hosttools/files.h"
-#include "hosttools/text.h"
+#include "common/files.h"
+#include "common/text.h"
 #include "paramdata/feature_switches.h"
 #include "prmc/yaml_writer.h"
 

@@ -1,7 +1,7 @@
 // The program as a whole: exit codes, messages and log.
 #include "running_printer.h"
 
-#include "hosttools/files.h"
+#include "common/files.h"
 
 #include <csignal>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // The running printer and its clients, see running_printer.h.
 #include "running_printer.h"
 
-#include "hosttools/files.h"
+#include "common/files.h"
 
 #include <arpa/inet.h>
 #include <csignal>

@@ -2,7 +2,7 @@
 #ifndef TESTS_RUNNING_PRINTER_H
 #define TESTS_RUNNING_PRINTER_H
 
-#include "hosttools/findings.h"
+#include "common/findings.h"
 #include "simprinter/message.h"
 
 #include <netinet/in.h>

@@ -1,15 +1,15 @@
 // Host only, linked into every test program: starts each test with the platform's stand-in as new, and fails
 // a test that leaves a block, a file, a library reference, a printer or a registry key behind.
-#include "platform_control.h"
+#include "win32_control.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 struct LeakCheck : testing::EmptyTestEventListener {
-    void OnTestStart(const testing::TestInfo&) override { platform::Reset(); }
+    void OnTestStart(const testing::TestInfo&) override { win32::Reset(); }
     void OnTestEnd(const testing::TestInfo&) override {
-        const platform::Counts counts = platform::Count();
+        const win32::Counts counts = win32::Count();
         EXPECT_EQ(counts.globalBlocks, 0);
         EXPECT_EQ(counts.localBlocks, 0);
         EXPECT_EQ(counts.files, 0);

@@ -1,11 +1,11 @@
 // The property sheet in this process, on a screen and beside simulated printers: what its pages do at once,
 // and what a printer's answers, their lack and a full disk make of them.
-#include "dialog_view.h"
-#include "json_form.h"
-#include "picture_file.h"
-#include "property_sheet/page_driver.h"
-#include "property_sheet/page_ids.h"
-#include "settings_fields.h"
+#include "workbench/lib/dialog_view.h"
+#include "workbench/lib/json_form.h"
+#include "workbench/lib/picture_file.h"
+#include "workbench/lib/settings_fields.h"
+#include "workbench/property_sheet/page_driver.h"
+#include "workbench/property_sheet/page_ids.h"
 #include "workbench/workbench_run.h"
 
 #include <set>

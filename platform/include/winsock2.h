@@ -1,9 +1,0 @@
-// Host stand-in for the system's header of this name.
-#ifndef PLATFORM_WINSOCK2_H
-#define PLATFORM_WINSOCK2_H
-
-#include "windows_sockets.h"
-
-using namespace winsock; // not for files that use the host's sockets too
-
-#endif

@@ -1,0 +1,81 @@
+// File access, see files.h. A new file is written beside its place under another name and then renamed.
+#include "common/files.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+[[noreturn]] void Fail(const std::string& what, const std::string& path, int reason) {
+    throw std::runtime_error("cannot " + what + " '" + path + "': " + std::strerror(reason));
+}
+
+struct TemporaryFile {
+    std::string path;
+    int descriptor;
+
+    explicit TemporaryFile(const std::string& target)
+        : path(target + ".XXXXXX"), descriptor(mkstemp(path.data())) {
+        if (descriptor < 0)
+            Fail("write beside", target, errno);
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+    ~TemporaryFile() {
+        close(descriptor);
+        unlink(path.c_str()); // no such file any more once it has been renamed
+    }
+};
+
+void WriteAll(int descriptor, std::string_view contents, const std::string& path) {
+    while (!contents.empty()) {
+        const ssize_t written = write(descriptor, contents.data(), contents.size());
+        if (written < 0 && errno != EINTR)
+            Fail("write", path, errno);
+        contents.remove_prefix(static_cast<size_t>(written > 0 ? written : 0));
+    }
+}
+
+} // namespace
+
+std::string ReadFile(const std::string& path) {
+    std::FILE* file = std::fopen(path.c_str(), "rb");
+    if (!file)
+        Fail("read", path, errno);
+    std::string contents(kMostFileBytes + 1, '\0');
+    errno = 0;
+    contents.resize(std::fread(contents.data(), 1, contents.size(), file));
+    const int reason = std::ferror(file) ? errno : contents.size() > kMostFileBytes ? EFBIG : 0;
+    std::fclose(file);
+    if (reason != 0)
+        Fail("read", path, reason);
+    return contents;
+}
+
+void WriteFileWhole(const std::string& path, std::string_view contents) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
+    if (fs::exists(status) && !fs::is_regular_file(status)) {
+        std::ofstream stream(path, std::ios::binary);
+        if (!stream.write(contents.data(), static_cast<std::streamsize>(contents.size())).flush())
+            Fail("write", path, errno);
+        return;
+    }
+    const std::string target =
+        fs::exists(status) ? fs::canonical(path).string() : path; // keeps a link a link
+    const TemporaryFile temporary(target);
+    WriteAll(temporary.descriptor, contents, path);
+    const mode_t mask = umask(0);
+    umask(mask);
+    if (fchmod(temporary.descriptor, 0666 & ~mask) != 0
+        || std::rename(temporary.path.c_str(), target.c_str()) != 0)
+        Fail("write", path, errno);
+}

@@ -1,0 +1,26 @@
+// Findings and their places as texts, see findings.h.
+#include "common/findings.h"
+
+#include "common/text.h"
+
+#include <algorithm>
+
+std::string PlaceText(const Place& place) {
+    if (place.line == 0)
+        return Hex(place.column);
+    return std::to_string(place.line) + (place.column == 0 ? "" : ":" + std::to_string(place.column));
+}
+
+std::string FindingText(const Finding& finding) {
+    return PlaceText(finding.place) + ": " + (finding.isNote ? "note: " : "") + finding.message;
+}
+
+bool Findings::HasErrors() const {
+    return std::any_of(list.begin(), list.end(), [](const Finding& finding) { return !finding.isNote; });
+}
+
+void Findings::Sort() {
+    std::stable_sort(list.begin(), list.end(), [](const Finding& a, const Finding& b) {
+        return std::pair(a.place.line, a.place.column) < std::pair(b.place.line, b.place.column);
+    });
+}

@@ -1,0 +1,161 @@
+// prmc, the parameter data compiler: command line, messages and exit codes around the engines.
+// Exit codes: 0 done, same or without fault; 1 faults found or files differ; 2 wrong use, unreadable file, or
+// files that can't be compared for their faults.
+#include "common/files.h"
+#include "common/text.h"
+#include "prmc/diff.h"
+#include "prmc/prm_parser.h"
+#include "prmc/prm_writer.h"
+#include "prmc/rules.h"
+#include "prmc/yaml_reader.h"
+#include "prmc/yaml_writer.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <stdexcept>
+#include <vector>
+
+namespace {
+
+enum ExitCode { kDone = 0, kFaults = 1, kTrouble = 2 };
+
+bool IsYaml(const std::string& path) {
+    const std::string extension = std::filesystem::path(path).extension().string();
+    if (EqualNoCase(extension, ".yaml") || EqualNoCase(extension, ".yml"))
+        return true;
+    if (!EqualNoCase(extension, ".prm"))
+        throw std::runtime_error("cannot tell what '" + path + "' is: its name must end in .yaml or .PRM");
+    return false;
+}
+
+// Refuses a file of the form that the command does not take.
+void ExpectForm(const std::string& path, bool wantsYaml) {
+    if (IsYaml(path) != wantsYaml)
+        throw std::runtime_error("'" + path + "' is "
+                                 + (wantsYaml ? "a binary file, wanted is a model (.yaml)"
+                                              : "a model, wanted is a binary file (.PRM)"));
+}
+
+// Reads either form and applies the rules; findings in the order of their places.
+Model ReadModel(const std::string& path, bool isYaml, Findings& findings) {
+    const std::string contents = ReadFile(path);
+    Model model = isYaml ? ReadYaml(contents, findings) : ParsePrm(contents, findings);
+    CheckRules(model, findings);
+    findings.Sort();
+    return model;
+}
+
+void Report(const std::string& path, const Findings& findings) {
+    for (const Finding& finding : findings.list)
+        std::cerr << path << ":" << FindingText(finding) << "\n";
+}
+
+ExitCode Build(const std::string& source, const std::string& target) {
+    ExpectForm(source, true);
+    Findings findings;
+    const Model model = ReadModel(source, true, findings);
+    Report(source, findings);
+    if (findings.HasErrors())
+        return kFaults;
+    const std::vector<uint8_t> bytes = WritePrm(model);
+    WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
+    return kDone;
+}
+
+ExitCode Dump(const std::string& path) {
+    ExpectForm(path, false);
+    Findings findings;
+    const Model model = ReadModel(path, false, findings);
+    if (!findings.list.empty())
+        std::cout << "# Findings on the binary file; what they name may be missing or changed below:\n";
+    for (const Finding& finding : findings.list)
+        std::cout << "#   " << FindingText(finding) << "\n";
+    std::cout << WriteYaml(model);
+    if (!std::cout.flush())
+        throw std::runtime_error("cannot write to the standard output");
+    return findings.HasErrors() ? kFaults : kDone;
+}
+
+ExitCode Check(const std::string& path) {
+    Findings findings;
+    ReadModel(path, IsYaml(path), findings);
+    Report(path, findings);
+    return findings.HasErrors() ? kFaults : kDone;
+}
+
+Model ReadSound(const std::string& path) {
+    Findings findings;
+    Model model = ReadModel(path, IsYaml(path), findings);
+    Report(path, findings);
+    if (findings.HasErrors())
+        throw std::runtime_error("'" + path + "' has faults: nothing to compare");
+    return model;
+}
+
+ExitCode Diff(const std::string& first, const std::string& second) {
+    const std::vector<std::string> lines = DiffModels(ReadSound(first), ReadSound(second));
+    for (const std::string& line : lines)
+        std::cout << line << "\n";
+    return lines.empty() ? kDone : kFaults;
+}
+
+// What is wrong with the command line; names what was given in vain.
+std::string Complaint(const CLI::App& app, const CLI::ParseError& fault,
+                      const std::vector<std::string>& commands) {
+    const std::vector<std::string> unknown = app.remaining(true);
+    const bool hasCommand = !app.get_subcommands().empty();
+    if (unknown.empty())
+        return hasCommand ? fault.what() : "no command is given";
+    if (unknown[0].rfind('-', 0) == 0)
+        return "there is no option " + Quote(unknown[0]);
+    if (!hasCommand)
+        return "there is no command " + Quote(unknown[0]) + NearestHint(unknown[0], commands);
+    return Quote(unknown[0]) + " is one file too many";
+}
+
+ExitCode Run(int argc, char** argv) {
+    CLI::App app{
+        "Compiles a printer model's parameter data from YAML to the binary file that the driver reads.",
+        "prmc"};
+    app.require_subcommand(1);
+    std::string first, second;
+    CLI::App* build = app.add_subcommand("build", "compile a model");
+    build->add_option("MODEL.yaml", first, "the model")->required();
+    build->add_option("-o,--output", second, "binary file to write")->required()->type_name("FILE.PRM");
+    CLI::App* dump = app.add_subcommand("dump", "print a binary file as YAML");
+    dump->add_option("FILE.PRM", first, "binary file")->required();
+    CLI::App* check = app.add_subcommand("check", "report every fault of a file; silent when there is none");
+    check->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
+    CLI::App* diff = app.add_subcommand("diff", "compare two files' contents, each .yaml or .PRM");
+    diff->add_option("A", first, "first file")->required();
+    diff->add_option("B", second, "second file")->required();
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& fault) {
+        if (fault.get_exit_code() == 0) // help was asked for
+            return app.exit(fault), kDone;
+        std::vector<std::string> commands;
+        for (const CLI::App* command : app.get_subcommands(nullptr))
+            commands.push_back(command->get_name());
+        throw std::runtime_error(Complaint(app, fault, commands) + "\nCommands are " + Join(commands, " and ")
+                                 + "; 'prmc COMMAND --help' explains one.");
+    }
+    if (build->parsed())
+        return Build(first, second);
+    if (dump->parsed())
+        return Dump(first);
+    return check->parsed() ? Check(first) : Diff(first, second);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& fault) {
+        std::cerr << "prmc: " << fault.what() << "\n";
+        return kTrouble;
+    }
+}

@@ -1,0 +1,253 @@
+// The rules: texts and numbers fit, names are unique, readers take every item and row. Limits come from the
+// schema and from the table of feature switches.
+#include "prmc/rules.h"
+
+#include "base/text.h"
+#include "common/text.h"
+#include "paramdata/feature_switches.h"
+
+#include <algorithm>
+#include <set>
+
+namespace {
+
+constexpr const char* kOff = "Disable"; // value that says: this switch is off on purpose
+
+std::string Number(int64_t number) {
+    return std::to_string(number);
+}
+
+bool Contains(const std::vector<std::string>& names, const std::string& name) {
+    return std::any_of(names.begin(), names.end(),
+                       [&](const std::string& candidate) { return EqualNoCase(candidate, name); });
+}
+
+// An 8-bit text of at most `most` characters.
+void CheckBytes(const std::string& what, const std::string& text, size_t most, Place place,
+                Findings& findings) {
+    const auto isAscii = [](char c) { return c != '\0' && static_cast<unsigned char>(c) < 0x80; };
+    if (!std::all_of(text.begin(), text.end(), isAscii))
+        findings.Error(place, what + " " + Quote(text)
+                                  + " has a character other than ASCII: only names can have it");
+    else if (text.size() > most)
+        findings.Error(place, what + " " + Quote(text) + " has " + std::to_string(text.size())
+                                  + " characters, at most " + std::to_string(most) + " fit: shorten it");
+}
+
+void CheckName(const std::string& what, const std::string& text, size_t most, Place place,
+               Findings& findings) {
+    const size_t length = Utf16FromUtf8(text).size();
+    if (text.find('\0') != std::string::npos)
+        findings.Error(place, what + " " + Quote(text) + " has a zero character, which would end it");
+    else if (length > most)
+        findings.Error(place, what + " " + Quote(text) + " has " + std::to_string(length)
+                                  + " characters, at most " + std::to_string(most)
+                                  + " are shown: shorten it");
+}
+
+void CheckValue(const EntryRow& row, const Field& field, const Value& value, Findings& findings) {
+    const std::string what = field.name;
+    switch (field.type) {
+    case FieldType::kKey:
+        if (value.text.empty())
+            findings.Error(value.place, "the key is empty: readers would end the list here");
+        CheckBytes(what, value.text, kMostKeyChars, value.place, findings);
+        break;
+    case FieldType::kName:
+        CheckName(what, value.text, field.count > 1 ? field.count : row.nameChars, value.place, findings);
+        break;
+    case FieldType::kText:
+        CheckBytes(what, value.text, field.count - 1, value.place, findings);
+        break;
+    case FieldType::kNumbers: {
+        const Limits limits = LimitsOf(row, field);
+        for (const int64_t number : value.numbers) {
+            if (number < limits.least || number > limits.most)
+                findings.Error(value.place, what + " " + Number(number) + " does not fit: it may be "
+                                                + Number(limits.least) + " to " + Number(limits.most));
+        }
+        break;
+    }
+    case FieldType::kPairs:
+        for (const Pair& pair : value.pairs) {
+            CheckBytes("name", pair.name, field.count - 1, pair.namePlace, findings);
+            CheckBytes("value", pair.value, field.count - 1, pair.valuePlace, findings);
+        }
+        break;
+    }
+}
+
+// A numbered switch takes TYPE1, TYPE2 ...
+bool IsTypeValue(const std::string& value) {
+    for (unsigned n = 1; n <= kMostSwitchType; ++n) {
+        if (EqualNoCase(value, "TYPE" + Number(n)))
+            return true;
+    }
+    return false;
+}
+
+void CheckFeatureRow(const Pair& row, Findings& findings) {
+    std::vector<std::string> names;
+    for (const FeatureSwitchRow& feature : kFeatureSwitches) {
+        names.push_back(feature.name);
+        if (!EqualNoCase(feature.name, row.name))
+            continue;
+        if (!feature.enablingValue) {
+            if (!IsTypeValue(row.value))
+                findings.Error(row.valuePlace, "value " + Quote(row.value) + " of " + Quote(row.name)
+                                                   + " is no variant: write TYPE1 to TYPE"
+                                                   + Number(kMostSwitchType) + ", or leave the row out");
+        } else if (!EqualNoCase(row.value, feature.enablingValue) && !EqualNoCase(row.value, kOff)) {
+            findings.Error(row.valuePlace, "value " + Quote(row.value) + " of " + Quote(row.name)
+                                               + " enables nothing: write " + feature.enablingValue + ", or "
+                                               + kOff + " to leave the feature off");
+        }
+        return;
+    }
+    findings.Error(row.namePlace,
+                   "no feature switch is called " + Quote(row.name) + NearestHint(row.name, names));
+}
+
+// Runs of digits in a text.
+size_t CountNumbers(const std::string& text) {
+    size_t count = 0;
+    for (size_t i = 0; i < text.size(); ++i)
+        count += IsDigit(text[i]) && (i == 0 || !IsDigit(text[i - 1])) ? 1 : 0;
+    return count;
+}
+
+void CheckFact(const FactRow& fact, const Pair& row, Findings& findings) {
+    std::string wanted;
+    if (fact.words.size() > 0) {
+        const std::vector<std::string> words(fact.words.begin(), fact.words.end());
+        if (Contains(words, row.value))
+            return;
+        wanted = Join(words, " or ");
+    } else if (fact.numbers > 1) {
+        if (CountNumbers(row.value) == fact.numbers)
+            return;
+        wanted = "a text with " + std::to_string(fact.numbers) + " numbers";
+    } else {
+        if (!row.value.empty() && std::all_of(row.value.begin(), row.value.end(), IsDigit))
+            return;
+        wanted = "a number";
+    }
+    findings.Error(row.valuePlace,
+                   "value " + Quote(row.value) + " of " + Quote(row.name) + " says nothing: write " + wanted);
+}
+
+void CheckFactRow(const EntryRow& entry, const Pair& row, Findings& findings) {
+    std::vector<std::string> names;
+    for (const FactRow& fact : entry.facts) {
+        names.push_back(fact.name);
+        if (EqualNoCase(fact.name, row.name))
+            return CheckFact(fact, row, findings);
+    }
+    findings.Error(row.namePlace,
+                   std::string(entry.name) + " has no row " + Quote(row.name) + NearestHint(row.name, names));
+}
+
+void CheckTable(const Entry& entry, Findings& findings) {
+    for (const Record& record : entry.records) {
+        for (const Pair& row : record.values.front().pairs) {
+            if (entry.row->facts.size() > 0)
+                CheckFactRow(*entry.row, row, findings);
+            else
+                CheckFeatureRow(row, findings);
+        }
+    }
+}
+
+// Items that readers don't take.
+void CheckTaken(const Entry& entry, Findings& findings) {
+    const EntryRow& row = *entry.row;
+    if (row.mostItems > 0 && entry.records.size() > row.mostItems)
+        findings.Error(entry.records[row.mostItems].place,
+                       Quote(entry.name) + " has " + std::to_string(entry.records.size()) + " items, at most "
+                           + std::to_string(row.mostItems) + " are taken: remove the others");
+    const std::vector<std::string> keys(row.keys.begin(), row.keys.end());
+    for (const Record& record : entry.records) {
+        const Value& key = record.values.front();
+        if (!keys.empty() && key.given && !Contains(keys, key.text))
+            findings.Error(key.place, Quote(entry.name) + " takes no item " + Quote(key.text)
+                                          + NearestHint(key.text, keys));
+    }
+}
+
+// A tray that is not enabled ends the list for its readers.
+void CheckHiddenTrays(const Entry& entry, Findings& findings) {
+    const Table<Field>& fields = entry.row->kind->fields;
+    const auto isFlag = [](const Field& field) { return std::string_view(field.name) == "enabled"; };
+    const auto flag =
+        static_cast<size_t>(std::find_if(fields.begin(), fields.end(), isFlag) - fields.begin());
+    if (flag == fields.size())
+        return;
+    const auto isOff = [&](const Record& tray) {
+        return tray.values[flag].given && tray.values[flag].numbers[0] == 0;
+    };
+    const auto off = std::find_if(entry.records.begin(), entry.records.end(), isOff);
+    const auto hidden = std::find_if_not(off, entry.records.end(), isOff);
+    if (hidden != entry.records.end())
+        findings.Note(off->place, Quote(ItemLabel(*off))
+                                      + " is not enabled, which hides every tray after it: "
+                                      + Quote(ItemLabel(*hidden)) + " too");
+}
+
+// The fields of a range are its lower bound, upper bound and default, in this order.
+void CheckRange(const Entry& entry, Findings& findings) {
+    for (const Record& record : entry.records) {
+        const std::vector<Value>& values = record.values;
+        if (!values[0].given || !values[1].given || !values[2].given)
+            continue;
+        const int64_t least = values[0].numbers[0], most = values[1].numbers[0],
+                      chosen = values[2].numbers[0];
+        if (least > most)
+            findings.Error(values[0].place, "min " + Number(least) + " is above max " + Number(most));
+        else if (chosen < least || chosen > most)
+            findings.Error(values[2].place, "default " + Number(chosen) + " is not within " + Number(least)
+                                                + " to " + Number(most));
+    }
+}
+
+void CheckUnique(std::set<std::string>& seen, const std::string& what, const std::string& name, Place place,
+                 Findings& findings) {
+    if (!seen.insert(FoldCase(name)).second)
+        findings.Error(place, what + " " + Quote(name) + " occurs twice: remove one");
+}
+
+void CheckEntry(const Entry& entry, Findings& findings) {
+    const Kind& kind = *entry.row->kind;
+    std::set<std::string> keys;
+    for (const Record& record : entry.records) {
+        for (size_t i = 0; i < kind.fields.size(); ++i) {
+            const Field& field = kind.fields[i];
+            const Value& value = record.values[i];
+            if (!value.given)
+                continue;
+            CheckValue(*entry.row, field, value, findings);
+            if (field.type == FieldType::kKey)
+                CheckUnique(keys, "key", value.text, value.place, findings);
+            std::set<std::string> names;
+            for (const Pair& pair : value.pairs)
+                CheckUnique(names, "row", pair.name, pair.namePlace, findings);
+        }
+    }
+    CheckTaken(entry, findings);
+    CheckHiddenTrays(entry, findings);
+    if (kind.form == Form::kTable)
+        CheckTable(entry, findings);
+    if (kind.form == Form::kRange)
+        CheckRange(entry, findings);
+    if (entry.row->defaultNeeded && !entry.defaultItem)
+        findings.Error(entry.place, Quote(entry.name) + " needs 'default: KEY': the settings start from it");
+}
+
+} // namespace
+
+void CheckRules(const Model& model, Findings& findings) {
+    std::set<std::string> names;
+    for (const Entry& entry : model.entries) {
+        CheckUnique(names, "entry", entry.name, entry.place, findings);
+        CheckEntry(entry, findings);
+    }
+}

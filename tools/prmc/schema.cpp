@@ -1,0 +1,294 @@
+// The tables behind schema.h. Offsets come from the file's own record layouts.
+#include "prmc/schema.h"
+
+#include "common/text.h"
+#include "paramdata/prm_layout.h"
+#include "prmc/item_keys.h"
+
+namespace {
+
+using T = FieldType;
+using F = Form;
+
+// clang-format off
+constexpr Limits kNone   = {};
+constexpr Limits kFlag   = {0, 1};
+constexpr Limits kU8     = {0, UINT8_MAX};
+constexpr Limits kU16    = {0, UINT16_MAX};
+constexpr Limits kU32    = {0, UINT32_MAX};
+constexpr Limits kS16    = {INT16_MIN, INT16_MAX};
+constexpr Limits kS32    = {INT32_MIN, INT32_MAX};
+constexpr Limits kPlus16 = {0, INT16_MAX};
+// Shifts in tenths of a millimetre, and in millimetres: the settings keep them in signed 16 bits as
+// thousandths of an inch too.
+constexpr Limits kShift  = {-8322, 8322};
+constexpr Limits kShiftM = {-832, 832};
+
+//   name         type         needed offset                           count limits flag or link, width
+
+constexpr Field kPlainFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+};
+constexpr Field kDestFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    false, offsetof(PrmItemHead, display)},
+};
+constexpr Field kTextFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"value",      T::kNumbers, true,  offsetof(PrmTextItem, value)},
+    {"text",       T::kText,    false, offsetof(PrmTextItem, text),      128},
+};
+constexpr Field kMediaFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"value",      T::kNumbers, true,  offsetof(PrmMediaItem, value)},
+    {"text",       T::kText,    false, offsetof(PrmMediaItem, text),     128},
+};
+constexpr Field kTrayFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"value",      T::kNumbers, true,  offsetof(PrmMediaItem, value)},
+    {"enabled",    T::kNumbers, true,  offsetof(PrmMediaItem, extra),    1,  kFlag},
+    {"text",       T::kText,    false, offsetof(PrmMediaItem, text),     128},
+};
+constexpr Field kCollateFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"value",      T::kNumbers, true,  offsetof(PrmMediaItem, value)},
+    {"extra",      T::kNumbers, false, offsetof(PrmMediaItem, extra),    1,  kU32},
+    {"text",       T::kText,    false, offsetof(PrmMediaItem, texts[0]), 64},
+    {"secondText", T::kText,    false, offsetof(PrmMediaItem, texts[1]), 64},
+};
+constexpr Field kOptionFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"value",      T::kNumbers, true,  offsetof(PrmTabPaper, value)},
+};
+constexpr Field kTabPaperFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"value",      T::kNumbers, true,  offsetof(PrmTabPaper, value)},
+    {"values",     T::kNumbers, false, offsetof(PrmTabPaper, values),    3,  kU32},
+};
+constexpr Field kResolutionFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"values",     T::kNumbers, true,  offsetof(PrmResolution, values),  3,  kU16},
+};
+constexpr Field kOutputPaperFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"secondName", T::kName,    true,  offsetof(PrmOutputPaper, secondDisplay)},
+    {"value",      T::kNumbers, true,  offsetof(PrmOutputPaper, value)},
+    {"width",      T::kNumbers, true,  offsetof(PrmOutputPaper, width),  1,  kU16},
+    {"length",     T::kNumbers, true,  offsetof(PrmOutputPaper, length), 1,  kU16},
+    {"values",     T::kNumbers, false, offsetof(PrmOutputPaper, values), 2,  kU32},
+};
+constexpr Field kPaperFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmItemHead, display)},
+    {"secondName", T::kName,    true,  offsetof(PrmPaper, secondDisplay)},
+    {"value",      T::kNumbers, true,  offsetof(PrmPaper, value)},
+    {"width",      T::kNumbers, true,  offsetof(PrmPaper, width),        1,  kU16},
+    {"length",     T::kNumbers, true,  offsetof(PrmPaper, length),       1,  kU16},
+    {"further",    T::kNumbers, false, offsetof(PrmPaper, furtherSizes), 2,  kU32},
+    {"set1",       T::kNumbers, false, offsetof(PrmPaper, set1),         18, kU32, offsetof(PrmPaper, flag1)},
+    {"set2",       T::kNumbers, false, offsetof(PrmPaper, set2),         2,  kU32, offsetof(PrmPaper, flag2)},
+    {"margins",    T::kNumbers, false, offsetof(PrmPaper, set3),         4,  kU16, offsetof(PrmPaper, flag3)},
+    {"set4",       T::kNumbers, false, offsetof(PrmPaper, set4),         30, kU32, offsetof(PrmPaper, flag4)},
+    {"set5",       T::kNumbers, false, offsetof(PrmPaper, set5),         4,  kU32, offsetof(PrmPaper, flag5)},
+    {"text",       T::kText,    false, offsetof(PrmPaper, text),         128},
+    {"values",     T::kNumbers, false, offsetof(PrmPaper, values),       2,  kU32},
+    {"shortName",  T::kText,    false, offsetof(PrmPaper, shortName),    32},
+    {"longValues", T::kNumbers, false, offsetof(PrmPaper, longValues),   3,  kU32},
+    {"longText",   T::kText,    false, offsetof(PrmPaper, longText),     128},
+};
+constexpr Field kWatermarkFields[] = {
+    {"key",        T::kKey,     true,  offsetof(PrmItemHead, key)},
+    {"name",       T::kName,    true,  offsetof(PrmWatermark, name),     31},
+    {"text",       T::kName,    true,  offsetof(PrmWatermark, text),     128},
+    {"font",       T::kName,    true,  offsetof(PrmWatermark, font),     31},
+    {"values",     T::kNumbers, false, offsetof(PrmWatermark, values1),  2,  kU16},
+    {"color",      T::kNumbers, false, offsetof(PrmWatermark, color),    3,  kU8,  0, 1},
+    {"value2",     T::kNumbers, false, offsetof(PrmWatermark, value2),   1,  kU16},
+    {"block",      T::kNumbers, false, offsetof(PrmWatermark, block),    2,  kS32},
+    {"value3",     T::kNumbers, false, offsetof(PrmWatermark, value3),   1,  kU16},
+};
+constexpr Field kTableFields[] = {
+    {"rows",       T::kPairs,   true,  offsetof(PrmTableHeader, rowCount), 32, {},
+                                       offsetof(PrmTableHeader, firstRow)},
+};
+constexpr Field kRangeFields[] = {
+    {"min",        T::kNumbers, true,  offsetof(PrmRange, valueB)},
+    {"max",        T::kNumbers, true,  offsetof(PrmRange, valueA)},
+    {"default",    T::kNumbers, true,  offsetof(PrmRange, defaultValue)},
+};
+constexpr Field kMachineFields[] = {
+    {"name",       T::kText,    true,  offsetof(PrmMachine, name),       16},
+    {"details",    T::kPairs,   false, offsetof(PrmMachine, detailCount), 16, {},
+                                       offsetof(PrmMachine, firstDetail)},
+};
+constexpr Field kCountryFields[] = {
+    {"value",      T::kNumbers, true,  offsetof(PrmCountry, value),      1,  kU32},
+};
+
+constexpr size_t kNext = offsetof(PrmItemDescriptor, next);
+constexpr Kind kPlain      = {"plain item",       F::kList,   sizeof(PrmItemDescriptor), kPlainFields, kNext};
+constexpr Kind kDest       = {"destination",      F::kList,   sizeof(PrmItemDescriptor), kDestFields, kNext};
+constexpr Kind kText       = {"item with text",   F::kList,   sizeof(PrmTextItem),       kTextFields};
+constexpr Kind kMedia      = {"media item",       F::kList,   sizeof(PrmMediaItem),      kMediaFields};
+constexpr Kind kTray       = {"input tray",       F::kList,   sizeof(PrmMediaItem),      kTrayFields};
+constexpr Kind kCollate    = {"collate item",     F::kList,   sizeof(PrmMediaItem),      kCollateFields};
+constexpr Kind kOption     = {"option",           F::kList,   sizeof(PrmTabPaper),       kOptionFields};
+constexpr Kind kTabPaper   = {"tab paper",        F::kList,   sizeof(PrmTabPaper),       kTabPaperFields};
+constexpr Kind kResolution = {"resolution",       F::kList,   sizeof(PrmResolution),     kResolutionFields};
+constexpr Kind kOutPaper   = {"output paper",     F::kList,   sizeof(PrmOutputPaper),    kOutputPaperFields};
+constexpr Kind kPaper      = {"paper",            F::kList,   sizeof(PrmPaper),          kPaperFields};
+constexpr Kind kWatermark  = {"watermark",        F::kList,   sizeof(PrmWatermark),      kWatermarkFields};
+constexpr Kind kMachine    = {"machine",          F::kList,   sizeof(PrmMachine),        kMachineFields};
+constexpr Kind kTable      = {"name/value table", F::kTable,  sizeof(PrmTableHeader),    kTableFields};
+constexpr Kind kCountry    = {"country",          F::kSingle, sizeof(PrmCountry),        kCountryFields};
+constexpr Kind kRange      = {"range",            F::kRange,  sizeof(PrmRange),          kRangeFields};
+
+constexpr const char* kTruth[] = {"TRUE", "FALSE"};
+constexpr const char* kUnits[] = {"CPS", "LPM", "IPM", "PPM"};
+constexpr const char* kEncryptions[] = {"AES", "OTHER"};
+constexpr const char* kFigures[] = {"MFP", "OTHER"};
+constexpr FactRow kDeviceFacts[] = {
+    {"PrintRatePPM",      {},           1},
+    {"PrintRate",         {},           1},
+    {"PrintRateUnit",     kUnits,       0},
+    {"Staple",            kTruth,       0},
+    {"ColorDevice",       kTruth,       0},
+    {"PDLType",           {},           2},
+    {"MachineEncryption", kEncryptions, 0},
+};
+constexpr FactRow kFigureFacts[] = {
+    {"FigureType",        kFigures,     0},
+};
+
+constexpr EntryRow kEntries[] = {
+    // name                        kind          name limits   default, keys, most items, facts
+    //                                           chars
+    // What the model offers, and facts about the device.
+    {"FeatureSetting",             &kTable,      0,   kNone,   false},
+    {"Copies",                     &kRange,      0,   kPlus16, false},
+    {"UserPaper_Width",            &kRange,      0,   kPlus16, false},
+    {"UserPaper_Length",           &kRange,      0,   kPlus16, false},
+    {"BindShift_Front",            &kRange,      0,   kShift,  false},
+    {"BindShift_Back",             &kRange,      0,   kShift,  false},
+    {"ImgShiftMFP_FrontH",         &kRange,      0,   kShiftM, false},
+    {"ImgShiftMFP_FrontV",         &kRange,      0,   kShiftM, false},
+    {"ImgShiftMFP_BackH",          &kRange,      0,   kShiftM, false},
+    {"ImgShiftMFP_BackV",          &kRange,      0,   kShiftM, false},
+    {"DivideFinish",               &kRange,      0,   kS16,    false},
+    {"DevInfo",                    &kTable,      0,   kNone,   false, {}, 0, kDeviceFacts},
+    {"MachineInfo",                &kMachine,    0,   kNone,   false},
+    {"PaperSizeFigure",            &kTable,      0,   kNone,   false, {}, 0, kFigureFacts},
+    {"Country",                    &kCountry,    0,   kNone,   false},
+    // Paper and trays.
+    {"PaperSize",                  &kPaper,      47,  kU16,    true},
+    {"OutPaperSize",               &kOutPaper,   47,  kU16,    true},
+    {"MediaType",                  &kMedia,      31,  kU16,    true},
+    {"InTray",                     &kTray,       31,  kU16,    true},
+    {"ALL_InTray",                 &kMedia,      31,  kU16,    false},
+    {"MediaTypeList_Tray",         &kPlain,      31,  kNone,   false},
+    {"OutputTray",                 &kText,       47,  kU16,    true},
+    {"MediaWeight",                &kText,       31,  kU16,    true},
+    {"MediaColor",                 &kText,       31,  kU16,    true},
+    {"MediaPrePunched",            &kText,       31,  kU8,     true},
+    {"TabPaperPaperSize",          &kTabPaper,   47,  kU32,    false},
+    {"PaperOption1",               &kOption,     47,  kU8,     true},
+    {"PaperOption2",               &kOption,     47,  kU8,     true},
+    // Quality, layout and finishing.
+    {"Resolution",                 &kResolution, 31,  kNone,   true},
+    {"Combination",                &kText,       31,  kU8,     true},
+    {"Folding",                    &kText,       31,  kU8,     true},
+    {"HolePunch",                  &kText,       31,  kU8,     true},
+    {"OutputOrder",                &kText,       31,  kU8,     true},
+    {"Staple",                     &kText,       31,  kU8,     true},
+    {"Collate",                    &kCollate,    47,  kU8,     true},
+    {"OHP_Interleave",             &kText,       47,  kU32,    false},
+    {"PaperArrangement",           &kText,       47,  kU32,    false},
+    {"PerPageListPrintType",       &kText,       31,  kU32,    false},
+    {"PerPageListStaple",          &kText,       31,  kU32,    false},
+    // Output and storage.
+    {"OutputMethod",               &kText,       47,  kU32,    false},
+    {"OvlForm_Location",           &kText,       47,  kU32,    true},
+    {"Prof_Location",              &kText,       47,  kU32,    true},
+    {"ExcelJobCtrl",               &kOption,     47,  kU32,    true},
+    {"Watermark",                  &kWatermark,  0,   kNone,   true},
+    // Tray selections.
+    {"FCoverTray",                 &kPlain,      47,  kNone,   true,  kFrontCoverKeys},
+    {"BCoverTray",                 &kPlain,      47,  kNone,   true,  kBackCoverKeys},
+    {"SeparatePageTray",           &kPlain,      47,  kNone,   false, kSeparatorKeys},
+    {"OHPIntTray",                 &kPlain,      47,  kNone,   true,  kInterleaveKeys},
+    {"PIFrontCover",               &kPlain,      47,  kNone,   true,  kInserterFrontKeys},
+    {"PIBackCover",                &kPlain,      47,  kNone,   true,  kInserterBackKeys},
+    {"PerPageListPaperSrc",        &kPlain,      47,  kNone,   false, kPerPageSourceKeys},
+    // Colour settings.
+    {"ColorSetting",               &kPlain,      47,  kNone,   true,  kColorModeKeys},
+    {"Graphics",                   &kPlain,      47,  kNone,   true,  kGraphicsKeys},
+    {"MatchPaperColor",            &kPlain,      47,  kNone,   true,  kMatchPaperKeys},
+    {"RGBProf",                    &kPlain,      47,  kNone,   true,  {}, 2},
+    {"Text_RGBProf",               &kPlain,      47,  kNone,   true,  kTextProfileKeys},
+    {"Text_RGBColorMatch",         &kPlain,      47,  kNone,   true,  kTextMatchKeys},
+    {"Text_RGBGray",               &kPlain,      47,  kNone,   true,  kTextGrayKeys},
+    {"Text_Halftone",              &kPlain,      47,  kNone,   true,  kTextHalftoneKeys},
+    {"Img_RGBProf",                &kPlain,      47,  kNone,   true,  kImgProfileKeys},
+    {"Img_RGBColorMatch",          &kPlain,      47,  kNone,   true,  kImgMatchKeys},
+    {"Img_RGBGray",                &kPlain,      47,  kNone,   true,  kImgGrayKeys},
+    {"Img_Halftone",               &kPlain,      47,  kNone,   true,  kImgHalftoneKeys},
+    {"Graph_RGBProf",              &kPlain,      47,  kNone,   true,  kGraphProfileKeys},
+    {"Graph_RGBColorMatch",        &kPlain,      47,  kNone,   true,  kGraphMatchKeys},
+    {"Graph_RGBGray",              &kPlain,      47,  kNone,   true,  kGraphGrayKeys},
+    {"Graph_Halftone",             &kPlain,      47,  kNone,   true,  kGraphHalftoneKeys},
+    {"SimulationProf",             &kPlain,      47,  kNone,   true,  {}, 6},
+    {"DestinationProf",            &kPlain,      47,  kNone,   true,  {}, 1},
+    {"Simu_CMYKGray",              &kPlain,      47,  kNone,   true,  {}, 3},
+    {"Text_Destination",           &kDest,       47,  kNone,   true,  kTextDestinationKeys},
+    {"Img_Destination",            &kDest,       47,  kNone,   true,  kImgDestinationKeys},
+    {"Graph_Destination",          &kDest,       47,  kNone,   true,  kGraphDestinationKeys},
+    // Texts of the dialogs.
+    {"Property_0",                 &kPlain,      47,  kNone,   false, kPropertyKeys},
+    {"Dlg_ColorSetting",           &kPlain,      47,  kNone,   false, kColorDialogKeys},
+    {"Dlg_PaperSourceTraySetting", &kPlain,      47,  kNone,   false, kTrayDialogKeys},
+    {"MediaTypeList_Size",         &kPlain,      47,  kNone,   false, kSizeTextKeys},
+    {"MediaTypeList_Orient",       &kPlain,      47,  kNone,   false, kOrientationTextKeys},
+    {"MediaTypeList_Type",         &kPlain,      47,  kNone,   false, kTypeTextKeys},
+    {"MediaTypeList_Weight",       &kPlain,      47,  kNone,   false, kWeightTextKeys},
+    {"MediaTypeList_Color",        &kPlain,      47,  kNone,   false, kColorTextKeys},
+    {"MediaTypeList_Hole",         &kPlain,      47,  kNone,   false, kHoleTextKeys},
+    // Installable options; "Op" and a tray's key: the option that the tray is.
+    {"OpMachine",                  &kPlain,      47,  kNone,   true},
+    {"OpBody",                     &kPlain,      47,  kNone,   true},
+    {"OpInTray2",                  &kPlain,      47,  kNone,   true},
+    {"OpInTray3",                  &kPlain,      47,  kNone,   true},
+    {"OpInTray4",                  &kPlain,      47,  kNone,   true},
+    {"OpInTray5",                  &kPlain,      47,  kNone,   true},
+    {"OpInTrayLCT",                &kPlain,      47,  kNone,   true},
+    {"OpInTrayUnit",               &kPlain,      47,  kNone,   true},
+    {"OpOutTrayUnit",              &kPlain,      47,  kNone,   true},
+    {"OpPunchKit",                 &kPlain,      47,  kNone,   true},
+    {"OpMailBinKit",               &kPlain,      47,  kNone,   true},
+    {"OpSaddleKit",                &kPlain,      47,  kNone,   true},
+    {"OpFAXUnit",                  &kPlain,      47,  kNone,   true},
+    {"OpHDD",                      &kPlain,      47,  kNone,   true},
+};
+// clang-format on
+
+} // namespace
+
+Table<EntryRow> KnownEntries() {
+    return kEntries;
+}
+
+const EntryRow* FindEntryRow(std::string_view name) {
+    for (const EntryRow& row : kEntries) {
+        if (EqualNoCase(row.name, name))
+            return &row;
+    }
+    return nullptr;
+}

@@ -1,0 +1,245 @@
+// The description's reader, see device_reader.h: a table of fields for each kind of thing, and one engine.
+#include "simprinter/device_reader.h"
+
+#include "common/yaml_document.h"
+
+#include <algorithm>
+#include <climits>
+#include <map>
+#include <set>
+
+namespace {
+
+// A field's value where it stands.
+struct FieldValue {
+    std::string name;
+    const YAML::Node& node;
+    Findings& findings;
+
+    void Refuse(const std::string& problem) const { findings.Error(PlaceOf(node), problem); }
+};
+
+// One field of a thing: `read` puts its value there.
+template <typename Thing>
+struct FieldRow {
+    const char* name;
+    bool isRequired;
+    void (*read)(const FieldValue& value, Thing& thing);
+};
+
+// Reads in the order of the rows, not that of the file: a row may count on those before it.
+template <typename Thing, size_t kCount>
+void ReadFields(const FieldRow<Thing> (&rows)[kCount], const char* what, const YAML::Node& node, Thing& thing,
+                Findings& findings) {
+    std::vector<std::string> known;
+    for (const FieldRow<Thing>& row : rows)
+        known.emplace_back(row.name);
+    std::map<std::string, YAML::Node> given;
+    ForEachMember(node, std::string(what) + ": {FIELD: VALUE, ...}", findings,
+                  [&](const std::string& name, const YAML::Node& nameNode, const YAML::Node& valueNode) {
+                      if (std::find(known.begin(), known.end(), name) != known.end())
+                          given[name].reset(valueNode);
+                      else
+                          findings.Error(PlaceOf(nameNode), std::string(what) + " has no field " + Quote(name)
+                                                                + NearestHint(name, known)
+                                                                + "; its fields are " + Join(known, " and "));
+                  });
+    for (const FieldRow<Thing>& row : rows) {
+        if (const auto value = given.find(row.name); value != given.end())
+            row.read({row.name, value->second, findings}, thing);
+        else if (node.IsMap() && row.isRequired)
+            findings.Error(PlaceOf(node), Quote(row.name) + " is missing: tell it of " + what);
+    }
+}
+
+// --- Kinds of values
+
+void ReadText(const FieldValue& value, std::string& to) {
+    constexpr size_t kLongestText = 255;
+    std::string text;
+    if (!ReadScalar(value.name, value.node, text, value.findings))
+        return;
+    if (text.size() > kLongestText)
+        return value.Refuse(Quote(value.name) + " has " + std::to_string(text.size()) + " octets, at most "
+                            + std::to_string(kLongestText) + " fit: shorten it");
+    to = text;
+}
+
+void ReadInt(const FieldValue& value, int least, int& to) {
+    int64_t number = 0;
+    if (!ReadNumber(value.name, value.node, number, value.findings))
+        return;
+    if (number < least || number > INT_MAX)
+        return value.Refuse(Quote(value.name) + " takes a number from " + std::to_string(least) + " to "
+                            + std::to_string(INT_MAX) + ", not " + std::to_string(number));
+    to = static_cast<int>(number);
+}
+
+void ReadYesOrNo(const FieldValue& value, bool& to) {
+    std::string text;
+    if (!ReadScalar(value.name, value.node, text, value.findings))
+        return;
+    if (!EqualNoCase(text, "yes") && !EqualNoCase(text, "no"))
+        return value.Refuse(Quote(value.name) + " takes yes or no, not " + Quote(text));
+    to = EqualNoCase(text, "yes");
+}
+
+const Word& WordOf(const Word& word) {
+    return word;
+}
+template <typename Row>
+const Word& WordOf(const Row& row) {
+    return row.name;
+}
+
+// The row of a table whose word is the value, letters' case ignored.
+template <typename Row, size_t kCount>
+void ReadChoice(const FieldValue& value, const Row (&rows)[kCount], const Row*& to, const char* orElse = "") {
+    std::string text;
+    if (!ReadScalar(value.name, value.node, text, value.findings))
+        return;
+    std::vector<std::string> words;
+    for (const Row& row : rows) {
+        words.emplace_back(WordOf(row).word);
+        if (EqualNoCase(text, words.back())) {
+            to = &row;
+            return;
+        }
+    }
+    value.Refuse(Quote(value.name) + " takes " + Join(words, " or ") + orElse + ", not " + Quote(text));
+}
+
+template <size_t kCount>
+void ReadWord(const FieldValue& value, const Word (&words)[kCount], int& to, const char* orElse = "") {
+    const Word* word = nullptr;
+    ReadChoice(value, words, word, orElse);
+    to = word ? word->code : to;
+}
+
+// A word, or its code as a number: any number, since descriptions may tell what no real device does.
+template <size_t kCount>
+void ReadWordOrNumber(const FieldValue& value, const Word (&words)[kCount], int& to) {
+    const std::string text = value.node.IsScalar() ? value.node.Scalar() : "";
+    if (!text.empty() && text.find_first_not_of("-0123456789") == std::string::npos)
+        ReadInt(value, INT_MIN, to);
+    else
+        ReadWord(value, words, to, " or a number");
+}
+
+// A choice that brings usual values for all that follows.
+template <typename Kind, size_t kCount, typename Thing>
+void ReadKind(const FieldValue& value, const Kind (&kinds)[kCount], Thing (*usual)(const Kind&), Thing& to) {
+    const Kind* kind = nullptr;
+    ReadChoice(value, kinds, kind);
+    if (kind)
+        to = usual(*kind);
+}
+
+// Calls `read` with each element of a list.
+template <typename Read>
+void ReadList(const FieldValue& value, const Read& read) {
+    if (!value.node.IsSequence())
+        return value.Refuse(Quote(value.name) + " takes a list: one '- ' for each, or []");
+    for (const YAML::Node& element : value.node)
+        read(FieldValue{value.name, element, value.findings});
+}
+
+template <typename Thing, size_t kFields>
+void ReadThings(const FieldValue& value, const char* what, const FieldRow<Thing> (&fields)[kFields],
+                std::vector<Thing>& to) {
+    to.clear();
+    ReadList(value, [&](const FieldValue& element) {
+        Thing thing;
+        ReadFields(fields, what, element.node, thing, element.findings);
+        to.push_back(thing);
+    });
+}
+
+// Things of which there is at most one of each kind.
+template <typename Thing, size_t kFields>
+void ReadUniqueThings(const FieldValue& value, const char* what, const FieldRow<Thing> (&fields)[kFields],
+                      std::vector<Thing>& to) {
+    ReadThings(value, what, fields, to);
+    std::set<const void*> seen;
+    for (size_t i = 0; i < to.size(); ++i) {
+        if (to[i].kind && !seen.insert(to[i].kind).second)
+            value.findings.Error(PlaceOf(value.node[i]),
+                                 Quote(to[i].kind->name.word) + " is described twice: remove one");
+    }
+}
+
+// --- The tables of fields
+
+// Without a level it is full; what counts the room left still has some.
+void ReadSupplyCapacity(const FieldValue& value, Supply& supply) {
+    ReadWordOrNumber(value, kLevelWords, supply.capacity);
+    supply.level = supply.level < 0 ? supply.level : supply.capacity;
+}
+
+void ReadOptions(const FieldValue& value, Device& device) {
+    ReadList(value, [&](const FieldValue& element) {
+        const OptionKind* option = nullptr;
+        ReadChoice(element, kOptionKinds, option);
+        device.options.push_back(option);
+    });
+}
+
+// clang-format off
+const FieldRow<Tray> kTrayFields[] = {
+    {"tray",        true,  [](const FieldValue& v, Tray& t) { ReadKind(v, kTrayKinds, UsualTray, t); }},
+    {"name",        false, [](const FieldValue& v, Tray& t) { ReadText(v, t.name); }},
+    {"size",        false, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperSizes, t.size); }},
+    {"orientation", false, [](const FieldValue& v, Tray& t) { ReadWord(v, kOrientations, t.orientation); }},
+    {"type",        false, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperTypes, t.type); }},
+    {"capacity",    false, [](const FieldValue& v, Tray& t) { ReadInt(v, 0, t.capacity); t.level = t.capacity; }},
+    {"level",       false, [](const FieldValue& v, Tray& t) { ReadWordOrNumber(v, kLevelWords, t.level); }},
+};
+
+const FieldRow<Supply> kSupplyFields[] = {
+    {"supply",      true,  [](const FieldValue& v, Supply& s) { ReadKind(v, kSupplyKinds, UsualSupply, s); }},
+    {"name",        false, [](const FieldValue& v, Supply& s) { ReadText(v, s.name); }},
+    {"capacity",    false, ReadSupplyCapacity},
+    {"level",       false, [](const FieldValue& v, Supply& s) { ReadWordOrNumber(v, kLevelWords, s.level); }},
+};
+
+const FieldRow<Overlay> kOverlayFields[] = {
+    {"name",        true,  [](const FieldValue& v, Overlay& o) { ReadText(v, o.name); }},
+    {"title",       false, [](const FieldValue& v, Overlay& o) { ReadText(v, o.title); }},
+    {"kind",        false, [](const FieldValue& v, Overlay& o) { ReadInt(v, INT_MIN, o.kind); }},
+    {"storage",     false, [](const FieldValue& v, Overlay& o) { ReadWordOrNumber(v, kOverlayStorages, o.storage); }},
+};
+
+const FieldRow<Profile> kProfileFields[] = {
+    {"name",        true,  [](const FieldValue& v, Profile& p) { ReadText(v, p.name); }},
+    {"title",       false, [](const FieldValue& v, Profile& p) { ReadText(v, p.title); }},
+    {"class",       false, [](const FieldValue& v, Profile& p) { ReadInt(v, INT_MIN, p.colorClass); }},
+    {"storage",     false, [](const FieldValue& v, Profile& p) { ReadWordOrNumber(v, kProfileStorages, p.storage); }},
+};
+
+const FieldRow<Device> kDeviceFields[] = {
+    {"name",        false, [](const FieldValue& v, Device& d) { ReadText(v, d.name); }},
+    {"model",       false, [](const FieldValue& v, Device& d) { ReadText(v, d.model); }},
+    {"serial",      false, [](const FieldValue& v, Device& d) { ReadText(v, d.serial); }},
+    {"location",    false, [](const FieldValue& v, Device& d) { ReadText(v, d.location); }},
+    {"contact",     false, [](const FieldValue& v, Device& d) { ReadText(v, d.contact); }},
+    {"memory",      false, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.memory); }},
+    {"hardDisk",    false, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.hardDisk.emplace()); }},
+    {"duplex",      false, [](const FieldValue& v, Device& d) { ReadYesOrNo(v, d.hasDuplex); }},
+    {"pages",       false, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.pages); }},
+    {"options",     false, ReadOptions},
+    {"punching",    false, [](const FieldValue& v, Device& d) { ReadWord(v, kPunchings, d.punching); }},
+    {"trays",       false, [](const FieldValue& v, Device& d) { ReadUniqueThings(v, "a tray", kTrayFields, d.trays); }},
+    {"supplies",    false, [](const FieldValue& v, Device& d) { ReadUniqueThings(v, "a supply", kSupplyFields, d.supplies); }},
+    {"overlays",    false, [](const FieldValue& v, Device& d) { ReadThings(v, "an overlay", kOverlayFields, d.overlays); }},
+    {"profiles",    false, [](const FieldValue& v, Device& d) { ReadThings(v, "a profile", kProfileFields, d.profiles); }},
+};
+// clang-format on
+
+} // namespace
+
+Device ReadDevice(const std::string& text, Findings& findings) {
+    Device device = PlainDevice();
+    LoadYaml(text, "device", findings,
+             [&](const YAML::Node& root) { ReadFields(kDeviceFields, "a device", root, device, findings); });
+    return device;
+}

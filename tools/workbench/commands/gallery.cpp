@@ -1,0 +1,138 @@
+// `workbench gallery`: has the module draw the printer in every combination that tells something, and writes
+// one sheet of them with a caption under each.
+#include "workbench/commands/commands.h"
+#include "workbench/lib/output.h"
+#include "workbench/lib/picture_file.h"
+#include "workbench/lib/picture_text.h"
+#include "workbench/lib/printer_scene.h"
+
+#include <iterator>
+
+namespace {
+
+constexpr size_t kMostSettings = 5;
+
+struct Row {
+    const char* caption;
+    const char* settings[kMostSettings]; // "FEATURE=ITEM"; all others are the model's defaults
+    const char* tray = "";
+    int outputFlag = 0; // 0: none
+    const char* machine = nullptr;
+};
+
+constexpr const char* kLct = "OpInTrayUnit=OpInTrayUnit1";
+constexpr const char* kUnit1 = "OpOutTrayUnit=OpOutTrayUnit1";
+constexpr const char* kUnit2 = "OpOutTrayUnit=OpOutTrayUnit2";
+constexpr const char* kUnit3 = "OpOutTrayUnit=OpOutTrayUnit3";
+constexpr const char* kUnit4 = "OpOutTrayUnit=OpOutTrayUnit4";
+constexpr const char* kBins = "OpMailBinKit=EnaOpMailBinKit";
+constexpr const char* kSaddle = "OpSaddleKit=EnaSaddleKit";
+constexpr const char* kDisk = "OpHDD=EnaOpHDD";
+constexpr const char* kPrinter = "OpBody=OpBodyPrinter";
+
+// clang-format off
+
+// Line by line as on the sheet: what is installed, where the paper comes from, where it goes. Mail bins hide the
+// saddle kit.
+constexpr Row kRows[] = {
+    {"No options",                         {}},
+    {"Large-capacity unit",                {kLct}},
+    {"Output unit 1",                      {kUnit1}},
+    {"Output unit 1, mail bins",           {kUnit1, kBins}},
+    {"Output unit 1, saddle kit",          {kUnit1, kSaddle}},
+    {"Output unit 2",                      {kUnit2}},
+    {"Output unit 2, mail bins",           {kUnit2, kBins}},
+
+    {"Output unit 2, saddle kit",          {kUnit2, kSaddle}},
+    {"Output unit 3",                      {kUnit3}},
+    {"Output unit 4",                      {kUnit4}},
+    {"No unit, still bin 1 (flag 6)",      {}, "", 6},
+    {"Hard disk installed",                {kDisk}},
+    {"Everything (unit 2)",                {kLct, kUnit2, kBins, kSaddle, kDisk}},
+    {"One of several machines",            {}, "", 0, "lumora R880 Pro"},
+
+    {"From tray 1",                        {}, "InTray1"},
+    {"From tray 2",                        {}, "InTray2"},
+    {"From tray 3",                        {}, "InTray3"},
+    {"From tray 4",                        {}, "InTray4"},
+    {"From the manual feed",               {}, "InTrayManual"},
+    {"From the large-capacity tray",       {kLct}, "InTrayLCT"},
+    {"Everything (unit 1), LCT to bin 1",  {kLct, kUnit1, kBins, kSaddle, kDisk}, "InTrayLCT", 6},
+
+    {"Unit 1, upper tray (flag 1)",        {kUnit1}, "", 1},
+    {"Unit 1, lower tray (flag 3)",        {kUnit1}, "", 3},
+    {"Unit 2, upper tray (flag 1)",        {kUnit2}, "", 1},
+    {"Unit 2, middle tray (flag 2)",       {kUnit2}, "", 2},
+    {"Unit 2, lower tray (flag 3)",        {kUnit2}, "", 3},
+    {"Unit 3 (flag 1)",                    {kUnit3}, "", 1},
+    {"Unit 3 (flag 2)",                    {kUnit3}, "", 2},
+
+    {"Unit 3, printer body (flag 1)",      {kUnit3, kPrinter}, "", 1},
+    {"Mail bin 1 (flag 6)",                {kUnit1, kBins}, "", 6},
+    {"Mail bin 2 (flag 7)",                {kUnit1, kBins}, "", 7},
+    {"Mail bin 3 (flag 8)",                {kUnit1, kBins}, "", 8},
+    {"Mail bin 4 (flag 9)",                {kUnit1, kBins}, "", 9},
+    {"Unit 1, lower tray (flag 5)",        {kUnit1}, "", 5},
+    {"Unit 4, nothing marked (flag 1)",    {kUnit4}, "", 1},
+};
+
+// clang-format on
+
+// The sheet, in pixels.
+constexpr LONG kAcross = 7;
+constexpr LONG kDown = (static_cast<LONG>(std::size(kRows)) + kAcross - 1) / kAcross;
+constexpr LONG kMargin = 24;
+constexpr LONG kTitleHeight = 44;
+constexpr LONG kCellGap = 10; // around a picture
+constexpr LONG kCellCaptionHeight = 26;
+constexpr SIZE kCell = {kSceneSize.cx + 2 * kCellGap, kSceneSize.cy + kCellGap + kCellCaptionHeight};
+constexpr SIZE kSheet = {kAcross * kCell.cx + 2 * kMargin + 1,
+                         kTitleHeight + kDown* kCell.cy + 2 * kMargin + 1};
+
+constexpr COLORREF kGridColor = RGB(222, 226, 230);
+constexpr COLORREF kTitleColor = RGB(33, 37, 41);
+constexpr const char* kTitle = "QUORVANE lumora R880: the printer's picture";
+
+constexpr TextStyle kTitleStyle = {26, FW_BOLD, kTitleColor, DT_LEFT | DT_TOP};
+
+PrinterScene SceneOf(const FamilyFiles& family, const Row& row) {
+    PrinterScene scene = {ReadOptionFeatures(family), true, row.tray, {}};
+    if (row.machine != nullptr)
+        AddMachine(scene.options, row.machine);
+    for (const char* setting : row.settings)
+        if (setting != nullptr)
+            SetOption(scene.options, setting);
+    if (row.outputFlag != 0)
+        scene.outputFlags.push_back(row.outputFlag);
+    return scene;
+}
+
+void DrawCell(const FamilyFiles& family, const Row& row, HDC to, POINT at) {
+    // Cells share their edges with their neighbours.
+    const RECT edge = {at.x, at.y, at.x + kCell.cx + 1, at.y + kCell.cy + 1};
+    SetDCBrushColor(to, kGridColor);
+    FrameRect(to, &edge, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    DrawLine(to, {at.x + 1, edge.bottom - kCellCaptionHeight, edge.right - 1, edge.bottom - 1}, kCaptionStyle,
+             row.caption);
+    // The module draws at the origin.
+    SetViewportOrgEx(to, at.x + kCellGap, at.y + kCellGap, nullptr);
+    DrawScene(family, SceneOf(family, row), to, kSceneSize);
+    SetViewportOrgEx(to, 0, 0, nullptr);
+}
+
+} // namespace
+
+Document DrawGallery(const FamilyFiles& family, const std::string& out) {
+    const Canvas sheet(kSheet);
+    DrawLine(sheet.context, {kMargin, kMargin, kSheet.cx - kMargin, kMargin + kTitleHeight}, kTitleStyle,
+             kTitle);
+    POINT place = {0, 0}; // counted in cells
+    for (const Row& row : kRows) {
+        DrawCell(family, row, sheet.context,
+                 {kMargin + place.x * kCell.cx, kMargin + kTitleHeight + place.y * kCell.cy});
+        place = place.x + 1 < kAcross ? POINT{place.x + 1, place.y} : POINT{0, place.y + 1};
+    }
+    Document picture = WritePicture(sheet, out);
+    picture["printers"] = std::size(kRows);
+    return {{"files", FamilyDocument(family)}, {"picture", picture}};
+}

@@ -1,0 +1,60 @@
+// `workbench query`: asks a printer by SNMP through the module's exports: reachable, options, supplies,
+// overlays and colour profiles. The questions are those of the module's own tables.
+#include "workbench/commands/commands.h"
+#include "workbench/lib/device_options.h"
+#include "workbench/lib/device_resources.h"
+#include "workbench/lib/record_fields.h"
+
+namespace {
+
+constexpr Field kSupplyFields[] = {
+    {"supply", Show<&MrkSupRequestItem::name>},
+    {"state", Show<&MrkSupRequestItem::state>},
+    {"value", Show<&MrkSupRequestItem::value>},
+};
+
+constexpr Field kEntryFields[] = {
+    {"first", Show<&StoredResourceEntry::first>},
+    {"second", Show<&StoredResourceEntry::second>},
+    {"storage", Show<&StoredResourceEntry::storage>},
+};
+
+Document SuppliesDocument(const Supplies& supplies) {
+    Document rows = RowsDocument(supplies, kSupplyFields);
+    for (size_t i = 0; i < supplies.size(); ++i) {
+        char color[8];
+        snprintf(color, sizeof(color), "#%02x%02x%02x", GetRValue(supplies[i].color),
+                 GetGValue(supplies[i].color), GetBValue(supplies[i].color));
+        rows.Elements()[i]["color"] = supplies[i].state == kStatePercent ? Document(color) : Document();
+    }
+    return rows;
+}
+
+Document Overlays(const FamilyFiles& family, const std::string& agent) {
+    Document lists;
+    for (const int32_t storage : {0, 1})
+        lists["overlays" + std::to_string(storage)] =
+            RowsDocument(AskOverlays(family, agent, storage), kEntryFields);
+    return lists;
+}
+
+Document Profiles(const FamilyFiles& family, const std::string& agent) {
+    const StoredProfiles profiles = AskProfiles(family, agent);
+    Document lists;
+    for (size_t i = 0; i < profiles.size(); ++i)
+        lists["profiles" + std::to_string(i)] = RowsDocument(profiles[i], kEntryFields);
+    return lists;
+}
+
+} // namespace
+
+Document AskBySnmp(const FamilyFiles& family, const std::string& agent) {
+    CheckSnmpRoad(family, agent);
+    return {
+        {"printer", {{"address", agent}}},
+        {"options", OptionAnswersDocument(AskOptionsBySnmp(family, agent))},
+        {"supplies", SuppliesDocument(AskSupplies(family, agent))},
+        {"overlays", Overlays(family, agent)},
+        {"profiles", Profiles(family, agent)},
+    };
+}

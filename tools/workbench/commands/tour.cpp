@@ -1,0 +1,89 @@
+// `workbench tour`: opens the property sheet, uses every page of it as a person would, and saves a picture of
+// each.
+#include "paramdata/default_settings.h"
+#include "workbench/commands/commands.h"
+#include "workbench/lib/output.h"
+#include "workbench/lib/settings_fields.h"
+#include "workbench/property_sheet/page_driver.h"
+#include "workbench/property_sheet/page_ids.h"
+
+namespace {
+
+constexpr DWORD kLongestWait = 60000; // milliseconds, for a printer's answers
+
+struct Tour {
+    SheetState& state;
+    SheetUser& user;
+    PageDriver driver;
+    std::filesystem::path folder;
+    std::string status = {}; // of asking the printer
+    Document pictures = Document::MakeList();
+
+    void Picture(const std::string& name) {
+        pictures.Add(driver.Picture((folder / (name + ".png")).u8string()));
+    }
+};
+
+void VisitPrinter(Tour& tour, const std::string& address) {
+    const PageDriver& driver = tour.driver;
+    driver.TurnTo(kPrinterPage);
+    driver.SetText(ID_ADDRESS, address);
+    if (!address.empty()) {
+        driver.Click(ID_ASK);
+        driver.WaitUntil([&] { return !tour.state.isAsking; }, kLongestWait);
+    }
+    tour.status = driver.Text(ID_STATUS);
+    driver.Choose(ID_OPTIONS, "Fax");
+    driver.Choose(ID_OPTION_ITEMS, "Installed");
+    tour.Picture("page-printer");
+}
+
+void VisitPaper(Tour& tour) {
+    tour.driver.TurnTo(kPaperPage);
+    tour.driver.Choose(ID_SOURCE, "Tray 2");
+    tour.driver.Choose(ID_TYPE, "Letterhead");
+    tour.user.script = ParseDialogScript("choose 1844 Tray 2\nchoose 1860 A3\nok", "tour");
+    tour.driver.Click(ID_TRAY_BUTTON);
+    tour.Picture("page-paper");
+}
+
+void VisitQuality(Tour& tour) {
+    tour.driver.TurnTo(kQualityPage);
+    tour.user.script = ParseDialogScript("choose 1354 Exact match\nok", "tour");
+    tour.driver.Click(ID_COLOR_DIALOG);
+    tour.Picture("page-quality");
+}
+
+void VisitVersion(Tour& tour, bool resets) {
+    tour.driver.TurnTo(kVersionPage);
+    tour.Picture("page-version");
+    if (resets)
+        tour.driver.Click(ID_RESET);
+}
+
+} // namespace
+
+Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
+    const Library templates = OpenTemplates(family);
+    SheetState state(family, templates.get());
+    SheetUser user;
+    state.user = &user;
+    state.file = std::filesystem::u8path(options.state);
+    const std::string trouble = LoadState(state);
+    SheetWindow sheet(state);
+    Tour tour = {state, user, PageDriver(sheet), std::filesystem::u8path(options.out)};
+    VisitPrinter(tour, options.from);
+    VisitPaper(tour);
+    VisitQuality(tour);
+    VisitVersion(tour, options.resets);
+    tour.driver.Press(PSBTN_OK);
+    if (!user.failures.empty())
+        throw Failure(kExitFailed, user.failures.front());
+    return {
+        {"pictures", tour.pictures},
+        {"settings", {{"keptIn", options.state}, {"trouble", trouble}}},
+        {"printer", {{"address", state.address}, {"toldBy", state.report.address}, {"status", tour.status}}},
+        {"options", OptionsDocument(state.options)},
+        {"changes", SettingsChanges(defaultSettings, state.settings)},
+        {"trays", PapersDocument(state.papers)}};
+}

@@ -1,0 +1,127 @@
+// Pictures in memory and PNG files: see the header.
+#include "workbench/lib/picture_file.h"
+
+#include "workbench/lib/output_file.h"
+
+#include <vector>
+
+#include <objidl.h> // before GDI+, which takes its streams from there
+
+#include <gdiplus.h>
+
+namespace {
+
+// Of GDI+'s own encoder: every system has it.
+constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
+
+constexpr int kBytesPerPixel = 4;
+
+[[noreturn]] void FailToEncode(const char* step, int status) {
+    throw Failure(kExitFailed, std::string("the picture can't be made into PNG: ") + step + " answers status "
+                                   + std::to_string(status)
+                                   + "; make it smaller, or close what takes up the memory");
+}
+
+void CheckStatus(const char* step, Gdiplus::Status status) {
+    if (status != Gdiplus::Ok)
+        FailToEncode(step, status);
+}
+
+// GDI+ as long as this lives.
+struct GdiPlus {
+    GdiPlus() {
+        const Gdiplus::GdiplusStartupInput input;
+        CheckStatus("GdiplusStartup", Gdiplus::GdiplusStartup(&token, &input, nullptr));
+    }
+    ~GdiPlus() { Gdiplus::GdiplusShutdown(token); }
+    GdiPlus(const GdiPlus&) = delete;
+    GdiPlus& operator=(const GdiPlus&) = delete;
+
+    ULONG_PTR token = 0;
+};
+
+struct ReleaseStream {
+    void operator()(IStream* stream) const { stream->Release(); }
+};
+using Stream = std::unique_ptr<IStream, ReleaseStream>;
+
+// What has been written to a stream in memory.
+std::vector<uint8_t> Contents(IStream& stream) {
+    STATSTG facts = {};
+    HGLOBAL block = nullptr;
+    if (FAILED(stream.Stat(&facts, STATFLAG_NONAME)) || FAILED(GetHGlobalFromStream(&stream, &block)))
+        FailToEncode("its stream", E_FAIL);
+    const auto* first = static_cast<const uint8_t*>(GlobalLock(block));
+    if (first == nullptr)
+        FailToEncode("its stream", E_FAIL);
+    std::vector<uint8_t> bytes(first, first + facts.cbSize.QuadPart);
+    GlobalUnlock(block);
+    return bytes;
+}
+
+std::vector<uint8_t> EncodePng(const Canvas& canvas) {
+    GdiFlush();
+    const GdiPlus gdiPlus;
+    IStream* made = nullptr;
+    const HRESULT result = CreateStreamOnHGlobal(nullptr, TRUE, &made);
+    if (FAILED(result))
+        FailToEncode("its stream", result);
+    const Stream stream(made);
+    // GDI leaves the fourth byte of a pixel as it likes: it is no opacity.
+    Gdiplus::Bitmap bitmap(canvas.size.cx, canvas.size.cy, canvas.size.cx * kBytesPerPixel,
+                           PixelFormat32bppRGB, static_cast<BYTE*>(canvas.pixels));
+    CheckStatus("Bitmap", bitmap.GetLastStatus());
+    CheckStatus("Bitmap::Save", bitmap.Save(stream.get(), &kPngEncoder, nullptr));
+    return Contents(*stream);
+}
+
+} // namespace
+
+Canvas::Canvas(SIZE wanted) : size(wanted) {
+    BITMAPINFO info = {};
+    info.bmiHeader.biSize = sizeof(info.bmiHeader);
+    info.bmiHeader.biWidth = size.cx;
+    info.bmiHeader.biHeight = -size.cy; // top row first
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 8 * kBytesPerPixel;
+    context = CreateCompatibleDC(nullptr);
+    bitmap = CreateDIBSection(context, &info, DIB_RGB_COLORS, &pixels, nullptr, 0);
+    if (context == nullptr || bitmap == nullptr) {
+        DeleteObject(bitmap);
+        DeleteDC(context);
+        throw Failure(kExitFailed, "there is no memory for a picture of " + std::to_string(size.cx) + " x "
+                                       + std::to_string(size.cy) + " pixels; make it smaller");
+    }
+    before = SelectObject(context, bitmap);
+    PatBlt(context, 0, 0, size.cx, size.cy, WHITENESS);
+}
+
+Canvas::~Canvas() {
+    SelectObject(context, before);
+    DeleteObject(bitmap);
+    DeleteDC(context);
+}
+
+Document WritePicture(const Canvas& canvas, const std::string& path) {
+    if (path.empty())
+        throw Failure(kExitUsage, "--out lacks the picture's name; possible: FILE");
+    const auto file = std::filesystem::absolute(std::filesystem::u8path(path)).make_preferred();
+    if (!std::filesystem::is_directory(file.parent_path()))
+        throw Failure(kExitFailed, file.u8string() + ": there is no folder " + file.parent_path().u8string()
+                                       + "; make it, or name another file with --out");
+    const std::vector<uint8_t> png = EncodePng(canvas);
+    WriteOutputFile(file, {reinterpret_cast<const char*>(png.data()), png.size()}, "--out");
+    return {{"path", file.u8string()}, {"width", canvas.size.cx}, {"height", canvas.size.cy}};
+}
+
+std::unique_ptr<Canvas> ReadPicture(const std::string& path) {
+    const GdiPlus gdiPlus;
+    Gdiplus::Bitmap bitmap(std::filesystem::u8path(path).c_str());
+    const SIZE size = {static_cast<LONG>(bitmap.GetWidth()), static_cast<LONG>(bitmap.GetHeight())};
+    if (bitmap.GetLastStatus() != Gdiplus::Ok || size.cx == 0 || size.cy == 0)
+        throw Failure(kExitFailed, path + ": is no picture, or can't be read; name a PNG file");
+    auto canvas = std::make_unique<Canvas>(size);
+    Gdiplus::Graphics graphics(canvas->context);
+    CheckStatus("Graphics::DrawImage", graphics.DrawImage(&bitmap, 0, 0, size.cx, size.cy));
+    return canvas;
+}

@@ -1,0 +1,17 @@
+// One picture of the printer: see the header.
+#include "workbench/lib/printer_scene.h"
+
+#include "base/text.h"
+#include "picture/view/printer_view.h"
+
+void DrawScene(const FamilyFiles& family, const PrinterScene& scene, HDC to, SIZE size) {
+    PrinterViewRequest request = {};
+    request.showsPaperPath = scene.showsPaperPath;
+    request.features = scene.options.features.data();
+    request.settings = scene.options.settings.data();
+    CopyText(request.inputSlotKey, scene.tray.c_str());
+    for (const int flag : scene.outputFlags)
+        request.outputFlags[flag - kFirstOutputFlag] = 1;
+    const RECT rectangle = {0, 0, size.cx, size.cy};
+    EXPORT(family, DrawPrinterView)(to, &rectangle, &request);
+}

@@ -1,0 +1,22 @@
+// One picture of the printer: what is installed and which way the paper takes.
+#ifndef WORKBENCH_LIB_PRINTER_SCENE_H
+#define WORKBENCH_LIB_PRINTER_SCENE_H
+
+#include "workbench/lib/option_features.h"
+
+constexpr SIZE kSceneSize = {200, 200}; // pixels; what the module's bitmaps are drawn for
+
+constexpr int kFirstOutputFlag = 1;
+constexpr int kLastOutputFlag = 9;
+
+struct PrinterScene {
+    OptionFeatures options;
+    bool showsPaperPath = true;
+    std::string tray;             // key of the paper source in use; empty: none
+    std::vector<int> outputFlags; // numbers of those that are set
+};
+
+// Has the module fill this many pixels of the context, from its origin on.
+void DrawScene(const FamilyFiles& family, const PrinterScene& scene, HDC to, SIZE size);
+
+#endif

@@ -1,0 +1,53 @@
+// Uses an open property sheet by messages: see the header.
+#include "workbench/property_sheet/page_driver.h"
+
+#include "workbench/lib/dialog_view.h"
+#include "workbench/lib/output.h"
+
+std::string PageDriver::Text(int id) const {
+    wchar_t text[512] = L"";
+    GetWindowTextW(Control(id), text, 512);
+    return Utf8(text);
+}
+
+void PageDriver::TurnTo(SheetPage page) const {
+    SendMessageW(sheet.Window(), PSM_SETCURSEL, static_cast<WPARAM>(page), 0);
+}
+
+void PageDriver::SetText(int id, const std::string& utf8) const {
+    SetWindowTextW(Control(id), Wide(utf8).c_str());
+}
+
+void PageDriver::Click(int button) const {
+    SendMessageW(Control(button), BM_CLICK, 0, 0);
+}
+
+void PageDriver::Choose(int list, const std::string& wanted) const {
+    const std::vector<std::string> entries = EntriesOf(Control(list));
+    const auto found = std::find(entries.begin(), entries.end(), wanted);
+    if (found == entries.end())
+        throw Failure(kExitFailed, "the page has no '" + wanted + "' in list " + std::to_string(list));
+    SelectEntry(Control(list), static_cast<WPARAM>(found - entries.begin()));
+    SendMessageW(sheet.CurrentPage(), WM_COMMAND, MAKEWPARAM(list, CBN_SELCHANGE),
+                 reinterpret_cast<LPARAM>(Control(list)));
+}
+
+bool PageDriver::Press(int button) const {
+    SendMessageW(sheet.Window(), PSM_PRESSBUTTON, static_cast<WPARAM>(button), 0);
+    return sheet.CurrentPage() != nullptr;
+}
+
+void PageDriver::WaitUntil(const std::function<bool()>& condition, DWORD most) const {
+    const DWORD start = GetTickCount();
+    while (!condition()) {
+        const DWORD spent = GetTickCount() - start;
+        if (spent >= most)
+            throw Failure(kExitFailed, "the page is still waiting after " + std::to_string(most)
+                                           + " milliseconds; try again");
+        sheet.HandleMessages(most - spent);
+    }
+}
+
+Document PageDriver::Picture(const std::string& path) const {
+    return TakePicture(sheet.Window(), path);
+}

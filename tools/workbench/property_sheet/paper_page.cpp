@@ -1,0 +1,115 @@
+// The page of the paper: where it comes from, what it is, and what lies in the trays.
+#include "workbench/property_sheet/page_ids.h"
+#include "workbench/property_sheet/property_page.h"
+
+#include "base/text.h"
+#include "paramdata/devmode_fields.h"
+#include "workbench/lib/dialog_run.h"
+#include "workbench/lib/output.h"
+
+namespace {
+
+// A list of the device table, and the setting that it is chosen for.
+struct PaperChoice {
+    int control;
+    CompactItemRecord* DeviceTable::*list;
+    DevmodeField field;
+};
+constexpr PaperChoice kChoices[] = {
+    {ID_TYPE, &DeviceTable::mediaTypes, FIELD(mediaType)},
+    {ID_WEIGHT, &DeviceTable::mediaWeights, FIELD(mediaWeight)},
+    {ID_COLOR, &DeviceTable::mediaColors, FIELD(mediaColor)},
+    {ID_HOLES, &DeviceTable::prePunchedMedia, FIELD(mediaPrePunched)},
+};
+
+class PaperPage : public PropertyPage {
+public:
+    explicit PaperPage(SheetState& sheetState) : PropertyPage(PAGE_PAPER, sheetState) {}
+
+private:
+    void Init() override {
+        SetColumns(ID_TRAYS, {"Tray", "Size", "Orientation", "Type", "Weight", "Colour", "Holes"});
+    }
+
+    void Show() override {
+        EnableWindow(Control(ID_TRAY_BUTTON), TrayDialogOf(state.family.table.get()) != 0);
+        ShowSources();
+        for (const PaperChoice& choice : kChoices)
+            ShowChoice(choice);
+        std::vector<std::vector<std::string>> rows;
+        for (const Document& paper : PapersDocument(state.papers).Elements()) {
+            std::vector<std::string> row;
+            for (const auto& cell : paper.Fields())
+                if (cell.name != "bin")
+                    row.push_back(cell.value.IsText() ? cell.value.Text() : "");
+            row[0] = NameOfSource(row[0]);
+            rows.push_back(row);
+        }
+        SetRows(ID_TRAYS, rows);
+    }
+
+    void OnCommand(UINT control, UINT notification) override {
+        if (control == ID_TRAY_BUTTON && notification == BN_CLICKED)
+            RunModelDialog(TrayDialogOf(state.family.table.get()), true);
+        else if (control == ID_SOURCE && notification == CBN_SELCHANGE)
+            TakeSource();
+        else if (notification == CBN_SELCHANGE)
+            for (const PaperChoice& choice : kChoices)
+                if (choice.control == static_cast<int>(control))
+                    TakeChoice(choice);
+    }
+
+    // What the module offers depends on what is installed.
+    void ShowSources() {
+        sources = OfferedSources(state);
+        std::vector<std::string> names;
+        int selected = -1;
+        for (const PaperSource& source : sources) {
+            if (source.bin == state.settings.inputTray)
+                selected = static_cast<int>(names.size());
+            names.push_back(source.name);
+        }
+        SetEntries(ID_SOURCE, names, selected);
+        const CapabilityQuestions questions(state.family, state.options);
+        SetText(ID_ABILITIES, std::string("Prints on both sides: ")
+                                  + (questions.Has(DC_DUPLEX) ? "yes" : "no")
+                                  + "\nStaples: " + (questions.Has(DC_STAPLE) ? "yes" : "no"));
+    }
+
+    std::string NameOfSource(const std::string& key) const {
+        for (const InputSlotRecord& slot : Listed(state.family.table->inputTrays))
+            if (SameText(slot.head.key, key))
+                return Utf8(std::wstring_view(slot.display, TextLength(slot.display)));
+        return key;
+    }
+
+    void TakeSource() {
+        state.settings.inputTray = sources.at(static_cast<size_t>(Send(ID_SOURCE, CB_GETCURSEL))).bin;
+        NoteChange();
+    }
+
+    void ShowChoice(const PaperChoice& choice) const {
+        std::vector<std::string> names;
+        int selected = -1;
+        for (const CompactItemRecord& item : Listed(state.family.table.get()->*choice.list)) {
+            if (item.head.value == Load(state.settings, choice.field))
+                selected = static_cast<int>(names.size());
+            names.push_back(Utf8(std::wstring_view(item.display, TextLength(item.display))));
+        }
+        SetEntries(choice.control, names, selected);
+    }
+
+    void TakeChoice(const PaperChoice& choice) const {
+        const CompactItemRecord* items = state.family.table.get()->*choice.list;
+        Store(state.settings, choice.field, items[Send(choice.control, CB_GETCURSEL)].head.value);
+        NoteChange();
+    }
+
+    std::vector<PaperSource> sources;
+};
+
+} // namespace
+
+std::unique_ptr<PropertyPage> MakePaperPage(SheetState& state) {
+    return std::make_unique<PaperPage>(state);
+}
