@@ -1,15 +1,15 @@
 // Device capabilities of the shipped model: the bin numbers and names of the paper sources whose option is
 // installed, against the same lists copied without a question.
+#include "base/records.h"
 #include "base/text.h"
 #include "paramdata/prm_file.h"
-#include "picture/capabilities/device_capabilities.h"
 
 #include <benchmark/benchmark.h>
 #include <cstring>
 
 namespace {
 
-constexpr size_t kMostTrays = 64;
+constexpr size_t kMaxTrays = 64;
 
 // The installable options of the model's trays, all installed.
 constexpr ItemRecord kInstalled[] = {{{sizeof(ItemRecord), "EnaOpInTray", 1, 0, 0, 0}, L""}, {}};
@@ -36,8 +36,8 @@ struct Model {
 
     PrmFile* file;
     DeviceTable* table;
-    WORD bins[kMostTrays] = {};
-    wchar_t names[kMostTrays][kBinNameCharacters] = {};
+    WORD bins[kMaxTrays] = {};
+    wchar_t names[kMaxTrays][TELMAR_BIN_NAME_LENGTH] = {};
 };
 
 // One item is one call.
@@ -68,7 +68,7 @@ void CopyOnly(benchmark::State& state) {
         count = 0;
         for (const InputSlotRecord* tray = model.table->inputTrays; tray->head.key[0] != 0; ++tray, ++count) {
             memcpy(model.names[count], tray->display, sizeof(model.names[count]));
-            model.names[count][kBinNameCharacters - 1] = 0;
+            model.names[count][TELMAR_BIN_NAME_LENGTH - 1] = 0;
         }
         benchmark::ClobberMemory();
     }

@@ -1,9 +1,9 @@
 // Opening the full colour dialog, against a bare dialog of the same template whose lists take the same
 // entries, in turn: created, filled, shown, painted once, destroyed.
 #include "base/entry_point.h"
+#include "base/records.h"
 #include "bench/stopwatch.h"
 #include "dialogs/shared/dialog_context.h"
-#include "frame/dlg_proc.h"
 
 #include <cstdio>
 #include <filesystem>

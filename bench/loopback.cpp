@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr size_t kMostOctets = 4096;
+constexpr size_t kMaxOctets = 4096;
 constexpr timeval kLimit = {2, 0};
 
 sockaddr_in Loopback(uint16_t port) {
@@ -23,7 +23,7 @@ sockaddr_in Loopback(uint16_t port) {
 
 [[noreturn]] void Echo(int socket) {
     for (;;) {
-        char octets[kMostOctets];
+        char octets[kMaxOctets];
         sockaddr_in from;
         socklen_t length = sizeof(from);
         const ssize_t count =
@@ -92,7 +92,7 @@ EchoClient::~EchoClient() {
 }
 
 bool EchoClient::RoundTrip(const uint8_t* octets, size_t count) const {
-    char back[kMostOctets];
+    char back[kMaxOctets];
     return send(socket, octets, count, 0) == static_cast<ssize_t>(count)
            && recv(socket, back, sizeof(back), 0) == static_cast<ssize_t>(count);
 }

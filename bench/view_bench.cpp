@@ -1,9 +1,9 @@
 // Drawing the printer's picture, against the bare system calls that the same picture takes with its bitmaps
 // already loaded and selected, in turn; and what part of it goes into loading the bitmaps.
 #include "base/entry_point.h"
+#include "base/records.h"
 #include "base/text.h"
 #include "bench/stopwatch.h"
-#include "picture/view/printer_view.h"
 
 #include <cstdio>
 #include <filesystem>

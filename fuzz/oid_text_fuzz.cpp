@@ -15,8 +15,8 @@ namespace {
 
 using Arcs = std::vector<UINT>;
 
-constexpr size_t kMostArcs = 128;
-constexpr size_t kMostDigits = 15;
+constexpr size_t kMaxArcs = 128;
+constexpr size_t kMaxDigits = 15;
 
 // The arcs of a text by opening and closing arc texts; none when it is not an OID's.
 Arcs ExpectedArcs(const std::string& text) {
@@ -30,11 +30,11 @@ Arcs ExpectedArcs(const std::string& text) {
             digits += c;
             continue;
         }
-        if ((c != '.' && c != '\0') || digits.size() > kMostDigits)
+        if ((c != '.' && c != '\0') || digits.size() > kMaxDigits)
             return {};
         if (isOpen) {
             const unsigned long long arc = strtoull(digits.c_str(), nullptr, 10);
-            if (arc > UINT32_MAX || arcs.size() == kMostArcs)
+            if (arc > UINT32_MAX || arcs.size() == kMaxArcs)
                 return {};
             arcs.push_back(static_cast<UINT>(arc));
         }

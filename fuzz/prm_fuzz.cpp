@@ -51,7 +51,7 @@ void CheckMachines(const DeviceTable& table) {
 
 void CheckSwitches(const DeviceTable& table) {
     for (size_t i = 0; i < kFeatureSwitchCount; ++i)
-        Require(table.switches[i] <= (kFeatureSwitches[i].enablingValue != nullptr ? 1 : kMostSwitchType),
+        Require(table.switches[i] <= (kFeatureSwitches[i].enablingValue != nullptr ? 1 : kMaxSwitchType),
                 "a switch has a value that it can't have");
 }
 
@@ -179,8 +179,8 @@ struct ModuleFolder {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     // Per byte of the file: its image, 16 bytes of the device table's records, and the media type lists,
     // which take 144 bytes for records of 240.
-    constexpr size_t kMostPerByte = 1 + 16 + 10;
-    constexpr size_t kMostAnyway = 16384;
+    constexpr size_t kMaxPerByte = 1 + 16 + 10;
+    constexpr size_t kMaxAnyway = 16384;
 
     static const ModuleFolder folder;
     folder.Store(octets, count);
@@ -199,7 +199,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     const win32::Counts counts = win32::Count();
     Require(counts.globalBlocks == 0 && counts.localBlocks == 0 && counts.files == 0,
             "something is left over");
-    Require(counts.allocatedBytes <= kMostAnyway + kMostPerByte * count,
+    Require(counts.allocatedBytes <= kMaxAnyway + kMaxPerByte * count,
             "memory out of proportion to the file");
     return 0;
 }

@@ -14,14 +14,14 @@ using Bytes = std::vector<uint8_t>;
 
 constexpr size_t kSmall = 8192;    // bytes of the largest file whose fields are all replaced
 constexpr size_t kMessage = 256;   // of the largest whose octets are
-constexpr size_t kMostCuts = 1024; // of one file
+constexpr size_t kMaxCuts = 1024; // of one file
 
 void Run(const Bytes& bytes) {
     LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
 }
 
 size_t RunCuts(const Bytes& bytes) {
-    const size_t stride = 1 + bytes.size() / kMostCuts;
+    const size_t stride = 1 + bytes.size() / kMaxCuts;
     size_t runs = 0;
     for (size_t length = 0; length < bytes.size(); length += stride, ++runs)
         Run(Bytes(bytes.data(), bytes.data() + length));

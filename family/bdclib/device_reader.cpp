@@ -6,9 +6,9 @@
 
 namespace {
 
-constexpr uint32_t kMostRows = 255;   // of a table: no device has so many of anything
-constexpr uint32_t kMostInputs = 7;   // the numbers of the family's inputs
-constexpr uint32_t kMostDevices = 16; // of the host, among which the printer is looked for
+constexpr uint32_t kMaxRows = 255;   // of a table: no device has so many of anything
+constexpr uint32_t kMaxInputs = 7;   // the numbers of the family's inputs
+constexpr uint32_t kMaxDevices = 16; // of the host, among which the printer is looked for
 
 // --- Objects
 
@@ -168,12 +168,12 @@ bool WalkRows(const DeviceSession& session, const DeviceList& list, const Visit&
 
 // clang-format off
 //                                  presence            most rows    gaps   item size                  how it is read
-const DeviceList kFirmwareList   = {kInterpreterFamily, kMostRows,   false, sizeof(BdcFirmwareItem),   Into<Firmware, ReadFirmware>};
-const DeviceList kMemoryList     = {kMemoryNumber,      kMostRows,   false, sizeof(BdcMemoryItem),     Into<BdcMemoryItem, ReadMemory>};
-const DeviceList kOptionList     = {kOptionNumber,      kMostRows,   false, sizeof(BdcOptionItem),     Into<BdcOptionItem, ReadOption>};
-const DeviceList kInputTrayList  = {kPaperInput,        kMostInputs, true,  sizeof(BdcInputTrayItem),  Into<BdcInputTrayItem, ReadInputTray>};
-const DeviceList kOutputTrayList = {kOutputType,        kMostRows,   false, sizeof(BdcOutputTrayItem), Into<OutputTray, ReadOutputTray>};
-const DeviceList kFinisherList   = {kFinisherNumber,    kMostRows,   false, sizeof(BdcFinisherItem),   Into<BdcFinisherItem, ReadFinisher>};
+const DeviceList kFirmwareList   = {kInterpreterFamily, kMaxRows,   false, sizeof(BdcFirmwareItem),   Into<Firmware, ReadFirmware>};
+const DeviceList kMemoryList     = {kMemoryNumber,      kMaxRows,   false, sizeof(BdcMemoryItem),     Into<BdcMemoryItem, ReadMemory>};
+const DeviceList kOptionList     = {kOptionNumber,      kMaxRows,   false, sizeof(BdcOptionItem),     Into<BdcOptionItem, ReadOption>};
+const DeviceList kInputTrayList  = {kPaperInput,        kMaxInputs, true,  sizeof(BdcInputTrayItem),  Into<BdcInputTrayItem, ReadInputTray>};
+const DeviceList kOutputTrayList = {kOutputType,        kMaxRows,   false, sizeof(BdcOutputTrayItem), Into<OutputTray, ReadOutputTray>};
+const DeviceList kFinisherList   = {kFinisherNumber,    kMaxRows,   false, sizeof(BdcFinisherItem),   Into<BdcFinisherItem, ReadFinisher>};
 // clang-format on
 
 DeviceSession::DeviceSession(const BdcDeviceRecord& device)
@@ -199,10 +199,10 @@ bool ReadList(const DeviceSession& session, const DeviceList& list, void* items,
 }
 
 bool ReadPrinterNumber(SnmpSession session, uint32_t& number) {
-    for (number = 1; number <= kMostDevices; ++number) {
+    for (number = 1; number <= kMaxDevices; ++number) {
         ObjectSuffix suffix = {};
         AppendArc(suffix, number);
-        const Match match = MatchObject(session, kHostDeviceType, suffix, kCompareOid, kTypePrinter);
+        const Match match = MatchObject(session, kHostDeviceType, suffix, TELMAR_COMPARE_OID, kTypePrinter);
         if (match != Match::kNo)
             return match == Match::kYes;
     }
@@ -222,7 +222,7 @@ bool ReadModelName(const DeviceSession& session, ObjectText& name) {
 
 bool ReadMediaPaths(const DeviceSession& session, uint32_t& count, bool& hasDuplex) {
     constexpr int32_t kLongEdgeDuplex = 3, kShortEdgeDuplex = 4;
-    constexpr DeviceList kPaths = {kMediaPathType, kMostRows, false, 0, nullptr};
+    constexpr DeviceList kPaths = {kMediaPathType, kMaxRows, false, 0, nullptr};
     count = 0;
     hasDuplex = false;
     return WalkRows(session, kPaths, [&](DeviceRow& row) {

@@ -1,8 +1,8 @@
 // The constraint table: see the header.
 #include "uimodule/constraints.h"
 
+#include "base/records.h"
 #include "base/text.h"
-#include "dialogs/shared/ui_callbacks.h"
 
 namespace {
 
@@ -29,11 +29,11 @@ bool IsSimulatedInBlack(const OemDevmode& settings) {
 // control's rows the first that is broken counts.
 // clang-format off
 constexpr Constraint kConstraints[] = {
-    {kPaperColorBox,      kChangeRefused,    IsPaperMatchedAlone, L"The colour of the paper can be matched only while a press is simulated."},
-    {kSimulationGrayList, kChangeRefused,    IsGrayTreatedAlone,  L"Blacks and greys of a press can be chosen only while a press is simulated."},
-    {kSimulationList,     kChangeRefused,    IsSimulatedInBlack,  L"This printer prints black only. No press can be simulated."},
-    {kSimulationList,     kChangeRefusedToo, IsPaperMatchedAlone, L"A press is needed while the colour of the paper is matched."},
-    {kSimulationList,     kChangeRefusedToo, IsGrayTreatedAlone,  L"A press is needed while its blacks and greys are not printed in four colours."},
+    {kPaperColorBox,      TELMAR_CHANGE_REFUSED,    IsPaperMatchedAlone, L"The colour of the paper can be matched only while a press is simulated."},
+    {kSimulationGrayList, TELMAR_CHANGE_REFUSED,    IsGrayTreatedAlone,  L"Blacks and greys of a press can be chosen only while a press is simulated."},
+    {kSimulationList,     TELMAR_CHANGE_REFUSED,    IsSimulatedInBlack,  L"This printer prints black only. No press can be simulated."},
+    {kSimulationList,     TELMAR_CHANGE_REFUSED_ALSO, IsPaperMatchedAlone, L"A press is needed while the colour of the paper is matched."},
+    {kSimulationList,     TELMAR_CHANGE_REFUSED_ALSO, IsGrayTreatedAlone,  L"A press is needed while its blacks and greys are not printed in four colours."},
 };
 // clang-format on
 

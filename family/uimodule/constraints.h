@@ -2,7 +2,7 @@
 #ifndef UIMODULE_CONSTRAINTS_H
 #define UIMODULE_CONSTRAINTS_H
 
-#include "paramdata/oem_devmode.h"
+#include "base/records.h"
 
 #include <windows.h>
 

@@ -2,6 +2,7 @@
 #include "uimodule/exports.h"
 
 #include "base/text.h"
+#include "dialogs/shared/dialog_context.h"
 #include "uimodule/constraints.h"
 #include "uimodule/dialog_texts.h"
 #include "uimodule/hint_window.h"

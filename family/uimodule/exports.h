@@ -8,7 +8,7 @@
 #ifndef UIMODULE_EXPORTS_H
 #define UIMODULE_EXPORTS_H
 
-#include "dialogs/shared/ui_callbacks.h"
+#include "telmar_d.h"
 
 extern "C" {
 
@@ -21,40 +21,40 @@ extern "C" {
 // first place of its letter, otherwise behind the text as " (&X)" (in front of a closing colon or "..."). A
 // group box is not added to. Texts are cut to their fields. The dialog's identifier and the context are not
 // needed. The first also makes the entries of owner-drawn lists as high as their font needs.
-ReplaceDlgDispStringCmnItemFunction ReplaceDlgDispStringCmnItem;
-ReplaceDlgDispStringFunction ReplaceDlgDispString;
+TelmarReplaceDlgDispStringCmnItem ReplaceDlgDispStringCmnItem;
+TelmarReplaceDlgDispString ReplaceDlgDispString;
 
 // The hint window: owned by the dialog, which destroys it; hidden until there is a hint. It stays below the
 // dialog, or within where the screen ends, and never takes the focus. Its window text is the hint. Null when
 // it can't be made.
-CreateToolWndFunction CreateToolWnd;
+TelmarCreateToolWnd CreateToolWnd;
 
 // Notes which of the table's icon controls the dialog has.
-StoreStopIconRectFunction StoreStopIconRect;
+TelmarStoreStopIconRect StoreStopIconRect;
 
 // Checks the choice of a control, already stored in the settings of the dialog's context, against the rows of
 // uimodule/constraints.cpp: 100 or 101 refuses it, 0 keeps it. A refused choice is marked until the next
 // call. With control 0 there is nothing to refuse: 0. The hint window is known from CreateToolWnd; the
 // argument is not used, since a tray dialog hands over that of a colour dialog.
-DoConstraintsFunction DoConstraints;
+TelmarDoConstraints DoConstraints;
 
 // Shows the hints in the hint window, or hides it when there are none, and has the stop icons drawn anew.
 // The hint tells of the refused choice, otherwise of what is in conflict in the settings, as far as the
 // dialog has the controls.
-DispHintControlFunction DispHintControl;
+TelmarDispHintControl DispHintControl;
 
 // 0: there is none.
-IsInstalledDLManagerFunction IsInstalledDLManager;
+TelmarIsInstalledDLManager IsInstalledDLManager;
 
 // A stop sign when the choice of the control beside the icon is refused or in conflict, otherwise only the
 // dialog's background.
-ReqDrawStopInfoIconFunction ReqDrawStopInfoIcon;
+TelmarReqDrawStopInfoIcon ReqDrawStopInfoIcon;
 
 // DialogBoxParamW; -1 or 0 when the dialog can't be made.
-MyDialogBoxFunction MyDialogBox;
+TelmarMyDialogBox MyDialogBox;
 
 // This library: icon 473 is a page in portrait format, 474 in landscape format, in 16 and 32 pixels.
-GetImgResInstFunction GetImgResInst;
+TelmarGetImgResInst GetImgResInst;
 }
 
 #endif

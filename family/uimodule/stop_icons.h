@@ -2,7 +2,7 @@
 #ifndef UIMODULE_STOP_ICONS_H
 #define UIMODULE_STOP_ICONS_H
 
-#include "dialogs/shared/ui_callbacks.h"
+#include "base/records.h"
 
 // The icon controls of a dialog.
 struct StopIcons {

@@ -52,9 +52,9 @@ Holdings CountHoldings() {
     while (HeapWalk(GetProcessHeap(), &entry))
         held.heapBlocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
     EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NO_MORE_ITEMS));
-    constexpr uintptr_t kMostHandles = 0x400; // wine does not count them, but knows which are valid
+    constexpr uintptr_t kMaxHandles = 0x400; // wine does not count them, but knows which are valid
     DWORD flags = 0;
-    for (uintptr_t i = 1; i < kMostHandles; ++i)
+    for (uintptr_t i = 1; i < kMaxHandles; ++i)
         held.handles += GetHandleInformation(reinterpret_cast<HANDLE>(4 * i), &flags) != FALSE;
     return held;
 }

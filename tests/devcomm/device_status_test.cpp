@@ -1,6 +1,6 @@
 // Host only: the exports of the bidirectional path with a scripted library: how it is found, what each call
 // is given, what becomes of each answer and of each failure.
-#include "devcomm/bidi/device_status.h"
+#include "base/records.h"
 
 #include "devcomm/scripted_bdc_host.h"
 #include "win32_control.h"

@@ -1,6 +1,7 @@
 // Host only: what the answers of the bidirectional library mean, through the exports and a scripted library.
 #include "devcomm/bidi/bdc_tables.h"
 
+#include "base/records.h"
 #include "devcomm/scripted_bdc_host.h"
 
 #include <gtest/gtest.h>

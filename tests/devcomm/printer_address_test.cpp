@@ -1,6 +1,6 @@
 // Host only: the printer's address from the record, the transceiver and the registry; every call, allocation
 // and library that can fail. Records, replies and buffers are heap blocks of just their size.
-#include "devcomm/address/printer_address.h"
+#include "base/records.h"
 #include "support/raw_bytes.h"
 #include "win32_control.h"
 

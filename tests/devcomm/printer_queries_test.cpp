@@ -1,8 +1,8 @@
 // The printer queries over a scripted device: sessions, refusals, comparisons, options and supplies. What is
 // asked, in which order, and what the caller gets.
+#include "base/records.h"
 #include "base/text.h"
 #include "devcomm/queries/object_reader.h"
-#include "devcomm/queries/printer_queries.h"
 #include "devcomm/queries/query_catalogue.h"
 #include "devcomm/scripted_device.h"
 #include "support/raw_bytes.h"

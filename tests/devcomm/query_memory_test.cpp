@@ -1,6 +1,6 @@
 // Host only: the walks over a scripted device while the local heap runs out at each allocation in turn.
-#include "devcomm/queries/printer_queries.h"
 #include "devcomm/scripted_device.h"
+#include "telmar_d.h"
 #include "win32_control.h"
 
 #include <gtest/gtest.h>

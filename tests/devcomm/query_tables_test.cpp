@@ -1,6 +1,6 @@
 // The static tables of the printer queries, octet by octet at their published offsets.
-#include "devcomm/queries/printer_queries.h"
 #include "support/raw_bytes.h"
+#include "telmar_d.h"
 
 #include <gtest/gtest.h>
 

@@ -4,9 +4,9 @@
 #define DEVCOMM_SCRIPTED_BDC_HOST_H
 
 #include "devcomm/bidi/bdc_device.h"
-#include "devcomm/bidi/device_status.h"
 #include "devcomm/scripted_bdc.h"
 #include "support/raw_bytes.h"
+#include "telmar_d.h"
 #include "win32_control.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // The walks over what a scripted device stores, overlays and colour profiles: requests in order, entries
 // kept, and the blocks handed out.
-#include "devcomm/queries/printer_queries.h"
+#include "base/records.h"
 #include "devcomm/scripted_device.h"
 #include "support/raw_bytes.h"
 

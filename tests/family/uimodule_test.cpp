@@ -1,6 +1,8 @@
 // The built TELMAR_U.DLL on the dialog of uimodule_test.rc, called as the model's dialogs call it.
 #include "uimodule/exports.h"
 
+#include "base/records.h"
+
 #include <gtest/gtest.h>
 #include <map>
 #include <memory>

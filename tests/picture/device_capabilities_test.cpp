@@ -1,6 +1,6 @@
 // Device capabilities: which paper sources are reported for which installed options, and stapling; every
 // answer is checked together with the bytes behind it.
-#include "picture/capabilities/device_capabilities.h"
+#include "base/records.h"
 #include "support/prm_image.h"
 
 namespace {

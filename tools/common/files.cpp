@@ -50,10 +50,10 @@ std::string ReadFile(const std::string& path) {
     std::FILE* file = std::fopen(path.c_str(), "rb");
     if (!file)
         Fail("read", path, errno);
-    std::string contents(kMostFileBytes + 1, '\0');
+    std::string contents(kMaxFileBytes + 1, '\0');
     errno = 0;
     contents.resize(std::fread(contents.data(), 1, contents.size(), file));
-    const int reason = std::ferror(file) ? errno : contents.size() > kMostFileBytes ? EFBIG : 0;
+    const int reason = std::ferror(file) ? errno : contents.size() > kMaxFileBytes ? EFBIG : 0;
     std::fclose(file);
     if (reason != 0)
         Fail("read", path, reason);

@@ -6,7 +6,7 @@
 #include <string_view>
 
 // Far beyond any file that people write; keeps what a broken file can cost within bounds.
-constexpr size_t kMostFileBytes = size_t{4} << 20;
+constexpr size_t kMaxFileBytes = size_t{4} << 20;
 
 // Throws std::runtime_error with the file's name and the reason.
 std::string ReadFile(const std::string& path);

@@ -94,7 +94,7 @@ bool ReadScalar(const std::string& name, const YAML::Node& node, std::string& te
 }
 
 bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings) {
-    constexpr size_t kMostDigits = 15; // fewer than 64 bits; the rules say what fits
+    constexpr size_t kMaxDigits = 15; // fewer than 64 bits; the rules say what fits
     std::string text;
     if (!ReadScalar(name, node, text, findings))
         return false;
@@ -102,7 +102,7 @@ bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number
     const bool isNegative = text.rfind('-', 0) == 0;
     const std::string digits = text.substr(isHex ? 2 : isNegative ? 1 : 0);
     const char* allowed = isHex ? "0123456789abcdefABCDEF" : "0123456789";
-    if (digits.empty() || digits.size() > kMostDigits
+    if (digits.empty() || digits.size() > kMaxDigits
         || digits.find_first_not_of(allowed) != std::string::npos) {
         findings.Error(PlaceOf(node), Quote(name) + " takes a number, not " + Quote(text));
         return false;

@@ -51,7 +51,7 @@ void CheckValue(const EntryRow& row, const Field& field, const Value& value, Fin
     case FieldType::kKey:
         if (value.text.empty())
             findings.Error(value.place, "the key is empty: readers would end the list here");
-        CheckBytes(what, value.text, kMostKeyChars, value.place, findings);
+        CheckBytes(what, value.text, kMaxKeyChars, value.place, findings);
         break;
     case FieldType::kName:
         CheckName(what, value.text, field.count > 1 ? field.count : row.nameChars, value.place, findings);
@@ -79,7 +79,7 @@ void CheckValue(const EntryRow& row, const Field& field, const Value& value, Fin
 
 // A numbered switch takes TYPE1, TYPE2 ...
 bool IsTypeValue(const std::string& value) {
-    for (unsigned n = 1; n <= kMostSwitchType; ++n) {
+    for (unsigned n = 1; n <= kMaxSwitchType; ++n) {
         if (EqualNoCase(value, "TYPE" + Number(n)))
             return true;
     }
@@ -96,7 +96,7 @@ void CheckFeatureRow(const Pair& row, Findings& findings) {
             if (!IsTypeValue(row.value))
                 findings.Error(row.valuePlace, "value " + Quote(row.value) + " of " + Quote(row.name)
                                                    + " is no variant: write TYPE1 to TYPE"
-                                                   + Number(kMostSwitchType) + ", or leave the row out");
+                                                   + Number(kMaxSwitchType) + ", or leave the row out");
         } else if (!EqualNoCase(row.value, feature.enablingValue) && !EqualNoCase(row.value, kOff)) {
             findings.Error(row.valuePlace, "value " + Quote(row.value) + " of " + Quote(row.name)
                                                + " enables nothing: write " + feature.enablingValue + ", or "

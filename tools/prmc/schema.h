@@ -93,7 +93,7 @@ constexpr Limits LimitsOf(const EntryRow& row, const Field& field) {
     return field.limits.AreGiven() ? field.limits : row.values;
 }
 
-constexpr size_t kMostKeyChars = 31;
+constexpr size_t kMaxKeyChars = 31;
 
 Table<EntryRow> KnownEntries();
 

@@ -10,7 +10,7 @@
 #include <net-snmp/net-snmp-includes.h>
 // clang-format on
 
-static_assert(kMostArcs == MAX_OID_LEN);
+static_assert(kMaxArcs == MAX_OID_LEN);
 
 namespace {
 

@@ -13,7 +13,7 @@ std::optional<Oid> OidFromText(std::string_view text) {
     for (;;) {
         uint32_t arc = 0;
         const auto [next, fault] = std::from_chars(at, end, arc);
-        if (fault != std::errc{} || oid.size() == kMostArcs)
+        if (fault != std::errc{} || oid.size() == kMaxArcs)
             return std::nullopt;
         oid.push_back(arc);
         if (next == end)

@@ -20,7 +20,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr uint32_t kOtherLoopback = 0x7FFFFFFE; // 127.255.255.254, where no printer is likely to be simulated
-constexpr size_t kMostWaiting = 10000; // delayed datagrams; further ones are lost, as in a real queue
+constexpr size_t kMaxWaiting = 10000; // delayed datagrams; further ones are lost, as in a real queue
 
 volatile std::sig_atomic_t stopRequested = 0;
 
@@ -185,7 +185,7 @@ void Serve(const ServerOptions& options, Agent& agent, const std::function<void(
                 std::cerr << Describe(from) << ' ' << outcome.log << std::endl;
             for (Datagram& answer : outcome.datagrams) {
                 const auto due = Clock::now() + std::chrono::milliseconds(answer.delayMs);
-                if (queue.size() < kMostWaiting)
+                if (queue.size() < kMaxWaiting)
                     queue.emplace(due, Waiting{std::move(answer), from});
             }
         }

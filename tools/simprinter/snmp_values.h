@@ -13,7 +13,7 @@
 // Compares as SNMP orders objects: arc by arc.
 using Oid = std::vector<uint32_t>;
 
-constexpr size_t kMostArcs = 128;
+constexpr size_t kMaxArcs = 128;
 
 // The octets that stand for a value's type in a message.
 enum Tag : uint8_t {

@@ -15,6 +15,7 @@
 #define FALSE 0
 
 #define MAX_PATH 260
+#define WM_USER  0x0400
 
 #define DLL_PROCESS_DETACH 0
 #define DLL_PROCESS_ATTACH 1
@@ -68,6 +69,8 @@ using INT = int32_t;
 using INT_PTR = intptr_t;
 using SIZE_T = size_t;
 using WCHAR = wchar_t;
+using WPARAM = uintptr_t;
+using LPARAM = intptr_t;
 using LPVOID = void*;
 using LPCSTR = const char*;
 using LPCWSTR = const wchar_t*;
@@ -77,6 +80,11 @@ using HGLOBAL = void*;
 using HLOCAL = void*;
 using HINSTANCE = struct Instance*;
 using HMODULE = HINSTANCE;
+using HWND = struct Window*;
+using HDC = struct DeviceContext*;
+using RECT = struct Rectangle;
+using DRAWITEMSTRUCT = struct DrawItem;
+using DLGPROC = INT_PTR(WINAPI*)(HWND, UINT, WPARAM, LPARAM);
 using FARPROC = INT_PTR(WINAPI*)();
 static_assert(sizeof(WCHAR) == 2 && sizeof(void*) == 8);
 

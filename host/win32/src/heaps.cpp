@@ -14,7 +14,7 @@ namespace {
 constexpr int kUnfilled = 0xCD; // what a block holds that was not asked for zero-filled
 
 // No machine grants a larger block, so that tests need none on which one fails.
-constexpr SIZE_T kMostOctets = SIZE_T{1} << 30;
+constexpr SIZE_T kMaxOctets = SIZE_T{1} << 30;
 
 win32::Counts counts = {};
 unsigned failFirst = 0; // allocations from now until the first that fails; 0: none is ordered
@@ -34,7 +34,7 @@ bool FailureIsOrdered() {
 
 void* Allocate(UINT flags, SIZE_T size, int& liveBlocks) {
     ++counts.allocations;
-    void* block = FailureIsOrdered() || size > kMostOctets ? nullptr : std::malloc(size);
+    void* block = FailureIsOrdered() || size > kMaxOctets ? nullptr : std::malloc(size);
     if (block == nullptr) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return nullptr;

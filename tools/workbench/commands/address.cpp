@@ -1,6 +1,6 @@
 // `workbench address`: asks the module's DDProc_GetPrinterIPAddress as the user-interface module does, for
 // the size first, then for the address; of a settings record that carries an address, or of a print queue.
-#include "devcomm/address/printer_address.h"
+#include "base/records.h"
 #include "workbench/commands/commands.h"
 #include "workbench/lib/output.h"
 

@@ -10,11 +10,11 @@
 
 namespace {
 
-constexpr size_t kMostSettings = 5;
+constexpr size_t kMaxSettings = 5;
 
 struct Row {
     const char* caption;
-    const char* settings[kMostSettings]; // "FEATURE=ITEM"; all others are the model's defaults
+    const char* settings[kMaxSettings]; // "FEATURE=ITEM"; all others are the model's defaults
     const char* tray = "";
     int outputFlag = 0; // 0: none
     const char* machine = nullptr;

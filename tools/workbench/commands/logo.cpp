@@ -1,5 +1,5 @@
 // `workbench logo`: has the module draw the logo picture of the version page, and writes it.
-#include "picture/view/logo.h"
+#include "telmar_d.h"
 #include "workbench/commands/commands.h"
 #include "workbench/lib/picture_file.h"
 

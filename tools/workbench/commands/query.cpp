@@ -25,7 +25,8 @@ Document SuppliesDocument(const Supplies& supplies) {
         char color[8];
         snprintf(color, sizeof(color), "#%02x%02x%02x", GetRValue(supplies[i].color),
                  GetGValue(supplies[i].color), GetBValue(supplies[i].color));
-        rows.Elements()[i]["color"] = supplies[i].state == kStatePercent ? Document(color) : Document();
+        rows.Elements()[i]["color"] =
+            supplies[i].state == TELMAR_STATE_PERCENT ? Document(color) : Document();
     }
     return rows;
 }

@@ -7,7 +7,7 @@
 
 namespace {
 
-using BinName = std::array<wchar_t, kBinNameCharacters>;
+using BinName = std::array<wchar_t, TELMAR_BIN_NAME_LENGTH>;
 
 // As applications do: the count first, then the elements. Empty when the module declines.
 template <typename Element>

@@ -2,7 +2,7 @@
 #ifndef WORKBENCH_LIB_CAPABILITY_QUESTIONS_H
 #define WORKBENCH_LIB_CAPABILITY_QUESTIONS_H
 
-#include "picture/capabilities/device_capabilities.h"
+#include "base/records.h"
 #include "workbench/lib/option_features.h"
 
 #include <vector>

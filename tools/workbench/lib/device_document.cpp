@@ -76,16 +76,16 @@ constexpr Field kPaper[] = {
     {"text",       Show<&PaperSizeRecord::text>},
     {"width",      Show<&PaperSizeRecord::width>},
     {"length",     Show<&PaperSizeRecord::length>},
-    {"margins",    ShowIf<&PaperSizeRecord::flag3, &PaperSizeRecord::set3>},
+    {"margins",    ShowIf<&PaperSizeRecord::hasMargins, &PaperSizeRecord::margins>},
     {"complete",   ShowFlag<&PaperSizeRecord::complete>},
     {"values",     Show<&PaperSizeRecord::values>},
     {"shortName",  Show<&PaperSizeRecord::shortName>},
     {"longValues", ShowIfAny<&PaperSizeRecord::longValues>},
     {"longText",   Show<&PaperSizeRecord::longText>},
-    {"set1",       ShowIf<&PaperSizeRecord::flag1, &PaperSizeRecord::set1>},
-    {"set2",       ShowIf<&PaperSizeRecord::flag2, &PaperSizeRecord::set2>},
-    {"set4",       ShowIf<&PaperSizeRecord::flag4, &PaperSizeRecord::set4>},
-    {"set5",       ShowIf<&PaperSizeRecord::flag5, &PaperSizeRecord::set5>},
+    {"set1",       ShowIf<&PaperSizeRecord::hasGeometry1, &PaperSizeRecord::geometry1>},
+    {"set2",       ShowIf<&PaperSizeRecord::hasGeometry2, &PaperSizeRecord::geometry2>},
+    {"set4",       ShowIf<&PaperSizeRecord::hasGeometry4, &PaperSizeRecord::geometry4>},
+    {"set5",       ShowIf<&PaperSizeRecord::hasGeometry5, &PaperSizeRecord::geometry5>},
 };
 
 Document ShowCollateTexts(const void* record) {
@@ -157,8 +157,8 @@ constexpr struct {
 constexpr Field kCustomPaper[] = {
     {"size",    Show<&DeviceTable::userPaperSize>},
     {"margins", Show<&DeviceTable::userPaperMargins>},
-    {"set4",    Show<&DeviceTable::userPaperSet4>},
-    {"set5",    Show<&DeviceTable::userPaperSet5>},
+    {"set4",    Show<&DeviceTable::userPaperGeometry4>},
+    {"set5",    Show<&DeviceTable::userPaperGeometry5>},
 };
 
 constexpr Field kInputSlot[] = {

@@ -2,9 +2,8 @@
 #ifndef WORKBENCH_LIB_DEVICE_DOCUMENT_H
 #define WORKBENCH_LIB_DEVICE_DOCUMENT_H
 
+#include "base/records.h"
 #include "workbench/lib/document.h"
-
-struct DeviceTable;
 
 // Adds the sections "switches", "device", "ranges", "machineInformation", "customPaper" and "lists". A list
 // that the parameter data file lacks is null.

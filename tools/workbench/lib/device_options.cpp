@@ -1,8 +1,8 @@
 // A printer's options over both roads: see the header.
 #include "workbench/lib/device_options.h"
 
+#include "base/records.h"
 #include "base/text.h"
-#include "devcomm/queries/printer_queries.h"
 #include "devcomm/snmp/snmp_errors.h"
 #include "workbench/lib/record_fields.h"
 

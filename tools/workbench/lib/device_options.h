@@ -3,7 +3,7 @@
 #ifndef WORKBENCH_LIB_DEVICE_OPTIONS_H
 #define WORKBENCH_LIB_DEVICE_OPTIONS_H
 
-#include "devcomm/bidi/device_status.h"
+#include "base/records.h"
 #include "workbench/lib/family_files.h"
 
 #include <vector>

@@ -2,7 +2,7 @@
 #ifndef WORKBENCH_LIB_DEVICE_RESOURCES_H
 #define WORKBENCH_LIB_DEVICE_RESOURCES_H
 
-#include "devcomm/queries/printer_queries.h"
+#include "base/records.h"
 #include "workbench/lib/family_files.h"
 
 #include <array>
@@ -11,7 +11,7 @@
 using Supplies = std::vector<MrkSupRequestItem>; // in the order of the module's list
 using StoredResources = std::vector<StoredResourceEntry>;
 using StoredProfiles =
-    std::array<StoredResources, kProfileSelectors>; // RGB sources, simulations, destinations
+    std::array<StoredResources, TELMAR_PROFILE_SELECTORS>; // RGB sources, simulations, destinations
 
 // All throw Failure when the printer can't be asked. Storages are 0 and 1.
 Supplies AskSupplies(const FamilyFiles& family, const std::string& agent);

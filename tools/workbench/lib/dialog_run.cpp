@@ -91,7 +91,7 @@ BOOL CALLBACK FindOpened(HWND window, LPARAM /*parameter*/) {
 
 // The property sheet, whose page has the button.
 LRESULT CALLBACK SheetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == kTraysChangedMessage)
+    if (message == TELMAR_WM_TRAYS_CHANGED)
         running->isPageTold = true;
     return DefWindowProcW(window, message, wParam, lParam);
 }
@@ -107,7 +107,7 @@ INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
     int32_t handled = 0;
     if (run.use.owner != nullptr)
         EnableWindow(run.use.owner, FALSE); // the dialog itself sees to `sheet` only
-    run.dialog.answer(kTrayButtonPage, page, WM_COMMAND, kTrayButton, 0, &handled);
+    run.dialog.answer(TELMAR_TRAY_BUTTON_PAGE, page, WM_COMMAND, TELMAR_TRAY_BUTTON, 0, &handled);
     const KeepLastError keep; // why no dialog has come
     if (run.use.owner != nullptr)
         EnableWindow(run.use.owner, TRUE);

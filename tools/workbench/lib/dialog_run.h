@@ -3,8 +3,8 @@
 #ifndef WORKBENCH_LIB_DIALOG_RUN_H
 #define WORKBENCH_LIB_DIALOG_RUN_H
 
+#include "base/records.h"
 #include "dialogs/shared/dialog_context.h"
-#include "frame/dlg_proc.h"
 #include "paramdata/device_table.h"
 #include "workbench/lib/dialog_script.h"
 #include "workbench/lib/dialog_view.h"

@@ -2,7 +2,7 @@
 #include "workbench/lib/dialog_script.h"
 
 #include "dialogs/color/color_dialog.h"
-#include "frame/dlg_proc.h"
+#include "telmar_d.h"
 #include "workbench/lib/dialog_view.h"
 #include "workbench/lib/input_file.h"
 
@@ -55,8 +55,8 @@ std::string TakeWord(std::string& text) {
 
 // The number that the text is; -1 when it is none.
 int Number(const std::string& text) {
-    constexpr size_t kMostDigits = 5;
-    const bool isNumber = !text.empty() && text.size() <= kMostDigits
+    constexpr size_t kMaxDigits = 5;
+    const bool isNumber = !text.empty() && text.size() <= kMaxDigits
                           && text.find_first_not_of("0123456789") == std::string::npos;
     return isNumber ? std::stoi(text) : -1;
 }
@@ -134,7 +134,7 @@ void TakeOnePicture(DialogScript& script, HWND dialog, const std::string& argume
 }
 
 void Refresh(DialogScript& /*script*/, HWND dialog, const std::string& /*argument*/) {
-    SendMessageW(dialog, kRefreshMessage, 0, 0);
+    SendMessageW(dialog, TELMAR_WM_REFRESH, 0, 0);
 }
 
 template <int kButton>

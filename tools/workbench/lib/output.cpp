@@ -12,8 +12,8 @@ std::wstring Wide(std::string_view text, UINT codePage) {
 }
 
 std::string Utf8(std::wstring_view text) {
-    constexpr size_t kMostBytesPerUnit = 3;
-    std::string utf8(text.size() * kMostBytesPerUnit, '\0');
+    constexpr size_t kMaxBytesPerUnit = 3;
+    std::string utf8(text.size() * kMaxBytesPerUnit, '\0');
     utf8.resize(static_cast<size_t>(WideCharToMultiByte(CP_UTF8, 0, text.data(),
                                                         static_cast<int>(text.size()), utf8.data(),
                                                         static_cast<int>(utf8.size()), nullptr, nullptr)));

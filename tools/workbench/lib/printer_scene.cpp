@@ -1,8 +1,8 @@
 // One picture of the printer: see the header.
 #include "workbench/lib/printer_scene.h"
 
+#include "base/records.h"
 #include "base/text.h"
-#include "picture/view/printer_view.h"
 
 void DrawScene(const FamilyFiles& family, const PrinterScene& scene, HDC to, SIZE size) {
     PrinterViewRequest request = {};

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr size_t kMostUnits = std::extent_v<decltype(ProfileEntry::name)> - 1; // UTF-16
+constexpr size_t kMaxUnits = std::extent_v<decltype(ProfileEntry::name)> - 1; // UTF-16
 
 constexpr struct {
     const char* name;
@@ -21,13 +21,13 @@ constexpr struct {
 };
 
 // Each throws when the value is of the wrong kind.
-void TakeText(const std::string& place, const Document& value, wchar_t (&text)[kMostUnits + 1]) {
+void TakeText(const std::string& place, const Document& value, wchar_t (&text)[kMaxUnits + 1]) {
     if (!value.IsText())
         throw Failure(kExitFailed, place + ": " + JsonForm(value) + " is no text");
     const std::wstring wide = Wide(value.Text());
-    if (wide.size() > kMostUnits)
+    if (wide.size() > kMaxUnits)
         throw Failure(kExitFailed, place + ": the text has " + std::to_string(wide.size())
-                                       + " UTF-16 units; shorten it to " + std::to_string(kMostUnits));
+                                       + " UTF-16 units; shorten it to " + std::to_string(kMaxUnits));
     CopyText(text, wide.c_str());
 }
 

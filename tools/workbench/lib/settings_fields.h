@@ -2,21 +2,23 @@
 #ifndef WORKBENCH_LIB_SETTINGS_FIELDS_H
 #define WORKBENCH_LIB_SETTINGS_FIELDS_H
 
-#include "base/rows.h"
-#include "paramdata/oem_devmode.h"
+#include "base/records.h"
 #include "workbench/lib/document.h"
+
+#include <string>
+#include <vector>
 
 // One field of the settings.
 struct SettingsField {
     const char* group;
-    const char* name;
+    std::string name;
     size_t offset;
     size_t bytes;
     Document (*show)(const void* at);
 };
 
 // Every field, in the order of the record within a group; the font table, which is none of them, follows.
-Rows<SettingsField> SettingsFields();
+const std::vector<SettingsField>& SettingsFields();
 
 Document ShowSetting(const SettingsField& field, const OemDevmode& settings);
 

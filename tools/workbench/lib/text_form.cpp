@@ -12,7 +12,7 @@ namespace {
 
 constexpr size_t kPageWidth = 128;
 constexpr size_t kLongTable = 24;  // more lines than this run side by side, if they are narrow enough
-constexpr size_t kMostNumbers = 5; // more numbers than this in one cell are only counted
+constexpr size_t kMaxNumbers = 5; // more numbers than this in one cell are only counted
 constexpr const char* kIndent = "  ";
 constexpr const char* kFieldGap = "  ";
 constexpr const char* kColumnGap = "     ";
@@ -55,7 +55,7 @@ std::string Cell(const Document& value) {
     if (value.IsNumber() || value.IsObject())
         return JsonForm(value);
     const Document::List& elements = value.Elements();
-    if (elements.size() > kMostNumbers && elements[0].IsNumber())
+    if (elements.size() > kMaxNumbers && elements[0].IsNumber())
         return "(" + std::to_string(elements.size()) + " numbers)";
     std::string text;
     for (const Document& element : elements)

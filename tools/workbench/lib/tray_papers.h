@@ -8,7 +8,7 @@
 
 #include <array>
 
-using TrayPapers = std::array<TrayPaperSetting, kTrayCount>;
+using TrayPapers = std::array<TrayPaperSetting, TELMAR_TRAY_COUNT>;
 
 // Of the model's trays nothing is known. They are in the order in which the dialogs list them.
 TrayPapers UnknownPapers(const FamilyFiles& family);

@@ -50,9 +50,9 @@ const char* OptionName(const char* key) {
 std::string Describe(const char* name, const MrkSupRequestItem& supply) {
     const auto value = static_cast<size_t>(supply.value); // beyond all levels where it is negative
     return std::string(name) + ": "
-           + (supply.state == kStatePercent ? std::to_string(supply.value) + " %"
-              : supply.state == kStateLevel && value < std::size(kLevels) ? kLevels[value]
-                                                                          : kNotTold);
+           + (supply.state == TELMAR_STATE_PERCENT ? std::to_string(supply.value) + " %"
+              : supply.state == TELMAR_STATE_LEVEL && value < std::size(kLevels) ? kLevels[value]
+                                                                                 : kNotTold);
 }
 
 class PrinterPage : public PropertyPage {
@@ -224,9 +224,9 @@ private:
         Send(ID_STORED, LB_RESETCONTENT);
         for (const StoredResources& overlays : state.report.overlays)
             AddStored("Overlay", overlays);
-        constexpr const char* kUses[kProfileSelectors] = {"RGB profile", "Simulation profile",
-                                                          "Output profile"};
-        for (size_t i = 0; i < kProfileSelectors; ++i)
+        constexpr const char* kUses[TELMAR_PROFILE_SELECTORS] = {"RGB profile", "Simulation profile",
+                                                                 "Output profile"};
+        for (size_t i = 0; i < TELMAR_PROFILE_SELECTORS; ++i)
             AddStored(kUses[i], state.report.profiles[i]);
     }
 
@@ -249,7 +249,7 @@ private:
         bar.right = bar.left + (place.right - place.left) * 2 / 5;
         place.left = bar.right + 6;
         FillRect(item.hDC, &bar, GetSysColorBrush(COLOR_BTNFACE));
-        if (supply.state == kStatePercent) {
+        if (supply.state == TELMAR_STATE_PERCENT) {
             RECT full = bar;
             full.right = bar.left + MulDiv(bar.right - bar.left, supply.value, 100);
             SetDCBrushColor(item.hDC, supply.color);

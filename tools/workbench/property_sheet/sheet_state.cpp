@@ -161,7 +161,7 @@ PrinterProfiles ProfilesOf(const SheetState& state) {
     PrinterProfiles profiles;
     std::vector<ProfileEntry>* const lists[] = {&profiles.rgbSources, &profiles.simulations,
                                                 &profiles.destinations};
-    for (size_t i = 0; i < kProfileSelectors; ++i)
+    for (size_t i = 0; i < TELMAR_PROFILE_SELECTORS; ++i)
         for (const StoredResourceEntry& stored : state.report.profiles[i])
             lists[i]->push_back(EntryOf(state, stored));
     return profiles;

@@ -2,7 +2,7 @@
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
 
-#include "picture/view/logo.h"
+#include "telmar_d.h"
 
 namespace {
 

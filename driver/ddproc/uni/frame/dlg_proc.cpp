@@ -1,5 +1,5 @@
 // Dispatch of the dialogs' messages, and the tray-settings button: see the header.
-#include "frame/dlg_proc.h"
+#include "base/records.h"
 
 #include "base/module_handles.h"
 #include "dialogs/color/color_descriptions.h"
@@ -12,19 +12,19 @@ namespace {
 void OpenTraySettings(HWND page, DialogContext* context) {
     SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(context));
     LoadUiModule();
-    const auto run = UiCallback<MyDialogBoxFunction>("MyDialogBox");
+    const auto run = UiCallback<TelmarMyDialogBox>("MyDialogBox");
     const TrayDialogEntry* tray = FindTrayDialog(SwitchValue(deviceTable, kSwitchDlgMediaType));
     if (run == nullptr || tray == nullptr)
         return;
     const INT_PTR end =
         run(ResourceModule(), page, tray->templateId, tray->procedure, reinterpret_cast<LPARAM>(context));
     if (end == IDOK)
-        SendMessageW(GetParent(page), kTraysChangedMessage, reinterpret_cast<WPARAM>(page), 0);
+        SendMessageW(GetParent(page), TELMAR_WM_TRAYS_CHANGED, reinterpret_cast<WPARAM>(page), 0);
 }
 
 void RunTrayButton(HWND page, UINT message, WPARAM wParam) {
     auto* context = reinterpret_cast<DialogContext*>(GetWindowLongPtrW(page, DWLP_USER));
-    if (message == WM_COMMAND && context != nullptr && wParam == kTrayButton)
+    if (message == WM_COMMAND && context != nullptr && wParam == TELMAR_TRAY_BUTTON)
         OpenTraySettings(page, context);
 }
 
@@ -32,7 +32,7 @@ void RunTrayButton(HWND page, UINT message, WPARAM wParam) {
 
 int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                               int32_t* handled) {
-    if (dialogId == kTrayButtonPage)
+    if (dialogId == TELMAR_TRAY_BUTTON_PAGE)
         RunTrayButton(window, message, wParam);
     if (const ColorDialog* dialog = FindColorDialog(dialogId, SwitchValue(deviceTable, kSwitchColorSetting)))
         return RunColorDialog(*dialog, window, message, wParam, lParam, handled);

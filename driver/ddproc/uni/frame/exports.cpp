@@ -1,5 +1,5 @@
 // The export that the frame itself answers.
-#include "frame/exports.h"
+#include "base/records.h"
 
 void* WINAPI DDProc_FeatureNameItemTable() {
     return nullptr;

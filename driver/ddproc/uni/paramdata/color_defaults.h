@@ -2,7 +2,7 @@
 #ifndef PARAMDATA_COLOR_DEFAULTS_H
 #define PARAMDATA_COLOR_DEFAULTS_H
 
-#include "paramdata/oem_devmode.h"
+#include "base/records.h"
 
 struct PrmFile;
 

@@ -3,22 +3,11 @@
 #ifndef PARAMDATA_CONTROL_TEXTS_H
 #define PARAMDATA_CONTROL_TEXTS_H
 
+#include "base/records.h"
 #include <cstddef>
 #include <cstdint>
 
 struct PrmFile;
-
-#pragma pack(push, 1)
-// One row; a table ends at the first empty key.
-struct ControlTextRecord {
-    // A dialog's templates, or a control and four times 0; -1: a list-view column's title.
-    int32_t identifiers[5];
-    wchar_t display[48]; // empty until the file fills it
-    char key[32];
-};
-static_assert(sizeof(ControlTextRecord) == 148 && offsetof(ControlTextRecord, display) == 20
-              && offsetof(ControlTextRecord, key) == 116);
-#pragma pack(pop)
 
 // Each is filled from the entry of its name: "Property_0", "Dlg_ColorSetting", "Dlg_PaperSourceTraySetting".
 extern ControlTextRecord propertyTexts[17];

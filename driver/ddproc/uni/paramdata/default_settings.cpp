@@ -39,7 +39,7 @@ void ApplyPaper(const PrmFile& file, OemDevmode& settings) {
     settings.paperWidth = static_cast<int16_t>(paper.width);
     settings.paperLength = static_cast<int16_t>(paper.length);
     for (size_t i = 0; i < 4; ++i)
-        settings.paperMargins[i] = static_cast<uint16_t>(paper.set3[i]);
+        settings.paperMargins[i] = static_cast<uint16_t>(paper.margins[i]);
 }
 
 void ApplyOutputPaper(const PrmFile& file, OemDevmode& settings) {
@@ -244,7 +244,7 @@ void DeriveTrayPaper(const DeviceTable& table, OemDevmode& settings) {
     for (const InputSlotRecord& tray : Listed(table.inputTrays)) {
         if (IsAutomaticBin(tray.head.value))
             continue;
-        if (slot == kTrayPaperDefaultCount)
+        if (slot == TELMAR_TRAY_COUNT)
             return;
         TrayPaperDefault& paper = settings.trays[slot++];
         CopyText(paper.key, tray.head.key);

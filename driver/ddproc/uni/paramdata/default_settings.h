@@ -3,8 +3,8 @@
 #ifndef PARAMDATA_DEFAULT_SETTINGS_H
 #define PARAMDATA_DEFAULT_SETTINGS_H
 
+#include "base/records.h"
 #include "paramdata/device_table.h"
-#include "paramdata/oem_devmode.h"
 
 extern OemDevmode defaultSettings;
 

@@ -2,7 +2,7 @@
 #ifndef PARAMDATA_DEVMODE_FIELDS_H
 #define PARAMDATA_DEVMODE_FIELDS_H
 
-#include "paramdata/oem_devmode.h"
+#include "base/records.h"
 
 #include <cstring>
 

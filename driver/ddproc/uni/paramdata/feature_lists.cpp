@@ -94,9 +94,9 @@ void CopyFlagged(uint32_t flag, void* to, const void* from, size_t size) {
 void StoreUserPaper(const PrmPaper& from, DeviceTable& table) {
     const uint32_t size[] = {from.width, from.furtherSizes[0], from.length, from.furtherSizes[1]};
     memcpy(table.userPaperSize, size, sizeof(size));
-    CopyFlagged(from.flag3, table.userPaperMargins, from.set3, sizeof(from.set3));
-    CopyFlagged(from.flag4, table.userPaperSet4, from.set4, sizeof(from.set4));
-    CopyFlagged(from.flag5, table.userPaperSet5, from.set5, sizeof(from.set5));
+    CopyFlagged(from.hasMargins, table.userPaperMargins, from.margins, sizeof(from.margins));
+    CopyFlagged(from.hasGeometry4, table.userPaperGeometry4, from.geometry4, sizeof(from.geometry4));
+    CopyFlagged(from.hasGeometry5, table.userPaperGeometry5, from.geometry5, sizeof(from.geometry5));
 }
 
 void Fill(const Item& item, const PrmPaper& from, PaperSizeRecord& to) {
@@ -105,16 +105,16 @@ void Fill(const Item& item, const PrmPaper& from, PaperSizeRecord& to) {
     CopyText(to.text, from.text);
     to.width = from.width;
     to.length = from.length;
-    to.flag1 = from.flag1;
-    CopyFlagged(from.flag1, to.set1, from.set1, sizeof(from.set1));
-    to.flag2 = from.flag2;
-    CopyFlagged(from.flag2, to.set2, from.set2, sizeof(from.set2));
-    CopyFlagged(from.flag3, to.set3, from.set3, sizeof(from.set3));
-    CopyFlagged(from.flag4, to.set4, from.set4, sizeof(from.set4));
-    CopyFlagged(from.flag5, to.set5, from.set5, sizeof(from.set5));
-    to.flag3 = from.flag3;
-    to.flag4 = from.flag4;
-    to.flag5 = from.flag5;
+    to.hasGeometry1 = from.hasGeometry1;
+    CopyFlagged(from.hasGeometry1, to.geometry1, from.geometry1, sizeof(from.geometry1));
+    to.hasGeometry2 = from.hasGeometry2;
+    CopyFlagged(from.hasGeometry2, to.geometry2, from.geometry2, sizeof(from.geometry2));
+    CopyFlagged(from.hasMargins, to.margins, from.margins, sizeof(from.margins));
+    CopyFlagged(from.hasGeometry4, to.geometry4, from.geometry4, sizeof(from.geometry4));
+    CopyFlagged(from.hasGeometry5, to.geometry5, from.geometry5, sizeof(from.geometry5));
+    to.hasMargins = from.hasMargins;
+    to.hasGeometry4 = from.hasGeometry4;
+    to.hasGeometry5 = from.hasGeometry5;
     memcpy(to.values, from.values, sizeof(to.values));
     CopyText(to.shortName, from.shortName);
     memcpy(to.longValues, from.longValues, sizeof(to.longValues));

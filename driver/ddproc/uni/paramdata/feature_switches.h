@@ -128,6 +128,6 @@ enum FeatureSwitch : size_t {
 };
 static_assert(kSwitchColorSetting == 11 && kSwitchDlgMediaType == 83);
 
-constexpr unsigned kMostSwitchType = 255; // "TYPE%d" is looked for from 1 to this number
+constexpr unsigned kMaxSwitchType = 255; // "TYPE%d" is looked for from 1 to this number
 
 #endif

@@ -3,8 +3,8 @@
 #ifndef PARAMDATA_FONT_TABLE_H
 #define PARAMDATA_FONT_TABLE_H
 
+#include "base/records.h"
 #include "base/text.h"
-#include "paramdata/oem_devmode.h"
 
 struct FontSubstitution {
     const char* trueTypeName; // 8-bit; the Japanese names in code page 932
@@ -28,7 +28,7 @@ inline constexpr FontSubstitution kFontSubstitutions[] = {
 
 // Clears the table's fields and fills a slot for each row above.
 constexpr void FillFontTable(OemDevmode& settings) {
-    for (size_t i = 0; i < kFontSlotCount; ++i) {
+    for (size_t i = 0; i < TELMAR_FONT_COUNT; ++i) {
         for (size_t at = 0; at < sizeof(settings.trueTypeNames[i]); ++at)
             settings.trueTypeNames[i][at] = settings.printerFonts[i][at] = 0;
         settings.fontChecksums[i] = 0;

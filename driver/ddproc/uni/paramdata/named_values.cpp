@@ -29,7 +29,7 @@ void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     }
 }
 
-// The number n, 1 to kMostSwitchType, of a value "TYPEn"; 1 for any other value. Leading zeros don't count as
+// The number n, 1 to kMaxSwitchType, of a value "TYPEn"; 1 for any other value. Leading zeros don't count as
 // "TYPEn".
 uint32_t SwitchType(const char* value) {
     constexpr size_t kPrefix = 4;
@@ -40,7 +40,7 @@ uint32_t SwitchType(const char* value) {
         if (!IsDigit(*digit))
             return 1;
         number = number * 10 + static_cast<uint32_t>(*digit - '0');
-        if (number > kMostSwitchType)
+        if (number > kMaxSwitchType)
             return 1;
     }
     return number;

@@ -2,7 +2,8 @@
 #ifndef PARAMDATA_NAMED_VALUES_H
 #define PARAMDATA_NAMED_VALUES_H
 
-struct DeviceTable;
+#include "base/records.h"
+
 struct PrmFile;
 
 // "FeatureSetting": the feature switches.

@@ -119,17 +119,17 @@ struct PrmPaper {
     uint32_t width; // tenths of a millimetre, as the length
     uint32_t length;
     uint32_t furtherSizes[2];
-    uint32_t flag1;
-    uint8_t set1[72];
+    uint32_t hasGeometry1;
+    uint8_t geometry1[72];
     uint8_t unread3[8];
-    uint32_t flag2;
-    uint32_t set2[2];
-    uint32_t set3[4]; // margins
-    uint8_t set4[120];
-    uint32_t set5[4];
-    uint32_t flag3;
-    uint32_t flag4;
-    uint32_t flag5;
+    uint32_t hasGeometry2;
+    uint32_t geometry2[2];
+    uint32_t margins[4];
+    uint8_t geometry4[120];
+    uint32_t geometry5[4];
+    uint32_t hasMargins;
+    uint32_t hasGeometry4;
+    uint32_t hasGeometry5;
     uint8_t unread4[8];
     uint32_t secondDisplay; // offset of a UTF-16 text
     char text[128];
@@ -140,11 +140,11 @@ struct PrmPaper {
 };
 static_assert(sizeof(PrmPaper) == 620 && offsetof(PrmPaper, value) == 16 && offsetof(PrmPaper, width) == 24
               && offsetof(PrmPaper, length) == 28 && offsetof(PrmPaper, furtherSizes) == 32
-              && offsetof(PrmPaper, flag1) == 40 && offsetof(PrmPaper, set1) == 44
-              && offsetof(PrmPaper, flag2) == 124 && offsetof(PrmPaper, set2) == 128
-              && offsetof(PrmPaper, set3) == 136 && offsetof(PrmPaper, set4) == 152
-              && offsetof(PrmPaper, set5) == 272 && offsetof(PrmPaper, flag3) == 288
-              && offsetof(PrmPaper, flag4) == 292 && offsetof(PrmPaper, flag5) == 296
+              && offsetof(PrmPaper, hasGeometry1) == 40 && offsetof(PrmPaper, geometry1) == 44
+              && offsetof(PrmPaper, hasGeometry2) == 124 && offsetof(PrmPaper, geometry2) == 128
+              && offsetof(PrmPaper, margins) == 136 && offsetof(PrmPaper, geometry4) == 152
+              && offsetof(PrmPaper, geometry5) == 272 && offsetof(PrmPaper, hasMargins) == 288
+              && offsetof(PrmPaper, hasGeometry4) == 292 && offsetof(PrmPaper, hasGeometry5) == 296
               && offsetof(PrmPaper, secondDisplay) == 308 && offsetof(PrmPaper, text) == 312
               && offsetof(PrmPaper, values) == 440 && offsetof(PrmPaper, shortName) == 448
               && offsetof(PrmPaper, longValues) == 480 && offsetof(PrmPaper, longText) == 492);

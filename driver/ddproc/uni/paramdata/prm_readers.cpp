@@ -98,8 +98,8 @@ bool PrmGetItemText(const PrmFile& file, const char* entry, const char* itemKey,
     if (!PrmFindItems(file, entry, items))
         return false;
     PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
-        constexpr size_t kMostKeyBytes = 127;
-        if (TextLength(key) > kMostKeyBytes || !SameText(key, itemKey))
+        constexpr size_t kMaxKeyBytes = 127;
+        if (TextLength(key) > kMaxKeyBytes || !SameText(key, itemKey))
             return true;
         PrmWideText display = {};
         PrmReadWideString(file, item.display, display);

@@ -9,7 +9,7 @@ namespace {
 
 // Rows beyond this many keep their names: each item is held against every row, and no device has so many
 // trays.
-constexpr uint32_t kMostNamedRows = 64;
+constexpr uint32_t kMaxNamedRows = 64;
 
 uint32_t CountTrays(const InputSlotRecord* trays) {
     uint32_t count = 0;
@@ -44,7 +44,7 @@ void BuildTrayRows(PrmFile& file, DeviceTable& table) {
     }
     rows[count].head.size = sizeof(TrayRowRecord);
 
-    const uint32_t named = count < kMostNamedRows ? count : kMostNamedRows;
+    const uint32_t named = count < kMaxNamedRows ? count : kMaxNamedRows;
     PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
         for (TrayRowRecord* row = rows; row < rows + named; ++row) {
             if (!EndsIn(key, row->head.key))

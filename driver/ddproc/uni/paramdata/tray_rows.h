@@ -2,7 +2,8 @@
 #ifndef PARAMDATA_TRAY_ROWS_H
 #define PARAMDATA_TRAY_ROWS_H
 
-struct DeviceTable;
+#include "base/records.h"
+
 struct PrmFile;
 
 // Builds the tray rows from the input tray list; "MediaTypeList_Tray" gives them their keys and display

@@ -26,8 +26,8 @@ HWND trayHintToolWindow;
 struct TrayDialog {
     Rows<MediaTypeList> attributes;
     const HelpId* helpIds;
-    WNDPROC listProcedure;              // the list view's own; null when it has not been replaced
-    TrayPaperSetting saved[kTrayCount]; // as at opening
+    WNDPROC listProcedure;                     // the list view's own; null when it has not been replaced
+    TrayPaperSetting saved[TELMAR_TRAY_COUNT]; // as at opening
 };
 
 HWND ListOf(HWND window) {
@@ -121,7 +121,7 @@ void HideControls(const TrayDialog& dialog, HWND window) {
 
 // The list's small images, out of the user-interface module.
 void SetOrientationIcons(HWND window) {
-    const auto instanceOf = UiCallback<GetImgResInstFunction>("GetImgResInst");
+    const auto instanceOf = UiCallback<TelmarGetImgResInst>("GetImgResInst");
     if (instanceOf == nullptr)
         return;
     const HINSTANCE instance = instanceOf();
@@ -193,7 +193,7 @@ void OnChange(const TrayDialog& dialog, HWND window, MediaTypeList attribute) {
 // Puts the attributes of the kind back, but not the sources that the list has given the records.
 void RestoreTrays(const TrayDialog& dialog, HWND window) {
     TrayPaperSetting* trays = GetTraySettings(ContextOf(window));
-    for (size_t i = 0; trays != nullptr && i < kTrayCount; ++i)
+    for (size_t i = 0; trays != nullptr && i < TELMAR_TRAY_COUNT; ++i)
         for (const MediaTypeList attribute : dialog.attributes)
             StoreAttribute(trays[i], trayAttributes[attribute],
                            LoadAttribute(dialog.saved[i], trayAttributes[attribute]));

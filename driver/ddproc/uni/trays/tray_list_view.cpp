@@ -71,7 +71,7 @@ void InsertColumn(ColumnsSoFar& columns, MediaTypeColumn& column, bool takesRest
 
 // The names of the trays that are listed.
 struct TrayNames {
-    wchar_t names[kTrayCount][kNameCapacity];
+    wchar_t names[TELMAR_TRAY_COUNT][kNameCapacity];
     size_t count;
 };
 
@@ -80,7 +80,7 @@ void TakeSources(TrayNames& trays, TrayPaperSetting* records) {
     for (const InputSlotRecord& source : Listed(deviceTable != nullptr ? deviceTable->inputTrays : nullptr)) {
         if (IsAutomaticBin(source.head.value))
             continue;
-        if (trays.count == kTrayCount)
+        if (trays.count == TELMAR_TRAY_COUNT)
             return;
         CopyText(trays.names[trays.count], source.display);
         TrayPaperSetting& record = records[trays.count++];
@@ -280,7 +280,7 @@ TrayPaperSetting* TrayOfRow(HWND dialog, const DialogContext* context, int row) 
     item.mask = LVIF_PARAM;
     item.iItem = row;
     if (records == nullptr || row < 0 || !Send(ListOf(dialog), LVM_GETITEMW, 0, &item)
-        || static_cast<size_t>(item.lParam) >= kTrayCount)
+        || static_cast<size_t>(item.lParam) >= TELMAR_TRAY_COUNT)
         return nullptr;
     return &records[item.lParam];
 }

@@ -6,28 +6,6 @@
 #include "paramdata/device_table.h"
 #include "trays/media_type_lists.h"
 
-#pragma pack(push, 1)
-// One tray's record; the user-interface module owns ten of them and reads the same layout. The values are
-// those of the media type lists, -1 stands for "unknown".
-struct TrayPaperSetting {
-    char key[32]; // of the paper source; this and its bin number are rewritten with the list of trays
-    uint32_t bin;
-    int16_t size;
-    int16_t orientation; // 1 portrait, 2 landscape
-    int16_t type;
-    int16_t weight;
-    int16_t color;
-    int8_t hole;
-    uint8_t unused;
-};
-#pragma pack(pop)
-static_assert(sizeof(TrayPaperSetting) == 48 && offsetof(TrayPaperSetting, bin) == 32
-              && offsetof(TrayPaperSetting, size) == 36 && offsetof(TrayPaperSetting, orientation) == 38
-              && offsetof(TrayPaperSetting, type) == 40 && offsetof(TrayPaperSetting, weight) == 42
-              && offsetof(TrayPaperSetting, color) == 44 && offsetof(TrayPaperSetting, hole) == 46
-              && offsetof(TrayPaperSetting, unused) == 47);
-constexpr size_t kTrayCount = 10;
-
 // An attribute; its column of the tray list is the one behind its position.
 struct TrayAttribute {
     uint16_t comboBox;

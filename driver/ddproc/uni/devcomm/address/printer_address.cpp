@@ -1,6 +1,6 @@
 // The network address of a printer: see the header. One function for each step: the record, the queue's port,
 // the port monitor's transceiver, the registry. Each closes what it has opened.
-#include "devcomm/address/printer_address.h"
+#include "base/records.h"
 
 #include "base/entry_point.h"
 #include "base/scope_guard.h"

@@ -1,5 +1,5 @@
 // The exports of the bidirectional path: see the header.
-#include "devcomm/bidi/device_status.h"
+#include "base/records.h"
 
 #include "base/scope_guard.h"
 #include "base/text.h"

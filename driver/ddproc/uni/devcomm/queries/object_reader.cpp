@@ -36,7 +36,7 @@ struct ObjectReply {
 
 // Arcs of the table's OID with the suffix behind; the text is cut to its field.
 bool ToOid(const char* oid, const char* suffix, AsnObjectIdentifier& converted) {
-    QueryText text;
+    char text[256];
     CopyText(text, oid);
     AppendText(text, suffix);
     return snmpEntryPoints.snmpMgrStrToOid(text, &converted) != FALSE;
@@ -136,13 +136,13 @@ bool Matches(const ObjectReply& reply, int32_t comparison, const char* expected)
     int32_t number = 0;
     char text[256];
     switch (comparison) {
-    case kCompareExists:
+    case TELMAR_COMPARE_EXISTS:
         return reply.errorStatus == 0;
-    case kCompareNumber:
+    case TELMAR_COMPARE_NUMBER:
         return NumberOf(value, number) && static_cast<uint32_t>(number) == ParseDecimal(expected);
-    case kCompareText:
+    case TELMAR_COMPARE_TEXT:
         return TextOf(value, text) && strcmp(text, expected) == 0;
-    case kCompareOid:
+    case TELMAR_COMPARE_OID:
         return value != nullptr && value->asnType == ASN_OBJECTIDENTIFIER
                && IsSameOid(value->asnValue.object, expected);
     default:

@@ -4,8 +4,8 @@
 #ifndef DEVCOMM_QUERIES_OBJECT_READER_H
 #define DEVCOMM_QUERIES_OBJECT_READER_H
 
+#include "base/records.h"
 #include "devcomm/model.h"
-#include "devcomm/queries/query_tables.h"
 #include "devcomm/snmp/snmp_entry_points.h"
 
 // False, with last error 87.

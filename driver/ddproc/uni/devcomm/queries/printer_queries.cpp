@@ -1,5 +1,5 @@
 // Printer queries that answer item by item: access, model, options, supplies. See the header.
-#include "devcomm/queries/printer_queries.h"
+#include "base/records.h"
 
 #include "base/scope_guard.h"
 #include "base/text.h"
@@ -58,10 +58,10 @@ bool Percentage(int32_t level, int32_t capacity, int32_t& percentage) {
 
 int32_t LevelOf(int32_t level, bool fillsUp) {
     if (level == 0)
-        return fillsUp ? kLevelFull : kLevelEmpty;
+        return fillsUp ? TELMAR_LEVEL_FULL : TELMAR_LEVEL_EMPTY;
     if (level == 1)
-        return fillsUp ? kLevelNearlyFull : kLevelNearlyEmpty;
-    return level > 1 || level == kSomeLeft ? kLevelInOrder : kLevelNotTold;
+        return fillsUp ? TELMAR_LEVEL_NEARLY_FULL : TELMAR_LEVEL_NEARLY_EMPTY;
+    return level > 1 || level == kSomeLeft ? TELMAR_LEVEL_IN_ORDER : TELMAR_LEVEL_UNKNOWN;
 }
 
 bool ReadSupply(SnmpSession session, const MrkSupItem& supply, int32_t& capacity, int32_t& level) {
@@ -79,17 +79,17 @@ void AskSupply(SnmpSession session, const MrkSupItem& supply, MrkSupRequestItem&
     int32_t capacity = 0;
     int32_t level = 0;
     int32_t percentage = 0;
-    if (supply.kind == kSupplyFixed)
-        item.state = kStateFixed;
-    if (supply.kind == kSupplyFixed || supply.kind == kSupplyNone
+    if (supply.kind == TELMAR_SUPPLY_FIXED)
+        item.state = TELMAR_STATE_FIXED;
+    if (supply.kind == TELMAR_SUPPLY_FIXED || supply.kind == TELMAR_SUPPLY_NONE
         || !ReadSupply(session, supply, capacity, level))
         return;
-    if (supply.kind == kSupplyPercentage && Percentage(level, capacity, percentage)) {
-        item.state = kStatePercent;
+    if (supply.kind == TELMAR_SUPPLY_PERCENTAGE && Percentage(level, capacity, percentage)) {
+        item.state = TELMAR_STATE_PERCENT;
         item.value = percentage;
         item.color = supply.color;
-    } else if (supply.kind == kSupplyLevel) {
-        item.state = kStateLevel;
+    } else if (supply.kind == TELMAR_SUPPLY_LEVEL) {
+        item.state = TELMAR_STATE_LEVEL;
         item.value = LevelOf(level, supply.levelFlag != 0);
     }
 }
@@ -166,7 +166,7 @@ BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem*
         return FALSE;
     const KeepLastError keep; // whatever single items give
     for (DWORD i = 0; i < count; ++i) {
-        items[i].state = kStateUnknown;
+        items[i].state = TELMAR_STATE_UNKNOWN;
         items[i].value = 0;
         items[i].color = 0;
         const MrkSupItem* supply = FindSupply(items[i].name);

@@ -3,7 +3,7 @@
 #ifndef DEVCOMM_QUERIES_QUERY_CATALOGUE_H
 #define DEVCOMM_QUERIES_QUERY_CATALOGUE_H
 
-#include "devcomm/queries/query_tables.h"
+#include "base/records.h"
 
 #include <windows.h>
 

@@ -17,57 +17,57 @@ namespace {
 
 constexpr OptionValueRecord kMemory[] = {
     // answer         object            suffix  comparison       expected
-    {"128MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "128"},
-    {"256MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "256"},
-    {"384MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "384"},
-    {"512MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "512"},
-    {"640MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "640"},
-    {"768MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "768"},
-    {"896MB",           STORAGE_SIZE,     ".1",   kCompareNumber, "896"},
-    {"1024MB",          STORAGE_SIZE,     ".1",   kCompareNumber, "1024"},
+    {"128MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "128"},
+    {"256MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "256"},
+    {"384MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "384"},
+    {"512MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "512"},
+    {"640MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "640"},
+    {"768MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "768"},
+    {"896MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "896"},
+    {"1024MB",          STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "1024"},
 };
 constexpr OptionValueRecord kHardDisk[] = {
-    {"EnaOpHDD",        STORAGE_SIZE,     ".2",   kCompareExists, ""},
-    {"DisOpHDD",        "",               "",     kCompareExists, ""},
+    {"EnaOpHDD",        STORAGE_SIZE,     ".2",   TELMAR_COMPARE_EXISTS, ""},
+    {"DisOpHDD",        "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kManualFeed[] = {
-    {"EnaOpManualFeed", "",               "",     kCompareExists, ""},
+    {"EnaOpManualFeed", "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kInTray1[] = {
-    {"EnaOpInTray1",    INPUT_TYPE,       ".1.1", kCompareExists, ""},
-    {"DisOpInTray1",    "",               "",     kCompareExists, ""},
+    {"EnaOpInTray1",    INPUT_TYPE,       ".1.1", TELMAR_COMPARE_EXISTS, ""},
+    {"DisOpInTray1",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kInTray2[] = {
-    {"EnaOpInTray2",    INPUT_TYPE,       ".1.2", kCompareExists, ""},
-    {"DisOpInTray2",    "",               "",     kCompareExists, ""},
+    {"EnaOpInTray2",    INPUT_TYPE,       ".1.2", TELMAR_COMPARE_EXISTS, ""},
+    {"DisOpInTray2",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kInTray3[] = {
-    {"EnaOpInTray3",    INPUT_TYPE,       ".1.3", kCompareExists, ""},
-    {"DisOpInTray3",    "",               "",     kCompareExists, ""},
+    {"EnaOpInTray3",    INPUT_TYPE,       ".1.3", TELMAR_COMPARE_EXISTS, ""},
+    {"DisOpInTray3",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kInTray4[] = {
-    {"EnaOpInTray4",    INPUT_TYPE,       ".1.4", kCompareExists, ""},
-    {"DisOpInTray4",    "",               "",     kCompareExists, ""},
+    {"EnaOpInTray4",    INPUT_TYPE,       ".1.4", TELMAR_COMPARE_EXISTS, ""},
+    {"DisOpInTray4",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kInTray5[] = {
-    {"EnaOpInTray5",    INPUT_TYPE,       ".1.5", kCompareExists, ""},
-    {"DisOpInTray5",    "",               "",     kCompareExists, ""},
+    {"EnaOpInTray5",    INPUT_TYPE,       ".1.5", TELMAR_COMPARE_EXISTS, ""},
+    {"DisOpInTray5",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kOutTray1[] = {
-    {"DisOpOutTray1",   "",               "",     kCompareExists, ""},
+    {"DisOpOutTray1",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kOutTray2[] = {
-    {"DisOpOutTray2",   "",               "",     kCompareExists, ""},
+    {"DisOpOutTray2",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kOutTray3[] = {
-    {"DisOpOutTray3",   "",               "",     kCompareExists, ""},
+    {"DisOpOutTray3",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kOutTray4[] = {
-    {"DisOpOutTray4",   "",               "",     kCompareExists, ""},
+    {"DisOpOutTray4",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 constexpr OptionValueRecord kDuplex[] = {
-    {"EnaOpDuplex",     MEDIA_PATH_SPEED, ".1.2", kCompareExists, ""},
-    {"DisOpDuplex",     "",               "",     kCompareExists, ""},
+    {"EnaOpDuplex",     MEDIA_PATH_SPEED, ".1.2", TELMAR_COMPARE_EXISTS, ""},
+    {"DisOpDuplex",     "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
 
 constexpr OptionRecord kOptions[] = {
@@ -90,19 +90,19 @@ constexpr OptionRecord kOptions[] = {
 
 constexpr MrkSupItem kSupplies[] = {
     // name         kind               flag  level  suffix  colour
-    {"Consumable1",  kSupplyNone,       0,    0,     "",     0},
-    {"Consumable2",  kSupplyPercentage, 1,    0,     ".1.1", 0x00FFFF00}, // cyan
-    {"Consumable3",  kSupplyPercentage, 1,    0,     ".1.2", 0x00FF00FF}, // magenta
-    {"Consumable4",  kSupplyPercentage, 1,    0,     ".1.3", 0x0000FFFF}, // yellow
-    {"Consumable5",  kSupplyPercentage, 1,    0,     ".1.4", 0x00000000}, // black
-    {"Consumable6",  kSupplyFixed,      0,    0,     "",     0},
-    {"Consumable7",  kSupplyFixed,      1,    0,     "",     0},
-    {"Consumable8",  kSupplyFixed,      1,    0,     "",     0},
-    {"Consumable9",  kSupplyFixed,      1,    0,     "",     0},
-    {"Consumable10", kSupplyFixed,      1,    0,     "",     0},
-    {"Consumable11", kSupplyLevel,      0,    1,     ".1.8", 0},
-    {"Consumable12", kSupplyFixed,      0,    0,     "",     0},
-    {"",             kSupplyEnd,        0,    0,     "",     0},
+    {"Consumable1",  TELMAR_SUPPLY_NONE,       0,    0,     "",     0},
+    {"Consumable2",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.1", 0x00FFFF00}, // cyan
+    {"Consumable3",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.2", 0x00FF00FF}, // magenta
+    {"Consumable4",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.3", 0x0000FFFF}, // yellow
+    {"Consumable5",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.4", 0x00000000}, // black
+    {"Consumable6",  TELMAR_SUPPLY_FIXED,      0,    0,     "",     0},
+    {"Consumable7",  TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
+    {"Consumable8",  TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
+    {"Consumable9",  TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
+    {"Consumable10", TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
+    {"Consumable11", TELMAR_SUPPLY_LEVEL,      0,    1,     ".1.8", 0},
+    {"Consumable12", TELMAR_SUPPLY_FIXED,      0,    0,     "",     0},
+    {"",             TELMAR_SUPPLY_END,        0,    0,     "",     0},
 };
 
 // --- What the printer stores.

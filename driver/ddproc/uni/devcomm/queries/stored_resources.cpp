@@ -1,16 +1,16 @@
 // What printers store: the walks over their overlays and colour profiles, and the blocks handed to callers.
 // Declared in devcomm/queries/printer_queries.h.
+#include "base/records.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "devcomm/queries/object_reader.h"
-#include "devcomm/queries/printer_queries.h"
 #include "devcomm/queries/query_catalogue.h"
 
 #include <cstring>
 
 namespace {
 
-constexpr uint32_t kMostEntries = 32767;
+constexpr uint32_t kMaxEntries = 32767;
 constexpr uint32_t kFirstCapacity = 16;
 
 // An entry that a walk keeps, with a bit for each list that it belongs to.
@@ -55,7 +55,7 @@ enum class Step { kFailed, kEnd, kSkip, kKeep };
 // Visits the printer's entries from 1 on, until a step ends the walk. False when one failed.
 template <typename ReadEntry>
 bool Walk(FoundEntries& found, const ReadEntry& readEntry) {
-    for (uint32_t number = 1; number <= kMostEntries; ++number) {
+    for (uint32_t number = 1; number <= kMaxEntries; ++number) {
         ObjectSuffix suffix = {};
         AppendArc(suffix, number);
         FoundEntry entry = {};
@@ -113,7 +113,7 @@ Step ReadProfile(SnmpSession session, const char* suffix, FoundEntry& found) {
         return Step::kFailed;
     if (found.entry.second[0] == 0)
         return Step::kEnd;
-    for (uint32_t i = 0; i < kProfileSelectors; ++i) {
+    for (uint32_t i = 0; i < TELMAR_PROFILE_SELECTORS; ++i) {
         bool isSelected = false;
         if (!AskSelector(session, table.selectors[i], suffix, isSelected))
             return Step::kFailed;
@@ -186,7 +186,7 @@ ProfileInfo* WINAPI MIB_ProfileRequest(const char* agent) {
     const bool done = Walk(found, [&](const char* suffix, FoundEntry& entry) {
         return ReadProfile(session.handle, suffix, entry);
     });
-    return done ? reinterpret_cast<ProfileInfo*>(BuildBlock(found, kProfileSelectors)) : nullptr;
+    return done ? reinterpret_cast<ProfileInfo*>(BuildBlock(found, TELMAR_PROFILE_SELECTORS)) : nullptr;
 }
 
 void WINAPI MIB_FreeOverlayInfo(void* block) {

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr uint8_t kMostLengthOctets = 4;
+constexpr uint8_t kMaxLengthOctets = 4;
 
 size_t Left(const BerReader& reader) {
     return static_cast<size_t>(reader.end - reader.at);
@@ -26,7 +26,7 @@ size_t TakeLength(BerReader& reader) {
     if (first < kBerLongForm)
         return first;
     const uint8_t count = first - kBerLongForm;
-    if (count == 0 || count > kMostLengthOctets) // the indefinite form, or one that is too long
+    if (count == 0 || count > kMaxLengthOctets) // the indefinite form, or one that is too long
         Fail(reader);
     size_t length = 0;
     for (uint8_t i = 0; i < count && !reader.failed; ++i)

@@ -9,11 +9,11 @@
 
 namespace {
 
-constexpr uint32_t kMostShortLength = 0x7F;
+constexpr uint32_t kMaxShortLength = 0x7F;
 constexpr uint32_t kGroup = 0x7F;
 
 uint32_t LengthOctets(uint32_t contents) {
-    return contents <= kMostShortLength ? 0 : contents <= 0xFFFF ? 2 : contents <= 0xFFFFFF ? 3 : 4;
+    return contents <= kMaxShortLength ? 0 : contents <= 0xFFFF ? 2 : contents <= 0xFFFFFF ? 3 : 4;
 }
 
 uint32_t HeaderSize(uint32_t contents) {
@@ -22,7 +22,7 @@ uint32_t HeaderSize(uint32_t contents) {
 
 // Of an element that is there already.
 uint32_t HeaderSize(const BerBuffer& element) {
-    return element.octets[1] <= kMostShortLength ? 2 : 2u + (element.octets[1] & ~kBerLongForm);
+    return element.octets[1] <= kMaxShortLength ? 2 : 2u + (element.octets[1] & ~kBerLongForm);
 }
 
 void WriteLength(uint8_t* element, uint32_t contents) {

@@ -14,9 +14,9 @@ namespace {
 constexpr WORD kSocketsVersion = 0x0101; // 1.1
 constexpr u_short kAgentPort = 161;
 constexpr uint32_t kLastIdAtOpen = 256; // the first request takes the next
-constexpr int kMostSends = 5;
-constexpr int kMostPolls = 10000; // after each send
-constexpr int kMostDatagrams = 5; // of one request
+constexpr int kMaxSends = 5;
+constexpr int kMaxPolls = 10000; // after each send
+constexpr int kMaxDatagrams = 5; // of one request
 constexpr size_t kReceiveCapacity = 4096;
 
 // A receive waits only behind a datagram that was dropped. Without a limit one stray datagram could hold the
@@ -103,7 +103,7 @@ bool OpenSession(SnmpClientSession& session, const char* agent) {
 }
 
 bool SomethingWaits(SOCKET socket) {
-    for (int poll = 0; poll < kMostPolls; ++poll) {
+    for (int poll = 0; poll < kMaxPolls; ++poll) {
         u_long octets = 0;
         if (ioctlsocket(socket, static_cast<long>(FIONREAD), &octets) == 0 && octets != 0)
             return true;
@@ -113,7 +113,7 @@ bool SomethingWaits(SOCKET socket) {
 
 bool SendUntilAnswered(SOCKET socket, const BerBuffer& message) {
     const auto count = static_cast<int>(message.count);
-    for (int sends = 0; sends < kMostSends; ++sends) {
+    for (int sends = 0; sends < kMaxSends; ++sends) {
         if (send(socket, reinterpret_cast<const char*>(message.octets), count, 0) != count)
             return Fail(kSnmpTransferFailed);
         if (SomethingWaits(socket))
@@ -131,7 +131,7 @@ bool IsSameCommunity(const char* community, const BerReader& reply) {
 // The reply to the session's last request. What was received earlier is dropped, without a look at all of it.
 bool ReceiveReply(SnmpClientSession& session, AsnInteger32* errorStatus, AsnInteger32* errorIndex,
                   SnmpResult& result) {
-    for (int datagrams = 0; datagrams < kMostDatagrams; ++datagrams) {
+    for (int datagrams = 0; datagrams < kMaxDatagrams; ++datagrams) {
         const int count = recv(session.socket, reinterpret_cast<char*>(session.receiveBuffer),
                                sizeof(session.receiveBuffer), 0);
         if (count < 0)

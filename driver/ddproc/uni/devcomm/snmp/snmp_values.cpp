@@ -27,8 +27,8 @@ constexpr struct {
 };
 // clang-format on
 
-constexpr UINT kMostArcs = 128;
-constexpr int kMostArcDigits = 15;
+constexpr UINT kMaxArcs = 128;
+constexpr int kMaxArcDigits = 15;
 
 bool CopyOctets(const BerReader& contents, AsnOctetString& to) {
     const auto length = static_cast<UINT>(contents.end - contents.at);
@@ -50,16 +50,16 @@ bool CopyArcs(const UINT* arcs, UINT count, AsnObjectIdentifier& to) {
 }
 
 // The arc texts up to the end of the text; their count, or 0 when the text is none of an OID.
-UINT ParseArcs(const char* text, UINT (&arcs)[kMostArcs]) {
+UINT ParseArcs(const char* text, UINT (&arcs)[kMaxArcs]) {
     UINT count = 0;
     for (text += *text == '.' ? 1 : 0;; ++text) {
         uint64_t arc = 0;
         for (int digits = 0; IsDigit(*text); ++text) {
-            if (++digits > kMostArcDigits)
+            if (++digits > kMaxArcDigits)
                 return 0;
             arc = arc * 10 + static_cast<uint64_t>(*text - '0');
         }
-        if ((*text != '.' && *text != 0) || arc > UINT32_MAX || count == kMostArcs)
+        if ((*text != '.' && *text != 0) || arc > UINT32_MAX || count == kMaxArcs)
             return 0;
         arcs[count++] = static_cast<UINT>(arc);
         if (*text == 0)
@@ -88,8 +88,8 @@ BOOL SnmpDecodeValue(uint8_t typeCode, BerReader contents, AsnAny& value) {
         enoughMemory = contents.failed || CopyOctets(contents, decoded.asnValue.string);
         break;
     case SnmpForm::kArcs: {
-        UINT arcs[kMostArcs];
-        const UINT count = BerReadArcs(contents, arcs, kMostArcs);
+        UINT arcs[kMaxArcs];
+        const UINT count = BerReadArcs(contents, arcs, kMaxArcs);
         enoughMemory = contents.failed || CopyArcs(arcs, count, decoded.asnValue.object);
         break;
     }
@@ -148,7 +148,7 @@ void WINAPI ClientVarBindListFree(SnmpVarBindList* list) {
 BOOL WINAPI ClientStrToOid(const char* text, AsnObjectIdentifier* oid) {
     *oid = {};
     const KeepLastError keep;
-    UINT arcs[kMostArcs];
+    UINT arcs[kMaxArcs];
     const UINT count = ParseArcs(text, arcs);
     return count >= 2 && AreFirstArcs(arcs[0], arcs[1]) && CopyArcs(arcs, count, *oid);
 }

@@ -101,7 +101,7 @@ Answer OnInitDialog(const ColorDialog& description, HWND window, LPARAM paramete
         BindUiModule(window, dialog.Context(), {0, colorDialogTexts, &dialogState.hintToolWindow});
     CopySettings(GetDialogSaveArea(dialog.Context()), GetDialogSettings(dialog.Context()));
     Refresh(dialog);
-    const auto isInstalled = UiCallback<IsInstalledDLManagerFunction>("IsInstalledDLManager");
+    const auto isInstalled = UiCallback<TelmarIsInstalledDLManager>("IsInstalledDLManager");
     if (description.listsProfiles && isInstalled != nullptr && isInstalled() == 0)
         EnableDlgControl(window, kDownloadManagerButton, false);
     if (!IsSettingChangeAllowed(dialog.Context()))
@@ -234,7 +234,7 @@ Answer Run(const ColorDialog& description, HWND window, UINT message, WPARAM wPa
         return OnInitDialog(description, window, lParam);
     case WM_COMMAND:
         return OnCommand(dialog, wParam);
-    case kRefreshMessage:
+    case TELMAR_WM_REFRESH:
         return OnRefresh(dialog);
     case WM_ACTIVATE:
         return OnActivate(dialog, wParam);

@@ -60,7 +60,7 @@ void LocalizePaper(const DeviceTable* table) {
     defaultSettings.paperWidth = static_cast<int16_t>(paper->width);
     defaultSettings.paperLength = static_cast<int16_t>(paper->length);
     for (size_t i = 0; i < 4; ++i)
-        defaultSettings.paperMargins[i] = static_cast<uint16_t>(paper->set3[i]);
+        defaultSettings.paperMargins[i] = static_cast<uint16_t>(paper->margins[i]);
 }
 
 void LocalizeUnits() {

@@ -2,7 +2,7 @@
 #ifndef DIALOGS_SHARED_PROFILE_TEXT_H
 #define DIALOGS_SHARED_PROFILE_TEXT_H
 
-#include "paramdata/oem_devmode.h"
+#include "base/records.h"
 
 #include <windows.h>
 

@@ -2,6 +2,7 @@
 #include "dialogs/shared/ui_module.h"
 
 #include "base/module_handles.h"
+#include "paramdata/control_texts.h"
 
 DialogState dialogState;
 
@@ -50,16 +51,16 @@ void ReleaseUiModule() {
 
 void BindUiModule(HWND dialog, DialogContext* context, const UiBinding& binding) {
     FillStopIcons();
-    if (const auto replace = UiCallback<ReplaceDlgDispStringCmnItemFunction>("ReplaceDlgDispStringCmnItem"))
+    if (const auto replace = UiCallback<TelmarReplaceDlgDispStringCmnItem>("ReplaceDlgDispStringCmnItem"))
         replace(dialog, propertyTexts, binding.commonItemsId, context);
-    if (const auto replace = UiCallback<ReplaceDlgDispStringFunction>("ReplaceDlgDispString"))
+    if (const auto replace = UiCallback<TelmarReplaceDlgDispString>("ReplaceDlgDispString"))
         replace(dialog, binding.texts);
-    if (const auto create = UiCallback<CreateToolWndFunction>("CreateToolWnd"))
+    if (const auto create = UiCallback<TelmarCreateToolWnd>("CreateToolWnd"))
         *binding.hintWindow = create(dialog);
-    if (const auto store = UiCallback<StoreStopIconRectFunction>("StoreStopIconRect"))
+    if (const auto store = UiCallback<TelmarStoreStopIconRect>("StoreStopIconRect"))
         store(dialog, &stopIcons);
-    dialogState.doConstraintsEntry = UiCallback<DoConstraintsFunction>("DoConstraints");
-    dialogState.dispHintControlEntry = UiCallback<DispHintControlFunction>("DispHintControl");
+    dialogState.doConstraintsEntry = UiCallback<TelmarDoConstraints>("DoConstraints");
+    dialogState.dispHintControlEntry = UiCallback<TelmarDispHintControl>("DispHintControl");
     CheckSettings(dialog, context);
 }
 
@@ -72,7 +73,7 @@ bool IsChangeRefused(HWND dialog, HWND hintWindow, uint32_t control) {
     if (dialogState.uiModule == nullptr || dialogState.doConstraintsEntry == nullptr)
         return false;
     const int32_t result = dialogState.doConstraintsEntry(nullptr, dialog, hintWindow, control, -1, nullptr);
-    return result == kChangeRefused || result == kChangeRefusedToo;
+    return result == TELMAR_CHANGE_REFUSED || result == TELMAR_CHANGE_REFUSED_ALSO;
 }
 
 void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId) {
@@ -88,7 +89,7 @@ uint16_t ControlBesideIcon(uint32_t iconControl) {
 }
 
 bool DrawIconControl(HWND dialog, uint32_t control, const DRAWITEMSTRUCT& item) {
-    const auto draw = UiCallback<ReqDrawStopInfoIconFunction>("ReqDrawStopInfoIcon");
+    const auto draw = UiCallback<TelmarReqDrawStopInfoIcon>("ReqDrawStopInfoIcon");
     if (draw != nullptr)
         draw(dialog, control, &item, &stopIcons);
     return draw != nullptr;

@@ -4,12 +4,12 @@
 #define DIALOGS_SHARED_UI_MODULE_H
 
 #include "base/entry_point.h"
-#include "dialogs/shared/ui_callbacks.h"
+#include "base/records.h"
 
 struct DialogState {
-    HMODULE uiModule;                          // TELMAR_U.DLL; null when it is not loaded
-    DoConstraintsFunction* doConstraintsEntry; // both only used while the module is loaded
-    DispHintControlFunction* dispHintControlEntry;
+    HMODULE uiModule;                        // TELMAR_U.DLL; null when it is not loaded
+    TelmarDoConstraints* doConstraintsEntry; // both only used while the module is loaded
+    TelmarDispHintControl* dispHintControlEntry;
     HWND hintToolWindow; // of the colour dialogs
     uint32_t currentDialogId;
 };

@@ -1,13 +1,13 @@
-// Device capabilities: see the header. Everything is worked out from the caller's tables on each call.
-#include "picture/capabilities/device_capabilities.h"
-
+// DDProc_DeviceCapabilities: what the system asks and this module answers. Everything is worked out from the caller's
+// tables on each call.
 #include "base/text.h"
+#include "picture/capabilities/feature_table.h"
 
 #include <cstring>
 
 namespace {
 
-using BinName = wchar_t[kBinNameCharacters];
+using BinName = wchar_t[TELMAR_BIN_NAME_LENGTH];
 
 // A paper source without an option feature is always there; one that has such a feature when the option is
 // installed.

@@ -5,19 +5,6 @@
 
 #include "paramdata/device_table.h"
 
-#pragma pack(push, 1)
-// One printing feature: fields as an ItemRecord's, then its items. A feature table ends at the first empty
-// key.
-struct FeatureRecord {
-    ItemRecord feature;
-    const ItemRecord* items; // ends at the first empty key
-};
-static_assert(sizeof(FeatureRecord) == 152 && offsetof(FeatureRecord, items) == 144);
-#pragma pack(pop)
-
-// The caller's choices: for each feature, by position, the position of the selected item.
-using FeatureSettings = int32_t;
-
 // Position of the first feature with this key (ASCII case ignored), -1 when there is none.
 int32_t FindFeature(const FeatureRecord* features, const char* key);
 

@@ -5,13 +5,13 @@
 
 namespace {
 
-constexpr size_t kMostItems = 4;
+constexpr size_t kMaxItems = 4;
 
 // The field that a feature decides, and its items in the order of their numbers.
 constexpr struct {
     const char* feature;
     int32_t OptionSummary::*field;
-    const char* items[kMostItems];
+    const char* items[kMaxItems];
 } kOptions[] = {
     {"OpBody", &OptionSummary::bodyPrinter, {"OpBodyPrinter"}},
     {"OpInTrayUnit", &OptionSummary::inputUnit, {"OpInTrayUnit1"}},
@@ -23,10 +23,10 @@ constexpr struct {
     {"OpSaddleKit", &OptionSummary::saddleKit, {"EnaSaddleKit"}},
 };
 
-int32_t NumberOf(const ItemRecord* item, const char* const (&items)[kMostItems]) {
+int32_t NumberOf(const ItemRecord* item, const char* const (&items)[kMaxItems]) {
     if (item == nullptr)
         return 0;
-    for (size_t i = 0; i < kMostItems && items[i] != nullptr; ++i)
+    for (size_t i = 0; i < kMaxItems && items[i] != nullptr; ++i)
         if (SameText(item->head.key, items[i]))
             return static_cast<int32_t>(i + 1);
     return 0;

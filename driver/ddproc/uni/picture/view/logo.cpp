@@ -1,5 +1,5 @@
 // The logo: see the header. Nothing survives a call but the moved control.
-#include "picture/view/logo.h"
+#include "base/records.h"
 
 #include "picture/view/bitmaps.h"
 

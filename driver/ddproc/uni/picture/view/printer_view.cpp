@@ -1,6 +1,6 @@
 // The printer's picture: see the header. Which bitmaps are drawn when, and in which order, is in
 // view_rules.cpp.
-#include "picture/view/printer_view.h"
+#include "base/records.h"
 
 #include "base/text.h"
 #include "picture/view/bitmaps.h"

@@ -2,8 +2,8 @@
 #ifndef PICTURE_VIEW_VIEW_RULES_H
 #define PICTURE_VIEW_VIEW_RULES_H
 
+#include "base/records.h"
 #include "picture/capabilities/option_summary.h"
-#include "picture/view/view_request.h"
 
 // Resource ids in the order of drawing; what comes later lies over what came earlier.
 struct ViewBitmaps {
