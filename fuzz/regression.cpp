@@ -12,8 +12,8 @@ namespace {
 
 using Bytes = std::vector<uint8_t>;
 
-constexpr size_t kSmall = 8192;    // bytes of the largest file whose fields are all replaced
-constexpr size_t kMessage = 256;   // of the largest whose octets are
+constexpr size_t kSmall = 8192;   // bytes of the largest file whose fields are all replaced
+constexpr size_t kMessage = 256;  // of the largest whose octets are
 constexpr size_t kMaxCuts = 1024; // of one file
 
 void Run(const Bytes& bytes) {

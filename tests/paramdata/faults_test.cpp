@@ -59,13 +59,14 @@ std::string Transcript(const PrmFile& file, uint32_t size) {
              << '\n';
     for (uint32_t offset = 0; offset < size + 100; offset += 7) {
         PrmPaper record = {};
-        uint32_t dword = 0, range[3] = {};
+        uint32_t dword = 0, delivered = 0, range[3] = {};
         PrmText text = {};
         PrmWideText wide = {};
-        said << PrmReadRecord620(file, offset, record) << PrmReadDword(file, offset, dword)
+        said << PrmReadRecord(file, offset, record) << PrmReadRecord(file, offset, dword)
              << PrmReadString(file, offset, text) << PrmReadWideString(file, offset, wide)
-             << PrmReadRange(file, offset, range) << PrmRead(file, &record, 50, offset) << dword << text
-             << range[0] << std::string(reinterpret_cast<char*>(&record), sizeof(record)) << '\n';
+             << PrmReadRange(file, offset, range) << PrmRead(file, &record, 50, offset, delivered)
+             << delivered << dword << text << range[0]
+             << std::string(reinterpret_cast<char*>(&record), sizeof(record)) << '\n';
     }
     return said.str();
 }
@@ -104,25 +105,22 @@ TEST_F(FaultsTest, FailedReadsAndSeeksWithoutImage) {
     win32::FailAllocations(2);
     OpenedImage file(image);
     PrmText text = {};
-    PrmEntry entry = {};
-    uint32_t dword = 0;
+    uint32_t value = 0, delivered = 77;
     win32::SetFileFaults({1});
-    EXPECT_EQ(PrmRead(*file, &dword, 4, 8), -1);
+    EXPECT_FALSE(PrmRead(*file, &value, 4, 8, delivered));
     win32::SetFileFaults({1});
-    EXPECT_FALSE(PrmReadDword(*file, 8, dword));
+    EXPECT_FALSE(PrmReadRecord(*file, 8, value));
     win32::SetFileFaults({1});
     EXPECT_FALSE(PrmReadString(*file, 8, text));
-    win32::SetFileFaults({1});
-    EXPECT_FALSE(PrmReadEntry(*file, 8, entry));
-    win32::SetFileFaults({0, 0, false, true}); // a seek that fails delivers nothing, no failure to some
-    EXPECT_EQ(PrmRead(*file, &dword, 4, 8), 0);
-    EXPECT_TRUE(PrmReadDword(*file, 8, dword));
+    win32::SetFileFaults({0, 0, false, true}); // a failed seek reads nothing, and is no failure of the text
+    EXPECT_TRUE(PrmRead(*file, &value, 4, 8, delivered));
+    EXPECT_EQ(delivered, 0u);
+    EXPECT_FALSE(PrmReadRecord(*file, 8, value));
     EXPECT_TRUE(PrmReadString(*file, 8, text));
-    EXPECT_FALSE(PrmReadEntry(*file, 8, entry));
     EXPECT_EQ(PrmFindEntry(*file, "First"), 0u);
     win32::SetFileFaults({});
     for (const uint64_t offset : {0x80000000u, 0xFFFFFFFFu}) // no distance below 0
-        EXPECT_EQ(PrmRead(*file, &dword, 4, offset), 0) << offset;
+        EXPECT_TRUE(PrmRead(*file, &value, 4, offset, delivered) && delivered == 0) << offset;
 }
 
 std::set<size_t> MissingLists(const DeviceTable* table) {

@@ -67,7 +67,7 @@ std::optional<std::string> PrmBytes::ReadKey(uint64_t linkAt) {
     if (!CheckTextOffset(linkAt, "key"))
         return {};
     const uint64_t at = Read32(linkAt);
-    const std::string_view text = bytes.substr(at, kPrmMostTextBytes + 1);
+    const std::string_view text = bytes.substr(at, kPrmMaxTextBytes + 1);
     const size_t length = text.find('\0');
     if (length == std::string_view::npos) {
         Fault(linkAt, "the key at " + Hex(at) + " has no terminator");
@@ -83,7 +83,7 @@ std::optional<std::string> PrmBytes::ReadName(uint64_t linkAt) {
     const uint64_t at = Read32(linkAt);
     std::u16string text;
     for (uint64_t unitAt = at;; unitAt += 2) {
-        if (unitAt + 2 > bytes.size() || text.size() > kPrmMostTextChars) {
+        if (unitAt + 2 > bytes.size() || text.size() > kPrmMaxTextChars) {
             Fault(linkAt, "the display name at " + Hex(at) + " has no terminator");
             return {};
         }

@@ -20,7 +20,7 @@ std::unique_ptr<ItemRecord[]> ReadItems(const PrmFile& file, const PrmItems& fro
     auto items = std::make_unique<ItemRecord[]>(from.count + size_t{1});
     for (uint32_t i = 0; i < from.count; ++i) {
         PrmItemDescriptor item = {};
-        PrmReadRecord16(file, PrmItemOffset(file, from, i), item);
+        PrmReadRecord(file, PrmItemOffset(file, from, i), item);
         items[i].head.size = sizeof(ItemRecord);
         items[i].head.icon = kItemIcon;
         PrmReadKey(file, item.head.key, items[i].head.key);

@@ -11,7 +11,7 @@
 namespace {
 
 constexpr size_t kPageWidth = 128;
-constexpr size_t kLongTable = 24;  // more lines than this run side by side, if they are narrow enough
+constexpr size_t kLongTable = 24; // more lines than this run side by side, if they are narrow enough
 constexpr size_t kMaxNumbers = 5; // more numbers than this in one cell are only counted
 constexpr const char* kIndent = "  ";
 constexpr const char* kFieldGap = "  ";

@@ -181,7 +181,7 @@ void Clear(const TableDescription& table) {
 // The descriptor of the item at this position.
 PrmItemHead ReadHead(const PrmFile& file, const PrmItems& items, uint32_t position) {
     PrmItemDescriptor descriptor = {};
-    PrmReadRecord16(file, PrmItemOffset(file, items, position), descriptor);
+    PrmReadRecord(file, PrmItemOffset(file, items, position), descriptor);
     return descriptor.head;
 }
 

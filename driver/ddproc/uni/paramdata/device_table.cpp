@@ -1,8 +1,7 @@
-// The device table: the order in which its parts are built, the builders of its ranges, machine information
-// and country, and its release.
+// Builds and releases the device table: the order of its parts, and the parts that are no lists or named
+// values: ranges, machine information, country.
 #include "paramdata/device_table.h"
 
-#include "base/text.h"
 #include "paramdata/feature_lists.h"
 #include "paramdata/named_values.h"
 #include "paramdata/prm_readers.h"
@@ -41,7 +40,7 @@ void BuildUserPaperRanges(const PrmFile& file, DeviceTable& table) {
     table.paperLengthB = length.b;
 }
 
-// Fills one machine from the file; without memory for its details it has none.
+// Fills one machine from the file; without memory it has no details.
 void FillMachine(PrmFile& file, const PrmMachine& from, MachineInfoRecord& to) {
     CopyText(to.name, from.name);
     const uint64_t count = uint64_t{from.detailCount} + 1;
@@ -53,7 +52,7 @@ void FillMachine(PrmFile& file, const PrmMachine& from, MachineInfoRecord& to) {
     to.details = details;
     for (uint32_t i = 0; i < from.detailCount; ++i) {
         PrmMachineDetail detail = {};
-        PrmReadBlock(file, from.firstDetail + uint64_t{sizeof(detail)} * i, sizeof(detail), &detail);
+        PrmReadRecord(file, from.firstDetail + uint64_t{sizeof(detail)} * i, detail);
         CopyText(details[i].texts[0], detail.texts[0]);
         CopyText(details[i].texts[1], detail.texts[1]);
     }
@@ -71,7 +70,7 @@ void BuildMachineInfo(PrmFile& file, DeviceTable& table) {
     table.machineInfo = machines;
     for (uint32_t i = 0; i < items.count; ++i) {
         PrmMachine machine = {};
-        PrmReadBlock(file, PrmItemOffset(file, items, i), sizeof(machine), &machine);
+        PrmReadRecord(file, PrmItemOffset(file, items, i), machine);
         FillMachine(file, machine, machines[i]);
     }
 }
@@ -90,7 +89,7 @@ void BuildCountry(const PrmFile& file, DeviceTable& table) {
     if (!PrmFindItems(file, "Country", items))
         return;
     PrmCountry country = {};
-    PrmReadBlock(file, PrmItemOffset(file, items, 0), sizeof(country), &country);
+    PrmReadRecord(file, PrmItemOffset(file, items, 0), country);
     table.country = country.value;
 }
 

@@ -28,7 +28,7 @@ void UpdateInputSlots(const PrmFile& file) {
         return;
     for (uint32_t i = 0; i < items.count; ++i) {
         PrmMediaItem item = {};
-        PrmReadRecord156(file, PrmItemOffset(file, items, i), item);
+        PrmReadRecord(file, PrmItemOffset(file, items, i), item);
         PrmText key = {};
         PrmReadString(file, item.head.key, key);
         for (TraySourceRecord* slot = inputSlots; slot->key[0] != 0; ++slot) {

@@ -19,12 +19,12 @@ void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     if (!PrmFindItems(file, entry, items))
         return;
     PrmTableHeader header = {};
-    PrmReadBlock(file, PrmItemOffset(file, items, 0), sizeof(header), &header);
+    PrmReadRecord(file, PrmItemOffset(file, items, 0), header);
     if (header.rowCount > file.size / sizeof(PrmTableRow))
         return;
     for (uint32_t i = 0; i < header.rowCount; ++i) {
         PrmTableRow row = {};
-        PrmReadBlock(file, header.firstRow + uint64_t{sizeof(row)} * i, sizeof(row), &row);
+        PrmReadRecord(file, header.firstRow + uint64_t{sizeof(row)} * i, row);
         visit(row);
     }
 }

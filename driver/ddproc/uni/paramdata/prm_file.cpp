@@ -1,5 +1,5 @@
-// Parameter data file: see the header. Normally the whole file is one image in memory; the road without an
-// image gives the same results, only slower.
+// Opens and reads the parameter data file. Normally the whole file is in memory; without that memory each
+// read goes to the file, with the same results.
 #include "paramdata/prm_file.h"
 
 #include "base/text.h"
@@ -8,28 +8,29 @@
 
 namespace {
 
-// A file whose size can't be asked is taken to be no larger than this.
+// Assumed size of a file whose size can't be queried.
 constexpr uint32_t kUnknownSize = 16u << 20;
 
-// Lists in memory are a few times larger than their items in the file (144 bytes from 16 at the worst).
+// A list in memory is at most 9 times as large as its items in the file: 144 bytes from 16.
 constexpr uint64_t kAllowanceFactor = 16;
 constexpr uint64_t kAllowanceBase = 4096;
 
-// Reads on from the file's position until `count` bytes have arrived or the file ends. -1 when a read fails.
-int64_t ReadOn(HANDLE handle, void* to, uint32_t count) {
-    uint32_t total = 0;
-    while (total < count) {
-        DWORD delivered = 0;
-        if (!ReadFile(handle, static_cast<uint8_t*>(to) + total, count - total, &delivered, nullptr))
-            return -1;
-        if (delivered == 0)
+// Reads from the file's position until `count` bytes have been read or the file ends. False when a read
+// fails.
+bool ReadFully(HANDLE handle, void* to, uint32_t count, uint32_t& delivered) {
+    delivered = 0;
+    while (delivered < count) {
+        DWORD part = 0;
+        if (!ReadFile(handle, static_cast<uint8_t*>(to) + delivered, count - delivered, &part, nullptr))
+            return false;
+        if (part == 0)
             break;
-        total += delivered;
+        delivered += part;
     }
-    return total;
+    return true;
 }
 
-// Loads the whole file; on any failure the handle stays without an image.
+// Loads the whole file. On any failure there is no image.
 void LoadImage(PrmFile& file) {
     const DWORD size = GetFileSize(file.handle, nullptr);
     if (size == INVALID_FILE_SIZE)
@@ -38,7 +39,8 @@ void LoadImage(PrmFile& file) {
     auto* image = static_cast<uint8_t*>(GlobalAlloc(GPTR, size));
     if (image == nullptr)
         return;
-    if (ReadOn(file.handle, image, size) >= 0)
+    uint32_t delivered = 0;
+    if (ReadFully(file.handle, image, size, delivered))
         file.image = image;
     else
         GlobalFree(image);
@@ -84,35 +86,35 @@ void PrmClose(PrmFile* file) {
     GlobalFree(file);
 }
 
-int32_t PrmRead(const PrmFile& file, void* to, uint32_t count, uint64_t offset) {
-    count = count < INT32_MAX ? count : INT32_MAX;
+bool PrmRead(const PrmFile& file, void* to, uint32_t count, uint64_t offset, uint32_t& delivered) {
+    delivered = 0;
     if (file.image != nullptr) {
         if (offset >= file.size)
-            return 0;
+            return true;
         const uint64_t left = file.size - offset;
-        count = count < left ? count : static_cast<uint32_t>(left);
-        memcpy(to, file.image + offset, count);
-        return static_cast<int32_t>(count);
+        delivered = count < left ? count : static_cast<uint32_t>(left);
+        memcpy(to, file.image + offset, delivered);
+        return true;
     }
     if (offset > UINT32_MAX)
-        return 0;
+        return true;
     LONG high = 0;
-    const DWORD position = SetFilePointer(file.handle, static_cast<LONG>(offset), &high, FILE_BEGIN);
-    if (position != offset)
-        return 0;
-    return static_cast<int32_t>(ReadOn(file.handle, to, count));
+    if (SetFilePointer(file.handle, static_cast<LONG>(offset), &high, FILE_BEGIN) != offset)
+        return true;
+    return ReadFully(file.handle, to, count, delivered);
 }
 
 uint32_t PrmFindEntry(const PrmFile& file, const char* name) {
     PrmHeader header = {};
-    PrmRead(file, &header, sizeof(header), 0);
+    uint32_t delivered = 0;
+    PrmRead(file, &header, sizeof(header), 0, delivered);
 
-    // The chain may lead anywhere, backwards too; a file of this size holds no more entries than this.
-    const uint32_t mostEntries = file.size / sizeof(PrmEntry);
+    // The chain may lead anywhere, also backwards; a file of this size holds no more entries than this.
+    const uint32_t maxEntries = file.size / sizeof(PrmEntry);
     uint32_t offset = kPrmFirstEntry;
-    for (uint32_t i = 0; i < mostEntries; ++i) {
+    for (uint32_t i = 0; i < maxEntries; ++i) {
         PrmEntry entry;
-        if (PrmRead(file, &entry, sizeof(entry), offset) < static_cast<int32_t>(sizeof(entry)))
+        if (!PrmRead(file, &entry, sizeof(entry), offset, delivered) || delivered < sizeof(entry))
             return 0;
         if (SameText(entry.name, name))
             return offset < header.chainEnd ? offset : 0;

@@ -9,9 +9,9 @@
 #include <cstddef>
 #include <cstdint>
 
-constexpr uint32_t kPrmFirstEntry = 8;    // offset of the first entry, directly behind the header
-constexpr size_t kPrmMostTextBytes = 290; // longest 8-bit text that is read, without its terminator
-constexpr size_t kPrmMostTextChars = 291; // longest UTF-16 text that is read, without its terminator
+constexpr uint32_t kPrmFirstEntry = 8;   // offset of the first entry, directly behind the header
+constexpr size_t kPrmMaxTextBytes = 290; // longest 8-bit text that is read, without its terminator
+constexpr size_t kPrmMaxTextChars = 291; // longest UTF-16 text that is read, without its terminator
 
 #pragma pack(push, 1)
 

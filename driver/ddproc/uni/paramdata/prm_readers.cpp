@@ -1,29 +1,23 @@
-// Typed readers of the parameter data file: see the header.
+// Typed readers of the parameter data file.
 #include "paramdata/prm_readers.h"
 
 #include "base/text.h"
 
 #include <cstring>
 
-bool PrmReadEntry(const PrmFile& file, uint64_t offset, PrmEntry& entry) {
-    return offset != 0 && PrmRead(file, &entry, sizeof(entry), offset) > 0;
+namespace {
+
+// Reads what there is of `count` bytes. False only when the read failed: nothing is read beyond the end.
+bool ReadBytes(const PrmFile& file, uint64_t offset, void* to, uint32_t count) {
+    uint32_t delivered = 0;
+    return PrmRead(file, to, count, offset, delivered);
 }
 
-bool PrmReadEntryInfo(const PrmFile& file, uint64_t offset, PrmEntryInfo& info) {
-    return PrmRead(file, &info, sizeof(info), offset) > 0;
-}
-
-bool PrmReadBlock(const PrmFile& file, uint64_t offset, uint32_t count, void* to) {
-    return PrmRead(file, to, count, offset) >= 0;
-}
-
-bool PrmReadDword(const PrmFile& file, uint64_t offset, uint32_t& to) {
-    return PrmReadBlock(file, offset, sizeof(to), &to);
-}
+} // namespace
 
 bool PrmReadString(const PrmFile& file, uint64_t offset, PrmText& to) {
-    PrmText text = {}; // beyond the end of the file it stays terminated
-    if (!PrmReadBlock(file, offset, sizeof(text), text) || TextLength(text) > kPrmMostTextBytes)
+    PrmText text = {}; // bytes beyond the end of the file are 0
+    if (!ReadBytes(file, offset, text, sizeof(text)) || TextLength(text) > kPrmMaxTextBytes)
         return false;
     CopyText(to, text);
     return true;
@@ -31,7 +25,7 @@ bool PrmReadString(const PrmFile& file, uint64_t offset, PrmText& to) {
 
 bool PrmReadWideString(const PrmFile& file, uint64_t offset, PrmWideText& to) {
     PrmWideText text = {};
-    if (!PrmReadBlock(file, offset, kPrmMostTextChars * sizeof(text[0]), text) || text[0] == 0)
+    if (!ReadBytes(file, offset, text, kPrmMaxTextChars * sizeof(text[0])) || text[0] == 0)
         return false;
     CopyText(to, text);
     return true;
@@ -39,8 +33,9 @@ bool PrmReadWideString(const PrmFile& file, uint64_t offset, PrmWideText& to) {
 
 bool PrmReadRange(const PrmFile& file, uint64_t offset, uint32_t (&values)[3]) {
     PrmRange range = {};
-    if (PrmRead(file, &range, sizeof(range), offset)
-        <= static_cast<int32_t>(offsetof(PrmRange, defaultValue)))
+    uint32_t delivered = 0;
+    if (!PrmRead(file, &range, sizeof(range), offset, delivered)
+        || delivered <= offsetof(PrmRange, defaultValue))
         return false;
     values[0] = range.valueA;
     values[1] = range.valueB;
@@ -54,7 +49,7 @@ bool PrmReadStringValue(const PrmFile& file, const char* name, char* to, size_t 
     if (!PrmFindItems(file, name, items))
         return false;
     PrmItemDescriptor record = {};
-    PrmReadRecord16(file, items.defaultRecord, record);
+    PrmReadRecord(file, items.defaultRecord, record);
     PrmText text = {};
     PrmReadString(file, record.head.key, text);
     const size_t length = TextLength(text);
@@ -67,10 +62,10 @@ bool PrmReadStringValue(const PrmFile& file, const char* name, char* to, size_t 
 bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items) {
     const uint32_t offset = PrmFindEntry(file, name);
     PrmEntry entry = {};
-    if (!PrmReadEntry(file, offset, entry))
+    if (offset == 0 || !PrmReadRecord(file, offset, entry))
         return false;
     PrmEntryInfo info = {};
-    PrmReadEntryInfo(file, offset + uint64_t{sizeof(PrmEntry)}, info);
+    PrmReadRecord(file, offset + uint64_t{sizeof(PrmEntry)}, info);
     if (info.itemCount > file.size / sizeof(uint32_t))
         return false;
     items = {offset, entry.firstItem, info.itemCount, info.defaultRecord, info.itemOffsets};
@@ -85,7 +80,7 @@ bool PrmReadEntryRange(const PrmFile& file, const char* name, uint32_t (&values)
 
 uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t position) {
     uint32_t offset = 0;
-    PrmReadDword(file, items.offsets + uint64_t{sizeof(offset)} * position, offset);
+    PrmReadRecord(file, items.offsets + uint64_t{sizeof(offset)} * position, offset);
     return offset;
 }
 

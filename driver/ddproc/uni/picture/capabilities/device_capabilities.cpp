@@ -1,5 +1,5 @@
-// DDProc_DeviceCapabilities: what the system asks and this module answers. Everything is worked out from the caller's
-// tables on each call.
+// DDProc_DeviceCapabilities: what the system asks and this module answers. Everything is worked out from the
+// caller's tables on each call.
 #include "base/text.h"
 #include "picture/capabilities/feature_table.h"
 
