@@ -2,6 +2,7 @@
 #include "trays/media_type_lists.h"
 
 #include "support/prm_image.h"
+#include "trays/tray_settings.h"
 
 namespace {
 
@@ -134,13 +135,13 @@ TEST_F(MediaTypeListsTest, ItemTexts) {
     EXPECT_FALSE(PrmGetItemText(*opened.file, "List", "Key", nullptr, 8));
 }
 
-TEST_F(MediaTypeListsTest, EachColumnShowsByASwitchOfItsOwn) {
-    for (const uint32_t type : {0u, 1u, 4u})
+TEST_F(MediaTypeListsTest, EachColumnNeedsItsSwitchAndADialogTypeThatHasIt) {
+    for (const uint32_t type : {0u, 1u, 2u, 3u, 4u})
         for (uint32_t i = 0; i < 3; ++i) {
             const RawBytes table = RawBytes(kTableSize).U32(4 * (18 + i), 1).U32(4 * 83, type);
-            EXPECT_EQ(MediaWeightShown(AsTable(table)), i == 0 ? 1u : 0u);
-            EXPECT_EQ(MediaColorShown(AsTable(table)), i == 1 ? 1u : 0u);
-            EXPECT_EQ(MediaHoleShown(AsTable(table)), i == 2 ? 1u : 0u);
+            EXPECT_EQ(IsColumnShown(AsTable(table), kMediaWeight), i == 0 && type != 2 && type != 3) << type;
+            EXPECT_EQ(IsColumnShown(AsTable(table), kMediaColor), i == 1 && type != 3) << type;
+            EXPECT_EQ(IsColumnShown(AsTable(table), kMediaPrePunched), i == 2 && type != 3) << type;
         }
 }
 

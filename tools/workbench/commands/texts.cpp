@@ -4,6 +4,7 @@
 #include "paramdata/control_texts.h"
 #include "paramdata/device_table.h"
 #include "trays/media_type_lists.h"
+#include "trays/tray_settings.h"
 #include "workbench/commands/commands.h"
 #include "workbench/lib/record_fields.h"
 
@@ -53,12 +54,6 @@ constexpr ColorList kDestinationLists[] = {
     {"Graph_Destination", colorTables.graphics.destinations.items},
 };
 
-// Whether a column is shown, by its position; null: always.
-constexpr uint32_t (*kColumnRules[])(const DeviceTable* table) = {
-    nullptr, nullptr, nullptr, nullptr, MediaWeightShown, MediaColorShown, MediaHoleShown,
-};
-static_assert(std::size(kColumnRules) + 1 == std::size(mediaTypeColumns));
-
 // Without the unused places, which are 0.
 Document Identifiers(const ControlTextRecord& row) {
     Document identifiers = Show<&ControlTextRecord::identifiers>(&row);
@@ -96,11 +91,11 @@ Document MediaTypes() {
 
 Document Columns(const DeviceTable& table) {
     Document rows = Document::MakeList();
-    for (size_t i = 0; i < std::size(kColumnRules); ++i)
+    for (size_t i = 0; i <= kMediaTypeListCount; ++i)
         rows.Add({
             {"key", mediaTypeColumns[i].key},
             {"title", ToDocument(mediaTypeColumns[i].title)},
-            {"shown", kColumnRules[i] == nullptr || kColumnRules[i](&table) != 0},
+            {"shown", i == 0 || IsColumnShown(&table, static_cast<MediaTypeList>(i - 1))},
         });
     return rows;
 }

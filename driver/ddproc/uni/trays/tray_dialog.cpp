@@ -1,4 +1,5 @@
-// The tray-setting dialogs: one engine and a description of each kind. One is open at a time.
+// The tray-setting dialogs: one engine, and a description of each kind at the end. One dialog is open at a
+// time.
 #include "trays/tray_dialog.h"
 
 #include "base/rows.h"
@@ -46,7 +47,7 @@ TrayPaperSetting* SelectedTray(HWND window) {
     return TrayOfRow(window, ContextOf(window), SelectedTrayRow(window));
 }
 
-// --- Boxes -----------------------------------------------------------------------------------------------
+// --- Boxes
 
 // The item that an entry stands for; null without such an entry.
 const ItemRecord* ItemAt(HWND window, uint16_t box, LRESULT index) {
@@ -82,7 +83,7 @@ void SelectInBox(HWND window, MediaTypeList attribute, const TrayPaperSetting& t
     Send(window, row.comboBox, CB_SETCURSEL, static_cast<WPARAM>(-1));
 }
 
-// Shows the selected tray; without one the boxes stay as they are.
+// Selects the values of the selected tray. Without one the boxes stay unchanged.
 void SelectInBoxes(const TrayDialog& dialog, HWND window) {
     const TrayPaperSetting* tray = SelectedTray(window);
     if (tray == nullptr)
@@ -97,9 +98,9 @@ void StoreChoice(HWND window, const TrayAttribute& attribute, TrayPaperSetting& 
         StoreAttribute(tray, attribute, static_cast<int32_t>(item->head.value));
 }
 
-// --- The dialog ------------------------------------------------------------------------------------------
+// --- The dialog
 
-// What the user may not change.
+// Disables what the user may not change.
 void LockControls(const TrayDialog& dialog, HWND window) {
     if (IsSettingChangeAllowed(ContextOf(window)))
         return;
@@ -108,7 +109,7 @@ void LockControls(const TrayDialog& dialog, HWND window) {
         EnableDlgControl(window, trayAttributes[attribute].comboBox, false);
 }
 
-// What the model lacks.
+// Hides the attributes that the model lacks.
 void HideControls(const TrayDialog& dialog, HWND window) {
     for (const MediaTypeList attribute : dialog.attributes) {
         const TrayAttribute& row = trayAttributes[attribute];
@@ -119,7 +120,7 @@ void HideControls(const TrayDialog& dialog, HWND window) {
     }
 }
 
-// The list's small images, out of the user-interface module.
+// Sets the list's small images: icons of the user-interface module, which the image list copies.
 void SetOrientationIcons(HWND window) {
     const auto instanceOf = UiCallback<TelmarGetImgResInst>("GetImgResInst");
     if (instanceOf == nullptr)
@@ -130,7 +131,8 @@ void SetOrientationIcons(HWND window) {
         auto* icon = static_cast<HICON>(
             LoadImageW(instance, MAKEINTRESOURCEW(id), IMAGE_ICON, kIconSize, kIconSize, LR_DEFAULTCOLOR));
         if (icon == nullptr
-            || ImageList_ReplaceIcon(images, -1, icon) < 0) { // one alone would stand for the other
+            || ImageList_ReplaceIcon(images, -1, icon)
+                   < 0) { // with one icon alone, both orientations would show it
             ImageList_Destroy(images);
             images = nullptr;
         }
@@ -140,7 +142,7 @@ void SetOrientationIcons(HWND window) {
     Send(window, kTrayList, LVM_DELETEALLITEMS);
 }
 
-// Once, however often the dialog is initialised.
+// Keeps the list view's own procedure also when the dialog is initialised again.
 void ReplaceListProcedure(TrayDialog& dialog, HWND list, WNDPROC procedure) {
     const auto before = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
@@ -169,7 +171,7 @@ void OnInitDialog(TrayDialog& dialog, HWND window, LPARAM parameter, WNDPROC lis
     LockControls(dialog, window);
 }
 
-// An attribute of the selected tray has been chosen.
+// The user has chosen a value for the selected tray.
 void OnChange(const TrayDialog& dialog, HWND window, MediaTypeList attribute) {
     const int row = SelectedTrayRow(window);
     DialogContext* context = ContextOf(window);
@@ -190,7 +192,7 @@ void OnChange(const TrayDialog& dialog, HWND window, MediaTypeList attribute) {
     Send(window, kTrayList, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
-// Puts the attributes of the kind back, but not the sources that the list has given the records.
+// Restores the attributes of this kind of dialog. Keys and bin numbers, which the list has set, stay.
 void RestoreTrays(const TrayDialog& dialog, HWND window) {
     TrayPaperSetting* trays = GetTraySettings(ContextOf(window));
     for (size_t i = 0; trays != nullptr && i < TELMAR_TRAY_COUNT; ++i)
@@ -229,7 +231,7 @@ void OnActivate(const TrayDialog& dialog, HWND window, WPARAM wParam) {
     LockControls(dialog, window);
 }
 
-// Of any kind of the dialog.
+// Whether the control is an attribute's box in any kind of the dialog.
 bool IsAttributeBox(UINT control) {
     for (const TrayAttribute& attribute : trayAttributes)
         if (attribute.comboBox == control)
@@ -246,7 +248,7 @@ INT_PTR OnDrawItem(HWND window, const DRAWITEMSTRUCT& item) {
     return isBox || item.CtlID == kTrayList ? 1 : 0;
 }
 
-// Arrives before the dialog is initialised.
+// Comes before WM_INITDIALOG.
 INT_PTR OnMeasureItem(MEASUREITEMSTRUCT& item) {
     if (item.CtlID != kTrayList && !IsAttributeBox(item.CtlID))
         return 0;
@@ -254,7 +256,7 @@ INT_PTR OnMeasureItem(MEASUREITEMSTRUCT& item) {
     return 1;
 }
 
-// The images are taken off the list first: it may free what it has.
+// The list gives up its images first, since it destroys those that it has.
 void OnDestroy(TrayDialog& dialog, HWND window) {
     const LRESULT images = Send(window, kTrayList, LVM_SETIMAGELIST, LVSIL_SMALL);
     if (images != 0)
@@ -297,12 +299,13 @@ INT_PTR RunTrayDialog(TrayDialog& dialog, WNDPROC listProcedure, HWND window, UI
     }
 }
 
-// --- The kinds -------------------------------------------------------------------------------------------
+// --- The kinds
 
-// The order of the attributes is that of the boxes, of the lock list and of the help table.
+// The order of the attributes is that in which boxes are filled and locked.
 constexpr MediaTypeList kAttributes1[] = {kMediaSize,   kMediaOrientation, kMediaType,
-                                          kMediaWeight, kMediaColor,       kMediaHole};
-constexpr MediaTypeList kAttributes2[] = {kMediaSize, kMediaOrientation, kMediaType, kMediaColor, kMediaHole};
+                                          kMediaWeight, kMediaColor,       kMediaPrePunched};
+constexpr MediaTypeList kAttributes2[] = {kMediaSize, kMediaOrientation, kMediaType, kMediaColor,
+                                          kMediaPrePunched};
 constexpr MediaTypeList kAttributes3[] = {kMediaSize, kMediaOrientation, kMediaType};
 
 // clang-format off
@@ -314,14 +317,14 @@ constexpr HelpId kHelp2[] = {HELP_HEAD, HELP_TAIL, {0, 0}};
 constexpr HelpId kHelp3[] = {HELP_HEAD, {0, 0}};
 // clang-format on
 
-// Initialised by the compiler: the module runs no constructors.
+// Constant-initialised: the module runs no constructors.
 TrayDialog trayDialogs[] = {
     {kAttributes1, kHelp1, nullptr, {}},
     {kAttributes2, kHelp2, nullptr, {}},
     {kAttributes3, kHelp3, nullptr, {}},
 };
 
-// Windows calls these without a word on which kind it is.
+// Windows does not pass the kind of dialog to its procedures, so each kind has its own.
 template <size_t Kind>
 LRESULT CALLBACK ListProcedure(HWND list, UINT message, WPARAM wParam, LPARAM lParam) {
     return RepaintTrayRows(trayDialogs[Kind].listProcedure, list, message, wParam, lParam);

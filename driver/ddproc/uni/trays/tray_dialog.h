@@ -1,5 +1,5 @@
-// The tray-setting dialogs: which paper lies in which tray. Three kinds, which differ in the attributes that
-// they offer.
+// The tray-setting dialogs, in which the user sets the paper in each tray. There are three kinds, which
+// differ in the attributes that they offer.
 #ifndef TRAYS_TRAY_DIALOG_H
 #define TRAYS_TRAY_DIALOG_H
 

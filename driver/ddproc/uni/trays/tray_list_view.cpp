@@ -1,4 +1,4 @@
-// The tray list: see the header.
+// The list view of the tray-setting dialogs: columns, rows, drawing.
 #include "trays/tray_list_view.h"
 
 #include "base/text.h"
@@ -8,16 +8,16 @@
 
 namespace {
 
-constexpr int kColumnExtra = 20;      // pixels behind a title
+constexpr int kColumnExtra = 20;      // pixels after a title
 constexpr int kIconRoom = 16;         // pixels before the orientation's text
 constexpr uint32_t kPlainColumns = 4; // tray, size, orientation, type
 constexpr size_t kOrientationColumn = 2;
 constexpr size_t kNameCapacity = 32;  // of a tray's name, in characters
-constexpr size_t kTextCapacity = 260; // of a cell's
+constexpr size_t kTextCapacity = 260; // of a cell's text
 constexpr int16_t kPortrait = 1;
 constexpr uint32_t kTypeWithFourColumns = 3; // of the dialog
 
-uint32_t trayColumnCount; // that a row has; 0 without rows
+uint32_t trayColumnCount; // columns of a row; 0 without rows
 
 LRESULT Send(HWND list, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
     return SendMessageW(list, message, wParam, lParam);
@@ -38,17 +38,12 @@ int ClientWidth(HWND window) {
     return client.right;
 }
 
-bool IsColumnShown(size_t attribute) {
-    const auto isShown = trayAttributes[attribute].isColumnShown;
-    return isShown == nullptr || isShown(deviceTable) != 0;
-}
+// --- Columns
 
-// --- Columns ---------------------------------------------------------------------------------------------
-
-// Columns have their titles' widths, the last one the rest.
+// The columns inserted so far. A column is as wide as its title, the last one takes the rest.
 struct ColumnsSoFar {
     HWND list;
-    int room;   // that the list had at first
+    int room;   // width of the list
     int margin; // on either side of a title
     int count;
     int width;
@@ -67,15 +62,15 @@ void InsertColumn(ColumnsSoFar& columns, MediaTypeColumn& column, bool takesRest
     columns.width += inserted.cx;
 }
 
-// --- Rows ------------------------------------------------------------------------------------------------
+// --- Rows
 
-// The names of the trays that are listed.
+// The names of the listed trays.
 struct TrayNames {
     wchar_t names[TELMAR_TRAY_COUNT][kNameCapacity];
     size_t count;
 };
 
-// Notes the names, and gives each record its source.
+// Collects the names and sets key and bin number of each record.
 void TakeSources(TrayNames& trays, TrayPaperSetting* records) {
     for (const InputSlotRecord& source : Listed(deviceTable != nullptr ? deviceTable->inputTrays : nullptr)) {
         if (IsAutomaticBin(source.head.value))
@@ -89,7 +84,7 @@ void TakeSources(TrayNames& trays, TrayPaperSetting* records) {
     }
 }
 
-// Of entries with the same value the last one's name; null when there is none.
+// The name of the last item with this value; null when there is none.
 const wchar_t* NameOf(size_t attribute, int32_t value) {
     const wchar_t* name = nullptr;
     for (const ItemRecord& item : Listed(AttributeValues(static_cast<MediaTypeList>(attribute))))
@@ -107,7 +102,7 @@ void InsertRow(HWND list, int row, const wchar_t* name, const TrayPaperSetting& 
     Send(list, LVM_INSERTITEMW, 0, &item);
     LVITEMW cell = {};
     for (size_t i = 0; i < kMediaTypeListCount; ++i) {
-        if (!IsColumnShown(i))
+        if (!IsColumnShown(deviceTable, static_cast<MediaTypeList>(i)))
             continue;
         ++cell.iSubItem;
         const wchar_t* text = NameOf(i, LoadAttribute(tray, trayAttributes[i]));
@@ -117,7 +112,7 @@ void InsertRow(HWND list, int row, const wchar_t* name, const TrayPaperSetting& 
     }
 }
 
-// --- Drawing ---------------------------------------------------------------------------------------------
+// --- Drawing
 
 struct RowDrawing {
     const DRAWITEMSTRUCT& item;
@@ -147,10 +142,10 @@ COLORREF TextColor(const RowDrawing& row) {
     return GetSysColor(color);
 }
 
-// The whole row, as far as the list is wide.
+// The row, across the width of the list.
 RECT RowBounds(const RowDrawing& row) {
     RECT bounds = {};
-    bounds.left = LVIR_BOUNDS; // what is asked for
+    bounds.left = LVIR_BOUNDS; // in: what to return
     if (!Send(row.List(), LVM_GETITEMRECT, row.item.itemID, &bounds))
         return {};
     ++bounds.left;
@@ -158,7 +153,7 @@ RECT RowBounds(const RowDrawing& row) {
     return bounds;
 }
 
-// Cut to its cell.
+// Draws the text of a cell, clipped to the cell.
 void DrawCellText(const RowDrawing& row, size_t column, const RECT& cell) {
     wchar_t text[kTextCapacity] = L"";
     LVITEMW asked = {};
@@ -179,7 +174,7 @@ void DrawOrientation(const RowDrawing& row, int left) {
         ImageList_Draw(images, row.icon, row.Dc(), left, row.Area().top, ILD_TRANSPARENT);
 }
 
-// Each cell in turn, with its background: what one writes beyond its end, the next one wipes.
+// Draws each cell with its background, which covers what the cell before has drawn beyond its end.
 void DrawCells(const RowDrawing& row) {
     SetBkMode(row.Dc(), TRANSPARENT);
     SetTextColor(row.Dc(), TextColor(row));
@@ -216,12 +211,12 @@ void SetUpTrayColumns(HWND dialog) {
     HWND header = reinterpret_cast<HWND>(Send(list, LVM_GETHEADER));
     SetWindowLongPtrW(header, GWL_STYLE, GetWindowLongPtrW(header, GWL_STYLE) & ~LONG_PTR{HDS_BUTTONS});
     const uint32_t type = SwitchValue(deviceTable, kSwitchDlgMediaType);
-    const size_t last = type == kTypeWithFourColumns ? kMediaType : kMediaHole;
+    const size_t last = type == kTypeWithFourColumns ? kMediaType : kMediaPrePunched;
     ColumnsSoFar columns = {list, ClientWidth(list),
                             static_cast<int>(SendMessageW(header, HDM_GETBITMAPMARGIN, 0, 0)), 0, 0};
     InsertColumn(columns, mediaTypeColumns[0], false);
     for (size_t i = 0; i < kMediaTypeListCount; ++i)
-        if (IsColumnShown(i))
+        if (IsColumnShown(deviceTable, static_cast<MediaTypeList>(i)))
             InsertColumn(columns, mediaTypeColumns[1 + i], i == last);
     Send(list, LVM_DELETEALLITEMS);
     Send(list, WM_SETREDRAW, TRUE);
@@ -241,7 +236,7 @@ void FillTrayRows(HWND dialog, const DialogContext* context) {
         InsertRow(list, static_cast<int>(i), trays.names[i], records[i]);
     trayColumnCount = kPlainColumns;
     for (size_t i = kMediaWeight; i < kMediaTypeListCount; ++i)
-        trayColumnCount += IsColumnShown(i) ? 1 : 0;
+        trayColumnCount += IsColumnShown(deviceTable, static_cast<MediaTypeList>(i)) ? 1 : 0;
 }
 
 void DrawTrayRow(HWND dialog, const DialogContext* context, const DRAWITEMSTRUCT& item) {

@@ -1,4 +1,4 @@
-// Attributes of the paper in a tray: see the header.
+// The attributes of the paper in a tray, and access to their values.
 #include "trays/tray_settings.h"
 
 #include "paramdata/device_table.h"
@@ -7,16 +7,17 @@
 
 #define ATTRIBUTE_FIELD(name) offsetof(TrayPaperSetting, name), sizeof(TrayPaperSetting::name)
 constexpr FeatureSwitch kNoFeature = static_cast<FeatureSwitch>(kFeatureSwitchCount);
+constexpr uint32_t kAlways = kLastTrayDialogType + 1; // dialogs of every type have the column
 
 // clang-format off
 const TrayAttribute trayAttributes[] = {
-    // box  label field                          column           hidden without
-    {1860, 1859, ATTRIBUTE_FIELD(size),        nullptr,          kNoFeature},
-    {1862, 1861, ATTRIBUTE_FIELD(orientation), nullptr,          kNoFeature},
-    {1003, 1005, ATTRIBUTE_FIELD(type),        nullptr,          kNoFeature},
-    {1086, 1084, ATTRIBUTE_FIELD(weight),      MediaWeightShown, kSwitchMediaWeight},
-    {1091, 1089, ATTRIBUTE_FIELD(color),       MediaColorShown,  kSwitchMediaColor},
-    {1094, 1097, ATTRIBUTE_FIELD(hole),        MediaHoleShown,   kSwitchMediaPrePunched},
+    // box  label field                          feature                 no column from dialog type
+    {1860, 1859, ATTRIBUTE_FIELD(size),        kNoFeature,             kAlways},
+    {1862, 1861, ATTRIBUTE_FIELD(orientation), kNoFeature,             kAlways},
+    {1003, 1005, ATTRIBUTE_FIELD(type),        kNoFeature,             kAlways},
+    {1086, 1084, ATTRIBUTE_FIELD(weight),      kSwitchMediaWeight,     2},
+    {1091, 1089, ATTRIBUTE_FIELD(color),       kSwitchMediaColor,      3},
+    {1094, 1097, ATTRIBUTE_FIELD(hole),        kSwitchMediaPrePunched, 3},
 };
 // clang-format on
 
@@ -35,4 +36,13 @@ void StoreAttribute(TrayPaperSetting& tray, const TrayAttribute& attribute, int3
 
 const ItemRecord* AttributeValues(MediaTypeList attribute) {
     return mediaTypeLists != nullptr ? mediaTypeLists->lists[attribute] : nullptr;
+}
+
+bool IsColumnShown(const DeviceTable* table, MediaTypeList attribute) {
+    const TrayAttribute& row = trayAttributes[attribute];
+    if (row.feature == kNoFeature)
+        return true;
+    const uint32_t type = SwitchValue(table, kSwitchDlgMediaType);
+    const bool isOmitted = type >= row.firstTypeWithoutColumn && type <= kLastTrayDialogType;
+    return !isOmitted && SwitchValue(table, row.feature) != 0;
 }
