@@ -106,7 +106,7 @@ TEST(ShippedModel, IsComplete) {
         };
         for (const FactRow& fact : row.facts)
             expectRow(fact.name);
-        EXPECT_TRUE(row.keys.size() == 0 || entry->records.size() == row.keys.size()) << row.name;
+        EXPECT_TRUE(row.keys.count == 0 || entry->records.size() == row.keys.count) << row.name;
         if (entry->name == "FeatureSetting") {
             for (const FeatureSwitchRow& feature : kFeatureSwitches)
                 expectRow(feature.name);

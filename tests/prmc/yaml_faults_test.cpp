@@ -84,11 +84,11 @@ const Fault kFaults[] = {
      "PDLType: PCL6}",
      "1:25: value 'fast' of 'PrintRatePPM' says nothing: write a number\n"
      "1:42: value '' of 'PrintRate' says nothing: write a number\n"
-     "1:61: value 'parsecs' of 'PrintRateUnit' says nothing: write CPS, LPM, IPM or PPM\n"
-     "1:83: value 'yes' of 'ColorDevice' says nothing: write TRUE or FALSE\n"
+     "1:61: value 'parsecs' of 'PrintRateUnit' says nothing: write PPM, CPS, LPM or IPM\n"
+     "1:83: value 'yes' of 'ColorDevice' says nothing: write FALSE or TRUE\n"
      "1:97: value 'PCL6' of 'PDLType' says nothing: write a text with 2 numbers"},
     {"PaperSizeFigure: {FigureType: MFPrinter}",
-     "1:31: value 'MFPrinter' of 'FigureType' says nothing: write MFP or OTHER"},
+     "1:31: value 'MFPrinter' of 'FigureType' says nothing: write OTHER or MFP"},
 
     // Items that the driver does not take
     {"Text_RGBGray: {default: Text_4Colour, items: [{key: Text_4Colour, name: n}]}",

@@ -67,7 +67,7 @@ void DiffPairs(const std::string& path, const Value& a, const Value& b, Lines& l
 }
 
 void DiffRecord(const std::string& path, const Kind& kind, const Record& a, const Record& b, Lines& lines) {
-    for (size_t i = 0; i < kind.fields.size(); ++i) {
+    for (size_t i = 0; i < kind.fields.count; ++i) {
         const Field& field = kind.fields[i];
         if (kind.form == Form::kTable)
             DiffPairs(path, a.values[i], b.values[i], lines);

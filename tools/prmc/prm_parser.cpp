@@ -149,14 +149,14 @@ private:
 
     Record ParseRecord(const EntryRow& row, uint64_t at) {
         const Kind& kind = *row.kind;
-        Record record{AtOffset(at), std::vector<Value>(kind.fields.size())};
+        Record record{AtOffset(at), std::vector<Value>(kind.fields.count)};
         std::vector<bool> used(kind.size);
         const auto use = [&](size_t offset, size_t count) {
             std::fill_n(used.begin() + static_cast<ptrdiff_t>(offset), count, true);
         };
         if (kind.chain != 0)
             use(kind.chain, 4);
-        for (size_t i = 0; i < kind.fields.size(); ++i) {
+        for (size_t i = 0; i < kind.fields.count; ++i) {
             const Field& field = kind.fields[i];
             Value& value = record.values[i];
             ParseField(row, field, at, value);

@@ -70,7 +70,7 @@ void WriteField(Image& image, size_t record, const Field& field, const Value& va
 }
 
 void WriteRecord(Image& image, size_t at, const Kind& kind, const Record& record) {
-    for (size_t i = 0; i < kind.fields.size(); ++i) {
+    for (size_t i = 0; i < kind.fields.count; ++i) {
         if (record.values[i].given)
             WriteField(image, at, kind.fields[i], record.values[i]);
     }

@@ -118,7 +118,7 @@ size_t CountNumbers(const std::string& text) {
 
 void CheckFact(const FactRow& fact, const Pair& row, Findings& findings) {
     std::string wanted;
-    if (fact.words.size() > 0) {
+    if (fact.words.count > 0) {
         const std::vector<std::string> words(fact.words.begin(), fact.words.end());
         if (Contains(words, row.value))
             return;
@@ -150,7 +150,7 @@ void CheckFactRow(const EntryRow& entry, const Pair& row, Findings& findings) {
 void CheckTable(const Entry& entry, Findings& findings) {
     for (const Record& record : entry.records) {
         for (const Pair& row : record.values.front().pairs) {
-            if (entry.row->facts.size() > 0)
+            if (entry.row->facts.count > 0)
                 CheckFactRow(*entry.row, row, findings);
             else
                 CheckFeatureRow(row, findings);
@@ -176,11 +176,11 @@ void CheckTaken(const Entry& entry, Findings& findings) {
 
 // A tray that is not enabled ends the list for its readers.
 void CheckHiddenTrays(const Entry& entry, Findings& findings) {
-    const Table<Field>& fields = entry.row->kind->fields;
+    const Rows<Field>& fields = entry.row->kind->fields;
     const auto isFlag = [](const Field& field) { return std::string_view(field.name) == "enabled"; };
     const auto flag =
         static_cast<size_t>(std::find_if(fields.begin(), fields.end(), isFlag) - fields.begin());
-    if (flag == fields.size())
+    if (flag == fields.count)
         return;
     const auto isOff = [&](const Record& tray) {
         return tray.values[flag].given && tray.values[flag].numbers[0] == 0;
@@ -219,7 +219,7 @@ void CheckEntry(const Entry& entry, Findings& findings) {
     const Kind& kind = *entry.row->kind;
     std::set<std::string> keys;
     for (const Record& record : entry.records) {
-        for (size_t i = 0; i < kind.fields.size(); ++i) {
+        for (size_t i = 0; i < kind.fields.count; ++i) {
             const Field& field = kind.fields[i];
             const Value& value = record.values[i];
             if (!value.given)

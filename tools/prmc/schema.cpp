@@ -2,13 +2,60 @@
 #include "prmc/schema.h"
 
 #include "common/text.h"
+#include "paramdata/color_keys.h"
+#include "paramdata/control_text_keys.h"
+#include "paramdata/media_list_keys.h"
+#include "paramdata/paper_sources.h"
 #include "paramdata/prm_layout.h"
-#include "prmc/item_keys.h"
 
 namespace {
 
 using T = FieldType;
 using F = Form;
+
+// --- The item keys that the driver takes. It passes over an item with any other key, or takes 0 for its
+// value.
+
+template <size_t Most>
+struct KeyList {
+    const char* keys[Most];
+    size_t count;
+
+    constexpr operator Rows<const char*>() const { return {keys, count}; }
+};
+
+// The key that `keyOf` finds in each row; an empty one is none.
+template <typename Row, size_t Count, typename KeyOf>
+constexpr KeyList<Count> KeysIn(const Row (&rows)[Count], const KeyOf& keyOf) {
+    KeyList<Count> list = {};
+    for (const Row& row : rows)
+        if (const char* key = keyOf(row); key[0] != 0)
+            list.keys[list.count++] = key;
+    return list;
+}
+
+// The keys of one tray selection, by its position in kTraySelectionFeatures.
+template <size_t Selection>
+constexpr auto kSelectionKeys = KeysIn(kPaperSources, [](const PaperSourceRow& source) {
+    return source.selectionKeys[Selection];
+});
+
+template <const auto& Table, ColorKeyColumn Column>
+constexpr auto kColorKeys = KeysIn(Table, [](const ColorKeyRow& row) { return row.keys[Column]; });
+
+constexpr const char* KeyOfText(const ControlTextRow& row) {
+    return row.key;
+}
+constexpr auto kPropertyKeys = KeysIn(kPropertyTexts, KeyOfText);
+constexpr auto kColorDialogKeys = KeysIn(kColorDialogTexts, KeyOfText);
+constexpr auto kTrayDialogKeys = KeysIn(kTrayDialogTexts, KeyOfText);
+
+template <MediaTypeList List>
+constexpr auto kMediaTexts = KeysIn(kMediaTextItems, [](const MediaTextItem& item) {
+    return item.list == List ? item.key : "";
+});
+
+// --- The record kinds
 
 // clang-format off
 constexpr Limits kNone   = {};
@@ -152,23 +199,6 @@ constexpr Kind kTable      = {"name/value table", F::kTable,  sizeof(PrmTableHea
 constexpr Kind kCountry    = {"country",          F::kSingle, sizeof(PrmCountry),        kCountryFields};
 constexpr Kind kRange      = {"range",            F::kRange,  sizeof(PrmRange),          kRangeFields};
 
-constexpr const char* kTruth[] = {"TRUE", "FALSE"};
-constexpr const char* kUnits[] = {"CPS", "LPM", "IPM", "PPM"};
-constexpr const char* kEncryptions[] = {"AES", "OTHER"};
-constexpr const char* kFigures[] = {"MFP", "OTHER"};
-constexpr FactRow kDeviceFacts[] = {
-    {"PrintRatePPM",      {},           1},
-    {"PrintRate",         {},           1},
-    {"PrintRateUnit",     kUnits,       0},
-    {"Staple",            kTruth,       0},
-    {"ColorDevice",       kTruth,       0},
-    {"PDLType",           {},           2},
-    {"MachineEncryption", kEncryptions, 0},
-};
-constexpr FactRow kFigureFacts[] = {
-    {"FigureType",        kFigures,     0},
-};
-
 constexpr EntryRow kEntries[] = {
     // name                        kind          name limits   default, keys, most items, facts
     //                                           chars
@@ -221,46 +251,46 @@ constexpr EntryRow kEntries[] = {
     {"ExcelJobCtrl",               &kOption,     47,  kU32,    true},
     {"Watermark",                  &kWatermark,  0,   kNone,   true},
     // Tray selections.
-    {"FCoverTray",                 &kPlain,      47,  kNone,   true,  kFrontCoverKeys},
-    {"BCoverTray",                 &kPlain,      47,  kNone,   true,  kBackCoverKeys},
-    {"SeparatePageTray",           &kPlain,      47,  kNone,   false, kSeparatorKeys},
-    {"OHPIntTray",                 &kPlain,      47,  kNone,   true,  kInterleaveKeys},
-    {"PIFrontCover",               &kPlain,      47,  kNone,   true,  kInserterFrontKeys},
-    {"PIBackCover",                &kPlain,      47,  kNone,   true,  kInserterBackKeys},
-    {"PerPageListPaperSrc",        &kPlain,      47,  kNone,   false, kPerPageSourceKeys},
+    {kTraySelectionFeatures[0],     &kPlain,      47,  kNone,   true,  kSelectionKeys<0>}, // front cover
+    {kTraySelectionFeatures[1],     &kPlain,      47,  kNone,   true,  kSelectionKeys<1>}, // back cover
+    {kTraySelectionFeatures[2],     &kPlain,      47,  kNone,   false, kSelectionKeys<2>}, // separator page
+    {kTraySelectionFeatures[3],     &kPlain,      47,  kNone,   true,  kSelectionKeys<3>}, // interleave
+    {kTraySelectionFeatures[4],     &kPlain,      47,  kNone,   true,  kSelectionKeys<4>}, // inserter front
+    {kTraySelectionFeatures[5],     &kPlain,      47,  kNone,   true,  kSelectionKeys<5>}, // inserter back
+    {kTraySelectionFeatures[6],     &kPlain,      47,  kNone,   false, kSelectionKeys<6>}, // per-page source
     // Colour settings.
     {"ColorSetting",               &kPlain,      47,  kNone,   true,  kColorModeKeys},
-    {"Graphics",                   &kPlain,      47,  kNone,   true,  kGraphicsKeys},
+    {"Graphics",                   &kPlain,      47,  kNone,   true,  kGraphicsFollowKeys},
     {"MatchPaperColor",            &kPlain,      47,  kNone,   true,  kMatchPaperKeys},
-    {"RGBProf",                    &kPlain,      47,  kNone,   true,  {}, 2},
-    {"Text_RGBProf",               &kPlain,      47,  kNone,   true,  kTextProfileKeys},
-    {"Text_RGBColorMatch",         &kPlain,      47,  kNone,   true,  kTextMatchKeys},
-    {"Text_RGBGray",               &kPlain,      47,  kNone,   true,  kTextGrayKeys},
-    {"Text_Halftone",              &kPlain,      47,  kNone,   true,  kTextHalftoneKeys},
-    {"Img_RGBProf",                &kPlain,      47,  kNone,   true,  kImgProfileKeys},
-    {"Img_RGBColorMatch",          &kPlain,      47,  kNone,   true,  kImgMatchKeys},
-    {"Img_RGBGray",                &kPlain,      47,  kNone,   true,  kImgGrayKeys},
-    {"Img_Halftone",               &kPlain,      47,  kNone,   true,  kImgHalftoneKeys},
-    {"Graph_RGBProf",              &kPlain,      47,  kNone,   true,  kGraphProfileKeys},
-    {"Graph_RGBColorMatch",        &kPlain,      47,  kNone,   true,  kGraphMatchKeys},
-    {"Graph_RGBGray",              &kPlain,      47,  kNone,   true,  kGraphGrayKeys},
-    {"Graph_Halftone",             &kPlain,      47,  kNone,   true,  kGraphHalftoneKeys},
-    {"SimulationProf",             &kPlain,      47,  kNone,   true,  {}, 6},
-    {"DestinationProf",            &kPlain,      47,  kNone,   true,  {}, 1},
-    {"Simu_CMYKGray",              &kPlain,      47,  kNone,   true,  {}, 3},
-    {"Text_Destination",           &kDest,       47,  kNone,   true,  kTextDestinationKeys},
-    {"Img_Destination",            &kDest,       47,  kNone,   true,  kImgDestinationKeys},
-    {"Graph_Destination",          &kDest,       47,  kNone,   true,  kGraphDestinationKeys},
+    {"RGBProf",                    &kPlain,      47,  kNone,   true,  {}, kMaxPageProfiles},
+    {"Text_RGBProf",               &kPlain,      47,  kNone,   true,  kColorKeys<kProfileKeys, kTextKeys>},
+    {"Text_RGBColorMatch",         &kPlain,      47,  kNone,   true,  kColorKeys<kColorMatchKeys, kTextKeys>},
+    {"Text_RGBGray",               &kPlain,      47,  kNone,   true,  kColorKeys<kGrayKeys, kTextKeys>},
+    {"Text_Halftone",              &kPlain,      47,  kNone,   true,  kColorKeys<kHalftoneKeys, kTextKeys>},
+    {"Img_RGBProf",                &kPlain,      47,  kNone,   true,  kColorKeys<kProfileKeys, kImageKeys>},
+    {"Img_RGBColorMatch",          &kPlain,      47,  kNone,   true,  kColorKeys<kColorMatchKeys, kImageKeys>},
+    {"Img_RGBGray",                &kPlain,      47,  kNone,   true,  kColorKeys<kGrayKeys, kImageKeys>},
+    {"Img_Halftone",               &kPlain,      47,  kNone,   true,  kColorKeys<kHalftoneKeys, kImageKeys>},
+    {"Graph_RGBProf",              &kPlain,      47,  kNone,   true,  kColorKeys<kProfileKeys, kGraphicsKeys>},
+    {"Graph_RGBColorMatch",        &kPlain,      47,  kNone,   true,  kColorKeys<kColorMatchKeys, kGraphicsKeys>},
+    {"Graph_RGBGray",              &kPlain,      47,  kNone,   true,  kColorKeys<kGrayKeys, kGraphicsKeys>},
+    {"Graph_Halftone",             &kPlain,      47,  kNone,   true,  kColorKeys<kHalftoneKeys, kGraphicsKeys>},
+    {"SimulationProf",             &kPlain,      47,  kNone,   true,  {}, kMaxSimulations},
+    {"DestinationProf",            &kPlain,      47,  kNone,   true,  {}, kMaxPageDestinations},
+    {"Simu_CMYKGray",              &kPlain,      47,  kNone,   true,  {}, kMaxSimulationGrays},
+    {"Text_Destination",           &kDest,       47,  kNone,   true,  kColorKeys<kDestinationKeys, kTextKeys>},
+    {"Img_Destination",            &kDest,       47,  kNone,   true,  kColorKeys<kDestinationKeys, kImageKeys>},
+    {"Graph_Destination",          &kDest,       47,  kNone,   true,  kColorKeys<kDestinationKeys, kGraphicsKeys>},
     // Texts of the dialogs.
     {"Property_0",                 &kPlain,      47,  kNone,   false, kPropertyKeys},
     {"Dlg_ColorSetting",           &kPlain,      47,  kNone,   false, kColorDialogKeys},
     {"Dlg_PaperSourceTraySetting", &kPlain,      47,  kNone,   false, kTrayDialogKeys},
-    {"MediaTypeList_Size",         &kPlain,      47,  kNone,   false, kSizeTextKeys},
-    {"MediaTypeList_Orient",       &kPlain,      47,  kNone,   false, kOrientationTextKeys},
-    {"MediaTypeList_Type",         &kPlain,      47,  kNone,   false, kTypeTextKeys},
-    {"MediaTypeList_Weight",       &kPlain,      47,  kNone,   false, kWeightTextKeys},
-    {"MediaTypeList_Color",        &kPlain,      47,  kNone,   false, kColorTextKeys},
-    {"MediaTypeList_Hole",         &kPlain,      47,  kNone,   false, kHoleTextKeys},
+    {kMediaTypeListEntries[kMediaSize], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaSize>},
+    {kMediaTypeListEntries[kMediaOrientation], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaOrientation>},
+    {kMediaTypeListEntries[kMediaType], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaType>},
+    {kMediaTypeListEntries[kMediaWeight], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaWeight>},
+    {kMediaTypeListEntries[kMediaColor], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaColor>},
+    {kMediaTypeListEntries[kMediaHole], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaHole>},
     // Installable options; "Op" and a tray's key: the option that the tray is.
     {"OpMachine",                  &kPlain,      47,  kNone,   true},
     {"OpBody",                     &kPlain,      47,  kNone,   true},
@@ -281,7 +311,7 @@ constexpr EntryRow kEntries[] = {
 
 } // namespace
 
-Table<EntryRow> KnownEntries() {
+Rows<EntryRow> KnownEntries() {
     return kEntries;
 }
 

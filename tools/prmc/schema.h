@@ -4,24 +4,12 @@
 #ifndef PRMC_SCHEMA_H
 #define PRMC_SCHEMA_H
 
+#include "base/rows.h"
+#include "paramdata/fact_names.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
-
-// A constexpr array seen as a sequence.
-template <typename Row>
-struct Table {
-    const Row* first = nullptr;
-    size_t count = 0;
-
-    constexpr Table() = default;
-    template <size_t N>
-    constexpr Table(const Row (&rows)[N]) : first(rows), count(N) {}
-    constexpr const Row* begin() const { return first; }
-    constexpr const Row* end() const { return first + count; }
-    constexpr size_t size() const { return count; }
-    constexpr const Row& operator[](size_t i) const { return first[i]; }
-};
 
 enum class FieldType {
     kKey,     // offset of an 8-bit text: the item's key
@@ -64,29 +52,22 @@ struct Kind {
     const char* label;
     Form form;
     size_t size; // of a record, in bytes
-    Table<Field> fields;
+    Rows<Field> fields;
     size_t chain = 0; // offset of the link to the next item; 0: items are not chained
 
     // An entry whose items have no key has no default.
     bool HasKeys() const { return fields[0].type == FieldType::kKey; }
 };
 
-// A row of a name/value table, and what its value may be.
-struct FactRow {
-    const char* name;
-    Table<const char*> words; // empty: numbers
-    size_t numbers;           // how many: a single one stands alone, more stand in a text
-};
-
 struct EntryRow {
     const char* name;
     const Kind* kind;
-    size_t nameChars;             // most UTF-16 characters of a display name that the entry's list holds
-    Limits values;                // of an item's value, or of a range
-    bool defaultNeeded;           // readers take the default item from the entry
-    Table<const char*> keys = {}; // of the items, as far as readers take any; empty: any key
-    size_t mostItems = 0;         // that readers take; 0: any number
-    Table<FactRow> facts = {};    // of a name/value table; empty: its rows are the feature switches
+    size_t nameChars;            // most UTF-16 characters of a display name that the entry's list holds
+    Limits values;               // of an item's value, or of a range
+    bool defaultNeeded;          // readers take the default item from the entry
+    Rows<const char*> keys = {}; // of the items, as far as readers take any; empty: any key
+    size_t mostItems = 0;        // that readers take; 0: any number
+    Rows<FactRow> facts = {};    // of a name/value table; empty: its rows are the feature switches
 };
 
 constexpr Limits LimitsOf(const EntryRow& row, const Field& field) {
@@ -95,7 +76,7 @@ constexpr Limits LimitsOf(const EntryRow& row, const Field& field) {
 
 constexpr size_t kMaxKeyChars = 31;
 
-Table<EntryRow> KnownEntries();
+Rows<EntryRow> KnownEntries();
 
 // Null when there is no such entry. Case does not matter.
 const EntryRow* FindEntryRow(std::string_view name);

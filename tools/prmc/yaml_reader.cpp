@@ -46,12 +46,12 @@ void ReadValue(const Field& field, const YAML::Node& node, Value& value, Finding
 }
 
 Record ReadRecord(const Kind& kind, const YAML::Node& node, Findings& findings) {
-    Record record{PlaceOf(node), std::vector<Value>(kind.fields.size())};
+    Record record{PlaceOf(node), std::vector<Value>(kind.fields.count)};
     std::set<std::string> present;
     ForEachMember(node, "fields: {FIELD: VALUE, ...}", findings,
                   [&](const std::string& name, const YAML::Node& nameNode, const YAML::Node& valueNode) {
                       std::vector<std::string> known;
-                      for (size_t i = 0; i < kind.fields.size(); ++i) {
+                      for (size_t i = 0; i < kind.fields.count; ++i) {
                           known.emplace_back(kind.fields[i].name);
                           if (name == kind.fields[i].name) {
                               present.insert(name);

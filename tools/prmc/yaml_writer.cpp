@@ -41,7 +41,7 @@ size_t CountCharacters(const std::string& text) {
 // "FIELD: VALUE" for each field, empty for one that is left out.
 std::vector<std::string> Cells(const Kind& kind, const Record& record) {
     std::vector<std::string> cells;
-    for (size_t i = 0; i < kind.fields.size(); ++i) {
+    for (size_t i = 0; i < kind.fields.count; ++i) {
         const std::string value = FormatValue(kind.fields[i], record.values[i]);
         cells.push_back(value.empty() ? "" : std::string(kind.fields[i].name) + ": " + value);
     }
@@ -49,7 +49,7 @@ std::vector<std::string> Cells(const Kind& kind, const Record& record) {
 }
 
 // "{...}", each cell filled up to its column's width where another one follows.
-std::string Row(const std::vector<std::string>& cells, const std::vector<size_t>& widths) {
+std::string FormatRow(const std::vector<std::string>& cells, const std::vector<size_t>& widths) {
     std::string row;
     size_t due = 0; // spaces before the next cell
     for (size_t i = 0; i < cells.size(); ++i) {
@@ -67,9 +67,9 @@ std::string Row(const std::vector<std::string>& cells, const std::vector<size_t>
 }
 
 // One row for each record, in columns.
-std::vector<std::string> Rows(const Kind& kind, const std::vector<Record>& records) {
+std::vector<std::string> FormatRows(const Kind& kind, const std::vector<Record>& records) {
     std::vector<std::vector<std::string>> cells;
-    std::vector<size_t> widths(kind.fields.size());
+    std::vector<size_t> widths(kind.fields.count);
     for (const Record& record : records) {
         cells.push_back(Cells(kind, record));
         for (size_t i = 0; i < widths.size(); ++i)
@@ -77,7 +77,7 @@ std::vector<std::string> Rows(const Kind& kind, const std::vector<Record>& recor
     }
     std::vector<std::string> rows(cells.size());
     std::transform(cells.begin(), cells.end(), rows.begin(),
-                   [&](const std::vector<std::string>& row) { return Row(row, widths); });
+                   [&](const std::vector<std::string>& row) { return FormatRow(row, widths); });
     return rows;
 }
 
@@ -91,7 +91,7 @@ std::string FormatEntry(const Entry& entry) {
             text += "  " + FormatText(pair.name) + ": " + FormatText(pair.value) + "\n";
         return text;
     }
-    const std::vector<std::string> rows = Rows(kind, entry.records);
+    const std::vector<std::string> rows = FormatRows(kind, entry.records);
     if (kind.form != Form::kList)
         return text + " " + rows.front() + "\n";
     text += "\n";

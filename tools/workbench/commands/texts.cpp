@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr struct {
+const struct {
     const char* entry;
     const ControlTextRecord* rows;
 } kControlTexts[] = {

@@ -14,6 +14,7 @@ struct Rows {
 
     constexpr const Row* begin() const { return first; }
     constexpr const Row* end() const { return first + count; }
+    constexpr const Row& operator[](size_t i) const { return first[i]; }
 
     const Row* first = nullptr;
     size_t count = 0;

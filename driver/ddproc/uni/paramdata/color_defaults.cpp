@@ -2,15 +2,11 @@
 #include "paramdata/color_defaults.h"
 
 #include "base/text.h"
+#include "paramdata/color_keys.h"
 #include "paramdata/color_tables.h"
 #include "paramdata/default_fields.h"
 
 namespace {
-
-constexpr const char* kColorModes[] = {
-    "Color_Auto", "Color_Doc", "Color_Photo", "Color_Presen", "Color_DTP",
-    "Color_Web",  "Color_CAD", "Color_ICM",   "Color_Custom",
-};
 
 // Entries whose default is the value of an item of the colour table of the same name.
 struct ColorDefault {
@@ -69,11 +65,11 @@ void ApplyRgbSource(const PrmFile& file, const ColorDefault& row, ProfileEntry& 
         CopyText(profile.qualifier, item->display);
 }
 
-// A field that is 1 when the entry's default is this item, 0 when it is any other.
-void ApplyChoice(const PrmFile& file, const char* entry, const char* itemKey, uint8_t& field) {
+// A field that is 1 when the entry's default is the second of two items, 0 when it is any other.
+void ApplyChoice(const PrmFile& file, const char* entry, const char* const (&itemKeys)[2], uint8_t& field) {
     DefaultKey key;
     if (ReadDefaultKey(file, entry, key))
-        field = SameText(key, itemKey) ? 1 : 0;
+        field = SameText(key, itemKeys[1]) ? 1 : 0;
 }
 
 } // namespace
@@ -83,7 +79,7 @@ void ApplyColorModeDefault(const PrmFile& file, OemDevmode& settings) {
     if (!ReadDefaultKey(file, "ColorSetting", key))
         return;
     uint8_t mode = 0;
-    for (const char* name : kColorModes) {
+    for (const char* name : kColorModeKeys) {
         if (SameText(name, key))
             settings.colorMode = mode;
         ++mode;
@@ -92,7 +88,7 @@ void ApplyColorModeDefault(const PrmFile& file, OemDevmode& settings) {
 
 void ApplyObjectColorDefaults(const PrmFile& file, OemDevmode& settings) {
     ApplyColorDefaults(file, kTextAndImageDefaults, settings);
-    ApplyChoice(file, "Graphics", "Graph_MatchImage", settings.graphicsFollow);
+    ApplyChoice(file, "Graphics", kGraphicsFollowKeys, settings.graphicsFollow);
     ApplyColorDefaults(file, kGraphicsDefaults, settings);
 }
 
@@ -108,6 +104,6 @@ void ApplyProfileDefaults(const PrmFile& file, OemDevmode& settings) {
 }
 
 void ApplySimulationDefaults(const PrmFile& file, OemDevmode& settings) {
-    ApplyChoice(file, "MatchPaperColor", "MatchPaperColorON", settings.matchPaperColor);
+    ApplyChoice(file, "MatchPaperColor", kMatchPaperKeys, settings.matchPaperColor);
     ApplyColorDefault(file, kSimulationGrayDefault, settings);
 }

@@ -2,66 +2,13 @@
 #include "paramdata/color_tables.h"
 
 #include "base/text.h"
+#include "paramdata/color_keys.h"
 #include "paramdata/prm_readers.h"
 
 #include <cstring>
 #include <windows.h>
 
 namespace {
-
-enum Column { kText, kImage, kGraphics };
-
-// A value and the keys that stand for it, by kind of object. A value table ends at the value -1.
-struct ValueRow {
-    int32_t value;
-    char keys[3][32];
-};
-
-// clang-format off
-#define KEYS(name) {"Text_" name, "Img_" name, "Graph_" name}
-constexpr ValueRow kProfileValues[] = {
-    {0,   KEYS("DeviceRGB")},
-    {1,   KEYS("sRGB")},
-    {128, KEYS("AdobeRGB1998")},
-    {129, KEYS("AppleRGB")},
-    {130, KEYS("CIERGB")},
-    {131, KEYS("ColorMatchRGB")},
-    {132, KEYS("NTSC1953")},
-    {133, KEYS("PAL")},
-    {134, KEYS("SMPTE_C")},
-    {135, KEYS("sRGB_MS")},
-    {136, KEYS("WideGamutRGB")},
-    {137, KEYS("SMPTE_240M")},
-    {138, KEYS("EFIRGB")},
-    {139, KEYS("sRGB_Standard")},
-    {140, KEYS("ProPhotoRGB")},
-    {141, KEYS("BlueAdjust")},
-    {-1,  {}},
-};
-constexpr ValueRow kColorMatchValues[] = {
-    {0,   KEYS("Vivid")},
-    {1,   KEYS("Photographic")},
-    {2,   KEYS("Proof")},
-    {3,   KEYS("Match")},
-    {-1,  {}},
-};
-constexpr ValueRow kGrayValues[] = {
-    {0,   KEYS("4Color")},
-    {1,   KEYS("BandG")},
-    {2,   KEYS("BlackOnly")},
-    {-1,  {}},
-};
-// The files spell the first text key with one letter less.
-constexpr ValueRow kHalftoneValues[] = {
-    {0,   {"Text_UltraDetai", "Img_UltraDetail", "Graph_UltraDetail"}},
-    {1,   KEYS("Detail")},
-    {2,   KEYS("Smooth")},
-    {3,   {"", "", "Graph_HalftoneText"}},
-    {4,   {"", "", "Graph_HalftoneImage"}},
-    {-1,  {}},
-};
-#undef KEYS
-// clang-format on
 
 constexpr ItemRecord Item(const char* key, uint32_t value, const wchar_t* display = L"") {
     ItemRecord item = {};
@@ -75,35 +22,35 @@ constexpr ItemRecord Item(const char* key, uint32_t value, const wchar_t* displa
 
 // The table's first items, one for each row of the value table.
 template <size_t Items>
-constexpr ItemTable<Items> FromValues(const ValueRow* values, Column column) {
+constexpr ItemTable<Items> FromValues(const ColorKeyRow* values, ColorKeyColumn column) {
     ItemTable<Items> table = {};
     for (size_t i = 0; i < Items; ++i)
         table.items[i] = Item(values[i].keys[column], static_cast<uint32_t>(values[i].value));
     return table;
 }
 
-constexpr ObjectColorTables<3> CompiledIn(Column column, const char* destination) {
-    return {FromValues<2>(kProfileValues, column),    FromValues<16>(kProfileValues, column),
-            FromValues<4>(kColorMatchValues, column), FromValues<3>(kGrayValues, column),
-            FromValues<3>(kHalftoneValues, column),   {{Item(destination, 0)}}};
+constexpr ObjectColorTables<3> CompiledIn(ColorKeyColumn column) {
+    return {FromValues<2>(kProfileKeys, column),    FromValues<16>(kProfileKeys, column),
+            FromValues<4>(kColorMatchKeys, column), FromValues<3>(kGrayKeys, column),
+            FromValues<3>(kHalftoneKeys, column),   FromValues<1>(kDestinationKeys, column)};
 }
 
 constexpr ObjectColorTables<5> CompiledInGraphics() {
-    return {FromValues<2>(kProfileValues, kGraphics),
-            FromValues<16>(kProfileValues, kGraphics),
-            FromValues<4>(kColorMatchValues, kGraphics),
-            FromValues<3>(kGrayValues, kGraphics),
+    return {FromValues<2>(kProfileKeys, kGraphicsKeys),
+            FromValues<16>(kProfileKeys, kGraphicsKeys),
+            FromValues<4>(kColorMatchKeys, kGraphicsKeys),
+            FromValues<3>(kGrayKeys, kGraphicsKeys),
             {{Item("Graph_HalftoneText", 3, L"Same as Text Setting"),
               Item("Graph_HalftoneImage", 4, L"Same as Image Setting"),
               Item("Graph_UltraDetail", 0, L"UltraDetail"), Item("Graph_Detail", 1, L"Detail"),
               Item("Graph_Smooth", 2, L"Smooth")}},
-            {{Item("Graph_DestAuto", 0)}}};
+            FromValues<1>(kDestinationKeys, kGraphicsKeys)};
 }
 
 constexpr ColorTables kCompiledIn = {
     {{Item("DeviceRGB", 0), Item("sRGB", 1)}},
-    CompiledIn(kText, "Text_DestAuto"),
-    CompiledIn(kImage, "Img_DestAuto"),
+    CompiledIn(kTextKeys),
+    CompiledIn(kImageKeys),
     CompiledInGraphics(),
     {{Item("Simu_None", 0), Item("Simu_SWOP", 1), Item("Simu_Euroscale", 2), Item("Simu_CommercialPress", 3),
       Item("Simu_TOYO", 4), Item("Simu_DIC", 5)}},
@@ -114,40 +61,41 @@ constexpr ColorTables kCompiledIn = {
 struct TableDescription {
     const char* entry;
     ItemRecord* items;
-    uint32_t capacity;      // items, without the end record
-    ItemRecord* shortItems; // a second table that takes the first two items; null: none
-    const ValueRow* values; // null: an item's value is its position
-    Column column;
+    uint32_t capacity;         // items, without the end record
+    ItemRecord* shortItems;    // a second table that takes the first two items; null: none
+    const ColorKeyRow* values; // null: an item's value is its position
+    ColorKeyColumn column;
     uint32_t destinationsOf; // kind of object whose destination list this is; 0: no destination list
 };
 constexpr uint32_t kShortCapacity = 2;
 
 template <size_t Items>
-constexpr TableDescription Table(const char* entry, ItemTable<Items>& table, const ValueRow* values = nullptr,
-                                 Column column = kText, ItemRecord* shortItems = nullptr) {
+constexpr TableDescription Table(const char* entry, ItemTable<Items>& table,
+                                 const ColorKeyRow* values = nullptr, ColorKeyColumn column = kTextKeys,
+                                 ItemRecord* shortItems = nullptr) {
     return {entry, table.items, Items, shortItems, values, column, 0};
 }
 
 constexpr TableDescription Destinations(const char* entry, ItemTable<1>& table, uint32_t kind) {
-    return {entry, table.items, 1, nullptr, nullptr, kText, kind};
+    return {entry, table.items, 1, nullptr, nullptr, kTextKeys, kind};
 }
 
 // In the order of filling.
 // clang-format off
 constexpr TableDescription kTables[] = {
     Table("RGBProf",             colorTables.rgbProfiles),
-    Table("Text_RGBProf",        colorTables.text.rgbProfiles,      kProfileValues,    kText,     colorTables.text.shortRgbProfiles.items),
-    Table("Text_RGBColorMatch",  colorTables.text.colorMatches,     kColorMatchValues, kText),
-    Table("Text_RGBGray",        colorTables.text.grays,            kGrayValues,       kText),
-    Table("Text_Halftone",       colorTables.text.halftones,        kHalftoneValues,   kText),
-    Table("Img_RGBProf",         colorTables.image.rgbProfiles,     kProfileValues,    kImage,    colorTables.image.shortRgbProfiles.items),
-    Table("Img_RGBColorMatch",   colorTables.image.colorMatches,    kColorMatchValues, kImage),
-    Table("Img_RGBGray",         colorTables.image.grays,           kGrayValues,       kImage),
-    Table("Img_Halftone",        colorTables.image.halftones,       kHalftoneValues,   kImage),
-    Table("Graph_RGBProf",       colorTables.graphics.rgbProfiles,  kProfileValues,    kGraphics, colorTables.graphics.shortRgbProfiles.items),
-    Table("Graph_RGBColorMatch", colorTables.graphics.colorMatches, kColorMatchValues, kGraphics),
-    Table("Graph_RGBGray",       colorTables.graphics.grays,        kGrayValues,       kGraphics),
-    Table("Graph_Halftone",      colorTables.graphics.halftones,    kHalftoneValues,   kGraphics),
+    Table("Text_RGBProf",        colorTables.text.rgbProfiles,      kProfileKeys,    kTextKeys,     colorTables.text.shortRgbProfiles.items),
+    Table("Text_RGBColorMatch",  colorTables.text.colorMatches,     kColorMatchKeys, kTextKeys),
+    Table("Text_RGBGray",        colorTables.text.grays,            kGrayKeys,       kTextKeys),
+    Table("Text_Halftone",       colorTables.text.halftones,        kHalftoneKeys,   kTextKeys),
+    Table("Img_RGBProf",         colorTables.image.rgbProfiles,     kProfileKeys,    kImageKeys,    colorTables.image.shortRgbProfiles.items),
+    Table("Img_RGBColorMatch",   colorTables.image.colorMatches,    kColorMatchKeys, kImageKeys),
+    Table("Img_RGBGray",         colorTables.image.grays,           kGrayKeys,       kImageKeys),
+    Table("Img_Halftone",        colorTables.image.halftones,       kHalftoneKeys,   kImageKeys),
+    Table("Graph_RGBProf",       colorTables.graphics.rgbProfiles,  kProfileKeys,    kGraphicsKeys, colorTables.graphics.shortRgbProfiles.items),
+    Table("Graph_RGBColorMatch", colorTables.graphics.colorMatches, kColorMatchKeys, kGraphicsKeys),
+    Table("Graph_RGBGray",       colorTables.graphics.grays,        kGrayKeys,       kGraphicsKeys),
+    Table("Graph_Halftone",      colorTables.graphics.halftones,    kHalftoneKeys,   kGraphicsKeys),
     Table("SimulationProf",      colorTables.simulations),
     Table("DestinationProf",     colorTables.destinations),
     Table("Simu_CMYKGray",       colorTables.simulationGrays),
@@ -165,7 +113,7 @@ const ItemRecord* FindItem(const ItemRecord* items, const char* key) {
 }
 
 // The value of the first row with this key; 0 without one.
-uint32_t ValueOf(const ValueRow* values, Column column, const char (&key)[32]) {
+uint32_t ValueOf(const ColorKeyRow* values, ColorKeyColumn column, const char (&key)[32]) {
     for (; values->value != -1; ++values)
         if (SameText(values->keys[column], key))
             return static_cast<uint32_t>(values->value);

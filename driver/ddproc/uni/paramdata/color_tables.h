@@ -3,6 +3,7 @@
 #ifndef PARAMDATA_COLOR_TABLES_H
 #define PARAMDATA_COLOR_TABLES_H
 
+#include "paramdata/color_keys.h"
 #include "paramdata/device_table.h"
 
 // Items of one setting and the end record, which no contents of the file can overwrite.
@@ -23,13 +24,13 @@ struct ObjectColorTables {
 };
 
 struct ColorTables {
-    ItemTable<2> rgbProfiles; // for the whole page
+    ItemTable<kMaxPageProfiles> rgbProfiles; // for the whole page
     ObjectColorTables<3> text;
     ObjectColorTables<3> image;
     ObjectColorTables<5> graphics;
-    ItemTable<6> simulations;
-    ItemTable<1> destinations; // for the whole page
-    ItemTable<3> simulationGrays;
+    ItemTable<kMaxSimulations> simulations;
+    ItemTable<kMaxPageDestinations> destinations; // for the whole page
+    ItemTable<kMaxSimulationGrays> simulationGrays;
 };
 extern ColorTables colorTables;
 

@@ -10,9 +10,9 @@
 struct PrmFile;
 
 // Each is filled from the entry of its name: "Property_0", "Dlg_ColorSetting", "Dlg_PaperSourceTraySetting".
-extern ControlTextRecord propertyTexts[17];
-extern ControlTextRecord colorDialogTexts[31];
-extern ControlTextRecord trayDialogTexts[16];
+extern ControlTextRecord (&propertyTexts)[17];
+extern ControlTextRecord (&colorDialogTexts)[31];
+extern ControlTextRecord (&trayDialogTexts)[16];
 
 // Fills the display texts of a table from the file's entry. Keys that no row has are skipped, empty texts
 // change nothing. False, and the table as it was, when the file lacks the entry.

@@ -4,23 +4,31 @@
 #include "base/text.h"
 #include "paramdata/prm_readers.h"
 
-// clang-format off
-TraySourceRecord inputSlots[] = {
-    // key           bin    text  0   front cover     back cover      separator page  interleave       inserter front/back   per-page source
-    {"InTrayAuto",       7, "", 0, {}},
-    {"SAMEASBODY",   32767, "", 0, {"FCover_Auto",   "BCover_Auto",   "SPage_Auto",   "",              "",         "",         "PPSTraySameAsBody"}},
-    {"InTray1",        257, "", 0, {"FCover_Tray1",  "BCover_Tray1",  "SPage_Tray1",  "OHPInt_Tray1",  "",         "",         "PPSTray1"}},
-    {"InTray2",        258, "", 0, {"FCover_Tray2",  "BCover_Tray2",  "SPage_Tray2",  "OHPInt_Tray2",  "",         "",         "PPSTray2"}},
-    {"InTray3",        259, "", 0, {"FCover_Tray3",  "BCover_Tray3",  "SPage_Tray3",  "OHPInt_Tray3",  "",         "",         "PPSTray3"}},
-    {"InTray4",        260, "", 0, {"FCover_Tray4",  "BCover_Tray4",  "SPage_Tray4",  "OHPInt_Tray4",  "",         "",         "PPSTray4"}},
-    {"InTray5",        261, "", 0, {"FCover_Tray5",  "BCover_Tray5",  "SPage_Tray5",  "OHPInt_Tray5",  "",         "",         "PPSTray5"}},
-    {"InTrayManual",     4, "", 0, {"FCover_Manual", "BCover_Manual", "SPage_Manual", "OHPInt_Manual", "",         "",         "PPSMANUAL"}},
-    {"PITray1",       1001, "", 0, {"",              "",              "",             "",              "PIFTray1", "PIBTray1", "PPSPITray1"}},
-    {"PITray2",       1002, "", 0, {"",              "",              "",             "",              "PIFTray2", "PIBTray2", "PPSPITray2"}},
-    {"InTrayLCT",     1000, "", 0, {"FCover_LCT",    "BCover_LCT",    "",             "OHPInt_LCT",    "",         "",         "PPSLCT"}},
-    {}, // end
+namespace {
+
+constexpr size_t kSourceCount = sizeof(kPaperSources) / sizeof(kPaperSources[0]);
+struct InputSlots {
+    TraySourceRecord records[kSourceCount + 1]; // the last one ends the list
 };
-// clang-format on
+
+constexpr InputSlots CompiledIn() {
+    InputSlots slots = {};
+    TraySourceRecord* slot = slots.records;
+    for (const PaperSourceRow& source : kPaperSources) {
+        CopyText(slot->key, source.key);
+        slot->bin = source.bin;
+        for (size_t column = 0; column < kTraySelectionCount; ++column)
+            CopyText(slot->selectionKeys[column], source.selectionKeys[column]);
+        ++slot;
+    }
+    return slots;
+}
+
+InputSlots slots = CompiledIn();
+
+} // namespace
+
+TraySourceRecord (&inputSlots)[12] = slots.records;
 
 void UpdateInputSlots(const PrmFile& file) {
     PrmItems items;

@@ -3,18 +3,9 @@
 #ifndef PARAMDATA_INPUT_SLOTS_H
 #define PARAMDATA_INPUT_SLOTS_H
 
-#include <cstddef>
-#include <cstdint>
+#include "paramdata/paper_sources.h"
 
 struct PrmFile;
-
-// The features that select a tray, in the order of their columns below and of their lists in the device
-// table.
-inline constexpr const char* kTraySelectionFeatures[] = {
-    "FCoverTray",   "BCoverTray",  "SeparatePageTray",    "OHPIntTray",
-    "PIFrontCover", "PIBackCover", "PerPageListPaperSrc",
-};
-constexpr size_t kTraySelectionCount = sizeof(kTraySelectionFeatures) / sizeof(kTraySelectionFeatures[0]);
 
 #pragma pack(push, 1)
 struct TraySourceRecord {
@@ -30,7 +21,7 @@ static_assert(sizeof(TraySourceRecord) == 388 && offsetof(TraySourceRecord, bin)
 #pragma pack(pop)
 
 // Ends at an empty key. The first row is the automatic choice.
-extern TraySourceRecord inputSlots[12];
+extern TraySourceRecord (&inputSlots)[12];
 
 // Whether this bin number is the automatic choice, which is no tray.
 inline bool IsAutomaticBin(uint32_t bin) {

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "paramdata/device_table.h"
+#include "paramdata/fact_names.h"
 #include "paramdata/prm_readers.h"
 
 namespace {
@@ -46,15 +47,15 @@ uint32_t SwitchType(const char* value) {
     return number;
 }
 
-uint8_t PrintRateUnit(const char* value) {
-    constexpr const char* kUnits[] = {"CPS", "LPM", "IPM"};
-    uint8_t number = 2;
-    for (const char* unit : kUnits) {
-        if (SameText(value, unit))
-            return number;
-        ++number;
+// The word's position, counted from `first`; `otherwise` for a value that is none of the words.
+template <size_t Count>
+uint8_t WordNumber(const char* value, const char* const (&words)[Count], uint8_t first, uint8_t otherwise) {
+    for (const char* word : words) {
+        if (SameText(value, word))
+            return first;
+        ++first;
     }
-    return 1;
+    return otherwise;
 }
 
 void StorePdlTypes(DeviceTable& table, const char* value) {
@@ -65,37 +66,35 @@ void StorePdlTypes(DeviceTable& table, const char* value) {
     table.pdlTypeB = second;
 }
 
-struct NamedValue {
-    const char* name;
-    void (*store)(DeviceTable& table, const char* value);
-};
+using StoreFact = void (*)(DeviceTable& table, const char* value);
 
+// One for each row of kDeviceFacts, in the same order.
 // clang-format off
-constexpr NamedValue kDeviceFacts[] = {
-    {"PrintRatePPM",      [](DeviceTable& table, const char* value) { table.printRatePpm = ParseDecimal(value); }},
-    {"PrintRate",         [](DeviceTable& table, const char* value) { table.printRate = ParseDecimal(value); }},
-    {"PrintRateUnit",     [](DeviceTable& table, const char* value) { table.printRateUnit = PrintRateUnit(value); }},
-    {"Staple",            [](DeviceTable& table, const char* value) { table.stapler = SameText(value, "TRUE"); }},
-    {"ColorDevice",       [](DeviceTable& table, const char* value) { table.colorDevice = SameText(value, "TRUE"); }},
-    {"PDLType",           StorePdlTypes},
-    {"MachineEncryption", [](DeviceTable& table, const char* value) { table.machineEncryption = SameText(value, "AES") ? 1 : 2; }},
+constexpr StoreFact kStoreDeviceFact[] = {
+    [](DeviceTable& table, const char* value) { table.printRatePpm = ParseDecimal(value); },
+    [](DeviceTable& table, const char* value) { table.printRate = ParseDecimal(value); },
+    [](DeviceTable& table, const char* value) { table.printRateUnit = WordNumber(value, kPrintRateUnits, 1, 1); },
+    [](DeviceTable& table, const char* value) { table.stapler = WordNumber(value, kTruthWords, 0, 0); },
+    [](DeviceTable& table, const char* value) { table.colorDevice = WordNumber(value, kTruthWords, 0, 0); },
+    StorePdlTypes,
+    [](DeviceTable& table, const char* value) { table.machineEncryption = WordNumber(value, kEncryptions, 1, 2); },
 };
 
-// A row can only set it: one of another value does not take it back.
-constexpr NamedValue kFigureType[] = {
-    {"FigureType",        [](DeviceTable& table, const char* value) { table.figureType |= SameText(value, "MFP") ? 1 : 0; }},
+// A row can only set it: a later one of another value does not clear it.
+constexpr StoreFact kStoreFigureFact[] = {
+    [](DeviceTable& table, const char* value) { table.figureType |= WordNumber(value, kFigureTypes, 0, 0); },
 };
 // clang-format on
 
 template <size_t Count>
-void BuildNamedValues(const PrmFile& file, const char* entry, const NamedValue (&names)[Count],
-                      DeviceTable& table) {
+void BuildFacts(const PrmFile& file, const char* entry, const FactRow (&facts)[Count],
+                const StoreFact (&store)[Count], DeviceTable& table) {
     ForEachRow(file, entry, [&](const PrmTableRow& row) {
         char value[kValueCapacity];
         CopyText(value, row.value);
-        for (const NamedValue& named : names)
-            if (SameText(row.name, named.name))
-                named.store(table, value);
+        for (size_t i = 0; i < Count; ++i)
+            if (SameText(row.name, facts[i].name))
+                store[i](table, value);
     });
 }
 
@@ -115,9 +114,9 @@ void BuildFeatureSwitches(const PrmFile& file, DeviceTable& table) {
 }
 
 void BuildDeviceFacts(const PrmFile& file, DeviceTable& table) {
-    BuildNamedValues(file, "DevInfo", kDeviceFacts, table);
+    BuildFacts(file, "DevInfo", kDeviceFacts, kStoreDeviceFact, table);
 }
 
 void BuildFigureType(const PrmFile& file, DeviceTable& table) {
-    BuildNamedValues(file, "PaperSizeFigure", kFigureType, table);
+    BuildFacts(file, "PaperSizeFigure", kFigureFacts, kStoreFigureFact, table);
 }

@@ -9,39 +9,16 @@
 #include <windows.h>
 
 MediaTypeLists* mediaTypeLists;
-MediaTypeColumn mediaTypeColumns[] = {
-    // clang-format off
-    {L"Tray",        "MediaTypeList_Tray"},
-    {L"Size",        "MediaTypeList_Size"},
-    {L"Orientation", "MediaTypeList_Orient"},
-    {L"Type",        "MediaTypeList_Type"},
-    {L"Weight",      "MediaTypeList_Weight"},
-    {L"Color",       "MediaTypeList_Color"},
-    {L"Hole",        "MediaTypeList_Hole"},
-    {}, // end
-    // clang-format on
-};
 
 namespace {
 
-// Items that a list has if the file has a text for them, in this order after those of the device table.
-constexpr uint32_t kUnknown = UINT32_MAX;
-constexpr struct {
-    MediaTypeList list;
-    const char* key;
-    uint32_t value;
-} kTextItems[] = {
-    // clang-format off
-    {kMediaSize,        "MediaTypeList_Size_Unknown",   kUnknown},
-    {kMediaOrientation, "MediaTypeList_Portrait",       1},
-    {kMediaOrientation, "MediaTypeList_Landscape",      2},
-    {kMediaOrientation, "MediaTypeList_Orient_Unknown", kUnknown},
-    {kMediaType,        "MediaTypeList_Type_Unknown",   kUnknown},
-    {kMediaWeight,      "MediaTypeList_Weight_Unknown", kUnknown},
-    {kMediaColor,       "MediaTypeList_Color_Unknown",  kUnknown},
-    {kMediaPrePunched,        "MediaTypeList_Hole_Unknown",   kUnknown},
-    // clang-format on
-};
+// The columns' keys are the entries of the lists; the first column has an entry of its own.
+constexpr MediaTypeColumn Column(const wchar_t* title, const char* key) {
+    MediaTypeColumn column = {};
+    CopyText(column.title, title);
+    CopyText(column.key, key);
+    return column;
+}
 
 ItemRecord MakeItem(uint32_t value) {
     ItemRecord item = {};
@@ -53,10 +30,11 @@ ItemRecord MakeItem(uint32_t value) {
 
 // Adds the items of the list that have a text in the entry of the list's column.
 void AddTextItems(const PrmFile& file, MediaTypeList list, ItemRecord* to) {
-    const char* entry = mediaTypeColumns[1 + list].key;
-    for (const auto& item : kTextItems) {
+    for (const auto& item : kMediaTextItems) {
         wchar_t text[sizeof(to->display) / sizeof(wchar_t)];
-        if (item.list != list || !PrmGetItemText(file, entry, item.key, text, sizeof(text) / sizeof(text[0])))
+        if (item.list != list
+            || !PrmGetItemText(file, kMediaTypeListEntries[list], item.key, text,
+                               sizeof(text) / sizeof(text[0])))
             continue;
         *to = MakeItem(item.value);
         CopyText(to->head.key, item.key);
@@ -69,7 +47,7 @@ void AddTextItems(const PrmFile& file, MediaTypeList list, ItemRecord* to) {
 template <typename Record>
 ItemRecord* BuildList(const PrmFile& file, MediaTypeList list, const Record* records) {
     const Rows<Record> listed = Listed(records);
-    const size_t capacity = listed.count + sizeof(kTextItems) / sizeof(kTextItems[0]) + 1;
+    const size_t capacity = listed.count + sizeof(kMediaTextItems) / sizeof(kMediaTextItems[0]) + 1;
     auto* items = static_cast<ItemRecord*>(GlobalAlloc(GPTR, capacity * sizeof(ItemRecord)));
     if (items == nullptr)
         return nullptr;
@@ -85,6 +63,19 @@ ItemRecord* BuildList(const PrmFile& file, MediaTypeList list, const Record* rec
 }
 
 } // namespace
+
+MediaTypeColumn mediaTypeColumns[] = {
+    // clang-format off
+    Column(L"Tray",        "MediaTypeList_Tray"),
+    Column(L"Size",        kMediaTypeListEntries[kMediaSize]),
+    Column(L"Orientation", kMediaTypeListEntries[kMediaOrientation]),
+    Column(L"Type",        kMediaTypeListEntries[kMediaType]),
+    Column(L"Weight",      kMediaTypeListEntries[kMediaWeight]),
+    Column(L"Color",       kMediaTypeListEntries[kMediaColor]),
+    Column(L"Hole",        kMediaTypeListEntries[kMediaPrePunched]),
+    {}, // end
+    // clang-format on
+};
 
 MediaTypeLists* BuildMediaTypeLists(const PrmFile* file, const DeviceTable* table) {
     if (file == nullptr || table == nullptr)

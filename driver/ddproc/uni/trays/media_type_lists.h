@@ -5,10 +5,7 @@
 
 #include "paramdata/control_texts.h"
 #include "paramdata/device_table.h"
-
-// The attributes, by position of their lists.
-enum MediaTypeList { kMediaSize, kMediaOrientation, kMediaType, kMediaWeight, kMediaColor, kMediaPrePunched };
-constexpr size_t kMediaTypeListCount = 6;
+#include "paramdata/media_list_keys.h"
 
 // Each list ends at the first empty key. The value -1 stands for "unknown".
 struct MediaTypeLists {
