@@ -1,5 +1,4 @@
-// Short ways through prmc's engines for its tests, and the small model whose file layout is known byte by
-// byte.
+// Helpers that run prmc's readers and writers, and a small model with a known binary layout.
 #ifndef TESTS_PRMC_ENGINE_SUPPORT_H
 #define TESTS_PRMC_ENGINE_SUPPORT_H
 
@@ -10,19 +9,21 @@
 #include <string>
 #include <vector>
 
-// One entry of each form. Where its blocks lie in the file is worked out in layout_test.cpp.
+using Lines = std::vector<std::string>;
+
+// One entry of each form, as prmc dumps it. layout_test.cpp has its bytes.
 extern const char* const kSmallModel;
 
-// Reads and applies the rules; every finding as "LINE:COLUMN: MESSAGE", notes with "note: ".
-Model FromYaml(const std::string& text, std::vector<std::string>& messages);
+// Reads a model and applies the rules. Appends each finding as "LINE:COLUMN: MESSAGE", notes with "note: ".
+Model FromYaml(const std::string& text, Lines& messages);
 
-// The same for a binary file; findings without their places.
-Model FromPrm(const std::string& bytes, std::vector<std::string>& messages);
+// The same for a binary file, without the places.
+Model FromPrm(const std::string& bytes, Lines& messages);
 
-// Binary file of a model that must have no faults.
+// The binary file of a model without errors.
 std::string Build(const std::string& yaml);
 
-// Numbers of the file, 32 bits each.
+// 32-bit numbers, little-endian.
 std::string Words(std::initializer_list<uint32_t> words);
 
 #endif

@@ -1,4 +1,4 @@
-// Where everything lies in a binary file: the small model's bytes, worked out by hand from the file's layout.
+// The layout of binary files. The expected bytes are computed by hand.
 #include "engine_support.h"
 
 #include <cstdint>
@@ -16,15 +16,13 @@ std::string EntryBlock(const char* name, uint32_t firstItem, uint32_t next) {
     return Text(name, 32) + Words({firstItem, 0, 0, 0, next});
 }
 
-struct Piece {
-    uint32_t at;
-    const char* what;
-    std::string bytes;
-};
-
-TEST(Layout, SmallModelByteByByte) {
+TEST(Layout, EveryByteOfTheSmallModel) {
     // clang-format off
-    const Piece pieces[] = {
+    const struct {
+        uint32_t at;
+        const char* what;
+        std::string bytes;
+    } pieces[] = {
         {0x000, "header: chain end", Words({0, 0x2B0})},
         {0x008, "Copies", EntryBlock("Copies", 0, 0x78)},
         {0x03C, "info: no items", Words({0, 0, 0})},
@@ -58,7 +56,7 @@ TEST(Layout, SmallModelByteByByte) {
     // clang-format on
     const std::string built = Build(kSmallModel);
     size_t at = 0;
-    for (const Piece& piece : pieces) {
+    for (const auto& piece : pieces) {
         EXPECT_EQ(at, piece.at) << piece.what;
         EXPECT_EQ(built.substr(at, piece.bytes.size()), piece.bytes) << piece.what;
         at += piece.bytes.size();
@@ -66,79 +64,51 @@ TEST(Layout, SmallModelByteByByte) {
     EXPECT_EQ(built.size(), at);
 }
 
-// Where the first record of a file's first entry lies: behind the header, the entry and one item offset.
+// Offset of the first record of a file's first entry: after the header, the entry and one item offset.
 constexpr uint32_t kRecord = 8 + 52 + 12 + 4;
 
-// Fields of the larger records, by the offset that their readers use.
-TEST(Layout, PaperRecord) {
-    const std::string built = Build(R"(
-PaperSize:
-  default: P
-  items:
-    - {key: P, name: n, secondName: s, value: 9, width: 2100, length: 2970, further: [31, 32],
-       set2: [128, 129], margins: [1, 2, 3, 4], set5: [272, 0, 0, 275], text: paper, values: [440, 444],
-       shortName: short, longValues: [480, 484, 488], longText: long}
-)");
-    const auto expectWord = [&](size_t offset, uint32_t word) {
-        EXPECT_EQ(built.substr(kRecord + offset, 4), Words({word})) << "at " << offset;
-    };
+TEST(Layout, FieldsOfEveryRecord) {
+    const char* const paper =
+        "PaperSize: {default: P, items: [{key: P, name: n, secondName: s, value: 9, width: 2100, "
+        "length: 2970, further: [31, 32], set2: [128, 129], margins: [1, 2, 3, 4], "
+        "set5: [272, 0, 0, 275], text: paper, values: [440, 444], shortName: short, "
+        "longValues: [480, 484, 488], longText: long}]}";
+    const char* const outputPaper =
+        "OutPaperSize: {default: K, items: [{key: K, name: n, secondName: s, value: 357, "
+        "width: 21, length: 29, values: [1, 2]}]}";
     // clang-format off
-    const uint32_t words[][2] = {{16, 9},    {24, 2100},  {28, 2970}, {32, 31},   {36, 32},   {40, 0},
-                                 {44, 0},    {124, 1},    {128, 128}, {132, 129}, {136, 1},   {148, 4},
-                                 {152, 0},   {272, 272},  {284, 275}, {288, 1},   {292, 0},   {296, 1},
-                                 {440, 440}, {444, 444},  {480, 480}, {484, 484}, {488, 488}};
-    // clang-format on
-    for (const auto& [offset, word] : words)
-        expectWord(offset, word);
-    expectWord(0, kRecord + 620); // key: "P" and its end
-    expectWord(8, kRecord + 622); // display names: "n", then "s"
-    expectWord(308, kRecord + 626);
-    EXPECT_EQ(built.substr(kRecord + 312, 128), Text("paper", 128));
-    EXPECT_EQ(built.substr(kRecord + 448, 32), Text("short", 32));
-    EXPECT_EQ(built.substr(kRecord + 492, 128), Text("long", 128));
-}
-
-struct RecordCase {
-    const char* yaml;
-    size_t offset; // from the first record
-    std::string bytes;
-};
-
-TEST(Layout, OtherRecords) {
-    // clang-format off
-    const RecordCase cases[] = {
-        {"InTray: {default: K, items: [{key: K, name: n, value: 258, enabled: 1, text: T}]}", 12,
-         Words({258, 0, 0, 1}) + Text("T", 128)},
+    const struct {
+        const char* yaml;
+        size_t offset; // from the first record
+        std::string bytes;
+    } cases[] = {
+        {paper, 0, Words({kRecord + 620, 0, kRecord + 622, 0, 9, 0, 2100, 2970, 31, 32, 0, 0})},
+        {paper, 124, Words({1, 128, 129, 1, 2, 3, 4, 0})},
+        {paper, 272, Words({272, 0, 0, 275, 1, 0, 1, 0, 0, kRecord + 626}) + Text("paper", 128)},
+        {paper, 440, Words({440, 444}) + Text("short", 32) + Words({480, 484, 488}) + Text("long", 128)},
+        {"InTray: {default: K, items: [{key: K, name: n, value: 258, enabled: 1, text: T}]}",
+         12, Words({258, 0, 0, 1}) + Text("T", 128)},
         {"Collate: {default: K, items: [{key: K, name: n, value: 1, extra: 70000, text: a, secondText: b}]}",
          12, Words({1, 0, 0, 70000}) + Text("a", 64) + Text("b", 64)},
-        {"TabPaperPaperSize: {items: [{key: K, name: n, value: 9, values: [1, 2, 3]}]}",
-         12, Words({9, 1, 2, 3})},
-        {"Resolution: {default: K, items: [{key: K, name: n, values: [600, 601, 8]}]}", 12,
-         Words({0, 0, 600, 601, 8})},
-        {"OutPaperSize: {default: K, items: [{key: K, name: n, secondName: s, value: 357, width: 21, "
-         "length: 29, values: [1, 2]}]}",
-         312, Words({1, 2})},
-        {"OutPaperSize: {default: K, items: [{key: K, name: n, secondName: s, value: 357, width: 21, "
-         "length: 29}]}",
-         12, Words({0, 357, 0, 21, 29})},
+        {"TabPaperPaperSize: {items: [{key: K, name: n, value: 9, values: [1, 2, 3]}]}", 12, Words({9, 1, 2, 3})},
+        {"Resolution: {default: K, items: [{key: K, name: n, values: [600, 601, 8]}]}", 12, Words({0, 0, 600, 601, 8})},
+        {outputPaper, 12, Words({0, 357, 0, 21, 29})},
+        {outputPaper, 312, Words({1, 2})},
         {"PaperOption1: {default: K, items: [{key: K, name: n, value: 200}]}", 12, Words({200, 0, 0, 0})},
         {"Watermark: {default: K, items: [{key: K, name: n, text: t, font: f, values: [48, 52], "
          "color: [1, 2, 255], value2: 60, block: [64, 68], value3: 72}]}",
-         48, Words({48, 52, 0xFF0201, 60, 64, 68, 72, 0})},
-        {"Watermark: {default: K, items: [{key: K, name: n, text: t, font: f}]}", 0,
-         Words({kRecord + 80, 0, 0, 0, 0, kRecord + 82, 0, 0, kRecord + 86, 0, 0, kRecord + 90, 0})},
-        {"Text_Destination: {default: Text_DestAuto, items: [{key: Text_DestAuto}]}", 0,
-         Words({kRecord + 16, 0, 0, 0}) + "Text_DestAuto"},
-        {"Text_Destination: {default: Text_DestAuto, items: [{key: Text_DestAuto, name: \"\"}]}", 0,
-         Words({kRecord + 16, 0, kRecord + 30, 0})},
+         0, Words({kRecord + 80, 0, 0, 0, 0, kRecord + 82, 0, 0, kRecord + 86, 0, 0, kRecord + 90, 48, 52, 0xFF0201,
+                   60, 64, 68, 72, 0})},
+        {"Text_Destination: {default: Text_DestAuto, items: [{key: Text_DestAuto}]}",
+         0, Words({kRecord + 16, 0, 0, 0}) + "Text_DestAuto"},
         {"ImgShiftMFP_BackV: {min: -832, max: 832, default: -1}", 32, Words({0xFFFFFCC0, 832, 0xFFFFFFFF})},
-        {"MachineInfo: {items: [{name: M, details: {Engine: 35 ppm}}]}", 0,
-         Text("M", 16) + Words({1, kRecord + 24}) + Text("Engine", 16) + Text("35 ppm", 16)},
+        {"MachineInfo: {items: [{name: M, details: {Engine: 35 ppm}}]}",
+         0, Text("M", 16) + Words({1, kRecord + 24}) + Text("Engine", 16) + Text("35 ppm", 16)},
     };
     // clang-format on
-    for (const RecordCase& record : cases)
+    for (const auto& record : cases)
         EXPECT_EQ(Build(record.yaml).substr(kRecord + record.offset, record.bytes.size()), record.bytes)
-            << record.yaml;
+            << record.yaml << " at " << record.offset;
 }
 
 } // namespace

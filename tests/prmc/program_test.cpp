@@ -1,5 +1,4 @@
-// The program as a whole: exit codes, where its output goes, and that a failed build leaves the old file
-// alone.
+// The program: exit codes, output, and that a failed build leaves the old file unchanged.
 #include "engine_support.h"
 
 #include "common/files.h"
@@ -14,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Runs in a folder of its own that holds good.yaml, other.yaml, bad.yaml, good.PRM and broken.PRM.
+// Runs prmc in a temporary folder with good.yaml, other.yaml, bad.yaml, good.PRM and broken.PRM.
 class Program : public testing::Test {
 protected:
     void SetUp() override {
@@ -37,9 +36,6 @@ protected:
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
-    std::string Out() const { return ReadFile(Path("stdout.txt")); }
-    std::string Errors() const { return ReadFile(Path("stderr.txt")); }
-
     fs::path folder;
 };
 
@@ -54,29 +50,29 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"build good.yaml -o new.PRM", 0, "", ""},
         {"build bad.yaml -o new.PRM", 1, "", "bad.yaml:1:1: unknown entry 'Countri'"},
         {"build none.yaml -o new.PRM", 2, "", "prmc: cannot read 'none.yaml': No such file or directory"},
-        {"build good.yaml -o none/new.PRM", 2, "", "prmc: cannot write beside 'none/new.PRM': No such file"},
+        {"build good.yaml -o none/new.PRM", 2, "", "prmc: cannot create a temporary file next to 'none/new.PRM': "},
         {"build good.yaml", 2, "", "prmc: --output is required"},
-        {"build good.PRM -o new.PRM", 2, "", "prmc: 'good.PRM' is a binary file, wanted is a model (.yaml)"},
+        {"build good.PRM -o new.PRM", 2, "", "prmc: 'good.PRM' is a binary file; this command takes a model"},
         {"dump good.PRM", 0, "Copies: {min: 1, max: 999, default: 5}\n", ""},
-        {"dump good.yaml", 2, "", "prmc: 'good.yaml' is a model, wanted is a binary file (.PRM)"},
-        {"dump broken.PRM", 1, "# Findings on the binary file", ""},
-        {"check good.yaml", 0, "", ""},
+        {"dump good.yaml", 2, "", "prmc: 'good.yaml' is a model; this command takes a binary file"},
+        {"dump broken.PRM", 1, "# Problems in the binary file", ""},
         {"check good.PRM", 0, "", ""},
         {"check bad.yaml", 1, "", "bad.yaml:1:1: "},
-        {"check stdout.txt", 2, "", "prmc: cannot tell what 'stdout.txt' is"},
+        {"check stdout.txt", 2, "", "prmc: 'stdout.txt' has an unknown file type"},
         {"diff good.PRM good.yaml", 0, "", ""},
-        {"diff good.PRM other.yaml", 1, "Copies: only in the first\n", ""},
+        {"diff good.PRM other.yaml", 1, "Copies: only in the first file\n", ""},
         {"diff good.PRM bad.yaml", 2, "", "bad.yaml:1:1: "},
-        {"", 2, "", "prmc: no command is given\nCommands are build, dump, check and diff"},
-        {"dmup good.PRM", 2, "", "prmc: there is no command 'dmup'; did you mean 'dump'?\nCommands are"},
-        {"dump --al good.PRM", 2, "", "prmc: there is no option '--al'"},
-        {"dump good.PRM other.PRM", 2, "", "prmc: 'other.PRM' is one file too many"},
+        {"", 2, "", "prmc: a command is missing; possible: build, dump, check, diff\n"},
+        {"dmup good.PRM", 2, "", "prmc: unknown command 'dmup'; possible: build, "},
+        {"dump --al good.PRM", 2, "", "prmc: unknown option '--al'"},
+        {"dump good.PRM other.PRM", 2, "", "prmc: too many files: 'other.PRM'"},
         {"--help", 0, "Compiles a printer model's parameter data", ""},
     };
     // clang-format on
     for (const auto& run : runs) {
         EXPECT_EQ(Run(run.arguments), run.exitCode) << run.arguments;
-        for (const auto& [got, wanted] : {std::pair(Out(), std::string(run.out)), {Errors(), run.errors}}) {
+        for (const auto& [file, text] : {std::pair("stdout.txt", run.out), {"stderr.txt", run.errors}}) {
+            const std::string got = ReadFile(Path(file)), wanted = text;
             EXPECT_EQ(got.substr(0, wanted.size()), wanted) << run.arguments;
             EXPECT_EQ(got.empty(), wanted.empty()) << run.arguments << ": " << got;
         }
@@ -93,10 +89,8 @@ TEST_F(Program, OutputIsWholeOrUntouched) {
     EXPECT_EQ(ReadFile(Path("old.PRM")), ReadFile(Path("good.PRM")));
     EXPECT_EQ(Run("build good.yaml -o /dev/full"), 2);
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
-    size_t files = 0;
-    for ([[maybe_unused]] const auto& file : fs::directory_iterator(folder))
-        ++files;
-    EXPECT_EQ(files, 9u); // five to start with, these two and the two outputs: no temporary is left
+    // five to start with, these two and the two outputs: no temporary is left
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 9);
 }
 
 } // namespace

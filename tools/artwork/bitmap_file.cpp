@@ -1,5 +1,5 @@
 // Bitmap files: see the header. Numbers are little-endian, rows run from the bottom and are padded to 4
-// octets.
+// bytes.
 #include "bitmap_file.h"
 
 #include "common/generated_files.h"
@@ -23,7 +23,7 @@ void PutColor(std::string& file, const Rgb& color) {
 // One row without padding.
 std::string Row(const Picture& picture, int y, int bitsPerPixel, const std::vector<Rgb>& table) {
     std::string row;
-    int pending = 0; // upper half of an octet that holds two pixels
+    int pending = 0; // upper half of an byte that holds two pixels
     for (int x = 0; x < picture.width; ++x) {
         const Rgb& pixel = picture.At(x, y);
         if (bitsPerPixel == 24) {

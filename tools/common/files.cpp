@@ -1,4 +1,4 @@
-// File access, see files.h. A new file is written beside its place under another name and then renamed.
+// Reads and writes whole files. A new file gets a temporary name in the same folder and is then renamed.
 #include "common/files.h"
 
 #include <cerrno>
@@ -25,13 +25,13 @@ struct TemporaryFile {
     explicit TemporaryFile(const std::string& target)
         : path(target + ".XXXXXX"), descriptor(mkstemp(path.data())) {
         if (descriptor < 0)
-            Fail("write beside", target, errno);
+            Fail("create a temporary file next to", target, errno);
     }
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile() {
         close(descriptor);
-        unlink(path.c_str()); // no such file any more once it has been renamed
+        unlink(path.c_str()); // fails after the rename, which is fine
     }
 };
 
@@ -70,7 +70,7 @@ void WriteFileWhole(const std::string& path, std::string_view contents) {
         return;
     }
     const std::string target =
-        fs::exists(status) ? fs::canonical(path).string() : path; // keeps a link a link
+        fs::exists(status) ? fs::canonical(path).string() : path; // a link stays a link
     const TemporaryFile temporary(target);
     WriteAll(temporary.descriptor, contents, path);
     const mode_t mask = umask(0);

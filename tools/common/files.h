@@ -1,18 +1,18 @@
-// Reading and writing of whole files.
+// Whole files: reading, and writing that never leaves half a file.
 #ifndef COMMON_FILES_H
 #define COMMON_FILES_H
 
 #include <string>
 #include <string_view>
 
-// Far beyond any file that people write; keeps what a broken file can cost within bounds.
+// Larger than any file these tools read; limits the cost of a wrong one.
 constexpr size_t kMaxFileBytes = size_t{4} << 20;
 
-// Throws std::runtime_error with the file's name and the reason.
+// Throws std::runtime_error with the file's name and the reason, also for a file above kMaxFileBytes.
 std::string ReadFile(const std::string& path);
 
-// The file gets the new contents whole, or keeps the old ones. What is no regular file (a pipe, a device) is
-// written to directly. Throws as ReadFile does.
+// The file has either all of the new contents or the old ones. A pipe or a device is written directly. Throws
+// as ReadFile does.
 void WriteFileWhole(const std::string& path, std::string_view contents);
 
 #endif

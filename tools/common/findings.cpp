@@ -1,4 +1,4 @@
-// Findings and their places as texts, see findings.h.
+// Formats findings and their places.
 #include "common/findings.h"
 
 #include "common/text.h"

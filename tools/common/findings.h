@@ -1,4 +1,4 @@
-// What a reader of people's files finds wrong, and where.
+// Errors and notes about an input file, each with its place.
 #ifndef COMMON_FINDINGS_H
 #define COMMON_FINDINGS_H
 
@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-// Where something stands: line and column from 1 of a text, column 0: the line as a whole; line 0: the byte
-// offset in a binary file.
+// A place in a file. Text: line and column from 1, column 0 for the whole line. Binary: line 0, and the byte
+// offset as the column.
 struct Place {
     uint64_t line = 0;
     uint64_t column = 0;
@@ -26,7 +26,7 @@ std::string PlaceText(const Place& place);
 
 struct Finding {
     Place place;
-    bool isNote; // something that is lost or left out, but no fault
+    bool isNote; // something is lost or left out, but the file is usable
     std::string message;
 };
 

@@ -1,4 +1,4 @@
-// Files that drawing programs make, see generated_files.h.
+// Writes or checks the files that drawing programs generate.
 #include "common/generated_files.h"
 
 #include "common/files.h"
@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <iostream>
 
-void PutNumber(std::string& bytes, size_t number, int octets) {
-    for (int i = 0; i < octets; ++i)
+void PutNumber(std::string& bytes, size_t number, int count) {
+    for (int i = 0; i < count; ++i)
         bytes += static_cast<char>(number >> (8 * i) & 0xFF);
 }
 
@@ -18,12 +18,12 @@ int UpdateFiles(const std::string& folder, const std::vector<GeneratedFile>& fil
         if (std::filesystem::exists(path) && ReadFile(path) == file.bytes)
             continue;
         ++changed;
-        std::cout << path << (isCheck ? ": is not what is drawn" : ": written") << "\n";
+        std::cout << path << (isCheck ? ": differs from what would be drawn" : ": written") << "\n";
         if (!isCheck)
             WriteFileWhole(path, file.bytes);
     }
     if (!isCheck || changed == 0)
         return 0;
-    std::cerr << changed << " files differ; './dev artwork' draws them anew\n";
+    std::cerr << changed << " files differ: run './dev artwork' to redraw them\n";
     return 1;
 }

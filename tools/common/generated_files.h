@@ -1,5 +1,4 @@
-// Files that a drawing program makes and that lie beside its sources: written where they have changed, or
-// only checked.
+// Generated files that are kept with the sources: written when they have changed, or only checked.
 #ifndef COMMON_GENERATED_FILES_H
 #define COMMON_GENERATED_FILES_H
 
@@ -12,11 +11,11 @@ struct GeneratedFile {
     std::string bytes;
 };
 
-// Appends the lowest octets of a number, the lowest first.
-void PutNumber(std::string& bytes, size_t number, int octets);
+// Appends the `count` low bytes of a number, little-endian.
+void PutNumber(std::string& bytes, size_t number, int count);
 
-// Writes the files that are missing in the folder or differ there; with `isCheck` only tells which. The
-// program's exit code: 1 when a check finds any, else 0. Throws std::runtime_error when one can't be written.
+// Writes the files that are missing in the folder or differ; with `isCheck` only lists them. Returns the exit
+// code: 1 when a check finds any, else 0. Throws std::runtime_error when a file can't be read or written.
 int UpdateFiles(const std::string& folder, const std::vector<GeneratedFile>& files, bool isCheck);
 
 #endif

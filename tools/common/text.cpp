@@ -1,4 +1,4 @@
-// Text services, see text.h. UTF-8 follows the Unicode rules: no overlong forms, no surrogates.
+// Text helpers. UTF-8 is strict: no overlong forms, no surrogates.
 #include "common/text.h"
 
 #include "base/text.h"
@@ -54,7 +54,7 @@ void AppendUtf8(std::string& to, char32_t point) {
     }
 }
 
-// Least number of characters to insert, remove or replace.
+// Levenshtein distance.
 size_t EditDistance(std::string_view a, std::string_view b) {
     std::vector<size_t> row(b.size() + 1);
     std::iota(row.begin(), row.end(), size_t{0});
@@ -137,15 +137,18 @@ std::string Utf8FromBytes(std::string_view bytes) {
 std::string Quote(std::string_view text) {
     std::string quoted = "'";
     for (const char c : text) {
-        char escaped[8];
-        if (static_cast<uint8_t>(c) < 0x20 || c == 0x7F) {
-            std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(c));
-            quoted += escaped;
-        } else {
+        if (static_cast<uint8_t>(c) < 0x20 || c == 0x7F)
+            quoted += HexEscape(c);
+        else
             quoted += c;
-        }
     }
     return quoted + "'";
+}
+
+std::string HexEscape(char c) {
+    char escaped[8];
+    std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(static_cast<uint8_t>(c)));
+    return escaped;
 }
 
 std::string Hex(uint64_t number) {
@@ -162,8 +165,8 @@ std::string Join(const std::vector<std::string>& texts, const char* last) {
 }
 
 std::string NearestHint(std::string_view name, const std::vector<std::string>& candidates) {
-    constexpr size_t kLongestName = 64; // a longer one is no mistyped name
-    if (name.size() > kLongestName)
+    constexpr size_t kMaxName = 64; // bounds the work; no known name is as long
+    if (name.size() > kMaxName)
         return "";
     const std::string folded = FoldCase(name);
     size_t least = std::max<size_t>(2, name.size() / 3) + 1;

@@ -1,41 +1,56 @@
-// Texts: comparison as the file's readers do it, UTF-8 and UTF-16, quoting for messages and near names.
+// Text helpers of the tools: comparison without case, UTF-8 and UTF-16, numbers, and parts of messages.
 #ifndef COMMON_TEXT_H
 #define COMMON_TEXT_H
 
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-// In full, ignoring the case of ASCII letters.
+// Whether two texts are equal, ASCII case ignored.
 bool EqualNoCase(std::string_view a, std::string_view b);
 
-// Lower-case form of a name, for use as a key of containers that must not tell cases apart.
+// ASCII lower case, for keys of containers that ignore case.
 std::string FoldCase(std::string_view text);
 
-// Position of the first byte that is not part of well-formed UTF-8; npos when there is none.
+// Position of the first byte that is not valid UTF-8; npos when all of it is.
 size_t FindBadUtf8(std::string_view text);
 
-// The text must be well-formed.
+// The text must be valid UTF-8.
 std::u16string Utf16FromUtf8(std::string_view text);
 
-// Unpaired surrogates become U+FFFD and `wellFormed` false.
+// An unpaired surrogate becomes U+FFFD and sets `wellFormed` to false.
 std::string Utf8FromUtf16(std::u16string_view text, bool& wellFormed);
 
-// Each byte as the character of the same number.
+// Reads the bytes as Latin-1.
 std::string Utf8FromBytes(std::string_view bytes);
 
-// For messages: in single quotes, control characters escaped.
+// In single quotes, control characters escaped.
 std::string Quote(std::string_view text);
 
 // "0x2C"
 std::string Hex(uint64_t number);
 
+// "\x1B"
+std::string HexEscape(char c);
+
 // "A, B or C", with " or " as `last`.
 std::string Join(const std::vector<std::string>& texts, const char* last);
 
-// "; did you mean 'NAME'?" with the candidate that is nearest to the name; empty when none is near.
+// "; did you mean 'NAME'?" with the closest candidate; empty when none is close.
 std::string NearestHint(std::string_view name, const std::vector<std::string>& candidates);
+
+// The number that makes up the whole text; nothing when anything else is in it. `format` is a base, or how
+// floating point is written.
+template <typename Number, typename... Format>
+std::optional<Number> ParseWhole(std::string_view text, Format... format) {
+    Number number{};
+    const char* const end = text.data() + text.size();
+    const auto [next, error] = std::from_chars(text.data(), end, number, format...);
+    return error == std::errc{} && next == end ? std::optional(number) : std::nullopt;
+}
 
 #endif

@@ -1,4 +1,4 @@
-// Loading of YAML and its scalars, see yaml_document.h.
+// Loads YAML documents and reads their scalars.
 #include "common/yaml_document.h"
 
 #include <cstdlib>
@@ -11,10 +11,10 @@ Place PlaceOf(const YAML::Mark& mark) {
     return {static_cast<uint64_t>(mark.line) + 1, static_cast<uint64_t>(mark.column) + 1};
 }
 
-// yaml-cpp passes bytes through that are not text, and takes some control characters for the end of the file.
+// yaml-cpp accepts bytes that are not text, and takes some control characters for the end of the file.
 bool CheckIsText(const std::string& text, Findings& findings) {
     size_t bad = FindBadUtf8(text);
-    const char* problem = "not UTF-8: save the file in that encoding";
+    const char* problem = "not valid UTF-8: save the file as UTF-8";
     for (size_t i = 0; i < text.size() && i < bad; ++i) {
         const auto c = static_cast<unsigned char>(text[i]);
         if ((c < 0x20 && c != '\t' && c != '\n' && c != '\r') || c == 0x7F) {
@@ -31,7 +31,7 @@ bool CheckIsText(const std::string& text, Findings& findings) {
     return false;
 }
 
-// Notes where a document starts and looks at nothing else.
+// Records where a document starts and ignores everything else.
 struct DocumentStart final : YAML::EventHandler {
     Place place;
 
@@ -48,15 +48,16 @@ struct DocumentStart final : YAML::EventHandler {
     void OnMapEnd() override {}
 };
 
-// Loading takes the first document and says nothing of what follows it. (Loading all of them is no way out:
-// on malformed files yaml-cpp may go on for ever.)
+// YAML::Load reads the first document and ignores the rest. (YAML::LoadAll is no alternative: on malformed
+// files it may not return.)
 bool CheckIsSingle(const std::string& text, const char* what, Findings& findings) {
     std::istringstream stream(text);
     YAML::Parser parser(stream);
     DocumentStart start;
     if (!parser.HandleNextDocument(start) || !parser.HandleNextDocument(start))
         return true;
-    findings.Error(start.place, std::string("a second document begins here: a ") + what + " is one");
+    findings.Error(start.place,
+                   std::string("a second document starts here, but a ") + what + " file has only one");
     return false;
 }
 
@@ -73,7 +74,7 @@ void LoadYaml(const std::string& text, const char* what, Findings& findings,
         if (!root.IsNull())
             read(root);
         else
-            findings.Error({1, 1}, "the file holds no entries");
+            findings.Error({1, 1}, "the file has no entries");
     } catch (const YAML::Exception& fault) {
         findings.Error(PlaceOf(fault.mark), fault.msg);
     }
@@ -88,13 +89,13 @@ bool ReadScalar(const std::string& name, const YAML::Node& node, std::string& te
         text = node.Scalar();
         return true;
     }
-    findings.Error(PlaceOf(node), node.IsNull() ? Quote(name) + " has no value: write \"\" for an empty text"
-                                                : Quote(name) + " takes a single value");
+    findings.Error(PlaceOf(node), node.IsNull() ? Quote(name) + " has no value; write \"\" for an empty text"
+                                                : Quote(name) + " must be a single value");
     return false;
 }
 
 bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings) {
-    constexpr size_t kMaxDigits = 15; // fewer than 64 bits; the rules say what fits
+    constexpr size_t kMaxDigits = 15; // always fits in 64 bits; the rules check the range
     std::string text;
     if (!ReadScalar(name, node, text, findings))
         return false;
@@ -104,7 +105,7 @@ bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number
     const char* allowed = isHex ? "0123456789abcdefABCDEF" : "0123456789";
     if (digits.empty() || digits.size() > kMaxDigits
         || digits.find_first_not_of(allowed) != std::string::npos) {
-        findings.Error(PlaceOf(node), Quote(name) + " takes a number, not " + Quote(text));
+        findings.Error(PlaceOf(node), Quote(name) + " must be a number, not " + Quote(text));
         return false;
     }
     number = std::strtoll(digits.c_str(), nullptr, isHex ? 16 : 10) * (isNegative ? -1 : 1);

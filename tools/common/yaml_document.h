@@ -1,5 +1,5 @@
-// YAML files that people write: loading one document, and its scalars and maps, with every fault at its
-// place. yaml-cpp gives the nodes.
+// Loads a YAML document with yaml-cpp and reads its scalars and maps. Every error becomes a finding with its
+// place.
 #ifndef COMMON_YAML_DOCUMENT_H
 #define COMMON_YAML_DOCUMENT_H
 
@@ -10,22 +10,21 @@
 #include <set>
 #include <yaml-cpp/yaml.h>
 
-// Calls `read` with the document's root. Text that is no YAML, no UTF-8, empty or more than one document is a
-// finding; `what` says what the one document is: "model". Faults that yaml-cpp throws in `read` become
-// findings too.
+// Calls `read` with the document's root. Invalid YAML or UTF-8, an empty file and a second document are
+// findings; `what` names the kind of file: "model". So are the errors that yaml-cpp throws in `read`.
 void LoadYaml(const std::string& text, const char* what, Findings& findings,
               const std::function<void(const YAML::Node& root)>& read);
 
 Place PlaceOf(const YAML::Node& node);
 
-// Reads a single value; false, with a finding, when it is none.
+// Reads a scalar; false, with a finding, for anything else.
 bool ReadScalar(const std::string& name, const YAML::Node& node, std::string& text, Findings& findings);
 
-// Decimal, with or without a minus sign, or hexadecimal with 0x.
+// Reads a decimal number, which may be negative, or a hexadecimal one with 0x.
 bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings);
 
-// Calls `use` with the name, its node and the value node of each member whose name is a scalar not seen
-// before.
+// Calls `use` with the name, its node and the value's node of each member. Names that are no scalar or that
+// occur again are findings.
 template <typename Use>
 void ForEachMember(const YAML::Node& map, const std::string& shape, Findings& findings, const Use& use) {
     if (!map.IsMap()) {

@@ -1,5 +1,5 @@
-// The comparison of two models, see diff.h. Entries, items and rows are matched by name; anything that is
-// matched is compared as YAML would write it.
+// Compares two models. Entries, items and rows are matched by name; matched values are compared in their YAML
+// form.
 #include "prmc/diff.h"
 
 #include "common/text.h"
@@ -26,8 +26,8 @@ void DiffText(const std::string& path, const std::string& a, const std::string& 
         lines.push_back(path + ": " + (a.empty() ? "(none)" : a) + " -> " + (b.empty() ? "(none)" : b));
 }
 
-// Matches two sequences, the parts of what the path names, by name and calls `diff` for each couple. Of equal
-// names (machines may have them) the first goes with the first, the second with the second.
+// Matches the elements of two sequences by name and calls `diff` for each pair. Where a name occurs more than
+// once, as machines' may, the elements are matched in their order.
 template <typename Element, typename Diff>
 void DiffByName(const std::string& path, const char* what, const std::vector<Element>& a,
                 const std::vector<Element>& b, Lines& lines, const Diff& diff) {
@@ -40,7 +40,7 @@ void DiffByName(const std::string& path, const char* what, const std::vector<Ele
     for (const Element& element : a) {
         const auto match = unmatched.find(FoldCase(NameOf(element)));
         if (match == unmatched.end()) {
-            lines.push_back(prefix + NameOf(element) + ": only in the first");
+            lines.push_back(prefix + NameOf(element) + ": only in the first file");
             continue;
         }
         isSameOrder = isSameOrder && match->second >= last;
@@ -52,11 +52,11 @@ void DiffByName(const std::string& path, const char* what, const std::vector<Ele
         const auto rest = unmatched.find(FoldCase(NameOf(element)));
         if (rest == unmatched.end())
             continue;
-        lines.push_back(prefix + NameOf(element) + ": only in the second");
+        lines.push_back(prefix + NameOf(element) + ": only in the second file");
         unmatched.erase(rest);
     }
     if (!isSameOrder)
-        lines.push_back((path.empty() ? "" : path + ": ") + "the " + what + " are in another order");
+        lines.push_back((path.empty() ? "" : path + ": ") + "the " + what + " are in a different order");
 }
 
 void DiffPairs(const std::string& path, const Value& a, const Value& b, Lines& lines) {

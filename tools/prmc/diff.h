@@ -1,4 +1,4 @@
-// What differs between two models.
+// The differences between two models.
 #ifndef PRMC_DIFF_H
 #define PRMC_DIFF_H
 
@@ -7,7 +7,8 @@
 #include <string>
 #include <vector>
 
-// One line for each difference: "ENTRY/ITEM/FIELD: A -> B", or what only one of them has, or another order.
+// One line for each difference: "ENTRY/ITEM/FIELD: A -> B", an element that only one model has, or a
+// different order.
 std::vector<std::string> DiffModels(const Model& a, const Model& b);
 
 #endif

@@ -1,6 +1,7 @@
-// prmc, the parameter data compiler: command line, messages and exit codes around the engines.
-// Exit codes: 0 done, same or without fault; 1 faults found or files differ; 2 wrong use, unreadable file, or
-// files that can't be compared for their faults.
+// prmc, the compiler of parameter data files: command line, messages and exit codes.
+// Exit codes: 0 done, no errors, no differences; 1 errors in a file, or the files differ; 2 wrong usage, a
+// file that can't be read or written, or a comparison of files with errors.
+#include "common/choices.h"
 #include "common/files.h"
 #include "common/text.h"
 #include "prmc/diff.h"
@@ -19,26 +20,27 @@
 
 namespace {
 
-enum ExitCode { kDone = 0, kFaults = 1, kTrouble = 2 };
+enum ExitCode { kDone = 0, kErrors = 1, kFailed = 2 };
 
 bool IsYaml(const std::string& path) {
     const std::string extension = std::filesystem::path(path).extension().string();
     if (EqualNoCase(extension, ".yaml") || EqualNoCase(extension, ".yml"))
         return true;
     if (!EqualNoCase(extension, ".prm"))
-        throw std::runtime_error("cannot tell what '" + path + "' is: its name must end in .yaml or .PRM");
+        throw std::runtime_error("'" + path
+                                 + "' has an unknown file type: its name must end in .yaml or .PRM");
     return false;
 }
 
-// Refuses a file of the form that the command does not take.
+// Throws when the command takes the other kind of file.
 void ExpectForm(const std::string& path, bool wantsYaml) {
     if (IsYaml(path) != wantsYaml)
         throw std::runtime_error("'" + path + "' is "
-                                 + (wantsYaml ? "a binary file, wanted is a model (.yaml)"
-                                              : "a model, wanted is a binary file (.PRM)"));
+                                 + (wantsYaml ? "a binary file; this command takes a model (.yaml)"
+                                              : "a model; this command takes a binary file (.PRM)"));
 }
 
-// Reads either form and applies the rules; findings in the order of their places.
+// Reads a model or a binary file and applies the rules. The findings are sorted by place.
 Model ReadModel(const std::string& path, bool isYaml, Findings& findings) {
     const std::string contents = ReadFile(path);
     Model model = isYaml ? ReadYaml(contents, findings) : ParsePrm(contents, findings);
@@ -58,7 +60,7 @@ ExitCode Build(const std::string& source, const std::string& target) {
     const Model model = ReadModel(source, true, findings);
     Report(source, findings);
     if (findings.HasErrors())
-        return kFaults;
+        return kErrors;
     const std::vector<uint8_t> bytes = WritePrm(model);
     WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
     return kDone;
@@ -69,50 +71,51 @@ ExitCode Dump(const std::string& path) {
     Findings findings;
     const Model model = ReadModel(path, false, findings);
     if (!findings.list.empty())
-        std::cout << "# Findings on the binary file; what they name may be missing or changed below:\n";
+        std::cout
+            << "# Problems in the binary file; the parts that they name may be missing or changed below:\n";
     for (const Finding& finding : findings.list)
         std::cout << "#   " << FindingText(finding) << "\n";
     std::cout << WriteYaml(model);
     if (!std::cout.flush())
         throw std::runtime_error("cannot write to the standard output");
-    return findings.HasErrors() ? kFaults : kDone;
+    return findings.HasErrors() ? kErrors : kDone;
 }
 
 ExitCode Check(const std::string& path) {
     Findings findings;
     ReadModel(path, IsYaml(path), findings);
     Report(path, findings);
-    return findings.HasErrors() ? kFaults : kDone;
+    return findings.HasErrors() ? kErrors : kDone;
 }
 
-Model ReadSound(const std::string& path) {
+Model ReadValid(const std::string& path) {
     Findings findings;
     Model model = ReadModel(path, IsYaml(path), findings);
     Report(path, findings);
     if (findings.HasErrors())
-        throw std::runtime_error("'" + path + "' has faults: nothing to compare");
+        throw std::runtime_error("'" + path + "' has errors: correct them before comparing");
     return model;
 }
 
 ExitCode Diff(const std::string& first, const std::string& second) {
-    const std::vector<std::string> lines = DiffModels(ReadSound(first), ReadSound(second));
+    const std::vector<std::string> lines = DiffModels(ReadValid(first), ReadValid(second));
     for (const std::string& line : lines)
         std::cout << line << "\n";
-    return lines.empty() ? kDone : kFaults;
+    return lines.empty() ? kDone : kErrors;
 }
 
-// What is wrong with the command line; names what was given in vain.
-std::string Complaint(const CLI::App& app, const CLI::ParseError& fault,
-                      const std::vector<std::string>& commands) {
+// Describes the error in the command line.
+std::string UsageError(const CLI::App& app, const CLI::ParseError& error,
+                       const std::vector<std::string>& commands) {
     const std::vector<std::string> unknown = app.remaining(true);
     const bool hasCommand = !app.get_subcommands().empty();
     if (unknown.empty())
-        return hasCommand ? fault.what() : "no command is given";
+        return hasCommand ? error.what() : "a command is missing; " + Choices(commands);
     if (unknown[0].rfind('-', 0) == 0)
-        return "there is no option " + Quote(unknown[0]);
+        return "unknown option " + Quote(unknown[0]);
     if (!hasCommand)
-        return "there is no command " + Quote(unknown[0]) + NearestHint(unknown[0], commands);
-    return Quote(unknown[0]) + " is one file too many";
+        return "unknown command " + Quote(unknown[0]) + "; " + Choices(commands);
+    return "too many files: " + Quote(unknown[0]);
 }
 
 ExitCode Run(int argc, char** argv) {
@@ -126,21 +129,22 @@ ExitCode Run(int argc, char** argv) {
     build->add_option("-o,--output", second, "binary file to write")->required()->type_name("FILE.PRM");
     CLI::App* dump = app.add_subcommand("dump", "print a binary file as YAML");
     dump->add_option("FILE.PRM", first, "binary file")->required();
-    CLI::App* check = app.add_subcommand("check", "report every fault of a file; silent when there is none");
+    CLI::App* check =
+        app.add_subcommand("check", "report all errors in a file; no output when there are none");
     check->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
     CLI::App* diff = app.add_subcommand("diff", "compare two files' contents, each .yaml or .PRM");
     diff->add_option("A", first, "first file")->required();
     diff->add_option("B", second, "second file")->required();
     try {
         app.parse(argc, argv);
-    } catch (const CLI::ParseError& fault) {
-        if (fault.get_exit_code() == 0) // help was asked for
-            return app.exit(fault), kDone;
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == 0) // --help
+            return app.exit(error), kDone;
         std::vector<std::string> commands;
         for (const CLI::App* command : app.get_subcommands(nullptr))
             commands.push_back(command->get_name());
-        throw std::runtime_error(Complaint(app, fault, commands) + "\nCommands are " + Join(commands, " and ")
-                                 + "; 'prmc COMMAND --help' explains one.");
+        throw std::runtime_error(UsageError(app, error, commands)
+                                 + "\n'prmc COMMAND --help' describes a command.");
     }
     if (build->parsed())
         return Build(first, second);
@@ -154,8 +158,8 @@ ExitCode Run(int argc, char** argv) {
 int main(int argc, char** argv) {
     try {
         return Run(argc, argv);
-    } catch (const std::exception& fault) {
-        std::cerr << "prmc: " << fault.what() << "\n";
-        return kTrouble;
+    } catch (const std::exception& error) {
+        std::cerr << "prmc: " << error.what() << "\n";
+        return kFailed;
     }
 }

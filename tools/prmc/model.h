@@ -1,5 +1,5 @@
-// A model's parameter data in memory, as read from YAML or from a binary file.
-// Every engine of prmc passes these around; they own their contents.
+// A model's parameter data in memory, as read from YAML or from a binary file. Plain structures that own
+// their contents.
 #ifndef PRMC_MODEL_H
 #define PRMC_MODEL_H
 
@@ -18,9 +18,9 @@ struct Pair {
     Place valuePlace;
 };
 
-// What a field holds: of the three the one that its type asks for. Texts are UTF-8.
+// A field's value: a text (UTF-8), numbers or pairs, according to the field's type.
 struct Value {
-    bool given = false; // else the field is 0 in the file
+    bool given = false; // otherwise the field is 0 in the file
     Place place;
     std::string text;
     std::vector<int64_t> numbers;
@@ -44,7 +44,7 @@ struct Model {
     std::vector<Entry> entries; // in file order
 };
 
-// What an item is called: its key, or the text of its first field; empty when it has neither.
+// The item's name for messages: the text of its first field, which is the key if it has one.
 inline std::string ItemLabel(const Record& record) {
     return record.values.front().text;
 }

@@ -1,4 +1,4 @@
-// Checked access to a binary file's bytes, see prm_bytes.h.
+// Bounds-checked access to a binary file: claims blocks and reads numbers and texts.
 #include "prmc/prm_bytes.h"
 
 #include "common/text.h"
@@ -11,7 +11,7 @@ void PrmBytes::SetEntry(const std::string& name) {
     isLossy = false;
 }
 
-void PrmBytes::Fault(uint64_t at, const std::string& message) {
+void PrmBytes::Error(uint64_t at, const std::string& message) {
     findings.Error(AtOffset(at), entryName.empty() ? message : Quote(entryName) + ": " + message);
 }
 
@@ -30,11 +30,11 @@ bool PrmBytes::OverlapsBlock(uint64_t start, uint64_t end) const {
 bool PrmBytes::Claim(uint64_t start, uint64_t size, uint64_t linkAt, const std::string& what) {
     const uint64_t end = start + size;
     if (end > bytes.size()) {
-        Fault(linkAt, what + " at " + Hex(start) + " reaches outside the file");
+        Error(linkAt, what + " at " + Hex(start) + " extends beyond the file");
         return false;
     }
     if (OverlapsBlock(start, end)) {
-        Fault(linkAt, what + " at " + Hex(start) + " overlaps another block");
+        Error(linkAt, what + " at " + Hex(start) + " overlaps another block");
         return false;
     }
     if (size > 0)
@@ -46,18 +46,18 @@ std::string PrmBytes::ReadField(uint64_t at, size_t size) {
     const std::string_view field = bytes.substr(at, size);
     const size_t length = std::min(field.find('\0'), size);
     if (length == size)
-        Fault(at, "the text " + Quote(Utf8FromBytes(field)) + " has no terminator");
+        Error(at, "the text " + Quote(Utf8FromBytes(field)) + " has no terminator");
     NoteLoss(at + length, size - length);
     return Utf8FromBytes(field.substr(0, length));
 }
 
-// False, with a fault, when no text can be at the offset that stands at `linkAt`.
+// Whether there can be a text at the offset that is stored at `linkAt`; if not, reports an error.
 bool PrmBytes::CheckTextOffset(uint64_t linkAt, const char* what) {
     const uint64_t at = Read32(linkAt);
     if (at == 0)
-        Fault(linkAt, std::string("the ") + what + " is missing");
+        Error(linkAt, std::string("the ") + what + " is missing");
     else if (at >= bytes.size())
-        Fault(linkAt, std::string("the ") + what + " at " + Hex(at) + " lies outside the file");
+        Error(linkAt, std::string("the ") + what + " at " + Hex(at) + " is outside the file");
     else
         return true;
     return false;
@@ -70,7 +70,7 @@ std::optional<std::string> PrmBytes::ReadKey(uint64_t linkAt) {
     const std::string_view text = bytes.substr(at, kPrmMaxTextBytes + 1);
     const size_t length = text.find('\0');
     if (length == std::string_view::npos) {
-        Fault(linkAt, "the key at " + Hex(at) + " has no terminator");
+        Error(linkAt, "the key at " + Hex(at) + " has no terminator");
         return {};
     }
     texts.push_back({at, at + length + 1, linkAt, entryName});
@@ -84,7 +84,7 @@ std::optional<std::string> PrmBytes::ReadName(uint64_t linkAt) {
     std::u16string text;
     for (uint64_t unitAt = at;; unitAt += 2) {
         if (unitAt + 2 > bytes.size() || text.size() > kPrmMaxTextChars) {
-            Fault(linkAt, "the display name at " + Hex(at) + " has no terminator");
+            Error(linkAt, "the display name at " + Hex(at) + " has no terminator");
             return {};
         }
         const auto unit = static_cast<char16_t>(Read(unitAt, 2));
@@ -96,7 +96,7 @@ std::optional<std::string> PrmBytes::ReadName(uint64_t linkAt) {
     bool isWellFormed;
     std::string name = Utf8FromUtf16(text, isWellFormed);
     if (!isWellFormed)
-        Fault(linkAt, "the display name at " + Hex(at) + " is not well-formed UTF-16");
+        Error(linkAt, "the display name at " + Hex(at) + " is not valid UTF-16");
     return name;
 }
 
@@ -108,6 +108,6 @@ void PrmBytes::CheckTexts() {
     for (const Text& text : texts) {
         SetEntry(text.entry);
         if (OverlapsBlock(text.start, text.end))
-            Fault(text.linkAt, "the text at " + Hex(text.start) + " overlaps a block");
+            Error(text.linkAt, "the text at " + Hex(text.start) + " overlaps a block");
     }
 }

@@ -1,6 +1,6 @@
-// The bytes of a binary file as its parser takes them: every block is claimed before it is read. It must lie
-// inside the file and on no other block, so no byte is read as two things and no loop can run for ever.
-// Offsets are 64-bit here.
+// Bounds-checked access to a binary file. Every block is claimed before it is read: it must be inside the
+// file and must not overlap another one, so no byte is read twice and every loop ends. Offsets are 64-bit so
+// that sums can't wrap.
 #ifndef PRMC_PRM_BYTES_H
 #define PRMC_PRM_BYTES_H
 
@@ -17,32 +17,31 @@ class PrmBytes {
 public:
     PrmBytes(std::string_view file, Findings& where) : bytes(file), findings(where) {}
 
-    // Findings from here on are about this entry; empty: about the file.
+    // The entry that the following findings are about; empty: the file as a whole.
     void SetEntry(const std::string& name);
-    void Fault(uint64_t at, const std::string& message);
+    void Error(uint64_t at, const std::string& message);
 
     uint64_t Size() const { return bytes.size(); }
 
-    // A number of up to four bytes inside a claimed block.
+    // A number of up to four bytes, little-endian, inside a claimed block.
     uint32_t Read(uint64_t at, size_t width) const;
     uint32_t Read32(uint64_t at) const { return Read(at, 4); }
 
-    // Takes a block for one purpose. `linkAt` is where its offset stands, for the message. False, with a
-    // fault, when it can't be there.
+    // Claims a block; false, with an error at `linkAt`, the position of its offset, when it can't be there.
     bool Claim(uint64_t start, uint64_t size, uint64_t linkAt, const std::string& what);
 
-    // Text of a fixed field inside a claimed block.
+    // The text of a fixed-size field inside a claimed block.
     std::string ReadField(uint64_t at, size_t size);
 
-    // Text that the offset at `linkAt` leads to; none, with a fault, when there is none.
+    // The text at the offset that is stored at `linkAt`; nothing, with an error, when it can't be read.
     std::optional<std::string> ReadKey(uint64_t linkAt);
     std::optional<std::string> ReadName(uint64_t linkAt);
 
-    // The model has no place for these bytes: they are lost unless they are 0.
+    // The model has no field for these bytes; records a loss unless they are 0.
     void NoteLoss(uint64_t at, uint64_t size);
     bool HasLoss() const { return isLossy; } // since SetEntry
 
-    // Texts may share bytes with one another, but not with blocks. Call it when all blocks are claimed.
+    // Texts may overlap each other, but no block. Call this when all blocks are claimed.
     void CheckTexts();
 
 private:

@@ -1,5 +1,4 @@
-// The binary file's reader, see prm_parser.h: what the file's bytes mean by the schema. prm_bytes.h keeps it
-// from reading what can't be there.
+// Parses a binary file by the schema. All access to the bytes goes through PrmBytes, which checks it.
 #include "prmc/prm_parser.h"
 
 #include "common/text.h"
@@ -22,18 +21,18 @@ public:
         if (!bytes.Claim(0, sizeof(PrmHeader), 0, "the header"))
             return model;
         if (bytes.Read32(0) != 0)
-            findings.Note({}, "the header's first word is not 0 and is lost");
+            findings.Note({}, "the header's first word is not 0; it is lost");
         const uint64_t chainEnd = bytes.Read32(offsetof(PrmHeader, chainEnd));
         if (chainEnd > bytes.Size())
-            bytes.Fault(offsetof(PrmHeader, chainEnd),
-                        "the chain end " + Hex(chainEnd) + " lies outside the file");
+            bytes.Error(offsetof(PrmHeader, chainEnd),
+                        "the chain end " + Hex(chainEnd) + " is outside the file");
         if (chainEnd <= kPrmFirstEntry)
-            bytes.Fault(offsetof(PrmHeader, chainEnd), "the file holds no entries");
+            bytes.Error(offsetof(PrmHeader, chainEnd), "the file has no entries");
         std::set<uint64_t> seen;
         uint64_t linkAt = offsetof(PrmHeader, chainEnd);
         for (uint64_t at = kPrmFirstEntry; at < chainEnd; at = bytes.Read32(linkAt)) {
             if (!seen.insert(at).second) {
-                bytes.Fault(linkAt, "the entry chain leads back to " + Hex(at));
+                bytes.Error(linkAt, "the entry chain loops back to " + Hex(at));
                 break;
             }
             if (!bytes.Claim(at, sizeof(PrmEntry) + sizeof(PrmEntryInfo), linkAt, "the next entry"))
@@ -50,7 +49,7 @@ private:
         const std::string name = bytes.ReadField(at, sizeof(PrmEntry::name));
         const EntryRow* row = FindEntryRow(name);
         if (!row) {
-            findings.Note(AtOffset(at), "unknown entry " + Quote(name) + " is left out");
+            findings.Note(AtOffset(at), "unknown entry " + Quote(name) + " is skipped");
             return;
         }
         bytes.SetEntry(name);
@@ -62,7 +61,7 @@ private:
         else
             ParseItems(at, entry);
         if (bytes.HasLoss())
-            findings.Note(AtOffset(at), Quote(name) + ": bytes that no reader reads are not 0 and are lost");
+            findings.Note(AtOffset(at), Quote(name) + ": unused bytes are not 0; they are lost");
         if (row->kind->form == Form::kList || !entry.records.empty())
             model.entries.push_back(std::move(entry));
         bytes.SetEntry("");
@@ -83,11 +82,12 @@ private:
         const uint64_t offsetsLink = infoAt + offsetof(PrmEntryInfo, itemOffsets);
         const uint64_t offsetsAt = bytes.Read32(offsetsLink);
         if (count > bytes.Size() / 4) {
-            bytes.Fault(infoAt, std::to_string(count) + " items can't be in a file of this size");
+            bytes.Error(infoAt, std::to_string(count) + " items can't fit in a file of this size");
             return;
         }
         if (kind.form != Form::kList && count != 1) {
-            bytes.Fault(infoAt, std::string(kind.label) + " has one record, not " + std::to_string(count));
+            bytes.Error(infoAt,
+                        std::string(kind.label) + " must have one record, not " + std::to_string(count));
             return;
         }
         if (count > 0 && !bytes.Claim(offsetsAt, 4 * count, offsetsLink, "the item offset array"))
@@ -105,19 +105,19 @@ private:
         ParseDefault(infoAt + offsetof(PrmEntryInfo, defaultRecord), entry, positions);
     }
 
-    // Chained items follow one another as the offset array has them.
+    // The chain must have the items in the order of the offset array.
     void CheckChain(uint64_t entryAt, const Kind& kind, uint64_t offsetsAt, uint64_t count) {
         uint64_t linkAt = entryAt + offsetof(PrmEntry, firstItem);
         for (uint64_t i = 0; i < count && kind.chain != 0; ++i) {
             const uint64_t at = bytes.Read32(offsetsAt + 4 * i);
             if (bytes.Read32(linkAt) != at) {
-                bytes.Fault(linkAt, "the item chain leads to " + Hex(bytes.Read32(linkAt)) + ", item "
+                bytes.Error(linkAt, "the item chain leads to " + Hex(bytes.Read32(linkAt)) + ", item "
                                         + std::to_string(i) + " is at " + Hex(at));
                 return;
             }
             linkAt = at + kind.chain;
             if (linkAt + 4 > bytes.Size())
-                return; // reported with the item
+                return; // already reported with the item
         }
         bytes.NoteLoss(linkAt, 4);
     }
@@ -140,10 +140,9 @@ private:
             }
             if (entry.defaultItem)
                 findings.Note(AtOffset(at),
-                              Quote(entry.name)
-                                  + ": the default is a record of its own; only its key is kept");
+                              Quote(entry.name) + ": the default is a separate record; only its key is kept");
             else
-                bytes.Fault(linkAt, "the default record's key " + Quote(key) + " names no item");
+                bytes.Error(linkAt, "the default record's key " + Quote(key) + " is not the key of any item");
         }
     }
 
@@ -161,7 +160,7 @@ private:
             Value& value = record.values[i];
             ParseField(row, field, at, value);
             if (field.type == FieldType::kText)
-                use(field.offset, field.count); // looked at while it was read
+                use(field.offset, field.count); // ReadField has noted any loss
             else if (value.given || field.type != FieldType::kNumbers)
                 use(field.offset, field.type == FieldType::kNumbers ? field.width * field.count : 4);
             if (field.link != 0 && (field.type == FieldType::kPairs || bytes.Read32(at + field.link) == 1))
@@ -200,7 +199,7 @@ private:
         }
     }
 
-    // Negative where the entry may have negative numbers.
+    // Signed where the entry allows negative numbers.
     int64_t ParseNumber(const EntryRow& row, const Field& field, uint64_t at) {
         const uint32_t number = bytes.Read(at, field.width);
         return LimitsOf(row, field).least < 0 ? int64_t{static_cast<int32_t>(number)} : int64_t{number};

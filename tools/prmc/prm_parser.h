@@ -1,5 +1,5 @@
-// Binary parameter data file to model. Takes any bytes at all: whatever is wrong with them becomes a finding,
-// and what can be told comes back. Work and memory are bounded by the file's size.
+// Binary parameter data file to model. The input is untrusted: every defect becomes a finding and the
+// readable rest is returned. Time and memory are bounded by the file's size.
 #ifndef PRMC_PRM_PARSER_H
 #define PRMC_PRM_PARSER_H
 
@@ -7,9 +7,9 @@
 
 #include <string_view>
 
-// Errors: broken or looping chains, offsets outside the file, blocks that overlap, missing terminators,
-// counts that can't be true. Notes: contents that the model can't hold, such as words that no reader reads.
-// The rules on the contents are in rules.h.
+// Errors: broken or looping chains, offsets outside the file, overlapping blocks, missing terminators,
+// impossible counts. Notes: contents that the model has no field for. The rules on the contents are in
+// rules.h.
 Model ParsePrm(std::string_view bytes, Findings& findings);
 
 #endif

@@ -1,5 +1,5 @@
-// The binary file's writer, see prm_writer.h. Blocks are appended in file order; offsets of what comes later
-// are put in when it is appended.
+// Writes the binary file. Blocks are appended in file order; an offset is filled in when its target is
+// appended.
 #include "prmc/prm_writer.h"
 
 #include "common/text.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-// A text or a block of pairs that is still to be appended, and where its offset belongs.
+// A text or a block of pairs that is appended later, and the position of its offset.
 struct Pending {
     size_t offsetAt;
     const Field* field;
@@ -19,7 +19,7 @@ struct Pending {
 
 struct Image {
     std::vector<uint8_t> bytes;
-    std::vector<Pending> pending; // of the entry that is being written
+    std::vector<Pending> pending; // of the current entry
 };
 
 void Put(Image& image, size_t at, size_t width, uint64_t number) {
@@ -95,7 +95,7 @@ void AppendPending(Image& image, const Pending& pending) {
     }
 }
 
-// Everything that the records lead to: pairs first, then keys, then display names.
+// What the records refer to: pairs first, then keys, then display names.
 void AppendAllPending(Image& image) {
     for (const FieldType type : {FieldType::kPairs, FieldType::kKey, FieldType::kName}) {
         for (const Pending& pending : image.pending) {

@@ -1,8 +1,9 @@
-// The rules: texts and numbers fit, names are unique, readers take every item and row. Limits come from the
-// schema and from the table of feature switches.
+// Checks a model: texts and numbers fit their fields, names are unique, and the driver uses every item and
+// row. Limits come from the schema and from the table of feature switches.
 #include "prmc/rules.h"
 
 #include "base/text.h"
+#include "common/choices.h"
 #include "common/text.h"
 #include "paramdata/feature_switches.h"
 
@@ -11,7 +12,7 @@
 
 namespace {
 
-constexpr const char* kOff = "Disable"; // value that says: this switch is off on purpose
+constexpr const char* kOff = "Disable"; // leaves a feature switch off
 
 std::string Number(int64_t number) {
     return std::to_string(number);
@@ -27,21 +28,21 @@ void CheckBytes(const std::string& what, const std::string& text, size_t most, P
                 Findings& findings) {
     const auto isAscii = [](char c) { return c != '\0' && static_cast<unsigned char>(c) < 0x80; };
     if (!std::all_of(text.begin(), text.end(), isAscii))
-        findings.Error(place, what + " " + Quote(text)
-                                  + " has a character other than ASCII: only names can have it");
+        findings.Error(place,
+                       what + " " + Quote(text) + " has a non-ASCII character, which only names may have");
     else if (text.size() > most)
         findings.Error(place, what + " " + Quote(text) + " has " + std::to_string(text.size())
-                                  + " characters, at most " + std::to_string(most) + " fit: shorten it");
+                                  + " characters, but at most " + std::to_string(most) + " fit: shorten it");
 }
 
 void CheckName(const std::string& what, const std::string& text, size_t most, Place place,
                Findings& findings) {
     const size_t length = Utf16FromUtf8(text).size();
     if (text.find('\0') != std::string::npos)
-        findings.Error(place, what + " " + Quote(text) + " has a zero character, which would end it");
+        findings.Error(place, what + " " + Quote(text) + " has a NUL character, which would end it");
     else if (length > most)
         findings.Error(place, what + " " + Quote(text) + " has " + std::to_string(length)
-                                  + " characters, at most " + std::to_string(most)
+                                  + " characters, but at most " + std::to_string(most)
                                   + " are shown: shorten it");
 }
 
@@ -50,7 +51,7 @@ void CheckValue(const EntryRow& row, const Field& field, const Value& value, Fin
     switch (field.type) {
     case FieldType::kKey:
         if (value.text.empty())
-            findings.Error(value.place, "the key is empty: readers would end the list here");
+            findings.Error(value.place, "the key is empty, which would end the list here");
         CheckBytes(what, value.text, kMaxKeyChars, value.place, findings);
         break;
     case FieldType::kName:
@@ -63,7 +64,7 @@ void CheckValue(const EntryRow& row, const Field& field, const Value& value, Fin
         const Limits limits = LimitsOf(row, field);
         for (const int64_t number : value.numbers) {
             if (number < limits.least || number > limits.most)
-                findings.Error(value.place, what + " " + Number(number) + " does not fit: it may be "
+                findings.Error(value.place, what + " " + Number(number) + " is out of range: write "
                                                 + Number(limits.least) + " to " + Number(limits.most));
         }
         break;
@@ -77,7 +78,7 @@ void CheckValue(const EntryRow& row, const Field& field, const Value& value, Fin
     }
 }
 
-// A numbered switch takes TYPE1, TYPE2 ...
+// Whether the value is TYPE1, TYPE2 and so on.
 bool IsTypeValue(const std::string& value) {
     for (unsigned n = 1; n <= kMaxSwitchType; ++n) {
         if (EqualNoCase(value, "TYPE" + Number(n)))
@@ -95,20 +96,19 @@ void CheckFeatureRow(const Pair& row, Findings& findings) {
         if (!feature.enablingValue) {
             if (!IsTypeValue(row.value))
                 findings.Error(row.valuePlace, "value " + Quote(row.value) + " of " + Quote(row.name)
-                                                   + " is no variant: write TYPE1 to TYPE"
-                                                   + Number(kMaxSwitchType) + ", or leave the row out");
+                                                   + " is not a variant: write TYPE1 to TYPE"
+                                                   + Number(kMaxSwitchType) + ", or omit the row");
         } else if (!EqualNoCase(row.value, feature.enablingValue) && !EqualNoCase(row.value, kOff)) {
             findings.Error(row.valuePlace, "value " + Quote(row.value) + " of " + Quote(row.name)
-                                               + " enables nothing: write " + feature.enablingValue + ", or "
-                                               + kOff + " to leave the feature off");
+                                               + " is unknown: write " + feature.enablingValue
+                                               + " to enable the feature, or " + kOff + " to leave it off");
         }
         return;
     }
-    findings.Error(row.namePlace,
-                   "no feature switch is called " + Quote(row.name) + NearestHint(row.name, names));
+    findings.Error(row.namePlace, "unknown feature switch " + Quote(row.name) + NearestHint(row.name, names));
 }
 
-// Runs of digits in a text.
+// Counts the runs of digits.
 size_t CountNumbers(const std::string& text) {
     size_t count = 0;
     for (size_t i = 0; i < text.size(); ++i)
@@ -117,23 +117,21 @@ size_t CountNumbers(const std::string& text) {
 }
 
 void CheckFact(const FactRow& fact, const Pair& row, Findings& findings) {
-    std::string wanted;
+    std::string problem;
     if (fact.words.count > 0) {
-        const std::vector<std::string> words(fact.words.begin(), fact.words.end());
-        if (Contains(words, row.value))
+        if (Contains({fact.words.begin(), fact.words.end()}, row.value))
             return;
-        wanted = Join(words, " or ");
+        problem = "is unknown; " + Choices(fact.words);
     } else if (fact.numbers > 1) {
         if (CountNumbers(row.value) == fact.numbers)
             return;
-        wanted = "a text with " + std::to_string(fact.numbers) + " numbers";
+        problem = "must contain " + std::to_string(fact.numbers) + " numbers";
     } else {
         if (!row.value.empty() && std::all_of(row.value.begin(), row.value.end(), IsDigit))
             return;
-        wanted = "a number";
+        problem = "must be a number";
     }
-    findings.Error(row.valuePlace,
-                   "value " + Quote(row.value) + " of " + Quote(row.name) + " says nothing: write " + wanted);
+    findings.Error(row.valuePlace, "value " + Quote(row.value) + " of " + Quote(row.name) + " " + problem);
 }
 
 void CheckFactRow(const EntryRow& entry, const Pair& row, Findings& findings) {
@@ -158,23 +156,24 @@ void CheckTable(const Entry& entry, Findings& findings) {
     }
 }
 
-// Items that readers don't take.
+// Reports items that the driver does not use.
 void CheckTaken(const Entry& entry, Findings& findings) {
     const EntryRow& row = *entry.row;
-    if (row.mostItems > 0 && entry.records.size() > row.mostItems)
-        findings.Error(entry.records[row.mostItems].place,
-                       Quote(entry.name) + " has " + std::to_string(entry.records.size()) + " items, at most "
-                           + std::to_string(row.mostItems) + " are taken: remove the others");
+    if (row.maxItems > 0 && entry.records.size() > row.maxItems)
+        findings.Error(entry.records[row.maxItems].place,
+                       Quote(entry.name) + " has " + std::to_string(entry.records.size())
+                           + " items, but the driver takes at most " + std::to_string(row.maxItems)
+                           + ": remove the others");
     const std::vector<std::string> keys(row.keys.begin(), row.keys.end());
     for (const Record& record : entry.records) {
         const Value& key = record.values.front();
         if (!keys.empty() && key.given && !Contains(keys, key.text))
-            findings.Error(key.place, Quote(entry.name) + " takes no item " + Quote(key.text)
+            findings.Error(key.place, Quote(key.text) + " is not an item of " + Quote(entry.name)
                                           + NearestHint(key.text, keys));
     }
 }
 
-// A tray that is not enabled ends the list for its readers.
+// A tray that is not enabled ends the driver's list.
 void CheckHiddenTrays(const Entry& entry, Findings& findings) {
     const Rows<Field>& fields = entry.row->kind->fields;
     const auto isFlag = [](const Field& field) { return std::string_view(field.name) == "enabled"; };
@@ -189,11 +188,11 @@ void CheckHiddenTrays(const Entry& entry, Findings& findings) {
     const auto hidden = std::find_if_not(off, entry.records.end(), isOff);
     if (hidden != entry.records.end())
         findings.Note(off->place, Quote(ItemLabel(*off))
-                                      + " is not enabled, which hides every tray after it: "
-                                      + Quote(ItemLabel(*hidden)) + " too");
+                                      + " is not enabled, which hides all trays after it, such as "
+                                      + Quote(ItemLabel(*hidden)));
 }
 
-// The fields of a range are its lower bound, upper bound and default, in this order.
+// The fields of a range are its minimum, maximum and default, in this order.
 void CheckRange(const Entry& entry, Findings& findings) {
     for (const Record& record : entry.records) {
         const std::vector<Value>& values = record.values;
@@ -239,7 +238,8 @@ void CheckEntry(const Entry& entry, Findings& findings) {
     if (kind.form == Form::kRange)
         CheckRange(entry, findings);
     if (entry.row->defaultNeeded && !entry.defaultItem)
-        findings.Error(entry.place, Quote(entry.name) + " needs 'default: KEY': the settings start from it");
+        findings.Error(entry.place,
+                       Quote(entry.name) + " needs 'default: KEY', the item that the default settings use");
 }
 
 } // namespace

@@ -1,5 +1,4 @@
-// What must hold for a model besides its form: the same rules for a model read from YAML and from a binary
-// file.
+// Rules on a model's contents, the same for YAML and binary files.
 #ifndef PRMC_RULES_H
 #define PRMC_RULES_H
 

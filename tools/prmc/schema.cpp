@@ -1,4 +1,4 @@
-// The tables behind schema.h. Offsets come from the file's own record layouts.
+// The tables of the schema. Offsets come from the record layouts, keys from the driver's tables.
 #include "prmc/schema.h"
 
 #include "common/text.h"
@@ -13,8 +13,7 @@ namespace {
 using T = FieldType;
 using F = Form;
 
-// --- The item keys that the driver takes. It passes over an item with any other key, or takes 0 for its
-// value.
+// --- Item keys. The driver ignores an item with an unknown key, or takes 0 for its value.
 
 template <size_t Most>
 struct KeyList {
@@ -24,7 +23,7 @@ struct KeyList {
     constexpr operator Rows<const char*>() const { return {keys, count}; }
 };
 
-// The key that `keyOf` finds in each row; an empty one is none.
+// The keys that `keyOf` returns for the rows; empty ones are left out.
 template <typename Row, size_t Count, typename KeyOf>
 constexpr KeyList<Count> KeysIn(const Row (&rows)[Count], const KeyOf& keyOf) {
     KeyList<Count> list = {};
@@ -66,8 +65,8 @@ constexpr Limits kU32    = {0, UINT32_MAX};
 constexpr Limits kS16    = {INT16_MIN, INT16_MAX};
 constexpr Limits kS32    = {INT32_MIN, INT32_MAX};
 constexpr Limits kPlus16 = {0, INT16_MAX};
-// Shifts in tenths of a millimetre, and in millimetres: the settings keep them in signed 16 bits as
-// thousandths of an inch too.
+// Shifts in tenths of a millimetre and in millimetres. The settings also store them as thousandths of an inch
+// in signed 16 bits.
 constexpr Limits kShift  = {-8322, 8322};
 constexpr Limits kShiftM = {-832, 832};
 
@@ -141,6 +140,7 @@ constexpr Field kPaperFields[] = {
     {"width",      T::kNumbers, true,  offsetof(PrmPaper, width),        1,  kU16},
     {"length",     T::kNumbers, true,  offsetof(PrmPaper, length),       1,  kU16},
     {"further",    T::kNumbers, false, offsetof(PrmPaper, furtherSizes), 2,  kU32},
+    // Geometry sets 1, 2, 4 and 5: meaning unknown, carried through.
     {"set1",       T::kNumbers, false, offsetof(PrmPaper, geometry1),         18, kU32, offsetof(PrmPaper, hasGeometry1)},
     {"set2",       T::kNumbers, false, offsetof(PrmPaper, geometry2),         2,  kU32, offsetof(PrmPaper, hasGeometry2)},
     {"margins",    T::kNumbers, false, offsetof(PrmPaper, margins),         4,  kU16, offsetof(PrmPaper, hasMargins)},
@@ -200,9 +200,9 @@ constexpr Kind kCountry    = {"country",          F::kSingle, sizeof(PrmCountry)
 constexpr Kind kRange      = {"range",            F::kRange,  sizeof(PrmRange),          kRangeFields};
 
 constexpr EntryRow kEntries[] = {
-    // name                        kind          name limits   default, keys, most items, facts
+    // name                        kind          name limits   default, keys, max items, facts
     //                                           chars
-    // What the model offers, and facts about the device.
+    // Features, ranges and facts about the device.
     {"FeatureSetting",             &kTable,      0,   kNone,   false},
     {"Copies",                     &kRange,      0,   kPlus16, false},
     {"UserPaper_Width",            &kRange,      0,   kPlus16, false},
@@ -290,8 +290,8 @@ constexpr EntryRow kEntries[] = {
     {kMediaTypeListEntries[kMediaType], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaType>},
     {kMediaTypeListEntries[kMediaWeight], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaWeight>},
     {kMediaTypeListEntries[kMediaColor], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaColor>},
-    {kMediaTypeListEntries[kMediaHole], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaHole>},
-    // Installable options; "Op" and a tray's key: the option that the tray is.
+    {kMediaTypeListEntries[kMediaPrePunched], &kPlain,      47,  kNone,   false, kMediaTexts<kMediaPrePunched>},
+    // Installable options; "Op" and a tray's key: the tray as an option.
     {"OpMachine",                  &kPlain,      47,  kNone,   true},
     {"OpBody",                     &kPlain,      47,  kNone,   true},
     {"OpInTray2",                  &kPlain,      47,  kNone,   true},

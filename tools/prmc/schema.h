@@ -1,6 +1,6 @@
-// The one description of what a parameter data file holds: record kinds with their fields, and the entries by
-// name. Every engine of prmc (reading and writing YAML, reading and writing the binary file, rules, diff)
-// works from these tables: a new entry is one row, a new record kind one field table.
+// The schema of parameter data files: the record kinds with their fields, and the entries by name. All of
+// prmc (readers, writers, rules, diff) works from these tables. A new entry is one row; a new kind of record
+// is one table of fields.
 #ifndef PRMC_SCHEMA_H
 #define PRMC_SCHEMA_H
 
@@ -14,12 +14,12 @@
 enum class FieldType {
     kKey,     // offset of an 8-bit text: the item's key
     kName,    // offset of a UTF-16 text: a display name; 0 when there is none
-    kText,    // 8-bit text inside the record
+    kText,    // 8-bit text in the record
     kNumbers, // one or more numbers
     kPairs,   // count and offset of records that are two 8-bit texts each
 };
 
-// Which numbers their readers keep.
+// The range that a field of the driver can hold.
 struct Limits {
     int64_t least = 0;
     int64_t most = 0;
@@ -32,20 +32,20 @@ struct Field {
     FieldType type;
     bool required;
     size_t offset;      // in the record; of pairs: their count
-    size_t count = 1;   // numbers: how many; names: most characters, 1: as the entry says;
+    size_t count = 1;   // numbers: how many; names: most characters, 1: the entry's limit;
                         // texts: bytes of the field; pairs: bytes of each text
-    Limits limits = {}; // numbers; not given: as the entry says
-    size_t link = 0;    // numbers: offset of the flag that is 1 when they are there, 0: always there;
+    Limits limits = {}; // numbers; not given: the entry's limits
+    size_t link = 0;    // numbers: offset of the flag that is 1 when they are given, 0: always given;
                         // pairs: offset of the first pair's offset
     size_t width = 4;   // numbers: bytes of each
 };
 
-// How an entry is written in YAML and where its records lie.
+// How an entry is written in YAML and where its records are.
 enum class Form {
     kList,   // {default: KEY, items: [{...}, ...]}; each record reached through the item offset array
     kTable,  // {NAME: VALUE, ...}; one record, whose only field is pairs
     kSingle, // {FIELD: VALUE, ...}; one record
-    kRange,  // {FIELD: VALUE, ...}; one record directly behind the entry, no items
+    kRange,  // {FIELD: VALUE, ...}; one record directly after the entry, no items
 };
 
 struct Kind {
@@ -55,18 +55,18 @@ struct Kind {
     Rows<Field> fields;
     size_t chain = 0; // offset of the link to the next item; 0: items are not chained
 
-    // An entry whose items have no key has no default.
+    // An entry whose items have no key can't have a default.
     bool HasKeys() const { return fields[0].type == FieldType::kKey; }
 };
 
 struct EntryRow {
     const char* name;
     const Kind* kind;
-    size_t nameChars;            // most UTF-16 characters of a display name that the entry's list holds
+    size_t nameChars;            // most UTF-16 characters of a display name in the driver's list
     Limits values;               // of an item's value, or of a range
-    bool defaultNeeded;          // readers take the default item from the entry
-    Rows<const char*> keys = {}; // of the items, as far as readers take any; empty: any key
-    size_t mostItems = 0;        // that readers take; 0: any number
+    bool defaultNeeded;          // the driver uses the default item
+    Rows<const char*> keys = {}; // that the driver knows; empty: any key
+    size_t maxItems = 0;         // that the driver takes; 0: any number
     Rows<FactRow> facts = {};    // of a name/value table; empty: its rows are the feature switches
 };
 
@@ -78,7 +78,7 @@ constexpr size_t kMaxKeyChars = 31;
 
 Rows<EntryRow> KnownEntries();
 
-// Null when there is no such entry. Case does not matter.
+// Ignores case. Null when there is no such entry.
 const EntryRow* FindEntryRow(std::string_view name);
 
 #endif

@@ -1,5 +1,5 @@
-// The YAML form's reader, see yaml_reader.h. This file gives the nodes the schema's meaning. A node is looked
-// at only as deep as the schema goes, so aliases can't make it run away.
+// Reads a model from YAML by the schema. Nodes are visited only as deep as the schema goes, so aliases can't
+// cause endless recursion.
 #include "prmc/yaml_reader.h"
 
 #include "common/text.h"
@@ -13,7 +13,7 @@ void ReadNumbers(const Field& field, const YAML::Node& node, Value& value, Findi
     const size_t count = field.count;
     if (count > 1 && (!node.IsSequence() || node.size() != count)) {
         findings.Error(PlaceOf(node),
-                       Quote(field.name) + " takes " + std::to_string(count) + " numbers in brackets");
+                       Quote(field.name) + " must be " + std::to_string(count) + " numbers in brackets");
         return;
     }
     std::vector<int64_t> numbers(count);
@@ -63,7 +63,8 @@ Record ReadRecord(const Kind& kind, const YAML::Node& node, Findings& findings) 
                   });
     for (const Field& field : kind.fields) {
         if (node.IsMap() && field.required && !present.count(field.name))
-            findings.Error(record.place, Quote(field.name) + " is missing: every " + kind.label + " has one");
+            findings.Error(record.place,
+                           Quote(field.name) + " is missing: every " + kind.label + " needs it");
     }
     return record;
 }
@@ -80,8 +81,9 @@ void ReadDefault(Entry& entry, const YAML::Node& node, Findings& findings) {
             return;
         }
     }
-    entry.defaultItem = 0; // the fault is reported here, not once more as a default that is not there
-    findings.Error(PlaceOf(node), "default " + Quote(key) + " names no item" + NearestHint(key, keys));
+    entry.defaultItem = 0; // so that the rules don't report a missing default as well
+    findings.Error(PlaceOf(node),
+                   "default " + Quote(key) + " is not the key of any item" + NearestHint(key, keys));
 }
 
 void ReadList(Entry& entry, const YAML::Node& node, Findings& findings) {
@@ -96,7 +98,7 @@ void ReadList(Entry& entry, const YAML::Node& node, Findings& findings) {
                           findings.Error(PlaceOf(nameNode), "a list has no field " + Quote(name)
                                                                 + NearestHint(name, {"default", "items"}));
                       } else if (hasItems = true; !valueNode.IsSequence()) {
-                          findings.Error(PlaceOf(valueNode), "expected items: one '- {...}' for each");
+                          findings.Error(PlaceOf(valueNode), "expected a list of items, each '- {...}'");
                       } else {
                           for (const YAML::Node& item : valueNode)
                               entry.records.push_back(ReadRecord(kind, item, findings));
@@ -133,7 +135,7 @@ Model ReadDocument(const YAML::Node& root, Findings& findings) {
                                                 "unknown entry " + Quote(name) + NearestHint(name, known));
                       Entry entry{row, name, PlaceOf(nameNode), {}, {}};
                       ReadEntry(entry, valueNode, findings);
-                      if (valueNode.IsMap()) // else it is reported, and rules have nothing to look at
+                      if (valueNode.IsMap()) // otherwise reported; nothing for the rules to check
                           model.entries.push_back(std::move(entry));
                   });
     return model;

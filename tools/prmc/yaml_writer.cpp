@@ -1,10 +1,9 @@
-// The YAML form's writer, see yaml_writer.h.
+// Writes a model as YAML.
 #include "prmc/yaml_writer.h"
 
 #include "common/text.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 
 namespace {
@@ -38,7 +37,7 @@ size_t CountCharacters(const std::string& text) {
         std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
 }
 
-// "FIELD: VALUE" for each field, empty for one that is left out.
+// "FIELD: VALUE" for each field; empty for a field that is left out.
 std::vector<std::string> Cells(const Kind& kind, const Record& record) {
     std::vector<std::string> cells;
     for (size_t i = 0; i < kind.fields.count; ++i) {
@@ -48,7 +47,7 @@ std::vector<std::string> Cells(const Kind& kind, const Record& record) {
     return cells;
 }
 
-// "{...}", each cell filled up to its column's width where another one follows.
+// "{...}", with every cell but the last padded to its column's width.
 std::string FormatRow(const std::vector<std::string>& cells, const std::vector<size_t>& widths) {
     std::string row;
     size_t due = 0; // spaces before the next cell
@@ -66,7 +65,7 @@ std::string FormatRow(const std::vector<std::string>& cells, const std::vector<s
     return "{" + row + "}";
 }
 
-// One row for each record, in columns.
+// One row for each record, with aligned columns.
 std::vector<std::string> FormatRows(const Kind& kind, const std::vector<Record>& records) {
     std::vector<std::vector<std::string>> cells;
     std::vector<size_t> widths(kind.fields.count);
@@ -110,13 +109,10 @@ std::string FormatText(const std::string& text) {
         return text;
     std::string quoted = "\"";
     for (const char c : text) {
-        char escaped[8];
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) {
-            std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(c));
-            quoted += escaped;
-        } else {
+        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F)
+            quoted += HexEscape(c);
+        else
             quoted += c == '"' || c == '\\' ? std::string{'\\', c} : std::string{c};
-        }
     }
     return quoted + "\"";
 }
@@ -135,7 +131,7 @@ std::string FormatValue(const Field& field, const Value& value) {
         return mayBeLeftOut && value.pairs.empty() ? "" : FormatPairs(value.pairs);
     case FieldType::kText:
         return mayBeLeftOut && value.text.empty() ? "" : FormatText(value.text);
-    default: // a key, or a display name: an empty one is not the same as none
+    default: // a key or a display name: empty is not the same as missing
         return FormatText(value.text);
     }
 }

@@ -1,4 +1,4 @@
-// Model to YAML text, in the form that the reader takes.
+// Model to YAML text that yaml_reader.h reads back.
 #ifndef PRMC_YAML_WRITER_H
 #define PRMC_YAML_WRITER_H
 
@@ -6,13 +6,13 @@
 
 #include <string>
 
-// Each item on one line, fields in columns.
+// One line for each item, with aligned columns.
 std::string WriteYaml(const Model& model);
 
-// A field's value as YAML writes it; empty when it is left out, that is not given or optional and 0.
+// A field's value in YAML; empty when the field is left out: not given, or optional and 0.
 std::string FormatValue(const Field& field, const Value& value);
 
-// Plain when YAML takes it as it is, else in double quotes.
+// In double quotes unless YAML reads the plain text as it is.
 std::string FormatText(const std::string& text);
 
 #endif
