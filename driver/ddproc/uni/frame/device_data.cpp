@@ -1,4 +1,4 @@
-// The order in which the parameter data file becomes tables, and their release.
+// Builds the tables of the model from the parameter data file, in order, and releases them.
 #include "frame/device_data.h"
 
 #include "base/module_handles.h"

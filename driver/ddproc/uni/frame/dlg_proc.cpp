@@ -1,4 +1,4 @@
-// Dispatch of the dialogs' messages, and the tray-settings button: see the header.
+// DDProc_DlgProc: dispatches the messages of the model's dialogs, and runs the tray-settings button.
 #include "base/records.h"
 
 #include "base/module_handles.h"
@@ -22,6 +22,8 @@ void OpenTraySettings(HWND page, DialogContext* context) {
         SendMessageW(GetParent(page), TELMAR_WM_TRAYS_CHANGED, reinterpret_cast<WPARAM>(page), 0);
 }
 
+// The page of the button has no other messages of the module. Its identifier is then looked up among the
+// colour dialogs as any other, without a match.
 void RunTrayButton(HWND page, UINT message, WPARAM wParam) {
     auto* context = reinterpret_cast<DialogContext*>(GetWindowLongPtrW(page, DWLP_USER));
     if (message == WM_COMMAND && context != nullptr && wParam == TELMAR_TRAY_BUTTON)

@@ -1,4 +1,4 @@
-// The export that the frame itself answers.
+// The two exports that always return null.
 #include "base/records.h"
 
 void* WINAPI DDProc_FeatureNameItemTable() {

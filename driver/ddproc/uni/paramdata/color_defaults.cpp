@@ -1,4 +1,4 @@
-// Colour defaults: see the header.
+// Takes the defaults of the colour settings from the parameter data file.
 #include "paramdata/color_defaults.h"
 
 #include "base/text.h"
@@ -41,7 +41,7 @@ constexpr ColorDefault kGraphRgbSourceDefault = {"Graph_RGBProf", FIELD(graphics
 constexpr ColorDefault kSimulationGrayDefault = {"Simu_CMYKGray", FIELD(simulationGray)};
 // clang-format on
 
-// Writes the default item's value; null when the file names no item of the table.
+// Stores the value of the default item. Null when the file names no item of the table.
 const ItemRecord* ApplyColorDefault(const PrmFile& file, const ColorDefault& row, OemDevmode& settings) {
     DefaultKey key;
     if (!ReadDefaultKey(file, row.entry, key))
@@ -58,14 +58,14 @@ void ApplyColorDefaults(const PrmFile& file, const ColorDefault (&rows)[Count], 
         ApplyColorDefault(file, row, settings);
 }
 
-// The RGB source of one kind of object, with its name as the table holds it now.
+// Stores the RGB source of one kind of object, with the display name that the table has now.
 void ApplyRgbSource(const PrmFile& file, const ColorDefault& row, ProfileEntry& profile,
                     OemDevmode& settings) {
     if (const ItemRecord* item = ApplyColorDefault(file, row, settings))
         CopyText(profile.qualifier, item->display);
 }
 
-// A field that is 1 when the entry's default is the second of two items, 0 when it is any other.
+// Sets a field to 1 when the default of the entry is the second of the two items, to 0 when it is any other.
 void ApplyChoice(const PrmFile& file, const char* entry, const char* const (&itemKeys)[2], uint8_t& field) {
     DefaultKey key;
     if (ReadDefaultKey(file, entry, key))

@@ -6,13 +6,15 @@
 
 struct PrmFile;
 
-// Each takes the file's default keys and looks them up in the colour tables as they are now; a key that names
-// no item leaves its field.
+// Each looks up the default keys of the file in the colour tables as they are at that moment. A key that
+// names no item leaves its field unchanged.
 void ApplyColorModeDefault(const PrmFile& file, OemDevmode& settings);
-void ApplyObjectColorDefaults(const PrmFile& file,
-                              OemDevmode& settings); // matching, halftone, grey; what graphics follow
+// Colour matching, halftone and grey of text, images and graphics.
+void ApplyObjectColorDefaults(const PrmFile& file, OemDevmode& settings);
 void ApplyRgbSourceDefaults(const PrmFile& file, OemDevmode& settings);
-void ApplyProfileDefaults(const PrmFile& file, OemDevmode& settings);    // destinations, simulation
-void ApplySimulationDefaults(const PrmFile& file, OemDevmode& settings); // paper colour, simulated greys
+// Destinations and simulation.
+void ApplyProfileDefaults(const PrmFile& file, OemDevmode& settings);
+// Paper colour and greys of the simulation.
+void ApplySimulationDefaults(const PrmFile& file, OemDevmode& settings);
 
 #endif

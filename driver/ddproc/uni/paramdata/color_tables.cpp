@@ -1,4 +1,4 @@
-// Colour item tables: what is compiled in, and how the file replaces it.
+// The item tables of the colour settings: their compiled-in items, and how the file replaces them.
 #include "paramdata/color_tables.h"
 
 #include "base/text.h"
@@ -20,7 +20,7 @@ constexpr ItemRecord Item(const char* key, uint32_t value, const wchar_t* displa
     return item;
 }
 
-// The table's first items, one for each row of the value table.
+// The first items, one for each row of the key table.
 template <size_t Items>
 constexpr ItemTable<Items> FromValues(const ColorKeyRow* values, ColorKeyColumn column) {
     ItemTable<Items> table = {};
@@ -58,26 +58,31 @@ constexpr ColorTables kCompiledIn = {
     {{Item("Simu_4Color", 0), Item("Simu_BandG", 1), Item("Simu_BlackOnly", 2)}},
 };
 
+// What becomes of a table whose entry the file lacks.
+enum class WithoutEntry { kKept, kCleared };
+
 struct TableDescription {
     const char* entry;
     ItemRecord* items;
     uint32_t capacity;         // items, without the end record
-    ItemRecord* shortItems;    // a second table that takes the first two items; null: none
-    const ColorKeyRow* values; // null: an item's value is its position
+    ItemRecord* shortItems;    // a second table with the first two items; null: none
+    const ColorKeyRow* values; // null: the value of an item is its position
     ColorKeyColumn column;
-    uint32_t destinationsOf; // kind of object whose destination list this is; 0: no destination list
+    WithoutEntry withoutEntry;
+    uint32_t destinationsOf; // kind of object whose destination list this is; 0: none
 };
 constexpr uint32_t kShortCapacity = 2;
 
 template <size_t Items>
 constexpr TableDescription Table(const char* entry, ItemTable<Items>& table,
                                  const ColorKeyRow* values = nullptr, ColorKeyColumn column = kTextKeys,
-                                 ItemRecord* shortItems = nullptr) {
-    return {entry, table.items, Items, shortItems, values, column, 0};
+                                 ItemRecord* shortItems = nullptr,
+                                 WithoutEntry withoutEntry = WithoutEntry::kKept) {
+    return {entry, table.items, Items, shortItems, values, column, withoutEntry, 0};
 }
 
 constexpr TableDescription Destinations(const char* entry, ItemTable<1>& table, uint32_t kind) {
-    return {entry, table.items, 1, nullptr, nullptr, kTextKeys, kind};
+    return {entry, table.items, 1, nullptr, nullptr, kTextKeys, WithoutEntry::kKept, kind};
 }
 
 // In the order of filling.
@@ -92,7 +97,7 @@ constexpr TableDescription kTables[] = {
     Table("Img_RGBColorMatch",   colorTables.image.colorMatches,    kColorMatchKeys, kImageKeys),
     Table("Img_RGBGray",         colorTables.image.grays,           kGrayKeys,       kImageKeys),
     Table("Img_Halftone",        colorTables.image.halftones,       kHalftoneKeys,   kImageKeys),
-    Table("Graph_RGBProf",       colorTables.graphics.rgbProfiles,  kProfileKeys,    kGraphicsKeys, colorTables.graphics.shortRgbProfiles.items),
+    Table("Graph_RGBProf",       colorTables.graphics.rgbProfiles,  kProfileKeys,    kGraphicsKeys, colorTables.graphics.shortRgbProfiles.items, WithoutEntry::kCleared),
     Table("Graph_RGBColorMatch", colorTables.graphics.colorMatches, kColorMatchKeys, kGraphicsKeys),
     Table("Graph_RGBGray",       colorTables.graphics.grays,        kGrayKeys,       kGraphicsKeys),
     Table("Graph_Halftone",      colorTables.graphics.halftones,    kHalftoneKeys,   kGraphicsKeys),
@@ -104,13 +109,6 @@ constexpr TableDescription kTables[] = {
     Destinations("Graph_Destination", colorTables.graphics.destinations, kGraphicsObjects),
 };
 // clang-format on
-
-const ItemRecord* FindItem(const ItemRecord* items, const char* key) {
-    for (const ItemRecord& item : Listed(items))
-        if (SameText(item.head.key, key))
-            return &item;
-    return nullptr;
-}
 
 // The value of the first row with this key; 0 without one.
 uint32_t ValueOf(const ColorKeyRow* values, ColorKeyColumn column, const char (&key)[32]) {
@@ -148,7 +146,7 @@ void Fill(const PrmFile& file, const PrmItems& items, const TableDescription& ta
     }
 }
 
-// Takes the file's items as far as the table knows their keys; the first unknown one ends the list.
+// Takes the items of the file up to the first whose key is not among the known ones.
 void TakeKnownItems(const PrmFile& file, const PrmItems& items, const ItemRecord* known,
                     const TableDescription& table) {
     Clear(table);
@@ -156,7 +154,7 @@ void TakeKnownItems(const PrmFile& file, const PrmItems& items, const ItemRecord
         const PrmItemHead head = ReadHead(file, items, i);
         PrmText key = {};
         PrmReadString(file, head.key, key);
-        const ItemRecord* item = FindItem(known, key);
+        const ItemRecord* item = FindByKey(known, key);
         if (item == nullptr)
             return;
         table.items[i] = Item(item->head.key, item->head.value);
@@ -188,7 +186,7 @@ ColorTables colorTables = kCompiledIn;
 const ItemRecord* FindColorItem(const char* entry, const char* key) {
     for (const TableDescription& table : kTables)
         if (SameText(table.entry, entry))
-            return FindItem(table.items, key);
+            return FindByKey<const ItemRecord>(table.items, key);
     return nullptr;
 }
 
@@ -199,7 +197,7 @@ void FillColorTables(const PrmFile& file) {
         PrmItems items;
         if (PrmFindItems(file, table.entry, items))
             Fill(file, items, table);
-        else if (table.items == colorTables.graphics.rgbProfiles.items)
+        else if (table.withoutEntry == WithoutEntry::kCleared)
             Clear(table);
     }
 }

@@ -1,12 +1,12 @@
-// The item tables of the colour settings. Compiled in; the parameter data file replaces their items while the
-// process attaches, afterwards they are only read.
+// The item tables of the colour settings. The parameter data file replaces their compiled-in items at process
+// attach; afterwards they are only read.
 #ifndef PARAMDATA_COLOR_TABLES_H
 #define PARAMDATA_COLOR_TABLES_H
 
 #include "paramdata/color_keys.h"
 #include "paramdata/device_table.h"
 
-// Items of one setting and the end record, which no contents of the file can overwrite.
+// The items of one setting and the end record, which is never overwritten.
 template <size_t Items>
 struct ItemTable {
     ItemRecord items[Items + 1];
@@ -34,12 +34,12 @@ struct ColorTables {
 };
 extern ColorTables colorTables;
 
-// The item with this key in the table that the entry fills; of the RGB source profiles, the full table. Null
-// when there is no such table or item.
+// The item with this key in the entry's table; for the RGB source profiles, in the full table. Null when
+// there is no such table or item.
 const ItemRecord* FindColorItem(const char* entry, const char* key);
 
-// Fills every table but the destinations of text, image and graphics from the file. A table whose entry the
-// file lacks keeps its items; the graphics RGB source profiles are then cleared instead.
+// Fills the tables from the file, except the destinations of text, image and graphics. A table whose entry
+// the file lacks keeps its items; only the RGB source profiles of graphics are then cleared.
 void FillColorTables(const PrmFile& file);
 
 // Kinds of object that have a destination list.
@@ -47,8 +47,8 @@ constexpr uint32_t kTextObjects = 1;
 constexpr uint32_t kImageObjects = 2;
 constexpr uint32_t kGraphicsObjects = 4;
 
-// Rebuilds the destination list of one kind of object: the file's items as far as the table knows their keys.
-// False, and the table as it was, for any other kind, without the entry and without memory.
+// Rebuilds the destination list of one kind of object from the items of the file that the table already has.
+// False, with the table unchanged, for any other kind, without the entry and without memory.
 bool BuildDestinationList(const PrmFile& file, uint32_t kind);
 
 #endif

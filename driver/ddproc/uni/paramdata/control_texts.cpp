@@ -1,7 +1,7 @@
-// Control text tables: see the header.
+// The control text tables, and their texts from the parameter data file.
 #include "paramdata/control_texts.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 #include "paramdata/control_text_keys.h"
 #include "paramdata/prm_readers.h"
 
@@ -40,12 +40,8 @@ bool ApplyControlTexts(const PrmFile& file, const char* entry, ControlTextRecord
     if (!PrmFindItems(file, entry, items))
         return false;
     PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
-        for (ControlTextRecord* row = table; row->key[0] != 0; ++row) {
-            if (!SameText(row->key, key))
-                continue;
+        if (ControlTextRecord* row = FindByKey(table, key))
             PrmReadDisplay(file, item.display, row->display);
-            break;
-        }
         return true;
     });
     return true;

@@ -1,4 +1,4 @@
-// Default settings: the compiled-in record, and the steps that take the file's defaults, in their order.
+// The default settings: the compiled-in record, and the steps that take the defaults of the file.
 #include "paramdata/default_settings.h"
 
 #include "base/text.h"
@@ -52,8 +52,7 @@ void ApplyOutputPaper(const PrmFile& file, OemDevmode& settings) {
     settings.outputLength = samePaper ? settings.paperLength : static_cast<int16_t>(paper.length);
 }
 
-// Entries whose default is the value of their default record, which lies in the same place in all their
-// kinds.
+// Entries whose default is the value of their default record. It has the same offset in all kinds of records.
 static_assert(offsetof(PrmTextItem, value) == offsetof(PrmMediaItem, value)
               && offsetof(PrmTextItem, value) == offsetof(PrmTabPaper, value));
 constexpr struct {
@@ -81,24 +80,24 @@ constexpr struct {
 
 void ApplyRecordDefaults(const PrmFile& file, OemDevmode& settings) {
     for (const auto& row : kRecordDefaults) {
-        PrmTabPaper record; // the shortest of the kinds that hold the value
+        PrmTabPaper record; // the shortest record with the value
         if (ReadDefault(file, row.entry, record))
             Store(settings, row.field, record.value);
     }
 }
 
-// A metric value times k / 254, rounded for values from 0 on; a negative one is cut toward zero after the
-// same 127 is added. With k 100 or 1000 tenths of a millimetre become hundredths or thousandths of an inch.
+// Converts tenths of a millimetre to hundredths (k = 100) or thousandths (k = 1000) of an inch. Rounds values
+// from 0 on; a negative value is truncated toward zero after 127 has been added.
 int32_t Inches(int16_t metric, int32_t k) {
     return (metric * k + 127) / 254;
 }
 
 constexpr struct {
     const char* entry;
-    int32_t unit;           // of the file's value, in the field's unit
+    int32_t unit;           // of the value in the file, in units of the field
     DevmodeField metric[2]; // the same value in both
     DevmodeField inches[2];
-    bool byFigureType; // inches are thousandths for figure type 1, else hundredths; otherwise thousandths
+    bool byFigureType; // thousandths of an inch for figure type 1, else hundredths; false: thousandths
 } kRangeDefaults[] = {
     // clang-format off
     {"Copies",             1,  {FIELD(copies)},                                    {},                                                          false},
@@ -150,16 +149,13 @@ void ApplyTraySelections(const PrmFile& file, OemDevmode& settings) {
     }
 }
 
-// The list's item that is the entry's default; null when there is none.
+// The item of the list that is the default of the entry; null when there is none.
 const TextItemRecord* FindDefaultLocation(const PrmFile& file, const char* entry,
                                           const TextItemRecord* list) {
     DefaultKey key;
     if (!ReadDefaultKey(file, entry, key))
         return nullptr;
-    for (const TextItemRecord& item : Listed(list))
-        if (SameText(item.head.key, key))
-            return &item;
-    return nullptr;
+    return FindByKey(list, key);
 }
 
 template <size_t Capacity>
@@ -182,8 +178,7 @@ void StoreWatermark(const PrmFile& file, const DeviceTable& table, const PrmWate
     settings.watermarkValue3 = static_cast<uint16_t>(from.value3);
 }
 
-// Calls found(record, key, position) for each item with the key of the entry's default record until it
-// returns false.
+// Calls found(record, key, position) for each item with the key of the default record until it returns false.
 template <typename Record, typename Found>
 void ForEachDefaultItem(const PrmFile& file, const char* entry, Found found) {
     PrmItems items;
@@ -208,7 +203,7 @@ void ApplyWatermark(const PrmFile& file, const DeviceTable& table, OemDevmode& s
             settings.watermark = static_cast<uint16_t>(position);
             if (!SameText(key, "WM_None"))
                 StoreWatermark(file, table, watermark, settings);
-            return true; // a later item of the same key writes again
+            return true; // a later item with the same key overwrites it
         });
 }
 
@@ -265,7 +260,7 @@ void DeriveCoverPrint(const DeviceTable& table, OemDevmode& settings) {
 
 } // namespace
 
-// Aligned for its UTF-16 fields, which the packed record itself does not promise.
+// Aligned for its UTF-16 fields: the packed type itself has no alignment.
 alignas(8) OemDevmode defaultSettings = kCompiledIn;
 
 void ApplyLocationDefault(const PrmFile& file, const char* entry, const TextItemRecord* list,

@@ -1,5 +1,5 @@
-// The common list build: one loop over the items of an entry, one fill per pair of file record and list
-// record, one table that says which list is built from what.
+// Builds the item lists of the device table: one loop over the items of an entry, one Fill function for each
+// pair of file record and list record, and a table of the lists.
 #include "paramdata/feature_lists.h"
 
 #include "base/text.h"
@@ -17,14 +17,14 @@ struct Item {
     uint32_t position;   // in the list
 };
 
-// Key, value and icon: what every list takes from its items.
+// Fills what all lists have: key, value, icon.
 void FillHead(const PrmFile& file, const PrmItemHead& from, uint32_t value, ItemHead& to) {
     PrmReadKey(file, from.key, to.key);
     to.value = value;
     to.icon = kItemIcon;
 }
 
-// Output, finishing and media attributes: an item with a text.
+// Items with a text: output, finishing and media attributes.
 template <typename FileRecord, typename Record>
 void Fill(const Item& item, const FileRecord& from, Record& to) {
     FillHead(item.file, from.head, from.value, to.head);
@@ -32,7 +32,7 @@ void Fill(const Item& item, const FileRecord& from, Record& to) {
     CopyText(to.text, from.text);
 }
 
-// A tray that is not enabled keeps an empty key, which ends the list there for every reader.
+// A paper source that is not enabled keeps an empty key, which ends the list for every reader.
 void Fill(const Item& item, const PrmMediaItem& from, InputSlotRecord& to) {
     if (from.extra != 0) {
         FillHead(item.file, from.head, from.value, to.head);
@@ -70,7 +70,7 @@ void Fill(const Item& item, const PrmItemDescriptor& from, ItemRecord& to) {
     TraySelectionValue(item.feature, to.head.key, to.head.value);
 }
 
-// The display names that both kinds of paper size hold twice.
+// Fills the display names, which both kinds of paper size have twice.
 template <typename FileRecord, typename Record>
 void FillDisplayPairs(const PrmFile& file, const FileRecord& from, Record& to) {
     PrmReadDisplay(file, from.head.display, to.display);
@@ -85,7 +85,7 @@ void Fill(const Item& item, const PrmOutputPaper& from, OutputPaperSizeRecord& t
     memcpy(to.values, from.values, sizeof(to.values));
 }
 
-// Copies a block that counts only when its flag is not 0; the destination is 0 otherwise.
+// Copies a block if its flag is not 0; otherwise the destination stays 0.
 void CopyFlagged(uint32_t flag, void* to, const void* from, size_t size) {
     if (flag != 0)
         memcpy(to, from, size);
@@ -133,11 +133,11 @@ void ReadItem(const Item& item, uint32_t offset, void* record) {
     Fill(item, from, *static_cast<Record*>(record));
 }
 
-// How one list is built.
+// How a list is built.
 struct ListDescription {
     const char* entry;
     size_t recordSize; // of a list record
-    bool sizedEnd;     // the terminating record carries the size too
+    bool sizedEnd;     // the terminating record has a size, too
     size_t field;      // offset of the list's pointer in the device table
     void (*readItem)(const Item& item, uint32_t offset, void* record);
 };
@@ -179,7 +179,7 @@ constexpr struct {
     {ListStage::Page,       LIST("PaperArrangement",     PrmTextItem,    TextItemRecord,        kZeroEnd,  paperArrangements)},
 };
 
-// The seven tray selection lists differ in their entry and in which of the table's pointers they fill.
+// The tray selection lists differ in their entry and their pointer in the device table.
 constexpr ListDescription kTraySelection = LIST(nullptr, PrmItemDescriptor, ItemRecord, kZeroEnd, traySelections);
 #undef LIST
 // clang-format on

@@ -1,12 +1,12 @@
-// The item lists of the printing features: built from the file into the device table, in stages, and
-// released.
+// The item lists of the printing features: built from the parameter data file into the device table, in
+// stages, and released.
 #ifndef PARAMDATA_FEATURE_LISTS_H
 #define PARAMDATA_FEATURE_LISTS_H
 
 #include "paramdata/device_table.h"
 #include "paramdata/prm_readers.h"
 
-// The stages of building; each builds its lists in the order of the table in feature_lists.cpp.
+// Each stage builds its lists in the order of the table in feature_lists.cpp.
 enum class ListStage {
     Paper,     // paper sizes, output paper sizes, media types, input trays
     Output,    // output trays, media weights, media colours, resolutions
@@ -18,13 +18,13 @@ void BuildLists(PrmFile& file, DeviceTable& table, ListStage stage);
 
 // Builds the tray selection list of one feature into the table's field that the bit selects: 1 "FCoverTray",
 // 2 "BCoverTray", 4 "SeparatePageTray", 8 "OHPIntTray", 16 "PIFrontCover", 32 "PIBackCover",
-// 64 "PerPageListPaperSrc". Any other bit builds nothing, a null table neither.
+// 64 "PerPageListPaperSrc". Any other bit and a null table build nothing.
 void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* feature, uint32_t featureBit);
 
-// The number in a resolution's key behind its fifth character; 0 for a shorter key.
+// The number after the fifth character of a resolution's key; 0 for a shorter key.
 uint16_t ResolutionNumber(const PrmText& key);
 
-// Releases every list of the table, the tray rows included.
+// Releases every list of the table, also the tray rows.
 void FreeLists(DeviceTable& table);
 
 #endif

@@ -1,5 +1,5 @@
-// The feature switches: which rows of "FeatureSetting" the model's switches are set from, and by which value.
-// The device table holds them in this order; the file's compiler checks the rows against the same table.
+// The feature switches in the order of the device table: the row of "FeatureSetting" that sets each, and the
+// value that turns it on. The compiler of parameter data files uses the same table.
 #ifndef PARAMDATA_FEATURE_SWITCHES_H
 #define PARAMDATA_FEATURE_SWITCHES_H
 
@@ -103,8 +103,8 @@ inline constexpr FeatureSwitchRow kFeatureSwitches[] = {
 constexpr size_t kFeatureSwitchCount = sizeof(kFeatureSwitches) / sizeof(kFeatureSwitches[0]);
 static_assert(kFeatureSwitchCount == 85);
 
-// Position of the first row of this name, for constant expressions only: there a name that no row has does
-// not compile.
+// Position of the first row with this name. For constant expressions only, where an unknown name does not
+// compile.
 constexpr size_t SwitchPosition(const char* name) {
     for (size_t i = 0;; ++i) {
         const char* row = kFeatureSwitches[i].name;
@@ -128,6 +128,6 @@ enum FeatureSwitch : size_t {
 };
 static_assert(kSwitchColorSetting == 11 && kSwitchDlgMediaType == 83);
 
-constexpr unsigned kMaxSwitchType = 255; // "TYPE%d" is looked for from 1 to this number
+constexpr unsigned kMaxSwitchType = 255; // "TYPEn" is recognized from 1 to this number
 
 #endif

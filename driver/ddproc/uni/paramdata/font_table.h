@@ -1,5 +1,4 @@
-// The font substitution table of the private print settings: which printer font stands for which TrueType
-// font.
+// The font substitution table of the private print settings: the printer font for each TrueType font.
 #ifndef PARAMDATA_FONT_TABLE_H
 #define PARAMDATA_FONT_TABLE_H
 

@@ -1,7 +1,8 @@
-// Input slots: the compiled-in table, its update from the file and the look-up of tray selection items.
+// The paper sources of the model: their compiled-in table, its update from the parameter data file, and the
+// search by the items of the features that select a source.
 #include "paramdata/input_slots.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 #include "paramdata/prm_readers.h"
 
 namespace {
@@ -39,25 +40,22 @@ void UpdateInputSlots(const PrmFile& file) {
         PrmReadRecord(file, PrmItemOffset(file, items, i), item);
         PrmText key = {};
         PrmReadString(file, item.head.key, key);
-        for (TraySourceRecord* slot = inputSlots; slot->key[0] != 0; ++slot) {
-            if (!SameText(slot->key, key))
-                continue;
+        if (TraySourceRecord* slot = FindByKey<TraySourceRecord>(inputSlots, key)) {
             CopyText(slot->text, item.text);
             slot->bin = static_cast<uint16_t>(item.value);
-            break;
         }
     }
 }
 
 bool TraySelectionValue(const char* feature, const char* itemKey, uint32_t& value) {
     if (itemKey[0] == 0)
-        return false; // it would match every source that the feature does not offer
+        return false; // it would match a source that the feature does not offer
     for (size_t column = 0; column < kTraySelectionCount; ++column) {
         if (!SameText(kTraySelectionFeatures[column], feature))
             continue;
-        for (const TraySourceRecord* slot = inputSlots; slot->key[0] != 0; ++slot) {
-            if (SameText(slot->selectionKeys[column], itemKey)) {
-                value = slot->bin;
+        for (const TraySourceRecord& slot : Listed<TraySourceRecord>(inputSlots)) {
+            if (SameText(slot.selectionKeys[column], itemKey)) {
+                value = slot.bin;
                 return true;
             }
         }

@@ -1,5 +1,5 @@
-// The model's paper sources, and by which item keys the tray selection features name them. Compiled in; bin
-// numbers and tray texts are updated from the parameter data file while the device table is built.
+// The paper sources of the model. Compiled in; their bin numbers and texts are updated from the parameter
+// data file while the device table is built.
 #ifndef PARAMDATA_INPUT_SLOTS_H
 #define PARAMDATA_INPUT_SLOTS_H
 
@@ -23,16 +23,16 @@ static_assert(sizeof(TraySourceRecord) == 388 && offsetof(TraySourceRecord, bin)
 // Ends at an empty key. The first row is the automatic choice.
 extern TraySourceRecord (&inputSlots)[12];
 
-// Whether this bin number is the automatic choice, which is no tray.
+// Whether this bin number is the automatic choice, not a tray.
 inline bool IsAutomaticBin(uint32_t bin) {
     return bin == inputSlots[0].bin;
 }
 
-// Takes bin numbers and tray texts from the file's "ALL_InTray".
+// Takes bin numbers and texts from the entry "ALL_InTray" of the file.
 void UpdateInputSlots(const PrmFile& file);
 
-// Bin number of the paper source that a tray selection feature's item names. False, and `value` untouched,
-// when the feature or the item is unknown or the item key empty.
+// The bin number of the paper source that the feature's item selects. False, with `value` unchanged, when the
+// feature or the item is unknown and when the item key is empty.
 bool TraySelectionValue(const char* feature, const char* itemKey, uint32_t& value);
 
 #endif

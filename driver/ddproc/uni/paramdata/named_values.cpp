@@ -1,5 +1,5 @@
-// Name/value tables of the parameter data file. Each row of the file is held against every name of the
-// builder, so a later row of the same name overwrites an earlier one, and one row may set two fields.
+// Reads the name/value tables of the parameter data file. Each row is compared with every name of the
+// builder: a later row with the same name overwrites an earlier one, and one row may set two fields.
 #include "paramdata/named_values.h"
 
 #include "base/text.h"
@@ -12,8 +12,8 @@ namespace {
 // A value that fills its field has no terminator in the file.
 constexpr size_t kValueCapacity = sizeof(PrmTableRow::value) + 1;
 
-// Calls visit(row) for each row of the entry's table. A table that announces more rows than the file could
-// hold counts as missing.
+// Calls visit(row) for each row of the entry's table. A table that announces more rows than the file can hold
+// counts as missing.
 template <typename Visit>
 void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     PrmItems items;
@@ -30,8 +30,7 @@ void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     }
 }
 
-// The number n, 1 to kMaxSwitchType, of a value "TYPEn"; 1 for any other value. Leading zeros don't count as
-// "TYPEn".
+// The number n of a value "TYPEn", from 1 to kMaxSwitchType and without leading zeros; 1 for any other value.
 uint32_t SwitchType(const char* value) {
     constexpr size_t kPrefix = 4;
     if (TextLength(value) <= kPrefix || !SameCharacters(value, "TYPE", kPrefix) || value[kPrefix] == '0')

@@ -1,8 +1,10 @@
 // Layout of the parameter data file TELMAR_D.PRM: the header, the entry chain and every kind of record that
-// an entry may carry. Shared by the reader, the builders and the file's compiler; needs no platform header.
+// an entry may have. Used by the reader, the builders and the compiler of such files; includes no platform
+// header.
 //
 // All numbers are little-endian, all offsets absolute from the start of the file. Text fields are 8-bit and
-// may lack their terminator when they are full. Fields called `unread` belong to the file's producer.
+// may lack their terminator when they are full. Fields called `unread` are for the producer of the file.
+// Geometry sets and numbered values: meaning unknown, carried through.
 #ifndef PARAMDATA_PRM_LAYOUT_H
 #define PARAMDATA_PRM_LAYOUT_H
 

@@ -1,4 +1,5 @@
-// Tray rows: see the header. An item of "MediaTypeList_Tray" names the row whose key its own key ends in.
+// Builds the tray rows. An item of "MediaTypeList_Tray" belongs to the row whose key is the end of its own
+// key.
 #include "paramdata/tray_rows.h"
 
 #include "base/text.h"
@@ -7,18 +8,10 @@
 
 namespace {
 
-// Rows beyond this many keep their names: each item is held against every row, and no device has so many
-// trays.
+// Rows beyond this many get no names: each item is compared with every row, and no device has so many trays.
 constexpr uint32_t kMaxNamedRows = 64;
 
-uint32_t CountTrays(const InputSlotRecord* trays) {
-    uint32_t count = 0;
-    while (trays[count].head.key[0] != 0)
-        ++count;
-    return count;
-}
-
-// Whether the text is longer than the ending and ends in it.
+// Whether the text ends in the ending and is longer.
 bool EndsIn(const PrmText& text, const char (&ending)[32]) {
     const size_t length = TextLength(text);
     const size_t endingLength = TextLength(ending);
@@ -32,7 +25,7 @@ void BuildTrayRows(PrmFile& file, DeviceTable& table) {
     PrmItems items;
     if (trays == nullptr || !PrmFindItems(file, "MediaTypeList_Tray", items))
         return;
-    const uint32_t count = CountTrays(trays);
+    const auto count = static_cast<uint32_t>(Listed(trays).count);
     auto* rows =
         static_cast<TrayRowRecord*>(PrmAllocateRecords(file, uint64_t{count} + 1, sizeof(TrayRowRecord)));
     table.trayRows = rows;

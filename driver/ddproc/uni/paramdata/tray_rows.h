@@ -1,4 +1,4 @@
-// The trays of the tray-setting dialog's list view.
+// The rows of the list view in the tray-setting dialogs.
 #ifndef PARAMDATA_TRAY_ROWS_H
 #define PARAMDATA_TRAY_ROWS_H
 
@@ -6,8 +6,8 @@
 
 struct PrmFile;
 
-// Builds the tray rows from the input tray list; "MediaTypeList_Tray" gives them their keys and display
-// names. Nothing is built without either of the two.
+// Builds a row for each paper source of the device table; "MediaTypeList_Tray" gives the rows their keys and
+// display names. Builds nothing when one of the two is missing.
 void BuildTrayRows(PrmFile& file, DeviceTable& table);
 
 #endif
