@@ -1,5 +1,5 @@
-// What the colour dialogs show: the colour item tables, the destination lists and the control texts, as
-// compiled in and as the file replaces them.
+// The tables of the colour dialogs filled from the parameter data file: colour items, destination lists,
+// texts.
 #include "paramdata/prm_readers.h"
 #include "support/prm_image.h"
 
@@ -10,9 +10,6 @@ struct ColorTablesTest : ParameterDataTest {};
 const std::string kProfiles = "DeviceRGB=0;sRGB=1;AdobeRGB1998=128;AppleRGB=129;CIERGB=130;ColorMatchRGB=131;"
                               "NTSC1953=132;PAL=133;SMPTE_C=134;sRGB_MS=135;WideGamutRGB=136;SMPTE_240M=137;"
                               "EFIRGB=138;sRGB_Standard=139;ProPhotoRGB=140;BlueAdjust=141";
-const std::string kMatches = "Vivid=0;Photographic=1;Proof=2;Match=3";
-const std::string kGrays = "4Color=0;BandG=1;BlackOnly=2";
-
 // Items "key=value" with a prefix before each key.
 std::string With(const std::string& prefix, const std::string& items) {
     std::string result;
@@ -48,13 +45,12 @@ RawBytes TableOf(const std::vector<Item>& items, size_t capacity) {
     return table;
 }
 
-// One table: the entry that fills it, what is compiled in, and what a file may make of it. "" in place of a
-// file's items: the file lacks the entry. Items beyond the capacity are in the file only.
+// A table, the entry that fills it, and the items of the entry in a file; "": the file lacks the entry.
 struct Table {
     const char* entry;
     const void* table;
     size_t capacity;
-    std::string compiledIn, fromFile;
+    std::string fromFile;
 };
 
 std::vector<Table> Tables() {
@@ -65,32 +61,28 @@ std::vector<Table> Tables() {
         With("Img_", "PAL=133:P;" + kProfiles.substr(kProfiles.find("sRGB=")) + ";DeviceRGB=0;Beyond=0");
     return {
         // clang-format off
-        {"RGBProf",             &colorTables.rgbProfiles,     2,  "DeviceRGB=0;sRGB=1", "sRGB=0:S;Other=1:O;Third=2"},
-        {"Text_RGBProf",        &text.shortRgbProfiles,       2,  With("Text_", kProfiles), textProfiles},
-        {"Text_RGBProf",        &text.rgbProfiles,            16, With("Text_", kProfiles), textProfiles},
-        {"Text_RGBColorMatch",  &text.colorMatches,           4,  With("Text_", kMatches),  "Text_Match=3:M;Text_Vivid=0;Img_Proof=0;Text_Proof=2;Text_Photographic=1"},
-        {"Text_RGBGray",        &text.grays,                  3,  With("Text_", kGrays),    "Text_BlackOnly=2:B"},
-        {"Text_Halftone",       &text.halftones,              3,  "Text_UltraDetai=0;Text_Detail=1;Text_Smooth=2", "Text_Smooth=2:S;=3:no key;Text_UltraDetai=0"},
-        {"Img_RGBProf",         &image.shortRgbProfiles,      2,  With("Img_", kProfiles),  imageProfiles},
-        {"Img_RGBProf",         &image.rgbProfiles,           16, With("Img_", kProfiles),  imageProfiles},
-        {"Img_RGBColorMatch",   &image.colorMatches,          4,  With("Img_", kMatches),   ""},
-        {"Img_RGBGray",         &image.grays,                 3,  With("Img_", kGrays),     "Img_BandG=1:G;Text_BlackOnly=0"},
-        {"Img_Halftone",        &image.halftones,             3,  "Img_UltraDetail=0;Img_Detail=1;Img_Smooth=2", "Img_Detail=1:D;Graph_HalftoneText=0"},
-        {"Graph_RGBProf",       &graphics.shortRgbProfiles,   2,  With("Graph_", kProfiles), "Graph_ProPhotoRGB=140:P"},
-        {"Graph_RGBProf",       &graphics.rgbProfiles,        16, With("Graph_", kProfiles), "Graph_ProPhotoRGB=140:P"},
-        {"Graph_RGBColorMatch", &graphics.colorMatches,       4,  With("Graph_", kMatches),  "Graph_Photographic=1;Graph_Vivid=0"},
-        {"Graph_RGBGray",       &graphics.grays,              3,  With("Graph_", kGrays),    "Graph_4Color=0:4;Graph_BlackOnly=2:K"},
-        {"Graph_Halftone",      &graphics.halftones,          5,  "Graph_HalftoneText=3:Same as Text Setting;Graph_HalftoneImage=4:Same as Image Setting;"
-                                                                  "Graph_UltraDetail=0:UltraDetail;Graph_Detail=1:Detail;Graph_Smooth=2:Smooth",
-                                                                  "Graph_HalftoneImage=4;Graph_Smooth=2:S;Graph_HalftoneText=3:T"},
-        {"SimulationProf",      &colorTables.simulations,     6,  "Simu_None=0;Simu_SWOP=1;Simu_Euroscale=2;Simu_CommercialPress=3;Simu_TOYO=4;Simu_DIC=5",
-                                                                  "Simu_DIC=0:D;Simu_TOYO=1;C=2;D=3;E=4;Simu_None=5:N;Simu_SWOP=6"},
-        {"DestinationProf",     &colorTables.destinations,    1,  "Dest_Auto=0", "A_key_of_more_than_31_characters_is_cut=0:A name of more than 47 characters, which is cut there"},
-        {"Simu_CMYKGray",       &colorTables.simulationGrays, 3,  "Simu_4Color=0;Simu_BandG=1;Simu_BlackOnly=2", "Simu_BlackOnly=0;Simu_4Color=1"},
-        // destination lists, which are rebuilt elsewhere
-        {"",                    &text.destinations,           1,  "Text_DestAuto=0",  ""},
-        {"",                    &image.destinations,          1,  "Img_DestAuto=0",   ""},
-        {"",                    &graphics.destinations,       1,  "Graph_DestAuto=0", ""},
+        {"RGBProf",             &colorTables.rgbProfiles,     2,  "sRGB=0:S;Other=1:O;Third=2"},
+        {"Text_RGBProf",        &text.shortRgbProfiles,       2,  textProfiles},
+        {"Text_RGBProf",        &text.rgbProfiles,            16, textProfiles},
+        {"Text_RGBColorMatch",  &text.colorMatches,           4,  "Text_Match=3:M;Text_Vivid=0;Img_Proof=0;Text_Proof=2;Text_Photographic=1"},
+        {"Text_RGBGray",        &text.grays,                  3,  "Text_BlackOnly=2:B"},
+        {"Text_Halftone",       &text.halftones,              3,  "Text_Smooth=2:S;=3:no key;Text_UltraDetai=0"},
+        {"Img_RGBProf",         &image.shortRgbProfiles,      2,  imageProfiles},
+        {"Img_RGBProf",         &image.rgbProfiles,           16, imageProfiles},
+        {"Img_RGBColorMatch",   &image.colorMatches,          4,  ""},
+        {"Img_RGBGray",         &image.grays,                 3,  "Img_BandG=1:G;Text_BlackOnly=0"},
+        {"Img_Halftone",        &image.halftones,             3,  "Img_Detail=1:D;Graph_HalftoneText=0"},
+        {"Graph_RGBProf",       &graphics.shortRgbProfiles,   2,  "Graph_ProPhotoRGB=140:P"},
+        {"Graph_RGBProf",       &graphics.rgbProfiles,        16, "Graph_ProPhotoRGB=140:P"},
+        {"Graph_RGBColorMatch", &graphics.colorMatches,       4,  "Graph_Photographic=1;Graph_Vivid=0"},
+        {"Graph_RGBGray",       &graphics.grays,              3,  "Graph_4Color=0:4;Graph_BlackOnly=2:K"},
+        {"Graph_Halftone",      &graphics.halftones,          5,  "Graph_HalftoneImage=4;Graph_Smooth=2:S;Graph_HalftoneText=3:T"},
+        {"SimulationProf",      &colorTables.simulations,     6,  "Simu_DIC=0:D;Simu_TOYO=1;C=2;D=3;E=4;Simu_None=5:N;Simu_SWOP=6"},
+        {"DestinationProf",     &colorTables.destinations,    1,  "A_key_of_more_than_31_characters_is_cut=0:A name of more than 47 characters, which is cut there"},
+        {"Simu_CMYKGray",       &colorTables.simulationGrays, 3,  "Simu_BlackOnly=0;Simu_4Color=1"},
+        {"Text_Destination",    &text.destinations,           1,  ""}, // rebuilt elsewhere
+        {"Img_Destination",     &image.destinations,          1,  ""},
+        {"Graph_Destination",   &graphics.destinations,       1,  ""},
         // clang-format on
     };
 }
@@ -99,13 +91,13 @@ void FillFrom(const PrmImage& image) {
     FillColorTables(*OpenedImage(image));
 }
 
-TEST_F(ColorTablesTest, CompiledIn) {
-    size_t bytes = 0;
-    for (const Table& c : Tables()) {
-        EXPECT_EQ(Differences(c.table, TableOf(Items(c.compiledIn), c.capacity)), "") << c.entry;
-        bytes += 144 * (c.capacity + 1);
-    }
-    EXPECT_EQ(bytes, sizeof(colorTables)) << "there is another table";
+// The table as it was before the test.
+RawBytes Before(const ParameterDataTest& test, const Table& table) {
+    const size_t size = 144 * (table.capacity + 1);
+    RawBytes before(size);
+    const auto at = static_cast<const uint8_t*>(table.table) - reinterpret_cast<uint8_t*>(&colorTables);
+    memcpy(before.bytes.data(), test.kept.colors.bytes + at, size);
+    return before;
 }
 
 TEST_F(ColorTablesTest, FilledFromTheFile) {
@@ -122,8 +114,9 @@ TEST_F(ColorTablesTest, FilledFromTheFile) {
     }
     FillFrom(image);
     for (const Table& c : Tables()) {
-        const std::string& items = c.fromFile.empty() ? c.compiledIn : c.fromFile;
-        EXPECT_EQ(Differences(c.table, TableOf(Items(items), c.capacity)), "") << c.entry << c.capacity;
+        const RawBytes filled = TableOf(Items(c.fromFile), c.capacity);
+        EXPECT_EQ(Differences(c.table, c.fromFile.empty() ? Before(*this, c) : filled), "")
+            << c.entry << c.capacity;
     }
 }
 
@@ -131,8 +124,7 @@ TEST_F(ColorTablesTest, AnAbsentEntryClearsTheGraphicsProfilesOnly) {
     FillFrom(PrmImage());
     for (const Table& c : Tables()) {
         const bool cleared = std::string(c.entry) == "Graph_RGBProf";
-        EXPECT_EQ(Differences(c.table, TableOf(Items(cleared ? "" : c.compiledIn), c.capacity)), "")
-            << c.entry;
+        EXPECT_EQ(Differences(c.table, cleared ? TableOf({}, c.capacity) : Before(*this, c)), "") << c.entry;
     }
     PrmImage image;
     image.Entry("Img_RGBGray"); // an entry without items
@@ -186,50 +178,6 @@ TEST_F(ColorTablesTest, DestinationLists) {
         image.Items(c.entry, items);
         EXPECT_EQ(BuildDestinationList(*OpenedImage(image), c.kind), c.rebuilt != nullptr) << c.what;
         EXPECT_EQ(Differences(&colorTables, expected), "") << c.what;
-    }
-}
-
-TEST_F(ColorTablesTest, ControlTextsAsCompiledIn) {
-    // clang-format off
-    const struct {
-        const ControlTextRecord* table;
-        size_t records; // the end included
-        std::vector<uint32_t> templates;
-        const char* rows; // behind the row of the templates
-    } cases[] = {
-        {propertyTexts, std::size(propertyTexts), {1130},
-         "ViewPrinter;ViewPaper=1130;ViewCover=1130;ViewOverlay=1130;ViewWatermark=1130;ViewQuality=1130;"
-         "PrinterInfoBT=1201;EasySet=1131;EasySetDefaults=-1;EasySetUntitled=-1;SaveEasySet=1133;"
-         "EditEasySet=1134;OK=1;Cancel=2;Default=1032;Help=9"},
-        {colorDialogTexts, std::size(colorDialogTexts), {122, 123, 124, 125, 128},
-         "Dlg_ColorSetting;RGBProf=1632;Text=1506;Text_RGBProf=1507;Text_RGBColorMatch=1465;"
-         "Text_RGBGray=1466;Text_Halftone=1467;Text_Destination=1589;Image=1501;Img_RGBProf=1502;"
-         "Img_RGBColorMatch=1468;Img_RGBGray=1469;Img_Halftone=1471;Img_Destination=1597;Graphics=1473;"
-         "Graph_MatchText=1475;Graph_MatchImage=1477;Graph_RGBProf=1511;Graph_RGBColorMatch=1514;"
-         "Graph_RGBGray=1517;Graph_Halftone=1520;Graph_Destination=1582;PSProfile=1523;SimulationProf=1398;"
-         "MatchPaperColor=1526;Simu_CMYKGray=1625;PSProfile2=1630;DestinationProf=1408;"
-         "Profile_Download=1393;ManageProfile=1528"},
-        {trayDialogTexts, std::size(trayDialogTexts), {155},
-         "Dlg_PaperSourceTraySetting;MediaType_Info=1845;MediaTypeList_Tray=-1;MediaTypeList_Size=-1;"
-         "MediaTypeList_Orient=-1;MediaTypeList_Type=-1;MediaTypeList_Weight=-1;MediaTypeList_Color=-1;"
-         "MediaTypeList_Hole=-1;MediaType_Size=1859;MediaType_Orientation=1861;MediaType_Paper=1005;"
-         "MediaType_Weight=1084;MediaType_Color=1089;MediaType_Hole=1097"},
-    };
-    // clang-format on
-    for (const auto& c : cases) {
-        RawBytes expected(148 * c.records);
-        for (size_t i = 0; i < c.templates.size(); ++i)
-            expected.U32(4 * i, c.templates[i]);
-        size_t at = 0;
-        for (const std::string& row : Split(c.rows, ';')) {
-            const size_t equals = row.find('=');
-            expected.Text(at + 116, row.substr(0, equals));
-            if (equals != std::string::npos)
-                expected.U32(at, static_cast<uint32_t>(std::stoi(row.substr(equals + 1))));
-            at += 148;
-        }
-        EXPECT_EQ(at + 148, 148 * c.records) << c.rows;
-        EXPECT_EQ(Differences(c.table, expected), "") << c.rows;
     }
 }
 

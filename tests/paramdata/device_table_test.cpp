@@ -13,37 +13,6 @@ void ExpectTable(const PrmImage& image, const RawBytes& expected, const std::str
     EXPECT_EQ(Differences(BuiltTable(image).table, expected), "") << what;
 }
 
-// Rows of "FeatureSetting" in the order of the switches, with the enabling value where it is not "Enable".
-const char* const kSwitches =
-    "SeparatePagePrint=Driver OHP_Interleave ColorAdjustment ColorSeparation TonerSave Point4Character "
-    "DiminBarcode ImageCompression QualityOption ColorProfileSource=OpenAPI ColorAdjustIccProf "
-    "ColorSetting=TYPE1 PaperOption1 PaperOption2 Poster PerPageSetting PICover MediaTypeDetail "
-    "MediaWeight MediaColor MediaPrePunched JobOffset BoxSave Engine2in1 Chapter BookletPrint=Driver "
-    "BindingEdge=4Bind ImageShift ImageShift_SwitchSetup Staple HolePunch CenterStaple CenterErase "
-    "Folding AdhesiveBind Trim DivideOutput OutputTray OutputOrder PileMode Tandem PaperArrangement "
-    "PPS_PaperSrc PPS_MediaType PPS_Staple PPS_FinishStapling PPS_HolePunch PPS_TabPaper PPS_TabPosition "
-    "PPS_TabPaperSetting PPS_PunchSetting PPS_StapleSetting Overlay=SoftOverlay HeaderFooter "
-    "NumberingType NumberingColor CopyProtect 2Color GlossyMode EMFSpool UserAuthentication AccountTrack "
-    "PaperSourceTraySetting PrintPosition ZarvoWebConnect ZarvoDataAdmin ZarvoPrnComplete FirstSheetAll "
-    "HardSecurityMode UserData ExcelJobCtrl EncryptionKey ImageShiftPrint=Driver FCoverPrint=Driver "
-    "BCoverPrint=Driver OHPPrint=Driver UserAuthentication AccountTrackSetting MultiDepartmentMng "
-    "EmailNotify TreeDomainName ExpenseCode ExpenseCodePassword Dlg_MediaType=TYPE1 "
-    "InterimAuthenticSetting";
-
-TEST_F(DeviceTableTest, EachSwitchHasItsRowItsPlaceAndItsValue) {
-    const std::vector<std::string> switches = Split(kSwitches, ' ');
-    ASSERT_EQ(switches.size(), 85u);
-    for (size_t i = 0; i < switches.size(); ++i) {
-        const bool plain = switches[i].find('=') == std::string::npos;
-        RawBytes expected = RawBytes(kTableSize).U32(4 * i, 1);
-        if (i == 60 || i == 76) // one row, two switches
-            expected.U32(4 * 60, 1).U32(4 * 76, 1);
-        PrmImage image;
-        image.Table("FeatureSetting", switches[i] + (plain ? "=Enable" : ""));
-        ExpectTable(image, expected, switches[i]);
-    }
-}
-
 TEST_F(DeviceTableTest, ValuesOfSwitches) {
     // clang-format off
     const struct {
@@ -60,6 +29,8 @@ TEST_F(DeviceTableTest, ValuesOfSwitches) {
         {"Dlg_MediaType=TYPE3x", 83, 1},       {"Dlg_MediaType=TYPE 3", 83, 1}, {"Dlg_MediaType=", 83, 1},
         {"Dlg_MediaType=TYPE4294967299", 83, 1}, // 3 in 32 bits
         {"Dlg_MediaType=TYPE9;Dlg_MediaType=none", 83, 1},
+        {"SeparatePagePrint=Driver", 0, 1},    {"BindingEdge=4Bind", 26, 1},    {"Overlay=SoftOverlay", 52, 1},
+        {"InterimAuthenticSetting=Enable", 84, 1},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -67,6 +38,9 @@ TEST_F(DeviceTableTest, ValuesOfSwitches) {
         image.Table("FeatureSetting", c.rows);
         ExpectTable(image, RawBytes(kTableSize).U32(4 * c.index, c.value), c.rows);
     }
+    PrmImage image;
+    image.Table("FeatureSetting", "UserAuthentication=Enable");
+    ExpectTable(image, RawBytes(kTableSize).U32(4 * 60, 1).U32(4 * 76, 1), "one row sets two switches");
 }
 
 TEST_F(DeviceTableTest, DeviceFactsAndFigureType) {

@@ -24,27 +24,21 @@ TEST_F(TraysTest, TrayThatIsNotEnabledKeepsAnEmptyKeyButItsText) {
     EXPECT_EQ(Differences(BuiltTable(image).List(582), expected.Text(512 + 112, "text of InTray3")), "");
 }
 
-// The features that choose a paper source, the position of their list in the device table, and the bin
-// numbers of their items as compiled in.
+// The features that select a paper source, the position of their list in the device table, and some of their
+// items with the bin number.
 // clang-format off
 const struct Selection {
     const char* feature;
     size_t position;
     const char* items;
 } kSelections[] = {
-    {"FCoverTray", 722, "FCover_Auto=32767;FCover_Tray1=257;FCover_Tray2=258;FCover_Tray3=259;"
-                        "FCover_Tray4=260;FCover_Tray5=261;FCover_Manual=4;FCover_LCT=1000"},
-    {"BCoverTray", 730, "BCover_Auto=32767;BCover_Tray1=257;BCover_Tray2=258;BCover_Tray3=259;"
-                        "BCover_Tray4=260;BCover_Tray5=261;BCover_Manual=4;BCover_LCT=1000"},
-    {"SeparatePageTray", 738, "SPage_Auto=32767;SPage_Tray1=257;SPage_Tray2=258;SPage_Tray3=259;"
-                              "SPage_Tray4=260;SPage_Tray5=261;SPage_Manual=4"},
-    {"OHPIntTray", 746, "OHPInt_Tray1=257;OHPInt_Tray2=258;OHPInt_Tray3=259;OHPInt_Tray4=260;"
-                        "OHPInt_Tray5=261;OHPInt_Manual=4;OHPInt_LCT=1000"},
-    {"PIFrontCover", 754, "PIFTray1=1001;PIFTray2=1002"},
-    {"PIBackCover", 762, "PIBTray1=1001;PIBTray2=1002"},
-    {"PerPageListPaperSrc", 770, "PPSTraySameAsBody=32767;PPSTray1=257;PPSTray2=258;PPSTray3=259;"
-                                 "PPSTray4=260;PPSTray5=261;PPSMANUAL=4;PPSLCT=1000;"
-                                 "PPSPITray1=1001;PPSPITray2=1002"},
+    {"FCoverTray",          722, "FCover_Auto=32767;FCover_Tray3=259;FCover_LCT=1000"},
+    {"BCoverTray",          730, "BCover_Tray1=257;BCover_Manual=4;BCover_Auto=32767"},
+    {"SeparatePageTray",    738, "SPage_Tray2=258;SPage_Manual=4"},
+    {"OHPIntTray",          746, "OHPInt_Tray5=261;OHPInt_LCT=1000"},
+    {"PIFrontCover",        754, "PIFTray1=1001;PIFTray2=1002"},
+    {"PIBackCover",         762, "PIBTray2=1002;PIBTray1=1001"},
+    {"PerPageListPaperSrc", 770, "PPSTraySameAsBody=32767;PPSTray4=260;PPSMANUAL=4;PPSPITray2=1002"},
 };
 // clang-format on
 
