@@ -11,8 +11,8 @@ if(TOOLS)
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${HOST_TOOLS}")
 endif()
 
-# The files of a tool or a test program are compiled as one: what they include takes most of the time, and lint reads it
-# once. Names in their unnamed namespaces must differ. Each file by itself, so that none lacks an include: UNITY=OFF.
+# The files of a tool or a test program are compiled as one, since headers take most of the time. Names in their unnamed namespaces
+# must differ. UNITY=OFF compiles each file alone, which finds missing includes.
 option(UNITY "Compile the files of each target that is no product as one" ON)
 set(CMAKE_UNITY_BUILD ${UNITY})
 set(CMAKE_UNITY_BUILD_BATCH_SIZE 0)
@@ -21,14 +21,14 @@ option(SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF
 option(FUZZ "Build the fuzz targets (clang)" OFF)
 option(BENCH "Build the benchmarks" OFF)
 
-# With ccache what was compiled once is not compiled again, in another clone either.
+# ccache also finds what another clone has compiled.
 find_program(CCACHE ccache)
 if(CCACHE AND EXISTS "${CCACHE}" AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env "CCACHE_BASEDIR=${CMAKE_SOURCE_DIR}" CCACHE_NOHASHDIR=1
         "${CCACHE}")
 endif()
 
-# No path of the machine ends up in a product, so that it is the same wherever it is built.
+# Products contain no path of the machine, so that they are the same wherever they are built.
 add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
 if(SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -39,7 +39,7 @@ if(WIN32)
     add_link_options(-static -Wl,--no-insert-timestamp)
 endif()
 
-# Warnings of the project's own code, all of them errors.
+# Warnings for the project's own code, all of them errors.
 add_library(project_warnings INTERFACE)
 target_compile_options(project_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast
                                                   -Wnon-virtual-dtor -Werror)
