@@ -1,4 +1,4 @@
-// The running printer and its clients, see running_printer.h.
+// Starts and stops simprinter, runs net-snmp's tools, and sends datagrams to it.
 #include "running_printer.h"
 
 #include "common/files.h"
@@ -14,7 +14,7 @@
 
 TemporaryFolder::TemporaryFolder() : path(testing::TempDir() + "/simprinter_test_XXXXXX") {
     if (!mkdtemp(path.data()))
-        ADD_FAILURE() << "no folder beside " << path;
+        ADD_FAILURE() << "cannot create " << path;
 }
 TemporaryFolder::~TemporaryFolder() {
     std::filesystem::remove_all(path);
@@ -26,99 +26,81 @@ std::string TemporaryFolder::File(const std::string& name, const std::string& co
 }
 
 CommandResult RunCommand(const std::string& command) {
-    const TemporaryFolder folder;
-    const int status = std::system(("{ " + command + "; } >" + folder.path + "/output 2>&1").c_str());
-    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadFile(folder.path + "/output")};
+    CommandResult result = {-1, ""};
+    if (std::FILE* output = popen(("{ " + command + "; } 2>&1").c_str(), "r")) {
+        for (int c; (c = std::fgetc(output)) != EOF;)
+            result.output += static_cast<char>(c);
+        const int status = pclose(output);
+        result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    return result;
 }
 
-RunningPrinter::RunningPrinter(const std::string& arguments) {
-    int ends[2];
-    if (pipe(ends) != 0)
-        std::abort();
-    process = fork();
-    if (process == 0) {
-        dup2(ends[1], STDOUT_FILENO);
-        close(ends[0]);
-        execl("/bin/sh", "sh", "-c", ("exec " SIMPRINTER_PROGRAM " --port 0 " + arguments).c_str(), nullptr);
-        _exit(127);
-    }
-    close(ends[1]);
-    pollfd entry = {ends[0], POLLIN, 0};
-    for (char c = 0; c != '\n' && poll(&entry, 1, 20000) == 1 && read(ends[0], &c, 1) == 1;)
-        readyLine += c;
-    close(ends[0]);
-    const size_t colon = readyLine.rfind(':');
-    if (readyLine.rfind("simprinter: ready on ", 0) != 0)
-        ADD_FAILURE() << "simprinter " << arguments << " does not start: " << readyLine;
-    else
-        port = static_cast<uint16_t>(std::stoi(readyLine.substr(colon + 1)));
+RunningPrinter::RunningPrinter(const std::string& arguments)
+    : output(popen(("echo $$; exec " SIMPRINTER_PROGRAM " --port 0 " + arguments).c_str(), "r")),
+      client(socket(AF_INET, SOCK_DGRAM, 0)) {
+    char line[128] = "";
+    if (std::fgets(line, sizeof line, output))
+        process = std::atoi(line);
+    const std::string ready = "simprinter: ready on 127.0.0.1:";
+    if (!std::fgets(line, sizeof line, output) || std::string(line).rfind(ready, 0) != 0)
+        ADD_FAILURE() << "simprinter " << arguments << " does not start: " << line;
+    address.sin_family = AF_INET;
+    address.sin_port = htons(static_cast<uint16_t>(std::atoi(line + ready.size())));
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
 }
 
 RunningPrinter::~RunningPrinter() {
-    if (process > 0) {
-        EXPECT_EQ(Stop(SIGTERM), 0) << "the sanitizers' message is above";
-    }
+    close(client);
+    EXPECT_TRUE(!output || Stop(SIGTERM) == 0);
 }
 
 int RunningPrinter::Stop(int signal) {
     kill(process, signal);
-    int status = 0;
-    waitpid(process, &status, 0);
-    process = -1;
+    const int status = pclose(output);
+    output = nullptr;
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
 CommandResult RunningPrinter::Ask(const std::string& tool, const std::string& objects,
                                   const std::string& options) const {
-    if (std::system(("command -v " + tool + " >/dev/null").c_str()) != 0) {
-        ADD_FAILURE() << "there is no " << tool << ": install the Debian package 'snmp'";
-        return {-1, ""};
-    }
-    const TemporaryFolder folder; // for what the tools keep; the user's own settings stay out of it
-    std::filesystem::create_directory(folder.path + "/cert_indexes"); // else they tell that they make it
+    const TemporaryFolder folder; // in place of the user's settings
+    std::filesystem::create_directory(folder.path
+                                      + "/cert_indexes"); // otherwise they report that they create it
     return RunCommand("SNMPCONFPATH=" + folder.path + " SNMP_PERSISTENT_DIR=" + folder.path + ' ' + tool
-                      + " -m '' -On " + options + " 127.0.0.1:" + std::to_string(port) + ' ' + objects);
+                      + " -m '' -On " + options + " 127.0.0.1:" + Port() + ' ' + objects);
 }
 
-RawClient::RawClient(const RunningPrinter& to) : descriptor(socket(AF_INET, SOCK_DGRAM, 0)), printer{} {
-    printer.sin_family = AF_INET;
-    printer.sin_port = htons(to.port);
-    printer.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-}
-RawClient::~RawClient() {
-    close(descriptor);
-}
-
-void RawClient::Send(const Octets& request) const {
-    const auto* address = reinterpret_cast<const sockaddr*>(&printer);
-    EXPECT_EQ(sendto(descriptor, request.data(), request.size(), 0, address, sizeof printer),
+void RunningPrinter::Send(const Bytes& request) const {
+    const auto* to = reinterpret_cast<const sockaddr*>(&address);
+    EXPECT_EQ(sendto(client, request.data(), request.size(), 0, to, sizeof address),
               static_cast<ssize_t>(request.size()));
 }
 
-std::vector<Received> RawClient::Receive(int quietMs, size_t most) const {
+std::vector<Received> RunningPrinter::Receive(int quietMs, size_t most) const {
     std::vector<Received> all;
-    pollfd entry = {descriptor, POLLIN, 0};
+    pollfd entry = {client, POLLIN, 0};
     while (all.size() < most && poll(&entry, 1, quietMs) == 1) {
-        Received next = {Octets(65536), {}};
+        Received next = {Bytes(65536), {}};
         socklen_t length = sizeof next.from;
-        const ssize_t size = recvfrom(descriptor, next.octets.data(), next.octets.size(), 0,
+        const ssize_t size = recvfrom(client, next.bytes.data(), next.bytes.size(), 0,
                                       reinterpret_cast<sockaddr*>(&next.from), &length);
-        next.octets.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
+        next.bytes.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
         all.push_back(next);
     }
     return all;
 }
 
-Octets StorageRequest(uint8_t requestId) {
+Bytes StorageRequest(uint8_t requestId) {
     return {0x30, 0x29, 0x02,      0x01, 0x00, 0x04, 0x06, 't',  'o',  'v',  'a',  's',  'k',  0xA0, 0x1C,
             0x02, 0x01, requestId, 0x02, 0x01, 0x00, 0x02, 0x01, 0x00, 0x30, 0x11, 0x30, 0x0F, 0x06, 0x0B,
             0x2B, 0x06, 0x01,      0x02, 0x01, 0x19, 0x02, 0x03, 0x01, 0x05, 0x01, 0x05, 0x00};
 }
 
-Octets StorageReply(uint8_t requestId) {
-    return {0x30, 0x2B, 0x02,      0x01, 0x00, 0x04, 0x06, 't',  'o',  'v',  'a',  's',  'k',  0xA2, 0x1E,
-            0x02, 0x01, requestId, 0x02, 0x01, 0x00, 0x02, 0x01, 0x00, 0x30, 0x13, 0x30, 0x11, 0x06, 0x0B,
-            0x2B, 0x06, 0x01,      0x02, 0x01, 0x19, 0x02, 0x03, 0x01, 0x05, 0x01, 0x02, 0x02, 0x02, 0x80};
+Bytes StorageReply() {
+    return {0x30, 0x2B, 0x02, 0x01, 0x00, 0x04, 0x06, 't',  'o',  'v',  'a',  's',  'k',  0xA2, 0x1E,
+            0x02, 0x01, 17,   0x02, 0x01, 0x00, 0x02, 0x01, 0x00, 0x30, 0x13, 0x30, 0x11, 0x06, 0x0B,
+            0x2B, 0x06, 0x01, 0x02, 0x01, 0x19, 0x02, 0x03, 0x01, 0x05, 0x01, 0x02, 0x02, 0x02, 0x00};
 }
 
 std::string Listed(const Findings& findings) {

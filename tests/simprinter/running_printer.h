@@ -5,11 +5,12 @@
 #include "common/findings.h"
 #include "simprinter/message.h"
 
+#include <cstdio>
 #include <netinet/in.h>
 #include <string>
 #include <sys/types.h>
 
-// A folder of the test's own, removed with it.
+// A temporary folder, removed with the object.
 struct TemporaryFolder {
     std::string path;
 
@@ -24,59 +25,52 @@ struct TemporaryFolder {
 
 struct CommandResult {
     int exitCode;
-    std::string output; // of both kinds
+    std::string output; // standard output and standard error output
 };
-
 CommandResult RunCommand(const std::string& command);
 
-// The program, on a free port of 127.0.0.1. Stops with the object; a start that fails is a failure of the
-// test.
+struct Received {
+    Bytes bytes;
+    sockaddr_in from;
+};
+
+// The program on a free port of 127.0.0.1, and clients for it. Stopped with the object. The test fails when
+// it does not start.
 struct RunningPrinter {
+    std::FILE* output; // of the program
     pid_t process = -1;
-    uint16_t port = 0;
-    std::string readyLine;
+    sockaddr_in address = {};
+    int client; // a UDP socket
 
     explicit RunningPrinter(const std::string& arguments = "");
     RunningPrinter(const RunningPrinter&) = delete;
     RunningPrinter& operator=(const RunningPrinter&) = delete;
     ~RunningPrinter();
 
-    // What one of net-snmp's tools prints: "snmpget", with the objects or further options behind the address.
-    // Enumerations and names are not translated.
+    std::string Port() const { return std::to_string(ntohs(address.sin_port)); }
+
+    // Runs one of net-snmp's tools, such as "snmpget". `objects` follow the address. Names and enumerations
+    // are not translated.
     CommandResult Ask(const std::string& tool, const std::string& objects,
                       const std::string& options = "-v1 -c tovask -r0 -t2") const;
 
-    // Sends the signal and returns the exit code; -1 when it ended otherwise.
+    // Sends a datagram from the client socket.
+    void Send(const Bytes& request) const;
+
+    // Receives, from any address, until nothing has come for `quietMs` milliseconds or there are `most`
+    // datagrams.
+    std::vector<Received> Receive(int quietMs, size_t most = 1000) const;
+
+    // Sends the signal and returns the exit code; -1 when the program ended in another way.
     int Stop(int signal);
 };
 
-struct Received {
-    Octets octets;
-    sockaddr_in from;
-};
+// A GetRequest of hrStorageSize.1 with this request-id (below 128), encoded by hand, and the plain device's
+// reply, 512, to the one with the id 17.
+Bytes StorageRequest(uint8_t requestId = 17);
+Bytes StorageReply();
 
-// A client that takes datagrams from anyone.
-struct RawClient {
-    int descriptor;
-    sockaddr_in printer;
-
-    explicit RawClient(const RunningPrinter& to);
-    RawClient(const RawClient&) = delete;
-    RawClient& operator=(const RawClient&) = delete;
-    ~RawClient();
-
-    void Send(const Octets& request) const;
-
-    // What comes until nothing has come for so many milliseconds, or so many datagrams are there.
-    std::vector<Received> Receive(int quietMs, size_t most = 1000) const;
-};
-
-// GetRequest of hrStorageSize.1 with this request-id (below 128) and the answer 640 to it, as octets worked
-// out by hand.
-Octets StorageRequest(uint8_t requestId = 0x11);
-Octets StorageReply(uint8_t requestId = 0x11);
-
-// The texts of all findings, a line each.
+// All findings, one a line.
 std::string Listed(const Findings& findings);
 
 #endif

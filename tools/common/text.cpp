@@ -157,13 +157,6 @@ std::string Hex(uint64_t number) {
     return text;
 }
 
-std::string Join(const std::vector<std::string>& texts, const char* last) {
-    std::string joined;
-    for (size_t i = 0; i < texts.size(); ++i)
-        joined += (i == 0 ? "" : i + 1 < texts.size() ? ", " : last) + texts[i];
-    return joined;
-}
-
 std::string NearestHint(std::string_view name, const std::vector<std::string>& candidates) {
     constexpr size_t kMaxName = 64; // bounds the work; no known name is as long
     if (name.size() > kMaxName)

@@ -37,9 +37,6 @@ std::string Hex(uint64_t number);
 // "\x1B"
 std::string HexEscape(char c);
 
-// "A, B or C", with " or " as `last`.
-std::string Join(const std::vector<std::string>& texts, const char* last);
-
 // "; did you mean 'NAME'?" with the closest candidate; empty when none is close.
 std::string NearestHint(std::string_view name, const std::vector<std::string>& candidates);
 

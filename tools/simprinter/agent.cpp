@@ -1,4 +1,4 @@
-// The agent, see agent.h: the rules of RFC 1157 for requests and their errors.
+// Answers SNMPv1 requests by the rules of RFC 1157.
 #include "simprinter/agent.h"
 
 #include "simprinter/log_text.h"
@@ -7,7 +7,7 @@ namespace {
 
 constexpr long kNoIndex = 0;
 
-// The request sent back with an error; `position` counts variables from 1.
+// The request returned with an error; `position` counts the variables from 1.
 Message ErrorReply(const Message& request, long status, long position) {
     Message reply = request;
     reply.type = PduType::kResponse;
@@ -22,14 +22,14 @@ Message Reply(const ObjectMap& objects, const Message& request) {
         const Oid& name = request.varBinds[i].name;
         const auto object =
             request.type == PduType::kGetNext ? objects.upper_bound(name) : objects.find(name);
-        if (object == objects.end() || request.type == PduType::kSet) // no object is there to be set
+        if (object == objects.end() || request.type == PduType::kSet) // no object can be set
             return ErrorReply(request, kNoSuchName, static_cast<long>(i + 1));
         reply.varBinds[i] = {object->first, object->second};
     }
     return reply;
 }
 
-// The reply in a form that can be sent.
+// The reply, or an error if it can't be encoded or is too large.
 Message FittingReply(const Agent& agent, const Message& request) {
     const Message reply = Reply(agent.objects, request);
     const size_t size = BuildMessage(reply).size();
@@ -40,13 +40,13 @@ Message FittingReply(const Agent& agent, const Message& request) {
 
 } // namespace
 
-Outcome HandleDatagram(Agent& agent, const Octets& datagram) {
+Outcome HandleDatagram(Agent& agent, const Bytes& datagram) {
     const std::optional<Message> request = ParseRequest(datagram);
     if (!request)
-        return {{}, std::to_string(datagram.size()) + " octets that are no SNMPv1 request: dropped"};
+        return {{}, std::to_string(datagram.size()) + " bytes, not a valid SNMPv1 request: dropped"};
     std::string log = RequestText(*request) + " -> ";
     if (request->community != agent.options.community)
-        return {{}, log + "community " + PrintableText(request->community) + " is not ours: dropped"};
+        return {{}, log + "community " + PrintableText(request->community) + " is wrong: dropped"};
     const Message reply = FittingReply(agent, *request);
     log += ReplyText(reply);
     std::vector<Datagram> datagrams = ApplyFaults(agent.faults, *request, reply, log);

@@ -1,4 +1,4 @@
-// The SNMPv1 agent: octets of a request in, octets of the answer out. Knows nothing of sockets.
+// The SNMPv1 agent: takes the bytes of a request and returns the datagrams of the answer. Uses no sockets.
 #ifndef SIMPRINTER_AGENT_H
 #define SIMPRINTER_AGENT_H
 
@@ -7,7 +7,7 @@
 
 struct AgentOptions {
     std::string community = "tovask";
-    // Octets; a larger one is answered with tooBig. What a network carries in one piece.
+    // Bytes; a larger reply becomes tooBig. The default fits into one Ethernet frame.
     size_t largestReply = 1472;
 };
 
@@ -18,10 +18,10 @@ struct Agent {
 };
 
 struct Outcome {
-    std::vector<Datagram> datagrams; // what to send; empty for a datagram that is no request for this agent
-    std::string log;                 // what was asked and answered, without a line end
+    std::vector<Datagram> datagrams; // what to send; empty when the datagram is dropped
+    std::string log;                 // request and answer, without a line end
 };
 
-Outcome HandleDatagram(Agent& agent, const Octets& datagram);
+Outcome HandleDatagram(Agent& agent, const Bytes& datagram);
 
 #endif

@@ -1,4 +1,4 @@
-// What a description leaves out, see device.h.
+// Default values of a device and its parts.
 #include "simprinter/device.h"
 
 Tray UsualTray(const TrayKind& kind) {

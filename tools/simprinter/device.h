@@ -1,5 +1,5 @@
-// A printer as its description tells it, in the printer's own words, and the tables of those words. A device
-// that is left as it is here is the plain one: no options beyond a second tray and the manual feed.
+// A printer's configuration, and the tables of words that describe it. The default is a plain printer without
+// options: two trays and the manual feed.
 #ifndef SIMPRINTER_DEVICE_H
 #define SIMPRINTER_DEVICE_H
 
@@ -7,13 +7,13 @@
 #include <string>
 #include <vector>
 
-// A word of the descriptions. Every table's rows begin with these.
+// A word of the descriptions; the rows of every table begin with one.
 struct Word {
     const char* word;
-    int code; // what the printer's objects hold for it
+    int code; // its value in the printer's objects
 };
 
-// Levels that are no number, as the Printer MIB has them.
+// Special levels of the Printer MIB.
 constexpr int kLevelUnknown = -2;
 constexpr int kLevelSome = -3;
 // clang-format off
@@ -22,14 +22,14 @@ constexpr Word kLevelWords[] = {
     {"some",    kLevelSome},
 };
 
-// How a sheet lies in its tray: with which edge it goes first.
+// The edge of a sheet that is fed first.
 constexpr int kShortEdgeFirst = 2, kLongEdgeFirst = 3;
 constexpr Word kOrientations[] = {
     {"portrait",  kShortEdgeFirst},
     {"landscape", kLongEdgeFirst},
 };
 
-// Flags of a finisher by the holes that its punch kit makes.
+// Punch kit flags of a finisher by the numbers of holes.
 constexpr Word kPunchings[] = {
     {"2",   0x10},
     {"2-3", 0x20},
@@ -43,14 +43,14 @@ constexpr Word kOverlayStorages[] = {
 };
 
 constexpr Word kProfileStorages[] = {
-    {"ROM",      1}, // those that the printer came with
+    {"ROM",      1}, // preinstalled
     {"own-disk", 2},
     {"memory",   3},
     {"HDD",      4},
     {"flash",    5},
 };
 
-// Paper sizes: the code by which the printer knows them; width and length in tenths of a millimetre.
+// Paper sizes: the printer's code; width and length in tenths of a millimetre.
 struct PaperSize {
     Word name;
     int width, length;
@@ -93,8 +93,8 @@ constexpr PaperSize kPaperSizes[] = {
     {{"STATEMENTW", 9752}, 1537, 2299},
 };
 
-// Paper types: code, colour and second side by which the printer knows them, the Printer MIB's type, a usual weight in
-// grams per square metre. "2": the second side of sheets that were printed before.
+// Paper types: the printer's codes for type, colour and second side, the Printer MIB's type, a typical weight in grams
+// per square metre. SIDE2: paper that is already printed on one side.
 struct PaperType {
     Word name;
     int colorCode, secondSideCode;
@@ -122,7 +122,7 @@ constexpr PaperType kPaperTypes[] = {
     {{"ENVELOPE",        40},  0,  0, "envelope",     kLevelUnknown},
 };
 
-// Trays: their number among the printer's inputs, the Printer MIB's type of input, the sheets that they usually hold.
+// Trays: their number among the printer's inputs, the Printer MIB's type of input, the default capacity in sheets.
 struct TrayKind {
     Word name;
     const char* text;
@@ -140,7 +140,7 @@ constexpr TrayKind kTrayKinds[] = {
     {{"MANUAL", 7}, "Manual feed",         kManualFeed,    150},
 };
 
-// Options: the type under which the printer lists them; the output bins that they add.
+// Options: the type that the printer reports; the output bins that they add.
 struct OptionKind {
     Word name;
     const char* text;
@@ -159,8 +159,8 @@ constexpr OptionKind kOptionKinds[] = {
     {{"FAX",    1000}, "Fax unit",            false, 0, "",              0},
 };
 
-// Supplies: their number, the Printer MIB's class, type and unit, what they usually hold. A colorant is also the number
-// of its supply.
+// Supplies: their number, the Printer MIB's class, type and unit, the default capacity. A colorant has the number of its
+// supply.
 struct SupplyKind {
     Word name;
     const char* text;
@@ -186,12 +186,12 @@ constexpr SupplyKind kSupplyKinds[] = {
 
 struct Tray {
     const TrayKind* kind = nullptr;
-    std::string name; // what the panel shows
+    std::string name; // on the panel
     const PaperSize* size = &kPaperSizes[1];
     int orientation = kLongEdgeFirst;
     const PaperType* type = &kPaperTypes[0];
     int capacity = 0; // sheets
-    int level = 0;    // sheets left, or a level that is no number
+    int level = 0;    // sheets left, or a special level
 };
 
 struct Supply {
@@ -222,7 +222,7 @@ struct Device {
     int memory = 512;                 // MB
     std::optional<int> hardDisk = {}; // MB
     bool hasDuplex = false;
-    int pages = 0;    // printed so far
+    int pages = 0;    // life count
     int punching = 0; // flags of the finishers
     std::vector<const OptionKind*> options = {};
     std::vector<Tray> trays = {};
@@ -231,12 +231,11 @@ struct Device {
     std::vector<Profile> profiles = {};
 };
 
-// With all values that a description may leave out.
+// A tray or a supply with its default values.
 Tray UsualTray(const TrayKind& kind);
 Supply UsualSupply(const SupplyKind& kind);
 
-// Trays 1 and 2 and the manual feed; toners, drum, transfer belt, fuser and waste box; all of them as good as
-// new.
+// Trays 1 and 2 and the manual feed; toners, drum, transfer belt, fuser and waste box, all full.
 Device PlainDevice();
 
 #endif

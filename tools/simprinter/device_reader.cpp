@@ -1,6 +1,7 @@
-// The description's reader, see device_reader.h: a table of fields for each kind of thing, and one engine.
+// Reads a device description from YAML: one table of fields for each kind of object, and one loop for all.
 #include "simprinter/device_reader.h"
 
+#include "common/choices.h"
 #include "common/yaml_document.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@
 
 namespace {
 
-// A field's value where it stands.
+// A field's value and its place.
 struct FieldValue {
     std::string name;
     const YAML::Node& node;
@@ -19,7 +20,7 @@ struct FieldValue {
     void Refuse(const std::string& problem) const { findings.Error(PlaceOf(node), problem); }
 };
 
-// One field of a thing: `read` puts its value there.
+// A field; `read` stores its value.
 template <typename Thing>
 struct FieldRow {
     const char* name;
@@ -27,7 +28,7 @@ struct FieldRow {
     void (*read)(const FieldValue& value, Thing& thing);
 };
 
-// Reads in the order of the rows, not that of the file: a row may count on those before it.
+// Reads in the order of the rows, not of the file: a row may depend on earlier ones.
 template <typename Thing, size_t kCount>
 void ReadFields(const FieldRow<Thing> (&rows)[kCount], const char* what, const YAML::Node& node, Thing& thing,
                 Findings& findings) {
@@ -41,27 +42,27 @@ void ReadFields(const FieldRow<Thing> (&rows)[kCount], const char* what, const Y
                           given[name].reset(valueNode);
                       else
                           findings.Error(PlaceOf(nameNode), std::string(what) + " has no field " + Quote(name)
-                                                                + NearestHint(name, known)
-                                                                + "; its fields are " + Join(known, " and "));
+                                                                + NearestHint(name, known) + "; "
+                                                                + Choices(known));
                   });
     for (const FieldRow<Thing>& row : rows) {
         if (const auto value = given.find(row.name); value != given.end())
             row.read({row.name, value->second, findings}, thing);
         else if (node.IsMap() && row.isRequired)
-            findings.Error(PlaceOf(node), Quote(row.name) + " is missing: tell it of " + what);
+            findings.Error(PlaceOf(node), Quote(row.name) + " is missing: " + what + " needs it");
     }
 }
 
 // --- Kinds of values
 
 void ReadText(const FieldValue& value, std::string& to) {
-    constexpr size_t kLongestText = 255;
+    constexpr size_t kMaxText = 255;
     std::string text;
     if (!ReadScalar(value.name, value.node, text, value.findings))
         return;
-    if (text.size() > kLongestText)
-        return value.Refuse(Quote(value.name) + " has " + std::to_string(text.size()) + " octets, at most "
-                            + std::to_string(kLongestText) + " fit: shorten it");
+    if (text.size() > kMaxText)
+        return value.Refuse(Quote(value.name) + " has " + std::to_string(text.size()) + " bytes, but at most "
+                            + std::to_string(kMaxText) + " fit: shorten it");
     to = text;
 }
 
@@ -70,8 +71,9 @@ void ReadInt(const FieldValue& value, int least, int& to) {
     if (!ReadNumber(value.name, value.node, number, value.findings))
         return;
     if (number < least || number > INT_MAX)
-        return value.Refuse(Quote(value.name) + " takes a number from " + std::to_string(least) + " to "
-                            + std::to_string(INT_MAX) + ", not " + std::to_string(number));
+        return value.Refuse(Quote(value.name) + " is " + std::to_string(number)
+                            + ", which is out of range: write " + std::to_string(least) + " to "
+                            + std::to_string(INT_MAX));
     to = static_cast<int>(number);
 }
 
@@ -80,7 +82,7 @@ void ReadYesOrNo(const FieldValue& value, bool& to) {
     if (!ReadScalar(value.name, value.node, text, value.findings))
         return;
     if (!EqualNoCase(text, "yes") && !EqualNoCase(text, "no"))
-        return value.Refuse(Quote(value.name) + " takes yes or no, not " + Quote(text));
+        return value.Refuse(Quote(value.name) + " must be yes or no, not " + Quote(text));
     to = EqualNoCase(text, "yes");
 }
 
@@ -92,21 +94,20 @@ const Word& WordOf(const Row& row) {
     return row.name;
 }
 
-// The row of a table whose word is the value, letters' case ignored.
+// Finds the table's row by its word, ASCII case ignored.
 template <typename Row, size_t kCount>
 void ReadChoice(const FieldValue& value, const Row (&rows)[kCount], const Row*& to, const char* orElse = "") {
     std::string text;
     if (!ReadScalar(value.name, value.node, text, value.findings))
         return;
-    std::vector<std::string> words;
+    const auto wordOf = [](const Row& row) { return WordOf(row).word; };
     for (const Row& row : rows) {
-        words.emplace_back(WordOf(row).word);
-        if (EqualNoCase(text, words.back())) {
+        if (EqualNoCase(text, wordOf(row))) {
             to = &row;
             return;
         }
     }
-    value.Refuse(Quote(value.name) + " takes " + Join(words, " or ") + orElse + ", not " + Quote(text));
+    value.Refuse(Quote(value.name) + " can't be " + Quote(text) + "; " + Choices(rows, wordOf) + orElse);
 }
 
 template <size_t kCount>
@@ -116,17 +117,17 @@ void ReadWord(const FieldValue& value, const Word (&words)[kCount], int& to, con
     to = word ? word->code : to;
 }
 
-// A word, or its code as a number: any number, since descriptions may tell what no real device does.
+// A word or a numeric code. Any number is accepted, so that unusual devices can be described.
 template <size_t kCount>
 void ReadWordOrNumber(const FieldValue& value, const Word (&words)[kCount], int& to) {
     const std::string text = value.node.IsScalar() ? value.node.Scalar() : "";
     if (!text.empty() && text.find_first_not_of("-0123456789") == std::string::npos)
         ReadInt(value, INT_MIN, to);
     else
-        ReadWord(value, words, to, " or a number");
+        ReadWord(value, words, to, ", or a number");
 }
 
-// A choice that brings usual values for all that follows.
+// A choice that sets default values for the fields after it.
 template <typename Kind, size_t kCount, typename Thing>
 void ReadKind(const FieldValue& value, const Kind (&kinds)[kCount], Thing (*usual)(const Kind&), Thing& to) {
     const Kind* kind = nullptr;
@@ -139,7 +140,7 @@ void ReadKind(const FieldValue& value, const Kind (&kinds)[kCount], Thing (*usua
 template <typename Read>
 void ReadList(const FieldValue& value, const Read& read) {
     if (!value.node.IsSequence())
-        return value.Refuse(Quote(value.name) + " takes a list: one '- ' for each, or []");
+        return value.Refuse(Quote(value.name) + " must be a list of '- ' elements, or []");
     for (const YAML::Node& element : value.node)
         read(FieldValue{value.name, element, value.findings});
 }
@@ -155,7 +156,7 @@ void ReadThings(const FieldValue& value, const char* what, const FieldRow<Thing>
     });
 }
 
-// Things of which there is at most one of each kind.
+// Objects with at most one of each kind.
 template <typename Thing, size_t kFields>
 void ReadUniqueThings(const FieldValue& value, const char* what, const FieldRow<Thing> (&fields)[kFields],
                       std::vector<Thing>& to) {
@@ -164,13 +165,13 @@ void ReadUniqueThings(const FieldValue& value, const char* what, const FieldRow<
     for (size_t i = 0; i < to.size(); ++i) {
         if (to[i].kind && !seen.insert(to[i].kind).second)
             value.findings.Error(PlaceOf(value.node[i]),
-                                 Quote(to[i].kind->name.word) + " is described twice: remove one");
+                                 Quote(to[i].kind->name.word) + " occurs twice: remove one");
     }
 }
 
 // --- The tables of fields
 
-// Without a level it is full; what counts the room left still has some.
+// Without a level the supply is full. The waste box, whose level is the room left, has some.
 void ReadSupplyCapacity(const FieldValue& value, Supply& supply) {
     ReadWordOrNumber(value, kLevelWords, supply.capacity);
     supply.level = supply.level < 0 ? supply.level : supply.capacity;

@@ -1,15 +1,15 @@
-// The fault table and its engine, see faults.h.
+// The table of faults, and the datagrams that a faulty answer becomes.
 #include "simprinter/faults.h"
 
+#include "common/choices.h"
 #include "common/text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <stdexcept>
 
 namespace {
 
-// An answer on its way out, as the table's rows change it.
+// An answer that the faults change before it is sent.
 struct Answer {
     const Message& request;
     Message message;
@@ -20,12 +20,12 @@ struct Answer {
     Source source = Source::kAsked;
     bool isMalformed = false;
     bool isTruncated = false;
-    std::optional<long> octetsLeft = {}; // of a truncated answer; else half of it
+    std::optional<long> bytesLeft = {}; // of a truncated answer; not given: half
 };
 
 } // namespace
 
-// What a fault does to the answer; false when it left it alone this time.
+// Changes the answer; false when the fault did not apply this time.
 using Act = bool (*)(Answer& answer, Fault& fault, std::mt19937& random);
 
 enum class Argument { kNone, kMayHave, kMustHave };
@@ -41,7 +41,7 @@ struct FaultKind {
 
 namespace {
 
-bool KeepSilent(Answer& answer, Fault& fault, std::mt19937&) {
+bool DropAnswer(Answer& answer, Fault& fault, std::mt19937&) {
     const bool acts = !fault.argument || fault.acted < *fault.argument;
     answer.isSent = answer.isSent && !acts;
     return acts;
@@ -85,7 +85,7 @@ bool UseOtherAddress(Answer& answer, Fault&, std::mt19937&) {
 
 bool Truncate(Answer& answer, Fault& fault, std::mt19937&) {
     answer.isTruncated = true;
-    answer.octetsLeft = fault.argument;
+    answer.bytesLeft = fault.argument;
     return true;
 }
 
@@ -116,37 +116,37 @@ bool AnswerCounters(Answer& answer, Fault&, std::mt19937&) {
 // clang-format off
 constexpr FaultKind kFaultKinds[] = {
     // name             argument              its name   least most    act               what happens
-    {"silence",         Argument::kMayHave,  "COUNT",   1, 1000000,    KeepSilent,       "no answer, or none to the first COUNT requests"},
-    {"loss",            Argument::kMustHave, "PERCENT", 0, 100,        LoseSome,         "so many of a hundred answers get lost; --seed says which"},
-    {"delay",           Argument::kMustHave, "MS",      0, 600000,     Delay,            "the answer comes so many milliseconds late"},
-    {"duplicate",       Argument::kNone,     "",        0, 0,          Duplicate,        "the answer comes twice"},
-    {"stale",           Argument::kMustHave, "COUNT",   1, 1000,       SendStaleFirst,   "so many answers with other request-ids come before it"},
-    {"wrong-community", Argument::kNone,     "",        0, 0,          ChangeCommunity,  "the answer has another community"},
-    {"wrong-source",    Argument::kNone,     "",        0, 0,          UseOtherPort,     "the answer comes from another port"},
-    {"wrong-address",   Argument::kNone,     "",        0, 0,          UseOtherAddress,  "the answer comes from another loopback address"},
-    {"truncated",       Argument::kMayHave,  "OCTETS",  0, 65507,      Truncate,         "the answer is cut to so many octets, or to half"},
-    {"malformed",       Argument::kNone,     "",        0, 0,          MakeMalformed,    "a length in the answer leads beyond its end"},
+    {"silence",         Argument::kMayHave,  "COUNT",   1, 1000000,    DropAnswer,       "no answer, or none to the first COUNT requests"},
+    {"loss",            Argument::kMustHave, "PERCENT", 0, 100,        LoseSome,         "this percentage of the answers is lost; --seed selects which"},
+    {"delay",           Argument::kMustHave, "MS",      0, 600000,     Delay,            "the answer is delayed by this many milliseconds"},
+    {"duplicate",       Argument::kNone,     "",        0, 0,          Duplicate,        "the answer is sent twice"},
+    {"stale",           Argument::kMustHave, "COUNT",   1, 1000,       SendStaleFirst,   "this many answers with other request-ids are sent first"},
+    {"wrong-community", Argument::kNone,     "",        0, 0,          ChangeCommunity,  "the answer has a different community"},
+    {"wrong-source",    Argument::kNone,     "",        0, 0,          UseOtherPort,     "the answer comes from a different port"},
+    {"wrong-address",   Argument::kNone,     "",        0, 0,          UseOtherAddress,  "the answer comes from a different loopback address"},
+    {"truncated",       Argument::kMayHave,  "BYTES",  0, 65507,      Truncate,         "the answer is cut to this many bytes, or to half"},
+    {"malformed",       Argument::kNone,     "",        0, 0,          MakeMalformed,    "a length in the answer points beyond its end"},
     {"error-status",    Argument::kMustHave, "N",       0, 2147483647, AnswerError,      "the answer has this error-status"},
-    {"counter",         Argument::kNone,     "",        0, 0,          AnswerCounters,   "Counter where INTEGER is due"},
+    {"counter",         Argument::kNone,     "",        0, 0,          AnswerCounters,   "integers are sent as Counter"},
 };
 // clang-format on
 
-// The community's length says 127 octets, of which at most 126 are there. It stands behind the header, the
-// version, which takes three octets, and its own tag.
-void LeadBeyondEnd(Octets& octets) {
-    const size_t header = octets[1] < 0x80 ? 2 : 2 + (octets[1] & 0x7Fu);
-    octets[header + 4] = 0x7F;
-    octets.resize(header + 5 + std::min<size_t>(octets.size() - header - 5, 0x7E));
+// Sets the community's length to 127 and leaves at most 126 bytes after it. The length follows the header,
+// the version (three bytes) and the community's tag.
+void PointBeyondEnd(Bytes& bytes) {
+    const size_t header = bytes[1] < 0x80 ? 2 : 2 + (bytes[1] & 0x7Fu);
+    bytes[header + 4] = 0x7F;
+    bytes.resize(header + 5 + std::min<size_t>(bytes.size() - header - 5, 0x7E));
 }
 
-Octets Encode(const Answer& answer) {
-    Octets octets = BuildMessage(answer.message);
-    if (answer.isMalformed && octets.size() > 8)
-        LeadBeyondEnd(octets);
+Bytes Encode(const Answer& answer) {
+    Bytes bytes = BuildMessage(answer.message);
+    if (answer.isMalformed && bytes.size() > 8)
+        PointBeyondEnd(bytes);
     if (answer.isTruncated)
-        octets.resize(std::min(octets.size(), answer.octetsLeft ? static_cast<size_t>(*answer.octetsLeft)
-                                                                : octets.size() / 2));
-    return octets;
+        bytes.resize(std::min(bytes.size(),
+                              answer.bytesLeft ? static_cast<size_t>(*answer.bytesLeft) : bytes.size() / 2));
+    return bytes;
 }
 
 bool Concerns(const Fault& fault, const Message& request) {
@@ -160,14 +160,10 @@ bool Concerns(const Fault& fault, const Message& request) {
 }
 
 const FaultKind& FindKind(const std::string& text, const std::string& name) {
-    std::vector<std::string> names;
-    for (const FaultKind& kind : kFaultKinds) {
+    for (const FaultKind& kind : kFaultKinds)
         if (name == kind.name)
             return kind;
-        names.emplace_back(kind.name);
-    }
-    Refuse(text,
-           "there is no such fault" + NearestHint(name, names) + "\nFaults are " + Join(names, " and "));
+    Refuse(text, "unknown fault; " + Choices(kFaultKinds, [](const FaultKind& kind) { return kind.name; }));
 }
 
 std::string Usage(const FaultKind& kind) {
@@ -188,12 +184,10 @@ Fault ParseFault(const std::string& text) {
     Fault fault{&kind, {}, {}};
     if (equals != std::string::npos) {
         const std::string value = action.substr(equals + 1);
-        long number = -1;
-        const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), number);
+        const std::optional<long> number = ParseWhole<long>(value);
         if (kind.argument == Argument::kNone)
             Refuse(text, std::string(kind.name) + " takes no value");
-        if (error != std::errc{} || end != value.data() + value.size() || number < kind.least
-            || number > kind.most)
+        if (!number || *number < kind.least || *number > kind.most)
             Refuse(text, std::string(kind.argumentName) + " must be a number from "
                              + std::to_string(kind.least) + " to " + std::to_string(kind.most));
         fault.argument = number;
@@ -203,7 +197,7 @@ Fault ParseFault(const std::string& text) {
     if (at != std::string::npos) {
         const std::optional<Oid> prefix = OidFromText(text.substr(at + 1));
         if (!prefix)
-            Refuse(text, "behind '@' stands no object identifier such as .1.3.6.1.2.1.43");
+            Refuse(text, "after '@' write an object identifier such as .1.3.6.1.2.1.43");
         fault.prefix = *prefix;
     }
     return fault;

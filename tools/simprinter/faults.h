@@ -1,5 +1,4 @@
-// Faults of a printer or a network, ordered on the command line: a table of them, each acting on the answer
-// to a request, and the datagrams that the answer becomes.
+// Faults of a printer or a network, selected on the command line. They change the answers to requests.
 #ifndef SIMPRINTER_FAULTS_H
 #define SIMPRINTER_FAULTS_H
 
@@ -8,13 +7,13 @@
 #include <random>
 
 enum class Source {
-    kAsked,        // the address and port that the request went to
+    kAsked,        // the address and port of the request
     kOtherPort,    // the same address, another port
     kOtherAddress, // another loopback address
 };
 
 struct Datagram {
-    Octets octets;
+    Bytes bytes;
     int delayMs = 0;
     Source source = Source::kAsked;
 };
@@ -24,22 +23,22 @@ struct FaultKind; // a row of the table
 struct Fault {
     const FaultKind* kind;
     std::optional<long> argument;
-    Oid prefix;     // acts only when a variable of the request begins with it
-    long acted = 0; // answers that it has acted on
+    Oid prefix;     // applies only to requests with a variable below it
+    long acted = 0; // answers changed so far
 };
 
 struct FaultSet {
     std::vector<Fault> faults;
-    std::mt19937 random; // for losses; the same with every start
+    std::mt19937 random; // for losses; seeded, so every run loses the same answers
 };
 
-// Reads NAME[=VALUE][@OID]. Throws std::runtime_error that says what is wrong and what is possible.
+// Parses NAME[=VALUE][@OID]. Throws std::runtime_error for anything else.
 Fault ParseFault(const std::string& text);
 
-// The table of faults for people, one line each.
+// Help text: one line for each fault.
 std::string FaultHelp();
 
-// Lets the faults act on the reply and encodes it. Appends the names of those that acted to `log`.
+// Applies the faults to the reply and encodes it. Appends the names of those that applied to `log`.
 std::vector<Datagram> ApplyFaults(FaultSet& set, const Message& request, const Message& reply,
                                   std::string& log);
 

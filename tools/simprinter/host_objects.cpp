@@ -1,4 +1,4 @@
-// The system group (RFC 1213) and the Host Resources MIB (RFC 2790) of the printer.
+// The printer's system group (RFC 1213) and Host Resources MIB (RFC 2790).
 #include "simprinter/object_table.h"
 #include "simprinter/objects.h"
 
@@ -6,7 +6,7 @@ namespace {
 
 constexpr int kBytesInMb = 1024 * 1024;
 
-// --- .1.3.6.1.2.1.1 system. sysUpTime is set while serving.
+// --- .1.3.6.1.2.1.1 system. sysUpTime is updated for each request.
 constexpr Column<Device> kSystem[] = {
     {1, [](const Device& d) { return TextValue(d.model + ", serial number " + d.serial); }}, // sysDescr
     {2, [](const Device&) { return OidValueFrom("1.3.6.1.4.1.47913.1.1.1.1"); }},            // sysObjectID
@@ -66,7 +66,7 @@ std::vector<ConceptualRow<HostDevice>> HostDevices(const Device& device) {
 }
 
 // --- .1.3.6.1.2.1.25.3.5.1 hrPrinterTable
-// Two octets of bits, the first bit the highest: what keeps the printer from printing, or soon will.
+// hrPrinterDetectedErrorState: 16 bits, the first one highest.
 std::string DetectedErrors(const Device& device) {
     constexpr int kLowPaper = 0x8000, kNoPaper = 0x4000, kLowToner = 0x2000, kNoToner = 0x1000;
     constexpr int kInputTrayEmpty = 0x0004;

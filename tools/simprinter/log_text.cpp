@@ -1,11 +1,11 @@
-// The log's texts, see log_text.h.
+// Formats requests and answers for the log.
 #include "simprinter/log_text.h"
 
-#include <cstdio>
+#include "common/text.h"
 
 namespace {
 
-constexpr size_t kLongestShown = 80;
+constexpr size_t kMaxShown = 80;
 
 const char* TagName(Tag tag) {
     switch (tag) {
@@ -39,7 +39,7 @@ std::string ValueText(const Value& value) {
         return name;
     if (value.tag == kObjectId)
         return name + ' ' + OidText(value.oid);
-    return name + ' ' + (HoldsNumber(value.tag) ? std::to_string(value.number) : PrintableText(value.octets));
+    return name + ' ' + (IsNumber(value.tag) ? std::to_string(value.number) : PrintableText(value.bytes));
 }
 
 std::string ErrorText(long status) {
@@ -50,15 +50,12 @@ std::string ErrorText(long status) {
 
 } // namespace
 
-std::string PrintableText(const std::string& octets) {
+std::string PrintableText(const std::string& bytes) {
     std::string text = "'";
-    for (const char c : octets.substr(0, kLongestShown)) {
-        char escaped[8] = {c};
-        if (c < 0x20 || c > 0x7E)
-            std::snprintf(escaped, sizeof escaped, "\\x%02X", static_cast<unsigned>(static_cast<uint8_t>(c)));
-        text += escaped;
+    for (const char c : bytes.substr(0, kMaxShown)) {
+        text += c < 0x20 || c > 0x7E ? HexEscape(c) : std::string(1, c);
     }
-    return text + (octets.size() > kLongestShown ? "...'" : "'");
+    return text + (bytes.size() > kMaxShown ? "...'" : "'");
 }
 
 std::string RequestText(const Message& request) {

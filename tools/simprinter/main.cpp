@@ -1,5 +1,5 @@
 // simprinter, a simulated printer on the network: command line, messages and exit codes.
-// Exit codes: 0 ended by SIGTERM or SIGINT, or help was asked for; 1 trouble; 2 wrong use.
+// Exit codes: 0 stopped by SIGTERM or SIGINT, or --help; 1 failure; 2 wrong usage.
 #include "common/files.h"
 #include "simprinter/device_reader.h"
 #include "simprinter/objects.h"
@@ -14,9 +14,9 @@
 
 namespace {
 
-enum ExitCode { kDone = 0, kTrouble = 1, kWrongUse = 2 };
+enum ExitCode { kDone = 0, kFailed = 1, kWrongUsage = 2 };
 
-struct WrongUse : std::runtime_error {
+struct WrongUsage : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
@@ -28,7 +28,7 @@ struct CommandLine {
     unsigned seed = 1;
 };
 
-// False when help was asked for and given.
+// False after --help.
 bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     CLI::App app{"A simulated printer on the network: answers SNMPv1 requests as a device would.",
                  "simprinter"};
@@ -42,25 +42,25 @@ bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     app.add_option("--replay", line.replayFile, "serve a recorded walk: 'snmpwalk -On' text or .snmprec")
         ->type_name("FILE")
         ->excludes(device);
-    app.add_option("--community", line.agent.community, "requests of others stay unanswered")
+    app.add_option("--community", line.agent.community, "requests with another one are not answered")
         ->capture_default_str();
-    app.add_option("--largest-reply", line.agent.largestReply, "octets; a larger one is answered with tooBig")
+    app.add_option("--largest-reply", line.agent.largestReply, "bytes; a larger reply becomes tooBig")
         ->check(CLI::Range(484, 65507))
         ->capture_default_str();
-    app.add_option("--fault", line.faults, "NAME[=VALUE][@OID], any number of times; see below")
+    app.add_option("--fault", line.faults, "NAME[=VALUE][@OID]; may be repeated; see below")
         ->allow_extra_args(false);
-    app.add_option("--seed", line.seed, "which answers get lost")
+    app.add_option("--seed", line.seed, "selects the answers that are lost")
         ->check(CLI::Range(0, INT_MAX))
         ->capture_default_str();
     app.add_flag("--log", line.server.logs, "one line per request and answer on the standard error output");
-    app.footer("Faults (with @OID only for requests of objects below it):\n" + FaultHelp());
+    app.footer("Faults (with @OID only for requests below that object):\n" + FaultHelp());
     try {
         app.parse(argc, argv);
         return true;
-    } catch (const CLI::ParseError& fault) {
-        if (fault.get_exit_code() != 0)
-            throw WrongUse(std::string(fault.what()) + "\n'simprinter --help' lists the options.");
-        app.exit(fault);
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() != 0)
+            throw WrongUsage(std::string(error.what()) + "\n'simprinter --help' lists the options.");
+        app.exit(error);
         return false;
     }
 }
@@ -70,20 +70,20 @@ std::vector<Fault> ReadFaults(const std::vector<std::string>& texts) {
     for (const std::string& text : texts) {
         try {
             faults.push_back(ParseFault(text));
-        } catch (const std::runtime_error& fault) {
-            throw WrongUse(fault.what());
+        } catch (const std::runtime_error& error) {
+            throw WrongUsage(error.what());
         }
     }
     return faults;
 }
 
-// What the findings say goes to the standard error output; any but notes end the program.
+// Prints the findings to the standard error output. Throws when any of them is an error.
 void Report(const std::string& path, Findings& findings) {
     findings.Sort();
     for (const Finding& finding : findings.list)
         std::cerr << path << ':' << FindingText(finding) << '\n';
     if (findings.HasErrors())
-        throw std::runtime_error("'" + path + "' has faults: mend them and start again");
+        throw std::runtime_error("'" + path + "' has errors: correct them and start again");
 }
 
 ObjectMap ReadObjects(const CommandLine& line) {
@@ -116,7 +116,7 @@ ExitCode Run(int argc, char** argv) {
         [&](ObjectMap& objects) {
             using Hundredths = std::chrono::duration<int64_t, std::centi>;
             const auto up = std::chrono::steady_clock::now() - start;
-            if (!isRecorded) // whose times stand still
+            if (!isRecorded) // a recording's times do not change
                 SetUpTime(objects, std::chrono::duration_cast<Hundredths>(up).count());
         });
     return kDone;
@@ -127,11 +127,11 @@ ExitCode Run(int argc, char** argv) {
 int main(int argc, char** argv) {
     try {
         return Run(argc, argv);
-    } catch (const WrongUse& fault) {
-        std::cerr << "simprinter: " << fault.what() << "\n";
-        return kWrongUse;
-    } catch (const std::exception& fault) {
-        std::cerr << "simprinter: " << fault.what() << "\n";
-        return kTrouble;
+    } catch (const WrongUsage& error) {
+        std::cerr << "simprinter: " << error.what() << "\n";
+        return kWrongUsage;
+    } catch (const std::exception& error) {
+        std::cerr << "simprinter: " << error.what() << "\n";
+        return kFailed;
     }
 }

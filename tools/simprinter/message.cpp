@@ -1,16 +1,16 @@
-// The codec, see message.h: a thin layer over net-snmp's functions.
+// Encodes and decodes SNMPv1 messages with net-snmp's functions.
 #include "simprinter/message.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <memory>
-// net-snmp's headers need this order.
+// net-snmp's headers require this order.
 // clang-format off
 #include <net-snmp/net-snmp-config.h>
 #include <net-snmp/net-snmp-includes.h>
 // clang-format on
 
-static_assert(kMaxArcs == MAX_OID_LEN);
+static_assert(kMaxSubIds == MAX_OID_LEN);
 
 namespace {
 
@@ -19,8 +19,7 @@ struct PduRelease {
 };
 using PduPointer = std::unique_ptr<netsnmp_pdu, PduRelease>;
 
-// What net-snmp's functions have to say of bad datagrams goes nowhere: the agent's log tells that they were
-// dropped.
+// Turns off net-snmp's messages about bad datagrams; the agent's log reports them.
 void QuietLibrary() {
     static const auto* handler = netsnmp_register_loghandler(NETSNMP_LOGHANDLER_NONE, LOG_DEBUG);
     static_cast<void>(handler);
@@ -30,13 +29,13 @@ bool IsRequest(int command) {
     return command == SNMP_MSG_GET || command == SNMP_MSG_GETNEXT || command == SNMP_MSG_SET;
 }
 
-bool ReadOid(const oid* arcs, size_t count, Oid& to) {
-    to.assign(arcs, arcs + count);
-    return std::equal(to.begin(), to.end(), arcs); // an arc of more than 32 bits is lost
+bool ReadOid(const oid* subIds, size_t count, Oid& to) {
+    to.assign(subIds, subIds + count);
+    return std::equal(to.begin(), to.end(), subIds); // false for one of more than 32 bits
 }
 
-// The value of a SetRequest, which goes back as it came; other requests hold NULL. A type that is no SNMPv1
-// value reads as NULL too.
+// The value of a SetRequest, which an error returns; other requests have NULL. Types that SNMPv1 does not
+// have become NULL.
 Value ReadValue(const netsnmp_variable_list& from) {
     const auto tag = static_cast<Tag>(from.type);
     switch (tag) {
@@ -59,16 +58,16 @@ Value ReadValue(const netsnmp_variable_list& from) {
 
 int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
     const std::vector<oid> name(varBind.name.begin(), varBind.name.end());
-    const std::vector<oid> arcs(varBind.value.oid.begin(), varBind.value.oid.end());
+    const std::vector<oid> subIds(varBind.value.oid.begin(), varBind.value.oid.end());
     const long number = static_cast<long>(varBind.value.number);
-    const void* contents = varBind.value.octets.data();
-    size_t length = varBind.value.octets.size();
-    if (HoldsNumber(varBind.value.tag)) {
+    const void* contents = varBind.value.bytes.data();
+    size_t length = varBind.value.bytes.size();
+    if (IsNumber(varBind.value.tag)) {
         contents = &number;
         length = sizeof number;
     } else if (varBind.value.tag == kObjectId) {
-        contents = arcs.data();
-        length = arcs.size() * sizeof(oid);
+        contents = subIds.data();
+        length = subIds.size() * sizeof(oid);
     }
     return snmp_pdu_add_variable(&pdu, name.data(), name.size(), varBind.value.tag, contents, length)
            != nullptr;
@@ -76,15 +75,15 @@ int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
 
 } // namespace
 
-std::optional<Message> ParseRequest(const Octets& datagram) {
+std::optional<Message> ParseRequest(const Bytes& datagram) {
     QuietLibrary();
-    Octets octets = datagram; // net-snmp's functions take no constant ones
-    octets.push_back(0);      // and may look at the octet that follows
+    Bytes bytes = datagram; // net-snmp's functions want them writable
+    bytes.push_back(0);     // and may read one byte beyond the end
     size_t left = datagram.size();
     u_char community[SNMP_MAX_MSG_SIZE];
     size_t communityLength = sizeof community;
     long version = -1;
-    u_char* at = snmp_comstr_parse(octets.data(), &left, community, &communityLength, &version);
+    u_char* at = snmp_comstr_parse(bytes.data(), &left, community, &communityLength, &version);
     if (!at || version != SNMP_VERSION_1 || left == 0 || !IsRequest(*at))
         return std::nullopt;
     const PduPointer pdu(snmp_pdu_create(*at));
@@ -104,7 +103,7 @@ std::optional<Message> ParseRequest(const Octets& datagram) {
     return message;
 }
 
-Octets BuildMessage(const Message& message) {
+Bytes BuildMessage(const Message& message) {
     const PduPointer pdu(snmp_pdu_create(static_cast<int>(message.type)));
     if (!pdu)
         return {};
@@ -115,7 +114,7 @@ Octets BuildMessage(const Message& message) {
         if (!AddVarBind(*pdu, varBind))
             return {};
     }
-    // Built from the end to the front of a block that grows as needed.
+    // Built from back to front in a block that grows as needed.
     u_char* block = nullptr;
     size_t size = 0, used = 0;
     const long version = SNMP_VERSION_1;
@@ -126,9 +125,9 @@ Octets BuildMessage(const Message& message) {
                                      message.community.size())
         && asn_realloc_rbuild_int(&block, &size, &used, 1, ASN_INTEGER, &version, sizeof version)
         && asn_realloc_rbuild_sequence(&block, &size, &used, 1, ASN_SEQUENCE | ASN_CONSTRUCTOR, used);
-    Octets octets;
+    Bytes bytes;
     if (built)
-        octets.assign(block + size - used, block + size);
+        bytes.assign(block + size - used, block + size);
     std::free(block);
-    return octets;
+    return bytes;
 }

@@ -1,11 +1,11 @@
-// SNMPv1 messages as octets and back. The encoding is net-snmp's, so that what the driver's own reader and
-// writer get wrong shows.
+// SNMPv1 messages and their encoding. net-snmp's encoding is used, independent of the driver's, so that
+// errors in the driver's show up.
 #ifndef SIMPRINTER_MESSAGE_H
 #define SIMPRINTER_MESSAGE_H
 
 #include "simprinter/snmp_values.h"
 
-using Octets = std::vector<uint8_t>;
+using Bytes = std::vector<uint8_t>;
 
 enum class PduType : int { kGet = 0xA0, kGetNext = 0xA1, kResponse = 0xA2, kSet = 0xA3 };
 
@@ -30,10 +30,10 @@ struct Message {
     std::vector<VarBind> varBinds;
 };
 
-// Nothing when the datagram is no well-formed SNMPv1 request.
-std::optional<Message> ParseRequest(const Octets& datagram);
+// Nothing when the datagram is not a valid SNMPv1 request.
+std::optional<Message> ParseRequest(const Bytes& datagram);
 
-// Empty when a value can't be put into a message.
-Octets BuildMessage(const Message& message);
+// Empty when a value can't be encoded.
+Bytes BuildMessage(const Message& message);
 
 #endif

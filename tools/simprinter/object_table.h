@@ -1,5 +1,4 @@
-// How the MIB tables of this printer are written down: a column is a row here, with its number and how its
-// value comes from what it describes.
+// MIB tables of the printer: each column is a row with its number and the function that returns its value.
 #ifndef SIMPRINTER_OBJECT_TABLE_H
 #define SIMPRINTER_OBJECT_TABLE_H
 
@@ -11,15 +10,15 @@ struct Column {
     Value (*value)(const Thing& thing);
 };
 
-// A conceptual row: what it describes and the arcs behind the column's number.
+// A conceptual row: the object that it describes and its index, the sub-identifiers after the column's
+// number.
 template <typename Thing>
 struct ConceptualRow {
     Oid index;
     Thing thing;
 };
 
-// `base` and a column's number and a row's index make an object's name; a scalar is a column with the row
-// index 0.
+// An object's name is `base`, the column's number and the row's index. A scalar has the row index 0.
 template <typename Thing, size_t kColumns>
 void AddTable(ObjectMap& to, const char* base, const Column<Thing> (&columns)[kColumns],
               const std::vector<ConceptualRow<Thing>>& rows) {
@@ -40,7 +39,7 @@ void AddScalars(ObjectMap& to, const char* base, const Column<Thing> (&columns)[
     AddTable<Thing>(to, base, columns, {{{0}, thing}});
 }
 
-// Values of columns: the same number in each row, a number or a text that the thing holds.
+// Values of columns: a fixed number, or a number or text member of the described object.
 template <int kNumber, typename Thing>
 Value Fixed(const Thing&) {
     return NumberValue(kNumber);

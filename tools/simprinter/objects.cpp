@@ -1,4 +1,4 @@
-// The whole of a device's objects, see objects.h.
+// Builds all objects of a device.
 #include "simprinter/objects.h"
 
 ObjectMap ObjectsOf(const Device& device) {

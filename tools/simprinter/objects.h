@@ -1,4 +1,4 @@
-// The objects that a device serves.
+// The SNMP objects of a device.
 #ifndef SIMPRINTER_OBJECTS_H
 #define SIMPRINTER_OBJECTS_H
 
@@ -7,10 +7,10 @@
 
 ObjectMap ObjectsOf(const Device& device);
 
-// Brings the times since start up to date. Hundredths of a second.
+// Updates the objects with the time since start, in hundredths of a second.
 void SetUpTime(ObjectMap& objects, int64_t ticks);
 
-// The parts that ObjectsOf puts together, a file each.
+// The parts of ObjectsOf, one file each.
 void AddHostObjects(ObjectMap& to, const Device& device);    // system group, Host Resources
 void AddPrinterObjects(ObjectMap& to, const Device& device); // Printer MIB
 void AddPrivateObjects(ObjectMap& to, const Device& device); // the maker's subtree

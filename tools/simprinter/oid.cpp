@@ -1,4 +1,4 @@
-// Object identifiers as texts, see snmp_values.h.
+// Object identifiers to text and back.
 #include "simprinter/snmp_values.h"
 
 #include <algorithm>
@@ -11,18 +11,18 @@ std::optional<Oid> OidFromText(std::string_view text) {
     const char* at = text.data();
     const char* const end = at + text.size();
     for (;;) {
-        uint32_t arc = 0;
-        const auto [next, fault] = std::from_chars(at, end, arc);
-        if (fault != std::errc{} || oid.size() == kMaxArcs)
+        uint32_t subId = 0;
+        const auto [next, error] = std::from_chars(at, end, subId);
+        if (error != std::errc{} || oid.size() == kMaxSubIds)
             return std::nullopt;
-        oid.push_back(arc);
+        oid.push_back(subId);
         if (next == end)
             break;
         if (*next != '.')
             return std::nullopt;
         at = next + 1;
     }
-    // A message holds the first two arcs as one number, 40 times the first plus the second.
+    // A message encodes the first two sub-identifiers as one number, 40 times the first plus the second.
     if (oid.size() < 2 || oid[0] > 2 || (oid[0] < 2 && oid[1] > 39) || oid[1] > UINT32_MAX - 80)
         return std::nullopt;
     return oid;
@@ -30,8 +30,8 @@ std::optional<Oid> OidFromText(std::string_view text) {
 
 std::string OidText(const Oid& oid) {
     std::string text;
-    for (const uint32_t arc : oid)
-        text += '.' + std::to_string(arc);
+    for (const uint32_t subId : oid)
+        text += '.' + std::to_string(subId);
     return text;
 }
 

@@ -1,4 +1,4 @@
-// The Printer MIB (RFC 1759, with the additions of RFC 3805) of the printer: host device 1.
+// The printer's Printer MIB (RFC 1759 and additions of RFC 3805): host device 1.
 #include "simprinter/object_table.h"
 #include "simprinter/objects.h"
 
@@ -7,7 +7,7 @@
 namespace {
 
 constexpr int kMicrometers = 4, kSheets = 8;  // units
-constexpr int64_t kMicrometersInLength = 100; // lengths of the description are tenths of a millimetre
+constexpr int64_t kMicrometersInLength = 100; // the device's lengths are tenths of a millimetre
 
 // --- .1.3.6.1.2.1.43.5.1.1 prtGeneralTable
 constexpr Column<Device> kGeneral[] = {
@@ -42,7 +42,7 @@ constexpr Column<Device> kLocalization[] = {
 };
 
 // --- .1.3.6.1.2.1.43.8.2.1 prtInputTable
-// Along the feed a sheet measures its width when its long edge goes first.
+// With the long edge first, the length along the feed is the sheet's width.
 Value FeedLength(const Tray& tray) {
     const int length = tray.orientation == kLongEdgeFirst ? tray.size->width : tray.size->length;
     return NumberValue(length * kMicrometersInLength);
@@ -51,7 +51,7 @@ Value CrossLength(const Tray& tray) {
     const int length = tray.orientation == kLongEdgeFirst ? tray.size->length : tray.size->width;
     return NumberValue(length * kMicrometersInLength);
 }
-// Available and idle; empty: unavailable until someone fills it, with an alert that is not critical.
+// Available and idle; an empty tray is unavailable and on request, with a non-critical alert.
 Value InputStatus(const Tray& tray) {
     return NumberValue(tray.level == 0 ? 1 + 8 : 0);
 }
@@ -106,7 +106,7 @@ constexpr Column<Output> kOutput[] = {
     {20, Fixed<4>}, // prtOutputPageDeliveryOrientation: faceDown
 };
 
-// A finisher takes the place of the printer's own tray.
+// A finisher replaces the printer's own output tray.
 std::vector<ConceptualRow<Output>> Outputs(const Device& device) {
     std::vector<Output> outputs;
     if (std::none_of(device.options.begin(), device.options.end(),

@@ -2,21 +2,21 @@
 //
 //   .6.12.1.1.COLUMN.1.N   overlays        1 number, 2 kind, 3 name, 4 title, 5 storage
 //   .6.13.1.1.COLUMN.1.N   colour profiles 1 number, 2 storage, 3 title, 4 name, 5 class
-//   .9...                  equipment that the standard MIBs have no place for: this program's invention
+//   .9...                  equipment that the standard MIBs do not cover; invented for this program
 //     .9.1.0               model name
 //     .9.2.1.COLUMN.N      options         1 number, 2 type, 3 model
 //     .9.3.1.COLUMN.N      finishers       1 number, 2 model, 3 flags of the punch kit
 //     .9.4.1.COLUMN.N      memories        1 number, 2 kind (1 memory, 3 hard disk), 3 MB
 //     .9.5.1.COLUMN.N      paper loaded    1 number of the input, 2 tray, 3 size, 4 orientation, 5 type,
-//                                          6 colour, 7 second side; but for the tray's word codes of device.h
+//                                          6 colour, 7 second side; codes of device.h except for the tray
 //
-// A numbered row's N counts from 1; that of the paper loaded is the input's number in the Printer MIB.
+// N counts from 1; for the paper loaded it is the input's number in the Printer MIB.
 #include "simprinter/object_table.h"
 #include "simprinter/objects.h"
 
 namespace {
 
-// A row of a list, with its number from 1.
+// An element of a list with its number, from 1.
 template <typename Thing>
 struct Numbered {
     int number;

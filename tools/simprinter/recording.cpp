@@ -1,10 +1,9 @@
-// What the recording formats share, see recording.h.
+// Parts of both recording formats: lines, values and the objects read so far.
 #include "simprinter/recording.h"
 
 #include "common/text.h"
 
 #include <algorithm>
-#include <charconv>
 
 std::vector<std::string_view> SplitLines(std::string_view text) {
     std::vector<std::string_view> lines;
@@ -22,33 +21,31 @@ std::vector<std::string_view> SplitLines(std::string_view text) {
 }
 
 std::optional<Value> ParseNumber(Tag tag, std::string_view text) {
-    int64_t number = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
+    const std::optional<int64_t> number = ParseWhole<int64_t>(text);
     const int64_t least = tag == kInteger ? INT32_MIN : 0;
     const int64_t most = tag == kInteger ? INT32_MAX : int64_t{UINT32_MAX};
-    if (fault != std::errc{} || end != text.data() + text.size() || number < least || number > most)
+    if (!number || *number < least || *number > most)
         return std::nullopt;
-    return NumberValue(number, tag);
+    return NumberValue(*number, tag);
 }
 
 std::optional<Value> ParseHex(Tag tag, std::string_view text) {
-    std::string octets;
+    std::string bytes;
     for (size_t i = 0; i < text.size();) {
         if (text[i] == ' ' || text[i] == '\n') {
             ++i;
             continue;
         }
-        uint8_t octet = 0;
         const std::string_view pair = text.substr(i, 2);
-        const auto [end, fault] = std::from_chars(pair.data(), pair.data() + pair.size(), octet, 16);
-        if (fault != std::errc{} || end != pair.data() + 2)
+        const std::optional<uint8_t> byte = ParseWhole<uint8_t>(pair, 16);
+        if (!byte || pair.size() != 2)
             return std::nullopt;
-        octets.push_back(static_cast<char>(octet));
+        bytes.push_back(static_cast<char>(*byte));
         i += 2;
     }
-    if (tag == kIpAddress && octets.size() != 4)
+    if (tag == kIpAddress && bytes.size() != 4)
         return std::nullopt;
-    return TextValue(std::move(octets), tag);
+    return TextValue(std::move(bytes), tag);
 }
 
 std::optional<Value> ParseOid(Tag, std::string_view text) {
@@ -59,7 +56,7 @@ std::optional<Value> ParseOid(Tag, std::string_view text) {
 }
 
 std::optional<Value> ParseIpAddress(Tag tag, std::string_view text) {
-    std::string octets;
+    std::string bytes;
     for (int i = 0; i < 4; ++i) {
         const size_t end = i < 3 ? text.find('.') : text.size();
         if (end == std::string_view::npos)
@@ -67,21 +64,21 @@ std::optional<Value> ParseIpAddress(Tag tag, std::string_view text) {
         const std::optional<Value> part = ParseNumber(kGauge, text.substr(0, end));
         if (!part || part->number > 255)
             return std::nullopt;
-        octets.push_back(static_cast<char>(static_cast<uint8_t>(part->number)));
+        bytes.push_back(static_cast<char>(static_cast<uint8_t>(part->number)));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
-    return TextValue(std::move(octets), tag);
+    return TextValue(std::move(bytes), tag);
 }
 
 void Recording::Add(Place place, std::string_view name, const std::optional<Value>& value,
                     std::string_view text) {
     const std::optional<Oid> oid = OidFromText(name);
     if (!oid)
-        findings.Error(place, Quote(name) + " is no object identifier that SNMP can carry");
+        findings.Error(place, Quote(name) + " is not a valid object identifier");
     else if (!value)
-        findings.Error(place, "this is no value of its type: " + Quote(text));
+        findings.Error(place, Quote(text) + " is not a value of its type");
     else if (!objects.emplace(*oid, *value).second)
-        findings.Note(place, OidText(*oid) + " is recorded twice: the first counts");
+        findings.Note(place, OidText(*oid) + " occurs twice: the first value is used");
 }
 
 void Recording::LeaveOutCounter64(Place place) {
@@ -92,8 +89,8 @@ void Recording::LeaveOutCounter64(Place place) {
 void Recording::NoteWhatIsLeftOut() {
     if (counter64s != 0)
         findings.Note(firstCounter64,
-                      "SNMPv1 can't carry Counter64: this object and all further ones of the type, "
-                          + std::to_string(counter64s) + " in all, are left out");
+                      "SNMPv1 has no Counter64: this object and all others of the type are left out, "
+                          + std::to_string(counter64s) + " in total");
 }
 
 ObjectMap ReadRecording(const std::string& text, Findings& findings) {

@@ -6,17 +6,17 @@
 #include "common/findings.h"
 #include "simprinter/snmp_values.h"
 
-// Tells the format by its contents. Bad lines are findings; what SNMPv1 can't carry or is there twice is
-// noted and left out.
+// Detects the format. Bad lines are errors; objects that SNMPv1 can't carry or that occur again are noted and
+// left out.
 ObjectMap ReadRecording(const std::string& text, Findings& findings);
 
-// What the formats' readers share: the objects so far, and what was noticed.
+// The objects and findings so far, shared by the formats' readers.
 struct Recording {
     explicit Recording(Findings& where) : findings(where) {}
 
     void Add(Place place, std::string_view name, const std::optional<Value>& value, std::string_view text);
     void LeaveOutCounter64(Place place);
-    void NoteWhatIsLeftOut(); // once all is read
+    void NoteWhatIsLeftOut(); // call after the last line
 
     ObjectMap objects;
     Findings& findings;
@@ -26,21 +26,21 @@ private:
     Place firstCounter64;
 };
 
-// How a value is written in a format: reads it as one of this tag; nothing when it is not well written.
+// Reads a value of this tag as a format writes it; nothing when it is invalid.
 using ParseValue = std::optional<Value> (*)(Tag tag, std::string_view text);
 
 std::optional<Value> ParseNumber(Tag tag, std::string_view text); // decimal; within the tag's 32 bits
-std::optional<Value> ParseHex(Tag tag, std::string_view text);    // pairs of digits, with or without blanks
+std::optional<Value> ParseHex(Tag tag, std::string_view text);    // pairs of digits, with or without spaces
 std::optional<Value> ParseOid(Tag tag, std::string_view text);
 std::optional<Value> ParseIpAddress(Tag tag, std::string_view text); // dotted
 
-// A file's lines, the first has number 1. An end of line of CR and LF counts if all lines have it.
+// The lines of a file. CR before LF is removed if every line has it.
 std::vector<std::string_view> SplitLines(std::string_view text);
 
 void ReadSnmprec(const std::vector<std::string_view>& lines, Recording& recording);
 void ReadWalk(const std::vector<std::string_view>& lines, Recording& recording);
 
-// Whether a line is the beginning of an object in this format.
+// Whether a line starts an object in this format.
 bool IsSnmprecLine(std::string_view line);
 bool IsWalkLine(std::string_view line);
 

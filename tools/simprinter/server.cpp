@@ -1,5 +1,4 @@
-// The socket loop, see server.h. Answers that a fault delays wait in a queue; everything else goes out at
-// once.
+// The socket loop. Answers that a fault delays wait in a queue; all others are sent at once.
 #include "simprinter/server.h"
 
 #include <algorithm>
@@ -19,8 +18,8 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr uint32_t kOtherLoopback = 0x7FFFFFFE; // 127.255.255.254, where no printer is likely to be simulated
-constexpr size_t kMaxWaiting = 10000; // delayed datagrams; further ones are lost, as in a real queue
+constexpr uint32_t kOtherLoopback = 0x7FFFFFFE; // 127.255.255.254, unlikely to be in use
+constexpr size_t kMaxWaiting = 10000;           // delayed datagrams; more are dropped, as in a real queue
 
 volatile std::sig_atomic_t stopRequested = 0;
 
@@ -28,7 +27,7 @@ void RequestStop(int) {
     stopRequested = 1;
 }
 
-// From here on the signals only come in while the loop waits, with the mask that it was called with.
+// Blocks the stop signals except while the loop waits with the returned mask.
 sigset_t CatchStopSignals() {
     struct sigaction action = {};
     action.sa_handler = RequestStop;
@@ -53,11 +52,11 @@ std::string Describe(const sockaddr_in& where) {
 std::string WhatToDo(int reason) {
     switch (reason) {
     case EADDRINUSE:
-        return ". Another program has that port: stop it, or choose a port with --port (0 takes a free one)";
+        return ". Another program uses that port: stop it, or choose another one with --port (0: any free port)";
     case EACCES:
-        return ". Ports below 1024 are for root: start as root, or choose another with --port (0 takes a free one)";
+        return ". Ports below 1024 need root: start as root, or choose another one with --port (0: any free port)";
     case EADDRNOTAVAIL:
-        return ". --address takes an address of this machine";
+        return ". --address must be an address of this machine";
     default:
         return "";
     }
@@ -69,7 +68,7 @@ struct UdpSocket {
     explicit UdpSocket(sockaddr_in where)
         : descriptor(socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {
         if (descriptor < 0)
-            throw std::runtime_error(std::string("no socket: ") + std::strerror(errno));
+            throw std::runtime_error(std::string("cannot open a socket: ") + std::strerror(errno));
         if (bind(descriptor, reinterpret_cast<const sockaddr*>(&where), sizeof where) == 0)
             return;
         const int reason = errno;
@@ -116,11 +115,11 @@ struct Waiting {
 };
 using WaitingQueue = std::multimap<Clock::time_point, Waiting>;
 
-// A datagram that can't be sent is lost, as on a network; why its socket can't be had is told.
+// A datagram that can't be sent is lost, as on a network. A socket that can't be opened is reported.
 void Send(Sockets& sockets, const Waiting& next) {
     try {
-        sendto(sockets.For(next.datagram.source).descriptor, next.datagram.octets.data(),
-               next.datagram.octets.size(), 0, reinterpret_cast<const sockaddr*>(&next.to), sizeof next.to);
+        sendto(sockets.For(next.datagram.source).descriptor, next.datagram.bytes.data(),
+               next.datagram.bytes.size(), 0, reinterpret_cast<const sockaddr*>(&next.to), sizeof next.to);
     } catch (const std::runtime_error& fault) {
         std::cerr << "simprinter: an answer from another source is lost: " << fault.what() << std::endl;
     }
@@ -133,7 +132,7 @@ void SendDue(Sockets& sockets, WaitingQueue& queue) {
     }
 }
 
-// Waits for a datagram, the next one due or a signal.
+// Waits for a datagram, the time of the next delayed answer or a signal.
 void Wait(int descriptor, const WaitingQueue& queue, const sigset_t& mask) {
     timespec limit = {};
     if (!queue.empty()) {
@@ -147,7 +146,7 @@ void Wait(int descriptor, const WaitingQueue& queue, const sigset_t& mask) {
     ppoll(&entry, 1, queue.empty() ? nullptr : &limit, &mask);
 }
 
-bool Receive(int descriptor, Octets& datagram, sockaddr_in& from) {
+bool Receive(int descriptor, Bytes& datagram, sockaddr_in& from) {
     constexpr size_t kLargestDatagram = 65536;
     datagram.resize(kLargestDatagram);
     socklen_t length = sizeof from;
@@ -162,7 +161,7 @@ sockaddr_in ParseAddress(const ServerOptions& options) {
     where.sin_family = AF_INET;
     where.sin_port = htons(options.port);
     if (inet_pton(AF_INET, options.address.c_str(), &where.sin_addr) != 1)
-        throw std::runtime_error("'" + options.address + "' is no IPv4 address such as 127.0.0.1");
+        throw std::runtime_error("'" + options.address + "' is not an IPv4 address such as 127.0.0.1");
     return where;
 }
 
@@ -174,7 +173,7 @@ void Serve(const ServerOptions& options, Agent& agent, const std::function<void(
     const sigset_t mask = CatchStopSignals();
     ready(ntohs(sockets.main.Name().sin_port));
     WaitingQueue queue;
-    Octets datagram;
+    Bytes datagram;
     sockaddr_in from = {};
     while (!stopRequested) {
         Wait(sockets.main.descriptor, queue, mask);

@@ -1,4 +1,4 @@
-// The printer's UDP socket: takes requests to the agent and sends what it answers, in one thread.
+// The printer's UDP socket: passes requests to the agent and sends its answers. Single-threaded.
 #ifndef SIMPRINTER_SERVER_H
 #define SIMPRINTER_SERVER_H
 
@@ -12,8 +12,9 @@ struct ServerOptions {
     bool logs = false;                 // one line per datagram on the standard error output
 };
 
-// Opens the socket, calls `ready` with the port and serves until SIGTERM or SIGINT comes. `refresh` is called
-// before each request, so that what changes with time does. Throws std::runtime_error that says what to do.
+// Opens the socket, calls `ready` with the port and serves until SIGTERM or SIGINT. Calls `refresh` before
+// each request to update the objects that change with time. Throws std::runtime_error when the socket can't
+// be opened.
 void Serve(const ServerOptions& options, Agent& agent, const std::function<void(uint16_t port)>& ready,
            const std::function<void(ObjectMap&)>& refresh);
 

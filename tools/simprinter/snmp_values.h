@@ -1,5 +1,4 @@
-// Object identifiers, values and the sorted map of objects that an agent serves. Every part of simprinter
-// passes these around; they own their contents.
+// Object identifiers, values, and the sorted map of objects that the agent serves. They own their contents.
 #ifndef SIMPRINTER_SNMP_VALUES_H
 #define SIMPRINTER_SNMP_VALUES_H
 
@@ -10,12 +9,12 @@
 #include <string_view>
 #include <vector>
 
-// Compares as SNMP orders objects: arc by arc.
+// Sub-identifiers. Comparison gives SNMP's order of objects.
 using Oid = std::vector<uint32_t>;
 
-constexpr size_t kMaxArcs = 128;
+constexpr size_t kMaxSubIds = 128;
 
-// The octets that stand for a value's type in a message.
+// The types of values by their tag in a message.
 enum Tag : uint8_t {
     kInteger = 0x02,
     kOctetString = 0x04,
@@ -29,28 +28,28 @@ enum Tag : uint8_t {
     kUnsigned = 0x47,
 };
 
-// What a value holds, by its tag: a number of 32 bits, octets (four of an address), arcs or, being NULL,
-// nothing.
+// A value; the tag decides whether it is a 32-bit number, bytes (four for an address), an object identifier
+// or NULL.
 struct Value {
     Tag tag = kNull;
     int64_t number = 0;
-    std::string octets;
+    std::string bytes;
     Oid oid;
 
     bool operator==(const Value& other) const {
-        return tag == other.tag && number == other.number && octets == other.octets && oid == other.oid;
+        return tag == other.tag && number == other.number && bytes == other.bytes && oid == other.oid;
     }
 };
 
-inline bool HoldsNumber(Tag tag) {
+inline bool IsNumber(Tag tag) {
     return tag == kInteger || tag == kCounter || tag == kGauge || tag == kTimeTicks || tag == kUnsigned;
 }
 
 inline Value NumberValue(int64_t number, Tag tag = kInteger) {
     return {tag, number, {}, {}};
 }
-inline Value TextValue(std::string octets, Tag tag = kOctetString) {
-    return {tag, 0, std::move(octets), {}};
+inline Value TextValue(std::string bytes, Tag tag = kOctetString) {
+    return {tag, 0, std::move(bytes), {}};
 }
 inline Value OidValue(Oid oid) {
     return {kObjectId, 0, {}, std::move(oid)};
@@ -58,7 +57,7 @@ inline Value OidValue(Oid oid) {
 
 using ObjectMap = std::map<Oid, Value>;
 
-// Reads "1.3.6.1" or ".1.3.6.1": 2 to 128 arcs of 32 bits that SNMP can carry.
+// Parses "1.3.6.1" or ".1.3.6.1": 2 to 128 sub-identifiers of 32 bits that a message can encode.
 std::optional<Oid> OidFromText(std::string_view text);
 
 // With a leading dot.

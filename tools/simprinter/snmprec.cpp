@@ -1,7 +1,8 @@
-// The .snmprec format: a line for each object, OID|TAG|VALUE, where TAG is the type's number in a message,
-// followed by x when the value is written in hexadecimal. Lines that begin with # are comments.
+// Reads the .snmprec format: one line OID|TAG|VALUE for each object. TAG is the type's tag in a message, with
+// an x for hexadecimal values. Lines that start with # are comments.
 #include "simprinter/recording.h"
 
+#include "common/choices.h"
 #include "common/text.h"
 
 #include <algorithm>
@@ -51,10 +52,9 @@ void ReadLine(std::string_view line, Place place, Recording& recording) {
     const auto row = std::find_if(std::begin(kTags), std::end(kTags),
                                   [&](const TagRow& r) { return tagText == r.tagText; });
     if (row == std::end(kTags))
-        return recording.findings.Error(
-            place,
-            "there is no tag " + Quote(tagText)
-                + ": known are 2, 4, 5, 6, 64 to 68 and 71, and 4x, 64x and 68x for hexadecimal values");
+        return recording.findings.Error(place,
+                                        "unknown tag " + Quote(tagText) + "; "
+                                            + Choices(kTags, [](const TagRow& r) { return r.tagText; }));
     const std::string_view text = line.substr(second + 1);
     recording.Add(place, line.substr(0, first), row->parse(row->tag, text), text);
 }

@@ -1,11 +1,10 @@
-// The text that net-snmp's snmpwalk prints with -On: ".1.3.6... = TYPE: VALUE". A value may go on over
-// further lines: texts in quotes until a quote ends a line, others until the next object.
+// Reads the output of net-snmp's `snmpwalk -On`: ".1.3.6... = TYPE: VALUE". A value may continue on further
+// lines: a quoted text until a quote ends a line, any other until the next object.
 #include "simprinter/recording.h"
 
 #include "common/text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstring>
 
 namespace {
@@ -17,7 +16,7 @@ std::string_view Trimmed(std::string_view text) {
                                            : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-// "3", "idle(3)" or, with a unit behind it, "3 sheets".
+// "3", "idle(3)" or "3 sheets".
 std::optional<Value> ParseNamedNumber(Tag tag, std::string_view text) {
     text = Trimmed(text);
     const size_t open = text.find('(');
@@ -34,7 +33,7 @@ std::optional<Value> ParseTicks(Tag tag, std::string_view text) {
     return ParseNumber(tag, text.substr(1, std::min(text.find(')'), text.size()) - 1));
 }
 
-// In quotes, those inside and backslashes escaped; without quotes it is taken as it is.
+// In quotes, with quotes and backslashes escaped; an unquoted text is taken literally.
 std::optional<Value> ParseString(Tag tag, std::string_view text) {
     if (text.empty() || text.front() != '"')
         return TextValue(std::string(text), tag);
@@ -42,16 +41,16 @@ std::optional<Value> ParseString(Tag tag, std::string_view text) {
     if (text.empty() || text.back() != '"')
         return std::nullopt;
     text.remove_suffix(1);
-    std::string octets;
+    std::string bytes;
     for (size_t i = 0; i < text.size(); ++i) {
         const bool isEscape =
             text[i] == '\\' && i + 1 < text.size() && (text[i + 1] == '"' || text[i + 1] == '\\');
-        octets.push_back(text[isEscape ? ++i : i]);
+        bytes.push_back(text[isEscape ? ++i : i]);
     }
-    return TextValue(std::move(octets), tag);
+    return TextValue(std::move(bytes), tag);
 }
 
-// "80 00 firstBit(0)": what the bits are called follows their octets.
+// "80 00 firstBit(0)": the names of the bits follow the bytes.
 std::optional<Value> ParseBits(Tag tag, std::string_view text) {
     size_t end = 0;
     const auto isHexPair = [&] {
@@ -76,21 +75,20 @@ std::optional<Value> ParseEmpty(Tag tag, std::string_view) {
     return TextValue("", tag);
 }
 
-// An Opaque that holds a number: the octets 9F and its kind, its size, then the number itself.
+// An Opaque number: the byte 9F, the kind, the size, then the number.
 template <typename Number, typename Bits>
 std::optional<Value> ParseOpaqueNumber(char kind, std::string_view text) {
     text = Trimmed(text);
-    Number number = 0;
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (fault != std::errc{} || end != text.data() + text.size())
+    const std::optional<Number> number = ParseWhole<Number>(text);
+    if (!number)
         return std::nullopt;
     static_assert(sizeof(Number) == sizeof(Bits));
     Bits bits;
-    std::memcpy(&bits, &number, sizeof bits);
-    std::string octets = {'\x9F', kind, static_cast<char>(sizeof bits)};
+    std::memcpy(&bits, &*number, sizeof bits);
+    std::string bytes = {'\x9F', kind, static_cast<char>(sizeof bits)};
     for (size_t i = sizeof bits; i-- > 0;)
-        octets.push_back(static_cast<char>(static_cast<uint8_t>(bits >> (8 * i))));
-    return TextValue(std::move(octets), kOpaque);
+        bytes.push_back(static_cast<char>(static_cast<uint8_t>(bits >> (8 * i))));
+    return TextValue(std::move(bytes), kOpaque);
 }
 std::optional<Value> ParseFloat(Tag, std::string_view text) {
     return ParseOpaqueNumber<float, uint32_t>('\x78', text);
@@ -100,7 +98,7 @@ std::optional<Value> ParseDouble(Tag, std::string_view text) {
 }
 
 struct TypeRow {
-    const char* name; // what stands behind the equals sign, before the value
+    const char* name; // between the equals sign and the value
     Tag tag;
     ParseValue parse;
 };
@@ -121,7 +119,7 @@ constexpr TypeRow kTypes[] = {
     {"Opaque: Double: ", kOpaque,      ParseDouble},
     {"OPAQUE: ",         kOpaque,      ParseHex},
 };
-// What is said where there is no object.
+// Printed in place of an object.
 constexpr const char* kNoObject[] = {"No more variables left", "No Such Object", "No Such Instance"};
 // clang-format on
 
@@ -129,7 +127,7 @@ bool StartsWith(std::string_view text, std::string_view start) {
     return text.substr(0, start.size()) == start;
 }
 
-// A value of another type than its MIB says is printed with a remark in front.
+// snmpwalk puts a remark before a value whose type differs from the MIB's.
 std::string_view WithoutRemark(std::string_view text) {
     const size_t end = StartsWith(text, "Wrong Type (should be ") ? text.find("): ") : std::string_view::npos;
     return end == std::string_view::npos ? text : text.substr(end + 3);
@@ -145,13 +143,13 @@ void ReadObject(Place place, std::string_view name, std::string_view text, Recor
         if (StartsWith(text, row.name))
             return recording.Add(place, name, row.parse(row.tag, text.substr(std::strlen(row.name))), text);
     }
-    // The one type that is printed without name.
+    // The only type that is printed without its name.
     if (const std::optional<Value> number = ParseNumber(kUnsigned, text))
         return recording.Add(place, name, number, text);
-    recording.findings.Error(place, "no known type stands behind the equals sign: " + Quote(text));
+    recording.findings.Error(place, "unknown type after the equals sign: " + Quote(text));
 }
 
-// Whether a text in quotes still waits for its end, a quote at the end of a line that is not escaped.
+// Whether a quoted text is still open: it ends with an unescaped quote at the end of a line.
 bool IsOpen(std::string_view text) {
     constexpr std::string_view kStart = "STRING: \"";
     if (!StartsWith(text, kStart))
@@ -190,9 +188,7 @@ void ReadWalk(const std::vector<std::string_view>& lines, Recording& recording) 
         while (i < lines.size() && goesOn())
             text.append("\n").append(lines[i++]);
         if (isQuoted && IsOpen(text))
-            recording.findings.Error(
-                place, "the quote that opens here is never closed: everything behind it was taken "
-                       "for this text");
+            recording.findings.Error(place, "the quoted text that starts here has no end");
         else
             ReadObject(place, line.substr(0, equals), text, recording);
     }
