@@ -1,5 +1,5 @@
-# Nothing is known of weight, colour and holes. A name fills its field, two sizes share a value, and the
-# automatic source has the large-capacity tray's bin number. There are eleven trays besides, one more than settings hold.
+# Weight, colour and pre-punched media are off. A name fills its field, two sizes share a value, and the automatic source
+# has the large-capacity tray's bin number. There are also eleven trays, one more than fit in the settings.
 s/MediaWeight: Enable/MediaWeight: Disable/
 s/MediaColor: Enable/MediaColor: Disable/
 s/MediaPrePunched: Enable/MediaPrePunched: Disable/

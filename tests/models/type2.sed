@@ -1,3 +1,3 @@
-# The second kind of tray dialog, and the colour dialogs' variant A.
+# Variant 2 of the tray dialog and variant A of the colour dialogs.
 s/Dlg_MediaType: TYPE1 /Dlg_MediaType: TYPE2 /
 s/ColorSetting: TYPE1 /ColorSetting: TYPE3 /

@@ -40,7 +40,7 @@ TEST(Program, ExitCodesAndMessages) {
              + ": Address already in use. Another program uses that port: stop it, or choose another one with --port"},
     };
     for (const auto& one : cases) {
-        const CommandResult result = RunCommand(SIMPRINTER_PROGRAM " " + one.arguments);
+        const CommandResult result = RunCommand("timeout 10 " SIMPRINTER_PROGRAM " " + one.arguments);
         EXPECT_EQ(result.exitCode, one.exitCode) << one.arguments;
         EXPECT_EQ(result.output.substr(0, one.output.size()), one.output) << one.arguments;
     }

@@ -1,4 +1,4 @@
-// The hard-disk badge, pixel by pixel: '#' outlines and letters, '+' the disk's top, '-' its side.
+// Draws the hard-disk badge pixel by pixel: '#' outlines and letters, '+' the disk's top, '-' its side.
 #include "badge.h"
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include "render.h"
 
-// 39 x 17 pixels in four colours: drawn out when the disk is installed, greyed otherwise.
+// 39 x 17 pixels in four colours: normal when the disk is installed, greyed otherwise.
 Picture DrawBadge(bool isInstalled);
 
 #endif

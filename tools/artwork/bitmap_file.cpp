@@ -1,5 +1,4 @@
-// Bitmap files: see the header. Numbers are little-endian, rows run from the bottom and are padded to 4
-// bytes.
+// Encodes bitmap files. Numbers are little-endian; rows start at the bottom and are padded to 4 bytes.
 #include "bitmap_file.h"
 
 #include "common/generated_files.h"
@@ -23,7 +22,7 @@ void PutColor(std::string& file, const Rgb& color) {
 // One row without padding.
 std::string Row(const Picture& picture, int y, int bitsPerPixel, const std::vector<Rgb>& table) {
     std::string row;
-    int pending = 0; // upper half of an byte that holds two pixels
+    int pending = 0; // upper half of a byte with two pixels
     for (int x = 0; x < picture.width; ++x) {
         const Rgb& pixel = picture.At(x, y);
         if (bitsPerPixel == 24) {
@@ -52,8 +51,8 @@ std::vector<Rgb> ColorsOf(const Picture& picture) {
 std::string BitmapFile(const Picture& picture, int bitsPerPixel, size_t tableSize) {
     const std::vector<Rgb> table = tableSize == 0 ? std::vector<Rgb>() : ColorsOf(picture);
     if (table.size() > tableSize)
-        throw std::runtime_error("a picture has " + std::to_string(table.size()) + " colours, "
-                                 + std::to_string(tableSize) + " are possible");
+        throw std::runtime_error("a picture has " + std::to_string(table.size())
+                                 + " colours, but the table has only " + std::to_string(tableSize));
     std::string pixels;
     for (int y = picture.height - 1; y >= 0; --y) {
         pixels += Row(picture, y, bitsPerPixel, table);

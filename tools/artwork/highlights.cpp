@@ -1,5 +1,5 @@
-// Highlights: see the header. One row per sheet or stack of paper; rows of one id make one highlight. Figures
-// are pixels of the common frame.
+// Draws the highlights. One row per sheet or stack of paper; rows with the same id make up one highlight.
+// Units are pixels of the common frame.
 #include "highlights.h"
 
 #include "solids.h"
@@ -9,11 +9,11 @@ namespace {
 const Paint kSheet = Across({255, 158, 48}, {246, 120, 22});
 const Paint kStackFront = Down({240, 112, 20}, {222, 92, 14});
 constexpr Outline kEdge = {{255, 218, 168}, 1.3};
-constexpr double kSheetsDrawn = 3.6; // from one drawn sheet of a high stack to the next
+constexpr double kSheetsDrawn = 3.6; // distance of the sheets drawn in a high stack
 
 constexpr double kAnywhere = 1000;
 
-// Paper from its left to its right end, at depths `z`; of a stack one sees the front, too.
+// Paper from its left to its right end, at depths `z`. The front of a stack is visible too.
 struct Paper {
     int id;
     const char* name;
@@ -21,7 +21,7 @@ struct Paper {
     Point right;
     Span z;
     double height; // of a stack
-    Span visible;  // what lies left or right of it is hidden
+    Span visible;  // the rest is hidden
 };
 
 constexpr Span kInside = {0, kDepth};

@@ -1,4 +1,4 @@
-// The paper's way in and out of the printer, as highlights upon its picture.
+// Highlights of the paper trays on the printer's picture.
 #ifndef ARTWORK_HIGHLIGHTS_H
 #define ARTWORK_HIGHLIGHTS_H
 
@@ -7,10 +7,10 @@
 #include <string>
 
 struct Highlight {
-    int id; // of the colour image; its mask has the next one
+    int id; // of the colour image; the mask has the next one
     std::string name;
-    Picture image; // black where nothing lies
-    Picture mask;  // black where something lies, white elsewhere
+    Picture image; // black elsewhere
+    Picture mask;  // black for the highlight, white elsewhere
 };
 
 std::vector<Highlight> DrawHighlights(int width, int height);

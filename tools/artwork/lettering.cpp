@@ -1,6 +1,5 @@
-// Lettering: see the header. A letter stands on a grid in which capitals are 10 high, y downward. Its path is
-// made of steps: M moves to a point, L draws a line, H and V a quarter of an ellipse that sets out
-// horizontally or vertically.
+// Draws the letters. Each is a path on a grid where capitals are 10 high, y downward: M moves to a point, L
+// draws a line, H and V draw a quarter of an ellipse that starts horizontally or vertically.
 #include "lettering.h"
 
 #include <sstream>
@@ -40,17 +39,17 @@ const Letter& FindLetter(char character) {
     for (const Letter& letter : kLetters)
         if (letter.character == character)
             return letter;
-    throw std::runtime_error(std::string("the letter '") + character + "' has not been drawn");
+    throw std::runtime_error(std::string("the letter '") + character + "' is not defined");
 }
 
 constexpr int kArcSteps = 12;
 
-// A quarter of an ellipse; `first` of its two axes is the one along which it sets out.
+// A quarter of an ellipse; `first` is the axis along which it starts.
 void AddArc(std::vector<Point>& points, Point to, bool isHorizontalFirst) {
     const Point from = points.back();
     for (int i = 1; i <= kArcSteps; ++i) {
         const double t = static_cast<double>(i) / kArcSteps;
-        const double sine = 2 * t / (1 + t * t); // of an angle that runs to 90 degrees
+        const double sine = 2 * t / (1 + t * t); // of an angle from 0 to 90 degrees
         const double rest = 1 - (1 - t * t) / (1 + t * t);
         points.push_back({from.x + (to.x - from.x) * (isHorizontalFirst ? sine : rest),
                           from.y + (to.y - from.y) * (isHorizontalFirst ? rest : sine)});

@@ -1,4 +1,4 @@
-// Lettering of the logo: letters drawn as strokes with round ends.
+// Lettering of the logo: letters are strokes with round ends.
 #ifndef ARTWORK_LETTERING_H
 #define ARTWORK_LETTERING_H
 
@@ -13,8 +13,8 @@ struct TextStyle {
     Paint paint;
 };
 
-// Adds a line of text; `at` is where its first capital's upper left corner lies. Throws std::runtime_error
-// for a letter that has not been drawn.
+// Adds a line of text; `at` is the upper left corner of its first capital. Throws std::runtime_error for a
+// letter that is not defined.
 void AddText(Scene& scene, const std::string& text, Point at, const TextStyle& style);
 
 #endif

@@ -1,4 +1,4 @@
-// The logo picture: see the header.
+// Draws the logo picture.
 #include "logo.h"
 
 #include "lettering.h"
@@ -12,7 +12,7 @@ constexpr double kPrinterScale = 0.57;
 constexpr Point kPrinterShift = {44, 20};
 constexpr Color kWhiteInk = {255, 255, 255};
 
-// The night that the light shines in.
+// The dark background.
 Scene Background() {
     constexpr double kFloor = 104;
     constexpr Point kLight = {109, 78};

@@ -4,7 +4,7 @@
 
 #include "render.h"
 
-// 176 x 120 pixels: the printer before a light, with the maker's and the product's name.
+// 176 x 120 pixels: the printer in front of a light, with the maker's and the product's name.
 Picture DrawLogo();
 
 #endif

@@ -1,4 +1,4 @@
-// The printer and its units: see the header. Figures are pixels of the common frame of 200 x 200.
+// Draws the printer and its units. Units of length are pixels of the common frame of 200 x 200.
 #include "machine.h"
 
 #include "solids.h"
@@ -17,19 +17,19 @@ constexpr Color kGroove = {128, 137, 150};
 constexpr Color kDark = {58, 66, 78};
 constexpr Color kAccent = {0, 134, 178};
 
-// Light plastic of the housings.
+// Light plastic: housings.
 const Material kShell = {Down({248, 249, 251}, {219, 224, 231}), Across({178, 186, 197}, {204, 210, 218}),
                          Down({240, 243, 246}, {251, 252, 253}), kShellEdge};
 
-// Dark plastic of feet and frames.
+// Dark plastic: feet and frames.
 const Material kTrim = {Down({88, 97, 111}, {62, 70, 82}), Flat({52, 59, 70}), Flat({122, 131, 145}), kDark};
 
-// Plates on which paper comes to lie.
+// Plates that carry paper.
 const Material kTray = {Flat({96, 105, 119}), Flat({80, 88, 101}), Across({168, 176, 187}, {138, 146, 158}),
                         kDark};
 
-// What stands in the output bay. Its pixels and those of the bay are combined by AND: its shades keep to bits
-// that the bay's colours have too, and so come out as they are.
+// Units in the output bay. Their pixels are combined with the bay's by AND, so their shades use only bits
+// that the bay's colours have as well.
 const Material kBayUnit = {
     Down({207, 207, 207}, {196, 196, 196}), Flat({192, 192, 192}), Flat({206, 206, 206}), {140, 140, 140}};
 const Material kBayTray = {
@@ -49,7 +49,7 @@ void AddHandle(Scene& scene, Span x, double y, double z = 0) {
     scene.Panel(FrontPlane(z), {x.from, y - 1.1, x.to, y + 1.1}, Down(kDark, {110, 119, 132}), 1.1);
 }
 
-// A door, set off from the front around it.
+// A door, outlined on the front.
 void AddDoor(Scene& scene, const Area& area) {
     scene.Panel(FrontPlane(0), area, Tint(kGroove, 0.4), 1.7);
     scene.Panel(FrontPlane(0), {area.left + 0.7, area.top + 0.7, area.right - 0.7, area.bottom - 0.7},
@@ -65,7 +65,7 @@ void AddGlow(Scene& scene, Span x, double y) {
 
 constexpr Span kBodyX = {96, 146};
 constexpr Span kBay = {72, 88};
-constexpr double kBayRight = 137; // the column right of it carries the paper up
+constexpr double kBayRight = 137; // the paper path to the top is right of it
 
 void AddLowerBody(Scene& scene) {
     AddSolid(scene, {kBodyX, {kBay.to, kCabinetTop}, kAllDepth}, kShell);
@@ -82,7 +82,7 @@ void AddLowerBody(Scene& scene) {
     }
 }
 
-// Open at the left: one sees through beside the rear wall.
+// Open at the left, so that the background shows next to the rear wall.
 void AddBay(Scene& scene) {
     scene.Panel(FrontPlane(kDepth), {kBodyX.from, kBay.from, kBodyX.to, kBay.to}, Flat(kBayWall));
     scene.Panel(TopPlane(kBay.to), {kBodyX.from, 0, kBayRight, kDepth}, Flat(kBayFloor));
@@ -130,18 +130,18 @@ void AddCabinet(Scene& scene) {
 
 constexpr Span kTower = {80, 96};
 
-// A tray at the left of a wall: `right` is where its front edge meets the wall.
+// A tray left of a wall; its front edge meets the wall at `right`.
 void AddTray(Scene& scene, Point left, Point right) {
     AddPlate(scene, {left, right, kAllDepth, 2}, kTray);
 }
 
-// What carries the paper from the body's bay into a unit at its left.
+// The paper path from the body's bay into the unit left of it.
 void AddRelay(Scene& scene) {
     AddSolid(scene, {{86, 132}, {76, 87}, {0, 4}}, kBayUnit);
     scene.Panel(FrontPlane(0), {104, 80, 124, 81.5}, Flat({74, 74, 74}), 0.7);
 }
 
-// A box upon the tower with four bins; the higher ones slope more.
+// A box with four bins on top of the tower; the higher bins slope more.
 void AddMailbin(Scene& scene) {
     AddTray(scene, {53, 68.8}, {71, 70});
     AddTray(scene, {53, 63.1}, {71, 65});
@@ -151,7 +151,7 @@ void AddMailbin(Scene& scene) {
     AddDoor(scene, {74, 54, 93, 69});
 }
 
-// Base of the finisher; with the saddle kit a higher one, which folds booklets onto a tray of its own.
+// The finisher's base. With the saddle kit it is higher and has a booklet tray.
 void AddFinisherBase(Scene& scene, bool hasSaddle) {
     if (hasSaddle)
         AddTray(scene, {43, 152}, {58, 147});
@@ -215,7 +215,7 @@ Unit JobSeparator() {
 Unit OutputRack() {
     Unit unit;
     Scene& scene = unit.behind;
-    // a stand with three shelves
+    // a rack with three shelves
     for (const double z : {kDepth - 1.5, 0.0}) {
         if (z == 0)
             for (const double y : {152.0, 128.0, 104.0})

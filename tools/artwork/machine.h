@@ -1,17 +1,17 @@
-// The printer and its units, seen from the right front: what stands where, and how it looks.
+// The printer and its units, seen from the front right.
 #ifndef ARTWORK_MACHINE_H
 #define ARTWORK_MACHINE_H
 
 #include "shapes.h"
 
-// First row below the body: from here on the pixels belong to the paper feed cabinet.
+// First row below the body; from here on the pixels belong to the paper feed cabinet.
 constexpr int kCabinetTop = 138;
 
 // Body and cabinet, which are always drawn together.
 Scene Base();
 
-// One unit that can be added. Left of the body it stands behind it, as seen from the right; what reaches into
-// the body's output bay, and what stands at its right, lies before it.
+// An optional unit. Seen from the right, a unit left of the body is behind it; a unit right of it, and parts
+// in the body's output bay, are in front.
 struct Unit {
     Scene behind;
     Scene before;

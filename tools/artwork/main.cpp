@@ -1,6 +1,6 @@
 // artwork: draws every bitmap of the module's resources. `artwork FOLDER` writes the files that have changed;
-// `artwork --check FOLDER` only tells whether the files are what it draws. Exit codes: 0; 1 when files differ
-// or can't be written; 2 for a wrong command line.
+// `artwork --check FOLDER` only checks that the files are up to date. Exit codes: 0; 1 when files differ or
+// can't be written; 2 for wrong usage.
 #include "badge.h"
 #include "bitmap_file.h"
 #include "common/generated_files.h"
@@ -46,8 +46,10 @@ int main(int argc, char** argv) {
         CLI::App app("Draws the bitmaps of the module's resources", "artwork");
         std::string folder;
         bool isCheck = false;
-        app.add_option("FOLDER", folder, "Where the bitmaps lie")->required()->check(CLI::ExistingDirectory);
-        app.add_flag("--check", isCheck, "Writes nothing, and fails when a bitmap differs");
+        app.add_option("FOLDER", folder, "The folder of the bitmaps")
+            ->required()
+            ->check(CLI::ExistingDirectory);
+        app.add_flag("--check", isCheck, "Write nothing; fail when a bitmap differs");
         try {
             app.parse(argc, argv);
         } catch (const CLI::ParseError& error) {

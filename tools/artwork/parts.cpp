@@ -1,4 +1,4 @@
-// The parts as bitmaps: see the header.
+// Renders the parts as bitmaps.
 #include "parts.h"
 
 #include "bitmap_file.h"
@@ -10,7 +10,7 @@
 namespace {
 
 constexpr Color kBlankPaper = {255, 255, 255};
-constexpr double kOwned = 0.5; // coverage from which a pixel where two parts meet is the body's
+constexpr double kOwned = 0.5; // coverage from which a pixel shared by two parts belongs to the body
 
 struct UnitRow {
     int id;
@@ -37,7 +37,7 @@ struct RenderedUnit {
     Raster<Sample> before;
 };
 
-// The value nearest to `wanted` that has no bit which `below` lacks: AND with `below` leaves it as it is.
+// The value nearest to `wanted` that only has bits of `below`, so that AND with `below` leaves it unchanged.
 uint8_t NearestWithin(uint8_t wanted, uint8_t below) {
     uint8_t best = 0;
     for (int value = 0; value <= 255; ++value)
@@ -55,8 +55,7 @@ Color ToColor(const Rgb& pixel) {
     return {static_cast<double>(pixel.r), static_cast<double>(pixel.g), static_cast<double>(pixel.b)};
 }
 
-// Body and cabinet in one. Free edges blend into the background; where a unit can stand behind, the body's
-// edge is sharp.
+// Body and cabinet in one. Edges blend into the background, except where a unit can be behind the body.
 Picture BasePicture(const Raster<Sample>& base, const std::vector<RenderedUnit>& units) {
     Picture picture(base.width, base.height, kWhite);
     for (size_t i = 0; i < picture.pixels.size(); ++i) {
@@ -69,7 +68,7 @@ Picture BasePicture(const Raster<Sample>& base, const std::vector<RenderedUnit>&
     return picture;
 }
 
-// A unit in its own colours, where the body does not hide it.
+// A unit in its own colours where the body does not cover it.
 Picture WantedUnit(const RenderedUnit& unit, const Raster<Sample>& base, const Picture& basePicture) {
     Picture picture(base.width, base.height, kWhite);
     for (size_t i = 0; i < picture.pixels.size(); ++i) {
@@ -83,11 +82,11 @@ Picture WantedUnit(const RenderedUnit& unit, const Raster<Sample>& base, const P
     return picture;
 }
 
-// The same in colours that AND with the base leaves as they are.
+// The same in colours that AND with the base leaves unchanged.
 Picture UnitPicture(const RenderedUnit& unit, const Raster<Sample>& base, const Picture& basePicture,
                     size_t mostColors) {
     const Picture wanted = WantedUnit(unit, base, basePicture);
-    for (size_t colors = mostColors;; --colors) { // the base's bits can make some more
+    for (size_t colors = mostColors;; --colors) { // matching the base's bits can add colours
         Picture picture = Reduce(wanted, colors);
         for (size_t i = 0; i < picture.pixels.size(); ++i)
             if (kWhite < wanted.pixels[i] || wanted.pixels[i] < kWhite)
@@ -97,7 +96,7 @@ Picture UnitPicture(const RenderedUnit& unit, const Raster<Sample>& base, const 
     }
 }
 
-// The rows of a picture between two, on white.
+// The rows of a picture in a range, the rest white.
 Picture Rows(const Picture& picture, int from, int to) {
     Picture rows(picture.width, picture.height, kWhite);
     for (int y = from; y < to; ++y)

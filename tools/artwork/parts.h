@@ -12,9 +12,9 @@ struct Part {
     Picture picture; // on white
 };
 
-// Body, cabinet and all units. Each pixel of the printer belongs to one part alone, so that nothing darkens
-// where parts meet. Where a unit lies before the body, both have it: the unit's colour is one that AND leaves
-// as it is.
+// Body, cabinet and all units. Each pixel of the printer belongs to one part, so that nothing darkens where
+// parts meet. Where a unit covers the body both have the pixel; the unit's colour is then one that AND leaves
+// unchanged.
 std::vector<Part> DrawParts(int width, int height, size_t mostColors);
 
 #endif

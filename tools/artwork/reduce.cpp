@@ -1,5 +1,5 @@
-// Fewer colours: see the header. Of several equals always the first is taken, so that the choice is the same
-// everywhere.
+// Reduces the colours of a picture. Ties go to the first colour, so that the result is the same on every
+// machine.
 #include "reduce.h"
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 
 namespace {
 
-using Counts = std::map<Rgb, size_t>; // pixels of each colour but white
+using Counts = std::map<Rgb, size_t>; // pixels of each colour except white
 
 int Distance(const Rgb& a, const Rgb& b) {
     const int r = a.r - b.r;
@@ -16,7 +16,7 @@ int Distance(const Rgb& a, const Rgb& b) {
     return r * r + g * g + blue * blue;
 }
 
-// The colour whose pixels change least when they take another one, and that other one.
+// The colour that is cheapest to replace, and its replacement.
 struct Merge {
     Rgb from;
     Rgb to;

@@ -4,7 +4,7 @@
 
 #include "render.h"
 
-// The picture with at most so many colours: the rarest become the ones nearest to them. White stays, and
+// The picture with at most this many colours: the rarest are replaced by the nearest ones. White is kept, and
 // nothing becomes white.
 Picture Reduce(const Picture& picture, size_t mostColors);
 

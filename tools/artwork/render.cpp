@@ -1,4 +1,4 @@
-// Rendering by supersampling: see the header.
+// Renders scenes by supersampling.
 #include "render.h"
 
 #include <algorithm>

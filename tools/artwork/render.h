@@ -1,4 +1,4 @@
-// Scenes turned into pixels.
+// Renders scenes into pixels.
 #ifndef ARTWORK_RENDER_H
 #define ARTWORK_RENDER_H
 
@@ -36,8 +36,7 @@ struct Raster {
 
 using Picture = Raster<Rgb>;
 
-// What a scene leaves in a pixel: how much of it is covered (0 to 1), and the mean colour of the covered
-// part.
+// A pixel of a rendered scene: its coverage (0 to 1) and the mean colour of the covered part.
 struct Sample {
     Color color;
     double coverage;
@@ -46,7 +45,7 @@ struct Sample {
 // Renders a scene, enlarged by `scale` and then shifted.
 Raster<Sample> Render(const Scene& scene, int width, int height, double scale = 1, Point shift = {0, 0});
 
-// A sample over a colour below.
+// A sample composited over a colour.
 Color Over(const Sample& sample, const Color& below);
 
 Rgb Round(const Color& color);

@@ -1,12 +1,12 @@
-// Shapes: see the header. Only additions, multiplications and divisions, so that every machine computes the
-// same.
+// Shapes and their colours. Uses only addition, multiplication and division, so that the result is the same
+// on every machine.
 #include "shapes.h"
 
 #include <algorithm>
 
 namespace {
 
-// Position in the coordinates of a plane.
+// A point in the coordinates of a plane.
 Point ToPlane(const Plane& plane, Point at) {
     const double x = at.x - plane.origin.x;
     const double y = at.y - plane.origin.y;

@@ -1,5 +1,5 @@
-// What pictures are made of: panels, polygons and strokes with a paint, in the order of painting. Coordinates
-// are pixels of the picture, y downward; a pixel covers [x, x + 1) x [y, y + 1).
+// Scenes: panels, polygons and strokes with a paint, in the order of painting. Coordinates are pixels of the
+// picture, y downward; a pixel covers [x, x + 1) x [y, y + 1).
 #ifndef ARTWORK_SHAPES_H
 #define ARTWORK_SHAPES_H
 
@@ -19,8 +19,8 @@ struct Color {
 
 Color Mix(const Color& a, const Color& b, double shareOfB);
 
-// A gradient from one colour to another, over the height or the width of what is painted. Below an opacity
-// of 1 it only tints what lies below, and paints nothing where there is nothing.
+// A gradient from one colour to another, over the height or the width of the painted area. With an opacity
+// below 1 it only tints what is below it, and leaves uncovered pixels alone.
 struct Paint {
     Color from;
     Color to;
@@ -33,7 +33,7 @@ Paint Down(const Color& top, const Color& bottom);
 Paint Across(const Color& left, const Color& right);
 Paint Tint(const Color& color, double opacity);
 
-// A flat face in space as it appears in the picture: u runs along `right`, v along `down`.
+// A flat face as projected into the picture: u runs along `right`, v along `down`.
 struct Plane {
     Point origin;
     Point right;
@@ -53,17 +53,17 @@ struct Shape {
     ShapeKind kind;
     Paint paint;
     Plane plane;   // of a panel
-    Area area;     // that its gradient spans: of a panel in its plane, otherwise around the points
-    double radius; // of a panel's corners; half a stroke's width
+    Area area;     // spanned by the gradient: of a panel in its plane, otherwise around the points
+    double radius; // of a panel's corners, or half a stroke's width
     std::vector<Point> points; // of a polygon or a stroke
-    Area bounds;               // what lies outside is not the shape's
+    Area bounds;               // nothing of the shape is outside
 };
 
-// Colour of the shape at a point of the picture; false where the shape is not.
+// The shape's colour at a point of the picture; false outside the shape.
 bool ColorAt(const Shape& shape, Point at, Color& color);
 
 struct Scene {
-    std::vector<Shape> shapes; // later ones lie over earlier ones
+    std::vector<Shape> shapes; // later ones cover earlier ones
 
     void Panel(const Plane& plane, const Area& area, const Paint& paint, double radius = 0);
     void Polygon(const std::vector<Point>& points, const Paint& paint);

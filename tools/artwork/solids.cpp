@@ -1,4 +1,4 @@
-// Solid bodies in the printer's view: see the header.
+// Draws solid bodies in the printer's projection.
 #include "solids.h"
 
 Plane FrontPlane(double z) {

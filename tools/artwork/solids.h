@@ -1,5 +1,5 @@
-// Solid bodies in the printer's view: a parallel projection from the right front, in which depth goes up and
-// to the right at 45 degrees. x and y are pixels as they appear at depth 0, z is depth in the same pixels.
+// Solid bodies in a parallel projection from the front right, with depth going up and right at 45 degrees. x
+// and y are pixels at depth 0; z is depth in the same unit.
 #ifndef ARTWORK_SOLIDS_H
 #define ARTWORK_SOLIDS_H
 
@@ -7,12 +7,12 @@
 
 constexpr double kDepth = 9; // of the printer
 
-// Where a point of the space appears.
+// The projection of a point.
 constexpr Point At(double x, double y, double z) {
     return {x + z, y - z};
 }
 
-// Faces: panels on them are given by x and y (front), z and y (right side), x and z (top).
+// Faces; panels on them are given in x and y (front), z and y (right side), x and z (top).
 Plane FrontPlane(double z);
 Plane SidePlane(double x);
 Plane TopPlane(double y);
@@ -22,7 +22,7 @@ struct Outline {
     double width;
 };
 
-// A panel within its outline.
+// A panel with an outline.
 void AddFace(Scene& scene, const Plane& plane, const Area& area, const Paint& paint, const Outline& edge);
 
 struct Span {
@@ -43,11 +43,11 @@ struct Material {
     Color edge; // of the faces' outlines
 };
 
-// The three faces that one sees of it, outlined.
+// The three visible faces, outlined.
 void AddSolid(Scene& scene, const Solid& solid, const Material& material);
 
-// A level or sloping sheet or plate: front edge from `left` to `right` at depth z.from, with the thickness of
-// its front edge.
+// A level or sloping sheet or plate: its front edge runs from `left` to `right` at depth z.from and has a
+// thickness.
 struct Plate {
     Point left;
     Point right;

@@ -1,6 +1,6 @@
 // ui_icons: draws the icons of the user-interface module. `ui_icons FOLDER` writes the files that have
-// changed, `ui_icons --check FOLDER` tells whether the files are what it draws. Exit codes: 0; 1 when files
-// differ or can't be written; 2 for a wrong command line.
+// changed, `ui_icons --check FOLDER` only checks that the files are up to date. Exit codes: 0; 1 when
+// files differ or can't be written; 2 for wrong usage.
 #include "common/generated_files.h"
 
 #include <cstdint>
@@ -11,7 +11,7 @@ namespace {
 
 constexpr int kSize = 16;
 
-// '#' outlines, '+' paper, '-' the corner that is folded over, '=' writing; the rest is transparent.
+// '#' outlines, '+' paper, '-' the folded corner, '=' writing; the rest is transparent.
 struct Icon {
     const char* file;
     const char* rows[kSize];
@@ -75,8 +75,8 @@ uint32_t ColorOf(char mark) {
     return 0;
 }
 
-// One image of an icon file: a header for colours and mask together, the colours, the mask, both from the
-// bottom row. Each mark is `scale` pixels wide and high.
+// One image of an icon file: the header, the colours and the mask, both from the bottom row. Each mark is
+// `scale` pixels wide and high.
 std::string Image(const Icon& icon, int scale) {
     const int size = kSize * scale;
     const auto mark = [&](int x, int y) { return icon.rows[y / scale][x / scale]; };
@@ -85,7 +85,7 @@ std::string Image(const Icon& icon, int scale) {
     for (int y = size - 1; y >= 0; --y) {
         for (int x = 0; x < size; ++x)
             PutNumber(colors, ColorOf(mark(x, y)), 4);
-        uint32_t row = 0; // a bit for each transparent pixel, the leftmost one highest; at most 32
+        uint32_t row = 0; // a bit for each transparent pixel, the leftmost highest; at most 32
         for (int x = 0; x < size; ++x)
             row |= ColorOf(mark(x, y)) == 0 ? 0x80000000U >> x : 0U;
         for (int shift = 24; shift >= 0; shift -= 8)
@@ -104,7 +104,7 @@ std::string Image(const Icon& icon, int scale) {
     return image + colors + mask;
 }
 
-// The double size is for programs that load an icon in the system's standard size and let it shrink.
+// The double size is for programs that load an icon at the system's standard size and scale it down.
 std::string IconFile(const Icon& icon) {
     constexpr int kScales[] = {1, 2};
     constexpr size_t kCount = sizeof(kScales) / sizeof(kScales[0]);

@@ -1,4 +1,4 @@
-// Item keys of the colour settings and the values that they stand for. The module's tables and the compiler
+// Item keys of the colour settings and their values. The module's tables and the compiler
 // of parameter data files both take them from here.
 #ifndef PARAMDATA_COLOR_KEYS_H
 #define PARAMDATA_COLOR_KEYS_H
