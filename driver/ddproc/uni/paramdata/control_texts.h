@@ -7,8 +7,8 @@
 
 struct PrmFile;
 
-// Filled from the entries "Property_0", "Dlg_ColorSetting" and "Dlg_PaperSourceTraySetting". Each ends at an
-// empty key.
+// The records of the rows in control_text_keys.h and an end record. Filled from the entries "Property_0",
+// "Dlg_ColorSetting" and "Dlg_PaperSourceTraySetting".
 extern ControlTextRecord (&propertyTexts)[17];
 extern ControlTextRecord (&colorDialogTexts)[31];
 extern ControlTextRecord (&trayDialogTexts)[16];

@@ -5,6 +5,7 @@
 
 #include "base/rows.h"
 
+// The module stores a word's position, counted from 0 (truth, figure type) or 1 (unit, encryption).
 inline constexpr const char* kTruthWords[] = {"FALSE", "TRUE"};
 inline constexpr const char* kPrintRateUnits[] = {"PPM", "CPS", "LPM", "IPM"};
 inline constexpr const char* kEncryptions[] = {"AES", "OTHER"};
