@@ -1,4 +1,4 @@
-// Parameter data files of any number of items: see the header. Each item is followed by its texts, each
+// Builds parameter data files of any number of items. Each item is followed by its texts, each
 // entry's items by their offsets and the entry itself.
 #include "synthetic_file.h"
 

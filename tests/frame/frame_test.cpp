@@ -1,4 +1,4 @@
-// Host only: the module's entry point and its handles.
+// Host only: DllMain and the process-wide handles.
 #include "base/module_handles.h"
 #include "frame/entry.h"
 #include "win32_control.h"
@@ -10,12 +10,12 @@ namespace {
 
 const auto kInstance = reinterpret_cast<HINSTANCE>(uintptr_t{0x10000});
 
-TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
+TEST(Frame, ResourceModuleIsLoadedFromTheModulesFolder) {
     const struct {
         const wchar_t *module, *sibling;
         bool loads;
     } cases[] = {
-        // the library is found beside the module, never elsewhere, never by its bare name
+        // only the library in the module's folder is loaded, never one by its bare name
         {L"C:\\driver\\TELMAR_D.DLL", L"C:\\driver\\TELMAR_S.DLL", true},
         {L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_D.DLL", L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_S.DLL", true},
         {L"\\\\server\\x64\\3\\TELMAR_D.DLL", L"\\\\server\\x64\\3\\TELMAR_S.DLL", true},
@@ -46,8 +46,8 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesOwnFolder) {
     }
 }
 
-TEST(Frame, NeverLoadsASiblingFromACutPath) {
-    // The path ends in the midst of a folder's name: its parent holds another TELMAR_S.DLL.
+TEST(Frame, CutModulePathLoadsNoSibling) {
+    // The path is cut within the name of a folder, whose parent has another TELMAR_S.DLL.
     std::vector<wchar_t> module(400, L'a');
     module[0] = module[100] = L'\\';
     module.back() = 0;
@@ -60,8 +60,8 @@ TEST(Frame, NeverLoadsASiblingFromACutPath) {
     EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
 }
 
-TEST(Frame, SiblingPathFitsOrIsRefused) {
-    // A folder of 247 characters leaves just the room that "TELMAR_S.DLL" and its end need.
+TEST(Frame, SiblingPathThatDoesNotFitIsRefused) {
+    // After a folder of 247 characters there is just room for "TELMAR_S.DLL" and its terminator.
     for (const size_t folder : {246u, 247u, 248u}) {
         std::vector<wchar_t> module(folder, L'a');
         module[0] = module[folder - 1] = L'\\';

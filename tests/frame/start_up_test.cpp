@@ -1,5 +1,5 @@
-// Host only: process attach and detach with a parameter data file beside the module: what is there in
-// between, what is released, and what a lack of memory leaves.
+// Host only: process attach and detach with a parameter data file: what exists in between, what is released,
+// what is built without memory.
 #include "base/module_handles.h"
 #include "frame/entry.h"
 #include "support/prm_image.h"
@@ -14,7 +14,7 @@ namespace {
 
 const auto kModule = reinterpret_cast<HINSTANCE>(uintptr_t{0x10000});
 
-// The module lies in a folder of its own, with the resource module beside it.
+// The module and the resource module are in a folder of their own.
 struct StartUpTest : ParameterDataTest {
     StartUpTest() {
         std::string name = testing::TempDir() + "module_XXXXXX";
@@ -35,9 +35,9 @@ struct StartUpTest : ParameterDataTest {
     static void Attach() {
         EXPECT_EQ(DllMain(kModule, DLL_PROCESS_ATTACH, nullptr), TRUE);
         EXPECT_NE(ResourceModule(), nullptr);
-        EXPECT_EQ(win32::Count().files, 0) << "the parameter data file is closed again";
+        EXPECT_EQ(win32::Count().files, 0) << "the parameter data file is closed";
     }
-    // As often as one likes: the second time there is nothing left to release.
+    // The second time there is nothing left to release.
     static void Detach(int times = 1) {
         for (int i = 0; i < times; ++i) {
             EXPECT_EQ(DllMain(kModule, DLL_PROCESS_DETACH, nullptr), TRUE);
@@ -51,7 +51,7 @@ struct StartUpTest : ParameterDataTest {
     fs::path folder;
 };
 
-// One entry for each of the builders, and for what depends on their order.
+// An entry for each builder, and for what depends on their order.
 PrmImage CompleteImage() {
     PrmImage image;
     const auto items = [&](const char* entry, const std::vector<PrmItemDescriptor>& plain,
@@ -76,7 +76,7 @@ PrmImage CompleteImage() {
 const RawBytes kWeights = ListRecord("Plain", 3, L"Plain paper")
                               .Append(ListRecord("MediaTypeList_Weight_Unknown", 0xFFFFFFFF, L"?"));
 
-TEST_F(StartUpTest, WithoutAFileEverythingStaysAsCompiledIn) {
+TEST_F(StartUpTest, WithoutAFileTablesStayAsCompiledIn) {
     Attach();
     EXPECT_EQ(deviceTable, nullptr);
     EXPECT_EQ(mediaTypeLists, nullptr);
@@ -87,7 +87,7 @@ TEST_F(StartUpTest, WithoutAFileEverythingStaysAsCompiledIn) {
     Detach();
 }
 
-TEST_F(StartUpTest, FilesThatSayLittle) {
+TEST_F(StartUpTest, EmptyAndPartialFilesBuildWhatTheyHave) {
     PrmImage partial;
     partial.Items<PrmTextItem>("Staple", {partial.WithText("A", L"", 1, "")});
     for (const std::vector<uint8_t>& bytes : {std::vector<uint8_t>(), PrmImage().bytes, partial.bytes}) {
@@ -106,16 +106,16 @@ TEST_F(StartUpTest, FilesThatSayLittle) {
     }
 }
 
-TEST_F(StartUpTest, EveryBuilderRunsInItsPlace) {
+TEST_F(StartUpTest, BuildersRunInOrder) {
     Store(CompleteImage().bytes);
     for (const int round : {1, 2}) {
         SCOPED_TRACE(round);
-        kept.Restore(); // as each load of the module finds them
+        kept.Restore(); // as at each load
         Attach();
         ASSERT_NE(deviceTable, nullptr);
         ASSERT_NE(mediaTypeLists, nullptr);
         EXPECT_EQ(Differences(mediaTypeLists->lists[kMediaWeight], kWeights), "");
-        RawBytes settings(sizeof(defaultSettings)); // from the tables as compiled in, the slots as updated
+        RawBytes settings(sizeof(defaultSettings)); // from the compiled-in tables and the updated slots
         memcpy(settings.bytes.data(), kept.settings.bytes, sizeof(defaultSettings));
         settings.U8(1395, 14).U8(1396, 1).U8(1478, 4).U8(1483, 4).U16(1480, 300).U16(2166, 5).U16(2516, 1);
         EXPECT_EQ(Differences(&defaultSettings, settings), "");
@@ -137,7 +137,7 @@ TEST_F(StartUpTest, EveryBuilderRunsInItsPlace) {
     }
 }
 
-TEST_F(StartUpTest, AttachWithoutMemory) {
+TEST_F(StartUpTest, AttachSucceedsWithoutMemory) {
     Store(CompleteImage().bytes);
     Attach();
     Detach();
@@ -153,7 +153,7 @@ TEST_F(StartUpTest, AttachWithoutMemory) {
             Attach();
             const bool built = n == 2 ? howMany == 1 : n > 3; // 1 the file, 2 its image, 3 the device table
             EXPECT_EQ(deviceTable != nullptr, built);
-            EXPECT_EQ(kept.Unchanged(), !built) << "nothing further is built";
+            EXPECT_EQ(kept.Unchanged(), !built) << "nothing else is built";
             EXPECT_TRUE(built || mediaTypeLists == nullptr);
             if (built && howMany == 1) {
                 withoutLists += mediaTypeLists == nullptr ? 1 : 0;
@@ -165,7 +165,7 @@ TEST_F(StartUpTest, AttachWithoutMemory) {
         }
     }
     EXPECT_EQ(withoutLists, 7u) << "the block and each of its lists";
-    EXPECT_EQ(withoutDestination, 1u) << "the list then stays as compiled in";
+    EXPECT_EQ(withoutDestination, 1u) << "the list stays as compiled in";
 }
 
 } // namespace

@@ -1,10 +1,10 @@
-// The built-in default settings: the compiled-in record, and each step that takes the file's defaults. The
-// record is looked at by raw offset, all 7808 bytes of it in every case.
+// The default settings: the compiled-in record, and each step that takes the defaults of the file. All 7808
+// bytes of the record are compared in every case, by raw offset.
 #include "support/prm_image.h"
 
 namespace {
 
-constexpr unsigned kFiller = 0x5A; // in every byte before the build, to tell a written 0 from none
+constexpr unsigned kFiller = 0x5A; // in every byte before the build, so that a written 0 shows
 
 struct Written {
     size_t position;
@@ -20,7 +20,7 @@ RawBytes Write(RawBytes record, const Writes& writes) {
     return record;
 }
 
-// The font substitution table and the byte before it, whatever was there; the byte at 5297 stays.
+// With the font substitution table and the byte before it. The byte at 5297 is unchanged.
 RawBytes WithFonts(RawBytes record) {
     const struct {
         const char *trueType, *printer;
@@ -54,7 +54,7 @@ RawBytes CompiledIn() {
     return WithFonts(Write(RawBytes(7808), fields));
 }
 
-// What follows from other settings when the file says nothing: binding edge, equal shifts, cover print.
+// Derived from other settings without anything in the file: binding edge, equal shifts, cover print.
 const Writes kDerived = {{1395, 1, 14}, {1396, 1, 1}, {1478, 1, 4}, {1483, 1, 4}};
 
 RawBytes Filled() {
@@ -62,7 +62,7 @@ RawBytes Filled() {
 }
 
 struct DefaultsTest : ParameterDataTest {
-    // Builds from the image over the settings as they are.
+    // Builds from the image, over the current settings.
     void Build(const PrmImage& image) {
         OpenedImage file(image);
         DeviceTable* table = BuildDeviceTable(*file);
@@ -71,7 +71,7 @@ struct DefaultsTest : ParameterDataTest {
         excelJobCtrl = NumberAt<uint32_t>(table, 630);
         FreeDeviceTable(table);
     }
-    // How the build from the image over filler differs from filler with these fields written.
+    // Builds from the image over filler; returns the differences from filler with these fields written.
     std::string Compare(const PrmImage& image, const Writes& writes) {
         return Compare(image, Write(Filled(), writes));
     }
@@ -85,12 +85,12 @@ struct DefaultsTest : ParameterDataTest {
     uint32_t excelJobCtrl = 0;
 };
 
-TEST_F(DefaultsTest, CompiledInAndAFileThatSaysNothing) {
+TEST_F(DefaultsTest, FileWithoutDefaultsLeavesTheCompiledInRecord) {
     EXPECT_EQ(Differences(&defaultSettings, CompiledIn()), "");
     Build(PrmImage());
     EXPECT_EQ(Differences(&defaultSettings, Write(CompiledIn(), kDerived)), "");
     EXPECT_EQ(excelJobCtrl, 1u);
-    EXPECT_EQ(Compare(PrmImage(), Writes()), "") << "the fonts are written always";
+    EXPECT_EQ(Compare(PrmImage(), Writes()), "") << "fonts are always written";
 }
 
 TEST_F(DefaultsTest, Papers) {
@@ -109,7 +109,7 @@ TEST_F(DefaultsTest, Papers) {
         PrmImage image;
         const RawBytes paper = RawBytes(620).U32(12, 77).U32(16, 0x10008).U32(24, 4200).U32(28, 2971);
         const RawBytes output = RawBytes(320).U32(12, 77).U32(24, 1111).U32(28, 2222);
-        if (c.paper) // flag 3 at 288 is 0: the margins count all the same
+        if (c.paper) // without its flag at 288; the margins count
             image.Entry("PaperSize", {}, 0,
                         image.Put(RawBytes(paper).U32(136, 1).U32(140, 2).U32(144, 3).U32(148, 0x10004)));
         if (c.outputPaper != 0)
@@ -187,7 +187,7 @@ TEST_F(DefaultsTest, Ranges) {
     }
 }
 
-// Colour keys are looked up in what is compiled in.
+// Colour keys are looked up in the compiled-in tables.
 TEST_F(DefaultsTest, DefaultKeys) {
     const struct {
         const char *entry, *key;
@@ -236,7 +236,7 @@ TEST_F(DefaultsTest, DefaultKeys) {
     }
 }
 
-TEST_F(DefaultsTest, RgbSourcesTakeTheNameThatTheTableHolds) {
+TEST_F(DefaultsTest, RgbSourceTakesTheDisplayNameOfItsTable) {
     const struct {
         const char *entry, *key;
         ItemRecord& item;
@@ -282,7 +282,7 @@ TEST_F(DefaultsTest, Locations) {
     }
 }
 
-// A watermark whose every field tells its number.
+// A watermark with its number in every field.
 RawBytes Watermark(PrmImage& image, const std::string& key, uint32_t i) {
     const auto text = [&](size_t length) {
         return image.Wide(Repeated(static_cast<wchar_t>(L'a' + i), length).data());
@@ -335,7 +335,7 @@ TEST_F(DefaultsTest, Resolutions) {
     const Writes second = {{2136, 1, 1}, {2138, 2, 21}, {2140, 2, 22}, {2142, 2, 23}};
     const struct {
         const char *second, *defaultKey;
-        int number; // behind the second key's fifth character; -1: nothing is written
+        int number; // after the fifth character of the second key; -1: nothing is written
     } cases[] = {
         {"Res2_1200x600", "res2_1200X600", 1200},
         {"600x1x42", "600x1x42", 42},
@@ -377,11 +377,11 @@ TEST_F(DefaultsTest, BindingEdgeAndCoverPrint) {
     }
 }
 
-TEST_F(DefaultsTest, PaperInEachTray) {
+TEST_F(DefaultsTest, EachTrayTakesTheDefaultPaper) {
     const struct {
         const char *what, *trays, *automatic, *slots;
     } cases[] = {
-        {"the automatic choice is no tray", "InTray1=257;Any=7;InTray2=258", "7", "InTray1=257;InTray2=258"},
+        {"automatic choice is no tray", "InTray1=257;Any=7;InTray2=258", "7", "InTray1=257;InTray2=258"},
         {"bin of the automatic choice from the file", "A=7;B=301;C=0;D=301", "301", "A=7;C=0"},
         {"ten slots", "Any=7;A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11;K=12", "7",
          "A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11"},

@@ -108,7 +108,7 @@ TEST_F(DeviceTableTest, MachineInformation) {
     EXPECT_EQ(Differences(NumberAt<void*>(machines, 28 + 20), RawBytes(32)), "");
 }
 
-TEST_F(DeviceTableTest, CountsThatTheFileCannotHoldCountAsMissing) {
+TEST_F(DeviceTableTest, EntryWithAnImpossibleCountCountsAsMissing) {
     for (const uint32_t count : {0xFFFFFFFFu, 0x80000000u, 0x10000000u}) {
         PrmImage image;
         const uint32_t switches = image.Table("FeatureSetting", "Staple=Enable");

@@ -1,6 +1,5 @@
-// Host only: what the reader and the whole build of the device table make of a system that refuses memory or
-// reads, and of a damaged file. The sanitizers watch every access; what is left behind is counted after each
-// test.
+// Host only: the reader and the build of the device table with failing allocations and reads, and with a
+// damaged file. The sanitizers check every access; leaks are counted after each test.
 #include "support/prm_image.h"
 #include "win32_control.h"
 
@@ -50,7 +49,7 @@ PrmImage CompleteImage() {
     return image;
 }
 
-// What the readers say at offsets all over the file and behind it.
+// The results of the readers at offsets throughout the file and beyond it.
 std::string Transcript(const PrmFile& file, uint32_t size) {
     std::ostringstream said;
     char value[128];
@@ -71,7 +70,7 @@ std::string Transcript(const PrmFile& file, uint32_t size) {
     return said.str();
 }
 
-TEST_F(FaultsTest, EveryRoadOfLoadingGivesTheSameResults) {
+TEST_F(FaultsTest, ResultsAreTheSameWithoutImageAndWithSmallReads) {
     const PrmImage image = CompleteImage();
     const std::string expected = Transcript(*OpenedImage(image), image.Size());
     const struct {
@@ -79,7 +78,7 @@ TEST_F(FaultsTest, EveryRoadOfLoadingGivesTheSameResults) {
         unsigned failingAllocation;
         win32::FileFaults faults; // failing read, most bytes per read, size query fails
         bool hasImage;
-    } roads[] = {
+    } ways[] = {
         {"size query fails", 0, {0, 0, true}, false},
         {"no memory for the image", 2, {}, false},
         {"first read fails", 0, {1}, false},
@@ -87,13 +86,13 @@ TEST_F(FaultsTest, EveryRoadOfLoadingGivesTheSameResults) {
         {"small reads", 0, {0, 7}, true},
         {"small reads without image", 2, {0, 3}, false},
     };
-    for (const auto& road : roads) {
-        win32::FailAllocations(road.failingAllocation);
-        win32::SetFileFaults(road.faults);
+    for (const auto& way : ways) {
+        win32::FailAllocations(way.failingAllocation);
+        win32::SetFileFaults(way.faults);
         OpenedImage file(image);
-        ASSERT_NE(file.file, nullptr) << road.what;
-        EXPECT_EQ(file.file->image != nullptr, road.hasImage) << road.what;
-        EXPECT_EQ(Transcript(*file, image.Size()), expected) << road.what;
+        ASSERT_NE(file.file, nullptr) << way.what;
+        EXPECT_EQ(file.file->image != nullptr, way.hasImage) << way.what;
+        EXPECT_EQ(Transcript(*file, image.Size()), expected) << way.what;
         win32::SetFileFaults({});
     }
     win32::FailAllocations(1);
@@ -131,7 +130,7 @@ std::set<size_t> MissingLists(const DeviceTable* table) {
     return missing;
 }
 
-TEST_F(FaultsTest, AnAllocationThatFailsCostsItsListOnly) {
+TEST_F(FaultsTest, FailedAllocationLosesOnlyItsList) {
     const PrmImage image = CompleteImage();
     EXPECT_EQ(MissingLists(BuiltTable(image).table), std::set<size_t>());
     const unsigned allocations = win32::Count().allocations;
@@ -161,9 +160,9 @@ TEST_F(FaultsTest, AnAllocationThatFailsCostsItsListOnly) {
     FreeDeviceTable(table);
 }
 
-// A small file that claims much: every item of every list is the same record. No more memory may be asked for
-// than a small multiple of the file.
-TEST_F(FaultsTest, ManyItemsOfOneRecord) {
+// A small file that announces much: every item of every list is the same record. Allocations stay within a
+// small multiple of the file.
+TEST_F(FaultsTest, AllocationsStayInProportionToTheFile) {
     PrmImage image;
     const uint32_t key = image.Text("Key");
     const std::vector<uint32_t> items(5000, image.Put(RawBytes(620).U32(0, key).U32(24, 1)));

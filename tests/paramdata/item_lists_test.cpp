@@ -1,4 +1,4 @@
-// Item lists: every kind of list record, byte by byte with its terminator, built from hand-laid file records.
+// Item lists: every kind of list record, byte by byte with its terminator, from file records built by hand.
 #include "support/prm_image.h"
 
 namespace {
@@ -7,7 +7,7 @@ struct ItemListsTest : ParameterDataTest {};
 
 const std::string kLongKey(40, 'k'), kCutKey(31, 'k'), kFullText(128, 't'), kCutText(127, 't');
 
-// A text of more characters than any display field holds, and what the fields of 32 and 48 keep of it.
+// A text longer than any display field, and what fields of 32 and 48 characters keep of it.
 constexpr wchar_t kLongDisplay[] = L"\u00C4123456789_123456789_123456789_123456789_123456789_123456789";
 constexpr wchar_t kCut32[] = L"\u00C4123456789_123456789_123456789_";
 constexpr wchar_t kCut48[] = L"\u00C4123456789_123456789_123456789_123456789_123456";
@@ -52,7 +52,7 @@ TEST_F(ItemListsTest, ListsOfItemsWithText) {
     }
 }
 
-TEST_F(ItemListsTest, NoItemsAndItemsBehindTheFile) {
+TEST_F(ItemListsTest, ItemsBeyondTheFileAreEmpty) {
     PrmImage image;
     image.Entry("Staple");
     image.Entry("Collate");
@@ -99,7 +99,7 @@ TEST_F(ItemListsTest, TabAndOutputPapers) {
 
 TEST_F(ItemListsTest, Resolutions) {
     const std::pair<const char*, unsigned> cases[] = {
-        {"Reso_600x1200", 600}, {"RES_1200", 200}, // the number starts behind the fifth character
+        {"Reso_600x1200", 600}, {"RES_1200", 200}, // the number starts after the fifth character
         {"R1234", 0},           {"12345A", 0},     {"", 0}, {"Reso_70000", 4464},
     };
     PrmImage image;
@@ -166,7 +166,7 @@ TEST_F(ItemListsTest, Papers) {
     ExpectList(BuiltTable(image), 390, expected, 1004, true);
 }
 
-TEST_F(ItemListsTest, UserPaperAlsoFillsTheTable) {
+TEST_F(ItemListsTest, UserPaperAlsoFillsTheDeviceTable) {
     const struct {
         const char* key;
         unsigned present;

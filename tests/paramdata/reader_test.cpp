@@ -1,4 +1,4 @@
-// Parameter file reader: lookup, the typed readers and what each of them calls success, number parsing.
+// Parameter file reader: search for entries, typed readers and their results, parsing of numbers.
 #include "support/prm_image.h"
 
 namespace {
@@ -18,7 +18,7 @@ TEST(Reader, FindsEntriesByFullNameInAnyCase) {
         EXPECT_EQ(PrmFindEntry(*file, name), offset) << name;
 }
 
-TEST(Reader, ChainEndsOnlyAtItsBoundOrAfterAsManyStepsAsTheFileCanHold) {
+TEST(Reader, ChainEndsAtItsBoundOrAfterTheMaximumOfSteps) {
     PrmImage image;
     const uint32_t low = image.Entry("Low"), high = image.Entry("High"), beyond = image.Entry("Beyond");
     const uint32_t end = image.Size();
@@ -31,15 +31,15 @@ TEST(Reader, ChainEndsOnlyAtItsBoundOrAfterAsManyStepsAsTheFileCanHold) {
         {"forwards",                     low,    high,       beyond, end,        8, low, high, beyond},
         {"backwards",                    high,   beyond,     low,    end,        8, low, high, beyond},
         {"bound at an entry",            low,    high,       end,    high,       8, low, 0,    0},
-        {"bound one behind an entry",    low,    high,       end,    high + 1,   8, low, high, 0},
+        {"bound one after an entry",    low,    high,       end,    high + 1,   8, low, high, 0},
         {"bound at the first entry",     low,    high,       end,    8,          0, 0,   0,    0},
-        {"bound behind the first entry", low,    high,       end,    9,          8, 0,   0,    0},
+        {"bound after the first entry", low,    high,       end,    9,          8, 0,   0,    0},
         {"loops to itself",              low,    low,        end,    end,        8, low, 0,    0},
         {"loops back",                   low,    high,       8,      end,        8, low, high, 0},
-        {"leads behind the file",        low,    0x7FFFFFFF, end,    0xFFFFFFFF, 8, low, 0,    0},
+        {"leads beyond the file",        low,    0x7FFFFFFF, end,    0xFFFFFFFF, 8, low, 0,    0},
         {"leads to a cut entry",         low,    end - 51,   end,    end,        8, low, 0,    0},
-        {"comes back from behind it",    beyond, high,       end,    high,       8, 0,   0,    0},
-        // The entry at offset 0 has its next offset where the first entry keeps bytes that nobody else reads.
+        {"comes back from beyond",    beyond, high,       end,    high,       8, 0,   0,    0},
+        // An entry at offset 0 would have its next offset in bytes that the first entry does not use.
         {"leads to offset 0",            0,      high,       end,    end,        8, low, high, beyond},
     };
     // clang-format on
@@ -74,7 +74,7 @@ TEST(Reader, SmallestFilesAndNoFile) {
     PrmClose(byNarrowName);
 }
 
-TEST(Reader, ReadsNoMoreThanThereIs) {
+TEST(Reader, ReadsEndAtTheEndOfTheFile) {
     const PrmImage image;
     const uint32_t size = image.Size();
     OpenedImage file(image);
@@ -85,7 +85,7 @@ TEST(Reader, ReadsNoMoreThanThereIs) {
         uint32_t delivered;
     } cases[] = {
         {4, 0, 4}, {8, size - 3, 3}, {1, size - 1, 1}, {1, size, 0}, {0, 0, 0}, {0x7FFFFFFF, 8, size - 8},
-        {4, 0xFFFFFFFF, 0}, {4, 0x100000008, 0}}; // the last is 8 to those who count in 32 bits
+        {4, 0xFFFFFFFF, 0}, {4, 0x100000008, 0}}; // the last is 8 in 32 bits
     // clang-format on
     for (const auto& [count, offset, delivered] : cases) {
         std::vector<uint8_t> to(size + 4, 0xEE), expected = to;
@@ -135,8 +135,8 @@ TEST(Reader, Texts) {
         {"291 characters", image.Text(most + "b"), false, "as before"},
         {"291 to the end of the file", image.Put(RawBytes(291).U8(0, 'c', 291)), false, "as before"},
         {"290 to the end of the file", image.Size() - 290, true, std::string(290, 'c')},
-        {"behind the file", image.Size(), true, ""},
-        {"far behind the file", 0xFFFFFFFF, true, ""},
+        {"beyond the file", image.Size(), true, ""},
+        {"far beyond the file", 0xFFFFFFFF, true, ""},
     };
     // clang-format on
     OpenedImage file(image);
@@ -164,7 +164,7 @@ TEST(Reader, WideTexts) {
         {"291 characters", image.Wide(text291.data()), true, text291.data()},
         {"292 characters", image.Wide(text292.data()), true, text291.data()},
         {"to the end of the file", image.Put(L"ABC", 6), true, L"ABC"},
-        {"behind the file", image.Size(), false, L"as before"},
+        {"beyond the file", image.Size(), false, L"as before"},
     };
     // clang-format on
     OpenedImage file(image);

@@ -1,5 +1,5 @@
-// Paper sources: the input tray list, the compiled-in input slots and their update, the tray selection lists
-// and the tray rows.
+// Paper sources: their list in the device table, the compiled-in table and its update, the lists of features
+// that select a source, and the tray rows.
 #include "paramdata/feature_lists.h"
 #include "support/prm_image.h"
 
@@ -11,7 +11,7 @@ PrmMediaItem Tray(PrmImage& image, const std::string& key, uint32_t value, uint3
     return image.Media(key, L"Tray", value, enabled, "text of " + key);
 }
 
-TEST_F(TraysTest, TrayThatIsNotEnabledKeepsAnEmptyKeyButItsText) {
+TEST_F(TraysTest, DisabledTrayHasATextButNoKey) {
     PrmImage image;
     image.Items<PrmMediaItem>("InTray", {Tray(image, "InTray1", 257), Tray(image, "InTray2", 258, 0),
                                          Tray(image, "InTray3", 259, 0x80000000)});
@@ -63,7 +63,7 @@ TEST_F(TraysTest, SelectionLists) {
     }
 }
 
-TEST_F(TraysTest, OnlyAKnownFeatureBitStoresAList) {
+TEST_F(TraysTest, UnknownFeatureBitStoresNoList) {
     PrmImage image;
     image.Items<PrmItemDescriptor>("FCoverTray", {image.Plain("FCover_Tray2")});
     const BuiltTable built((PrmImage()));
@@ -78,7 +78,7 @@ TEST_F(TraysTest, OnlyAKnownFeatureBitStoresAList) {
     EXPECT_EQ(NumberAt<uint32_t>(built.List(762), 36), 258u) << "the name chooses the value";
 }
 
-TEST_F(TraysTest, UpdateOfInputSlotsComesBeforeTheSelectionLists) {
+TEST_F(TraysTest, SelectionListsUseUpdatedBinNumbers) {
     RawBytes expected(sizeof(inputSlots));
     memcpy(expected.bytes.data(), inputSlots, sizeof(inputSlots));
     const size_t tray3 = 388 * 4, lct = 388 * 10;
@@ -97,7 +97,7 @@ TEST_F(TraysTest, UpdateOfInputSlotsComesBeforeTheSelectionLists) {
     EXPECT_EQ(NumberAt<uint32_t>(built.List(722), 36), 300u);
 }
 
-TEST_F(TraysTest, RowsTakeTheNamesOfItemsThatEndInTheirKeys) {
+TEST_F(TraysTest, RowTakesTheNameOfAnItemThatEndsInItsKey) {
     const std::string long37 = std::string(30, 'x') + "InTray1";
     std::string trays63, rows63;
     for (int i = 0; i < 63; ++i) {
@@ -107,7 +107,7 @@ TEST_F(TraysTest, RowsTakeTheNamesOfItemsThatEndInTheirKeys) {
     // clang-format off
     const struct {
         const char* what;
-        std::string trays, items, rows; // keys; an item's and a row's display name behind the colon
+        std::string trays, items, rows; // keys; after the colon the display name of an item or a row
     } cases[] = {
         {"suffix",                 "InTray1 InTray2",  "Media_InTray2:B",        "InTray1: Media_InTray2:B"},
         {"in any case",            "InTray1",          "x_INTRAY1:A",            "x_INTRAY1:A"},
@@ -119,7 +119,7 @@ TEST_F(TraysTest, RowsTakeTheNamesOfItemsThatEndInTheirKeys) {
         {"current key counts",     "Tray1 InTray1",    "xInTray1:A yInTray1:B",  "xInTray1:A yInTray1:B"},
         {"renamed again",          "InTray1",          "xInTray1:A yxInTray1:B", "yxInTray1:B"},
         {"cut key",                "InTray1",          long37 + ":A",            long37.substr(0, 31) + ":A"},
-        {"behind an empty key",    "InTray1  InTray3", "xInTray3:A",             "InTray1:"},
+        {"after an empty key",    "InTray1  InTray3", "xInTray3:A",             "InTray1:"},
         {"65th row", trays63 + "InTray64 InTray65", "xInTray65:A xInTray64:B", rows63 + "xInTray64:B InTray65:"},
     };
     // clang-format on
@@ -136,7 +136,7 @@ TEST_F(TraysTest, RowsTakeTheNamesOfItemsThatEndInTheirKeys) {
         }
         const uint32_t entry = image.Items("MediaTypeList_Tray", items);
         auto& info = image.At<PrmEntryInfo>(entry + 52);
-        --info.itemCount;              // the chain goes on behind the last item that counts
+        --info.itemCount;              // the chain goes on after the last item that counts
         info.itemOffsets = 0xFFFFFFFF; // the chain leads to the items, not the array
         RawBytes expected(0);
         for (const std::string& row : Split(c.rows, ' ')) {

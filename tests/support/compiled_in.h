@@ -1,5 +1,5 @@
-// The module's tables that building from a parameter data file changes: remembers them as they are, and puts
-// them back at the end. Used by tests and the fuzz target, which build more than once in one process.
+// Saves the module's tables that a parameter data file changes, and restores them at the end. For tests and
+// the fuzz target, which build more than once in a process.
 #ifndef SUPPORT_COMPILED_IN_H
 #define SUPPORT_COMPILED_IN_H
 

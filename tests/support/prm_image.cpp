@@ -1,4 +1,4 @@
-// A parameter data file put together byte by byte: see the header.
+// Builds parameter data files byte by byte, and temporary files of them.
 #include "support/prm_image.h"
 
 #include <fstream>

@@ -1,5 +1,5 @@
-// A parameter data file put together byte by byte, for tests: texts, records and entries are appended and
-// linked as the layout asks; a test may then overwrite any byte. Shares nothing with the file's compiler.
+// Parameter data files for tests, built byte by byte: texts, records and entries are appended and linked; a
+// test may then overwrite any byte. Shares no code with the compiler of such files.
 #ifndef SUPPORT_PRM_IMAGE_H
 #define SUPPORT_PRM_IMAGE_H
 
@@ -19,7 +19,7 @@ std::vector<std::string> Split(const std::string& text, char separator);
 struct PrmImage {
     PrmImage(); // the header and, at offset 8, an entry "First" without items
 
-    // Each appends one thing and answers its offset.
+    // Each appends one thing and returns its offset.
     uint32_t Put(const void* record, size_t size);
     uint32_t Put(const RawBytes& record) { return Put(record.bytes.data(), record.bytes.size()); }
     uint32_t Text(const std::string& text); // texts are filled up to a multiple of 4 bytes
@@ -31,12 +31,12 @@ struct PrmImage {
     uint32_t Range(const std::string& name, uint32_t at36, uint32_t at40, uint32_t at44);
     uint32_t StringValue(const std::string& name, const std::string& value);
 
-    // An item's first fields, and the texts that they lead to.
+    // The first fields of an item, and their texts.
     PrmItemHead Head(const std::string& key, const wchar_t* display = L"") {
         return {Text(key), 0, Wide(display)};
     }
 
-    // Items of the commonest kinds.
+    // Items of the most common kinds.
     PrmItemDescriptor Plain(const std::string& key, const wchar_t* display = L"") {
         return {Head(key, display), 0};
     }
@@ -60,7 +60,7 @@ struct PrmImage {
     // Gives an entry a default record.
     void SetDefault(uint32_t entry, uint32_t record) { At<PrmEntryInfo>(entry + 52).defaultRecord = record; }
 
-    // What lies at an offset, to overwrite.
+    // The record at an offset, to be overwritten.
     template <typename Record>
     Record& At(uint32_t offset) {
         static_assert(alignof(Record) == 1);
@@ -94,23 +94,23 @@ struct OpenedImage {
     PrmFile* file;
 };
 
-// The device table that the image gives; the file is closed again.
+// The device table built from the image. The file is closed.
 struct BuiltTable {
     explicit BuiltTable(const PrmImage& image) : table(BuildDeviceTable(*OpenedImage(image))) {}
     ~BuiltTable() { FreeDeviceTable(table); }
     BuiltTable(const BuiltTable&) = delete;
-    // The list whose pointer lies at this position of the table.
+    // The list whose pointer is at this offset of the table.
     const uint8_t* List(size_t position) const { return NumberAt<const uint8_t*>(table, position); }
 
     DeviceTable* table;
 };
 
-// Puts the module's tables back after a test, since building from a file changes them.
+// Restores the module's tables after a test: building from a file changes them.
 struct ParameterDataTest : testing::Test {
     CompiledInTables kept;
 };
 
-// What every list record starts with; the commonest kind has this size.
+// The start of every list record, by default of the most common size.
 inline RawBytes ListRecord(const std::string& key, uint32_t value, const wchar_t* display,
                            size_t size = 144) {
     const RawBytes record = RawBytes(size).U32(0, static_cast<uint32_t>(size)).Text(4, key).U32(36, value);

@@ -1,4 +1,4 @@
-// Records by raw byte offset: see the header.
+// Builds records by raw byte offset and compares them.
 #include "support/raw_bytes.h"
 
 #include <sstream>

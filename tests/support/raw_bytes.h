@@ -1,5 +1,5 @@
-// Records by raw byte offset, independent of the project's structs: build what is expected, read what there
-// is, and say where the two differ. Numbers are little-endian.
+// Records by raw byte offset, independent of the project's structs: expected records are built, actual ones
+// compared. Numbers are little-endian.
 #ifndef SUPPORT_RAW_BYTES_H
 #define SUPPORT_RAW_BYTES_H
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-// A block that is zero but for what the setters put at an offset.
+// A block of zeros with values at offsets.
 struct RawBytes {
     explicit RawBytes(size_t size) : bytes(size) {}
 
@@ -37,8 +37,7 @@ inline std::vector<wchar_t> Widened(const std::string& ascii) {
     return wide;
 }
 
-// The first few bytes that differ, by offset; empty when the block at `actual` is as
-// expected.
+// The first few bytes that differ, by offset; empty when none does.
 std::string Differences(const void* actual, const RawBytes& expected);
 
 #endif

@@ -1,4 +1,4 @@
-// How often a test repeats what must leave nothing behind.
+// How often a test repeats what must not leak.
 #ifndef TEST_SUPPORT_ROUNDS_H
 #define TEST_SUPPORT_ROUNDS_H
 

@@ -1,4 +1,4 @@
-// Media type lists, the texts that they take from the file, and the rules which of the dialog's columns show.
+// Media type lists, their texts from the parameter data file, and which columns the list view shows.
 #include "trays/media_type_lists.h"
 
 #include "support/prm_image.h"
@@ -29,9 +29,9 @@ const struct {
               {"MediaTypeList_Type", 574, 240, 32},  {"MediaTypeList_Weight", 598, 240, 32},
               {"MediaTypeList_Color", 606, 240, 32}, {"MediaTypeList_Hole", 674, 240, 32}};
 
-// What the lists hold: the table's two records, the second with neither key nor name terminated, then the
-// texts of the file; and without records, without texts.
-TEST_F(MediaTypeListsTest, RecordsAndThenTexts) {
+// With and without records of the device table, the second with key and name unterminated, and with and
+// without texts of the file.
+TEST_F(MediaTypeListsTest, ListHasRecordsThenTexts) {
     for (const bool records : {false, true})
         for (const bool texts : {false, true}) {
             RawBytes table(kTableSize);
@@ -75,7 +75,7 @@ TEST_F(MediaTypeListsTest, RecordsAndThenTexts) {
         }
 }
 
-TEST_F(MediaTypeListsTest, AMissingTextLeavesNoGap) {
+TEST_F(MediaTypeListsTest, MissingTextLeavesNoGap) {
     PrmImage image;
     AddTexts(image, "MediaTypeList_Orient", "MediaTypeList_Portrait MediaTypeList_Orient_Unknown", L"");
     AddTexts(image, "MediaTypeList_Size", "MediaTypeList_Size_Unknown_", L"Longer key");
@@ -128,7 +128,7 @@ TEST_F(MediaTypeListsTest, ItemTexts) {
         EXPECT_EQ(PrmGetItemText(*opened.file, c.entry, c.key, reinterpret_cast<wchar_t*>(got.bytes.data()),
                                  c.capacity),
                   c.text != nullptr);
-        if (c.entry != nullptr && c.key != nullptr) // the whole buffer is cleared, nothing behind it
+        if (c.entry != nullptr && c.key != nullptr) // the whole buffer is cleared, nothing beyond it
             expected.U8(0, 0, 2 * c.capacity).Wide(0, c.text != nullptr ? c.text : L"");
         EXPECT_EQ(Differences(got.bytes.data(), expected), "");
     }

@@ -1,4 +1,4 @@
-// Fields of the private settings as rows of tables: where a value lies, how to read and write it.
+// Fields of the private print settings as data: position and size, reading and writing.
 #ifndef PARAMDATA_DEVMODE_FIELDS_H
 #define PARAMDATA_DEVMODE_FIELDS_H
 
@@ -21,12 +21,12 @@ inline const void* FieldAt(const OemDevmode& settings, DevmodeField field) {
     return reinterpret_cast<const uint8_t*>(&settings) + field.offset;
 }
 
-// Writes the low octets of the value; the field has at most four.
+// Stores the low bytes of the value. The field has at most four.
 inline void Store(OemDevmode& settings, DevmodeField field, uint32_t value) {
     memcpy(FieldAt(settings, field), &value, field.size);
 }
 
-// The value of a field of at most four octets, without sign.
+// The unsigned value of a field of at most four bytes.
 inline uint32_t Load(const OemDevmode& settings, DevmodeField field) {
     uint32_t value = 0;
     memcpy(&value, FieldAt(settings, field), field.size);

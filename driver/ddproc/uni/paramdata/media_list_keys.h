@@ -10,13 +10,13 @@
 enum MediaTypeList { kMediaSize, kMediaOrientation, kMediaType, kMediaWeight, kMediaColor, kMediaPrePunched };
 constexpr size_t kMediaTypeListCount = 6;
 
-// The entries that hold the texts, by position of the list.
+// The entries with the texts, by position of the list.
 inline constexpr const char* kMediaTypeListEntries[kMediaTypeListCount] = {
     "MediaTypeList_Size",   "MediaTypeList_Orient", "MediaTypeList_Type",
     "MediaTypeList_Weight", "MediaTypeList_Color",  "MediaTypeList_Hole",
 };
 
-// Items that a list has when the file holds a text for them, in this order behind those of the device table.
+// Items that a list has if the file has a text for them, in this order after those of the device table.
 struct MediaTextItem {
     MediaTypeList list;
     const char* key;

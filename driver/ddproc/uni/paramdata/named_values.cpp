@@ -46,7 +46,7 @@ uint32_t SwitchType(const char* value) {
     return number;
 }
 
-// The word's position, counted from `first`; `otherwise` for a value that is none of the words.
+// The word's position, counted from `first`; `otherwise` for any other value.
 template <size_t Count>
 uint8_t WordNumber(const char* value, const char* const (&words)[Count], uint8_t first, uint8_t otherwise) {
     for (const char* word : words) {

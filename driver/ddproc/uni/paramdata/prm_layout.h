@@ -11,7 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 
-constexpr uint32_t kPrmFirstEntry = 8;   // offset of the first entry, directly behind the header
+constexpr uint32_t kPrmFirstEntry = 8;   // offset of the first entry, directly after the header
 constexpr size_t kPrmMaxTextBytes = 290; // longest 8-bit text that is read, without its terminator
 constexpr size_t kPrmMaxTextChars = 291; // longest UTF-16 text that is read, without its terminator
 
@@ -66,7 +66,7 @@ struct PrmTextItem {
 static_assert(sizeof(PrmTextItem) == 148 && offsetof(PrmTextItem, value) == 12
               && offsetof(PrmTextItem, text) == 16);
 
-// Tray and media item; the text area holds one text, or two of 64 bytes (collate).
+// Tray and media item; the text area has one text, or two of 64 bytes (collate).
 struct PrmMediaItem {
     PrmItemHead head;
     uint32_t value;
@@ -187,7 +187,7 @@ struct PrmTableRow {
 };
 static_assert(sizeof(PrmTableRow) == 64 && offsetof(PrmTableRow, value) == 32);
 
-// Numeric block of a range entry, directly behind its PrmEntryInfo.
+// Numeric block of a range entry, directly after its PrmEntryInfo.
 struct PrmRange {
     uint8_t unread[3][12];
     uint32_t valueB; // device table range B

@@ -49,7 +49,7 @@ TrayPaperSetting* SelectedTray(HWND window) {
 
 // --- Boxes
 
-// The item that an entry stands for; null without such an entry.
+// The item of an entry; null without such an entry.
 const ItemRecord* ItemAt(HWND window, uint16_t box, LRESULT index) {
     const LRESULT data = index < 0 ? CB_ERR : Send(window, box, CB_GETITEMDATA, static_cast<WPARAM>(index));
     return data == CB_ERR ? nullptr : reinterpret_cast<const ItemRecord*>(data);
