@@ -208,3 +208,10 @@ bool BuildDestinationList(const PrmFile& file, uint32_t kind) {
             return RebuildDestinations(file, table);
     return false;
 }
+
+NamedColorTable ColorTableAt(size_t position) {
+    if (position >= sizeof(kTables) / sizeof(kTables[0]))
+        return {};
+    const TableDescription& table = kTables[position];
+    return {table.entry, table.items, table.shortItems, table.destinationsOf != 0};
+}

@@ -42,6 +42,17 @@ const ItemRecord* FindColorItem(const char* entry, const char* key);
 // the file lacks keeps its items; only the RGB source profiles of graphics are then cleared.
 void FillColorTables(const PrmFile& file);
 
+// A table by the entry that fills it, for programs that list all of them.
+struct NamedColorTable {
+    const char* entry; // null: there is no such table
+    const ItemRecord* items;
+    const ItemRecord* shortItems; // null: there is no short table
+    bool isDestinationList;       // of text, image or graphics
+};
+
+// The table at this position, in the order of filling.
+NamedColorTable ColorTableAt(size_t position);
+
 // Kinds of object that have a destination list.
 constexpr uint32_t kTextObjects = 1;
 constexpr uint32_t kImageObjects = 2;
