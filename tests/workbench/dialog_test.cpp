@@ -1,12 +1,10 @@
-// `workbench dialog` as a process, on a screen: what scripts change, what they are shown and what is refused.
-// Expected values are those of the model file and of the dialogs' rules.
+// `workbench dialog` as a process, on a screen: what scripts change, what the report shows and what is
+// refused. Expected values are those of the model file and of the dialogs' rules.
+#include "workbench/lib/picture.h"
 #include "workbench/workbench_run.h"
 
 #include <algorithm>
 #include <fstream>
-#include <objidl.h> // before GDI+
-
-#include <gdiplus.h>
 
 namespace {
 
@@ -27,44 +25,19 @@ struct DialogFolder : Folder {
     }
 };
 
-// "NAME:BEFORE:AFTER" of all changes.
-std::string Changes(const Json& report) {
-    std::string changes;
-    for (const Json& row : report["changes"])
-        changes += row["name"].dump() + ":" + row["before"].dump() + ":" + row["after"].dump() + " ";
-    changes.erase(std::remove(changes.begin(), changes.end(), '"'), changes.end());
-    return changes;
-}
-
 Json ControlRow(const Json& report, int control) {
     const Json ids = Pick(report["controls"], "control");
     return report["controls"][static_cast<size_t>(std::find(ids.begin(), ids.end(), control) - ids.begin())];
 }
 
-// Row by row; empty for what is no picture.
-std::vector<COLORREF> Pixels(const fs::path& png) {
-    ULONG_PTR gdiPlus = 0;
-    const Gdiplus::GdiplusStartupInput input;
-    Gdiplus::GdiplusStartup(&gdiPlus, &input, nullptr);
-    const auto bitmap = std::make_unique<Gdiplus::Bitmap>(png.c_str());
-    std::vector<COLORREF> pixels;
-    for (UINT i = 0; i < bitmap->GetWidth() * bitmap->GetHeight(); ++i) {
-        Gdiplus::Color color;
-        bitmap->GetPixel(static_cast<INT>(i % bitmap->GetWidth()), static_cast<INT>(i / bitmap->GetWidth()),
-                         &color);
-        pixels.push_back(color.ToCOLORREF());
-    }
-    return pixels;
-}
-
-TEST(WorkbenchDialog, TellsWhatHasChanged) {
+TEST(WorkbenchDialog, ScriptChangesAreReported) {
     const DialogFolder folder;
     const Json report = folder.Run("# no press is simulated yet\r\nchoose 1627 Black and grey\r\n" // refused
                                    "choose 1354 Exact match  # images\n  choose 1524 #6\nchoose 1627 #1\n"
                                    "choose 1524 None\n" // refused: greys of a press are chosen
                                    "choose 1509 Scanner (flat)\nchoose 1584 Gloss \u00e4 Memory\nok");
     EXPECT_EQ(report["dialog"]["end"], "OK");
-    // OK makes new records of built-in choices, too: by default those have a location and no text.
+    // OK also writes new records of built-in RGB sources: by default these have a location and no text.
     EXPECT_EQ(Changes(report),
               "image.colorMatch:1:3 simulation:0:128 textRgbSource:1:257 graphicsDestination:0:128 "
               "simulationGray:0:1 simulationProfile.qualifier::coated simulationProfile.name::Offset "
@@ -72,7 +45,7 @@ TEST(WorkbenchDialog, TellsWhatHasChanged) {
               "imageRgbProfile.qualifier::sRGB imageRgbProfile.location:5:0 "
               "graphicsRgbProfile.qualifier::sRGB graphicsRgbProfile.location:5:0 "
               "graphicsDestinationProfile.name::Gloss \u00e4 graphicsDestinationProfile.location:0:3 ");
-    std::string hints; // after each line that does something
+    std::string hints; // "!" after each line that left a hint
     for (const Json& row : report["actions"])
         hints += row["line"].dump() + (row["hint"].is_null() ? " " : "! ");
     EXPECT_EQ(hints, "2! 3 4 5 6! 7 8 9 ");
@@ -86,7 +59,7 @@ TEST(WorkbenchDialog, TellsWhatHasChanged) {
     EXPECT_EQ(destinations, Json({{0, 0, "Automatic"}, {1, 128, "Matt "}, {2, 129, "Gloss \u00e4 Memory"}}));
 }
 
-TEST(WorkbenchDialog, DefaultsAndCancel) {
+TEST(WorkbenchDialog, DefaultsResetAndCancelDiscards) {
     const DialogFolder folder;
     const Json report =
         folder.Run("choose 1330 Detail\nchoose 1354 Vivid\ndefaults\nrefresh\nchoose 1330 Detail\n"
@@ -97,110 +70,94 @@ TEST(WorkbenchDialog, DefaultsAndCancel) {
     EXPECT_EQ(ControlRow(report, 1354)["shows"], "Photographic");
 }
 
-// Begins with a record of zeros, whose choices all exist. Keys go where the focus is.
-TEST(WorkbenchDialog, TakesKeysAndARecord) {
+// Starts with a record of zeros, which are valid choices. Keys go to the focused control.
+TEST(WorkbenchDialog, KeysAndSettingsFileAreUsed) {
     const DialogFolder folder;
     const Json report = folder.Run("\xEF\xBB\xBF" // a byte order mark
                                    "choose 1524 DIC\nchoose 1627 #0\nkey tab\nkey space\nkey enter\n",
                                    L"--settings" + folder.Write("record", std::string(7808, '\0'))
                                        + L" --out \"" + folder.path.wstring() + L"/end.png\"");
     EXPECT_EQ(report["dialog"]["endCode"], 1);
-    EXPECT_EQ(report["pictures"].size(), 1) << "of the dialog that a key has ended";
-    EXPECT_FALSE(Pixels(folder.path / "end.png").empty());
+    EXPECT_EQ(report["pictures"].size(), 1) << "of a dialog that a key closes";
+    EXPECT_NE(ReadPicture((folder.path / "end.png").u8string()), nullptr);
     EXPECT_EQ(Changes(report),
               "simulation:0:5 matchPaperColor:0:1 textRgbProfile.qualifier::Device RGB "
               "imageRgbProfile.qualifier::Device RGB graphicsRgbProfile.qualifier::Device RGB ");
 }
 
-// A picture is of the dialog, and of the hint below it. With the other flags lists are short and locked.
-TEST(WorkbenchDialog, PicturesAndContext) {
+TEST(WorkbenchDialog, PictureIncludesHintBelow) {
     const DialogFolder folder;
-    const auto ignore = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
-    const HMODULE templates = LoadLibraryW((ProgramFolder() / "TELMAR_S.DLL").c_str());
-    const HWND dialog = CreateDialogParamW(templates, MAKEINTRESOURCEW(128), nullptr, ignore, 0);
-    RECT frame = {};
-    ASSERT_TRUE(GetWindowRect(dialog, &frame));
     const std::string path = folder.path.u8string();
-    const Json open = folder.Run("picture " + path + "/a.png\nchoose 1504 CIE RGB\nclick 1526\ncancel",
-                                 L"--out \"" + folder.path.wstring() + L"/b.png\"");
-    const Json& pictures = open["pictures"];
-    for (const Json& picture : pictures)
-        EXPECT_EQ(picture["width"], frame.right - frame.left);
-    EXPECT_EQ(pictures[0]["height"], frame.bottom - frame.top);
-    EXPECT_GT(pictures[1]["height"], frame.bottom - frame.top);
-    const std::vector<COLORREF> refused = Pixels(folder.path / "b.png");
-    const auto hint = static_cast<size_t>((frame.bottom - frame.top + 3) * (frame.right - frame.left) + 3);
-    ASSERT_GT(refused.size(), hint);
-    EXPECT_NE(refused[hint], RGB(0, 0, 0)) << "the hint below the dialog is not drawn";
-    EXPECT_GT(std::count(refused.begin(), refused.end(), RGB(204, 0, 0)), 50) << "no stop sign";
+    const Json report = folder.Run("picture " + path + "/a.png\nchoose 1504 CIE RGB\nclick 1526\ncancel",
+                                   L"--out \"" + folder.path.wstring() + L"/b.png\"");
+    const int bottom = report["pictures"][0]["height"]; // of the dialog alone
+    EXPECT_EQ(report["pictures"][1]["width"], report["pictures"][0]["width"]);
+    EXPECT_GT(report["pictures"][1]["height"], bottom);
+    const auto refused = ReadPicture(path + "/b.png");
+    EXPECT_NE(GetPixel(refused->context, 3, bottom + 3), RGB(0, 0, 0)) << "no hint below the dialog";
+    const auto* pixels = static_cast<const DWORD*>(refused->pixels);
+    EXPECT_GT(std::count(pixels, pixels + refused->size.cx * refused->size.cy, 0xFFCC0000), 50)
+        << "no stop sign";
+}
 
-    const Json locked = folder.Run("", L"--short-rgb --locked");
+TEST(WorkbenchDialog, FlagsShortenListsAndLockControls) {
+    const Json locked = DialogFolder().Run("", L"--short-rgb --locked");
     EXPECT_EQ(locked["dialog"]["disabled"].size(), 42);
     EXPECT_EQ(locked["entries"][2]["list"], 1354) << "1504 has two entries";
 }
 
-// "TRAY ATTRIBUTE:BEFORE:AFTER=VALUE" of all changes.
-std::string TrayChanges(const Json& report) {
-    std::string changes;
-    for (const Json& row : report["changes"])
-        changes += row["tray"].get<std::string>() + " " + row["attribute"].get<std::string>() + ":"
-                   + row["before"].get<std::string>() + ":" + row["after"].get<std::string>() + "="
-                   + row["value"].dump() + " ";
-    return changes;
-}
-
-TEST(WorkbenchDialog, SetsTrays) {
+TEST(WorkbenchDialog, TrayChangesAreReportedAfterOk) {
     const DialogFolder folder;
     const std::string script = "choose 1844 Tray 2\nchoose 1860 A4\nchoose 1094 #1\nchoose 1844 #6\n"
                                "choose 1003 Thick 1\n";
-    for (const bool isKept : {true, false}) {
+    const Json changes = Json::parse(R"([
+        {"tray": "InTray2", "attribute": "size", "before": "Unknown", "after": "A4", "value": 9},
+        {"tray": "InTray2", "attribute": "hole", "before": "Not known whether punched",
+         "after": "Pre-punched", "value": 1},
+        {"tray": "InTrayManual", "attribute": "type", "before": "Unknown", "after": "Thick 1", "value": 263}])");
+    for (const bool isOk : {true, false}) {
         const Json report =
-            RunForJson(L"dialog 155 --script" + folder.Write("s.txt", script + (isKept ? "ok" : "")));
-        EXPECT_EQ(report["dialog"]["endCode"], isKept ? 1 : 2);
-        EXPECT_EQ(report["dialog"]["pageTold"], isKept);
+            RunForJson(L"dialog 155 --script" + folder.Write("s.txt", script + (isOk ? "ok" : "")));
+        EXPECT_EQ(report["dialog"]["endCode"], isOk ? 1 : 2);
+        EXPECT_EQ(report["dialog"]["pageTold"], isOk);
         EXPECT_EQ(ControlRow(report, 1844)["shows"], "Manual feed");
         EXPECT_EQ(ControlRow(report, 1003)["shows"], "Thick 1");
-        EXPECT_EQ(TrayChanges(report), !isKept ? ""
-                                               : "InTray2 size:Unknown:A4=9 "
-                                                 "InTray2 hole:Not known whether punched:Pre-punched=1 "
-                                                 "InTrayManual type:Unknown:Thick 1=263 ");
+        EXPECT_EQ(report["changes"], isOk ? changes : Json::array());
     }
     const Json locked = RunForJson(L"dialog 155 --locked");
     EXPECT_EQ(locked["dialog"]["disabled"], Json({1844, 1860, 1862, 1003, 1086, 1091, 1094}));
 }
 
-TEST(WorkbenchDialog, SaysWhatIsWrong) {
+TEST(WorkbenchDialog, FailureSaysWhatIsWrongAndWhere) {
     const DialogFolder folder;
     const std::string longName = R"({"simulations": [{"name": ")" + std::string(41, 'x') + "\"}]}";
     const struct {
         const char* option; // that names the file
         std::string file;
         int exitCode;
-        std::string says; // a regular expression
+        std::string message; // a regular expression
     } cases[] = {
         {"--script", "\nchose 1504 #0", 2, "wrong:2: .*'chose'; possible: choose LIST .*, cancel"},
         {"--script", "choose 1999 #0", 2, "wrong:1: .*no list '1999'; possible: 1504, .*1627\n"},
         {"--script", "choose 1524 #6", 2, "wrong:1: list 1524 .*'#6'; possible: None, SWOP, .*DIC\n"},
-        {"--script", "cancel\nok", 2, "wrong:2: the dialog has ended before"},
+        {"--script", "cancel\nok", 2, "wrong:2: the dialog was closed before"},
         {"--locked --script", "click 1526", 2, "wrong:1: control 1526 is disabled"},
         {"--script", "picture nowhere/a.png", 1, "wrong:1: .*there is no folder .*nowhere"},
-        {"--settings", std::string(7807, '\0'), 1, "wrong: 7807 bytes .* 7808"},
+        {"--settings", std::string(7807, '\0'), 1, "wrong: 7807 bytes; .* 7808"},
         {"--profiles", longName, 1, "wrong: simulations\\[0\\].name: .*41 .* 40\n"},
         {"--profiles", R"({"rgbSources": [{"name": ""}]})", 1, "wrong: rgbSources\\[0\\]: lacks its name"},
         {"--profiles", R"({"cmyk": []})", 1, "'cmyk'; possible: rgbSources, simulations, destinations"},
         {"--profiles", "{", 1, "wrong: not JSON; see line 1, column 2\n"},
-        {"--profiles", R"({"rgbSources": 1e999})", 1, "wrong: .*number is too large\n"},
+        {"--profiles", R"({"rgbSources": 1e999})", 1, "wrong: .*a number is too large\n"},
         {"--profiles", std::string(100000, '[') + std::string(100000, ']'), 1,
          "wrong: values .* levels deep"},
     };
     for (const auto& c : cases)
         ExpectFailure(L"dialog 128 " + fs::path(c.option).wstring() + folder.Write("wrong", c.file),
-                      c.exitCode, c.says);
+                      c.exitCode, c.message);
     ExpectFailure(L"dialog 165", 1, "no dialog 165; .* 155\\.");
-    const Folder alone(L"workbench_without_ui_module", {{"TELMAR_D.DLL", "TELMAR_D.DLL"},
-                                                        {"TELMAR_D.PRM", "TELMAR_D.PRM"},
-                                                        {"TELMAR_S.DLL", "TELMAR_S.DLL"}});
-    ExpectFailure(L"dialog 155" + alone.Option(), 1, "TELMAR_U.DLL beside the module");
+    const Folder alone(L"workbench_without_ui_module", {"TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL"});
+    ExpectFailure(L"dialog 155" + alone.Option(), 1, "TELMAR_U.DLL next to the module");
 }
 
 } // namespace

@@ -1,11 +1,10 @@
-// Runs the workbench as a process, as a person does. Folders and files of the tests lie beside the test
-// program and are removed at the end.
+// Runs the workbench as a process. Folders and files of the tests are created next to the test program and
+// removed at the end.
 #ifndef WORKBENCH_RUN_H
 #define WORKBENCH_RUN_H
 
 #include <filesystem>
 #include <gtest/gtest.h>
-#include <map>
 #include <nlohmann/json.hpp>
 #include <windows.h>
 
@@ -14,15 +13,16 @@ using Json = nlohmann::json;
 
 fs::path ProgramFolder();
 
-// A new folder beside the test program, with copies of files from there. Programs that run at the same time
-// have folders of their own. What a process that is still ending holds open is left to the next run.
+// A new folder next to the test program, with copies of files from there. Programs that run at the same time
+// have folders of their own. Files that a process still has open are removed by the next run.
 struct Folder {
-    explicit Folder(const wchar_t* name, const std::map<const char*, const char*>& sourceByName = {});
+    explicit Folder(const wchar_t* name,
+                    const std::vector<std::string>& files = {}); // "NAME" or "NAME=SOURCE"
     ~Folder();
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;
 
-    // Has the workbench look there.
+    // The option of the workbench that selects this folder.
     std::wstring Option() const { return L" --folder \"" + path.wstring() + L"\""; }
 
     const fs::path path;
@@ -36,18 +36,17 @@ struct Result {
     std::string errors;
 };
 
-// Runs the program of this folder, there.
+// "NAME:BEFORE:AFTER " of all changed settings in a report.
+std::string Changes(const Json& report);
+
+// Runs the program in this folder.
 Result RunWorkbench(const std::wstring& arguments, const fs::path& folder = ProgramFolder());
 
-// Null when it is not JSON.
-Json ParseJson(const std::string& text);
-
-// What a command that must succeed writes as JSON.
+// The JSON that a command writes. The command must succeed.
 Json RunForJson(const std::wstring& arguments);
 
-// A command that must fail says on the error output what is wrong, by this regular expression, and writes
-// nothing else.
-void ExpectFailure(const std::wstring& arguments, int exitCode, const std::string& says);
+// Runs a command that must fail with a message that matches this regular expression and without other output.
+void ExpectFailure(const std::wstring& arguments, int exitCode, const std::string& message);
 
 // One field of every row of a table.
 Json Pick(const Json& rows, const char* field);

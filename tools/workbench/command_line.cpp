@@ -1,8 +1,10 @@
-// The command line: see the header. The one file that uses the library for command lines.
+// The commands of the program with their options. Only this file uses the command-line library.
 #include "workbench/command_line.h"
 
+#include "common/choices.h"
 #include "workbench/commands/commands.h"
 #include "workbench/lib/dialog_script.h"
+#include "workbench/lib/model_dialogs.h"
 #include "workbench/lib/printer_scene.h"
 
 #include <CLI/CLI.hpp>
@@ -27,7 +29,7 @@ Run WithAddress(CLI::App& command) {
 template <Document (*kCommand)(const FamilyFiles& family, const std::string& out)>
 Run WithOut(CLI::App& command) {
     const auto out = std::make_shared<std::string>();
-    command.add_option("--out", *out, "Where to write the PNG file")->type_name("FILE")->required();
+    command.add_option("--out", *out, "The PNG file to write")->type_name("FILE")->required();
     return [out](const FamilyFiles& family) { return kCommand(family, *out); };
 }
 
@@ -46,11 +48,10 @@ Run SetUpCapabilities(CLI::App& command) {
 
 Run SetUpAddress(CLI::App& command) {
     const auto options = std::make_shared<AddressOptions>();
-    CLI::Option* record = command
-                              .add_option("--record", options->record,
-                                          "Takes it from a settings record that carries this address")
-                              ->type_name("TEXT");
-    command.add_option("--queue", options->queue, "Finds that of this print queue's printer")
+    CLI::Option* record =
+        command.add_option("--record", options->record, "Reads it from a settings record with this address")
+            ->type_name("TEXT");
+    command.add_option("--queue", options->queue, "Finds the address of this print queue's printer")
         ->type_name("NAME")
         ->excludes(record);
     return [options](const FamilyFiles& family) { return FindAddress(family, *options); };
@@ -58,79 +59,89 @@ Run SetUpAddress(CLI::App& command) {
 
 Run SetUpView(CLI::App& command) {
     const auto options = std::make_shared<ViewOptions>();
-    command.add_option("--out", options->out, "Where to write the picture")->type_name("FILE")->required();
-    command.add_option("--size", options->size, "Of the picture in pixels (200x200)")->type_name("WxH");
+    command.add_option("--out", options->out, "The PNG file to write")->type_name("FILE")->required();
+    command.add_option("--size", options->size, "Size of the picture in pixels (default: 200x200)")
+        ->type_name("WxH");
     AddSetOption(command, options->assignments);
     command
         .add_option("--from", options->from,
-                    "Takes the options that the printer at this address reports; --set wins")
+                    "Uses the options that the printer at this address reports; --set overrides them")
         ->type_name("ADDRESS");
     command
         .add_option("--machine", options->machine,
-                    "Offers a second machine of this name and selects it, so that its name appears")
+                    "Adds a second machine of this name and selects it, so that the picture shows its name")
         ->type_name("NAME");
     command.add_option("--tray", options->tray, "The paper source in use, such as InTray1")->type_name("KEY");
     command
         .add_option("--output-flag", options->outputFlags,
-                    "Marks an output destination as in use, 1 to 9; may be repeated")
+                    "Marks an output destination as in use, 1 to 9; can be repeated")
         ->type_name("N")
         ->check(CLI::Range(kFirstOutputFlag, kLastOutputFlag).description(""))
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
-    command.add_flag("--machine-only", options->machineOnly, "Leaves out the paper's way");
+    command.add_flag("--machine-only", options->machineOnly, "Omits the paper path");
     return [options](const FamilyFiles& family) { return DrawView(family, *options); };
 }
 
 Run SetUpMontage(CLI::App& command) {
     const auto out = std::make_shared<std::string>();
     const auto pictures = std::make_shared<std::vector<std::string>>();
-    command.add_option("--out", *out, "Where to write the sheet")->type_name("FILE")->required();
+    command.add_option("--out", *out, "The PNG file to write")->type_name("FILE")->required();
     command.add_option("PICTURE", *pictures, "PNG files")->required();
     return [=](const FamilyFiles& /*family*/) { return MakeMontage(*pictures, *out); };
 }
 
+std::string DialogHelp() {
+    std::string kinds[2]; // colours, trays
+    for (const ModelDialog& dialog : AllDialogs()) {
+        std::string& ids = kinds[dialog.isForTrays ? 1 : 0];
+        ids += (ids.empty() ? "" : ", ") + std::to_string(dialog.id);
+    }
+    return "The dialog: " + kinds[0] + " (colours) or " + kinds[1] + " (trays)";
+}
+
 Run SetUpDialog(CLI::App& command) {
     const auto options = std::make_shared<DialogOptions>();
-    command
-        .add_option("ID", options->id, "The dialog: 122 to 125 or 128 of colours, 155, 165 or 166 of trays")
-        ->required();
-    command.add_option("--out", options->out, "Saves a picture of what OK or Cancel ends")->type_name("FILE");
+    command.add_option("ID", options->id, DialogHelp())->required();
+    command.add_option("--out", options->out, "Saves a picture of the dialog before it closes")
+        ->type_name("FILE");
     command
         .add_option("--script", options->script,
-                    "Runs these actions; a dialog that they leave open is cancelled")
+                    "Runs these actions, then cancels the dialog if it is still open")
         ->type_name("FILE");
-    command.add_flag("--open", options->waitsForPerson, "Leaves the dialog to a person, after the script");
-    command.add_option("--profiles", options->profiles, "Colour profiles that the printer holds (JSON)")
+    command.add_flag("--open", options->waitsForPerson,
+                     "Leaves the dialog open for a person after the script");
+    command.add_option("--profiles", options->profiles, "Colour profiles stored in the printer (JSON)")
         ->type_name("FILE");
     command
         .add_option("--settings", options->settings,
-                    "Settings to begin with, a record of 7808 bytes (the model's defaults)")
+                    "Initial settings, a record of 7808 bytes (default: the model's defaults)")
         ->type_name("FILE");
     command
-        .add_option(
-            "--from", options->from,
-            "Papers in the trays as a printer (IPv4 address or host name) tells them; otherwise unknown")
+        .add_option("--from", options->from,
+                    "Uses the papers that the printer at this address reports; otherwise they are unknown")
         ->type_name("ADDRESS");
-    command.add_flag("--short-rgb", options->isShort, "Offers device RGB and sRGB as RGB sources only");
-    command.add_flag("--locked", options->isLocked, "The user may look, but not change");
+    command.add_flag("--short-rgb", options->isShort, "Offers only device RGB and sRGB as RGB sources");
+    command.add_flag("--locked", options->isLocked, "Shows the settings without allowing changes");
     command.footer(ScriptHelp());
     return [options](const FamilyFiles& family) { return UseDialog(family, *options); };
 }
 
 Run SetUpRun(CLI::App& command) {
     const auto file = std::make_shared<std::string>();
-    command.add_option("--state", *file, "Where settings are kept (a file of the user's)")->type_name("FILE");
+    command.add_option("--state", *file, "Where to keep the settings (default: a file of the user's)")
+        ->type_name("FILE");
     return [file](const FamilyFiles& family) { return RunSheet(family, *file); };
 }
 
 Run SetUpTour(CLI::App& command) {
     const auto options = std::make_shared<TourOptions>();
     command.add_option("--out", options->out, "Folder for the pictures")->type_name("DIR")->required();
-    command.add_option("--from", options->from, "Asks this printer (IPv4 address or host name)")
+    command.add_option("--from", options->from, "Queries this printer (IPv4 address or host name)")
         ->type_name("ADDRESS");
-    command.add_option("--state", options->state, "Where settings are kept; otherwise nowhere")
+    command.add_option("--state", options->state, "Where to keep the settings; otherwise they are not kept")
         ->type_name("FILE");
-    command.add_flag("--reset", options->resets, "Puts everything back at the end");
+    command.add_flag("--reset", options->resets, "Resets all settings at the end");
     return [options](const FamilyFiles& family) { return TourSheet(family, *options); };
 }
 
@@ -139,20 +150,22 @@ constexpr struct {
     const char* summary;
     Run (*setUp)(CLI::App& command); // adds the command's own options
 } kCommands[] = {
-    {"describe", "Shows what the model offers: switches, facts, ranges and lists", WithoutOptions<Describe>},
-    {"capabilities", "Asks the module for paper sources, duplex and stapling", SetUpCapabilities},
-    {"defaults", "Shows the built-in default settings, field by field", WithoutOptions<ShowDefaults>},
-    {"query", "Asks a printer by SNMP for options, supplies, overlays and profiles", WithAddress<AskBySnmp>},
-    {"status", "Asks a printer through the bidirectional library for options and input trays",
+    {"describe", "Shows the model: switches, facts, ranges and lists", WithoutOptions<Describe>},
+    {"capabilities", "Shows the paper sources, duplex and stapling that the module reports",
+     SetUpCapabilities},
+    {"defaults", "Shows the default settings, field by field", WithoutOptions<ShowDefaults>},
+    {"query", "Queries a printer by SNMP for options, supplies, overlays and profiles",
+     WithAddress<AskBySnmp>},
+    {"status", "Queries a printer through the bidirectional library for options and trays",
      WithAddress<AskByLibrary>},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", WithoutOptions<ShowTexts>},
-    {"address", "Asks the module for the network address of a printer", SetUpAddress},
-    {"view", "Has the module draw the printer with its options", SetUpView},
-    {"logo", "Has the module draw the logo", WithOut<DrawLogo>},
-    {"gallery", "Has the module draw all telling pictures of the printer on one sheet", WithOut<DrawGallery>},
-    {"montage", "Puts pictures on one sheet", SetUpMontage},
-    {"dialog", "Opens one of the model's dialogs, uses it and shows what changes", SetUpDialog},
-    {"run", "Opens the property sheet, as a user of the driver sees it", SetUpRun},
+    {"address", "Shows the network address that the module finds for a printer", SetUpAddress},
+    {"view", "Saves the module's picture of the printer with its options", SetUpView},
+    {"logo", "Saves the module's logo", WithOut<DrawLogo>},
+    {"gallery", "Saves a sheet of the module's pictures of the printer", WithOut<DrawGallery>},
+    {"montage", "Combines pictures on one sheet", SetUpMontage},
+    {"dialog", "Opens one of the model's dialogs, uses it and shows the changes", SetUpDialog},
+    {"run", "Opens the property sheet as a user of the driver sees it", SetUpRun},
     {"tour", "Opens the property sheet, uses its pages and saves a picture of each", SetUpTour},
 };
 
@@ -163,37 +176,37 @@ void AddCommands(CLI::App& app, CommandLine& line) {
         CLI::App& command = *app.add_subcommand(row.name, row.summary)->group("Commands");
         command
             .add_option("--folder", line.folder,
-                        "Where TELMAR_D.DLL and TELMAR_D.PRM lie (beside the program)")
+                        "Folder of TELMAR_D.DLL and TELMAR_D.PRM (default: the program's)")
             ->type_name("DIR");
         command.add_flag("--json", line.json, "Writes JSON instead of text");
         command.callback([&line, run = row.setUp(command)] { line.run = run; });
     }
 }
 
-// What may stand in this place of the line: the commands, if it has any, and the options.
-std::string Choices(const CLI::App& place) {
-    std::string choices;
+// The commands, if there are any, and the options at this place of the line.
+std::string ChoicesAt(const CLI::App& place) {
+    std::vector<std::string> names;
     for (const CLI::App* command : place.get_subcommands([](const CLI::App*) { return true; }))
-        choices += command->get_name() + ", ";
+        names.push_back(command->get_name());
     for (const CLI::Option* option : place.get_options())
-        choices += option->get_name() + ", ";
-    return choices.substr(0, choices.size() - 2); // --help is always there
+        names.push_back(option->get_name());
+    return Choices(names);
 }
 
-// Why the line can't be carried out. A word that is not known explains more than what is missing without it.
-std::string Complaint(const CLI::App& app, const CLI::ParseError& error) {
+// What is wrong with the line. An unknown word is reported first: it often explains what is missing.
+std::string ParseErrorText(const CLI::App& app, const CLI::ParseError& error) {
     if (app.remaining_size(true) == 0)
         return error.what();
     const bool inCommand = app.remaining_size() == 0;
     const CLI::App& place = inCommand ? *app.get_subcommands().front() : app;
     return (inCommand ? place.get_name() + " has no option '" : "no command '") + place.remaining().front()
-           + "'; possible: " + Choices(place);
+           + "'; " + ChoicesAt(place);
 }
 
 } // namespace
 
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
-    CLI::App app("Shows what the QUORVANE lumora R880 driver module TELMAR_D.DLL answers", "workbench");
+    CLI::App app("Shows how the QUORVANE lumora R880 driver module TELMAR_D.DLL behaves", "workbench");
     CommandLine line;
     AddCommands(app, line);
     try {
@@ -201,7 +214,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
     } catch (const CLI::CallForHelp&) {
         line.help = app.help();
     } catch (const CLI::ParseError& error) {
-        throw Failure(kExitUsage, Complaint(app, error));
+        throw Failure(kExitUsage, ParseErrorText(app, error));
     }
     return line;
 }

@@ -1,4 +1,4 @@
-// The command line: which command with which options.
+// Parsing of the command line.
 #ifndef WORKBENCH_COMMAND_LINE_H
 #define WORKBENCH_COMMAND_LINE_H
 
@@ -7,14 +7,14 @@
 #include <functional>
 
 struct CommandLine {
-    std::string folder; // of the driver's files, UTF-8; empty: the program's own
+    std::string folder; // of the driver's files, UTF-8; empty: the program's folder
     bool json = false;
     std::function<Document(const FamilyFiles& family)> run;
-    std::string help; // to be shown instead, when it was asked for
+    std::string help; // not empty: to be shown instead of running a command
 };
 
-// Reads the arguments (UTF-8, without the program's name). Throws Failure that says what can't be carried out
-// and what is possible.
+// Parses the arguments (UTF-8, without the program's name). Throws Failure that says what is wrong and what
+// is possible.
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments);
 
 #endif

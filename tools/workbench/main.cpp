@@ -1,27 +1,28 @@
-// workbench: opens the driver's files, runs the command of the line and writes its document. Exit codes: 0,
-// kExitFailed, kExitUsage.
+// workbench: opens the driver's files, runs the command and writes its document. Exit codes: 0, kExitFailed,
+// kExitUsage.
 #include "workbench/command_line.h"
 #include "workbench/lib/json_form.h"
 #include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 #include "workbench/lib/text_form.h"
 
 namespace {
 
-// Without arguments a person has started the program, from the desktop or a console.
-bool IsStartedByPerson(int argc) {
+// A start without arguments, from the desktop or a console, opens the property sheet.
+bool IsStartedWithoutArguments(int argc) {
     return argc < 2;
 }
 
-// The desktop gives the program a console of its own, where there is nothing to be seen.
-void LeaveOwnConsole() {
+// Closes the console if the program is alone in it: the desktop has opened it for nothing.
+void CloseOwnConsole() {
     DWORD others[2];
     if (GetConsoleProcessList(others, 2) == 1)
         FreeConsole();
 }
 
 std::vector<std::string> Arguments(int argc, wchar_t** argv) {
-    if (IsStartedByPerson(argc)) {
-        LeaveOwnConsole();
+    if (IsStartedWithoutArguments(argc)) {
+        CloseOwnConsole();
         return {"run"};
     }
     std::vector<std::string> arguments;
@@ -40,9 +41,9 @@ void RunProgram(int argc, wchar_t** argv) {
     Print(STD_OUTPUT_HANDLE, line.json ? JsonForm(document, 2) + "\n" : TextForm(document));
 }
 
-void TellFailure(int argc, const char* failure) {
-    if (IsStartedByPerson(argc))
-        TellPerson(failure);
+void ReportFailure(int argc, const char* failure) {
+    if (IsStartedWithoutArguments(argc))
+        ShowWarning(failure);
     else
         Print(STD_ERROR_HANDLE, std::string("workbench: ") + failure + "\n");
 }
@@ -54,10 +55,10 @@ int wmain(int argc, wchar_t** argv) {
         RunProgram(argc, argv);
         return 0;
     } catch (const Failure& failure) {
-        TellFailure(argc, failure.what());
+        ReportFailure(argc, failure.what());
         return failure.exitCode;
     } catch (const std::exception& error) {
-        TellFailure(argc, error.what());
+        ReportFailure(argc, error.what());
         return kExitFailed;
     }
 }

@@ -1,14 +1,13 @@
-// `workbench address`: asks the module's DDProc_GetPrinterIPAddress as the user-interface module does, for
-// the size first, then for the address; of a settings record that carries an address, or of a print queue.
-#include "base/records.h"
+// `workbench address`: calls the module's DDProc_GetPrinterIPAddress as the user-interface module does, first
+// for the size, then for the address: with a settings record that contains an address, or for a print queue.
 #include "workbench/commands/commands.h"
-#include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 
 namespace {
 
 using Export = decltype(&DDProc_GetPrinterIPAddress);
 
-// The caller's settings record; it carries the address when there is one.
+// The caller's settings record, with the address if there is one.
 std::vector<uint8_t> MakeRecord(const std::wstring* address) {
     std::vector<uint8_t> record(sizeof(AddressSettings));
     if (address != nullptr) {
@@ -23,7 +22,7 @@ std::vector<uint8_t> MakeRecord(const std::wstring* address) {
 struct Call {
     bool succeeded;
     DWORD bufferSize;
-    DWORD neededSize; // 0: not told
+    DWORD neededSize; // 0: not reported
     DWORD lastError;
     std::string text;
 };
@@ -52,16 +51,16 @@ Document CallDocument(const Call& call) {
 
 [[noreturn]] void FailOnRecord() {
     throw Failure(kExitFailed,
-                  "the record's address is empty or can't be converted to the system's code page; "
-                  "give another with --record");
+                  "the record's address is empty or cannot be converted to the system's code page; specify "
+                  "another with --record");
 }
 
 [[noreturn]] void FailOnQueue(const std::string& queue, DWORD error) {
     const std::string what = error == ERROR_INVALID_PRINTER_NAME
                                  ? "there is no such print queue"
-                                 : "its port can't be read, or no port monitor knows the port's address";
+                                 : "its port cannot be read, or no port monitor knows the port's address";
     throw Failure(kExitFailed, "print queue '" + queue + "': " + what + " (" + ErrorText(error)
-                                   + "); name a queue of this system on a network port, or give the address "
+                                   + "); specify a queue of this system with a network port, or the address "
                                      "itself with --record");
 }
 

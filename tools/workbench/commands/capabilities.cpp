@@ -1,5 +1,5 @@
-// `workbench capabilities`: asks the module's DDProc_DeviceCapabilities with the option features set as
-// wanted.
+// `workbench capabilities`: calls the module's DDProc_DeviceCapabilities with the option features as
+// assigned.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/capability_questions.h"
 

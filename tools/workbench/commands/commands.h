@@ -1,6 +1,6 @@
-// The commands of the program: functions from the driver's files and plain options to a document. A new
+// The commands of the program. Each takes the driver's files and plain options and returns a document. A new
 // command is one file, one declaration here, and its name and options in command_line.cpp. All texts are
-// UTF-8. Each throws Failure when it can't answer.
+// UTF-8. All commands throw Failure when they cannot answer.
 #ifndef WORKBENCH_COMMANDS_COMMANDS_H
 #define WORKBENCH_COMMANDS_COMMANDS_H
 
@@ -10,16 +10,16 @@
 #include <string>
 #include <vector>
 
-// What the model offers: switches, facts, ranges and every list, from the parameter data file.
+// The device table: switches, facts, ranges and all lists of the model; and its paper sources.
 Document Describe(const FamilyFiles& family);
 
-// The built-in default settings: every field with its offset and value.
+// The default print settings: every field with its offset and value.
 Document ShowDefaults(const FamilyFiles& family);
 
 // The texts of the dialogs' controls, the colour lists, and the lists and columns of the tray settings.
 Document ShowTexts(const FamilyFiles& family);
 
-// What the module answers to the device-capability questions, with options set as by SetOption.
+// What the module answers about device capabilities, with options assigned as by SetOption.
 Document AskCapabilities(const FamilyFiles& family, const std::vector<std::string>& assignments);
 
 // What a printer answers to SNMP requests: options, supplies, overlays and colour profiles.
@@ -28,14 +28,15 @@ Document AskBySnmp(const FamilyFiles& family, const std::string& agent);
 // What a printer answers through the bidirectional library: options and input trays.
 Document AskByLibrary(const FamilyFiles& family, const std::string& agent);
 
-// The network address that the module finds for a print queue or in a settings record; one of the two.
+// The network address that the module finds for a print queue or in a settings record; one of the two is
+// given.
 struct AddressOptions {
     std::optional<std::string> record;
     std::optional<std::string> queue;
 };
 Document FindAddress(const FamilyFiles& family, const AddressOptions& options);
 
-// The picture of the printer with the options as wanted, written as PNG.
+// Writes the picture of the printer as PNG.
 struct ViewOptions {
     std::string out;
     std::string size = "200x200";
@@ -48,16 +49,17 @@ struct ViewOptions {
 };
 Document DrawView(const FamilyFiles& family, const ViewOptions& options);
 
-// The logo picture of the version page, written as PNG.
+// Writes the logo of the version page as PNG.
 Document DrawLogo(const FamilyFiles& family, const std::string& out);
 
-// One sheet of all telling pictures of the printer, written as PNG.
+// Writes one sheet of pictures of the printer as PNG.
 Document DrawGallery(const FamilyFiles& family, const std::string& out);
 
-// Pictures on one sheet, written as PNG.
+// Writes one sheet of the given pictures as PNG.
 Document MakeMontage(const std::vector<std::string>& paths, const std::string& out);
 
-// One of the model's dialogs, used by a script or a person: what it shows and which settings it changes.
+// Opens one of the model's dialogs for a script or a person; returns what it shows and which settings it
+// changes.
 struct DialogOptions {
     std::string id;
     std::optional<std::string> out;
@@ -71,10 +73,11 @@ struct DialogOptions {
 };
 Document UseDialog(const FamilyFiles& family, const DialogOptions& options);
 
-// The property sheet, for a person; its settings are kept in this file, of the user's own when it is empty.
+// The property sheet, for a person. Its settings are kept in this file, or in the user's own if the name is
+// empty.
 Document RunSheet(const FamilyFiles& family, const std::string& file);
 
-// The same, used by the program: a picture of each page.
+// The property sheet, used by the program. Saves a picture of each page.
 struct TourOptions {
     std::string out;
     std::string from;

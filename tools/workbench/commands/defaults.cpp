@@ -1,13 +1,11 @@
-// `workbench defaults`: the built-in default of the private print settings, field by field, as the parameter
-// data file has set it.
-#include "paramdata/default_settings.h"
+// `workbench defaults`: the default print settings, field by field, as the parameter data file has set them.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/record_fields.h"
 #include "workbench/lib/settings_fields.h"
 
 namespace {
 
-// The slots in use, with the offset of each of their parts.
+// The slots in use, with the offset of each part.
 Document FontTable(const OemDevmode& settings) {
     constexpr UINT kJapanese = 932; // code page of the names
     Document rows = Document::MakeList();

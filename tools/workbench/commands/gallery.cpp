@@ -1,9 +1,7 @@
-// `workbench gallery`: has the module draw the printer in every combination that tells something, and writes
-// one sheet of them with a caption under each.
+// `workbench gallery`: one sheet with the module's pictures of the printer in all instructive combinations of
+// units, paper sources and output destinations, each with a caption.
 #include "workbench/commands/commands.h"
-#include "workbench/lib/output.h"
-#include "workbench/lib/picture_file.h"
-#include "workbench/lib/picture_text.h"
+#include "workbench/lib/picture.h"
 #include "workbench/lib/printer_scene.h"
 
 #include <iterator>
@@ -14,7 +12,7 @@ constexpr size_t kMaxSettings = 5;
 
 struct Row {
     const char* caption;
-    const char* settings[kMaxSettings]; // "FEATURE=ITEM"; all others are the model's defaults
+    const char* settings[kMaxSettings]; // "FEATURE=ITEM"; all others have the model's defaults
     const char* tray = "";
     int outputFlag = 0; // 0: none
     const char* machine = nullptr;
@@ -32,8 +30,7 @@ constexpr const char* kPrinter = "OpBody=OpBodyPrinter";
 
 // clang-format off
 
-// Line by line as on the sheet: what is installed, where the paper comes from, where it goes. Mail bins hide the
-// saddle kit.
+// In the lines of the sheet: installed units, paper sources, output destinations. Mail bins hide the saddle kit.
 constexpr Row kRows[] = {
     {"No options",                         {}},
     {"Large-capacity unit",                {kLct}},
@@ -108,7 +105,7 @@ PrinterScene SceneOf(const FamilyFiles& family, const Row& row) {
 }
 
 void DrawCell(const FamilyFiles& family, const Row& row, HDC to, POINT at) {
-    // Cells share their edges with their neighbours.
+    // Adjacent cells share an edge.
     const RECT edge = {at.x, at.y, at.x + kCell.cx + 1, at.y + kCell.cy + 1};
     SetDCBrushColor(to, kGridColor);
     FrameRect(to, &edge, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
@@ -126,7 +123,7 @@ Document DrawGallery(const FamilyFiles& family, const std::string& out) {
     const Canvas sheet(kSheet);
     DrawLine(sheet.context, {kMargin, kMargin, kSheet.cx - kMargin, kMargin + kTitleHeight}, kTitleStyle,
              kTitle);
-    POINT place = {0, 0}; // counted in cells
+    POINT place = {0, 0}; // in cells
     for (const Row& row : kRows) {
         DrawCell(family, row, sheet.context,
                  {kMargin + place.x * kCell.cx, kMargin + kTitleHeight + place.y * kCell.cy});

@@ -1,7 +1,6 @@
-// `workbench logo`: has the module draw the logo picture of the version page, and writes it.
-#include "telmar_d.h"
+// `workbench logo`: the module's logo of the version page as a picture.
 #include "workbench/commands/commands.h"
-#include "workbench/lib/picture_file.h"
+#include "workbench/lib/picture.h"
 
 namespace {
 

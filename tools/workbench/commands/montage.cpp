@@ -1,8 +1,7 @@
-// `workbench montage`: puts pictures on one sheet, each with its name below it. Pictures of one width stand
-// in one column, in the order in which they are named.
+// `workbench montage`: one sheet of several pictures, each with its file name below. Pictures of the same
+// width are placed in one column, in the order of the command line.
 #include "workbench/commands/commands.h"
-#include "workbench/lib/picture_file.h"
-#include "workbench/lib/picture_text.h"
+#include "workbench/lib/picture.h"
 
 #include <algorithm>
 
@@ -15,7 +14,7 @@ constexpr LONG kCaptionHeight = 22;
 struct Column {
     LONG width;
     LONG left;
-    LONG bottom; // of what stands in it
+    LONG bottom; // of the pictures placed so far
 };
 
 struct Placed {
@@ -24,7 +23,7 @@ struct Placed {
     POINT at;
 };
 
-// The column for pictures of this width; a new one behind the others where there is none yet.
+// The column for pictures of this width, added on the right if there is none yet.
 Column& ColumnFor(std::vector<Column>& columns, LONG width) {
     const auto found = std::find_if(columns.begin(), columns.end(),
                                     [width](const Column& column) { return column.width == width; });

@@ -1,8 +1,7 @@
-// `workbench query`: asks a printer by SNMP through the module's exports: reachable, options, supplies,
-// overlays and colour profiles. The questions are those of the module's own tables.
+// `workbench query`: queries a printer by SNMP through the module's exports: its options, supplies, overlays
+// and colour profiles, as the module's own tables list them.
 #include "workbench/commands/commands.h"
-#include "workbench/lib/device_options.h"
-#include "workbench/lib/device_resources.h"
+#include "workbench/lib/printer_queries.h"
 #include "workbench/lib/record_fields.h"
 
 namespace {
@@ -50,7 +49,7 @@ Document Profiles(const FamilyFiles& family, const std::string& agent) {
 } // namespace
 
 Document AskBySnmp(const FamilyFiles& family, const std::string& agent) {
-    CheckSnmpRoad(family, agent);
+    CheckSnmpAccess(family, agent);
     return {
         {"printer", {{"address", agent}}},
         {"options", OptionAnswersDocument(AskOptionsBySnmp(family, agent))},

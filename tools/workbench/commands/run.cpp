@@ -1,4 +1,4 @@
-// `workbench run`: the property sheet, as a user of the driver sees it; what it changes is kept between runs.
+// `workbench run`: the property sheet as a user of the driver sees it. Its settings are kept between runs.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/output.h"
 #include "workbench/property_sheet/sheet_window.h"
@@ -7,8 +7,8 @@ Document RunSheet(const FamilyFiles& family, const std::string& file) {
     const Library templates = OpenTemplates(family);
     SheetState state(family, templates.get());
     state.file = file.empty() ? StateFile() : std::filesystem::u8path(file);
-    if (const std::string trouble = LoadState(state); !trouble.empty())
-        TellPerson(trouble);
+    if (const std::string warning = LoadState(state); !warning.empty())
+        ShowWarning(warning);
     SheetWindow sheet(state);
     while (sheet.HandleMessages()) {}
     return {{"settings", {{"keptIn", state.file.u8string()}}}};

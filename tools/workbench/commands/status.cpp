@@ -1,12 +1,12 @@
-// `workbench status`: asks a printer through the bidirectional library, by the module's exports: whether the
-// library is usable and the device answers and is this model, its options, its input trays.
+// `workbench status`: queries a printer through the bidirectional library by the module's exports: whether
+// the library is usable, the device responds and is of this model, its options, its input trays.
 #include "workbench/commands/commands.h"
-#include "workbench/lib/device_options.h"
+#include "workbench/lib/printer_queries.h"
 #include "workbench/lib/record_fields.h"
 
 namespace {
 
-// Null where the driver has no word for what the device tells.
+// Null where the driver has no key for what the device reports.
 template <auto kField>
 Document ShowKey(const void* record) {
     const Document key = Show<kField>(record);
@@ -26,21 +26,21 @@ constexpr Field kTrayFields[] = {
 
 } // namespace
 
-// A question that depends on one that was answered by no is not asked: null.
+// What was not checked because a previous check failed is null.
 Document AskByLibrary(const FamilyFiles& family, const std::string& agent) {
-    const LibraryRoad road = TryLibraryRoad(family, agent);
+    const LibraryAccess access = CheckLibraryAccess(family, agent);
     Document document;
     document["printer"] = {
         {"address", agent},
-        {"libraryUsable", road.isUsable},
-        {"reached", road.isUsable ? Document(road.isReached) : Document()},
-        {"thisModel", road.isReached ? Document(road.isThisModel) : Document()},
+        {"libraryUsable", access.isUsable},
+        {"reached", access.isUsable ? Document(access.isReached) : Document()},
+        {"thisModel", access.isReached ? Document(access.isThisModel) : Document()},
     };
-    if (!road.isThisModel)
-        document["printer"]["hint"] = Hint(family, road);
+    if (!access.isThisModel)
+        document["printer"]["hint"] = AccessHint(family, access);
     document["options"] = nullptr;
     document["trays"] = nullptr;
-    if (road.isThisModel) {
+    if (access.isThisModel) {
         document["options"] = OptionAnswersDocument(AskOptionsByLibrary(family, agent));
         document["trays"] = RowsDocument(AskTraysByLibrary(family, agent), kTrayFields);
     }

@@ -1,14 +1,7 @@
-// `workbench texts`: what the dialogs of the model say and offer: the texts of their controls, the colour
-// lists, and the lists and columns of the tray settings.
-#include "paramdata/color_tables.h"
-#include "paramdata/control_texts.h"
-#include "paramdata/device_table.h"
-#include "trays/media_type_lists.h"
-#include "trays/tray_settings.h"
+// `workbench texts`: the texts and lists of the model's dialogs: the texts of their controls, the colour
+// lists, and the lists and columns of the tray-setting dialogs.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/record_fields.h"
-
-#include <iterator>
 
 namespace {
 
@@ -21,40 +14,7 @@ const struct {
     {"Dlg_PaperSourceTraySetting", trayDialogTexts},
 };
 
-struct ColorList {
-    const char* name; // of the entry; "short": of the table that takes its first two items
-    const ItemRecord* items;
-};
-
-constexpr ColorList kColorLists[] = {
-    {"RGBProf", colorTables.rgbProfiles.items},
-    {"Text_RGBProf", colorTables.text.rgbProfiles.items},
-    {"Text_RGBProf short", colorTables.text.shortRgbProfiles.items},
-    {"Text_RGBColorMatch", colorTables.text.colorMatches.items},
-    {"Text_RGBGray", colorTables.text.grays.items},
-    {"Text_Halftone", colorTables.text.halftones.items},
-    {"Img_RGBProf", colorTables.image.rgbProfiles.items},
-    {"Img_RGBProf short", colorTables.image.shortRgbProfiles.items},
-    {"Img_RGBColorMatch", colorTables.image.colorMatches.items},
-    {"Img_RGBGray", colorTables.image.grays.items},
-    {"Img_Halftone", colorTables.image.halftones.items},
-    {"Graph_RGBProf", colorTables.graphics.rgbProfiles.items},
-    {"Graph_RGBProf short", colorTables.graphics.shortRgbProfiles.items},
-    {"Graph_RGBColorMatch", colorTables.graphics.colorMatches.items},
-    {"Graph_RGBGray", colorTables.graphics.grays.items},
-    {"Graph_Halftone", colorTables.graphics.halftones.items},
-    {"SimulationProf", colorTables.simulations.items},
-    {"DestinationProf", colorTables.destinations.items},
-    {"Simu_CMYKGray", colorTables.simulationGrays.items},
-};
-
-constexpr ColorList kDestinationLists[] = {
-    {"Text_Destination", colorTables.text.destinations.items},
-    {"Img_Destination", colorTables.image.destinations.items},
-    {"Graph_Destination", colorTables.graphics.destinations.items},
-};
-
-// Without the unused places, which are 0.
+// Without the unused elements at the end, which are 0.
 Document Identifiers(const ControlTextRecord& row) {
     Document identifiers = Show<&ControlTextRecord::identifiers>(&row);
     while (identifiers.Elements().back().Integer() == 0)
@@ -62,26 +22,29 @@ Document Identifiers(const ControlTextRecord& row) {
     return identifiers;
 }
 
-Document ControlTexts(const ControlTextRecord* row) {
+Document ControlTexts(const ControlTextRecord* texts) {
     Document rows = Document::MakeList();
-    for (; row->key[0] != 0; ++row)
+    for (const ControlTextRecord& row : Listed(texts))
         rows.Add({
-            {"identifiers", Identifiers(*row)},
-            {"key", ToDocument(row->key)},
-            {"text", Show<&ControlTextRecord::display>(row)},
+            {"identifiers", Identifiers(row)},
+            {"key", ToDocument(row.key)},
+            {"text", Show<&ControlTextRecord::display>(&row)},
         });
     return rows;
 }
 
-template <size_t N>
-Document ColorLists(const ColorList (&lists)[N]) {
-    Document document;
-    for (const ColorList& list : lists)
-        document[list.name] = ListDocument(list.items, kNamed<ItemRecord>);
-    return document;
+// The lists by the entries that fill them. An entry may fill a second, short list with its first items.
+void AddColorLists(Document& document) {
+    for (size_t i = 0; ColorTableAt(i).entry != nullptr; ++i) {
+        const NamedColorTable table = ColorTableAt(i);
+        Document& lists = document[table.isDestinationList ? "destinations" : "colorLists"];
+        lists[table.entry] = ListDocument(table.items, kNamed<ItemRecord>);
+        if (table.shortItems != nullptr)
+            lists[std::string(table.entry) + " short"] = ListDocument(table.shortItems, kNamed<ItemRecord>);
+    }
 }
 
-// Under the keys of their columns; the first column is the tray itself. Null without memory for the lists.
+// By the keys of their columns, of which the first is the tray itself. Null when memory was exhausted.
 Document MediaTypes() {
     Document document;
     for (size_t i = 0; mediaTypeLists != nullptr && i < kMediaTypeListCount; ++i)
@@ -89,6 +52,7 @@ Document MediaTypes() {
     return document;
 }
 
+// Each column but the first shows an attribute, which decides whether the column is shown.
 Document Columns(const DeviceTable& table) {
     Document rows = Document::MakeList();
     for (size_t i = 0; i <= kMediaTypeListCount; ++i)
@@ -107,8 +71,7 @@ Document ShowTexts(const FamilyFiles& family) {
     document["files"] = FamilyDocument(family);
     for (const auto& table : kControlTexts)
         document["controlTexts"][table.entry] = ControlTexts(table.rows);
-    document["colorLists"] = ColorLists(kColorLists);
-    document["destinations"] = ColorLists(kDestinationLists);
+    AddColorLists(document);
     document["mediaTypeLists"] = MediaTypes();
     document["mediaTypeColumns"] = Columns(*family.table);
     return document;

@@ -1,25 +1,22 @@
-// `workbench tour`: opens the property sheet, uses every page of it as a person would, and saves a picture of
-// each.
-#include "paramdata/default_settings.h"
+// `workbench tour`: opens the property sheet, uses every page as a person would, and saves a picture of each.
 #include "workbench/commands/commands.h"
-#include "workbench/lib/output.h"
 #include "workbench/lib/settings_fields.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
 
 namespace {
 
-constexpr DWORD kLongestWait = 60000; // milliseconds, for a printer's answers
+constexpr DWORD kMaxWait = 60000; // milliseconds, for a printer's answers
 
 struct Tour {
     SheetState& state;
     SheetUser& user;
     PageDriver driver;
     std::filesystem::path folder;
-    std::string status = {}; // of asking the printer
+    std::string status = {}; // of the query
     Document pictures = Document::MakeList();
 
-    void Picture(const std::string& name) {
+    void SavePicture(const std::string& name) {
         pictures.Add(driver.Picture((folder / (name + ".png")).u8string()));
     }
 };
@@ -29,13 +26,13 @@ void VisitPrinter(Tour& tour, const std::string& address) {
     driver.TurnTo(kPrinterPage);
     driver.SetText(ID_ADDRESS, address);
     if (!address.empty()) {
-        driver.Click(ID_ASK);
-        driver.WaitUntil([&] { return !tour.state.isAsking; }, kLongestWait);
+        driver.Click(ID_QUERY);
+        driver.WaitUntil([&] { return !tour.state.isQuerying; }, kMaxWait);
     }
     tour.status = driver.Text(ID_STATUS);
     driver.Choose(ID_OPTIONS, "Fax");
     driver.Choose(ID_OPTION_ITEMS, "Installed");
-    tour.Picture("page-printer");
+    tour.SavePicture("page-printer");
 }
 
 void VisitPaper(Tour& tour) {
@@ -44,19 +41,19 @@ void VisitPaper(Tour& tour) {
     tour.driver.Choose(ID_TYPE, "Letterhead");
     tour.user.script = ParseDialogScript("choose 1844 Tray 2\nchoose 1860 A3\nok", "tour");
     tour.driver.Click(ID_TRAY_BUTTON);
-    tour.Picture("page-paper");
+    tour.SavePicture("page-paper");
 }
 
 void VisitQuality(Tour& tour) {
     tour.driver.TurnTo(kQualityPage);
     tour.user.script = ParseDialogScript("choose 1354 Exact match\nok", "tour");
     tour.driver.Click(ID_COLOR_DIALOG);
-    tour.Picture("page-quality");
+    tour.SavePicture("page-quality");
 }
 
 void VisitVersion(Tour& tour, bool resets) {
     tour.driver.TurnTo(kVersionPage);
-    tour.Picture("page-version");
+    tour.SavePicture("page-version");
     if (resets)
         tour.driver.Click(ID_RESET);
 }
@@ -69,7 +66,7 @@ Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
     SheetUser user;
     state.user = &user;
     state.file = std::filesystem::u8path(options.state);
-    const std::string trouble = LoadState(state);
+    const std::string warning = LoadState(state);
     SheetWindow sheet(state);
     Tour tour = {state, user, PageDriver(sheet), std::filesystem::u8path(options.out)};
     VisitPrinter(tour, options.from);
@@ -81,7 +78,7 @@ Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
         throw Failure(kExitFailed, user.failures.front());
     return {
         {"pictures", tour.pictures},
-        {"settings", {{"keptIn", options.state}, {"trouble", trouble}}},
+        {"settings", {{"keptIn", options.state}, {"trouble", warning}}},
         {"printer", {{"address", state.address}, {"toldBy", state.report.address}, {"status", tour.status}}},
         {"options", OptionsDocument(state.options)},
         {"changes", SettingsChanges(defaultSettings, state.settings)},

@@ -1,7 +1,7 @@
-// Questions about capabilities: see the header.
+// Asks the module for capabilities as applications do: the count first, then the elements.
 #include "workbench/lib/capability_questions.h"
 
-#include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 
 #include <array>
 
@@ -9,7 +9,7 @@ namespace {
 
 using BinName = std::array<wchar_t, TELMAR_BIN_NAME_LENGTH>;
 
-// As applications do: the count first, then the elements. Empty when the module declines.
+// Empty when the module does not answer.
 template <typename Element>
 std::vector<Element> AskList(const CapabilityQuestions& questions, WORD capability) {
     DWORD count = 0;

@@ -1,8 +1,7 @@
-// Questions to the module's DDProc_DeviceCapabilities, with the options as they are set.
+// Calls of the module's DDProc_DeviceCapabilities with the options that are set.
 #ifndef WORKBENCH_LIB_CAPABILITY_QUESTIONS_H
 #define WORKBENCH_LIB_CAPABILITY_QUESTIONS_H
 
-#include "base/records.h"
 #include "workbench/lib/option_features.h"
 
 #include <vector>
@@ -14,13 +13,13 @@ struct PaperSource {
 
 class CapabilityQuestions {
 public:
-    // Both outlive the questions.
+    // Both arguments must outlive the object.
     CapabilityQuestions(const FamilyFiles& family, const OptionFeatures& optionFeatures);
 
-    // False when the module declines.
+    // False when the module does not answer this capability.
     bool Ask(WORD capability, void* output, DWORD& answer) const;
 
-    // Whether the module answers with anything but 0.
+    // Whether the module answers, and with anything but 0.
     bool Has(WORD capability) const;
 
     // DC_BINS with the names of DC_BINNAMES.

@@ -1,10 +1,8 @@
-// A dialog that is run modally: see the header. The script runs from a timer, one action at a time: timers
-// come last, so that each action finds the dialog as the one before it, its paint messages included, has left
-// it.
+// Runs a dialog and its script. A timer runs one action at a time. Timer messages come after all others, so
+// that each action finds the dialog completely updated and painted after the previous one.
 #include "workbench/lib/dialog_run.h"
 
-#include "base/scope_guard.h"
-#include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 
 #include <exception>
 #include <utility>
@@ -17,33 +15,35 @@ constexpr const wchar_t* kDialogClass = L"#32770";
 struct DialogRun {
     const ModelDialog& dialog;
     const DialogUse& use;
+    const HINSTANCE templates;
+    const decltype(&DDProc_DlgProc) dialogProcedure; // the module's
     HWND window = nullptr;
-    bool isCancelled = false; // by the script's end
+    bool isCancelled = false; // at the end of the script
     INT_PTR pressed = 0;      // OK or Cancel
-    bool isPageTold = false;
-    WNDPROC ownProcedure = nullptr; // of a dialog that the module has opened
+    bool isPageNotified = false;
+    WNDPROC originalProcedure = nullptr; // of a dialog that the module has opened
     DialogView atEnd = {};
     std::exception_ptr failure = nullptr;
 };
-DialogRun* running; // the one that runs
+DialogRun* running; // null: none
 
-// What the last action has left.
-void NoteHint(DialogRun& run) {
+// Records the hint that the last action has left.
+void RecordHint(DialogRun& run) {
     const std::string hint = HintOf(run.window);
     Document& done = run.use.script.done;
     if (!done.Elements().empty())
         done.Elements().back()["hint"] = hint.empty() ? Document() : Document(hint);
 }
 
-// What OK or Cancel ends.
-void NoteEnd(DialogRun& run) {
-    NoteHint(run);
+// Records the dialog before OK or Cancel closes it.
+void RecordEnd(DialogRun& run) {
+    RecordHint(run);
     run.atEnd = ViewDialog(run.window);
     if (!run.use.lastPicture.empty())
         run.use.script.pictures.Add(TakePicture(run.window, run.use.lastPicture));
 }
 
-// Carries a failure past the system, which calls what is run here.
+// Exceptions must not pass through the system's callbacks: they are kept and thrown again later.
 template <typename Step>
 bool Try(DialogRun& run, const Step& step) {
     try {
@@ -56,47 +56,47 @@ bool Try(DialogRun& run, const Step& step) {
 }
 
 void Act(DialogRun& run) {
-    NoteHint(run);
+    RecordHint(run);
     if (run.use.script.next < run.use.script.actions.size()) {
         RunNextAction(run.use.script, run.window);
     } else if (!run.use.waitsForPerson) {
         if (std::exchange(run.isCancelled, true))
-            throw Failure(kExitFailed, "the dialog doesn't end at Cancel; the module is at fault");
+            throw Failure(kExitFailed, "the dialog does not close on Cancel: this is an error in the module");
         PressButton(run.window, IDCANCEL);
     }
 }
 
-void NoteCommand(DialogRun& run, UINT message, WPARAM wParam) {
+void RecordCommand(DialogRun& run, UINT message, WPARAM wParam) {
     if (message != WM_COMMAND || (wParam != IDOK && wParam != IDCANCEL))
         return;
     run.pressed = static_cast<INT_PTR>(wParam);
-    Try(run, NoteEnd);
+    Try(run, RecordEnd);
 }
 
 // --- A dialog that the module opens -----------------------------------------------------------------------
 
 LRESULT CALLBACK WatchDialog(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    NoteCommand(*running, message, wParam);
-    return CallWindowProcW(running->ownProcedure, window, message, wParam, lParam);
+    RecordCommand(*running, message, wParam);
+    return CallWindowProcW(running->originalProcedure, window, message, wParam, lParam);
 }
 
 BOOL CALLBACK FindOpened(HWND window, LPARAM /*parameter*/) {
     if (!IsWindowVisible(window) || !IsWindowEnabled(window) || !IsOfClass(window, kDialogClass))
         return TRUE;
     running->window = window;
-    running->ownProcedure = reinterpret_cast<WNDPROC>(
+    running->originalProcedure = reinterpret_cast<WNDPROC>(
         SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchDialog)));
     return FALSE;
 }
 
-// The property sheet, whose page has the button.
+// Stands in for the property sheet, the parent of the page with the button.
 LRESULT CALLBACK SheetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == TELMAR_WM_TRAYS_CHANGED)
-        running->isPageTold = true;
+        running->isPageNotified = true;
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-// Presses the button on a page of its own, which nobody sees. 0 when no dialog has come.
+// Presses the button on an invisible page. 0 with the last error set when no dialog has opened.
 INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
     const HWND sheet =
         CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 0, 0, run.use.owner, nullptr, nullptr, nullptr);
@@ -106,23 +106,24 @@ INT_PTR RunByButton(DialogRun& run, DialogContext& context) {
     SetWindowLongPtrW(page, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
     int32_t handled = 0;
     if (run.use.owner != nullptr)
-        EnableWindow(run.use.owner, FALSE); // the dialog itself sees to `sheet` only
-    run.dialog.answer(TELMAR_TRAY_BUTTON_PAGE, page, WM_COMMAND, TELMAR_TRAY_BUTTON, 0, &handled);
-    const KeepLastError keep; // why no dialog has come
+        EnableWindow(run.use.owner, FALSE); // the dialog itself disables only `sheet`
+    run.dialogProcedure(TELMAR_TRAY_BUTTON_PAGE, page, WM_COMMAND, TELMAR_TRAY_BUTTON, 0, &handled);
+    const DWORD error = GetLastError();
     if (run.use.owner != nullptr)
         EnableWindow(run.use.owner, TRUE);
     DestroyWindow(sheet);
+    SetLastError(error);
     return run.pressed;
 }
 
 // --- A dialog that the workbench opens, as the user-interface module does ---------------------------------
 
-// Hands every message to the module.
+// Passes every message to the module.
 INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     DialogRun& run = *running;
-    NoteCommand(run, message, wParam);
+    RecordCommand(run, message, wParam);
     int32_t handled = 0;
-    const int32_t result = run.dialog.answer(run.dialog.id, window, message, wParam, lParam, &handled);
+    const int32_t result = run.dialogProcedure(run.dialog.id, window, message, wParam, lParam, &handled);
     if (message == WM_INITDIALOG) {
         run.window = window;
         if (handled == 0)
@@ -135,8 +136,8 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 }
 
 INT_PTR RunByTemplate(DialogRun& run, DialogContext& context) {
-    return DialogBoxParamW(run.dialog.templates, MAKEINTRESOURCEW(run.dialog.id), run.use.owner,
-                           DialogProcedure, reinterpret_cast<LPARAM>(&context));
+    return DialogBoxParamW(run.templates, MAKEINTRESOURCEW(run.dialog.id), run.use.owner, DialogProcedure,
+                           reinterpret_cast<LPARAM>(&context));
 }
 
 void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
@@ -151,19 +152,13 @@ void CALLBACK OnTimer(HWND /*window*/, UINT /*message*/, UINT_PTR /*timer*/, DWO
 [[noreturn]] void FailToOpen(const DialogRun& run, DWORD error) {
     const std::string name = "dialog " + std::to_string(run.dialog.id);
     if (run.window != nullptr)
-        throw Failure(kExitFailed, name + ": TELMAR_D.DLL doesn't run this dialog");
-    throw Failure(kExitFailed, name + ": can't be opened (" + ErrorText(error)
+        throw Failure(kExitFailed, name + ": TELMAR_D.DLL does not implement this dialog");
+    throw Failure(kExitFailed, name + ": cannot be opened (" + ErrorText(error)
                                    + "); it needs a display, its template in TELMAR_S.DLL and, for trays, "
-                                     "TELMAR_U.DLL beside the module");
+                                     "TELMAR_U.DLL next to the module");
 }
 
 } // namespace
-
-uint32_t TrayDialogOf(const DeviceTable* table) {
-    constexpr uint32_t kDialogs[] = {0, 155, 165, 166}; // by type
-    const uint32_t type = SwitchValue(table, kSwitchDlgMediaType);
-    return type < std::size(kDialogs) ? kDialogs[type] : 0;
-}
 
 DialogAreas::DialogAreas(OemDevmode& settings, TrayPaperSetting* trays, const PrinterProfiles& profiles)
     : lists(ListsOf(profiles)) {
@@ -175,11 +170,12 @@ DialogAreas::DialogAreas(OemDevmode& settings, TrayPaperSetting* trays, const Pr
     context.trays = trays;
 }
 
-DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const DialogUse& use) {
-    DialogRun run = {dialog, use};
+DialogEnd RunDialog(const FamilyFiles& family, HINSTANCE templates, const ModelDialog& dialog,
+                    DialogContext& context, const DialogUse& use) {
+    DialogRun run = {dialog, use, templates, EXPORT(family, DDProc_DlgProc)};
     running = &run;
     const UINT_PTR timer = SetTimer(nullptr, 0, kActionInterval, OnTimer);
-    const INT_PTR code = dialog.hasButton ? RunByButton(run, context) : RunByTemplate(run, context);
+    const INT_PTR code = dialog.isForTrays ? RunByButton(run, context) : RunByTemplate(run, context);
     const DWORD error = GetLastError();
     KillTimer(nullptr, timer);
     running = nullptr;
@@ -189,6 +185,7 @@ DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const Dia
         FailToOpen(run, error);
     const DialogScript& script = use.script;
     if (script.next < script.actions.size())
-        throw Failure(kExitUsage, script.actions[script.next].place + ": the dialog has ended before this");
-    return {code, run.atEnd, run.isPageTold};
+        throw Failure(kExitUsage,
+                      script.actions[script.next].place + ": the dialog was closed before this action");
+    return {code, run.atEnd, run.isPageNotified};
 }

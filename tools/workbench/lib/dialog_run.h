@@ -1,26 +1,22 @@
-// One of the model's dialogs, run modally: a dialog box whose messages the module answers, as the
-// user-interface module runs it, and a script or a person that uses it.
+// Runs one of the model's dialogs modally, as the user-interface module does: the module handles its
+// messages, and a script or a person uses it.
 #ifndef WORKBENCH_LIB_DIALOG_RUN_H
 #define WORKBENCH_LIB_DIALOG_RUN_H
 
-#include "base/records.h"
-#include "dialogs/shared/dialog_context.h"
-#include "paramdata/device_table.h"
 #include "workbench/lib/dialog_script.h"
 #include "workbench/lib/dialog_view.h"
+#include "workbench/lib/family_files.h"
+#include "workbench/lib/model_dialogs.h"
 #include "workbench/lib/profile_file.h"
 
-// The dialog for trays that the model chooses; 0 when it has none.
-uint32_t TrayDialogOf(const DeviceTable* table);
-
-// What a dialog is given: settings and trays to be changed, the areas that go with them, the printer's
-// profiles. All that is referred to outlives it.
+// The context of a dialog: the settings and trays that it edits, its work areas and the printer's profiles.
+// The arguments must outlive the object.
 struct DialogAreas {
     DialogAreas(OemDevmode& settings, TrayPaperSetting* trays, const PrinterProfiles& profiles);
     DialogAreas(const DialogAreas&) = delete;
     DialogAreas& operator=(const DialogAreas&) = delete;
 
-    DialogContext context = {}; // the user may change everything
+    DialogContext context = {}; // changes are allowed
 
 private:
     OemDevmode saveArea = {};
@@ -28,28 +24,22 @@ private:
     const ProfileLists lists;
 };
 
-struct ModelDialog {
-    uint32_t id; // of the dialog and its template
-    HINSTANCE templates;
-    decltype(&DDProc_DlgProc) answer; // the module's
-    bool hasButton; // opened by the module itself, when the button of a property page is pressed
-};
-
 struct DialogEnd {
-    INT_PTR code;    // that the dialog ends with
-    DialogView view; // what it showed when OK or Cancel was pressed
-    bool isPageTold; // of a dialog with a button: the page's parent has been told of the OK
+    INT_PTR code;        // the dialog's result
+    DialogView view;     // what it showed when OK or Cancel was pressed
+    bool isPageNotified; // of a tray dialog: after OK the page's parent received TELMAR_WM_TRAYS_CHANGED
 };
 
 struct DialogUse {
-    DialogScript& script; // runs once the dialog is up
-    bool waitsForPerson;  // after the script; otherwise Cancel is pressed where that leaves the dialog open
-    std::string lastPicture; // file for a picture of what OK or Cancel ends; empty: none is taken
-    HWND owner = nullptr;    // stays below the dialog, and is disabled meanwhile
+    DialogScript& script;    // runs when the dialog is open
+    bool waitsForPerson;     // after the script; otherwise Cancel is pressed if the dialog is still open
+    std::string lastPicture; // file for a picture of the dialog before it closes; empty: none
+    HWND owner = nullptr;    // stays below the dialog and is disabled while it is open
 };
 
-// Opens the dialog and uses it. Throws Failure when there is no such dialog, no display, or the script can't
-// be run to its end. One at a time.
-DialogEnd RunDialog(const ModelDialog& dialog, DialogContext& context, const DialogUse& use);
+// Opens the dialog and uses it; one at a time. Throws Failure when the dialog cannot be opened or the script
+// cannot be completed.
+DialogEnd RunDialog(const FamilyFiles& family, HINSTANCE templates, const ModelDialog& dialog,
+                    DialogContext& context, const DialogUse& use);
 
 #endif

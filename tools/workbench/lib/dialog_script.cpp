@@ -1,10 +1,10 @@
-// Scripts of user actions: see the header.
+// Parses scripts of user actions and runs the actions on a dialog.
 #include "workbench/lib/dialog_script.h"
 
-#include "dialogs/color/color_dialog.h"
-#include "telmar_d.h"
+#include "common/choices.h"
 #include "workbench/lib/dialog_view.h"
-#include "workbench/lib/input_file.h"
+#include "workbench/lib/files.h"
+#include "workbench/lib/text.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,7 +12,7 @@
 
 struct ScriptVerb {
     const char* name;
-    const char* argument; // empty: takes none
+    const char* argument; // empty: the action takes none
     const char* effect;
     void (*run)(DialogScript& script, HWND dialog, const std::string& argument);
 };
@@ -36,7 +36,7 @@ std::string Trimmed(const std::string& text) {
     return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
 }
 
-// What stands before a '#' that begins the line, or that has a blank on either side.
+// The line up to a '#' at its beginning or with a blank on either side.
 std::string WithoutComment(const std::string& line) {
     const std::string padded = " " + line + " ";
     for (size_t at = padded.find('#'); at != std::string::npos; at = padded.find('#', at + 1))
@@ -46,29 +46,23 @@ std::string WithoutComment(const std::string& line) {
     return Trimmed(line);
 }
 
-// Takes the first word off the text.
+// Removes the first word from the text and returns it.
 std::string TakeWord(std::string& text) {
     const std::string word = text.substr(0, text.find_first_of(kBlanks));
     text = Trimmed(text.substr(word.size()));
     return word;
 }
 
-// The number that the text is; -1 when it is none.
 int Number(const std::string& text) {
     constexpr size_t kMaxDigits = 5;
-    const bool isNumber = !text.empty() && text.size() <= kMaxDigits
-                          && text.find_first_not_of("0123456789") == std::string::npos;
-    return isNumber ? std::stoi(text) : -1;
+    return ParseNumber(text, kMaxDigits);
 }
 
-[[noreturn]] void Refuse(const std::string& what, const std::vector<std::string>& possible) {
-    std::string choices;
-    for (const std::string& choice : possible)
-        choices += (choices.empty() ? "" : ", ") + choice;
-    throw Failure(kExitUsage, what + "; possible: " + (choices.empty() ? "nothing" : choices));
+[[noreturn]] void Refuse(const std::string& what, const std::string& choices) {
+    throw Failure(kExitUsage, what + "; " + choices);
 }
 
-// The control with this identifier, which must be one that a user can use: a list, or a button of any kind.
+// The list, or else the button of any kind, with this identifier. Throws Failure unless a user could use it.
 HWND FindControl(HWND dialog, const std::string& id, bool isList) {
     std::vector<std::string> possible;
     for (HWND control : ControlsOf(dialog)) {
@@ -78,12 +72,13 @@ HWND FindControl(HWND dialog, const std::string& id, bool isList) {
             continue;
         if (GetDlgCtrlID(control) == Number(id)) {
             if (!IsWindowVisible(control) || !IsWindowEnabled(control))
-                throw Failure(kExitUsage, "control " + id + " is disabled or hidden: no user can change it");
+                throw Failure(kExitUsage,
+                              "control " + id + " is disabled or hidden, so a user cannot use it");
             return control;
         }
         possible.push_back(std::to_string(GetDlgCtrlID(control)));
     }
-    Refuse("the dialog has no " + std::string(isList ? "list '" : "button '") + id + "'", possible);
+    Refuse("the dialog has no " + std::string(isList ? "list '" : "button '") + id + "'", Choices(possible));
 }
 
 // Position of "#INDEX", or of the first entry with this text.
@@ -95,7 +90,7 @@ WPARAM FindEntry(HWND list, const std::string& wanted) {
     for (size_t i = 0; i < entries.size(); ++i)
         if (Trimmed(entries[i]) == wanted)
             return i;
-    Refuse("list " + std::to_string(GetDlgCtrlID(list)) + " has no entry '" + wanted + "'", entries);
+    Refuse("list " + std::to_string(GetDlgCtrlID(list)) + " has no entry '" + wanted + "'", Choices(entries));
 }
 
 void Choose(DialogScript& /*script*/, HWND dialog, const std::string& argument) {
@@ -113,20 +108,17 @@ void Click(DialogScript& /*script*/, HWND dialog, const std::string& argument) {
 }
 
 void PressKey(DialogScript& /*script*/, HWND /*dialog*/, const std::string& argument) {
-    std::vector<std::string> possible;
-    for (const auto& row : kKeys) {
-        possible.emplace_back(row.name);
-        if (argument != row.name)
-            continue;
-        const HWND focus = GetFocus();
-        if (focus == nullptr)
-            throw Failure(kExitFailed, "no control has the keyboard focus; leave the dialog in front");
-        const UINT scanCode = MapVirtualKeyW(static_cast<UINT>(row.key), MAPVK_VK_TO_VSC);
-        PostMessageW(focus, WM_KEYDOWN, row.key, static_cast<LPARAM>(1 | scanCode << 16));
-        PostMessageW(focus, WM_KEYUP, row.key, static_cast<LPARAM>(0xC0000001 | scanCode << 16));
-        return;
-    }
-    Refuse("there is no key '" + argument + "'", possible);
+    const auto* row = std::find_if(std::begin(kKeys), std::end(kKeys),
+                                   [&](const auto& key) { return argument == key.name; });
+    if (row == std::end(kKeys))
+        Refuse("there is no key '" + argument + "'",
+               Choices(kKeys, [](const auto& key) { return key.name; }));
+    const HWND focus = GetFocus();
+    if (focus == nullptr)
+        throw Failure(kExitFailed, "no control has the keyboard focus; keep the dialog in the foreground");
+    const UINT scanCode = MapVirtualKeyW(static_cast<UINT>(row->key), MAPVK_VK_TO_VSC);
+    PostMessageW(focus, WM_KEYDOWN, row->key, static_cast<LPARAM>(1 | scanCode << 16));
+    PostMessageW(focus, WM_KEYUP, row->key, static_cast<LPARAM>(0xC0000001 | scanCode << 16));
 }
 
 void TakeOnePicture(DialogScript& script, HWND dialog, const std::string& argument) {
@@ -143,14 +135,14 @@ void Press(DialogScript& /*script*/, HWND dialog, const std::string& /*argument*
 }
 
 constexpr ScriptVerb kVerbs[] = {
-    {"choose", "LIST TEXT|#INDEX", "selects an entry or a row by its text or its position from 0", Choose},
+    {"choose", "LIST TEXT|#INDEX", "selects an entry or a row by its text or its position, from 0", Choose},
     {"click", "BUTTON", "clicks a button, check box or radio button", Click},
     {"key", "NAME", "presses a key, such as tab, space, down, enter", PressKey},
-    {"picture", "FILE.png", "saves a picture of the dialog as it is now", TakeOnePicture},
-    {"refresh", "", "tells the dialog that the settings have changed", Refresh},
+    {"picture", "FILE.png", "saves a picture of the dialog", TakeOnePicture},
+    {"refresh", "", "notifies the dialog that the settings have changed", Refresh},
     {"defaults", "", "clicks Defaults", Press<kDefaultsButton>},
-    {"ok", "", "clicks OK, which ends the dialog", Press<IDOK>},
-    {"cancel", "", "clicks Cancel, which ends the dialog", Press<IDCANCEL>},
+    {"ok", "", "clicks OK, which closes the dialog", Press<IDOK>},
+    {"cancel", "", "clicks Cancel, which closes the dialog", Press<IDCANCEL>},
 };
 
 std::string Usage(const ScriptVerb& verb) {
@@ -158,16 +150,13 @@ std::string Usage(const ScriptVerb& verb) {
 }
 
 const ScriptVerb& FindVerb(const std::string& name) {
-    std::vector<std::string> possible;
-    for (const ScriptVerb& verb : kVerbs) {
+    for (const ScriptVerb& verb : kVerbs)
         if (name == verb.name)
             return verb;
-        possible.push_back(Usage(verb));
-    }
-    Refuse("there is no action '" + name + "'", possible);
+    Refuse("there is no action '" + name + "'", Choices(kVerbs, Usage));
 }
 
-// Runs `act`; a failure's message begins with the place.
+// Runs `act` and puts the place at the beginning of a failure's message.
 template <typename Act>
 void At(const std::string& place, const Act& act) {
     try {
@@ -192,7 +181,7 @@ DialogScript ParseDialogScript(const std::string& lines, const std::string& name
         At(place, [&] {
             const ScriptVerb& verb = FindVerb(TakeWord(argument));
             if (argument.empty() != (verb.argument[0] == 0))
-                Refuse("'" + text + "' says too little or too much", {Usage(verb)});
+                Refuse("'" + text + "' has too few or too many words", "possible: " + Usage(verb));
             script.actions.push_back({&verb, argument, number, place});
         });
     }

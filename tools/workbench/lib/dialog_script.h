@@ -1,5 +1,5 @@
-// Scripts of user actions on a dialog: one action a line, a '#' begins a comment. The table of actions is in
-// dialog_script.cpp.
+// Scripts of user actions on a dialog, one action a line; '#' begins a comment. dialog_script.cpp has the
+// table of actions.
 #ifndef WORKBENCH_LIB_DIALOG_SCRIPT_H
 #define WORKBENCH_LIB_DIALOG_SCRIPT_H
 
@@ -14,31 +14,31 @@ struct ScriptAction {
     const ScriptVerb* verb;
     std::string argument;
     size_t line;       // of the script
-    std::string place; // for messages: "FILE:LINE"
+    std::string place; // "FILE:LINE", for messages
 };
 
 struct DialogScript {
     std::vector<ScriptAction> actions;
-    size_t next = 0;                          // the first that has not been run
-    Document done = Document::MakeList();     // a row for each that has
-    Document pictures = Document::MakeList(); // that they have taken
+    size_t next = 0;                          // the first action that has not run yet
+    Document done = Document::MakeList();     // a row for each action that has run
+    Document pictures = Document::MakeList(); // that the actions have taken
 };
 
-// A script from its lines; messages call it by this name. Throws Failure that names the line and what is
+// Parses the lines of a script; `name` names it in messages. Throws Failure with the line and what is
 // possible.
 DialogScript ParseDialogScript(const std::string& lines, const std::string& name);
 
-// Reads the script at this path (UTF-8). Throws Failure that names the line and what is possible.
+// Reads and parses the script at this path (UTF-8).
 DialogScript ReadDialogScript(const std::string& path);
 
-// Runs the next action on the dialog, which must be visible. Keys are posted: they act once the dialog's
-// message loop runs again. Throws Failure that names the line when the dialog doesn't allow it.
+// Runs the next action on the dialog, which must be visible. Keys are posted: they take effect when the
+// dialog's message loop runs again. Throws Failure with the line when the dialog does not allow the action.
 void RunNextAction(DialogScript& script, HWND dialog);
 
-// Presses a button, as a user can when it is there and enabled.
+// Clicks a button. Throws Failure when it is missing, hidden or disabled.
 void PressButton(HWND dialog, int button);
 
-// What a script can say, for --help.
+// The list of actions, for --help.
 std::string ScriptHelp();
 
 #endif

@@ -1,15 +1,16 @@
-// What an open dialog shows: see the header.
+// Reads the controls of a dialog by messages and copies its picture from the screen.
 #include "workbench/lib/dialog_view.h"
 
-#include "workbench/lib/output.h"
-#include "workbench/lib/picture_file.h"
+#include "workbench/lib/picture.h"
+#include "workbench/lib/text.h"
 
 #include <commctrl.h>
 
 namespace {
 
-constexpr int kSettlingWaits = 4;   // before a picture, each of
-constexpr DWORD kSettlingTime = 25; // milliseconds
+// Waits before a picture is taken.
+constexpr int kSettlingWaits = 4;
+constexpr DWORD kSettlingTime = 25; // milliseconds each
 
 struct ButtonKind {
     LONG_PTR type; // of its style
@@ -34,27 +35,16 @@ bool IsLabel(HWND control) {
     return IsOfClass(control, L"Static") && StyleOf(control, SS_TYPEMASK) != SS_OWNERDRAW;
 }
 
-std::string TextOf(HWND window) {
-    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return Utf8(text);
-}
-
 // Without the marks of access keys.
 std::string PlainText(HWND window) {
     std::string text = TextOf(window);
     for (size_t at = text.find('&'); at != std::string::npos; at = text.find('&', at + 1))
-        text.erase(at, 1); // of "&&" the second one stays
+        text.erase(at, 1); // the second of "&&" stays
     return text;
 }
 
 bool IsListView(HWND control) {
     return IsOfClass(control, WC_LISTVIEWW);
-}
-
-LRESULT SelectionOf(HWND list) {
-    return IsListView(list) ? SendMessageW(list, LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_SELECTED)
-                            : SendMessageW(list, CB_GETCURSEL, 0, 0);
 }
 
 LRESULT CountOf(HWND list) {
@@ -92,11 +82,11 @@ bool HasEntries(ControlKind kind) {
     return kind == ControlKind::kList || kind == ControlKind::kRows;
 }
 
-// The text that is selected, or the state of a button that has one.
+// The selected text, or the state of a check box or radio button.
 Document Shown(HWND control, ControlKind kind) {
     if (HasEntries(kind)) {
         const std::vector<std::string> texts = EntriesOf(control);
-        const auto selection = static_cast<size_t>(SelectionOf(control)); // -1: none
+        const auto selection = static_cast<size_t>(SelectionOf(control)); // none: beyond all texts
         return selection < texts.size() ? Document(texts[selection]) : Document();
     }
     if (kind == ControlKind::kButton)
@@ -119,9 +109,9 @@ Document ControlRow(HWND control, ControlKind kind, HWND group, HWND before) {
     };
 }
 
-// The value that an entry stands for; null where it holds an address, and for rows.
+// The value behind an entry; null when the entry's data is an address, and for rows of a list view.
 Document DataAt(HWND list, WPARAM index) {
-    constexpr LRESULT kLargestValue = 0xFFFF; // of a setting; addresses are larger
+    constexpr LRESULT kLargestValue = 0xFFFF; // of a setting; addresses are greater
     const LRESULT data = IsListView(list) ? INT32_MAX : SendMessageW(list, CB_GETITEMDATA, index, 0);
     return data <= kLargestValue ? Document(data) : Document();
 }
@@ -157,7 +147,8 @@ RECT FrameOf(HWND window) {
     return frame;
 }
 
-// Has everything drawn, and the system put it onto the screen, which it may do only while this thread waits.
+// Paints the windows and gives the system time to update the screen, which it may do only while this thread
+// waits.
 void BringToScreen(const std::vector<HWND>& windows) {
     for (int i = 0; i < kSettlingWaits; ++i) {
         for (HWND window : windows)
@@ -179,6 +170,12 @@ bool IsOfClass(HWND window, const wchar_t* name) {
     wchar_t className[32] = L"";
     GetClassNameW(window, className, sizeof(className) / sizeof(className[0]));
     return lstrcmpiW(className, name) == 0;
+}
+
+std::string TextOf(HWND window) {
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return Utf8(text);
 }
 
 ControlKind KindOf(HWND control) {
@@ -206,6 +203,11 @@ std::vector<std::string> EntriesOf(HWND list) {
     for (WPARAM i = 0; static_cast<LRESULT>(i) < count; ++i)
         texts.push_back(IsListView(list) ? CellText(list, i, 0) : EntryText(list, i));
     return texts;
+}
+
+int SelectionOf(HWND list) {
+    return static_cast<int>(IsListView(list) ? SendMessageW(list, LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_SELECTED)
+                                             : SendMessageW(list, CB_GETCURSEL, 0, 0));
 }
 
 void SelectEntry(HWND list, WPARAM index) {

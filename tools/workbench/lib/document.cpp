@@ -1,4 +1,4 @@
-// Documents: copying, building and looking up.
+// Builds documents and looks up their fields.
 #include "workbench/lib/document.h"
 
 #include <algorithm>

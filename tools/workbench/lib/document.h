@@ -1,5 +1,5 @@
-// What a command answers: one document, written either as JSON or as text, and the failure that ends a
-// command. Commands build documents from literals, as {{"name", name}, {"rows", rows}}.
+// The result of a command: a document, which is written as JSON or as text, or a failure. Commands build
+// documents from literals such as {{"name", name}, {"rows", rows}}.
 #ifndef WORKBENCH_LIB_DOCUMENT_H
 #define WORKBENCH_LIB_DOCUMENT_H
 
@@ -12,7 +12,7 @@
 #include <variant>
 #include <vector>
 
-// A value: null, yes or no, a number, a text (UTF-8), a list of values, or an object, whose fields keep the
+// A value: null, a Boolean, a number, a text (UTF-8), a list of values, or an object, whose fields keep the
 // order in which they were added.
 class Document {
 public:
@@ -62,17 +62,17 @@ public:
     double Real() const { return IsInteger() ? static_cast<double>(Integer()) : std::get<double>(value); }
     const std::string& Text() const { return std::get<std::string>(value); }
 
-    // The elements or the fields; none of any other kind of value. Those of a temporary are its own, so that
-    // a loop may go through them.
+    // The elements or the fields; none for any other kind of value. A temporary returns them by value, so
+    // that a range loop over them is safe.
     const List& Elements() const&;
     List& Elements() &;
     List Elements() &&;
     const Object& Fields() const&;
     Object Fields() &&;
 
-    // To the end of a list; null becomes one.
+    // Appends to a list; null becomes a list.
     void Add(Document element);
-    // A field of an object; what is not there is added, and null becomes an object.
+    // A field of an object, added if missing; null becomes an object.
     Document& operator[](const std::string& name);
     // Null when there is no such field.
     const Document& operator[](const std::string& name) const;
@@ -92,9 +92,9 @@ struct Document::Field {
 };
 
 constexpr int kExitFailed = 1; // something is missing or broken
-constexpr int kExitUsage = 2;  // the command line asks for something that doesn't exist
+constexpr int kExitUsage = 2;  // the command line or a script is wrong
 
-// Ends the program: the message says what is wrong, where, and what to do.
+// Ends the program. The message says what is wrong, where, and what to do.
 struct Failure : std::runtime_error {
     Failure(int code, const std::string& message) : std::runtime_error(message), exitCode(code) {}
     int exitCode;

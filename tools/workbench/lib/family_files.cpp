@@ -1,7 +1,7 @@
-// The driver's files in one folder: see the header.
+// Opens the driver's files and reports what is missing or damaged.
 #include "workbench/lib/family_files.h"
 
-#include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 
 #include <vector>
 
@@ -9,15 +9,15 @@ namespace {
 
 constexpr const wchar_t* kModuleName = L"TELMAR_D.DLL";
 constexpr const wchar_t* kParameterName = L"TELMAR_D.PRM";
-constexpr const char* kOtherFolder = "; put it there or name its folder with --folder";
+constexpr const char* kOtherFolder = "; put it there, or specify its folder with --folder";
 
 std::filesystem::path ProgramFolder() {
-    std::wstring path(32768, L'\0'); // the longest that Windows knows
+    std::wstring path(32768, L'\0'); // the longest path of Windows
     path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
     return std::filesystem::path(path).parent_path();
 }
 
-// Must be called before anything else sets the last error.
+// Call it before anything else sets the last error.
 [[noreturn]] void FailToOpen(const std::filesystem::path& path, const char* what) {
     const std::string reason = ErrorText(GetLastError());
     throw Failure(kExitFailed, path.u8string() + ": " + what + " (" + reason + ")" + kOtherFolder);
@@ -33,22 +33,23 @@ FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
 
     family.module.reset(LoadLibraryW(family.modulePath.c_str()));
     if (family.module == nullptr)
-        FailToOpen(family.modulePath, "the module can't be loaded");
+        FailToOpen(family.modulePath, "the module cannot be loaded");
 
     family.parameters.reset(PrmOpenW(family.parameterPath.c_str()));
     if (family.parameters == nullptr)
-        FailToOpen(family.parameterPath, "the parameter data file can't be opened");
+        FailToOpen(family.parameterPath, "the parameter data file cannot be opened");
     if (PrmFindEntry(*family.parameters, "FeatureSetting") == 0)
         throw Failure(kExitFailed, family.parameterPath.u8string()
-                                       + ": not a parameter data file, or a damaged one, since it has no "
-                                         "FeatureSetting; examine it with 'prmc check' or build it again");
+                                       + ": not a parameter data file, or damaged: it has no FeatureSetting; "
+                                         "examine it with 'prmc check', or build it again");
 
     InitDeviceData(family.module.get());
     family.table.reset(deviceTable);
     if (family.table == nullptr)
-        throw Failure(kExitFailed, family.parameterPath.u8string()
-                                       + ": no device data: the path is too long for the module, or there is "
-                                         "no memory");
+        throw Failure(kExitFailed,
+                      family.parameterPath.u8string()
+                          + ": no device data: the path is too long for the module, or memory is "
+                            "exhausted");
     return family;
 }
 
@@ -56,7 +57,7 @@ Library OpenTemplates(const FamilyFiles& family) {
     const auto path = family.modulePath.parent_path() / L"TELMAR_S.DLL";
     Library library(LoadLibraryW(path.c_str()));
     if (library == nullptr)
-        throw Failure(kExitFailed, path.u8string() + ": the dialog templates can't be loaded ("
+        throw Failure(kExitFailed, path.u8string() + ": the dialog templates cannot be loaded ("
                                        + ErrorText(GetLastError()) + "); put the file there");
     return library;
 }
@@ -89,8 +90,8 @@ Document FamilyDocument(const FamilyFiles& family) {
 void* FindModuleExport(const FamilyFiles& family, const char* name) {
     const FARPROC function = GetProcAddress(family.module.get(), name);
     if (function == nullptr)
-        throw Failure(kExitFailed,
-                      family.modulePath.u8string() + ": has no export " + name
-                          + "; it is another file of that name or an older version: build it again");
+        throw Failure(kExitFailed, family.modulePath.u8string() + ": has no export " + name
+                                       + "; it is another file of that name, or an older version: build it "
+                                         "again");
     return reinterpret_cast<void*>(function);
 }

@@ -1,44 +1,42 @@
 // The driver's files in one folder: the module, loaded by its full path as the generic modules do, the
-// parameter data file, and what the module's own code makes of that file in this process.
+// parameter data file, and the tables that the module's own code builds from it in this process.
 #ifndef WORKBENCH_LIB_FAMILY_FILES_H
 #define WORKBENCH_LIB_FAMILY_FILES_H
 
-#include "frame/device_data.h"
-#include "paramdata/device_table.h"
-#include "paramdata/prm_file.h"
 #include "workbench/lib/document.h"
+#include "workbench/lib/module_parts.h"
 
 #include <filesystem>
 #include <memory>
 
-// Releases what the module's own code hands out as plain pointers.
+// Releases what the system and the module's code return as plain pointers.
 struct Release {
     void operator()(HMODULE module) const { FreeLibrary(module); }
     void operator()(PrmFile* file) const { PrmClose(file); }
     void operator()(DeviceTable* /*table*/) const { FreeDeviceData(); }
 };
+using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, Release>;
 
 struct FamilyFiles {
     std::filesystem::path modulePath;
     std::filesystem::path parameterPath;
-    std::unique_ptr<std::remove_pointer_t<HMODULE>, Release> module;
+    Library module;
     std::unique_ptr<PrmFile, Release> parameters;
-    std::unique_ptr<DeviceTable, Release> table; // and all else that the initialisation has built
+    std::unique_ptr<DeviceTable, Release> table; // also owns the media type lists
 };
 
-// Opens the files of this folder; of the program's own folder when it is empty. To be called once: it also
-// fills the process-wide default settings, texts and lists. Throws Failure when a file is missing or
+// Opens the files of this folder, or of the program's own folder when the path is empty. Call it once: it
+// also fills the default settings, texts and lists of the process. Throws Failure when a file is missing or
 // unusable.
 FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder);
 
-// The library of the model's dialog templates, beside the module. Throws Failure when it can't be loaded.
-using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, Release>;
+// TELMAR_S.DLL next to the module, with the dialog templates. Throws Failure when it cannot be loaded.
 Library OpenTemplates(const FamilyFiles& family);
 
-// "major.minor.patch.build" of a file's version resource; "unknown" when it has none.
+// "major.minor.patch.build" from the file's version resource; "unknown" when it has none.
 std::string FileVersion(const std::filesystem::path& path);
 
-// Where the files lie and which version the module is: the first section of every document.
+// Paths and version of the driver's files: the first section of most documents.
 Document FamilyDocument(const FamilyFiles& family);
 
 // An export of the module under its declared type: ModuleExport<decltype(&Name)>(family, "Name"). Throws
@@ -49,7 +47,7 @@ Function ModuleExport(const FamilyFiles& family, const char* name) {
     return reinterpret_cast<Function>(FindModuleExport(family, name));
 }
 
-// The same, by the name that it is declared under.
+// The same for an export that telmar_d.h declares under its own name.
 #define EXPORT(family, name) ModuleExport<decltype(&(name))>(family, #name)
 
 #endif

@@ -1,4 +1,4 @@
-// JSON form of a document: see the header.
+// Converts between documents and the values of the JSON library.
 #include "workbench/lib/json_form.h"
 
 #include <algorithm>
@@ -29,12 +29,12 @@ Json ToJson(const Document& document) {
     return json;
 }
 
-constexpr int kMaxDepth = 64; // of values in values, which are gone through by recursion
+constexpr int kMaxDepth = 64; // levels of nesting; limits the recursion
 
-// Throws std::length_error when values lie deeper than that.
+// Throws std::length_error when values are nested more deeply.
 Document FromJson(const Json& json, int depth = 0) {
     if (depth > kMaxDepth)
-        throw std::length_error("too deep");
+        throw std::length_error("nested too deeply");
     if (json.is_boolean())
         return json.get<bool>();
     if (json.is_number_float() || (json.is_number_unsigned() && json.get<uint64_t>() > INT64_MAX))
@@ -65,12 +65,12 @@ Document ParseJson(const std::string& text, const std::string& name) {
     try {
         return FromJson(Json::parse(text));
     } catch (const std::length_error&) {
-        throw Failure(kExitFailed, name + ": values lie more than " + std::to_string(kMaxDepth)
+        throw Failure(kExitFailed, name + ": values are nested more than " + std::to_string(kMaxDepth)
                                        + " levels deep; remove what is not needed");
     } catch (const Json::out_of_range&) {
-        throw Failure(kExitFailed, name + ": not JSON that can be read; a number is too large");
+        throw Failure(kExitFailed, name + ": cannot be read as JSON; a number is too large");
     } catch (const Json::parse_error& error) {
-        // The byte that could not be read, counted from 1; the text's end counts as one.
+        // error.byte counts from 1. The end of the text counts as a byte, too.
         const std::string before = text.substr(0, error.byte - 1);
         const size_t lineStart = before.rfind('\n') + 1; // npos: the first line
         throw Failure(kExitFailed, name + ": not JSON; see line "

@@ -1,9 +1,8 @@
-// The option features of the model, as the generic modules keep them: the caller's feature table and
-// settings, made from the plain entries of the parameter data file.
+// The option features of the model and their current items: the feature table and settings that the generic
+// modules pass to the module, built here from the parameter data file.
 #ifndef WORKBENCH_LIB_OPTION_FEATURES_H
 #define WORKBENCH_LIB_OPTION_FEATURES_H
 
-#include "picture/capabilities/feature_table.h"
 #include "workbench/lib/document.h"
 #include "workbench/lib/family_files.h"
 
@@ -11,26 +10,28 @@
 #include <vector>
 
 struct OptionFeatures {
-    std::vector<std::shared_ptr<ItemRecord[]>> items; // of each feature; the features refer to them
+    std::vector<std::shared_ptr<ItemRecord[]>> items; // of each feature; `features` points to them
     std::vector<FeatureRecord> features;              // ends at an empty key, as the items do
-    std::vector<FeatureSettings> settings; // position of the item in force; -1: the file has no default
+    std::vector<FeatureSettings> settings; // position of the current item; -1: the file has no default
 };
 
-// The features that the file has, set to the file's defaults.
+// The features in the file, set to the file's defaults.
 OptionFeatures ReadOptionFeatures(const FamilyFiles& family);
 
-// Applies "FEATURE=ITEM" (letter case ignored). Throws Failure that names what is possible.
+// Applies "FEATURE=ITEM" (ASCII case ignored). Throws Failure that lists what is possible.
 void SetOption(OptionFeatures& options, const std::string& assignment);
 
-// Puts the item in force that a printer reports; a feature or item that the model doesn't have changes
-// nothing.
-void TakeReportedOption(OptionFeatures& options, const char* featureKey, const char* itemKey);
+// Applies what a printer reports. A feature or item that the model does not have is ignored.
+void ApplyReportedOption(OptionFeatures& options, const char* featureKey, const char* itemKey);
 
-// Offers a machine of this name (UTF-8) besides the model's own, and puts it in force. Throws Failure when
-// the name doesn't fit a display name or the model has no "OpMachine".
+// Adds a machine of this name (UTF-8) to the model's own and selects it. Throws Failure when the name is too
+// long or empty, or the model has no "OpMachine".
 void AddMachine(OptionFeatures& options, const std::string& name);
 
-// One row per feature: the item in force.
+// The current item of the feature at this position; null when there is none.
+const ItemRecord* CurrentItem(const OptionFeatures& options, size_t position);
+
+// A row for each feature with its current item.
 Document OptionsDocument(const OptionFeatures& options);
 
 #endif

@@ -1,5 +1,4 @@
-// Texts on their way out: conversion of the module's texts to UTF-8, and writing to the console or a
-// redirected file.
+// Messages to the user: on the console, in a redirected file or in a message box.
 #ifndef WORKBENCH_LIB_OUTPUT_H
 #define WORKBENCH_LIB_OUTPUT_H
 
@@ -7,22 +6,11 @@
 #include <string_view>
 #include <windows.h>
 
-std::string Utf8(std::wstring_view text);
-
-// From an 8-bit code page: the system's, in which the module's keys and texts are, unless another is named.
-std::string Utf8(std::string_view text, UINT codePage = CP_ACP);
-
-// Back to UTF-16.
-std::wstring Wide(std::string_view text, UINT codePage = CP_UTF8);
-
-// A last-error value and what the system says of it.
-std::string ErrorText(DWORD error);
-
-// In a box, for a person who has no console to look at.
-void TellPerson(const std::string& utf8, HWND owner = nullptr);
-
-// Writes UTF-8 to STD_OUTPUT_HANDLE or STD_ERROR_HANDLE: as UTF-16 to a console, byte for byte to a file or a
-// pipe.
+// Writes UTF-8 to STD_OUTPUT_HANDLE or STD_ERROR_HANDLE: to a console as UTF-16, to a file or a pipe byte for
+// byte. Line ends stay as they are.
 void Print(DWORD where, std::string_view utf8);
+
+// Shows a message box, for a program that was started without a console. Returns when it is closed.
+void ShowWarning(const std::string& utf8, HWND owner = nullptr);
 
 #endif

@@ -1,8 +1,5 @@
-// One picture of the printer: see the header.
+// Passes a scene to the module's DrawPrinterView.
 #include "workbench/lib/printer_scene.h"
-
-#include "base/records.h"
-#include "base/text.h"
 
 void DrawScene(const FamilyFiles& family, const PrinterScene& scene, HDC to, SIZE size) {
     PrinterViewRequest request = {};

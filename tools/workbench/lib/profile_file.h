@@ -1,8 +1,8 @@
-// Colour profiles as a printer would hold them, from a JSON file that a person has written.
+// Colour profiles as a printer would store them, from a JSON file written by hand.
 #ifndef WORKBENCH_LIB_PROFILE_FILE_H
 #define WORKBENCH_LIB_PROFILE_FILE_H
 
-#include "dialogs/shared/dialog_context.h"
+#include "workbench/lib/module_parts.h"
 
 #include <string>
 #include <vector>
@@ -14,11 +14,11 @@ struct PrinterProfiles {
 };
 
 // Reads {"rgbSources": [{"name": TEXT, "qualifier": TEXT, "location": NUMBER}...], "simulations": ...,
-// "destinations": ...}; lists, qualifiers and locations may be missing. Throws Failure that says what is
-// wrong where.
+// "destinations": ...}; lists, qualifiers and locations are optional. Throws Failure that says what is wrong
+// and where.
 PrinterProfiles ReadPrinterProfiles(const std::string& path);
 
-// The profiles as a dialog is given them; they refer to these.
+// The profiles in the form that a dialog takes. The result points to them.
 ProfileLists ListsOf(const PrinterProfiles& profiles);
 
 #endif

@@ -1,11 +1,10 @@
-// Records of the module as documents: a record is described by a table of its fields, and the type of a field
-// decides how it is shown, unless its row says otherwise. The documents of the commands are made of these.
+// Records of the module as documents. A table of fields describes how a record is shown; the type of a field
+// decides how its value is shown, unless its row says otherwise.
 #ifndef WORKBENCH_LIB_RECORD_FIELDS_H
 #define WORKBENCH_LIB_RECORD_FIELDS_H
 
-#include "base/text.h"
 #include "workbench/lib/document.h"
-#include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 
 #include <cstdint>
 #include <cstring>
@@ -13,12 +12,12 @@
 
 template <size_t N>
 Document ToDocument(const char (&text)[N]) {
-    return Utf8(std::string_view(text, TextLength(text)));
+    return FieldText(text);
 }
 
 template <size_t N>
 Document ToDocument(const wchar_t (&text)[N]) {
-    return Utf8(std::wstring_view(text, TextLength(text)));
+    return FieldText(text);
 }
 
 template <typename Number>
@@ -26,7 +25,7 @@ Document ToDocument(const Number& numbers) {
     return numbers;
 }
 
-// A block of 32-bit numbers whose meaning is its consumer's.
+// A block of 32-bit numbers, whose meaning is unknown.
 template <size_t N>
 Document ToDocument(const uint8_t (&block)[N]) {
     uint32_t numbers[N / sizeof(uint32_t)];
@@ -34,7 +33,7 @@ Document ToDocument(const uint8_t (&block)[N]) {
     return numbers;
 }
 
-// A copy of one field of a record. The records are packed, so that a field itself may lie at any address.
+// A copy of one field of a record. Records are packed, so the field itself may be unaligned.
 template <auto kField>
 struct FieldOf;
 template <typename Record, typename Value, Value Record::*kField>
@@ -45,7 +44,7 @@ struct FieldOf<kField> {
     Value value;
 };
 
-// How one field of a record is shown, and under which name.
+// One field of a record: its name in the document, and how it is shown.
 struct Field {
     const char* name;
     Document (*show)(const void* record);
@@ -73,25 +72,24 @@ Document RowsDocument(const std::vector<Record>& records, const Field (&fields)[
     return rows;
 }
 
-// A list up to its terminating record: key and value of each record, then its further fields. Null without a
-// list.
+// The records of a list: key and value of each, then its further fields. Null for a null list.
 template <typename Record, size_t N>
 Document ListDocument(const Record* list, const Field (&fields)[N]) {
     if (list == nullptr)
         return nullptr;
     Document rows = Document::MakeList();
-    for (; list->head.key[0] != 0; ++list) {
+    for (const Record& record : Listed(list)) {
         Document row = {
-            {"key", ToDocument(list->head.key)},
-            {"value", static_cast<int32_t>(list->head.value)}, // -1 is "unknown"
+            {"key", ToDocument(record.head.key)},
+            {"value", static_cast<int32_t>(record.head.value)}, // -1 is "unknown"
         };
-        AddFields(fields, list, row);
+        AddFields(fields, &record, row);
         rows.Add(row);
     }
     return rows;
 }
 
-// The further field of a list record that has a display name and nothing else to show.
+// The further field of a list record whose display name is all that is shown.
 template <typename Record>
 inline constexpr Field kNamed[] = {
     {"name", Show<&Record::display>},

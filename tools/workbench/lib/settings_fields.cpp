@@ -1,4 +1,4 @@
-// The fields of the settings, listed from the tables of the public header.
+// Lists the fields of the settings from the record tables of the public header.
 #include "workbench/lib/settings_fields.h"
 
 #include "workbench/lib/record_fields.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-// The groups, in the order in which they are shown. The font table has no fields to show.
+// The groups, in the order in which they are shown. The font table is not shown field by field.
 enum class Group {
     paper,
     media,
@@ -27,7 +27,7 @@ enum class Group {
 constexpr const char* kGroupNames[] = {"paper",  "media",     "trays", "layout",   "finishing",
                                        "covers", "watermark", "color", "profiles", "fonts"};
 
-// A value or a text that lies there, at any address.
+// The value or text at this address, which may be unaligned.
 template <typename Value>
 Document ShowAt(const void* at) {
     Value value;
@@ -35,8 +35,8 @@ Document ShowAt(const void* at) {
     return ToDocument(value);
 }
 
-// The fields of one type: those of its own for a record, of each element for an array of records, otherwise
-// one.
+// Adds the fields of a value of this type: the record's own fields, those of each element of an array of
+// records, or else one field.
 template <typename Value>
 void AddFieldsOf(Group group, const std::string& name, size_t offset, std::vector<SettingsField>& fields);
 

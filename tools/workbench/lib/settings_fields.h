@@ -1,9 +1,9 @@
-// The fields of the private print settings by name, and what differs between two records of them.
+// The fields of the private print settings by name, and the differences between two records.
 #ifndef WORKBENCH_LIB_SETTINGS_FIELDS_H
 #define WORKBENCH_LIB_SETTINGS_FIELDS_H
 
-#include "base/records.h"
 #include "workbench/lib/document.h"
+#include "workbench/lib/module_parts.h"
 
 #include <string>
 #include <vector>
@@ -17,13 +17,13 @@ struct SettingsField {
     Document (*show)(const void* at);
 };
 
-// Every field, in the order of the record within a group; the font table, which is none of them, follows.
+// All fields by group, within a group in the order of the record. The font table is not among them.
 const std::vector<SettingsField>& SettingsFields();
 
 Document ShowSetting(const SettingsField& field, const OemDevmode& settings);
 
-// A row for each field that differs: its value before and after. Bytes that belong to no field, such as
-// reserved ones and the font table's, have rows of their own, without a name.
+// A row for each field that differs, with its value before and after. Bytes outside the fields (reserved
+// ones, the font table) have rows of their own without a name.
 Document SettingsChanges(const OemDevmode& before, const OemDevmode& after);
 
 #endif

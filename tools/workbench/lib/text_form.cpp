@@ -1,6 +1,6 @@
-// Text form of a document: see the header. Columns without any content are left out. A long narrow table runs
-// in several columns side by side, as a newspaper's; a table wider than the page goes on below itself, with
-// its first column again and only the rows that have something there.
+// Lays out tables. Empty columns are left out. A long narrow table is set in several columns side by side,
+// like a newspaper's. A table wider than the page is continued below, with its first column repeated and
+// without the rows that are empty there.
 #include "workbench/lib/text_form.h"
 
 #include "workbench/lib/json_form.h"
@@ -11,14 +11,13 @@
 namespace {
 
 constexpr size_t kPageWidth = 128;
-constexpr size_t kLongTable = 24; // more lines than this run side by side, if they are narrow enough
-constexpr size_t kMaxNumbers = 5; // more numbers than this in one cell are only counted
+constexpr size_t kLongTable = 24; // a table of more lines is set side by side, if it is narrow enough
+constexpr size_t kMaxNumbers = 5; // more numbers in one cell are only counted
 constexpr const char* kIndent = "  ";
 constexpr const char* kFieldGap = "  ";
 constexpr const char* kColumnGap = "     ";
 
-// On the screen, in columns: one for every byte that doesn't continue another one, and one more for the wide
-// East Asian characters, from U+3000 on.
+// In columns of the screen: one for each character, two for the wide East Asian ones from U+3000 on.
 size_t Width(const std::string& utf8) {
     size_t width = 0;
     for (const unsigned char c : utf8)
@@ -31,7 +30,8 @@ std::string Padded(const std::string& text, size_t width, bool right) {
     return right ? padding + text : text + padding;
 }
 
-// "paperSizes" as "Paper sizes". Names that start with a capital are the driver's own and stay as they are.
+// "paperSizes" as "Paper sizes". Names that begin with a capital letter are the driver's and stay as they
+// are.
 std::string Title(const std::string& name) {
     if (name.empty() || !std::islower(static_cast<unsigned char>(name[0])))
         return name;
@@ -63,12 +63,12 @@ std::string Cell(const Document& value) {
     return text;
 }
 
-// The line without the blanks that it ends with.
+// The line without trailing blanks.
 std::string WithoutEnd(const std::string& line) {
     return line.substr(0, line.find_last_not_of(' ') + 1);
 }
 
-// One column of a table: its title, then its cells, all of one width.
+// One column of a table: its title and its cells, padded to the same width.
 using TextColumn = std::vector<std::string>;
 
 bool IsBlank(const std::string& text) {
@@ -77,7 +77,7 @@ bool IsBlank(const std::string& text) {
 
 TextColumn MakeColumn(const Document& rows, const std::string& field) {
     TextColumn column = {Title(field)};
-    bool right = true; // numbers are aligned on the right
+    bool right = true; // columns of numbers are right-aligned
     for (const Document& row : rows.Elements()) {
         const Document& value = row[field];
         column.push_back(Cell(value));
@@ -101,7 +101,7 @@ std::vector<TextColumn> MakeColumns(const Document& rows) {
     return columns;
 }
 
-// Takes the columns from `next` on that fit the page beside the first column, and moves `next` behind them.
+// The lines of the columns from `next` on that fit the page next to the first column. Advances `next`.
 std::vector<std::string> TakePage(const std::vector<TextColumn>& columns, size_t& next) {
     const bool continued = next > 1;
     std::vector<std::string> lines = columns[0];
@@ -121,7 +121,7 @@ std::vector<std::string> TakePage(const std::vector<TextColumn>& columns, size_t
     return lines;
 }
 
-// The lines of one page, the header first; many narrow ones side by side.
+// Sets the lines, of which the first is the header, side by side when they are many and narrow.
 std::string Page(const std::vector<std::string>& lines) {
     const size_t rows = lines.size() - 1;
     const size_t width = Width(lines[0] + kColumnGap);
@@ -185,6 +185,6 @@ std::string TextForm(const Document& document) {
     std::string text;
     for (const auto& section : document.Fields())
         text += Section(section.name, section.value);
-    text.pop_back(); // the empty line behind the last section
+    text.pop_back(); // the empty line after the last section
     return text;
 }

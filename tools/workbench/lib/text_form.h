@@ -1,13 +1,12 @@
-// The text form of a document: sections of aligned tables for a person to read. Knows nothing of what is
-// shown.
+// Documents as text for people: sections of aligned tables. Independent of what the documents are about.
 #ifndef WORKBENCH_LIB_TEXT_FORM_H
 #define WORKBENCH_LIB_TEXT_FORM_H
 
 #include "workbench/lib/document.h"
 
-// The document is an object of sections. An object of plain values becomes name and value, line by line; an
-// array of objects a table with one column per field; an object of arrays its tables one after the other;
-// null is "none".
+// The document is an object of sections. A section that is an object of plain values becomes lines of name
+// and value, a list of objects becomes a table with a column for each field, an object of lists becomes one
+// table after the other, and null becomes "none".
 std::string TextForm(const Document& document);
 
 #endif

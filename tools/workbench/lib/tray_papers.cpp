@@ -1,15 +1,14 @@
-// The paper in the trays: see the header.
+// Lists the model's trays, fills in what a printer reports, and names the values.
 #include "workbench/lib/tray_papers.h"
 
-#include "base/text.h"
-#include "workbench/lib/device_options.h"
-#include "workbench/lib/output.h"
+#include "workbench/lib/printer_queries.h"
+#include "workbench/lib/text.h"
 
 namespace {
 
 constexpr int32_t kUnknown = -1;
 
-// By position of the attribute: how it is called, and what the printer tells of it.
+// By position of the attribute: its name, and where the printer's answer has it.
 constexpr struct {
     const char* name;
     QueryKey InputTrayStatusItem::*answer;
@@ -19,38 +18,22 @@ constexpr struct {
     {"color", &InputTrayStatusItem::color},    {"hole", &InputTrayStatusItem::hole},
 };
 
-// Calls `use` with each value that an attribute can take.
-template <typename Use>
-void ForEachValue(size_t attribute, const Use& use) {
-    for (const ItemRecord& item : Listed(AttributeValues(static_cast<MediaTypeList>(attribute))))
-        use(item);
+const ItemRecord* ValuesOf(size_t attribute) {
+    return AttributeValues(static_cast<MediaTypeList>(attribute));
 }
 
 int32_t ValueOf(size_t attribute, const QueryKey& key) {
-    int32_t value = kUnknown;
-    ForEachValue(attribute, [&](const ItemRecord& item) {
-        if (SameText(item.head.key, key))
-            value = static_cast<int32_t>(item.head.value);
-    });
-    return value;
+    const ItemRecord* item = FindByKey(ValuesOf(attribute), key);
+    return item != nullptr ? static_cast<int32_t>(item->head.value) : kUnknown;
 }
 
 Document NameOf(size_t attribute, int32_t value) {
-    Document name;
-    ForEachValue(attribute, [&](const ItemRecord& item) {
-        if (static_cast<int32_t>(item.head.value) == value)
-            name = Utf8(std::wstring_view(item.display, TextLength(item.display)));
-    });
-    return name;
-}
-
-std::string KeyOf(const TrayPaperSetting& paper) {
-    return std::string(paper.key, TextLength(paper.key));
+    const ItemRecord* item = FindByValue(ValuesOf(attribute), static_cast<uint32_t>(value));
+    return item != nullptr ? Document(FieldText(item->display)) : Document();
 }
 
 } // namespace
 
-// That of the model's sources without the automatic one.
 TrayPapers UnknownPapers(const FamilyFiles& family) {
     TrayPapers papers = {};
     for (TrayPaperSetting& paper : papers)
@@ -68,9 +51,9 @@ TrayPapers UnknownPapers(const FamilyFiles& family) {
 }
 
 TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent) {
-    const LibraryRoad road = TryLibraryRoad(family, agent);
-    if (!road.isThisModel)
-        throw Failure(kExitFailed, agent + ": " + Hint(family, road));
+    const LibraryAccess access = CheckLibraryAccess(family, agent);
+    if (!access.isThisModel)
+        throw Failure(kExitFailed, agent + ": " + AccessHint(family, access));
     const TrayAnswers answers = AskTraysByLibrary(family, agent);
     TrayPapers papers = UnknownPapers(family);
     for (TrayPaperSetting& paper : papers)
@@ -87,7 +70,7 @@ Document PaperChanges(const TrayPapers& before, const TrayPapers& after) {
             const int32_t was = LoadAttribute(before[tray], trayAttributes[i]);
             const int32_t is = LoadAttribute(after[tray], trayAttributes[i]);
             if (was != is)
-                changes.Add({{"tray", KeyOf(after[tray])},
+                changes.Add({{"tray", FieldText(after[tray].key)},
                              {"attribute", kAttributes[i].name},
                              {"before", NameOf(i, was)},
                              {"after", NameOf(i, is)},
@@ -101,7 +84,7 @@ Document PapersDocument(const TrayPapers& papers) {
     for (const TrayPaperSetting& paper : papers) {
         if (paper.key[0] == 0)
             continue;
-        Document row = {{"tray", KeyOf(paper)}, {"bin", paper.bin}};
+        Document row = {{"tray", FieldText(paper.key)}, {"bin", paper.bin}};
         for (size_t i = 0; i < kMediaTypeListCount; ++i)
             row[kAttributes[i].name] = NameOf(i, LoadAttribute(paper, trayAttributes[i]));
         rows.Add(row);

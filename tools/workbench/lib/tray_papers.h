@@ -1,23 +1,24 @@
-// The paper in the trays, for the tray-setting dialogs: unknown, or as a printer tells it; and what has
-// changed.
+// The paper in the trays as the tray-setting dialogs edit it: unknown or as a printer reports it, and what
+// differs between two states.
 #ifndef WORKBENCH_LIB_TRAY_PAPERS_H
 #define WORKBENCH_LIB_TRAY_PAPERS_H
 
-#include "trays/tray_settings.h"
 #include "workbench/lib/family_files.h"
 
 #include <array>
 
 using TrayPapers = std::array<TrayPaperSetting, TELMAR_TRAY_COUNT>;
 
-// Of the model's trays nothing is known. They are in the order in which the dialogs list them.
+// The model's trays in the order of the device table, with all attributes unknown.
 TrayPapers UnknownPapers(const FamilyFiles& family);
 
-// As the printer tells through the bidirectional library. Throws Failure when it can't be asked.
+// As the printer reports through the bidirectional library. Throws Failure when the request fails.
 TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent);
 
-// Tray, attribute, names and values before and after of what differs; and of every tray what is set now.
+// A row for each attribute that differs: tray, attribute, names before and after, and the value after.
 Document PaperChanges(const TrayPapers& before, const TrayPapers& after);
+
+// A row for each tray with the names of its attributes.
 Document PapersDocument(const TrayPapers& papers);
 
 #endif

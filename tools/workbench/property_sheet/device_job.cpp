@@ -1,42 +1,42 @@
-// Asks a printer on a thread of its own: see the header.
+// Runs the queries one after the other and reports progress to the page.
 #include "workbench/property_sheet/device_job.h"
 
 namespace {
 
-// The way that the driver takes.
-void AskForOptions(const FamilyFiles& family, DeviceReport& report) {
+// Over the transport that the driver would use.
+void QueryOptions(const FamilyFiles& family, DeviceReport& report) {
     DeviceOptions options = AskDeviceOptions(family, report.address);
-    report.transport = options.road;
+    report.transport = options.transport;
     report.options = std::move(options.answers);
 }
 
-// Only the bidirectional library tells of papers.
-void AskForPapers(const FamilyFiles& family, DeviceReport& report) {
-    if (!TryLibraryRoad(family, report.address).isThisModel)
+// Only the bidirectional library reports papers.
+void QueryPapers(const FamilyFiles& family, DeviceReport& report) {
+    if (!CheckLibraryAccess(family, report.address).isThisModel)
         return;
     report.papers = AskPapers(family, report.address);
     report.hasPapers = true;
 }
 
-void AskForSupplies(const FamilyFiles& family, DeviceReport& report) {
+void QuerySupplies(const FamilyFiles& family, DeviceReport& report) {
     report.supplies = AskSupplies(family, report.address);
 }
 
-void AskForOverlays(const FamilyFiles& family, DeviceReport& report) {
+void QueryOverlays(const FamilyFiles& family, DeviceReport& report) {
     for (const int32_t storage : {0, 1})
         report.overlays[storage] = AskOverlays(family, report.address, storage);
 }
 
-void AskForProfiles(const FamilyFiles& family, DeviceReport& report) {
+void QueryProfiles(const FamilyFiles& family, DeviceReport& report) {
     report.profiles = AskProfiles(family, report.address);
 }
 
 constexpr struct {
     const char* name;
-    void (*ask)(const FamilyFiles& family, DeviceReport& report);
+    void (*query)(const FamilyFiles& family, DeviceReport& report);
 } kSteps[kJobSteps] = {
-    {"options", AskForOptions},   {"papers", AskForPapers},     {"consumables", AskForSupplies},
-    {"overlays", AskForOverlays}, {"profiles", AskForProfiles},
+    {"options", QueryOptions},   {"papers", QueryPapers},     {"consumables", QuerySupplies},
+    {"overlays", QueryOverlays}, {"profiles", QueryProfiles},
 };
 
 } // namespace
@@ -56,14 +56,14 @@ DeviceJob::~DeviceJob() {
     thread.join();
 }
 
-// False when nothing else need be asked: the first answer tells whether the printer can be asked at all.
-bool DeviceJob::TakeStep(const FamilyFiles& family, int step) {
+// False when no further query makes sense: without its options the printer cannot be queried at all.
+bool DeviceJob::RunStep(const FamilyFiles& family, int step) {
     try {
-        kSteps[step].ask(family, report);
+        kSteps[step].query(family, report);
         return true;
-    } catch (const std::exception& error) {
+    } catch (const std::exception& failure) {
         if (step == 0)
-            trouble = error.what();
+            error = failure.what();
         else
             report.missing += (report.missing.empty() ? "" : ", ") + std::string(StepName(step));
         return step != 0;
@@ -71,7 +71,7 @@ bool DeviceJob::TakeStep(const FamilyFiles& family, int step) {
 }
 
 void DeviceJob::Run(const FamilyFiles& family) {
-    for (int done = 0; done < kJobSteps && !isCancelled && TakeStep(family, done);)
+    for (int done = 0; done < kJobSteps && !isCancelled && RunStep(family, done);)
         if (++done; !isCancelled)
             PostMessageW(page, kJobProgress, number, done);
     hasEnded = true;

@@ -1,14 +1,7 @@
-// Uses an open property sheet by messages: see the header.
+// Operates the pages of a property sheet by messages.
 #include "workbench/property_sheet/page_driver.h"
 
-#include "workbench/lib/dialog_view.h"
-#include "workbench/lib/output.h"
-
-std::string PageDriver::Text(int id) const {
-    wchar_t text[512] = L"";
-    GetWindowTextW(Control(id), text, 512);
-    return Utf8(text);
-}
+#include "workbench/lib/text.h"
 
 void PageDriver::TurnTo(SheetPage page) const {
     SendMessageW(sheet.Window(), PSM_SETCURSEL, static_cast<WPARAM>(page), 0);
@@ -37,14 +30,14 @@ bool PageDriver::Press(int button) const {
     return sheet.CurrentPage() != nullptr;
 }
 
-void PageDriver::WaitUntil(const std::function<bool()>& condition, DWORD most) const {
+void PageDriver::WaitUntil(const std::function<bool()>& condition, DWORD maxWait) const {
     const DWORD start = GetTickCount();
     while (!condition()) {
         const DWORD spent = GetTickCount() - start;
-        if (spent >= most)
-            throw Failure(kExitFailed, "the page is still waiting after " + std::to_string(most)
+        if (spent >= maxWait)
+            throw Failure(kExitFailed, "the page is still waiting after " + std::to_string(maxWait)
                                            + " milliseconds; try again");
-        sheet.HandleMessages(most - spent);
+        sheet.HandleMessages(maxWait - spent);
     }
 }
 

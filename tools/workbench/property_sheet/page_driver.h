@@ -1,7 +1,8 @@
-// Uses an open property sheet by messages, as a person would: for the tour and for tests.
+// Operates an open property sheet by messages, as a person would. For the tour and for tests.
 #ifndef WORKBENCH_PROPERTY_SHEET_PAGE_DRIVER_H
 #define WORKBENCH_PROPERTY_SHEET_PAGE_DRIVER_H
 
+#include "workbench/lib/dialog_view.h"
 #include "workbench/property_sheet/sheet_window.h"
 
 #include <functional>
@@ -10,22 +11,22 @@ class PageDriver {
 public:
     explicit PageDriver(SheetWindow& sheetWindow) : sheet(sheetWindow) {}
 
-    // Controls are those of the page in front.
+    // Controls are those of the current page.
     HWND Control(int id) const { return GetDlgItem(sheet.CurrentPage(), id); }
-    std::string Text(int id) const;
+    std::string Text(int id) const { return TextOf(Control(id)); }
 
     void TurnTo(SheetPage page) const;
     void SetText(int id, const std::string& utf8) const;
     void Click(int button) const;
 
-    // Chooses the first entry, or row, with this text. Throws Failure when there is none.
+    // Selects the first entry or row with this text. Throws Failure when there is none.
     void Choose(int list, const std::string& wanted) const;
 
-    // Presses a button of the sheet: PSBTN_OK, PSBTN_APPLYNOW, PSBTN_CANCEL. False when the sheet has ended.
+    // Presses a button of the sheet: PSBTN_OK, PSBTN_APPLYNOW, PSBTN_CANCEL. False when the sheet has closed.
     bool Press(int button) const;
 
-    // Handles messages until the condition holds. Throws Failure after that many milliseconds.
-    void WaitUntil(const std::function<bool()>& condition, DWORD most) const;
+    // Handles messages until the condition is true. Throws Failure after this many milliseconds.
+    void WaitUntil(const std::function<bool()>& condition, DWORD maxWait) const;
 
     // Saves a picture of the sheet; path in UTF-8.
     Document Picture(const std::string& path) const;

@@ -1,4 +1,5 @@
-// Identifiers of the property pages and their controls, and the texts that a button changes between.
+// Identifiers of the property pages and their controls, and the two texts of the query button. Also included
+// by the resource script.
 #ifndef WORKBENCH_PROPERTY_SHEET_PAGE_IDS_H
 #define WORKBENCH_PROPERTY_SHEET_PAGE_IDS_H
 
@@ -7,14 +8,14 @@
 #define PAGE_QUALITY 103
 #define PAGE_VERSION 104
 
-#define TEXT_ASK  "As&k Printer"
-#define TEXT_STOP "Sto&p"
+#define TEXT_QUERY "&Query Printer"
+#define TEXT_STOP  "Sto&p"
 
 #define ID_PICTURE      1001
 #define ID_OPTIONS      1002
 #define ID_OPTION_ITEMS 1003
 #define ID_ADDRESS      1004
-#define ID_ASK          1005
+#define ID_QUERY        1005
 #define ID_PROGRESS     1006
 #define ID_STATUS       1007
 #define ID_SUPPLIES     1008
@@ -24,8 +25,8 @@
 #define ID_TYPE        1022
 #define ID_WEIGHT      1023
 #define ID_COLOR       1024
-#define ID_HOLES       1025
-#define ID_ABILITIES   1026
+#define ID_PRE_PUNCHED 1025
+#define ID_FINISHING   1026
 #define ID_TRAYS       1027
 #define ID_TRAY_BUTTON 1028
 

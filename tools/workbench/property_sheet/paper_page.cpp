@@ -1,15 +1,11 @@
-// The page of the paper: where it comes from, what it is, and what lies in the trays.
+// The Paper page: paper source, paper attributes and the paper in the trays.
+#include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
 
-#include "base/text.h"
-#include "paramdata/devmode_fields.h"
-#include "workbench/lib/dialog_run.h"
-#include "workbench/lib/output.h"
-
 namespace {
 
-// A list of the device table, and the setting that it is chosen for.
+// A combo box, the list of the device table that it offers, and the setting that it changes.
 struct PaperChoice {
     int control;
     CompactItemRecord* DeviceTable::*list;
@@ -19,7 +15,7 @@ constexpr PaperChoice kChoices[] = {
     {ID_TYPE, &DeviceTable::mediaTypes, FIELD(mediaType)},
     {ID_WEIGHT, &DeviceTable::mediaWeights, FIELD(mediaWeight)},
     {ID_COLOR, &DeviceTable::mediaColors, FIELD(mediaColor)},
-    {ID_HOLES, &DeviceTable::prePunchedMedia, FIELD(mediaPrePunched)},
+    {ID_PRE_PUNCHED, &DeviceTable::prePunchedMedia, FIELD(mediaPrePunched)},
 };
 
 class PaperPage : public PropertyPage {
@@ -28,11 +24,11 @@ public:
 
 private:
     void Init() override {
-        SetColumns(ID_TRAYS, {"Tray", "Size", "Orientation", "Type", "Weight", "Colour", "Holes"});
+        SetColumns(ID_TRAYS, {"Tray", "Size", "Orientation", "Type", "Weight", "Colour", "Pre-punched"});
     }
 
     void Show() override {
-        EnableWindow(Control(ID_TRAY_BUTTON), TrayDialogOf(state.family.table.get()) != 0);
+        EnableWindow(Control(ID_TRAY_BUTTON), TrayDialogOf(*state.family.table).id != 0);
         ShowSources();
         for (const PaperChoice& choice : kChoices)
             ShowChoice(choice);
@@ -50,7 +46,7 @@ private:
 
     void OnCommand(UINT control, UINT notification) override {
         if (control == ID_TRAY_BUTTON && notification == BN_CLICKED)
-            RunModelDialog(TrayDialogOf(state.family.table.get()), true);
+            RunModelDialog(TrayDialogOf(*state.family.table));
         else if (control == ID_SOURCE && notification == CBN_SELCHANGE)
             TakeSource();
         else if (notification == CBN_SELCHANGE)
@@ -59,7 +55,7 @@ private:
                     TakeChoice(choice);
     }
 
-    // What the module offers depends on what is installed.
+    // The offered paper sources depend on the installed options.
     void ShowSources() {
         sources = OfferedSources(state);
         std::vector<std::string> names;
@@ -71,16 +67,13 @@ private:
         }
         SetEntries(ID_SOURCE, names, selected);
         const CapabilityQuestions questions(state.family, state.options);
-        SetText(ID_ABILITIES, std::string("Prints on both sides: ")
-                                  + (questions.Has(DC_DUPLEX) ? "yes" : "no")
-                                  + "\nStaples: " + (questions.Has(DC_STAPLE) ? "yes" : "no"));
+        SetText(ID_FINISHING, std::string("Duplex: ") + (questions.Has(DC_DUPLEX) ? "yes" : "no")
+                                  + "\nStapling: " + (questions.Has(DC_STAPLE) ? "yes" : "no"));
     }
 
     std::string NameOfSource(const std::string& key) const {
-        for (const InputSlotRecord& slot : Listed(state.family.table->inputTrays))
-            if (SameText(slot.head.key, key))
-                return Utf8(std::wstring_view(slot.display, TextLength(slot.display)));
-        return key;
+        const InputSlotRecord* source = FindByKey(state.family.table->inputTrays, key.c_str());
+        return source != nullptr ? FieldText(source->display) : key;
     }
 
     void TakeSource() {
@@ -94,7 +87,7 @@ private:
         for (const CompactItemRecord& item : Listed(state.family.table.get()->*choice.list)) {
             if (item.head.value == Load(state.settings, choice.field))
                 selected = static_cast<int>(names.size());
-            names.push_back(Utf8(std::wstring_view(item.display, TextLength(item.display))));
+            names.push_back(FieldText(item.display));
         }
         SetEntries(choice.control, names, selected);
     }

@@ -1,12 +1,11 @@
-// The page of the printer: its picture, which follows every choice; what is installed; and, asked over the
-// network, how full it is and what it stores.
+// The Printer page: the picture of the printer, its options, and the results of querying it: consumables and
+// stored overlays and profiles.
 #include "workbench/property_sheet/device_job.h"
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
 
-#include "base/text.h"
-#include "workbench/lib/output.h"
-#include "workbench/lib/picture_file.h"
+#include "workbench/lib/picture.h"
+#include "workbench/lib/text.h"
 
 #include <algorithm>
 #include <list>
@@ -15,7 +14,7 @@
 
 namespace {
 
-// What people call the options; others go by their key.
+// Names of the options for the user. Others are shown by their key.
 constexpr struct {
     const char* key;
     const char* name;
@@ -28,7 +27,7 @@ constexpr struct {
     {"OpInTrayManual", "Manual feed"},
 };
 
-// The consumables that tell how full they are, in the order in which they are shown.
+// The consumables that report a level, in the order in which they are shown.
 constexpr struct {
     const char* key;
     const char* name;
@@ -37,8 +36,8 @@ constexpr struct {
     {"Consumable5", "Black toner"}, {"Consumable11", "Waste toner box"},
 };
 
-constexpr const char* kNotTold = "not told";
-constexpr const char* kLevels[] = {kNotTold, "empty", "nearly empty", "nearly full", "full", "in order"};
+constexpr const char* kNotReported = "unknown";
+constexpr const char* kLevels[] = {kNotReported, "empty", "nearly empty", "nearly full", "full", "in order"};
 
 const char* OptionName(const char* key) {
     for (const auto& row : kOptionNames)
@@ -47,12 +46,12 @@ const char* OptionName(const char* key) {
     return key;
 }
 
-std::string Describe(const char* name, const MrkSupRequestItem& supply) {
-    const auto value = static_cast<size_t>(supply.value); // beyond all levels where it is negative
+std::string SupplyText(const char* name, const MrkSupRequestItem& supply) {
+    const auto value = static_cast<size_t>(supply.value); // a negative value becomes greater than all levels
     return std::string(name) + ": "
            + (supply.state == TELMAR_STATE_PERCENT ? std::to_string(supply.value) + " %"
               : supply.state == TELMAR_STATE_LEVEL && value < std::size(kLevels) ? kLevels[value]
-                                                                                 : kNotTold);
+                                                                                 : kNotReported);
 }
 
 class PrinterPage : public PropertyPage {
@@ -75,12 +74,12 @@ private:
 
     void OnCommand(UINT control, UINT notification) override {
         if (control == ID_OPTION_ITEMS && notification == CBN_SELCHANGE) {
-            TakeOption(static_cast<size_t>(SelectedRow(ID_OPTIONS)));
+            ChangeOption(static_cast<size_t>(SelectedOption()));
         } else if (control == ID_ADDRESS && notification == EN_CHANGE && Text(ID_ADDRESS) != state.address) {
             state.address = Text(ID_ADDRESS);
             NoteChange();
-        } else if (control == ID_ASK && notification == BN_CLICKED) {
-            state.isAsking ? StopAsking() : Ask();
+        } else if (control == ID_QUERY && notification == BN_CLICKED) {
+            state.isQuerying ? StopQuery() : StartQuery();
         }
     }
 
@@ -94,7 +93,7 @@ private:
     }
 
     void OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (job == nullptr || wParam != job->number) // of one that has been stopped
+        if (job == nullptr || wParam != job->number) // of a query that was stopped
             return;
         if (message == kJobProgress)
             ShowProgress(static_cast<int>(lParam));
@@ -105,41 +104,42 @@ private:
     void Close() override {
         job.reset();
         stopped.clear();
-        state.isAsking = false;
+        state.isQuerying = false;
     }
 
     // --- Options -------------------------------------------------------------------------------------
 
     void ShowOptions() {
-        const int selected = std::max(SelectedRow(ID_OPTIONS), 0);
+        const int selected = std::max(SelectedOption(), 0);
         std::vector<std::vector<std::string>> rows;
         for (size_t i = 0; i < state.options.settings.size(); ++i)
             rows.push_back({OptionName(state.options.features[i].feature.head.key), NameOfItem(i)});
         SetRows(ID_OPTIONS, rows);
-        SelectRow(ID_OPTIONS, selected);
+        SelectEntry(Control(ID_OPTIONS), static_cast<WPARAM>(selected));
         ShowItems();
         InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
     }
 
     std::string NameOfItem(size_t option) const {
-        const ItemRecord* item = SelectedItem(state.options.features.data(), state.options.settings.data(),
-                                              static_cast<int32_t>(option));
-        return item != nullptr ? Utf8(item->display) : "";
+        const ItemRecord* item = CurrentItem(state.options, option);
+        return item != nullptr ? FieldText(item->display) : "";
     }
 
-    // Of the option that is selected.
+    int SelectedOption() const { return SelectionOf(Control(ID_OPTIONS)); }
+
+    // Of the selected option.
     void ShowItems() {
-        const int row = SelectedRow(ID_OPTIONS);
+        const int row = SelectedOption();
         EnableWindow(Control(ID_OPTION_ITEMS), row >= 0);
         if (row < 0)
             return;
         std::vector<std::string> entries;
         for (const ItemRecord& item : Listed(state.options.features[static_cast<size_t>(row)].items))
-            entries.push_back(Utf8(item.display));
+            entries.push_back(FieldText(item.display));
         SetEntries(ID_OPTION_ITEMS, entries, state.options.settings[static_cast<size_t>(row)]);
     }
 
-    void TakeOption(size_t option) {
+    void ChangeOption(size_t option) {
         state.options.settings.at(option) = static_cast<int32_t>(Send(ID_OPTION_ITEMS, CB_GETCURSEL));
         OfferedSources(state);
         SetCell(ID_OPTIONS, option, 1, NameOfItem(option));
@@ -147,7 +147,7 @@ private:
         NoteChange();
     }
 
-    // As the module's bitmaps are, or stretched where the screen's resolution is higher.
+    // In the size of the module's bitmaps, enlarged if the screen's resolution is higher.
     void DrawPicture(const DRAWITEMSTRUCT& item) const {
         const Canvas canvas(kSceneSize);
         DrawScene(state.family, SceneOf(state), canvas.context, kSceneSize);
@@ -158,21 +158,22 @@ private:
 
     // --- The printer ---------------------------------------------------------------------------------
 
-    void Ask() {
+    void StartQuery() {
         if (state.address.empty())
             throw Failure(kExitUsage,
-                          "The printer's address is missing: enter an IPv4 address or a host name.");
+                          "The printer address is missing: enter an IPv4 address or a host name.");
         stopped.remove_if([](const auto& other) { return other->HasEnded(); });
         job = std::make_unique<DeviceJob>(state.family, state.address, window, ++jobNumber);
-        state.isAsking = true;
+        state.isQuerying = true;
         state.report = {};
         ShowReport();
-        SetText(ID_ASK, TEXT_STOP);
+        SetText(ID_QUERY, TEXT_STOP);
         ShowProgress(0);
     }
 
-    // The thread ends with the question that is under way, for which nobody waits before the page is closed.
-    void StopAsking() {
+    // The thread continues until its current query ends. It is joined later, at the latest when the page
+    // closes.
+    void StopQuery() {
         job->Cancel();
         stopped.push_back(std::move(job));
         ShowEnd("Stopped.");
@@ -181,26 +182,26 @@ private:
     void ShowProgress(int steps) {
         Send(ID_PROGRESS, PBM_SETPOS, static_cast<WPARAM>(steps));
         if (steps < kJobSteps)
-            ShowStatus("Asking for " + std::string(StepName(steps)) + "...");
+            ShowStatus("Requesting " + std::string(StepName(steps)) + "...");
     }
 
     void EndJob() {
         const std::unique_ptr<DeviceJob> ended = std::move(job);
-        if (!ended->Trouble().empty()) {
-            ShowEnd(ended->Trouble());
+        if (!ended->Error().empty()) {
+            ShowEnd(ended->Error());
             return;
         }
         const DeviceReport& report = ended->Report();
-        ShowEnd("Told by " + report.address + " (" + report.transport + ")."
-                + (report.missing.empty() ? "" : " Not told: " + report.missing + "."));
-        TakeReport(state, std::move(ended->Report()));
+        ShowEnd("Reported by " + report.address + " (" + report.transport + ")."
+                + (report.missing.empty() ? "" : " Not available: " + report.missing + "."));
+        ApplyReport(state, std::move(ended->Report()));
         NoteChange();
         Show();
     }
 
     void ShowEnd(const std::string& status) {
-        state.isAsking = false;
-        SetText(ID_ASK, TEXT_ASK);
+        state.isQuerying = false;
+        SetText(ID_QUERY, TEXT_QUERY);
         Send(ID_PROGRESS, PBM_SETPOS, 0);
         ShowStatus(status);
     }
@@ -219,7 +220,7 @@ private:
                     supplies.push_back({row.name, supply});
         for (const ShownSupply& supply : supplies)
             Send(ID_SUPPLIES, LB_ADDSTRING, 0,
-                 reinterpret_cast<LPARAM>(Wide(Describe(supply.name, supply.told)).c_str()));
+                 reinterpret_cast<LPARAM>(Wide(SupplyText(supply.name, supply.answer)).c_str()));
 
         Send(ID_STORED, LB_RESETCONTENT);
         for (const StoredResources& overlays : state.report.overlays)
@@ -236,7 +237,7 @@ private:
                  reinterpret_cast<LPARAM>(Wide(use + ": " + Utf8(entry.first)).c_str()));
     }
 
-    // A bar as long as it is full, with what it says.
+    // A bar that shows the level, and the text.
     void DrawSupply(const DRAWITEMSTRUCT& item) const {
         const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
         FillRect(item.hDC, &item.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
@@ -258,7 +259,7 @@ private:
         FrameRect(item.hDC, &bar, GetSysColorBrush(COLOR_BTNSHADOW));
         SetBkMode(item.hDC, TRANSPARENT);
         SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-        DrawTextW(item.hDC, Wide(Describe(name, supply)).c_str(), -1, &place,
+        DrawTextW(item.hDC, Wide(SupplyText(name, supply)).c_str(), -1, &place,
                   DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
         if ((item.itemState & ODS_FOCUS) != 0)
             DrawFocusRect(item.hDC, &item.rcItem);
@@ -266,12 +267,12 @@ private:
 
     struct ShownSupply {
         const char* name;
-        MrkSupRequestItem told;
+        MrkSupRequestItem answer;
     };
 
-    std::vector<ShownSupply> supplies; // by position in the list
-    std::unique_ptr<DeviceJob> job;    // null: the printer is not being asked
-    std::list<std::unique_ptr<DeviceJob>> stopped;
+    std::vector<ShownSupply> supplies;             // by position in the list
+    std::unique_ptr<DeviceJob> job;                // null: no query is running
+    std::list<std::unique_ptr<DeviceJob>> stopped; // not joined yet
     WPARAM jobNumber = 0;
 };
 

@@ -1,8 +1,9 @@
-// One page of the property sheet: see the header.
+// Dispatches the messages of a page and fills its controls.
 #include "workbench/property_sheet/property_page.h"
 
 #include "workbench/lib/dialog_run.h"
 #include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 
 #include <commctrl.h>
 
@@ -28,7 +29,7 @@ INT_PTR CALLBACK PropertyPage::Procedure(HWND window, UINT message, WPARAM wPara
     try {
         return page->Answer(message, wParam, lParam);
     } catch (const std::exception& failure) {
-        page->Tell(failure.what());
+        page->Report(failure.what());
         return TRUE;
     }
 }
@@ -64,35 +65,28 @@ INT_PTR PropertyPage::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-// Every page is asked to apply; the first that is keeps what all have changed. The sheet stays open when that
-// fails.
+// Every page receives PSN_APPLY; the first one saves the changes of all. The sheet stays open if that fails.
 INT_PTR PropertyPage::Apply() const {
     LONG_PTR answer = PSNRET_NOERROR;
     try {
         SaveState(state);
     } catch (const std::exception& failure) {
-        Tell(failure.what());
+        Report(failure.what());
         answer = PSNRET_INVALID_NOCHANGEPAGE;
     }
     SetWindowLongPtrW(window, DWLP_MSGRESULT, answer);
     return TRUE;
 }
 
-void PropertyPage::Tell(const std::string& failure) const {
+void PropertyPage::Report(const std::string& failure) const {
     if (state.user != nullptr)
         state.user->failures.push_back(failure);
     else
-        TellPerson(failure, GetParent(window));
+        ShowWarning(failure, GetParent(window));
 }
 
 void PropertyPage::SetText(int id, const std::string& utf8) const {
     SetDlgItemTextW(window, id, Wide(utf8).c_str());
-}
-
-std::string PropertyPage::Text(int id) const {
-    wchar_t text[256] = L"";
-    GetDlgItemTextW(window, id, text, 256);
-    return Utf8(text);
 }
 
 int PropertyPage::FontHeight() const {
@@ -134,7 +128,7 @@ void PropertyPage::SetRows(int id, const std::vector<std::vector<std::string>>& 
     Send(id, WM_SETREDRAW, TRUE);
 }
 
-// As wide as its cells and its title need. The system leaves a title less room around than it then draws.
+// Makes the column as wide as its cells and its title. The automatic width is too narrow for some titles.
 void PropertyPage::FitColumn(int id, WPARAM column) const {
     wchar_t title[64] = L"";
     LVCOLUMNW shown = {};
@@ -157,16 +151,6 @@ void PropertyPage::SetCell(int id, size_t row, size_t column, const std::string&
     Send(id, LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
 }
 
-int PropertyPage::SelectedRow(int id) const {
-    return static_cast<int>(Send(id, LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_SELECTED));
-}
-
-void PropertyPage::SelectRow(int id, int row) const {
-    LVITEMW item = {};
-    item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
-    Send(id, LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item));
-}
-
 void PropertyPage::SetEntries(int id, const std::vector<std::string>& entries, int selected) const {
     Send(id, CB_RESETCONTENT);
     for (const std::string& entry : entries)
@@ -179,17 +163,16 @@ void PropertyPage::NoteChange() const {
     SendMessageW(GetParent(window), PSM_CHANGED, reinterpret_cast<WPARAM>(window), 0);
 }
 
-void PropertyPage::RunModelDialog(uint32_t id, bool isForTrays) {
+void PropertyPage::RunModelDialog(const ModelDialog& dialog) {
     const PrinterProfiles profiles = ProfilesOf(state);
     OemDevmode settings = state.settings;
     TrayPapers papers = state.papers;
     DialogAreas areas(settings, papers.data(), profiles);
-    DialogScript nothing;
+    DialogScript noScript;
     const bool isByPerson = state.user == nullptr;
     HWND sheet = GetParent(window);
-    const DialogEnd end =
-        RunDialog({id, state.templates, EXPORT(state.family, DDProc_DlgProc), isForTrays}, areas.context,
-                  {isByPerson ? nothing : state.user->script, isByPerson, "", sheet});
+    const DialogEnd end = RunDialog(state.family, state.templates, dialog, areas.context,
+                                    {isByPerson ? noScript : state.user->script, isByPerson, "", sheet});
     SetActiveWindow(sheet);
     if (end.code != IDOK)
         return;

@@ -1,15 +1,18 @@
-// One page of the property sheet: what its window asks of it, and what all pages do with their controls.
+// The base of the pages of the property sheet: events of the window, and what all pages do with their
+// controls.
 #ifndef WORKBENCH_PROPERTY_SHEET_PROPERTY_PAGE_H
 #define WORKBENCH_PROPERTY_SHEET_PROPERTY_PAGE_H
 
+#include "workbench/lib/dialog_view.h"
+#include "workbench/lib/model_dialogs.h"
 #include "workbench/property_sheet/sheet_state.h"
 
 #include <windows.h>
 
 #include <prsht.h> // after windows.h
 
-// A page belongs to the sheet, which outlives its window. Failures that its functions throw are told to who
-// uses the sheet.
+// The sheet owns the page and outlives the page's window. Failures that the functions below throw are
+// reported to the user.
 class PropertyPage {
 public:
     PropertyPage(UINT id, SheetState& sheetState) : templateId(id), state(sheetState) {}
@@ -17,42 +20,40 @@ public:
     PropertyPage(const PropertyPage&) = delete;
     PropertyPage& operator=(const PropertyPage&) = delete;
 
-    // For the sheet, once the page has its place in memory.
+    // For the sheet. The page must not move in memory after this call.
     PROPSHEETPAGEW Description();
 
 protected:
-    virtual void Init() {}   // once
-    virtual void Show() = 0; // what the state says now; each time when the page comes to the front
+    virtual void Init() {}   // once, when the window is created
+    virtual void Show() = 0; // shows the state, each time the page becomes current
     virtual void OnCommand(UINT control, UINT notification) = 0;
     virtual void OnNotify(const NMHDR& /*note*/) {}
     virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
     virtual void OnMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {}
-    virtual void Close() {} // the window goes
+    virtual void Close() {} // before the window is destroyed
 
     HWND Control(int id) const { return GetDlgItem(window, id); }
     LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
         return SendDlgItemMessageW(window, id, message, wParam, lParam);
     }
     void SetText(int id, const std::string& utf8) const;
-    std::string Text(int id) const;
+    std::string Text(int id) const { return TextOf(Control(id)); }
 
     int FontHeight() const; // pixels
 
-    // A list view: its columns, once; its rows, a text for each column.
+    // For a list view: its columns, to be set once; its rows, with a text for each column.
     void SetColumns(int id, const std::vector<const char*>& titles) const;
     void SetRows(int id, const std::vector<std::vector<std::string>>& rows) const;
     void SetCell(int id, size_t row, size_t column, const std::string& utf8) const;
-    int SelectedRow(int id) const;
-    void SelectRow(int id, int row) const;
 
-    // A combo box: its texts, and the one that is selected; -1: none.
+    // For a combo box: its texts and the position of the selected one, -1: none.
     void SetEntries(int id, const std::vector<std::string>& entries, int selected) const;
 
-    // There is something to be kept.
+    // Marks the state as changed and enables Apply.
     void NoteChange() const;
 
-    // Has one of the model's dialogs run, while the sheet waits. It works on copies, which OK brings back.
-    void RunModelDialog(uint32_t id, bool isForTrays);
+    // Runs one of the model's dialogs on copies of the settings and trays; OK stores them in the state.
+    void RunModelDialog(const ModelDialog& dialog);
 
     const UINT templateId;
     SheetState& state;
@@ -63,10 +64,10 @@ private:
     INT_PTR Answer(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Apply() const;
     void FitColumn(int id, WPARAM column) const;
-    void Tell(const std::string& failure) const;
+    void Report(const std::string& failure) const;
 };
 
-// The pages, by their position.
+// Positions of the pages.
 enum SheetPage { kPrinterPage, kPaperPage, kQualityPage, kVersionPage };
 
 std::unique_ptr<PropertyPage> MakePrinterPage(SheetState& state);

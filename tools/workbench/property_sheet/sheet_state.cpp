@@ -1,13 +1,10 @@
-// What the property sheet shows and changes: see the header. The file is JSON; records are hexadecimal
+// Loads, saves and updates the state of the property sheet. The file is JSON with records as hexadecimal
 // digits.
 #include "workbench/property_sheet/sheet_state.h"
 
-#include "base/text.h"
-#include "paramdata/default_settings.h"
-#include "workbench/lib/input_file.h"
+#include "workbench/lib/files.h"
 #include "workbench/lib/json_form.h"
-#include "workbench/lib/output.h"
-#include "workbench/lib/output_file.h"
+#include "workbench/lib/text.h"
 
 #include <algorithm>
 
@@ -16,7 +13,7 @@ namespace {
 constexpr const wchar_t* kFolderName = L"lumora workbench";
 constexpr const wchar_t* kFileName = L"property_sheet.json";
 constexpr const char* kOption = "--state";
-constexpr const char* kNotAsked = "Not asked yet. The picture shows what is chosen above.";
+constexpr const char* kNotQueried = "Not queried yet. The picture shows the options selected above.";
 
 std::string Hex(const void* record, size_t size) {
     constexpr const char* kDigits = "0123456789abcdef";
@@ -28,8 +25,8 @@ std::string Hex(const void* record, size_t size) {
     return text;
 }
 
-// Leaves the record as it was when the text is not its digits.
-void TakeHex(const Document& text, void* record, size_t size) {
+// Leaves the record unchanged if the text is not a record of this size.
+void LoadHex(const Document& text, void* record, size_t size) {
     const std::string digits = text.IsText() ? text.Text() : "";
     if (digits.size() != 2 * size || digits.find_first_not_of("0123456789abcdef") != std::string::npos)
         return;
@@ -38,28 +35,28 @@ void TakeHex(const Document& text, void* record, size_t size) {
             static_cast<uint8_t>(std::stoi(digits.substr(2 * i, 2), nullptr, 16));
 }
 
-void TakeText(const Document& from, std::string& text) {
+void LoadText(const Document& from, std::string& text) {
     if (from.IsText())
         text = from.Text();
 }
 
-void TakeKept(const Document& kept, SheetState& state) {
-    TakeHex(kept["settings"], &state.settings, sizeof(state.settings));
-    TakeHex(kept["trays"], state.papers.data(), sizeof(state.papers));
-    TakeText(kept["address"], state.address);
-    TakeText(kept["toldBy"], state.toldBy);
+void LoadFields(const Document& kept, SheetState& state) {
+    LoadHex(kept["settings"], &state.settings, sizeof(state.settings));
+    LoadHex(kept["trays"], state.papers.data(), sizeof(state.papers));
+    LoadText(kept["address"], state.address);
+    LoadText(kept["toldBy"], state.reportedBy);
     for (const auto& option : kept["options"].Fields())
         if (option.value.IsText())
-            TakeReportedOption(state.options, option.name.c_str(), option.value.Text().c_str());
+            ApplyReportedOption(state.options, option.name.c_str(), option.value.Text().c_str());
 }
 
-// What the printer calls first is the name, the second is a file's.
+// The printer's first text is the profile's name; the second is a file name.
 ProfileEntry EntryOf(const SheetState& state, const StoredResourceEntry& stored) {
     ProfileEntry entry = {};
     CopyText(entry.name, Wide(stored.first, CP_ACP).c_str());
-    for (const TextItemRecord& location : Listed(state.family.table->profileLocations))
-        if (SameText(location.head.key, stored.storage))
-            entry.location = location.head.value;
+    const TextItemRecord* location = FindByKey(state.family.table->profileLocations, stored.storage);
+    if (location != nullptr)
+        entry.location = location->head.value;
     return entry;
 }
 
@@ -74,10 +71,10 @@ void ResetState(SheetState& state) {
     state.settings = defaultSettings;
     state.options = ReadOptionFeatures(state.family);
     state.address.clear();
-    state.toldBy.clear();
+    state.reportedBy.clear();
     state.papers = UnknownPapers(state.family);
     state.report = {};
-    state.status = kNotAsked;
+    state.status = kNotQueried;
 }
 
 std::string LoadState(SheetState& state) {
@@ -85,9 +82,9 @@ std::string LoadState(SheetState& state) {
         return {};
     const std::string text = ReadTextFile(state.file.u8string(), kOption);
     try {
-        TakeKept(ParseJson(text, state.file.u8string()), state);
+        LoadFields(ParseJson(text, state.file.u8string()), state);
         return {};
-    } catch (const Failure&) { // put aside below
+    } catch (const Failure&) { // renamed below
     }
     std::filesystem::path aside = state.file;
     aside += L".damaged";
@@ -95,19 +92,18 @@ std::string LoadState(SheetState& state) {
     std::filesystem::rename(state.file, aside, isInUse);
     if (isInUse)
         throw Failure(kExitFailed, state.file.u8string()
-                                       + ": holds no settings of the sheet; remove it, or name "
-                                         "another with "
+                                       + ": does not contain settings of the sheet; delete it, or "
+                                         "specify another file with "
                                        + kOption);
     return state.file.u8string()
-           + ": holds no settings of the sheet, which begins with the model's; the file "
-             "is now called "
+           + ": does not contain settings of the sheet; the model's defaults are used. The file was renamed "
            + aside.u8string();
 }
 
 void SaveState(SheetState& state) {
     if (state.file.empty() || !state.hasChanges)
         return;
-    Document kept = {{"address", state.address}, {"toldBy", state.toldBy}};
+    Document kept = {{"address", state.address}, {"toldBy", state.reportedBy}};
     for (const Document& row : OptionsDocument(state.options).Elements())
         kept["options"][row["feature"].Text()] = row["item"];
     kept["trays"] = Hex(state.papers.data(), sizeof(state.papers));
@@ -120,21 +116,21 @@ std::filesystem::path StateFile() {
     wchar_t folder[MAX_PATH] = L".";
     GetEnvironmentVariableW(L"LOCALAPPDATA", folder, MAX_PATH);
     const auto own = std::filesystem::path(folder) / kFolderName;
-    std::error_code error; // then the file can't be written, which is told
+    std::error_code error; // ignored: saving the file will report it
     std::filesystem::create_directories(own, error);
     return own / kFileName;
 }
 
-void TakeReport(SheetState& state, DeviceReport report) {
-    if (state.toldBy != report.address)
+void ApplyReport(SheetState& state, DeviceReport report) {
+    if (state.reportedBy != report.address)
         state.options = ReadOptionFeatures(state.family);
     for (const OptionRequestItem& answer : report.options)
-        TakeReportedOption(state.options, answer.key, answer.value);
+        ApplyReportedOption(state.options, answer.key, answer.value);
     if (report.hasPapers)
         state.papers = report.papers;
-    else if (state.toldBy != report.address)
+    else if (state.reportedBy != report.address)
         state.papers = UnknownPapers(state.family);
-    state.toldBy = report.address;
+    state.reportedBy = report.address;
     state.report = std::move(report);
     OfferedSources(state);
 }
@@ -151,9 +147,9 @@ std::vector<PaperSource> OfferedSources(SheetState& state) {
 
 PrinterScene SceneOf(const SheetState& state) {
     PrinterScene scene = {state.options, true, {}, {}};
-    for (const InputSlotRecord& source : Listed(state.family.table->inputTrays))
-        if (source.head.value == state.settings.inputTray)
-            scene.tray = source.head.key;
+    const InputSlotRecord* source = FindByValue(state.family.table->inputTrays, state.settings.inputTray);
+    if (source != nullptr)
+        scene.tray = source->head.key;
     return scene;
 }
 

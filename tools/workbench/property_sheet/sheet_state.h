@@ -1,21 +1,20 @@
-// What the property sheet shows and changes: the settings, options, trays and address that are kept between
-// runs, and what a printer has told. All pages work on one of these, on the sheet's thread.
+// The state of the property sheet: settings, options, trays and address, which are kept between runs, and the
+// results of the last query of a printer. All pages share one state and use it on the sheet's thread.
 #ifndef WORKBENCH_PROPERTY_SHEET_SHEET_STATE_H
 #define WORKBENCH_PROPERTY_SHEET_SHEET_STATE_H
 
 #include "workbench/lib/capability_questions.h"
-#include "workbench/lib/device_options.h"
-#include "workbench/lib/device_resources.h"
 #include "workbench/lib/dialog_script.h"
+#include "workbench/lib/printer_queries.h"
 #include "workbench/lib/printer_scene.h"
 #include "workbench/lib/profile_file.h"
 #include "workbench/lib/tray_papers.h"
 
-// What a printer has told, as far as it has been asked.
+// The results of querying a printer, as far as the query has succeeded.
 struct DeviceReport {
-    std::string address;   // whose report it is
-    std::string transport; // for a person
-    std::string missing;   // for a person: what it has not told; empty: nothing
+    std::string address;   // of the printer
+    std::string transport; // as shown to the user
+    std::string missing;   // what could not be queried, as shown to the user; empty: nothing
     OptionAnswers options;
     TrayPapers papers;
     bool hasPapers = false;
@@ -24,10 +23,10 @@ struct DeviceReport {
     StoredProfiles profiles;
 };
 
-// A program that uses the sheet in place of a person.
+// A program that uses the sheet instead of a person.
 struct SheetUser {
-    DialogScript script;               // for the model's dialog that is opened next
-    std::vector<std::string> failures; // that a person would be told of
+    DialogScript script;               // for the next dialog that is opened
+    std::vector<std::string> failures; // that a person would see in a message box
 };
 
 struct SheetState {
@@ -39,43 +38,42 @@ struct SheetState {
     // Kept between runs.
     OemDevmode settings;
     OptionFeatures options;
-    std::string address; // of the printer
-    std::string toldBy;  // address of the printer that options and papers come from; empty: from none
+    std::string address;    // of the printer
+    std::string reportedBy; // address of the printer that reported options and papers; empty: none
     TrayPapers papers;
 
-    DeviceReport report; // of the printer that has been asked last; its address is empty when none has told
-    std::string status;  // of asking, for a person
-    bool isAsking = false;
-    bool hasChanges = false;    // that are not kept yet
-    std::filesystem::path file; // where they are kept; empty: nowhere
+    DeviceReport report; // of the last query; its address is empty when that has failed
+    std::string status;  // of the query, as shown to the user
+    bool isQuerying = false;
+    bool hasChanges = false;    // that are not saved yet
+    std::filesystem::path file; // where the state is kept; empty: nowhere
     SheetUser* user = nullptr;  // null: a person
 };
 
-// Puts everything that is kept back to what the model has of itself.
+// Resets everything that is kept to the model's defaults.
 void ResetState(SheetState& state);
 
-// Reads what has been kept in the state's file, if there is one; what is missing, or doesn't fit the model,
-// stays as it is. A file that is none of this kind is put aside under another name; the answer then says so,
-// otherwise it is empty.
+// Loads the state's file if it exists. What is missing in it or does not fit the model stays as it is. A file
+// of another kind is renamed; the result is then a warning for the user, otherwise it is empty.
 std::string LoadState(SheetState& state);
 
-// Keeps what has changed. Throws Failure when the file can't be written.
+// Saves the state if it has changed. Throws Failure when the file cannot be written.
 void SaveState(SheetState& state);
 
-// Where a person's settings are kept; its folder is made.
+// The user's own file, by default. Creates its folder.
 std::filesystem::path StateFile();
 
-// Takes over what a printer has told. What it doesn't tell stays if it comes from the same printer.
-void TakeReport(SheetState& state, DeviceReport report);
+// Applies the results of a query. What the printer did not report stays if it comes from the same printer.
+void ApplyReport(SheetState& state, DeviceReport report);
 
-// The paper sources that the module offers for what is installed. When the one in the settings is none of
-// them, the first takes its place.
+// The paper sources that the module offers with the installed options. If the current one is not among them,
+// the first becomes the current one.
 std::vector<PaperSource> OfferedSources(SheetState& state);
 
-// What the picture shows: the options, and the way from the paper source.
+// The picture of the printer with its options and the path from the current paper source.
 PrinterScene SceneOf(const SheetState& state);
 
-// The printer's colour profiles, as the model's dialogs want them.
+// The colour profiles of the printer for the model's dialogs.
 PrinterProfiles ProfilesOf(const SheetState& state);
 
 #endif

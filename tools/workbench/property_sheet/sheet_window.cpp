@@ -1,4 +1,4 @@
-// The property sheet: see the header.
+// Creates the property sheet and runs its message loop.
 #include "workbench/property_sheet/sheet_window.h"
 
 #include <commctrl.h>
@@ -25,7 +25,7 @@ SheetWindow::SheetWindow(SheetState& state) {
     header.ppsp = descriptions.data();
     window = reinterpret_cast<HWND>(PropertySheetW(&header));
     if (window == nullptr || window == reinterpret_cast<HWND>(INT_PTR{-1}))
-        throw Failure(kExitFailed, "the property sheet can't be opened; it needs a display");
+        throw Failure(kExitFailed, "the property sheet cannot be opened; it needs a display");
 }
 
 SheetWindow::~SheetWindow() {
@@ -36,8 +36,8 @@ HWND SheetWindow::CurrentPage() const {
     return reinterpret_cast<HWND>(SendMessageW(window, PSM_GETCURRENTPAGEHWND, 0, 0));
 }
 
-bool SheetWindow::HandleMessages(DWORD longestWait) {
-    MsgWaitForMultipleObjectsEx(0, nullptr, longestWait, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+bool SheetWindow::HandleMessages(DWORD maxWait) {
+    MsgWaitForMultipleObjectsEx(0, nullptr, maxWait, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
     MSG message;
     while (CurrentPage() != nullptr && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
         if (SendMessageW(window, PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(&message)) == 0) {

@@ -1,10 +1,10 @@
-// The property sheet: all pages in one window.
+// The window of the property sheet with all pages.
 #ifndef WORKBENCH_PROPERTY_SHEET_SHEET_WINDOW_H
 #define WORKBENCH_PROPERTY_SHEET_SHEET_WINDOW_H
 
 #include "workbench/property_sheet/property_page.h"
 
-// An open sheet. It destroys its window, and then its pages, at its end.
+// An open sheet. The destructor destroys the window, then the pages.
 class SheetWindow {
 public:
     // Throws Failure when there is no display.
@@ -16,9 +16,9 @@ public:
     HWND Window() const { return window; }
     HWND CurrentPage() const;
 
-    // Waits for messages, at most so many milliseconds, and handles them. False when the sheet has been
-    // ended, by OK or Cancel.
-    bool HandleMessages(DWORD longestWait = INFINITE);
+    // Waits for messages, at most this many milliseconds, and handles them. False when OK or Cancel has
+    // closed the sheet.
+    bool HandleMessages(DWORD maxWait = INFINITE);
 
 private:
     std::vector<std::unique_ptr<PropertyPage>> pages;

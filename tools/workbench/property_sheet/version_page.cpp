@@ -1,8 +1,6 @@
-// The page of the versions: the logo, which files do the work, and the way back to the beginning.
+// The Version page: the logo, the files of the driver and the reset button.
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
-
-#include "telmar_d.h"
 
 namespace {
 
@@ -41,7 +39,7 @@ private:
     }
 
     void OnDraw(const DRAWITEMSTRUCT& item) override {
-        // on the page's own ground, whatever the system draws there
+        // The logo is drawn on the page's background, whatever that is.
         POINT origin = {0, 0};
         MapWindowPoints(item.hwndItem, window, &origin, 1);
         SetViewportOrgEx(item.hDC, -origin.x, -origin.y, nullptr);

@@ -1,15 +1,17 @@
-// Files that a command writes: see the header.
-#include "workbench/lib/output_file.h"
+// Reads files whole and replaces files atomically.
+#include "workbench/lib/files.h"
 
 #include "workbench/lib/document.h"
-#include "workbench/lib/output.h"
+#include "workbench/lib/text.h"
 
+#include <fstream>
+#include <iterator>
 #include <utility>
 
 namespace {
 
-// A file beside the final one, which is removed unless it takes that one's place. Its functions are false,
-// with the last error, where the system declines.
+// A temporary file next to the final one. It is deleted unless Keep() has renamed it. Functions return false
+// and set the last error on failure.
 struct NewFile {
     explicit NewFile(const std::filesystem::path& finalPath) : keptAs(finalPath), path(finalPath) {
         path += L".part";
@@ -49,11 +51,24 @@ struct NewFile {
 
 } // namespace
 
+std::string ReadInputFile(const std::string& path, const char* option) {
+    std::ifstream file(std::filesystem::u8path(path), std::ios::binary);
+    if (!file)
+        throw Failure(kExitFailed, path + ": cannot be read; specify another file with " + option);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string ReadTextFile(const std::string& path, const char* option) {
+    constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+    const std::string text = ReadInputFile(path, option);
+    return text.compare(0, 3, kByteOrderMark) == 0 ? text.substr(3) : text;
+}
+
 void WriteOutputFile(const std::filesystem::path& path, std::string_view bytes, const char* option) {
     NewFile file(path);
     if (!file.IsOpen() || !file.Write(bytes) || !file.Keep()) {
         const std::string reason = ErrorText(GetLastError());
-        throw Failure(kExitFailed, path.u8string() + ": can't be written (" + reason
-                                       + "); make room for it, or name another file with " + option);
+        throw Failure(kExitFailed, path.u8string() + ": cannot be written (" + reason
+                                       + "); free some space, or specify another file with " + option);
     }
 }

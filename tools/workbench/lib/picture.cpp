@@ -1,25 +1,26 @@
-// Pictures in memory and PNG files: see the header.
-#include "workbench/lib/picture_file.h"
+// Draws with GDI; reads and writes PNG with GDI+.
+#include "workbench/lib/picture.h"
 
-#include "workbench/lib/output_file.h"
+#include "workbench/lib/files.h"
+#include "workbench/lib/text.h"
 
 #include <vector>
 
-#include <objidl.h> // before GDI+, which takes its streams from there
+#include <objidl.h> // before gdiplus.h, which uses IStream
 
 #include <gdiplus.h>
 
 namespace {
 
-// Of GDI+'s own encoder: every system has it.
+// The encoder that comes with GDI+.
 constexpr CLSID kPngEncoder = {0x557CF406, 0x1A04, 0x11D3, {0x9A, 0x73, 0x00, 0x00, 0xF8, 0x1E, 0xF3, 0x2E}};
 
 constexpr int kBytesPerPixel = 4;
 
 [[noreturn]] void FailToEncode(const char* step, int status) {
-    throw Failure(kExitFailed, std::string("the picture can't be made into PNG: ") + step + " answers status "
-                                   + std::to_string(status)
-                                   + "; make it smaller, or close what takes up the memory");
+    throw Failure(kExitFailed, std::string("the picture cannot be encoded as PNG: ") + step
+                                   + " returned status " + std::to_string(status)
+                                   + "; make it smaller, or free some memory");
 }
 
 void CheckStatus(const char* step, Gdiplus::Status status) {
@@ -27,7 +28,7 @@ void CheckStatus(const char* step, Gdiplus::Status status) {
         FailToEncode(step, status);
 }
 
-// GDI+ as long as this lives.
+// GDI+ is started while this object exists.
 struct GdiPlus {
     GdiPlus() {
         const Gdiplus::GdiplusStartupInput input;
@@ -45,7 +46,7 @@ struct ReleaseStream {
 };
 using Stream = std::unique_ptr<IStream, ReleaseStream>;
 
-// What has been written to a stream in memory.
+// The bytes written to a stream in memory.
 std::vector<uint8_t> Contents(IStream& stream) {
     STATSTG facts = {};
     HGLOBAL block = nullptr;
@@ -62,12 +63,12 @@ std::vector<uint8_t> Contents(IStream& stream) {
 std::vector<uint8_t> EncodePng(const Canvas& canvas) {
     GdiFlush();
     const GdiPlus gdiPlus;
-    IStream* made = nullptr;
-    const HRESULT result = CreateStreamOnHGlobal(nullptr, TRUE, &made);
+    IStream* created = nullptr;
+    const HRESULT result = CreateStreamOnHGlobal(nullptr, TRUE, &created);
     if (FAILED(result))
         FailToEncode("its stream", result);
-    const Stream stream(made);
-    // GDI leaves the fourth byte of a pixel as it likes: it is no opacity.
+    const Stream stream(created);
+    // RGB without alpha: GDI leaves the fourth byte of a pixel undefined.
     Gdiplus::Bitmap bitmap(canvas.size.cx, canvas.size.cy, canvas.size.cx * kBytesPerPixel,
                            PixelFormat32bppRGB, static_cast<BYTE*>(canvas.pixels));
     CheckStatus("Bitmap", bitmap.GetLastStatus());
@@ -89,7 +90,7 @@ Canvas::Canvas(SIZE wanted) : size(wanted) {
     if (context == nullptr || bitmap == nullptr) {
         DeleteObject(bitmap);
         DeleteDC(context);
-        throw Failure(kExitFailed, "there is no memory for a picture of " + std::to_string(size.cx) + " x "
+        throw Failure(kExitFailed, "not enough memory for a picture of " + std::to_string(size.cx) + " x "
                                        + std::to_string(size.cy) + " pixels; make it smaller");
     }
     before = SelectObject(context, bitmap);
@@ -102,13 +103,29 @@ Canvas::~Canvas() {
     DeleteDC(context);
 }
 
+void DrawLine(HDC to, RECT place, const TextStyle& style, const char* text) {
+    LOGFONTW description = {};
+    GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof(description), &description);
+    description.lfHeight = style.height;
+    description.lfWeight = style.weight;
+    description.lfQuality = ANTIALIASED_QUALITY;
+    const HFONT font = CreateFontIndirectW(&description);
+    const HGDIOBJ before = SelectObject(to, font);
+    SetTextColor(to, style.color);
+    SetBkMode(to, TRANSPARENT);
+    DrawTextW(to, Wide(text).c_str(), -1, &place,
+              style.placement | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+    SelectObject(to, before);
+    DeleteObject(font);
+}
+
 Document WritePicture(const Canvas& canvas, const std::string& path) {
     if (path.empty())
-        throw Failure(kExitUsage, "--out lacks the picture's name; possible: FILE");
+        throw Failure(kExitUsage, "--out lacks the file name of the picture; possible: FILE");
     const auto file = std::filesystem::absolute(std::filesystem::u8path(path)).make_preferred();
     if (!std::filesystem::is_directory(file.parent_path()))
         throw Failure(kExitFailed, file.u8string() + ": there is no folder " + file.parent_path().u8string()
-                                       + "; make it, or name another file with --out");
+                                       + "; create it, or specify another file with --out");
     const std::vector<uint8_t> png = EncodePng(canvas);
     WriteOutputFile(file, {reinterpret_cast<const char*>(png.data()), png.size()}, "--out");
     return {{"path", file.u8string()}, {"width", canvas.size.cx}, {"height", canvas.size.cy}};
@@ -119,7 +136,7 @@ std::unique_ptr<Canvas> ReadPicture(const std::string& path) {
     Gdiplus::Bitmap bitmap(std::filesystem::u8path(path).c_str());
     const SIZE size = {static_cast<LONG>(bitmap.GetWidth()), static_cast<LONG>(bitmap.GetHeight())};
     if (bitmap.GetLastStatus() != Gdiplus::Ok || size.cx == 0 || size.cy == 0)
-        throw Failure(kExitFailed, path + ": is no picture, or can't be read; name a PNG file");
+        throw Failure(kExitFailed, path + ": not a picture, or cannot be read; specify a PNG file");
     auto canvas = std::make_unique<Canvas>(size);
     Gdiplus::Graphics graphics(canvas->context);
     CheckStatus("Graphics::DrawImage", graphics.DrawImage(&bitmap, 0, 0, size.cx, size.cy));

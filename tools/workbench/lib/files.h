@@ -1,0 +1,19 @@
+// Reading and writing of whole files that an option of the command line names. Messages mention that option.
+#ifndef WORKBENCH_LIB_FILES_H
+#define WORKBENCH_LIB_FILES_H
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+// The bytes of the file at this path (UTF-8). Throws Failure when it cannot be read.
+std::string ReadInputFile(const std::string& path, const char* option);
+
+// The text of a UTF-8 file, without its byte order mark if it has one.
+std::string ReadTextFile(const std::string& path, const char* option);
+
+// Writes the bytes to a temporary file and renames it when complete, so that an existing file is kept if
+// writing fails. Throws Failure with the reason.
+void WriteOutputFile(const std::filesystem::path& path, std::string_view bytes, const char* option);
+
+#endif

@@ -1,0 +1,30 @@
+// Texts: conversion between the module's texts and UTF-8, numbers, and what a Windows error means.
+#ifndef WORKBENCH_LIB_TEXT_H
+#define WORKBENCH_LIB_TEXT_H
+
+#include "workbench/lib/module_parts.h"
+
+#include <string>
+#include <string_view>
+
+std::string Utf8(std::wstring_view text);
+
+// From an 8-bit code page. The module's keys and texts are in the system's.
+std::string Utf8(std::string_view text, UINT codePage = CP_ACP);
+
+// To UTF-16.
+std::wstring Wide(std::string_view text, UINT codePage = CP_UTF8);
+
+// The text in a field of a record, which it may fill without a terminator.
+template <typename Char, size_t N>
+std::string FieldText(const Char (&field)[N]) {
+    return Utf8(std::basic_string_view<Char>(field, TextLength(field)));
+}
+
+// The number that the text consists of; -1 when it is anything but 1 to `maxDigits` digits.
+int ParseNumber(const std::string& text, size_t maxDigits);
+
+// A last-error value with the system's message.
+std::string ErrorText(DWORD error);
+
+#endif
