@@ -100,7 +100,6 @@ TEST_F(Sheet, PictureFollowsOptionsAndPaperSource) {
     driver.Choose(ID_SOURCE, "Tray 2");
     driver.TurnTo(kPrinterPage);
     EXPECT_TRUE(pictures.insert(Picture()).second) << "the paper path is not visible";
-    EXPECT_TRUE(state.hasChanges);
 }
 
 TEST_F(Sheet, RemovedPaperSourceIsDeselected) {
@@ -126,10 +125,10 @@ TEST_F(Sheet, QueryResultsAreShown) {
               std::vector<std::string>({"Cyan toner: 83 %", "Magenta toner: 67 %", "Yellow toner: 71 %",
                                         "Black toner: 92 %", "Waste toner box: in order"}));
     RECT row = {};
-    SendMessageW(supplies, LB_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&row));
+    SendMessageW(supplies, LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
     EXPECT_EQ(Pixels(ID_SUPPLIES, {row.left + 8, row.top + 6, row.left + 9, row.top + 7}).substr(0, 3),
-              "\xFF\0\xFF"s)
-        << "the bar is not magenta";
+              "\xFF\xFF\0"s)
+        << "the bar is not cyan";
     EXPECT_EQ(Lines(driver.Control(ID_STORED)).at(0), "Overlay: Company letterhead");
     EXPECT_EQ(PaperType(3), "Thick 1");
     EXPECT_EQ(ItemOf("OpOutTrayUnit"), "OpOutTrayUnit1");

@@ -27,9 +27,9 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
     EXPECT_EQ(first["printer"]["status"], "Reported by 127.0.162.1 (bidirectional library).");
     EXPECT_EQ(ItemOf(first, "OpOutTrayUnit"), "OpOutTrayUnit1"); // reported
     EXPECT_EQ(ItemOf(first, "OpFAXUnit"), "EnaOpFAXKit");        // chosen by the tour
-    EXPECT_EQ(first["trays"][1]["size"], "A3");
     EXPECT_EQ(first["trays"][3]["type"], "Thick 1");
     EXPECT_EQ(first["pictures"].size(), 4);
+    EXPECT_TRUE(fs::exists(folder.path / "page-version.png"));
     // OK of the colour dialog also writes new records of the RGB sources.
     EXPECT_EQ(Changes(first).find("inputTray:7:258 mediaType:257:261 image.colorMatch:1:3 "), 0u)
         << Changes(first);
@@ -44,6 +44,13 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
     const Json reset = folder.Tour(L" --reset");
     EXPECT_EQ(reset["changes"], Json::array());
     EXPECT_EQ(ItemOf(reset, "OpOutTrayUnit"), "DisOpOutTrayUnit");
+}
+
+TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {
+    const Folder noLibrary(L"workbench_sheet_no_library",
+                           {"workbench.exe", "TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL", "TELMAR_U.DLL"});
+    const Result result = RunWorkbench(L"tour --json --from 127.0.162.1 --out .", noLibrary.path);
+    EXPECT_EQ(Json::parse(result.output)["printer"]["status"], "Reported by 127.0.162.1 (SNMP).");
 }
 
 TEST(WorkbenchSheet, UnfitPartsOfTheStateFileAreIgnored) {
