@@ -185,6 +185,7 @@ TEST_F(Sheet, SheetStaysOpenWhenSavingFails) {
 
 TEST_F(Sheet, DialogsWorkOnCopies) {
     driver.TurnTo(kQualityPage);
+    EXPECT_EQ(driver.Text(ID_VARIANT), "Colour dialog of this model: 128");
     user.script = ParseDialogScript("choose 1354 Exact match\ncancel", "test");
     driver.Click(ID_COLOR_DIALOG);
     EXPECT_FALSE(state.hasChanges);
