@@ -1,17 +1,13 @@
-// The constraint table: see the header.
+// The table of refused combinations of settings, and its checks.
 #include "uimodule/constraints.h"
 
-#include "base/records.h"
+#include "base/dialog_ids.h"
 #include "base/text.h"
 
 namespace {
 
-constexpr uint16_t kSimulationList = 1524;
-constexpr uint16_t kPaperColorBox = 1526;
-constexpr uint16_t kSimulationGrayList = 1627;
-
 constexpr uint16_t kNoSimulation = 0;
-constexpr uint16_t kFourColorGray = 0; // the treatment that leaves colours as they are
+constexpr uint16_t kFourColorGray = 0; // the treatment that leaves colours unchanged
 
 bool IsPaperMatchedAlone(const OemDevmode& settings) {
     return settings.matchPaperColor != 0 && settings.simulation == kNoSimulation;
@@ -25,15 +21,15 @@ bool IsSimulatedInBlack(const OemDevmode& settings) {
     return settings.mono != 0 && settings.simulation != kNoSimulation;
 }
 
-// Each combination is refused from both sides: at the choice that needs another, and at the one needed. Of a
-// control's rows the first that is broken counts.
+// A combination is refused at either of its controls: at the choice that needs the other, and at the one that
+// is needed. The first row of a control that is broken counts.
 // clang-format off
 constexpr Constraint kConstraints[] = {
-    {kPaperColorBox,      TELMAR_CHANGE_REFUSED,    IsPaperMatchedAlone, L"The colour of the paper can be matched only while a press is simulated."},
-    {kSimulationGrayList, TELMAR_CHANGE_REFUSED,    IsGrayTreatedAlone,  L"Blacks and greys of a press can be chosen only while a press is simulated."},
-    {kSimulationList,     TELMAR_CHANGE_REFUSED,    IsSimulatedInBlack,  L"This printer prints black only. No press can be simulated."},
-    {kSimulationList,     TELMAR_CHANGE_REFUSED_ALSO, IsPaperMatchedAlone, L"A press is needed while the colour of the paper is matched."},
-    {kSimulationList,     TELMAR_CHANGE_REFUSED_ALSO, IsGrayTreatedAlone,  L"A press is needed while its blacks and greys are not printed in four colours."},
+    {IDC_MATCH_PAPER_COLOR, TELMAR_CHANGE_REFUSED,      IsPaperMatchedAlone, L"The colour of the paper can be matched only while a press is simulated."},
+    {IDC_SIMULATION_GRAY,   TELMAR_CHANGE_REFUSED,      IsGrayTreatedAlone,  L"Blacks and greys of a press can be chosen only while a press is simulated."},
+    {IDC_SIMULATION,        TELMAR_CHANGE_REFUSED,      IsSimulatedInBlack,  L"This printer prints black only. No press can be simulated."},
+    {IDC_SIMULATION,        TELMAR_CHANGE_REFUSED_ALSO, IsPaperMatchedAlone, L"A press is needed while the colour of the paper is matched."},
+    {IDC_SIMULATION,        TELMAR_CHANGE_REFUSED_ALSO, IsGrayTreatedAlone,  L"A press is needed while its blacks and greys are not printed in four colours."},
 };
 // clang-format on
 

@@ -1,4 +1,4 @@
-// Which combinations of settings are refused, and what the user is told.
+// Which combinations of settings are refused, and the hint that the user sees.
 #ifndef UIMODULE_CONSTRAINTS_H
 #define UIMODULE_CONSTRAINTS_H
 
@@ -6,7 +6,7 @@
 
 #include <windows.h>
 
-// A choice of the control that leaves the settings so is refused.
+// A choice of this control is refused when it leaves the settings broken.
 struct Constraint {
     uint16_t control;
     int32_t answer; // of DoConstraints
@@ -14,12 +14,12 @@ struct Constraint {
     const wchar_t* hint;
 };
 
-// The first constraint of the control that the settings break; null when they break none.
+// The first constraint of the control that the settings violate; null when there is none.
 const Constraint* FindBroken(const OemDevmode& settings, uint32_t control);
 
 using HintText = wchar_t[512];
 
-// Appends what the settings break of the dialog's own controls: a line for each combination.
+// Appends one line for each combination that the settings violate and whose control the dialog has.
 void DescribeConflicts(HintText& text, const OemDevmode& settings, HWND dialog);
 
 #endif

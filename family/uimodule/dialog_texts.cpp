@@ -1,7 +1,8 @@
-// Texts of a dialog: see the header.
+// Replaces the texts of a dialog and fits its lists to them.
 #include "uimodule/dialog_texts.h"
 
 #include "base/text.h"
+#include "base/window_services.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ wchar_t UpperCase(wchar_t c) {
         reinterpret_cast<ULONG_PTR>(CharUpperW(reinterpret_cast<wchar_t*>(ULONG_PTR{c}))));
 }
 
-// The letter behind the single '&'; 0 when there is none.
+// The letter after a single '&'; 0 when there is none.
 wchar_t AccessKeyOf(const wchar_t* text) {
     for (; *text != 0; ++text) {
         if (*text != L'&')
@@ -25,7 +26,7 @@ wchar_t AccessKeyOf(const wchar_t* text) {
     return 0;
 }
 
-// Position of the letter in either case; the text's length when it is not there.
+// Position of the letter, in either case; the text's length when the text lacks it.
 size_t FindLetter(const Text& text, wchar_t letter) {
     size_t at = 0;
     while (text[at] != 0 && UpperCase(text[at]) != UpperCase(letter))
@@ -41,7 +42,7 @@ void Insert(Text& text, size_t at, const wchar_t* what) {
     AppendText(text, rest);
 }
 
-// Where the words end that a colon or dots follow.
+// End of the words, before a closing colon or dots.
 size_t WordsEnd(const Text& text) {
     size_t end = TextLength(text);
     while (end > 0 && (text[end - 1] == L':' || text[end - 1] == L'.'))
@@ -49,7 +50,7 @@ size_t WordsEnd(const Text& text) {
     return end;
 }
 
-// Whether the window is of this class and has, of its style's bits in the mask, these.
+// Whether the window is of this class and its style, under the mask, has this value.
 bool IsKind(HWND window, const wchar_t* name, LONG_PTR mask, LONG_PTR style) {
     wchar_t className[16] = L"";
     GetClassNameW(window, className, sizeof(className) / sizeof(className[0]));
@@ -64,17 +65,7 @@ bool IsGroupBox(HWND control) {
     return IsKind(control, L"Button", BS_TYPEMASK, BS_GROUPBOX);
 }
 
-LONG FontHeight(HWND window) {
-    TEXTMETRICW metrics = {};
-    const HDC dc = GetDC(window);
-    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
-    GetTextMetricsW(dc, &metrics);
-    SelectObject(dc, before);
-    ReleaseDC(window, dc);
-    return metrics.tmHeight;
-}
-
-// Gives the text the access key that the control's present one has, unless it has an '&' itself.
+// Gives the text the access key of the control's present text, unless it has an '&' of its own.
 void KeepAccessKey(Text& text, HWND control) {
     wchar_t present[128] = L"";
     GetWindowTextW(control, present, sizeof(present) / sizeof(present[0]));
@@ -102,7 +93,7 @@ void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel) {
     for (const ControlTextRecord* row = texts; row->key[0] != 0; ++row) {
         Text text = L"";
         CopyText(text, row->display);
-        // Labels without an identifier have -1, too.
+        // -1 is a list column; it would also match labels without an identifier.
         if (text[0] == 0 || row->identifiers[0] <= 0)
             continue;
         if (isModel && row == texts && IsTitle(dialog, *row)) {

@@ -1,4 +1,4 @@
-// The parameter data file's texts, put into a dialog, and room for those of its lists.
+// Replaces a dialog's texts by those of the parameter data file, and fits its lists to them.
 #ifndef UIMODULE_DIALOG_TEXTS_H
 #define UIMODULE_DIALOG_TEXTS_H
 
@@ -6,12 +6,12 @@
 
 #include <windows.h>
 
-// Puts a table's texts into the dialog's controls and, when the table is one of a model's dialogs (isModel),
-// its title. uimodule/exports.h says how rows are told apart.
+// Sets the texts of the dialog's controls from a table and, for the table of a model's dialog (isModel), the
+// title. uimodule/exports.h explains the rows.
 void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel);
 
-// Makes the entries of the owner-drawn lists as high as the dialog's font, where that is higher than what the
-// model's dialogs measure for them: on screens of high resolution.
+// Makes the entries of the owner-drawn lists at least as high as their font needs. The model's dialogs ask
+// for a fixed height, which is too small on screens of high resolution.
 void FitListEntries(HWND dialog);
 
 #endif

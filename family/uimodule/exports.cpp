@@ -1,4 +1,4 @@
-// The callbacks of the stand-in, and its entry point. See the header; the export table is telmar_u.def.
+// The callbacks of the stand-in and its entry point. telmar_u.def is the export table.
 #include "uimodule/exports.h"
 
 #include "base/text.h"
@@ -22,7 +22,7 @@ struct OpenDialog {
 };
 OpenDialog open;
 
-// The state of this dialog: new when another one was open before.
+// The state of this dialog. It is reset when another dialog was open before.
 OpenDialog& StateOf(HWND dialog) {
     if (open.window != dialog)
         open = {dialog, nullptr, {}, 0, nullptr};
@@ -33,7 +33,7 @@ const OemDevmode* SettingsOf(HWND dialog) {
     return GetDialogSettings(reinterpret_cast<const DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER)));
 }
 
-// What the settings answer to a control's choice; the hint when it is refused, otherwise null.
+// Checks a control's choice and returns the answer of DoConstraints. `hint` is null unless it is refused.
 int32_t Check(HWND dialog, uint32_t control, const wchar_t*& hint) {
     const OemDevmode* settings = SettingsOf(dialog);
     const Constraint* broken = settings != nullptr ? FindBroken(*settings, control) : nullptr;
@@ -110,8 +110,8 @@ void WINAPI ReqDrawStopInfoIcon(HWND dialog, uint32_t control, const DRAWITEMSTR
                                 const StopIconTable* table) {
     if (dialog == nullptr || item == nullptr)
         return;
-    const uint32_t beside = ControlBeside(table, control);
-    DrawStopIcon(*item, beside != 0 && IsMarked(StateOf(dialog), beside));
+    const uint32_t owner = ControlOfStopIcon(table, control);
+    DrawStopIcon(*item, owner != 0 && IsMarked(StateOf(dialog), owner));
 }
 
 INT_PTR WINAPI MyDialogBox(HINSTANCE resources, HWND owner, uint32_t templateId, DLGPROC procedure,

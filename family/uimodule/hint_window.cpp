@@ -1,19 +1,19 @@
-// The hint window: see the header. It is the system's tool tip, so that no code of this library is on its
-// stack when the dialog, as it is destroyed, frees the library.
+// The hint window. It is a tool tip of the system: the dialog frees this library while it is being destroyed,
+// and no window procedure of the library may be running then.
 #include "uimodule/hint_window.h"
 
 #include <commctrl.h>
 
 namespace {
 
-constexpr UINT_PTR kFollowTimer = 0x4849; // of the hint window; the tool tip's own are small numbers
+constexpr UINT_PTR kFollowTimer = 0x4849; // of the hint window; the tool tip's own timers have small numbers
 constexpr UINT kFollowInterval = 50;      // milliseconds
 
 LONG Smaller(LONG a, LONG b) {
     return a < b ? a : b;
 }
 
-// The only tool: the dialog itself, at a place that is set.
+// The only tool is the dialog itself, at a position that is set.
 TTTOOLINFOW Tool(HWND dialog, wchar_t* text) {
     TTTOOLINFOW tool = {};
     tool.cbSize = TTTOOLINFOW_V1_SIZE;
@@ -23,12 +23,12 @@ TTTOOLINFOW Tool(HWND dialog, wchar_t* text) {
     return tool;
 }
 
-LRESULT Send(HWND hintWindow, UINT message, WPARAM wParam, const TTTOOLINFOW& tool) {
+LRESULT SendTool(HWND hintWindow, UINT message, WPARAM wParam, const TTTOOLINFOW& tool) {
     return SendMessageW(hintWindow, message, wParam, reinterpret_cast<LPARAM>(&tool));
 }
 
-// Keeps the window below the dialog, as far as the screen has room. A tool tip would lie above all windows;
-// this one only lies above its dialog.
+// Keeps the window below the dialog and within the screen. A tool tip is above all windows by default; this
+// one is only above its dialog.
 void CALLBACK Follow(HWND hintWindow, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
     HWND dialog = GetWindow(hintWindow, GW_OWNER);
     RECT below = {};
@@ -55,7 +55,7 @@ HWND CreateHintWindow(HWND dialog) {
                         0, 0, 0, 0, dialog, nullptr, nullptr, nullptr);
     wchar_t noText[] = L"";
     if (hintWindow != nullptr)
-        Send(hintWindow, TTM_ADDTOOLW, 0, Tool(dialog, noText));
+        SendTool(hintWindow, TTM_ADDTOOLW, 0, Tool(dialog, noText));
     return hintWindow;
 }
 
@@ -64,8 +64,8 @@ void ShowHint(HWND hintWindow, HWND dialog, const wchar_t* text) {
         return;
     if (text[0] == 0) {
         KillTimer(hintWindow, kFollowTimer);
-        Send(hintWindow, TTM_TRACKACTIVATE, FALSE, Tool(dialog, nullptr));
-        Send(hintWindow, TTM_UPDATETIPTEXTW, 0, Tool(dialog, const_cast<wchar_t*>(text)));
+        SendTool(hintWindow, TTM_TRACKACTIVATE, FALSE, Tool(dialog, nullptr));
+        SendTool(hintWindow, TTM_UPDATETIPTEXTW, 0, Tool(dialog, const_cast<wchar_t*>(text)));
         return;
     }
     RECT frame = {};
@@ -73,8 +73,8 @@ void ShowHint(HWND hintWindow, HWND dialog, const wchar_t* text) {
     SendMessageW(hintWindow, TTM_SETMAXTIPWIDTH, 0, frame.right - frame.left);
     SendMessageW(hintWindow, TTM_TRACKPOSITION, 0, MAKELPARAM(frame.left, frame.bottom));
     const TTTOOLINFOW tool = Tool(dialog, const_cast<wchar_t*>(text));
-    Send(hintWindow, TTM_UPDATETIPTEXTW, 0, tool);
-    Send(hintWindow, TTM_TRACKACTIVATE, TRUE, tool);
+    SendTool(hintWindow, TTM_UPDATETIPTEXTW, 0, tool);
+    SendTool(hintWindow, TTM_TRACKACTIVATE, TRUE, tool);
     Follow(hintWindow, 0, 0, 0);
     SetTimer(hintWindow, kFollowTimer, kFollowInterval, Follow);
 }

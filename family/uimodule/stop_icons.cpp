@@ -1,4 +1,4 @@
-// Stop signs: see the header.
+// Reads the stop-icon table and draws the signs.
 #include "uimodule/stop_icons.h"
 
 namespace {
@@ -35,7 +35,7 @@ StopIcons FindStopIcons(HWND dialog, const StopIconTable* table) {
     return icons;
 }
 
-uint32_t ControlBeside(const StopIconTable* table, uint32_t iconControl) {
+uint32_t ControlOfStopIcon(const StopIconTable* table, uint32_t iconControl) {
     uint32_t control = 0;
     ForEachRecord(table, [&](const StopIconRecord& record) {
         if (record.iconControl == iconControl)
@@ -62,7 +62,7 @@ void DrawStopIcon(const DRAWITEMSTRUCT& item, bool isStop) {
     SetDCBrushColor(dc, kRed);
     Ellipse(dc, left, top, left + size, top + size);
     const int margin = size / 5;
-    const int half = size / 8; // of the bar's height; an odd size gets an odd height
+    const int half = size / 8; // half the bar's height; an odd size has a bar of odd height
     const RECT bar = {left + margin, top + size / 2 - half, left + size - margin,
                       top + (size + 1) / 2 + half};
     FillArea(dc, bar, kWhite);

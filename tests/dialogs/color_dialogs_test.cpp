@@ -478,9 +478,12 @@ TEST_P(ColorDialogs, LeaveNothingBehind) {
 }
 
 TEST(BasicDialog, VariantByTheModelsType) {
-    for (const uint32_t type : {0u, 1u, 2u, 4u, 13u, 255u})
-        EXPECT_EQ(FindColorDialog(123, type)->helpTopic, 6600u) << type;
-    EXPECT_EQ(FindColorDialog(123, 3)->helpTopic, 6621u);
+    DeviceTable table = {};
+    for (const uint32_t type : {0u, 1u, 2u, 3u, 4u, 13u, 255u}) {
+        table.switches[kSwitchColorSetting] = type;
+        EXPECT_EQ(FindColorDialog(123, &table)->helpTopic, type == 3 ? 6621u : 6600u) << type;
+    }
+    EXPECT_EQ(FindColorDialog(123, nullptr)->helpTopic, 6600u);
 }
 
 // In a context of short lists 123 offers two sources; entries are drawn as those of RGB sources.

@@ -140,7 +140,7 @@ constexpr ScriptVerb kVerbs[] = {
     {"key", "NAME", "presses a key, such as tab, space, down, enter", PressKey},
     {"picture", "FILE.png", "saves a picture of the dialog", TakeOnePicture},
     {"refresh", "", "notifies the dialog that the settings have changed", Refresh},
-    {"defaults", "", "clicks Defaults", Press<kDefaultsButton>},
+    {"defaults", "", "clicks Defaults", Press<IDC_DEFAULTS>},
     {"ok", "", "clicks OK, which closes the dialog", Press<IDOK>},
     {"cancel", "", "clicks Cancel, which closes the dialog", Press<IDCANCEL>},
 };

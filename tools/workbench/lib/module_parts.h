@@ -24,7 +24,8 @@
 // The parameter data file itself, for the option features, of which the module builds no table.
 #include "paramdata/prm_readers.h"
 
-// Facts about the dialogs and the settings that they edit.
+// Facts about the dialogs, their controls and the settings that they edit.
+#include "base/dialog_ids.h"
 #include "dialogs/color/color_dialog.h"
 #include "paramdata/devmode_fields.h"
 #include "trays/tray_dialog.h"

@@ -34,9 +34,11 @@ void RunTrayButton(HWND page, UINT message, WPARAM wParam) {
 
 int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                               int32_t* handled) {
+    // By contract the page is never reported as handled, even when its button was pressed. It falls through:
+    // no colour dialog has its identifier.
     if (dialogId == TELMAR_TRAY_BUTTON_PAGE)
         RunTrayButton(window, message, wParam);
-    if (const ColorDialog* dialog = FindColorDialog(dialogId, SwitchValue(deviceTable, kSwitchColorSetting)))
+    if (const ColorDialog* dialog = FindColorDialog(dialogId, deviceTable))
         return RunColorDialog(*dialog, window, message, wParam, lParam, handled);
     return 0;
 }

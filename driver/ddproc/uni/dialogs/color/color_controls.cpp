@@ -1,7 +1,9 @@
-// Kinds of controls of the colour dialogs: see the header. Each kind is a row of kKinds.
+// Fills, shows, stores and draws the controls of the colour dialogs. What a kind of control does is its row
+// of kKinds; nothing else asks for the kind.
 #include "dialogs/color/color_controls.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
+#include "base/window_services.h"
 #include "dialogs/shared/item_drawing.h"
 #include "dialogs/shared/profile_text.h"
 
@@ -9,38 +11,59 @@
 
 namespace {
 
-constexpr LONG_PTR kFirstRgbProfile = 256;
-constexpr LONG_PTR kFirstProfile = 128; // of destinations and simulations
+constexpr LONG_PTR kFirstRgbProfile = 256; // item data of the first profile; of RGB sources
+constexpr LONG_PTR kFirstProfile = 128;    // of destinations and simulations
 constexpr LONG_PTR kSimulationItems = 6;
-constexpr uint32_t kProfileChosen = 128; // value of a destination or simulation that is one of the printer's
+constexpr uint32_t kProfileChosen = 128; // stored value of a destination or simulation profile
+
+// --- Kinds -----------------------------------------------------------------------------------------------
+
+using Handler = void(const ColorControls& controls, const ColorControl& control, OemDevmode& settings);
+
+// The printer's profiles that a kind of list can show, from a first item data value on.
+struct KindProfiles {
+    const ProfileList ProfileLists::*list; // null: none
+    LONG_PTR firstData;
+    bool areInShortLists; // also offered in contexts with short RGB lists
+};
+constexpr KindProfiles kNoProfiles = {nullptr, 0, false};
+constexpr KindProfiles kRgbProfiles = {&ProfileLists::rgbSources, kFirstRgbProfile, false};
+constexpr KindProfiles kDestinationProfiles = {&ProfileLists::destinations, kFirstProfile, true};
+constexpr KindProfiles kSimulationProfiles = {&ProfileLists::simulations, kFirstProfile, true};
+
+struct KindRow {
+    ColorControlKind kind; // in the order of the enumeration
+    ColorControlAnswer answer;
+    KindProfiles profiles;
+    bool listsProfiles; // they are entries of the list; otherwise only drawn, if an entry has their item data
+    Handler* show;
+    Handler* store;
+};
+const KindRow& RowOf(const ColorControl& control);
 
 // --- Lists -----------------------------------------------------------------------------------------------
 
-LRESULT Send(const ColorControls& controls, uint16_t id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    return SendDlgItemMessageW(controls.dialog, id, message, wParam, lParam);
-}
-
-// False when the list takes no more.
+// False when the list has no room for the entry.
 bool AddEntry(const ColorControls& controls, uint16_t id, const wchar_t* text, LONG_PTR data) {
-    const LRESULT next = Send(controls, id, CB_GETCOUNT);
-    const LRESULT index =
-        Send(controls, id, CB_INSERTSTRING, static_cast<WPARAM>(next), reinterpret_cast<LPARAM>(text));
+    const LRESULT next = SendToControl(controls.dialog, id, CB_GETCOUNT);
+    const LRESULT index = SendToControl(controls.dialog, id, CB_INSERTSTRING, static_cast<WPARAM>(next),
+                                        reinterpret_cast<LPARAM>(text));
     if (index < 0)
         return false;
-    Send(controls, id, CB_SETITEMDATA, static_cast<WPARAM>(index), data);
+    SendToControl(controls.dialog, id, CB_SETITEMDATA, static_cast<WPARAM>(index), data);
     return true;
 }
 
 void Select(const ColorControls& controls, uint16_t id, LONG_PTR index) {
-    Send(controls, id, CB_SETCURSEL, static_cast<WPARAM>(index));
+    SendToControl(controls.dialog, id, CB_SETCURSEL, static_cast<WPARAM>(index));
 }
 
 LONG_PTR SelectedIndex(const ColorControls& controls, uint16_t id) {
-    return Send(controls, id, CB_GETCURSEL);
+    return SendToControl(controls.dialog, id, CB_GETCURSEL);
 }
 
 LONG_PTR DataAt(const ColorControls& controls, uint16_t id, LONG_PTR index) {
-    return Send(controls, id, CB_GETITEMDATA, static_cast<WPARAM>(index));
+    return SendToControl(controls.dialog, id, CB_GETITEMDATA, static_cast<WPARAM>(index));
 }
 
 // -1 without a selection.
@@ -51,7 +74,7 @@ LONG_PTR SelectedData(const ColorControls& controls, uint16_t id) {
 
 // Selects the first entry with this item data, or none. False when there is none.
 bool SelectData(const ColorControls& controls, uint16_t id, LONG_PTR data) {
-    const LRESULT count = Send(controls, id, CB_GETCOUNT);
+    const LRESULT count = SendToControl(controls.dialog, id, CB_GETCOUNT);
     for (LRESULT i = 0; i < count; ++i)
         if (DataAt(controls, id, i) == data) {
             Select(controls, id, i);
@@ -68,28 +91,15 @@ const ItemRecord* ItemsOf(const ColorControls& controls, const ColorControl& con
                                                                                     : control.items;
 }
 
-ListedProfiles RgbProfiles(const ColorControls& controls) {
+ListedProfiles ProfilesOf(const ColorControls& controls, const KindProfiles& profiles) {
     const ProfileLists* lists = GetPrinterProfileLists(controls.context);
-    const bool hasThem = lists != nullptr && !IsShortRgbListContext(controls.context);
-    return {hasThem ? &lists->rgbSources : nullptr, kFirstRgbProfile};
+    const bool areOffered = lists != nullptr && profiles.list != nullptr
+                            && (profiles.areInShortLists || !IsShortRgbListContext(controls.context));
+    return {areOffered ? &(lists->*profiles.list) : nullptr, profiles.firstData};
 }
 
-// The printer's profiles that entries of a control can stand for.
 ListedProfiles ProfilesOf(const ColorControls& controls, const ColorControl& control) {
-    const ProfileLists* lists = GetPrinterProfileLists(controls.context);
-    if (lists == nullptr)
-        return {};
-    switch (control.kind) {
-    case ColorControlKind::kRgbSource:
-    case ColorControlKind::kRgbItems:
-        return RgbProfiles(controls);
-    case ColorControlKind::kDestination:
-        return {&lists->destinations, kFirstProfile};
-    case ColorControlKind::kSimulation:
-        return {&lists->simulations, kFirstProfile};
-    default:
-        return {};
-    }
+    return ProfilesOf(controls, RowOf(control).profiles);
 }
 
 template <size_t Capacity>
@@ -102,25 +112,25 @@ ProfileEntry& ProfileAt(OemDevmode& settings, DevmodeField field) {
     return *static_cast<ProfileEntry*>(FieldAt(settings, field));
 }
 
-// Position of the profile that is remembered, by its name; -1 when the printer no longer has it.
-LONG_PTR FindRemembered(const ListedProfiles& profiles, const ProfileEntry& remembered) {
+// Position of the stored profile, by its name; -1 when the printer no longer has it.
+LONG_PTR FindStored(const ListedProfiles& profiles, const ProfileEntry& stored) {
     for (LONG_PTR i = 0;; ++i) {
         const ProfileEntry* profile = FindListedProfile(profiles, profiles.firstData + i);
         if (profile == nullptr)
             return -1;
-        if (SameName(profile->name, remembered.name))
+        if (SameName(profile->name, stored.name))
             return i;
     }
 }
 
-// Remembers a choice of a list of destinations or simulations: a profile, or none.
+// Stores a choice from a list of destinations or simulations: a profile, or null for an item.
 void StoreProfileChoice(OemDevmode& settings, const ColorControl& control, const ProfileEntry* profile,
                         uint32_t valueWithoutProfile) {
     Store(settings, control.field, profile != nullptr ? kProfileChosen : valueWithoutProfile);
     ProfileAt(settings, control.profile) = profile != nullptr ? *profile : ProfileEntry();
 }
 
-// Remembers an RGB source: the printer's profile, or the name of the item with this value.
+// Stores an RGB source: a copy of the printer's profile, or the name of the item with this value.
 void StoreRgbProfile(ProfileEntry& to, LONG_PTR value, const ItemRecord* items,
                      const ListedProfiles& profiles) {
     to = {};
@@ -128,25 +138,23 @@ void StoreRgbProfile(ProfileEntry& to, LONG_PTR value, const ItemRecord* items,
         to = *profile;
         return;
     }
-    for (const ItemRecord& item : Listed(items))
-        if (value < kFirstRgbProfile && static_cast<LONG_PTR>(item.head.value) == value) {
-            CopyText(to.qualifier, item.display);
-            return;
-        }
+    const bool isItem = value >= 0 && value < kFirstRgbProfile;
+    if (const ItemRecord* item = isItem ? FindByValue(items, static_cast<uint32_t>(value)) : nullptr)
+        CopyText(to.qualifier, item->display);
 }
 
 int16_t RgbValue(const OemDevmode& settings, DevmodeField field) {
     return static_cast<int16_t>(Load(settings, field));
 }
 
-// --- Kinds: filling --------------------------------------------------------------------------------------
+// --- Filling --------------------------------------------------------------------------------------------
 
 void FillEntries(const ColorControls& controls, const ColorControl& control) {
-    Send(controls, control.id, CB_RESETCONTENT);
+    SendToControl(controls.dialog, control.id, CB_RESETCONTENT);
     for (const ItemRecord& item : Listed(ItemsOf(controls, control)))
         if (!AddEntry(controls, control.id, item.display, static_cast<LONG_PTR>(item.head.value)))
             return;
-    if (control.kind == ColorControlKind::kRgbItems)
+    if (!RowOf(control).listsProfiles)
         return;
     const ListedProfiles profiles = ProfilesOf(controls, control);
     LONG_PTR data = profiles.firstData;
@@ -158,7 +166,7 @@ void FillEntries(const ColorControls& controls, const ColorControl& control) {
     }
 }
 
-// --- Kinds: storing --------------------------------------------------------------------------------------
+// --- Storing --------------------------------------------------------------------------------------------
 
 void StoreItem(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     Store(settings, control.field, static_cast<uint32_t>(SelectedData(controls, control.id)));
@@ -170,14 +178,14 @@ void StoreRgbSource(const ColorControls& controls, const ColorControl& control, 
                     ItemsOf(controls, control), ProfilesOf(controls, control));
 }
 
-// No selection counts as the automatic destination; so does a profile that has gone meanwhile.
+// Without a selection, and when the printer has lost the profile, the automatic destination is stored.
 void StoreDestination(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     const LONG_PTR data = SelectedData(controls, control.id);
     StoreProfileChoice(settings, control, FindListedProfile(ProfilesOf(controls, control), data), 0);
 }
 
-// Behind the items stand the profiles. No selection, and a profile that has gone meanwhile, count as the
-// first item.
+// The profiles follow the items. Without a selection, and when the printer has lost the profile, the first
+// item is stored.
 void StoreSimulation(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     const LONG_PTR index = SelectedIndex(controls, control.id);
     const ProfileEntry* profile = nullptr;
@@ -191,12 +199,13 @@ void StoreSimulation(const ColorControls& controls, const ColorControl& control,
 }
 
 void StoreCheckBox(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
-    Store(settings, control.field, Send(controls, control.id, BM_GETCHECK) == BST_CHECKED ? 1 : 0);
+    Store(settings, control.field,
+          SendToControl(controls.dialog, control.id, BM_GETCHECK) == BST_CHECKED ? 1 : 0);
 }
 
-// What graphics follow, and what follows from it.
+// Stores which settings graphics follow, and the graphics settings derived from them.
 void StoreGraphicsChoice(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
-    const bool likeImages = Send(controls, control.id, BM_GETCHECK) == BST_CHECKED;
+    const bool likeImages = SendToControl(controls.dialog, control.id, BM_GETCHECK) == BST_CHECKED;
     Store(settings, control.field, likeImages ? 1 : 0);
     for (const GraphicsSource& source : controls.graphicsSources) {
         const uint16_t list = likeImages ? source.imageList : source.textList;
@@ -205,13 +214,13 @@ void StoreGraphicsChoice(const ColorControls& controls, const ColorControl& cont
         if (source.profile.size == 0)
             continue;
         StoreRgbProfile(ProfileAt(settings, source.profile), RgbValue(settings, source.field), source.items,
-                        RgbProfiles(controls));
+                        ProfilesOf(controls, kRgbProfiles));
     }
 }
 
-// --- Kinds: showing --------------------------------------------------------------------------------------
+// --- Showing --------------------------------------------------------------------------------------------
 
-// Selects the first entry, if there is one, and stores what it stands for.
+// Selects the first entry, if there is one, and stores it.
 void FallBack(const ColorControls& controls, const ColorControl& control) {
     Select(controls, control.id, 0);
     if (SelectedIndex(controls, control.id) == 0)
@@ -232,10 +241,10 @@ void ShowRgbSource(const ColorControls& controls, const ColorControl& control, O
         FallBack(controls, control);
 }
 
-// Selects the remembered profile, or falls back to the first entry.
+// Selects the stored profile, or falls back to the first entry.
 void ShowProfile(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     const ListedProfiles profiles = ProfilesOf(controls, control);
-    const LONG_PTR position = FindRemembered(profiles, ProfileAt(settings, control.profile));
+    const LONG_PTR position = FindStored(profiles, ProfileAt(settings, control.profile));
     if (position < 0 || !SelectData(controls, control.id, profiles.firstData + position))
         FallBack(controls, control);
 }
@@ -256,37 +265,29 @@ void ShowSimulation(const ColorControls& controls, const ColorControl& control, 
 }
 
 void ShowCheckBox(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
-    Send(controls, control.id, BM_SETCHECK, Load(settings, control.field) != 0 ? BST_CHECKED : BST_UNCHECKED);
+    SendToControl(controls.dialog, control.id, BM_SETCHECK,
+                  Load(settings, control.field) != 0 ? BST_CHECKED : BST_UNCHECKED);
 }
 
 void ShowGraphicsChoice(const ColorControls& controls, const ColorControl& control, OemDevmode& settings) {
     const bool likeImages = Load(settings, control.field) == 1;
-    Send(controls, control.id, BM_SETCHECK, likeImages ? BST_CHECKED : BST_UNCHECKED);
-    Send(controls, control.otherId, BM_SETCHECK, likeImages ? BST_UNCHECKED : BST_CHECKED);
+    SendToControl(controls.dialog, control.id, BM_SETCHECK, likeImages ? BST_CHECKED : BST_UNCHECKED);
+    SendToControl(controls.dialog, control.otherId, BM_SETCHECK, likeImages ? BST_UNCHECKED : BST_CHECKED);
 }
 
-// --- The kinds -------------------------------------------------------------------------------------------
-
-using Handler = void(const ColorControls& controls, const ColorControl& control, OemDevmode& settings);
-
-struct KindRow {
-    ColorControlKind kind; // in the order of their numbers
-    ColorControlAnswer answer;
-    Handler* show;
-    Handler* store;
-};
+// --- Rows of the kinds -----------------------------------------------------------------------------------
 
 // clang-format off
 constexpr KindRow kKinds[] = {
-    // kind                                list   notification   result  show                store
-    {ColorControlKind::kItems,            {true,  CBN_SELENDOK,  1},     ShowItem,           StoreItem},
-    {ColorControlKind::kItemsOrFirst,     {true,  CBN_SELENDOK,  1},     ShowItemOrFirst,    StoreItem},
-    {ColorControlKind::kRgbSource,        {true,  CBN_SELENDOK,  1},     ShowRgbSource,      StoreRgbSource},
-    {ColorControlKind::kRgbItems,         {true,  CBN_SELENDOK,  1},     ShowRgbSource,      StoreItem},
-    {ColorControlKind::kDestination,      {true,  CBN_SELENDOK,  0},     ShowDestination,    StoreDestination},
-    {ColorControlKind::kSimulation,       {true,  CBN_SELENDOK,  0},     ShowSimulation,     StoreSimulation},
-    {ColorControlKind::kCheckBox,         {false, BN_CLICKED,    0},     ShowCheckBox,       StoreCheckBox},
-    {ColorControlKind::kGraphicsChoice,   {false, BN_CLICKED,    1},     ShowGraphicsChoice, StoreGraphicsChoice},
+    // kind                              list   notification  result  refresh   profiles              listed  show                store
+    {ColorControlKind::kItems,          {true,  CBN_SELENDOK, 1,      false},   kNoProfiles,          false,  ShowItem,           StoreItem},
+    {ColorControlKind::kItemsOrFirst,   {true,  CBN_SELENDOK, 1,      false},   kNoProfiles,          false,  ShowItemOrFirst,    StoreItem},
+    {ColorControlKind::kRgbSource,      {true,  CBN_SELENDOK, 1,      false},   kRgbProfiles,         true,   ShowRgbSource,      StoreRgbSource},
+    {ColorControlKind::kRgbItems,       {true,  CBN_SELENDOK, 1,      false},   kRgbProfiles,         false,  ShowRgbSource,      StoreItem},
+    {ColorControlKind::kDestination,    {true,  CBN_SELENDOK, 0,      false},   kDestinationProfiles, true,   ShowDestination,    StoreDestination},
+    {ColorControlKind::kSimulation,     {true,  CBN_SELENDOK, 0,      false},   kSimulationProfiles,  true,   ShowSimulation,     StoreSimulation},
+    {ColorControlKind::kCheckBox,       {false, BN_CLICKED,   0,      false},   kNoProfiles,          false,  ShowCheckBox,       StoreCheckBox},
+    {ColorControlKind::kGraphicsChoice, {false, BN_CLICKED,   1,      true},    kNoProfiles,          false,  ShowGraphicsChoice, StoreGraphicsChoice},
 };
 // clang-format on
 static_assert(

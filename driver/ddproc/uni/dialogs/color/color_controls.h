@@ -11,35 +11,34 @@
 #include <windows.h>
 
 enum class ColorControlKind {
-    kItems,          // list of a table's items; a value that it lacks selects nothing
-    kItemsOrFirst,   // the same, but a value that it lacks becomes the first item's
+    kItems,          // list of a table's items; an unknown value selects nothing
+    kItemsOrFirst,   // list of a table's items; an unknown value becomes the first item's
     kRgbSource,      // items, then the printer's RGB source profiles
-    kRgbItems,       // items of RGB sources alone; a value that they lack becomes the first item's
+    kRgbItems,       // RGB source items only; an unknown value becomes the first item's
     kDestination,    // the automatic destination, then the printer's destination profiles
     kSimulation,     // items, then the printer's simulation profiles
     kCheckBox,       // 0 or 1
-    kGraphicsChoice, // two radio buttons: graphics take the image or the text settings
+    kGraphicsChoice, // two radio buttons: graphics take the settings of images or of text
     kCount
 };
 
-// One control. A choice of one of the printer's profiles is remembered as a copy of it, too.
+// One control. When one of the printer's profiles is chosen, a copy of its record is stored with the value.
 struct ColorControl {
-    uint16_t id; // of the two radio buttons: image settings
+    uint16_t id; // kGraphicsChoice: the button for the settings of images
     ColorControlKind kind;
     DevmodeField field;
-    DevmodeField profile;         // where the profile is remembered; size 0: nowhere
+    DevmodeField profile;         // holds the copy; size 0: no copy is kept
     const ItemRecord* items;      // null: none
-    const ItemRecord* shortItems; // instead, where only the short RGB lists are offered; null: the same
-    uint16_t otherId = 0;         // of the two radio buttons: text settings
+    const ItemRecord* shortItems; // used in contexts with short RGB lists; null: `items` there, too
+    uint16_t otherId = 0;         // kGraphicsChoice: the button for the settings of text
 };
 
-// What graphics take when they follow the image or the text settings: the item data of one of two lists, or 0
-// where there is none.
+// A graphics setting that follows images or text: it takes the item data of one of two lists.
 struct GraphicsSource {
     DevmodeField field;
-    uint16_t imageList; // 0: none
+    uint16_t imageList; // 0: no list, the value is 0
     uint16_t textList;
-    DevmodeField profile;    // where an RGB source is remembered; size 0: nowhere
+    DevmodeField profile;    // holds the copy of an RGB source profile; size 0: no copy is kept
     const ItemRecord* items; // of the RGB source
 };
 
@@ -50,21 +49,23 @@ struct ColorControls {
     Rows<GraphicsSource> graphicsSources;
 };
 
-// What a kind of control is to the dialog: which command tells of a change, and what the dialog then answers.
+// How the dialog treats a kind of control.
 struct ColorControlAnswer {
     bool isList;
-    uint16_t notification;
-    int32_t result;
+    uint16_t notification;  // reports a change
+    int32_t result;         // of the message that reports it
+    bool isStoredByRefresh; // the refresh message stores it, and so what is derived from it
 };
 ColorControlAnswer AnswerOf(const ColorControl& control);
 
-// Fills a list; other kinds have nothing to fill.
+// Fills a list. Does nothing for other kinds.
 void FillControl(const ColorControls& controls, const ColorControl& control);
 
-// Shows the setting. What a list of profiles no longer offers becomes its first entry, in the settings, too.
+// Shows the stored setting. A profile or value that its list no longer offers is replaced by the first entry,
+// also in the settings; lists of kind kItems select nothing instead.
 void ShowControl(const ColorControls& controls, const ColorControl& control);
 
-// Stores the control's choice.
+// Stores the control's current choice.
 void StoreControl(const ColorControls& controls, const ColorControl& control);
 
 // Draws an entry of a list.

@@ -1,7 +1,9 @@
-// Descriptions of the colour settings dialogs: see the header. All are written from the same words: controls,
-// and what graphics follow; a dialog lists those that it has, in its order.
+// Describes the colour settings dialogs as tables. The dialogs share controls and rules for graphics, which
+// are defined first; each dialog then lists those that it has, in its order.
 #include "dialogs/color/color_descriptions.h"
 
+#include "base/dialog_ids.h"
+#include "dialogs/color/layout_tables.h"
 #include "paramdata/color_tables.h"
 
 // clang-format off
@@ -16,42 +18,42 @@ constexpr const auto& kImage = colorTables.image;
 constexpr const auto& kGraphics = colorTables.graphics;
 
 constexpr ColorControl
-    //                     id    kind                   field                       profile                            items                              short items
-    kImageRgb           = {1504, Kind::kRgbSource,      FIELD(imageRgbSource),      FIELD(imageRgbProfile),            kImage.rgbProfiles.items,          kImage.shortRgbProfiles.items},
-    kImageRgbItem       = {1504, Kind::kRgbItems,       FIELD(imageRgbSource),      {},                                kImage.rgbProfiles.items,          kImage.shortRgbProfiles.items},
-    kImageMatch         = {1354, Kind::kItems,          FIELD(image.colorMatch),    {},                                kImage.colorMatches.items,         nullptr},
-    kImageGray          = {1335, Kind::kItems,          FIELD(image.gray),          {},                                kImage.grays.items,                nullptr},
-    kImageDestination   = {1599, Kind::kDestination,    FIELD(imageDestination),    FIELD(imageDestinationProfile),    kImage.destinations.items,         nullptr},
-    kImageHalftone      = {1332, Kind::kItems,          FIELD(image.halftone),      {},                                kImage.halftones.items,            nullptr},
-    kTextRgb            = {1509, Kind::kRgbSource,      FIELD(textRgbSource),       FIELD(textRgbProfile),             kText.rgbProfiles.items,           kText.shortRgbProfiles.items},
-    kTextRgbItem        = {1509, Kind::kRgbItems,       FIELD(textRgbSource),       {},                                kText.rgbProfiles.items,           kText.shortRgbProfiles.items},
-    kTextMatch          = {1353, Kind::kItems,          FIELD(text.colorMatch),     {},                                kText.colorMatches.items,          nullptr},
-    kTextGray           = {1334, Kind::kItems,          FIELD(text.gray),           {},                                kText.grays.items,                 nullptr},
-    kTextDestination    = {1592, Kind::kDestination,    FIELD(textDestination),     FIELD(textDestinationProfile),     kText.destinations.items,          nullptr},
-    kTextHalftone       = {1330, Kind::kItems,          FIELD(text.halftone),       {},                                kText.halftones.items,             nullptr},
-    kGraphicsRgb        = {1513, Kind::kRgbSource,      FIELD(graphicsRgbSource),   FIELD(graphicsRgbProfile),         kGraphics.rgbProfiles.items,       kGraphics.shortRgbProfiles.items},
-    kGraphicsMatch      = {1516, Kind::kItems,          FIELD(graphics.colorMatch), {},                                kGraphics.colorMatches.items,      nullptr},
-    kGraphicsGray       = {1519, Kind::kItems,          FIELD(graphics.gray),       {},                                kGraphics.grays.items,             nullptr},
-    kGraphicsDestination= {1584, Kind::kDestination,    FIELD(graphicsDestination), FIELD(graphicsDestinationProfile), kGraphics.destinations.items,      nullptr},
-    kGraphicsHalftone   = {1522, Kind::kItems,          FIELD(graphics.halftone),   {},                                kGraphics.halftones.items,         nullptr},
-    kGraphicsFollow     = {1477, Kind::kGraphicsChoice, FIELD(graphicsFollow),      {},                                nullptr,                           nullptr,                          1475},
-    kSimulation         = {1524, Kind::kSimulation,     FIELD(simulation),          FIELD(simulationProfile),          colorTables.simulations.items,     nullptr},
-    kPaperColor         = {1526, Kind::kCheckBox,       FIELD(matchPaperColor),     {},                                nullptr,                           nullptr},
-    kSimulationGray     = {1627, Kind::kItemsOrFirst,   FIELD(simulationGray),      {},                                colorTables.simulationGrays.items, nullptr},
-    kPageRgbItem        = {1634, Kind::kRgbItems,       FIELD(rgbSource),           {},                                colorTables.rgbProfiles.items,     nullptr},
-    kPageDestination    = {1525, Kind::kDestination,    FIELD(destination),         FIELD(destinationProfile),         colorTables.destinations.items,    nullptr};
+    //                     control                    kind                   field                       profile                            items                              short items
+    kImageRgb           = {IDC_IMAGE_RGB_SOURCE,     Kind::kRgbSource,      FIELD(imageRgbSource),      FIELD(imageRgbProfile),            kImage.rgbProfiles.items,          kImage.shortRgbProfiles.items},
+    kImageRgbItem       = {IDC_IMAGE_RGB_SOURCE,     Kind::kRgbItems,       FIELD(imageRgbSource),      {},                                kImage.rgbProfiles.items,          kImage.shortRgbProfiles.items},
+    kImageMatch         = {IDC_IMAGE_COLOR_MATCH,    Kind::kItems,          FIELD(image.colorMatch),    {},                                kImage.colorMatches.items,         nullptr},
+    kImageGray          = {IDC_IMAGE_GRAY,           Kind::kItems,          FIELD(image.gray),          {},                                kImage.grays.items,                nullptr},
+    kImageDestination   = {IDC_IMAGE_DESTINATION,    Kind::kDestination,    FIELD(imageDestination),    FIELD(imageDestinationProfile),    kImage.destinations.items,         nullptr},
+    kImageHalftone      = {IDC_IMAGE_HALFTONE,       Kind::kItems,          FIELD(image.halftone),      {},                                kImage.halftones.items,            nullptr},
+    kTextRgb            = {IDC_TEXT_RGB_SOURCE,      Kind::kRgbSource,      FIELD(textRgbSource),       FIELD(textRgbProfile),             kText.rgbProfiles.items,           kText.shortRgbProfiles.items},
+    kTextRgbItem        = {IDC_TEXT_RGB_SOURCE,      Kind::kRgbItems,       FIELD(textRgbSource),       {},                                kText.rgbProfiles.items,           kText.shortRgbProfiles.items},
+    kTextMatch          = {IDC_TEXT_COLOR_MATCH,     Kind::kItems,          FIELD(text.colorMatch),     {},                                kText.colorMatches.items,          nullptr},
+    kTextGray           = {IDC_TEXT_GRAY,            Kind::kItems,          FIELD(text.gray),           {},                                kText.grays.items,                 nullptr},
+    kTextDestination    = {IDC_TEXT_DESTINATION,     Kind::kDestination,    FIELD(textDestination),     FIELD(textDestinationProfile),     kText.destinations.items,          nullptr},
+    kTextHalftone       = {IDC_TEXT_HALFTONE,        Kind::kItems,          FIELD(text.halftone),       {},                                kText.halftones.items,             nullptr},
+    kGraphicsRgb        = {IDC_GRAPHICS_RGB_SOURCE,  Kind::kRgbSource,      FIELD(graphicsRgbSource),   FIELD(graphicsRgbProfile),         kGraphics.rgbProfiles.items,       kGraphics.shortRgbProfiles.items},
+    kGraphicsMatch      = {IDC_GRAPHICS_COLOR_MATCH, Kind::kItems,          FIELD(graphics.colorMatch), {},                                kGraphics.colorMatches.items,      nullptr},
+    kGraphicsGray       = {IDC_GRAPHICS_GRAY,        Kind::kItems,          FIELD(graphics.gray),       {},                                kGraphics.grays.items,             nullptr},
+    kGraphicsDestination= {IDC_GRAPHICS_DESTINATION, Kind::kDestination,    FIELD(graphicsDestination), FIELD(graphicsDestinationProfile), kGraphics.destinations.items,      nullptr},
+    kGraphicsHalftone   = {IDC_GRAPHICS_HALFTONE,    Kind::kItems,          FIELD(graphics.halftone),   {},                                kGraphics.halftones.items,         nullptr},
+    kGraphicsFollow     = {IDC_GRAPHICS_LIKE_IMAGES, Kind::kGraphicsChoice, FIELD(graphicsFollow),      {},                                nullptr,                           nullptr, IDC_GRAPHICS_LIKE_TEXT},
+    kSimulation         = {IDC_SIMULATION,           Kind::kSimulation,     FIELD(simulation),          FIELD(simulationProfile),          colorTables.simulations.items,     nullptr},
+    kPaperColor         = {IDC_MATCH_PAPER_COLOR,    Kind::kCheckBox,       FIELD(matchPaperColor),     {},                                nullptr,                           nullptr},
+    kSimulationGray     = {IDC_SIMULATION_GRAY,      Kind::kItemsOrFirst,   FIELD(simulationGray),      {},                                colorTables.simulationGrays.items, nullptr},
+    kPageRgbItem        = {IDC_PAGE_RGB_SOURCE,      Kind::kRgbItems,       FIELD(rgbSource),           {},                                colorTables.rgbProfiles.items,     nullptr},
+    kPageDestination    = {IDC_PAGE_DESTINATION,     Kind::kDestination,    FIELD(destination),         FIELD(destinationProfile),         colorTables.destinations.items,    nullptr};
 
-// What graphics take where they follow images or text.
+// Settings of graphics that follow images or text.
 constexpr GraphicsSource
-    //              field                       image list text list profile                   items
-    kFollowRgb   = {FIELD(graphicsRgbSource),   1504,      1509,     FIELD(graphicsRgbProfile), kGraphics.rgbProfiles.items},
-    kFollowItem  = {FIELD(graphicsRgbSource),   1504,      1509,     {},                        nullptr},
-    kFollowMatch = {FIELD(graphics.colorMatch), 1354,      1353,     {},                        nullptr},
-    kFollowGray  = {FIELD(graphics.gray),       1335,      1334,     {},                        nullptr},
-    kNoImageGray = {FIELD(graphics.gray),       0,         1334,     {},                        nullptr},
-    kFollowHalf  = {FIELD(graphics.halftone),   1332,      1330,     {},                        nullptr};
+    //              field                       image list              text list              profile                    items
+    kFollowRgb   = {FIELD(graphicsRgbSource),   IDC_IMAGE_RGB_SOURCE,   IDC_TEXT_RGB_SOURCE,   FIELD(graphicsRgbProfile), kGraphics.rgbProfiles.items},
+    kFollowItem  = {FIELD(graphicsRgbSource),   IDC_IMAGE_RGB_SOURCE,   IDC_TEXT_RGB_SOURCE,   {},                        nullptr},
+    kFollowMatch = {FIELD(graphics.colorMatch), IDC_IMAGE_COLOR_MATCH,  IDC_TEXT_COLOR_MATCH,  {},                        nullptr},
+    kFollowGray  = {FIELD(graphics.gray),       IDC_IMAGE_GRAY,         IDC_TEXT_GRAY,         {},                        nullptr},
+    kNoImageGray = {FIELD(graphics.gray),       0,                      IDC_TEXT_GRAY,         {},                        nullptr},
+    kFollowHalf  = {FIELD(graphics.halftone),   IDC_IMAGE_HALFTONE,     IDC_TEXT_HALFTONE,     {},                        nullptr};
 
-// --- 128: text, image and graphics, each with its own lists ----------------------------------------------
+// --- IDD_COLOR_FULL: text, images and graphics, each with its own lists ----------------------------------
 
 constexpr ColorControl kFullControls[] = {
     kImageRgb, kImageMatch, kImageGray, kImageDestination, kImageHalftone,
@@ -73,21 +75,21 @@ constexpr DevmodeField kFullDefaults[] = {
     FIELD(matchPaperColor),
     FIELD(simulationGray),
 };
-constexpr HelpId kFullHelp[] = {
-    {1501, 6640}, {1502, 6650}, {1504, 6650}, {1468, 6660}, {1354, 6660}, {1469, 6670}, {1335, 6670}, {1597, 6860},
-    {1599, 6860}, {1471, 6675}, {1332, 6675}, {1506, 6680}, {1507, 6690}, {1509, 6690}, {1465, 6700}, {1353, 6700},
-    {1466, 6710}, {1334, 6710}, {1589, 6865}, {1592, 6865}, {1467, 6720}, {1330, 6720}, {1473, 6730}, {1511, 6740},
-    {1513, 6740}, {1514, 6750}, {1516, 6750}, {1517, 6760}, {1519, 6760}, {1582, 6870}, {1584, 6870}, {1520, 6770},
-    {1522, 6770}, {1523, kNoHelp}, {1398, 6810}, {1524, 6810}, {1526, 6830}, {1625, 6855}, {1627, 6855},
-    {1393, 6840}, {1528, 6850}, {1069, kNoHelp}, {1032, 9510}, {0, 0},
+constexpr LayoutRow kFullLayout[] = {
+    {IDC_IMAGE_GROUP}, {IDC_IMAGE_RGB_SOURCE}, {IDC_IMAGE_COLOR_MATCH}, {IDC_IMAGE_GRAY},
+    {IDC_IMAGE_DESTINATION}, {IDC_IMAGE_HALFTONE},
+    {IDC_TEXT_GROUP}, {IDC_TEXT_RGB_SOURCE}, {IDC_TEXT_COLOR_MATCH}, {IDC_TEXT_GRAY},
+    {IDC_TEXT_DESTINATION}, {IDC_TEXT_HALFTONE},
+    {IDC_GRAPHICS_GROUP}, {IDC_GRAPHICS_RGB_SOURCE}, {IDC_GRAPHICS_COLOR_MATCH}, {IDC_GRAPHICS_GRAY},
+    {IDC_GRAPHICS_DESTINATION}, {IDC_GRAPHICS_HALFTONE},
+    {IDC_SIMULATION_GROUP}, {IDC_SIMULATION}, {IDC_MATCH_PAPER_COLOR}, {IDC_SIMULATION_GRAY},
+    {IDC_DOWNLOAD_MANAGER}, {IDC_MANAGE_PROFILES},
+    {IDC_FOOTER_LINE, In::kHelp}, {IDC_DEFAULTS},
 };
-constexpr uint32_t kFullLocks[] = {
-    1501, 1502, 1504, 1468, 1354, 1469, 1335, 1597, 1599, 1471, 1332, 1506, 1507, 1509, 1465, 1353, 1466, 1334, 1589, 1592,
-    1467, 1330, 1473, 1511, 1513, 1514, 1516, 1517, 1519, 1582, 1584, 1520, 1522, 1523, 1398, 1524, 1526, 1625, 1627,
-    1393, 1528, 1032, 0,
-};
+constexpr auto kFullHelp = HelpOf(kFullLayout);
+constexpr auto kFullLocks = LocksOf(kFullLayout);
 
-// --- 124: no greys for images, no destinations; graphics follow ------------------------------------------
+// --- IDD_COLOR_SIMULATION: no image greys, no destinations; graphics follow images or text ----------------
 
 constexpr ColorControl kSimulationControls[] = {
     kImageRgb, kImageMatch, kImageHalftone,
@@ -106,18 +108,18 @@ constexpr DevmodeField kSimulationDefaults[] = {
     FIELD(matchPaperColor),
     FIELD(simulationGray),
 };
-constexpr HelpId kSimulationHelp[] = {
-    {1501, 6640}, {1502, 6650}, {1504, 6650}, {1468, 6660}, {1354, 6660}, {1471, 6675}, {1332, 6675}, {1506, 6680},
-    {1507, 6690}, {1509, 6690}, {1465, 6700}, {1353, 6700}, {1466, 6710}, {1334, 6710}, {1467, 6720}, {1330, 6720},
-    {1473, 6730}, {1477, 6780}, {1475, 6790}, {1523, kNoHelp}, {1398, 6810}, {1524, 6810}, {1526, 6830}, {1625, 6855},
-    {1627, 6855}, {1393, 6840}, {1528, 6850}, {1069, kNoHelp}, {1032, 9510}, {0, 0},
+constexpr LayoutRow kSimulationLayout[] = {
+    {IDC_IMAGE_GROUP}, {IDC_IMAGE_RGB_SOURCE}, {IDC_IMAGE_COLOR_MATCH}, {IDC_IMAGE_HALFTONE},
+    {IDC_TEXT_GROUP}, {IDC_TEXT_RGB_SOURCE}, {IDC_TEXT_COLOR_MATCH}, {IDC_TEXT_GRAY}, {IDC_TEXT_HALFTONE},
+    {IDC_GRAPHICS_GROUP}, {IDC_GRAPHICS_LIKE_IMAGES}, {IDC_GRAPHICS_LIKE_TEXT},
+    {IDC_SIMULATION_GROUP}, {IDC_SIMULATION}, {IDC_MATCH_PAPER_COLOR}, {IDC_SIMULATION_GRAY},
+    {IDC_DOWNLOAD_MANAGER, In::kHelp}, {IDC_MANAGE_PROFILES}, {IDC_DOWNLOAD_MANAGER, In::kLocks},
+    {IDC_FOOTER_LINE, In::kHelp}, {IDC_DEFAULTS},
 };
-constexpr uint32_t kSimulationLocks[] = {
-    1501, 1502, 1504, 1468, 1354, 1471, 1332, 1506, 1507, 1509, 1465, 1353, 1466, 1334, 1467, 1330, 1473, 1477, 1475,
-    1523, 1398, 1524, 1526, 1625, 1627, 1528, 1393, 1032, 0,
-};
+constexpr auto kSimulationHelp = HelpOf(kSimulationLayout);
+constexpr auto kSimulationLocks = LocksOf(kSimulationLayout);
 
-// --- 122: as 124, with greys for images and one destination for the page ----------------------------------
+// --- IDD_COLOR_COMMON_DESTINATION: also image greys and one destination for the page ----------------------
 
 constexpr ColorControl kDestinationControls[] = {
     kImageRgb, kImageMatch, kImageGray, kImageHalftone,
@@ -138,19 +140,22 @@ constexpr DevmodeField kDestinationDefaults[] = {
     FIELD(simulationGray),
     FIELD(destination),         FIELD(destinationProfile),
 };
-constexpr HelpId kDestinationHelp[] = {
-    {1501, 6640}, {1502, 6650}, {1504, 6650}, {1468, 6660}, {1354, 6660}, {1469, 6670}, {1335, 6670}, {1471, 6675},
-    {1332, 6675}, {1506, 6680}, {1507, 6690}, {1509, 6690}, {1465, 6700}, {1353, 6700}, {1466, 6710}, {1334, 6710},
-    {1467, 6720}, {1330, 6720}, {1473, 6730}, {1477, 6780}, {1475, 6790}, {1523, kNoHelp}, {1398, 6810}, {1524, 6810},
-    {1526, 6830}, {1625, 6855}, {1627, 6855}, {1630, kNoHelp}, {1408, 6820}, {1525, 6820}, {1393, 6840}, {1528, 6850},
-    {1069, kNoHelp}, {1032, 9510}, {0, 0},
+// The label of the text's RGB source is not locked.
+constexpr LayoutRow kDestinationLayout[] = {
+    {IDC_IMAGE_GROUP}, {IDC_IMAGE_RGB_SOURCE}, {IDC_IMAGE_COLOR_MATCH}, {IDC_IMAGE_GRAY},
+    {IDC_IMAGE_HALFTONE},
+    {IDC_TEXT_GROUP}, {IDC_TEXT_RGB_SOURCE, In::kHelp}, {IDC_TEXT_RGB_SOURCE, In::kLocksWithoutLabel},
+    {IDC_TEXT_COLOR_MATCH}, {IDC_TEXT_GRAY}, {IDC_TEXT_HALFTONE},
+    {IDC_GRAPHICS_GROUP}, {IDC_GRAPHICS_LIKE_IMAGES}, {IDC_GRAPHICS_LIKE_TEXT},
+    {IDC_SIMULATION_GROUP}, {IDC_SIMULATION}, {IDC_MATCH_PAPER_COLOR}, {IDC_SIMULATION_GRAY},
+    {IDC_PAGE_DESTINATION_GROUP}, {IDC_PAGE_DESTINATION},
+    {IDC_DOWNLOAD_MANAGER, In::kHelp}, {IDC_MANAGE_PROFILES}, {IDC_DOWNLOAD_MANAGER, In::kLocks},
+    {IDC_FOOTER_LINE, In::kHelp}, {IDC_DEFAULTS},
 };
-constexpr uint32_t kDestinationLocks[] = {
-    1501, 1502, 1504, 1468, 1354, 1469, 1335, 1471, 1332, 1506, 1509, 1465, 1353, 1466, 1334, 1467, 1330, 1473, 1477,
-    1475, 1523, 1398, 1524, 1526, 1625, 1627, 1630, 1408, 1525, 1528, 1393, 1032, 0,
-};
+constexpr auto kDestinationHelp = HelpOf(kDestinationLayout);
+constexpr auto kDestinationLocks = LocksOf(kDestinationLayout);
 
-// --- 125: one RGB source for the page; graphics follow ---------------------------------------------------
+// --- IDD_COLOR_SINGLE_SOURCE: one RGB source for the page; graphics follow images or text ------------------
 
 constexpr ColorControl kSingleControls[] = {
     kPageRgbItem,
@@ -160,16 +165,18 @@ constexpr ColorControl kSingleControls[] = {
 };
 constexpr GraphicsSource kSingleFollow[] = {kFollowMatch, kNoImageGray, kFollowHalf};
 constexpr DevmodeField kSingleDefaults[] = {FIELD(rgbSource), FIELD(image), FIELD(text), FIELD(graphicsFollow)};
-constexpr HelpId kSingleHelp[] = {
-    {1501, 6640}, {1468, 6660}, {1354, 6660}, {1471, 6675}, {1332, 6675}, {1506, 6680}, {1465, 6700}, {1353, 6700},
-    {1466, 6710}, {1334, 6710}, {1467, 6720}, {1330, 6720}, {1473, 6730}, {1477, 6780}, {1475, 6790}, {1069, kNoHelp},
-    {1032, 9510}, {0, 0},
+// The RGB source is locked but has no help.
+constexpr LayoutRow kSingleLayout[] = {
+    {IDC_PAGE_RGB_SOURCE, In::kLocks},
+    {IDC_IMAGE_GROUP}, {IDC_IMAGE_COLOR_MATCH}, {IDC_IMAGE_HALFTONE},
+    {IDC_TEXT_GROUP}, {IDC_TEXT_COLOR_MATCH}, {IDC_TEXT_GRAY}, {IDC_TEXT_HALFTONE},
+    {IDC_GRAPHICS_GROUP}, {IDC_GRAPHICS_LIKE_IMAGES}, {IDC_GRAPHICS_LIKE_TEXT},
+    {IDC_FOOTER_LINE, In::kHelp}, {IDC_DEFAULTS},
 };
-constexpr uint32_t kSingleLocks[] = {
-    1632, 1634, 1501, 1468, 1354, 1471, 1332, 1506, 1465, 1353, 1466, 1334, 1467, 1330, 1473, 1477, 1475, 1032, 0,
-};
+constexpr auto kSingleHelp = HelpOf(kSingleLayout);
+constexpr auto kSingleLocks = LocksOf(kSingleLayout);
 
-// --- 123: RGB sources of the model only; graphics follow -------------------------------------------------
+// --- IDD_COLOR_BASIC: built-in RGB sources only; graphics follow images or text ----------------------------
 
 constexpr ColorControl kBasicControls[] = {
     kImageRgbItem, kImageMatch, kImageGray, kImageHalftone,
@@ -184,36 +191,36 @@ constexpr DevmodeField kBasicDefaults[] = {
     FIELD(text),
     FIELD(graphicsFollow),
 };
-constexpr HelpId kBasicHelp[] = {
-    {1501, 6640}, {1502, 6650}, {1504, 6650}, {1468, 6660}, {1354, 6660}, {1469, 6670}, {1335, 6670}, {1471, 6675},
-    {1332, 6675}, {1506, 6680}, {1507, 6690}, {1509, 6690}, {1465, 6700}, {1353, 6700}, {1466, 6710}, {1334, 6710},
-    {1467, 6720}, {1330, 6720}, {1473, 6730}, {1477, 6780}, {1475, 6790}, {1069, kNoHelp}, {1032, 9510}, {0, 0},
+constexpr LayoutRow kBasicLayout[] = {
+    {IDC_IMAGE_GROUP}, {IDC_IMAGE_RGB_SOURCE}, {IDC_IMAGE_COLOR_MATCH}, {IDC_IMAGE_GRAY},
+    {IDC_IMAGE_HALFTONE},
+    {IDC_TEXT_GROUP}, {IDC_TEXT_RGB_SOURCE}, {IDC_TEXT_COLOR_MATCH}, {IDC_TEXT_GRAY}, {IDC_TEXT_HALFTONE},
+    {IDC_GRAPHICS_GROUP}, {IDC_GRAPHICS_LIKE_IMAGES}, {IDC_GRAPHICS_LIKE_TEXT},
+    {IDC_FOOTER_LINE, In::kHelp}, {IDC_DEFAULTS},
 };
-constexpr uint32_t kBasicLocksA[] = {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, 1477, 1475, 1032, 0};
-constexpr uint32_t kBasicLocksB[] = {
-    1501, 1502, 1504, 1468, 1354, 1469, 1335, 1471, 1332, 1506, 1507, 1509, 1465, 1353, 1466, 1334, 1467, 1330, 1473,
-    1477, 1475, 1032, 0,
-};
+constexpr auto kBasicHelp = HelpOf(kBasicLayout);
+constexpr auto kBasicLocksA = SettingLocksOf(kBasicControls);
+constexpr auto kBasicLocksB = LocksOf(kBasicLayout);
 
-constexpr uint32_t kVariantA = 3; // of dialog 123
-
+// The variants of a dialog differ in the help topic and in what is locked.
 constexpr ColorDialog kDialogs[] = {
-    // id variant    help  profiles  controls              graphics follow     defaults              help              locks
-    {128, 0,         6631, true,     kFullControls,        {},                 kFullDefaults,        kFullHelp,        kFullLocks},
-    {124, 0,         6630, true,     kSimulationControls,  kSimulationFollow,  kSimulationDefaults,  kSimulationHelp,  kSimulationLocks},
-    {122, 0,         6610, true,     kDestinationControls, kDestinationFollow, kDestinationDefaults, kDestinationHelp, kDestinationLocks},
-    {125, 0,         6620, false,    kSingleControls,      kSingleFollow,      kSingleDefaults,      kSingleHelp,      kSingleLocks},
-    {123, kVariantA, 6621, false,    kBasicControls,       kBasicFollow,       kBasicDefaults,       kBasicHelp,       kBasicLocksA},
-    {123, 0,         6600, false,    kBasicControls,       kBasicFollow,       kBasicDefaults,       kBasicHelp,       kBasicLocksB},
+    // dialog                       type help  profiles controls              graphics follow     defaults              help table             locks
+    {IDD_COLOR_FULL,                0,   6631, true,    kFullControls,        {},                 kFullDefaults,        kFullHelp.rows,        kFullLocks.controls},
+    {IDD_COLOR_SIMULATION,          0,   6630, true,    kSimulationControls,  kSimulationFollow,  kSimulationDefaults,  kSimulationHelp.rows,  kSimulationLocks.controls},
+    {IDD_COLOR_COMMON_DESTINATION,  0,   6610, true,    kDestinationControls, kDestinationFollow, kDestinationDefaults, kDestinationHelp.rows, kDestinationLocks.controls},
+    {IDD_COLOR_SINGLE_SOURCE,       0,   6620, false,   kSingleControls,      kSingleFollow,      kSingleDefaults,      kSingleHelp.rows,      kSingleLocks.controls},
+    {IDD_COLOR_BASIC,               3,   6621, false,   kBasicControls,       kBasicFollow,       kBasicDefaults,       kBasicHelp.rows,       kBasicLocksA.controls},
+    {IDD_COLOR_BASIC,               0,   6600, false,   kBasicControls,       kBasicFollow,       kBasicDefaults,       kBasicHelp.rows,       kBasicLocksB.controls},
 };
 
 } // namespace
 
 // clang-format on
 
-const ColorDialog* FindColorDialog(uint32_t id, uint32_t type) {
+const ColorDialog* FindColorDialog(uint32_t id, const DeviceTable* table) {
+    const uint32_t type = SwitchValue(table, kSwitchColorSetting);
     for (const ColorDialog& dialog : kDialogs)
-        if (dialog.id == id && (dialog.variant == 0 || dialog.variant == type))
+        if (dialog.id == id && (dialog.type == 0 || dialog.type == type))
             return &dialog;
     return nullptr;
 }

@@ -1,7 +1,8 @@
-// The engine of the colour settings dialogs: see the header. What the kinds of controls do is in
-// color_controls.cpp.
+// Handles the messages of the colour settings dialogs. color_controls.cpp does the work for each kind of
+// control.
 #include "dialogs/color/color_dialog.h"
 
+#include "base/dialog_ids.h"
 #include "dialogs/color/default_devmode.h"
 #include "dialogs/shared/item_drawing.h"
 #include "dialogs/shared/ui_module.h"
@@ -11,10 +12,6 @@
 #include <initializer_list>
 
 namespace {
-
-constexpr int kDownloadManagerButton = 1393;
-constexpr int kManageProfilesButton = 1528;
-constexpr WPARAM kHelpButton = 9;
 
 struct Answer {
     int32_t result;
@@ -60,10 +57,10 @@ void Refresh(const OpenDialog& dialog) {
     ShowAll(dialog);
 }
 
-// What graphics follow, from the controls as they are.
+// Stores the graphics settings that follow images or text, as the controls show those now.
 void DeriveGraphics(const OpenDialog& dialog) {
     for (const ColorControl& control : dialog.description.controls)
-        if (control.kind == ColorControlKind::kGraphicsChoice)
+        if (AnswerOf(control).isStoredByRefresh)
             StoreControl(dialog.controls, control);
 }
 
@@ -74,7 +71,8 @@ void CopySettings(OemDevmode* to, const OemDevmode* from) {
 
 // --- Changes ---------------------------------------------------------------------------------------------
 
-// What a change can alter in the settings, to be put back when it is refused.
+// The old settings of a control, to be restored when a change is refused. Graphics settings that were derived
+// from it are not restored; they stay until they are derived again.
 struct Kept {
     uint32_t value;
     ProfileEntry profile;
@@ -103,13 +101,13 @@ Answer OnInitDialog(const ColorDialog& description, HWND window, LPARAM paramete
     Refresh(dialog);
     const auto isInstalled = UiCallback<TelmarIsInstalledDLManager>("IsInstalledDLManager");
     if (description.listsProfiles && isInstalled != nullptr && isInstalled() == 0)
-        EnableDlgControl(window, kDownloadManagerButton, false);
+        EnableDlgControl(window, IDC_DOWNLOAD_MANAGER, false);
     if (!IsSettingChangeAllowed(dialog.Context()))
         DisableControls(window, description.lockList);
     return kHandled0;
 }
 
-// A control has been changed; `clicked` is the one of its windows that was used.
+// A control has been changed; `clicked` is the window that the user clicked.
 Answer OnChange(const OpenDialog& dialog, const ColorControl& control, uint16_t clicked) {
     OemDevmode* settings = GetDialogSettings(dialog.Context());
     const Kept kept = settings != nullptr ? Keep(*settings, control) : Kept();
@@ -122,10 +120,10 @@ Answer OnChange(const OpenDialog& dialog, const ColorControl& control, uint16_t 
     return {AnswerOf(control).result, true};
 }
 
-// Moving the focus can activate the dialog, which refreshes it in between.
+// Moving the focus can activate the dialog and so refresh it before the defaults are copied.
 void TakeDefaults(const OpenDialog& dialog) {
     const OemDevmode* defaults = GetDefaultOemDevmode(deviceTable, dialog.Context());
-    FocusDlgControl(dialog.Window(), kDefaultsButton);
+    FocusDlgControl(dialog.Window(), IDC_DEFAULTS);
     OemDevmode* settings = GetDialogSettings(dialog.Context());
     if (defaults == nullptr || settings == nullptr)
         return;
@@ -145,21 +143,21 @@ Answer OnButton(const OpenDialog& dialog, WPARAM button) {
         CopySettings(GetDialogSettings(dialog.Context()), GetDialogSaveArea(dialog.Context()));
         EndDialog(dialog.Window(), IDCANCEL);
         return kHandled1;
-    case kHelpButton:
+    case IDHELP:
         ShowDialogHelp(dialog.Window(), HELP_CONTEXT, dialog.description.helpTopic);
         return kHandled0;
-    case kDefaultsButton:
+    case IDC_DEFAULTS:
         TakeDefaults(dialog);
         return kHandled0;
-    case kDownloadManagerButton:
-    case kManageProfilesButton: // the user-interface module acts on these
+    case IDC_DOWNLOAD_MANAGER:
+    case IDC_MANAGE_PROFILES: // left to the user-interface module
         return {dialog.description.listsProfiles ? 1 : 0, false};
     default:
         return kNotHandled;
     }
 }
 
-// Notification and control count as a whole.
+// A command matches only as a whole, notification code and control.
 Answer OnCommand(const OpenDialog& dialog, WPARAM command) {
     for (const ColorControl& control : dialog.description.controls)
         for (const uint16_t id : {control.id, control.otherId})
@@ -186,15 +184,13 @@ Answer OnActivate(const OpenDialog& dialog, WPARAM wParam) {
     return kHandled0;
 }
 
-// Whether an icon control stands beside a control, or a button for profiles, that this dialog has.
+// Whether an icon control belongs to a control or a profile button of this dialog.
 bool HasIcon(const ColorDialog& description, uint32_t icon) {
-    const uint16_t beside = ControlBesideIcon(icon);
-    if (beside == 0)
-        return false;
-    if (beside == kDownloadManagerButton || beside == kManageProfilesButton)
+    const uint16_t owner = ControlOfIcon(icon);
+    if (owner == IDC_DOWNLOAD_MANAGER || owner == IDC_MANAGE_PROFILES)
         return description.listsProfiles;
     for (const ColorControl& control : description.controls)
-        if (control.id == beside)
+        if (owner != 0 && control.id == owner)
             return true;
     return false;
 }
@@ -206,7 +202,7 @@ const ColorControl* FindList(const ColorDialog& description, UINT id) {
     return nullptr;
 }
 
-// Arrives before the dialog is initialised.
+// Arrives before WM_INITDIALOG, so there is no context yet.
 Answer OnMeasureItem(const ColorDialog& description, MEASUREITEMSTRUCT& item) {
     if (FindList(description, item.CtlID) == nullptr)
         return kNotHandled;
@@ -214,7 +210,7 @@ Answer OnMeasureItem(const ColorDialog& description, MEASUREITEMSTRUCT& item) {
     return kHandled1;
 }
 
-// A list's entry is only drawn for a caller who asks whether it was.
+// An entry of a list is drawn only when the caller passes a handled flag; the answer is 1 in either case.
 Answer OnDrawItem(const OpenDialog& dialog, const DRAWITEMSTRUCT& item, bool isAsked) {
     if (const ColorControl* list = FindList(dialog.description, item.CtlID)) {
         if (isAsked)

@@ -1,4 +1,4 @@
-// The colour settings dialogs: one engine, which a description makes one dialog or another.
+// The engine of the colour settings dialogs, and the description that turns it into one of them.
 #ifndef DIALOGS_COLOR_COLOR_DIALOG_H
 #define DIALOGS_COLOR_COLOR_DIALOG_H
 
@@ -7,24 +7,22 @@
 
 #include <windows.h>
 
-constexpr int kDefaultsButton = 1032;
-
 struct ColorDialog {
     uint16_t id;
-    uint32_t variant; // the model's type that asks for it; 0: any other
+    uint32_t type; // the model's "ColorSetting" type that selects this variant; 0: any other
     uint32_t helpTopic;
-    // It lists the printer's profiles: it can be told to read them anew, does so when it is activated, and
-    // has buttons to manage them, on which the user-interface module acts.
+    // It lists the printer's profiles: the refresh message and activation fill the lists again, and it has
+    // the buttons for profiles, which the user-interface module serves.
     bool listsProfiles;
     Rows<ColorControl> controls; // in the order of filling, showing and storing
     Rows<GraphicsSource> graphicsSources;
-    Rows<DevmodeField> defaults; // what the Defaults button takes
+    Rows<DevmodeField> defaults; // copied by the Defaults button
     const HelpId* helpIds;
     const uint32_t* lockList; // disabled when the user may not change settings; ends with 0
 };
 
-// Answers one message of the dialog. `handled`, which may be null, becomes 1 when the dialog has acted on it
-// and stays as it is otherwise.
+// Handles one message of the dialog and returns the result for it. `handled` may be null; it is set to 1 when
+// the dialog has acted on the message and is left unchanged otherwise.
 int32_t RunColorDialog(const ColorDialog& dialog, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                        int32_t* handled);
 

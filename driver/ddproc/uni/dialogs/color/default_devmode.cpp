@@ -1,21 +1,20 @@
-// Default settings: see the header.
+// Reads the default settings of the print queue, or adapts the built-in ones to the user's region.
 #include "dialogs/color/default_devmode.h"
 
+#include "base/keyed_list.h"
 #include "base/scope_guard.h"
-#include "base/text.h"
 #include "paramdata/default_settings.h"
 
-#include <algorithm>
 #include <cstring>
 #include <winspool.h>
 
 namespace {
 
-constexpr uint32_t kLetter = 1;
+constexpr uint32_t kLetter = 1; // values of paper sizes
 constexpr uint32_t kA4 = 9;
-constexpr uint32_t kNorthAmerica[] = {1, 2}; // country codes of the telephone
+constexpr uint32_t kLetterCountries[] = {1, 2}; // country codes of LOCALE_ICOUNTRY
 
-// A locale's value; empty when it can't be read.
+// A locale setting as text; empty when it cannot be read.
 using LocaleText = wchar_t[16];
 void ReadLocale(LCTYPE type, LocaleText& text) {
     if (GetLocaleInfoW(LOCALE_USER_DEFAULT, type, text, sizeof(text) / sizeof(text[0])) == 0)
@@ -33,23 +32,17 @@ uint32_t CountryCode() {
 
 uint32_t RegionalPaper() {
     const uint32_t country = CountryCode();
-    for (const uint32_t code : kNorthAmerica)
+    for (const uint32_t code : kLetterCountries)
         if (country == code)
             return kLetter;
     return kA4;
 }
 
-// The paper size with this value; of several under its name the first. Null when there is none.
+// The first paper size with the same key as the one with this value; null when there is none.
 const PaperSizeRecord* FindPaper(const DeviceTable* table, uint32_t value) {
-    const Rows<PaperSizeRecord> papers = Listed(table != nullptr ? table->paperSizes : nullptr);
-    const PaperSizeRecord* paper =
-        std::find_if(papers.begin(), papers.end(),
-                     [&](const PaperSizeRecord& other) { return other.head.value == value; });
-    if (paper == papers.end())
-        return nullptr;
-    return std::find_if(papers.begin(), papers.end(), [&](const PaperSizeRecord& other) {
-        return SameText(other.head.key, paper->head.key);
-    });
+    const PaperSizeRecord* papers = table != nullptr ? table->paperSizes : nullptr;
+    const PaperSizeRecord* paper = FindByValue(papers, value);
+    return paper != nullptr ? FindByKey(papers, paper->head.key) : nullptr;
 }
 
 void LocalizePaper(const DeviceTable* table) {
@@ -71,7 +64,7 @@ void LocalizeUnits() {
         flag = isUs ? 1 : 0;
 }
 
-// True when the queue holds a whole record, which then lies in `settings`.
+// Reads the record that is stored with the queue. False unless it has its full size.
 bool ReadStoredDefaults(HANDLE printer, OemDevmode& settings) {
     wchar_t name[] = L"DefaultOEMDEV";
     DWORD type = 0;

@@ -1,4 +1,4 @@
-// The default settings that the dialogs' Defaults buttons take.
+// The default settings that the Defaults buttons copy.
 #ifndef DIALOGS_COLOR_DEFAULT_DEVMODE_H
 #define DIALOGS_COLOR_DEFAULT_DEVMODE_H
 
@@ -7,17 +7,17 @@
 
 #include <windows.h>
 
-// The defaults that are stored with the print queue; otherwise the built-in ones, in the paper and units of
-// the user's region. They lie in the context's scratch area, which is the answer; null without context or
+// Writes the default settings to the context's scratch area and returns it: those stored with the print
+// queue, otherwise the built-in ones with the paper and units of the user's region. Null without a context or
 // area.
 const OemDevmode* GetDefaultOemDevmode(const DeviceTable* table, const DialogContext* context);
 
-// Puts paper and units of the user's region into the built-in default settings. The table may be null: the
-// paper then stays.
+// Sets paper and units of the built-in default settings to those of the user's region. With a null table the
+// paper is left unchanged.
 void LocalizeDefaultOemDevmode(const DeviceTable* table);
 
-// Whether the queue's driver is one for black only, by its name. A null handle has the printer opened by
-// name, which may be null, too. False when nothing can be asked.
+// Whether the name of the queue's driver is that of a black-only driver. With a null handle the printer is
+// opened by its name, which may be null, too. False when the driver's name cannot be read.
 bool IsMonoDriver(HANDLE printer, const wchar_t* name);
 
 #endif

@@ -1,11 +1,11 @@
-// What the user-interface module hands over for each dialog, and the questions that the dialogs ask of it.
-// The module never keeps or frees any of it.
+// Access to the dialog context, which the user-interface module passes to each dialog. It and all that it
+// points to belong to that module; nothing of it is kept beyond the dialog or freed here.
 #ifndef DIALOGS_SHARED_DIALOG_CONTEXT_H
 #define DIALOGS_SHARED_DIALOG_CONTEXT_H
 
 #include "base/records.h"
 
-// The answers; of a null context null, or what changes nothing.
+// A null context gives null pointers, permits changes and has full RGB lists.
 inline OemDevmode* GetDialogSettings(const DialogContext* context) {
     return context != nullptr ? context->settings : nullptr;
 }

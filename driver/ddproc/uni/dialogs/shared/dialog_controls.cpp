@@ -1,4 +1,4 @@
-// Controls of a dialog, and its help: see the header.
+// Enables, shows and focuses controls, and opens the help file.
 #include "dialogs/shared/dialog_controls.h"
 
 #include "base/module_handles.h"
@@ -9,7 +9,7 @@ void EnableDlgControl(HWND dialog, int control, bool isEnabled) {
         EnableWindow(window, FALSE);
         return;
     }
-    const bool wasVisible = ShowWindow(window, SW_SHOW) != FALSE;
+    const bool wasVisible = ShowWindow(window, SW_SHOW) != FALSE; // the visibility before the call
     if (!wasVisible)
         ShowWindow(window, SW_HIDE);
     EnableWindow(window, wasVisible ? TRUE : FALSE);

@@ -1,7 +1,7 @@
-// Owner-drawn entries: see the header.
+// Draws the entries of the owner-drawn lists.
 #include "dialogs/shared/item_drawing.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 #include "dialogs/shared/profile_text.h"
 
 namespace {
@@ -11,11 +11,10 @@ constexpr int kTextTop = 1;
 
 constexpr UINT kNoEntry = 0xFFFFFFFF;
 
-// What an entry shows.
 struct EntryContent {
-    const wchar_t* text; // null: nothing
+    const wchar_t* text; // null: the entry is empty
     bool hasIcon;
-    uint16_t icon; // of the system
+    uint16_t icon; // a system icon
 };
 
 bool IsSelected(const DRAWITEMSTRUCT& item) {
@@ -45,6 +44,9 @@ void FillBackground(const DRAWITEMSTRUCT& item) {
     DeleteObject(brush);
 }
 
+// The icon is destroyed although LoadIcon returns a shared one that only the system should destroy. This
+// looks wrong, but the sequence of calls is part of the module's contract, and the system keeps shared icons
+// anyway.
 void DrawItemIcon(const DRAWITEMSTRUCT& item, uint16_t identifier) {
     HICON icon = LoadIconW(nullptr, MAKEINTRESOURCEW(identifier));
     const int height = item.rcItem.bottom - item.rcItem.top;
@@ -68,11 +70,9 @@ bool ShowsFocus(const DRAWITEMSTRUCT& item) {
            || ((item.itemState & ODS_FOCUS) != 0 && GetFocus() == item.hwndItem);
 }
 
-const ItemRecord* FindByValue(const ItemRecord* items, LONG_PTR data) {
-    for (const ItemRecord& item : Listed(items))
-        if (static_cast<LONG_PTR>(item.head.value) == data)
-            return &item;
-    return nullptr;
+const ItemRecord* FindByData(const ItemRecord* items, LONG_PTR data) {
+    const auto value = static_cast<uint32_t>(data);
+    return static_cast<LONG_PTR>(value) == data ? FindByValue(items, value) : nullptr;
 }
 
 EntryContent ContentOf(const ItemRecord* item) {
@@ -116,11 +116,11 @@ void DrawListEntry(const DRAWITEMSTRUCT& item, const ItemRecord* items, const Li
         return;
     }
     const auto data = static_cast<LONG_PTR>(item.itemData);
-    const ItemRecord* known = FindByValue(items, data);
-    const ProfileEntry* profile = known == nullptr ? FindListedProfile(profiles, data) : nullptr;
+    const ItemRecord* record = FindByData(items, data);
+    const ProfileEntry* profile = record == nullptr ? FindListedProfile(profiles, data) : nullptr;
     ProfileText text;
     if (profile != nullptr && FormatProfileText(*profile, text))
         DrawEntry(item, {text, false, 0});
     else
-        DrawEntry(item, ContentOf(known));
+        DrawEntry(item, ContentOf(record));
 }

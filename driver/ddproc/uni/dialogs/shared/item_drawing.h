@@ -1,4 +1,4 @@
-// Owner-drawn entries of the dialogs' lists: background, icon, text and focus.
+// Drawing of the entries of owner-drawn lists.
 #ifndef DIALOGS_SHARED_ITEM_DRAWING_H
 #define DIALOGS_SHARED_ITEM_DRAWING_H
 
@@ -9,22 +9,22 @@
 
 constexpr UINT kEntryHeight = 16; // pixels
 
-// Printer's profiles in a list: the entry with item data `firstData` + i stands for profile i.
+// The printer's profiles in a list. The entry with item data `firstData` + i is profile i.
 struct ListedProfiles {
     const ProfileList* list; // null: none
     LONG_PTR firstData;
 };
 
-// The profile that an entry's item data stands for; null when there is none.
+// The profile with this item data; null when there is none.
 const ProfileEntry* FindListedProfile(const ListedProfiles& profiles, LONG_PTR data);
 
-// An item identifier of -1 stands for an empty list, or for no selection: focus only, and no item data is
-// read.
+// Both draw background, icon, text and focus rectangle. The item identifier -1 means that the list is empty
+// or nothing is selected; only the focus rectangle is drawn then, and the item data is not read.
 
-// Draws an entry whose item data is the item's record itself, or null: background only.
+// The item data is a pointer to the item's record, or null for an empty entry.
 void DrawRecordEntry(const DRAWITEMSTRUCT& item);
 
-// Draws an entry whose item data is the value of an item of the table, or else stands for a profile.
+// The item data is the value of an item of the table; otherwise that of a profile.
 void DrawListEntry(const DRAWITEMSTRUCT& item, const ItemRecord* items, const ListedProfiles& profiles);
 
 #endif

@@ -1,23 +1,19 @@
-// Profile texts: see the header.
+// Composes the display text of a colour profile.
 #include "dialogs/shared/profile_text.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 #include "paramdata/device_table.h"
 
 namespace {
 
 const TextItemRecord* FindLocation(uint32_t value) {
-    for (const TextItemRecord& location :
-         Listed(deviceTable != nullptr ? deviceTable->profileLocations : nullptr))
-        if (location.head.value == value)
-            return &location;
-    return nullptr;
+    return deviceTable != nullptr ? FindByValue(deviceTable->profileLocations, value) : nullptr;
 }
 
 } // namespace
 
 bool FormatProfileText(const ProfileEntry& profile, ProfileText& text) {
-    static_assert(sizeof(ProfileText) == 520);
+    static_assert(sizeof(ProfileText) == 520); // the block's size is part of the contract
     auto* block = static_cast<ProfileText*>(LocalAlloc(LPTR, sizeof(ProfileText)));
     if (block == nullptr)
         return false;

@@ -1,4 +1,4 @@
-// The text under which a colour profile of the printer is listed.
+// The display text of a colour profile in the printer.
 #ifndef DIALOGS_SHARED_PROFILE_TEXT_H
 #define DIALOGS_SHARED_PROFILE_TEXT_H
 
@@ -9,8 +9,8 @@
 constexpr size_t kProfileTextCapacity = 260;
 using ProfileText = wchar_t[kProfileTextCapacity];
 
-// "name (qualifier) location", or "name location" without a qualifier; the location as the device table names
-// it, empty when it doesn't. False, and the text as it was, when there is no memory.
+// Composes "name (qualifier) location", or "name location" without a qualifier. The location is its text in
+// the device table, empty when the table lacks it. False, and the text unchanged, when memory runs out.
 bool FormatProfileText(const ProfileEntry& profile, ProfileText& text);
 
 #endif

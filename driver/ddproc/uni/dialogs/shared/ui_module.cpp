@@ -1,37 +1,28 @@
-// The user-interface module: see the header.
+// Loads the user-interface module and calls back into it.
 #include "dialogs/shared/ui_module.h"
 
 #include "base/module_handles.h"
+#include "dialogs/shared/control_parts.h"
 #include "paramdata/control_texts.h"
 
 DialogState dialogState;
 
 namespace {
 
-// Which icon control stands beside which control.
-constexpr struct {
-    uint16_t iconControl;
-    uint16_t control;
-} kStopIcons[] = {
-    // clang-format off
-    {1503, 1504}, {1402, 1354}, {1403, 1335}, {1601, 1599}, {1401, 1332},
-    {1508, 1509}, {1505, 1353}, {1510, 1334}, {1594, 1592}, {1400, 1330},
-    {1512, 1513}, {1515, 1516}, {1518, 1519}, {1587, 1584}, {1521, 1522},
-    {1482, 1524}, {1629, 1627}, {1527, 1526}, {1530, 1393}, {1529, 1528},
-    {1486, 1525}, {1636, 1634},
-    // clang-format on
-};
-constexpr size_t kStopIconCount = sizeof(kStopIcons) / sizeof(kStopIcons[0]);
-
-// A megabyte of almost nothing: zero in the file, filled when a dialog binds itself.
+// A block in the user-interface module's own format: nearly a megabyte, almost all of it zeros. The size
+// looks wrong but is part of the contract. Filled when a dialog is initialised, so that the file does not
+// carry it.
 StopIconTable stopIcons;
-static_assert(kStopIconCount < sizeof(StopIconTable::records) / sizeof(StopIconRecord));
+static_assert(CountIcons() < sizeof(StopIconTable::records) / sizeof(StopIconRecord));
 
 void FillStopIcons() {
-    for (size_t i = 0; i < kStopIconCount; ++i) {
-        stopIcons.records[i].iconControl = kStopIcons[i].iconControl;
-        stopIcons.records[i].control = kStopIcons[i].control;
-    }
+    StopIconRecord* record = stopIcons.records;
+    for (const ControlParts& row : kControlParts)
+        if (row.icon != 0) {
+            record->iconControl = row.icon;
+            record->control = row.control;
+            ++record;
+        }
 }
 
 } // namespace
@@ -81,9 +72,9 @@ void ShowHints(HWND dialog, DialogContext* context, uint16_t dialogId) {
         dialogState.dispHintControlEntry(dialog, context, dialogId);
 }
 
-uint16_t ControlBesideIcon(uint32_t iconControl) {
-    for (const auto& row : kStopIcons)
-        if (row.iconControl == iconControl)
+uint16_t ControlOfIcon(uint32_t iconControl) {
+    for (const ControlParts& row : kControlParts)
+        if (row.icon != 0 && row.icon == iconControl)
             return row.control;
     return 0;
 }
