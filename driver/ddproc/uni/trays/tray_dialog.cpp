@@ -2,7 +2,9 @@
 // time.
 #include "trays/tray_dialog.h"
 
+#include "base/dialog_ids.h"
 #include "base/rows.h"
+#include "base/window_services.h"
 #include "dialogs/shared/dialog_controls.h"
 #include "dialogs/shared/item_drawing.h"
 #include "dialogs/shared/ui_module.h"
@@ -15,11 +17,13 @@
 
 namespace {
 
-constexpr uint32_t kTrayDialogId = 155;   // for all kinds
-constexpr uint16_t kChangedHintsId = 156; // what DispHintControl gets after a change: the button's page
+constexpr uint32_t kTrayDialogId = IDD_TRAYS_6_ATTRIBUTES; // for all kinds
+constexpr uint16_t kChangedHintsId =
+    TELMAR_TRAY_BUTTON_PAGE; // what DispHintControl gets after a change: the button's page
 constexpr uint32_t kHelpTopic = 7300;
-constexpr int kIconSize = 16;                        // pixels
-constexpr uint16_t kOrientationIcons[] = {473, 474}; // portrait, landscape; of the user-interface module
+constexpr int kIconSize = 16; // pixels
+constexpr uint16_t kOrientationIcons[] = {IDI_PORTRAIT,
+                                          IDI_LANDSCAPE}; // portrait, landscape; of the user-interface module
 
 HWND trayHintToolWindow;
 
@@ -32,15 +36,11 @@ struct TrayDialog {
 };
 
 HWND ListOf(HWND window) {
-    return GetDlgItem(window, kTrayList);
+    return GetDlgItem(window, IDC_TRAY_LIST);
 }
 
 DialogContext* ContextOf(HWND window) {
     return reinterpret_cast<DialogContext*>(GetWindowLongPtrW(window, DWLP_USER));
-}
-
-LRESULT Send(HWND window, uint16_t control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
-    return SendDlgItemMessageW(window, control, message, wParam, lParam);
 }
 
 TrayPaperSetting* SelectedTray(HWND window) {
@@ -51,20 +51,22 @@ TrayPaperSetting* SelectedTray(HWND window) {
 
 // The item of an entry; null without such an entry.
 const ItemRecord* ItemAt(HWND window, uint16_t box, LRESULT index) {
-    const LRESULT data = index < 0 ? CB_ERR : Send(window, box, CB_GETITEMDATA, static_cast<WPARAM>(index));
+    const LRESULT data =
+        index < 0 ? CB_ERR : SendToControl(window, box, CB_GETITEMDATA, static_cast<WPARAM>(index));
     return data == CB_ERR ? nullptr : reinterpret_cast<const ItemRecord*>(data);
 }
 
 void FillBox(HWND window, MediaTypeList attribute) {
     const uint16_t box = trayAttributes[attribute].comboBox;
-    Send(window, box, CB_RESETCONTENT);
+    SendToControl(window, box, CB_RESETCONTENT);
     WPARAM next = 0;
     for (const ItemRecord& item : Listed(AttributeValues(attribute))) {
         const LRESULT index =
-            Send(window, box, CB_INSERTSTRING, next++, reinterpret_cast<LPARAM>(item.display));
+            SendToControl(window, box, CB_INSERTSTRING, next++, reinterpret_cast<LPARAM>(item.display));
         if (index < 0)
             return;
-        Send(window, box, CB_SETITEMDATA, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&item));
+        SendToControl(window, box, CB_SETITEMDATA, static_cast<WPARAM>(index),
+                      reinterpret_cast<LPARAM>(&item));
     }
 }
 
@@ -72,15 +74,15 @@ void FillBox(HWND window, MediaTypeList attribute) {
 void SelectInBox(HWND window, MediaTypeList attribute, const TrayPaperSetting& tray) {
     const TrayAttribute& row = trayAttributes[attribute];
     const int32_t value = LoadAttribute(tray, row);
-    const LRESULT count = Send(window, row.comboBox, CB_GETCOUNT);
+    const LRESULT count = SendToControl(window, row.comboBox, CB_GETCOUNT);
     for (LRESULT i = 0; i < count; ++i) {
         const ItemRecord* item = ItemAt(window, row.comboBox, i);
         if (item != nullptr && static_cast<int32_t>(item->head.value) == value) {
-            Send(window, row.comboBox, CB_SETCURSEL, static_cast<WPARAM>(i));
+            SendToControl(window, row.comboBox, CB_SETCURSEL, static_cast<WPARAM>(i));
             return;
         }
     }
-    Send(window, row.comboBox, CB_SETCURSEL, static_cast<WPARAM>(-1));
+    SendToControl(window, row.comboBox, CB_SETCURSEL, static_cast<WPARAM>(-1));
 }
 
 // Selects the values of the selected tray. Without one the boxes stay unchanged.
@@ -93,7 +95,7 @@ void SelectInBoxes(const TrayDialog& dialog, HWND window) {
 }
 
 void StoreChoice(HWND window, const TrayAttribute& attribute, TrayPaperSetting& tray) {
-    const LRESULT selected = Send(window, attribute.comboBox, CB_GETCURSEL);
+    const LRESULT selected = SendToControl(window, attribute.comboBox, CB_GETCURSEL);
     if (const ItemRecord* item = ItemAt(window, attribute.comboBox, selected))
         StoreAttribute(tray, attribute, static_cast<int32_t>(item->head.value));
 }
@@ -104,7 +106,7 @@ void StoreChoice(HWND window, const TrayAttribute& attribute, TrayPaperSetting& 
 void LockControls(const TrayDialog& dialog, HWND window) {
     if (IsSettingChangeAllowed(ContextOf(window)))
         return;
-    EnableDlgControl(window, kTrayList, false);
+    EnableDlgControl(window, IDC_TRAY_LIST, false);
     for (const MediaTypeList attribute : dialog.attributes)
         EnableDlgControl(window, trayAttributes[attribute].comboBox, false);
 }
@@ -138,8 +140,8 @@ void SetOrientationIcons(HWND window) {
         }
         DestroyIcon(icon);
     }
-    Send(window, kTrayList, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
-    Send(window, kTrayList, LVM_DELETEALLITEMS);
+    SendToControl(window, IDC_TRAY_LIST, LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images));
+    SendToControl(window, IDC_TRAY_LIST, LVM_DELETEALLITEMS);
 }
 
 // Keeps the list view's own procedure also when the dialog is initialised again.
@@ -189,7 +191,7 @@ void OnChange(const TrayDialog& dialog, HWND window, MediaTypeList attribute) {
     LockControls(dialog, window);
     FillTrayRows(window, context);
     SelectTrayRow(window, row);
-    Send(window, kTrayList, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
+    SendToControl(window, IDC_TRAY_LIST, LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE);
 }
 
 // Restores the attributes of this kind of dialog. Keys and bin numbers, which the list has set, stay.
@@ -243,14 +245,14 @@ INT_PTR OnDrawItem(HWND window, const DRAWITEMSTRUCT& item) {
     const bool isBox = IsAttributeBox(item.CtlID);
     if (isBox)
         DrawRecordEntry(item);
-    else if (item.CtlID == kTrayList)
+    else if (item.CtlID == IDC_TRAY_LIST)
         DrawTrayRow(window, ContextOf(window), item);
-    return isBox || item.CtlID == kTrayList ? 1 : 0;
+    return isBox || item.CtlID == IDC_TRAY_LIST ? 1 : 0;
 }
 
 // Comes before WM_INITDIALOG.
 INT_PTR OnMeasureItem(MEASUREITEMSTRUCT& item) {
-    if (item.CtlID != kTrayList && !IsAttributeBox(item.CtlID))
+    if (item.CtlID != IDC_TRAY_LIST && !IsAttributeBox(item.CtlID))
         return 0;
     item.itemHeight = kEntryHeight;
     return 1;
@@ -258,7 +260,7 @@ INT_PTR OnMeasureItem(MEASUREITEMSTRUCT& item) {
 
 // The list gives up its images first, since it destroys those that it has.
 void OnDestroy(TrayDialog& dialog, HWND window) {
-    const LRESULT images = Send(window, kTrayList, LVM_SETIMAGELIST, LVSIL_SMALL);
+    const LRESULT images = SendToControl(window, IDC_TRAY_LIST, LVM_SETIMAGELIST, LVSIL_SMALL);
     if (images != 0)
         ImageList_Destroy(reinterpret_cast<HIMAGELIST>(images));
     if (dialog.listProcedure != nullptr)
@@ -309,9 +311,11 @@ constexpr MediaTypeList kAttributes2[] = {kMediaSize, kMediaOrientation, kMediaT
 constexpr MediaTypeList kAttributes3[] = {kMediaSize, kMediaOrientation, kMediaType};
 
 // clang-format off
-#define HELP_HEAD   {1845, 7310}, {1844, 7320}, {1859, 7330}, {1860, 7330}, {1861, 7340}, {1862, 7340}, {1005, 7350}, {1003, 7350}
-#define HELP_WEIGHT {1084, 7360}, {1086, 7360}
-#define HELP_TAIL   {1089, 7370}, {1091, 7370}, {1097, 7380}, {1094, 7380}
+#define HELP(control, topic) {control##_LABEL, topic}, {control, topic}
+#define HELP_HEAD   {IDC_TRAY_LIST_LABEL, 7310}, {IDC_TRAY_LIST, 7320}, \
+                    HELP(IDC_TRAY_SIZE, 7330), HELP(IDC_TRAY_ORIENTATION, 7340), HELP(IDC_TRAY_TYPE, 7350)
+#define HELP_WEIGHT HELP(IDC_TRAY_WEIGHT, 7360)
+#define HELP_TAIL   HELP(IDC_TRAY_COLOR, 7370), HELP(IDC_TRAY_PRE_PUNCHED, 7380)
 constexpr HelpId kHelp1[] = {HELP_HEAD, HELP_WEIGHT, HELP_TAIL, {0, 0}};
 constexpr HelpId kHelp2[] = {HELP_HEAD, HELP_TAIL, {0, 0}};
 constexpr HelpId kHelp3[] = {HELP_HEAD, {0, 0}};
@@ -336,9 +340,9 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 
 // By the switch's value, from 1 on.
 constexpr TrayDialogEntry kEntries[] = {
-    {155, DialogProcedure<0>},
-    {165, DialogProcedure<1>},
-    {166, DialogProcedure<2>},
+    {IDD_TRAYS_6_ATTRIBUTES, DialogProcedure<0>},
+    {IDD_TRAYS_5_ATTRIBUTES, DialogProcedure<1>},
+    {IDD_TRAYS_3_ATTRIBUTES, DialogProcedure<2>},
 };
 constexpr uint32_t kEntryCount = sizeof(kEntries) / sizeof(kEntries[0]);
 

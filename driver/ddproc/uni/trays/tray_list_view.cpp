@@ -1,6 +1,7 @@
 // The list view of the tray-setting dialogs: columns, rows, drawing.
 #include "trays/tray_list_view.h"
 
+#include "base/dialog_ids.h"
 #include "base/text.h"
 #include "paramdata/device_table.h"
 
@@ -29,7 +30,7 @@ LRESULT Send(HWND list, UINT message, WPARAM wParam, Record* record) {
 }
 
 HWND ListOf(HWND dialog) {
-    return GetDlgItem(dialog, kTrayList);
+    return GetDlgItem(dialog, IDC_TRAY_LIST);
 }
 
 int ClientWidth(HWND window) {

@@ -8,8 +8,6 @@
 
 #include <windows.h>
 
-constexpr int kTrayList = 1844;
-
 // Inserts the columns that the model shows.
 void SetUpTrayColumns(HWND dialog);
 

@@ -1,6 +1,7 @@
 // The attributes of the paper in a tray, and access to their values.
 #include "trays/tray_settings.h"
 
+#include "base/dialog_ids.h"
 #include "paramdata/device_table.h"
 
 #include <cstring>
@@ -11,13 +12,13 @@ constexpr uint32_t kAlways = kLastTrayDialogType + 1; // dialogs of every type h
 
 // clang-format off
 const TrayAttribute trayAttributes[] = {
-    // box  label field                          feature                 no column from dialog type
-    {1860, 1859, ATTRIBUTE_FIELD(size),        kNoFeature,             kAlways},
-    {1862, 1861, ATTRIBUTE_FIELD(orientation), kNoFeature,             kAlways},
-    {1003, 1005, ATTRIBUTE_FIELD(type),        kNoFeature,             kAlways},
-    {1086, 1084, ATTRIBUTE_FIELD(weight),      kSwitchMediaWeight,     2},
-    {1091, 1089, ATTRIBUTE_FIELD(color),       kSwitchMediaColor,      3},
-    {1094, 1097, ATTRIBUTE_FIELD(hole),        kSwitchMediaPrePunched, 3},
+    // box                  label                       field                         feature                 no column from dialog type
+    {IDC_TRAY_SIZE,        IDC_TRAY_SIZE_LABEL,        ATTRIBUTE_FIELD(size),        kNoFeature,             kAlways},
+    {IDC_TRAY_ORIENTATION, IDC_TRAY_ORIENTATION_LABEL, ATTRIBUTE_FIELD(orientation), kNoFeature,             kAlways},
+    {IDC_TRAY_TYPE,        IDC_TRAY_TYPE_LABEL,        ATTRIBUTE_FIELD(type),        kNoFeature,             kAlways},
+    {IDC_TRAY_WEIGHT,      IDC_TRAY_WEIGHT_LABEL,      ATTRIBUTE_FIELD(weight),      kSwitchMediaWeight,     2},
+    {IDC_TRAY_COLOR,       IDC_TRAY_COLOR_LABEL,       ATTRIBUTE_FIELD(color),       kSwitchMediaColor,      3},
+    {IDC_TRAY_PRE_PUNCHED, IDC_TRAY_PRE_PUNCHED_LABEL, ATTRIBUTE_FIELD(hole),        kSwitchMediaPrePunched, 3},
 };
 // clang-format on
 
