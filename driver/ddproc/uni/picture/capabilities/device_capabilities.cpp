@@ -1,6 +1,6 @@
-// DDProc_DeviceCapabilities: what the system asks and this module answers. Everything is worked out from the
-// caller's tables on each call.
-#include "base/text.h"
+// DDProc_DeviceCapabilities: answers the system's capability requests from the caller's tables. Nothing is
+// kept between calls.
+#include "base/keyed_list.h"
 #include "picture/capabilities/feature_table.h"
 
 #include <cstring>
@@ -9,8 +9,7 @@ namespace {
 
 using BinName = wchar_t[TELMAR_BIN_NAME_LENGTH];
 
-// A paper source without an option feature is always there; one that has such a feature when the option is
-// installed.
+// A paper source is usable when its option is installed, and always when there is no option feature for it.
 bool IsUsable(const InputSlotRecord& slot, const FeatureRecord* features, const FeatureSettings* settings) {
     constexpr char kInstalled[] = "EnaOpInTray";
     char optionKey[2 + sizeof(slot.head.key) + 1] = "Op";
@@ -22,7 +21,7 @@ bool IsUsable(const InputSlotRecord& slot, const FeatureRecord* features, const 
     return item != nullptr && SameCharacters(item->head.key, kInstalled, sizeof(kInstalled) - 1);
 }
 
-// Stores the name as a field of 24 characters, zero-filled behind it.
+// Stores the name as a field of 24 characters, padded with zeros.
 void StoreBinName(const InputSlotRecord& slot, void* to) {
     BinName name = {};
     CopyText(name, slot.display);
@@ -34,7 +33,7 @@ void StoreBinNumber(const InputSlotRecord& slot, void* to) {
     memcpy(to, &bin, sizeof(bin));
 }
 
-// Stores the usable paper sources, packed in table order, when there is an output; counts them in any case.
+// Counts the usable paper sources and, when there is an output, stores them there, packed in table order.
 DWORD ListUsableSlots(const InputSlotRecord* slots, const FeatureRecord* features,
                       const FeatureSettings* settings, void* output, size_t elementSize,
                       void (*store)(const InputSlotRecord& slot, void* to)) {

@@ -1,15 +1,11 @@
-// Feature table look-ups: see the header. The records are the caller's and are only read.
+// Looks up features and selected items.
 #include "picture/capabilities/feature_table.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 
 int32_t FindFeature(const FeatureRecord* features, const char* key) {
-    if (features == nullptr)
-        return -1;
-    for (int32_t i = 0; features[i].feature.head.key[0] != 0; ++i)
-        if (SameText(features[i].feature.head.key, key))
-            return i;
-    return -1;
+    const FeatureRecord* feature = FindByKey(features, key);
+    return feature != nullptr ? static_cast<int32_t>(feature - features) : -1;
 }
 
 const ItemRecord* SelectedItem(const FeatureRecord* features, const FeatureSettings* settings,

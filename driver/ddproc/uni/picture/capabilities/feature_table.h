@@ -1,11 +1,11 @@
-// The caller's feature table and current choices, and how to look a choice up. The records belong to the
-// caller and may be incomplete: whatever names no item answers null.
+// Look-ups in the caller's feature table and its current choices. The records belong to the caller, are only
+// read and may be incomplete: a choice that names no item gives null.
 #ifndef PICTURE_CAPABILITIES_FEATURE_TABLE_H
 #define PICTURE_CAPABILITIES_FEATURE_TABLE_H
 
 #include "paramdata/device_table.h"
 
-// Position of the first feature with this key (ASCII case ignored), -1 when there is none.
+// Position of the first feature with this key, ASCII case ignored; -1 when there is none.
 int32_t FindFeature(const FeatureRecord* features, const char* key);
 
 // The selected item of the feature at this position; null when there is no item table or the choice names no

@@ -1,13 +1,13 @@
-// The summary of the option features: see the header.
+// Reduces the option features to the numbers that the printer's picture needs.
 #include "picture/capabilities/option_summary.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 
 namespace {
 
 constexpr size_t kMaxItems = 4;
 
-// The field that a feature decides, and its items in the order of their numbers.
+// The field that a feature determines, and its items in the order of their numbers.
 constexpr struct {
     const char* feature;
     int32_t OptionSummary::*field;
@@ -36,11 +36,12 @@ int32_t NumberOf(const ItemRecord* item, const char* const (&items)[kMaxItems]) 
 
 OptionSummary SummarizeOptions(const FeatureRecord* features, const FeatureSettings* settings) {
     OptionSummary summary = {};
-    if (features == nullptr)
-        return summary;
-    for (int32_t i = 0; features[i].feature.head.key[0] != 0; ++i)
+    int32_t position = 0;
+    for (const FeatureRecord& feature : Listed(features)) {
         for (const auto& option : kOptions)
-            if (SameText(features[i].feature.head.key, option.feature))
-                summary.*option.field = NumberOf(SelectedItem(features, settings, i), option.items);
+            if (SameText(feature.feature.head.key, option.feature))
+                summary.*option.field = NumberOf(SelectedItem(features, settings, position), option.items);
+        ++position;
+    }
     return summary;
 }

@@ -1,4 +1,4 @@
-// What is installed, as far as the printer's picture shows it, worked out from the caller's option features.
+// The installed options that the printer's picture shows, from the caller's option features.
 #ifndef PICTURE_CAPABILITIES_OPTION_SUMMARY_H
 #define PICTURE_CAPABILITIES_OPTION_SUMMARY_H
 
@@ -14,8 +14,8 @@ struct OptionSummary {
     int32_t saddleKit;
 };
 
-// A later feature of the same key overrides an earlier one, also back to 0. A choice that names no item is 0;
-// so is everything without a feature table.
+// Of several features with the same key the last one counts, even if it gives 0. A choice that names no item
+// gives 0. A null feature table gives all 0.
 OptionSummary SummarizeOptions(const FeatureRecord* features, const FeatureSettings* settings);
 
 #endif

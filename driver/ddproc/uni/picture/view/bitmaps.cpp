@@ -1,4 +1,4 @@
-// The module's own bitmaps: see the header.
+// Loads and draws the module's bitmaps.
 #include "picture/view/bitmaps.h"
 
 #include "base/module_handles.h"
@@ -17,7 +17,7 @@ void DrawCentred(HDC to, POINT centre, UINT id, DWORD rasterOperation) {
 
 } // namespace
 
-// A section keeps the bitmap's own colours, whatever the screen can show.
+// A DIB section keeps the bitmap's own colours, whatever the screen supports.
 LoadedBitmap::LoadedBitmap(UINT id)
     : handle(static_cast<HBITMAP>(
         LoadImageW(ModuleInstance(), MAKEINTRESOURCEW(id), IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION))) {}

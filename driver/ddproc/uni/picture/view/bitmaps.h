@@ -1,10 +1,10 @@
-// The module's own bitmaps: loaded by resource id when they are drawn, measured, drawn and released.
+// The module's bitmaps. Each is loaded by its resource identifier for one drawing and released afterwards.
 #ifndef PICTURE_VIEW_BITMAPS_H
 #define PICTURE_VIEW_BITMAPS_H
 
 #include <windows.h>
 
-// Owns one bitmap of the module's resources; the handle is null when it can't be loaded.
+// Owns one bitmap of the module's resources. The handle is null when it cannot be loaded.
 struct LoadedBitmap {
     explicit LoadedBitmap(UINT id);
     ~LoadedBitmap();
@@ -14,47 +14,47 @@ struct LoadedBitmap {
     const HBITMAP handle;
 };
 
-// Width and height in pixels; 0 x 0 when they can't be read.
+// Width and height in pixels; 0 x 0 when they cannot be read.
 SIZE BitmapSize(HBITMAP bitmap);
 
-// Owns a memory context; the handle is null when it can't be created. What is selected into it must outlive
-// it: the context goes first, with its own bitmap back in place.
+// Owns a memory context. The handle is null when it cannot be created. A bitmap that is selected into it must
+// outlive it; the destructor selects the context's own bitmap again before it deletes the context.
 struct MemoryContext {
     explicit MemoryContext(HDC compatibleWith);
     ~MemoryContext();
     MemoryContext(const MemoryContext&) = delete;
     MemoryContext& operator=(const MemoryContext&) = delete;
 
-    // False when the bitmap can't be selected. The context's own bitmap goes back at the end.
+    // False when the bitmap cannot be selected.
     bool Select(HBITMAP bitmap);
 
     const HDC handle;
     HGDIOBJ own = nullptr; // the context's bitmap, while another is selected
 };
 
-// Where a bitmap goes.
+// Where a bitmap is drawn.
 struct Area {
     POINT topLeft;
     SIZE size;
 };
 
-// Coordinates come from callers: their sums wrap instead of overflowing.
+// Coordinates are the callers' and may be anything: sums wrap around.
 constexpr LONG Sum(LONG a, LONG b) {
     return static_cast<LONG>(static_cast<LONGLONG>(a) + b);
 }
 
-// The area of this size around a centre; halves are cut toward zero.
+// The area of this size around a centre. Halves are rounded towards zero.
 Area AreaAround(POINT centre, SIZE size);
 
-// Copies a bitmap to this area with a raster operation, from the bitmap's top left corner on. What can't be
-// selected is not drawn.
+// Copies a bitmap to this area with a raster operation, starting at the bitmap's top left corner. Draws
+// nothing when the bitmap cannot be selected.
 void CopyBitmap(HDC to, const Area& area, HBITMAP bitmap, MemoryContext& through, DWORD rasterOperation);
 
-// Draws a bitmap around a centre: AND, so that what is white in it leaves what lies below. A bitmap that
-// can't be loaded is skipped, as is one for which there is no memory context.
+// Draws a bitmap around a centre with AND: its white pixels leave the picture unchanged. Draws nothing when
+// the bitmap cannot be loaded or the memory context cannot be created.
 void DrawPart(HDC to, POINT centre, UINT id);
 
-// The same with XOR: puts the colours into what a mask has cleared to black.
+// The same with XOR: adds the colours where a mask has cleared the picture to black.
 void DrawHighlightColor(HDC to, POINT centre, UINT id);
 
 #endif

@@ -1,38 +1,34 @@
-// The logo: see the header. Nothing survives a call but the moved control.
+// Draws the logo on the pages and on the version tab. Nothing is kept between calls.
+#include "base/dialog_ids.h"
 #include "base/records.h"
-
 #include "picture/view/bitmaps.h"
 
 namespace {
 
-// The bitmap behind each is its mask: white where the logo lies, black elsewhere.
+// The mask of each is the next bitmap: white where the logo is, black elsewhere.
 constexpr UINT kPageLogo = 500;
 constexpr UINT kPageLogoMask = 501;
 constexpr UINT kVersionLogo = 502;
 constexpr UINT kVersionLogoMask = 503;
 
-constexpr int kLogoNeighbor = 1074; // the logo sits above it
-constexpr int kMovedControl = 1301;
-constexpr int kMovedAbove = 1007;
-
 constexpr WORD kMovingPage = 6;
-constexpr int kLogoGap = 8; // pixels between the logo and its neighbour
+constexpr int kLogoGap = 8; // pixels between the logo and the control below it
 
-// Whitens what the mask names, then puts the logo there. Everything else stays.
+// Whitens the area of the mask, then draws the logo there. The rest of the picture stays unchanged.
 void DrawThroughMask(HDC to, const Area& area, HBITMAP logo, HBITMAP mask, MemoryContext& through) {
     CopyBitmap(to, area, mask, through, SRCPAINT);
     CopyBitmap(to, area, logo, through, SRCAND);
 }
 
-// Moves the control upward or downward until it stands upon its neighbour. Not when the page lacks one of
-// them.
-void StandUponNeighbor(HWND page) {
-    HWND control = GetDlgItem(page, kMovedControl);
+// Moves the control vertically so that it ends where its neighbour begins. Does nothing when the page lacks
+// one of them. Its new size is that of its client area: a control with a frame shrinks, by contract.
+void AlignWithNeighbor(HWND page) {
+    HWND control = GetDlgItem(page, IDC_LOGO_MOVED);
     RECT client;
     RECT window;
     RECT neighbor;
     if (!GetClientRect(control, &client) || !GetWindowRect(control, &window)
-        || !GetWindowRect(GetDlgItem(page, kMovedAbove), &neighbor))
+        || !GetWindowRect(GetDlgItem(page, IDC_LOGO_MOVED_NEIGHBOR), &neighbor))
         return;
     POINT corner = {window.left, neighbor.top - (window.bottom - window.top)};
     ScreenToClient(page, &corner);
@@ -48,12 +44,12 @@ void WINAPI DrawLogoImage(HDC context, HWND page, const void* /*reserved*/, WORD
         return;
     const SIZE size = BitmapSize(logo.handle);
     if (pageKind == kMovingPage)
-        StandUponNeighbor(page);
+        AlignWithNeighbor(page);
 
-    RECT neighbor;
-    if (!GetWindowRect(GetDlgItem(page, kLogoNeighbor), &neighbor))
+    RECT anchor;
+    if (!GetWindowRect(GetDlgItem(page, IDC_LOGO_ANCHOR), &anchor))
         return;
-    POINT topLeft = {neighbor.right - size.cx, neighbor.top - size.cy - kLogoGap};
+    POINT topLeft = {anchor.right - size.cx, anchor.top - size.cy - kLogoGap};
     ScreenToClient(page, &topLeft);
     MemoryContext through(context);
     if (through.handle != nullptr)

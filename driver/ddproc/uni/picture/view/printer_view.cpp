@@ -1,7 +1,5 @@
-// The printer's picture: see the header. Which bitmaps are drawn when, and in which order, is in
-// view_rules.cpp.
+// Draws the printer's picture. view_rules.cpp chooses the bitmaps and their order.
 #include "base/records.h"
-
 #include "base/text.h"
 #include "picture/view/bitmaps.h"
 #include "picture/view/view_rules.h"
@@ -15,7 +13,7 @@ constexpr int kBadgeMargin = 8; // pixels from the top right corner
 constexpr int kCaptionMargin = 4; // pixels from the top left corner
 constexpr int kCaptionPoints = 9;
 
-// Of two edges of the caller's rectangle, whichever way round they are.
+// Between two edges of the caller's rectangle, in either order.
 LONG Distance(LONG from, LONG to) {
     const int64_t distance = static_cast<int64_t>(to) - from;
     return static_cast<LONG>(distance < 0 ? -distance : distance);
@@ -25,12 +23,12 @@ void DrawBitmaps(HDC to, POINT centre, const ViewBitmaps& bitmaps) {
     for (size_t i = 0; i < bitmaps.partCount; ++i)
         DrawPart(to, centre, bitmaps.parts[i]);
     for (size_t i = 0; i < bitmaps.highlightCount; ++i) {
-        DrawPart(to, centre, bitmaps.highlights[i] + 1); // its mask
+        DrawPart(to, centre, bitmaps.highlights[i] + 1); // the mask
         DrawHighlightColor(to, centre, bitmaps.highlights[i]);
     }
 }
 
-// Measures the badge for its place, then draws it as any part.
+// Loads the badge once to measure it, then draws it like any part.
 void DrawBadge(HDC to, const RECT& rectangle, UINT id) {
     const SIZE size = BitmapSize(LoadedBitmap(id).handle);
     const POINT centre = {Sum(rectangle.right, -(size.cx / 2) - kBadgeMargin),
@@ -38,7 +36,7 @@ void DrawBadge(HDC to, const RECT& rectangle, UINT id) {
     DrawPart(to, centre, id);
 }
 
-// The machine's name, when the feature offers several machines; null otherwise.
+// The name of the selected machine, when there are several to choose from; null otherwise.
 const ItemRecord* CaptionItem(const PrinterViewRequest& request) {
     const int32_t machine = FindFeature(request.features, "OpMachine");
     if (machine < 0)
@@ -49,7 +47,7 @@ const ItemRecord* CaptionItem(const PrinterViewRequest& request) {
     return SelectedItem(request.features, request.settings, machine);
 }
 
-// Bold, in the size that the target's resolution asks for. The caller deletes it.
+// A bold font whose height follows the target's resolution. The caller deletes it.
 HFONT CreateCaptionFont(HDC target) {
     LOGFONTW font = {};
     GetObjectW(GetStockObject(DEFAULT_GUI_FONT), sizeof(font), &font);
@@ -69,7 +67,7 @@ void DrawCaption(HDC to, HDC target, const RECT& rectangle, const ItemRecord& it
         DeleteObject(font);
 }
 
-// Draws into `to`; the target tells the resolution.
+// Draws to `to`. The target is asked for its resolution only.
 void DrawAll(HDC to, HDC target, const RECT& rectangle, SIZE size, const PrinterViewRequest& request) {
     const OptionSummary options = SummarizeOptions(request.features, request.settings);
     FillRect(to, &rectangle, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
@@ -88,7 +86,7 @@ void WINAPI DrawPrinterView(HDC target, const RECT* rectangle, const PrinterView
     const SIZE size = {Distance(rectangle->left, rectangle->right),
                        Distance(rectangle->top, rectangle->bottom)};
     HBITMAP canvas = CreateCompatibleBitmap(target, size.cx, size.cy);
-    { // the context goes before what is selected into it
+    { // the context must be deleted before the bitmap that is selected into it
         MemoryContext memory(target);
         if (memory.handle != nullptr && canvas != nullptr && memory.Select(canvas)) {
             DrawAll(memory.handle, target, *rectangle, size, *request);

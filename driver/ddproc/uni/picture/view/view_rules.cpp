@@ -1,4 +1,4 @@
-// The rules of composition as tables, in the order of drawing: see the header.
+// The rules by which the picture is composed, as tables in the order of drawing.
 #include "picture/view/view_rules.h"
 
 #include "base/text.h"
@@ -7,45 +7,45 @@ namespace {
 
 // clang-format off
 
-// --- Parts: in each place, the first row whose needs are met -------------------------------------------------
+// --- Parts: for each place the first row whose conditions are met --------------------------------------------
 
 enum Place { kBody, kCabinet, kInputUnit, kOutputUnit };
 
-// A field of the summary must have this value; without a field, nothing is needed.
-struct Need {
+// A field of the summary has this value. Without a field the condition is always met.
+struct Condition {
     int32_t OptionSummary::*field;
     int32_t value;
 };
 
-constexpr Need kMailbin = {&OptionSummary::mailbinKit, 1};
-constexpr Need kSaddle = {&OptionSummary::saddleKit, 1};
-constexpr Need kPrinterBody = {&OptionSummary::bodyPrinter, 1};
-constexpr Need kNothing = {};
+constexpr Condition kMailbin = {&OptionSummary::mailbinKit, 1};
+constexpr Condition kSaddle = {&OptionSummary::saddleKit, 1};
+constexpr Condition kPrinterBody = {&OptionSummary::bodyPrinter, 1};
+constexpr Condition kAlways = {};
 
-constexpr Need Unit(int32_t number) {
+constexpr Condition Unit(int32_t number) {
     return {&OptionSummary::outputUnit, number};
 }
 
 constexpr struct {
     Place place;
-    Need unit;
-    Need kit;
+    Condition unit;
+    Condition kit;
     uint16_t bitmap;
 } kParts[] = {
-    {kBody,       kNothing,                        kNothing, 101},
-    {kCabinet,    kNothing,                        kNothing, 103},
-    {kInputUnit,  {&OptionSummary::inputUnit, 1},  kNothing, 104},
+    {kBody,       kAlways,                         kAlways,  101},
+    {kCabinet,    kAlways,                         kAlways,  103},
+    {kInputUnit,  {&OptionSummary::inputUnit, 1},  kAlways,  104},
     {kOutputUnit, Unit(1),                         kMailbin, 133},
     {kOutputUnit, Unit(1),                         kSaddle,  135},
-    {kOutputUnit, Unit(1),                         kNothing, 131},
+    {kOutputUnit, Unit(1),                         kAlways,  131},
     {kOutputUnit, Unit(2),                         kMailbin, 134},
     {kOutputUnit, Unit(2),                         kSaddle,  136},
-    {kOutputUnit, Unit(2),                         kNothing, 132},
-    {kOutputUnit, Unit(3),                         kNothing, 137},
-    {kOutputUnit, Unit(4),                         kNothing, 138},
+    {kOutputUnit, Unit(2),                         kAlways,  132},
+    {kOutputUnit, Unit(3),                         kAlways,  137},
+    {kOutputUnit, Unit(4),                         kAlways,  138},
 };
 
-// --- Paper source: the row of its key ------------------------------------------------------------------------
+// --- Paper sources, by key -----------------------------------------------------------------------------------
 
 constexpr struct {
     const char* slotKey;
@@ -59,9 +59,9 @@ constexpr struct {
     {"InTrayLCT",    121},
 };
 
-// --- Output: the first row of output unit and body with a flag that is set ----------------------------------------
+// --- Output: the first row for the output unit and body with a flag that is set ------------------------------------
 
-// Bit n stands for output unit n or output flag n.
+// Bit n: output unit n, or output flag n.
 constexpr uint32_t Bits(uint32_t a) {
     return 1u << a;
 }
@@ -69,33 +69,33 @@ constexpr uint32_t Bits(uint32_t a, uint32_t b) {
     return Bits(a) | Bits(b);
 }
 
-constexpr uint32_t kLeftUnits = Bits(1, 2) | Bits(0); // with their kits; 0: without a unit, as if there were one
+constexpr uint32_t kLeftUnits = Bits(1, 2) | Bits(0); // without a unit (0) the highlights are the same
 
 constexpr struct {
     uint32_t units;
     uint32_t flags;
-    Need body;
+    Condition body;
     uint16_t highlight;
 } kOutputs[] = {
-    {Bits(3),    Bits(2),    kNothing,     145},
+    {Bits(3),    Bits(2),    kAlways,      145},
     {Bits(3),    Bits(1),    kPrinterBody, 143},
-    {Bits(3),    Bits(1),    kNothing,     141},
-    {kLeftUnits, Bits(6),    kNothing,     159}, // bins 1 to 4
-    {kLeftUnits, Bits(7),    kNothing,     161},
-    {kLeftUnits, Bits(8),    kNothing,     163},
-    {kLeftUnits, Bits(9),    kNothing,     165},
-    {kLeftUnits, Bits(1, 4), kNothing,     151}, // upper tray
-    {kLeftUnits, Bits(3),    kNothing,     155}, // lower tray
-    {Bits(1),    Bits(2, 5), kNothing,     155},
-    {Bits(2),    Bits(2, 5), kNothing,     153}, // middle tray
+    {Bits(3),    Bits(1),    kAlways,      141},
+    {kLeftUnits, Bits(6),    kAlways,      159}, // bins 1 to 4
+    {kLeftUnits, Bits(7),    kAlways,      161},
+    {kLeftUnits, Bits(8),    kAlways,      163},
+    {kLeftUnits, Bits(9),    kAlways,      165},
+    {kLeftUnits, Bits(1, 4), kAlways,      151}, // upper tray
+    {kLeftUnits, Bits(3),    kAlways,      155}, // lower tray
+    {Bits(1),    Bits(2, 5), kAlways,      155},
+    {Bits(2),    Bits(2, 5), kAlways,      153}, // middle tray
 };
 
 // clang-format on
 
 // --- The engine --------------------------------------------------------------------------------------------
 
-bool IsMet(const Need& need, const OptionSummary& options) {
-    return need.field == nullptr || options.*need.field == need.value;
+bool IsMet(const Condition& condition, const OptionSummary& options) {
+    return condition.field == nullptr || options.*condition.field == condition.value;
 }
 
 void ChooseParts(const OptionSummary& options, ViewBitmaps& chosen) {
