@@ -1,5 +1,5 @@
-// A model dialog that is driven and watched: see the header.
-#include "dialog_driver.h"
+// Drives a dialog through DDProc_DlgProc and stands between it and the system.
+#include "dialogs/dialog_driver.h"
 
 #include <map>
 #include <winspool.h>
@@ -45,10 +45,11 @@ void WINAPI StoreIcons(HWND, const uint8_t* table) {
 }
 int32_t WINAPI Constrain(const void* none, HWND dialog, HWND hints, uint32_t control, int32_t all,
                          const void* alsoNone) {
-    const HWND own = current->missing.count("CreateToolWnd") != 0 ? nullptr : kHintWindow;
-    const bool isHintWindow = hints == (control == 0 && current->isTray ? current->hintsOfAll : own);
-    Note("DoConstraints " + std::to_string(control),
-         none == nullptr && IsWindow(dialog) && isHintWindow && all == -1 && alsoNone == nullptr);
+    // When a tray dialog checks all settings, it passes the hint window of the colour dialogs.
+    const bool hasOwn = current->missing.count("CreateToolWnd") == 0 && (control != 0 || !current->isTray);
+    Note("DoConstraints " + std::to_string(control), none == nullptr && IsWindow(dialog) && all == -1
+                                                         && hints == (hasOwn ? kHintWindow : nullptr)
+                                                         && alsoNone == nullptr);
     return current->constraints(control);
 }
 void WINAPI Hint(HWND dialog, const DialogContext* context, uint16_t id) {
@@ -159,24 +160,14 @@ int WINAPI ReadLocale(LCID locale, LCTYPE type, wchar_t* text, int capacity) {
     return static_cast<int>(value.size()) + 1;
 }
 
-template <typename Handle>
-Handle Made(Handle made) {
-    current->owned.insert(made);
-    return made;
-}
 void* WINAPI Allocate(UINT flags, SIZE_T size) {
-    return current->failingAllocation-- == 1 ? nullptr : Made(LocalAlloc(flags, size));
+    void* block = current->failingAllocation-- == 1 ? nullptr : LocalAlloc(flags, size);
+    current->ownedBlocks.insert(block);
+    return block;
 }
 void* WINAPI Release(void* block) {
-    EXPECT_EQ(current->owned.erase(block), 1u);
+    EXPECT_EQ(current->ownedBlocks.erase(block), 1u);
     return LocalFree(block);
-}
-HBRUSH WINAPI MakeBrush(COLORREF color) {
-    return Made(CreateSolidBrush(color));
-}
-BOOL WINAPI Delete(HGDIOBJ object) {
-    EXPECT_EQ(current->owned.erase(object), 1u);
-    return DeleteObject(object);
 }
 
 HICON WINAPI LoadSystemIcon(HINSTANCE library, const wchar_t* name) {
@@ -192,13 +183,13 @@ BOOL WINAPI Destroy(HICON icon) {
 
 INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     current->window = dialog;
-    const Answer answer = current->Tell(message, wParam, lParam);
+    const Answer answer = current->Deliver(message, wParam, lParam);
     if (message == WM_INITDIALOG)
         current->initAnswer = answer;
     return answer.result;
 }
 
-// The dialogs that the module has run by the user-interface module.
+// The tray dialogs, which the module lets the user-interface module run.
 INT_PTR CALLBACK ModuleProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     current->window = dialog;
     return current->procedure(dialog, message, wParam, lParam);
@@ -212,8 +203,8 @@ INT_PTR WINAPI RunModally(HINSTANCE resources, HWND owner, uint32_t id, DLGPROC 
     return current->endCode;
 }
 
-// What the controls are sent.
-LRESULT WINAPI SendToControl(HWND dialog, int control, UINT message, WPARAM wParam, LPARAM lParam) {
+// The messages to the controls.
+LRESULT WINAPI SendNoted(HWND dialog, int control, UINT message, WPARAM wParam, LPARAM lParam) {
     static const std::map<UINT, std::string> kKinds = {{CB_RESETCONTENT, "fill"},
                                                        {CB_SETCURSEL, "show"},
                                                        {BM_SETCHECK, "show"},
@@ -230,8 +221,8 @@ LRESULT WINAPI SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lPa
         Note("focus " + std::to_string(GetDlgCtrlID(reinterpret_cast<HWND>(wParam))),
              target == current->window && lParam == 1);
     if (message == WM_USER + 104)
-        Note("told", target == GetParent(current->page) && wParam == reinterpret_cast<WPARAM>(current->page)
-                         && lParam == 0);
+        Note("trays-changed", target == GetParent(current->page)
+                                  && wParam == reinterpret_cast<WPARAM>(current->page) && lParam == 0);
     return SendMessageW(target, message, wParam, lParam);
 }
 BOOL WINAPI Enable(HWND control, BOOL isEnabled) {
@@ -256,7 +247,7 @@ RawBytes Pattern(unsigned seed) {
     return record;
 }
 
-// Of the files that a model needs copies of.
+// Holds copies of the files that go with another model; null for the model as built.
 std::unique_ptr<TemporaryFolder> MakeFolder(const std::wstring& model) {
     if (model.empty())
         return nullptr;
@@ -279,7 +270,8 @@ DialogDriver::DialogDriver(uint32_t identifier, const std::wstring& model)
 DialogDriver::~DialogDriver() {
     Close();
     FreeLibrary(resources);
-    EXPECT_TRUE(owned.empty());
+    ownedBlocks.erase(nullptr);
+    EXPECT_TRUE(ownedBlocks.empty());
 }
 
 void DialogDriver::Patch() {
@@ -289,7 +281,7 @@ void DialogDriver::Patch() {
     patch(LoadLibraryW, Load);
     patch(FreeLibrary, Free);
     patch(GetProcAddress, FindProcedure);
-    patch(SendDlgItemMessageW, SendToControl);
+    patch(SendDlgItemMessageW, SendNoted);
     patch(SendMessageW, SendToWindow);
     patch(EnableWindow, Enable);
     patch(EndDialog, End);
@@ -299,8 +291,6 @@ void DialogDriver::Patch() {
     patch(GetLocaleInfoW, ReadLocale);
     patch(LocalAlloc, Allocate);
     patch(LocalFree, Release);
-    patch(CreateSolidBrush, MakeBrush);
-    patch(DeleteObject, Delete);
     patch(LoadIconW, LoadSystemIcon);
     patch(DestroyIcon, Destroy);
 }
@@ -335,33 +325,28 @@ void DialogDriver::Close() {
     window = nullptr;
 }
 
-Answer DialogDriver::Tell(UINT message, WPARAM wParam, LPARAM lParam) {
+Answer DialogDriver::Deliver(UINT message, WPARAM wParam, LPARAM lParam) {
     int32_t handled = kUntouched;
-    return Ask(dialogId, window, message, wParam, lParam, &handled);
+    return DeliverTo(dialogId, window, message, wParam, lParam, &handled);
 }
 
-Answer DialogDriver::Ask(uint32_t other, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
-                         int32_t* handled) const {
+Answer DialogDriver::DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
+                               int32_t* handled) const {
     using Function = int32_t WINAPI(uint32_t, HWND, UINT, WPARAM, LPARAM, int32_t*);
     const int32_t result =
-        module.Export<Function>("DDProc_DlgProc")(other, dialog, message, wParam, lParam, handled);
+        module.Export<Function>("DDProc_DlgProc")(otherId, dialog, message, wParam, lParam, handled);
     return {result, handled != nullptr ? *handled : kUntouched};
 }
 
-LRESULT DialogDriver::Send(int control, UINT message, WPARAM wParam, LPARAM lParam) const {
-    return SendDlgItemMessageW(window, control, message, wParam, lParam);
+Answer DialogDriver::Choose(int control, int entry) {
+    Send(control, IsButton(control) ? UINT{BM_SETCHECK} : CB_SETCURSEL, static_cast<WPARAM>(entry));
+    events.clear();
+    const auto id = static_cast<WPARAM>(control);
+    return Command(IsButton(control) ? id : Chosen(id));
 }
 
-Answer DialogDriver::Choose(int list, int index) {
-    Send(list, CB_SETCURSEL, static_cast<WPARAM>(index));
-    events.clear();
-    return Command(Chosen(static_cast<WPARAM>(list)));
-}
-
-Answer DialogDriver::Check(int box, bool isChecked) {
-    Send(box, BM_SETCHECK, isChecked ? BST_CHECKED : BST_UNCHECKED);
-    events.clear();
-    return Command(static_cast<WPARAM>(box));
+int DialogDriver::Shown(int control) const {
+    return static_cast<int>(Send(control, IsButton(control) ? UINT{BM_GETCHECK} : CB_GETCURSEL));
 }
 
 std::string DialogDriver::Entries(int list) const {

@@ -1,12 +1,13 @@
-// A model dialog on a window of its own, driven as the user-interface module and a user drive it, and watched
-// from all sides: what it asks of the system and of the user-interface module, through the module's import
-// table, and what it sends to its controls. One at a time.
+// Opens a dialog of the built module in a window, drives it as the user-interface module and a user do, and
+// records what it asks of the system, of the user-interface module and of its controls. The module's import
+// table is patched for that. One at a time.
 #ifndef DIALOGS_TEST_DIALOG_DRIVER_H
 #define DIALOGS_TEST_DIALOG_DRIVER_H
 
-#include "dialogs/shared/dialog_context.h"
-#include "gdi_recorder.h"
-#include "product.h"
+#include "base/dialog_ids.h"
+#include "base/records.h"
+#include "support/gdi_recorder.h"
+#include "support/product.h"
 #include "support/raw_bytes.h"
 
 #include <functional>
@@ -20,7 +21,7 @@
 
 constexpr size_t kSettingsSize = 7808, kProfileSize = 168;
 
-// The handled flag before each message; what the dialog doesn't handle leaves it so.
+// The handled flag before each message. It keeps this value when the dialog does not handle the message.
 constexpr int32_t kUntouched = 7;
 struct Answer {
     int32_t result, handled;
@@ -28,6 +29,7 @@ struct Answer {
 };
 std::ostream& operator<<(std::ostream& out, const Answer& answer);
 
+// The command of a list whose selection has changed.
 constexpr WPARAM Chosen(WPARAM list) {
     return list | WPARAM{CBN_SELENDOK} << 16;
 }
@@ -35,39 +37,42 @@ constexpr WPARAM Chosen(WPARAM list) {
 // A profile as the printer lists it.
 RawBytes Profile(const wchar_t* qualifier, const wchar_t* name, uint32_t location);
 
-// Settings that differ from zero in every byte, and by the seed. The colour fields are up to the caller.
+// Settings without a zero byte, different for each seed. Callers set the colour fields.
 RawBytes Pattern(unsigned seed);
 
 struct DialogDriver {
-    // The module as built, or a copy with another model's parameter data (a file of tests/models).
+    // On the module as built, or on a copy with the parameter data of another model (a file of tests/models).
     explicit DialogDriver(uint32_t identifier, const std::wstring& model = L"");
     ~DialogDriver();
     DialogDriver(const DialogDriver&) = delete;
     DialogDriver& operator=(const DialogDriver&) = delete;
 
-    // Creates the dialog, hidden, on the context or on none.
+    // Creates the dialog, hidden, with the context or without one.
     void Open(bool withContext = true);
     void Close();
 
-    // Hands a message to the module as the user-interface module does.
-    Answer Tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    Answer Ask(uint32_t other, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
-               int32_t* handled) const;
-    Answer Command(WPARAM command) { return Tell(WM_COMMAND, command); }
-    // Selects the entry and tells of it.
-    Answer Choose(int list, int index);
-    Answer Check(int box, bool isChecked);
+    // Passes a message to the module as the user-interface module does.
+    Answer Deliver(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    Answer DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
+                     int32_t* handled) const;
+    Answer Command(WPARAM command) { return Deliver(WM_COMMAND, command); }
+    // Selects an entry or sets a button's check, and reports the change. Earlier events are forgotten.
+    Answer Choose(int control, int entry);
+    int Shown(int control) const; // the entry that is selected, or a button's check
 
-    LRESULT Send(int control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-    int Selection(int list) const { return static_cast<int>(Send(list, CB_GETCURSEL)); }
+    LRESULT Send(int control, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return SendDlgItemMessageW(window, control, message, wParam, lParam);
+    }
+    bool IsButton(int control) const { return (Send(control, WM_GETDLGCODE) & DLGC_BUTTON) != 0; }
     std::string Entries(int list) const; // "text=data|..."
     HWND Control(int control) const { return GetDlgItem(window, control); }
+    void Expect(const RawBytes& wanted) const { EXPECT_EQ(Differences(settings.bytes.data(), wanted), ""); }
 
-    // What has happened of these kinds (the first words of the events), in its order.
+    // The events of these kinds (their first words) in order, a line each.
     std::string Events(const std::set<std::string>& kinds) const;
     void Note(const std::string& event) { events.push_back(event); }
     void PassProfiles();
-    // The module's own item record with this key, by raw offset, to be changed; null when there is none.
+    // The module's own item record with this key, to be changed by raw offset; null when there is none.
     uint8_t* FindItem(const std::string& key) const;
 
     std::unique_ptr<TemporaryFolder> otherModel;
@@ -76,29 +81,28 @@ struct DialogDriver {
     const uint32_t dialogId;
     HWND window = nullptr;
     RawBytes settings{kSettingsSize}, saveArea{kSettingsSize}, scratch{kSettingsSize};
-    std::vector<RawBytes> rgbSources, simulations, destinations; // of the context, from PassProfiles on
+    std::vector<RawBytes> rgbSources, simulations, destinations; // in the context from PassProfiles on
     ProfileLists lists = {};
     DialogContext context;
     std::vector<std::string> events;
     Answer initAnswer = {};
 
-    // The user-interface module: whether it can be loaded, what it lacks, what it answers.
+    // The user-interface module: whether it can be loaded, which callbacks it lacks, what they answer.
     bool hasUiModule = true, usesOwnCallbacks = false;
     std::set<std::string> missing;
     std::function<int32_t(uint32_t control)> constraints = [](uint32_t) { return 0; };
     int32_t downloadManager = 1;
     const void* stopIcons = nullptr;
     bool isTray = false;
-    HWND hintsOfAll = nullptr;  // that tray dialogs pass when all settings are checked: a colour dialog's
     INT_PTR endCode = IDCANCEL; // of a dialog that the module has run, which stays open
     DLGPROC procedure = nullptr;
-    HWND page = nullptr; // that has the button for it
+    HWND page = nullptr; // has the button for it
 
     // The system.
     std::optional<std::vector<uint8_t>> storedDefaults;
     std::wstring printerDriver = L"QUORVANE lumora", country = L"49", measure = L"0";
-    int failingAllocation = 0, failingEntry = 0; // the n-th from now on, and no other; CB_INSERTSTRING
-    std::set<const void*> owned;                 // by the module: brushes, local blocks
+    int failingAllocation = 0, failingEntry = 0; // only the n-th from now on fails; CB_INSERTSTRING
+    std::set<const void*> ownedBlocks;           // LocalAlloc, by the module
     int uiLoads = 0, uiFrees = 0;
     std::vector<uint32_t> helpTable;
 

@@ -1,6 +1,6 @@
 // Objects of the system: see the header. Wine's GetGuiResources counts nothing, so the graphics objects are
 // counted in the table of their handles, which each process sees.
-#include "live_objects.h"
+#include "dialogs/live_objects.h"
 
 #include <cstdint>
 #include <windows.h>

@@ -1,7 +1,7 @@
 // The built module as its callers meet it: a file that is loaded, asked for exports and freed. Knows nothing
 // of its sources. Used by every test of this folder.
-#ifndef ABI_PRODUCT_H
-#define ABI_PRODUCT_H
+#ifndef SUPPORT_PRODUCT_H
+#define SUPPORT_PRODUCT_H
 
 #include <filesystem>
 #include <windows.h>

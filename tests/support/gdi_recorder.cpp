@@ -1,5 +1,5 @@
 // Stands between the module and the system's drawing services: see the header.
-#include "gdi_recorder.h"
+#include "support/gdi_recorder.h"
 
 #include <gtest/gtest.h>
 

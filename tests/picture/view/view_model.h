@@ -1,9 +1,9 @@
 // The printer's picture as the tests see it: records laid out byte by byte, and what is to be drawn for them.
-#ifndef ABI_VIEW_MODEL_H
-#define ABI_VIEW_MODEL_H
+#ifndef PICTURE_TEST_VIEW_MODEL_H
+#define PICTURE_TEST_VIEW_MODEL_H
 
-#include "canvas.h"
-#include "product.h"
+#include "support/canvas.h"
+#include "support/product.h"
 #include "support/raw_bytes.h"
 
 #include <string>

@@ -1,8 +1,8 @@
 // The tray-setting dialogs: how the button opens them, what they list, what changes and is refused, how they
 // end. The trays and lists are those of the model file.
-#include "live_objects.h"
+#include "dialogs/live_objects.h"
 #include "support/rounds.h"
-#include "tray_driver.h"
+#include "trays/tray_driver.h"
 
 namespace {
 
@@ -19,8 +19,9 @@ TEST(TrayButton, RunsTheKindOfTheModelAndTellsOfItsOk) {
         for (const INT_PTR end : {INT_PTR{2}, INT_PTR{1}, INT_PTR{0}, INT_PTR{-1}}) {
             dialog.endCode = end;
             dialog.PressButton();
-            EXPECT_EQ(dialog.Events({"MyDialogBox", "told"}),
-                      "MyDialogBox " + std::to_string(kind.templateId) + (end == 1 ? "\ntold\n" : "\n"));
+            EXPECT_EQ(dialog.Events({"MyDialogBox", "trays-changed"}),
+                      "MyDialogBox " + std::to_string(kind.templateId)
+                          + (end == 1 ? "\ntrays-changed\n" : "\n"));
             dialog.Close();
         }
         const int loads = dialog.uiLoads;
@@ -29,7 +30,8 @@ TEST(TrayButton, RunsTheKindOfTheModelAndTellsOfItsOk) {
                                               {WM_COMMAND, MAKEWPARAM(1847, 1)},
                                               {WM_COMMAND, 1847 | WPARAM{1} << 32},
                                               {WM_NOTIFY, 1847}})
-            EXPECT_EQ(dialog.Ask(156, dialog.page, message, wParam, 0, &handled), (Answer{0, kUntouched}));
+            EXPECT_EQ(dialog.DeliverTo(156, dialog.page, message, wParam, 0, &handled),
+                      (Answer{0, kUntouched}));
         dialog.PressButton(false);
         EXPECT_EQ(dialog.uiLoads, loads);
         dialog.endCode = 1;
@@ -38,7 +40,7 @@ TEST(TrayButton, RunsTheKindOfTheModelAndTellsOfItsOk) {
         dialog.missing.clear();
         dialog.hasUiModule = false;
         dialog.PressButton();
-        EXPECT_EQ(dialog.Events({"MyDialogBox", "told"}), "");
+        EXPECT_EQ(dialog.Events({"MyDialogBox", "trays-changed"}), "");
     }
 }
 
@@ -78,7 +80,7 @@ TEST(TrayDialogs, OpenInOrderWithTheFirstTray) {
         EXPECT_EQ(dialog.RowText(0), L"Tray 1|A3|Portrait|Plain paper|" + tail[&kind - kKinds] + L"0");
         EXPECT_EQ(dialog.RowText(6).substr(0, 27), L"Manual feed|A4|Portrait|Pla");
         EXPECT_EQ(dialog.Entries(1862).substr(0, 9), "Portrait=");
-        dialog.Tell(WM_COMMAND, IDCANCEL);
+        dialog.Deliver(WM_COMMAND, IDCANCEL);
         EXPECT_EQ(Differences(dialog.records.bytes.data(), wanted), "");
     }
 }
@@ -140,7 +142,7 @@ TEST(TrayDialogs, HideWhatTheModelLacks) {
     EXPECT_EQ(dialog.RowText(2), L"Tray 2 of thirty-one characters|A5 too|Portrait|Plain paper|2");
     EXPECT_EQ(dialog.Cell(6, 0), L"Manual feed");
     EXPECT_STREQ(reinterpret_cast<char*>(&dialog.records.bytes[6 * kTraySize]), "InTrayManual");
-    EXPECT_EQ(dialog.Selection(1860), 1) << "of two sizes with one value boxes show the first";
+    EXPECT_EQ(dialog.Shown(1860), 1) << "of two sizes with one value boxes show the first";
 }
 
 TEST(TrayDialogs, ChangesAreKeptOrRefused) {
@@ -160,7 +162,7 @@ TEST(TrayDialogs, ChangesAreKeptOrRefused) {
                     const size_t field = static_cast<size_t>(row) * kTraySize + attribute.offset;
                     attribute.size == 1 ? chosen.U8(field, static_cast<unsigned>(attribute.value))
                                         : chosen.U16(field, static_cast<unsigned>(attribute.value));
-                    const int shown = dialog.Selection(attribute.box);
+                    const int shown = dialog.Shown(attribute.box);
                     dialog.constraints = [&](uint32_t) {
                         EXPECT_EQ(Differences(dialog.records.bytes.data(), chosen), "");
                         return answer;
@@ -170,7 +172,7 @@ TEST(TrayDialogs, ChangesAreKeptOrRefused) {
                     EXPECT_EQ(dialog.Events({"DoConstraints", "DispHintControl"}),
                               "DoConstraints " + std::to_string(attribute.box) + "\nDispHintControl 156\n");
                     EXPECT_EQ(Differences(dialog.records.bytes.data(), isRefused ? before : chosen), "");
-                    EXPECT_EQ(dialog.Selection(attribute.box), isRefused ? shown : attribute.chosen);
+                    EXPECT_EQ(dialog.Shown(attribute.box), isRefused ? shown : attribute.chosen);
                     EXPECT_EQ(dialog.Row(), row);
                     EXPECT_LT(row, dialog.List(LVM_GETTOPINDEX) + dialog.List(LVM_GETCOUNTPERPAGE));
                     dialog.records = before;
@@ -186,8 +188,8 @@ TEST(TrayDialogs, ValuesWithoutAnEntryShowNothing) {
     EXPECT_EQ(dialog.Selections(kKinds[0]), (std::vector{-1, 0, 0, 6, 5, -1}));
     dialog.Select(1);
     EXPECT_EQ(dialog.RowText(1).substr(0, 10), L"Tray 2|A4|");
-    EXPECT_EQ(dialog.Selection(1094), 2) << "255 is -1, the unknown entry";
-    EXPECT_EQ(dialog.Selection(1862), -1);
+    EXPECT_EQ(dialog.Shown(1094), 2) << "255 is -1, the unknown entry";
+    EXPECT_EQ(dialog.Shown(1862), -1);
     const RawBytes before = dialog.records;
     dialog.Choose(kAttributes[1], -1); // nothing is stored, but all else is done
     EXPECT_EQ(Differences(dialog.records.bytes.data(), before), "");
@@ -211,9 +213,9 @@ TEST(TrayDialogs, EndWithTheirCodes) {
                 dialog.records.U8(9 * kTraySize + kAttributes[i].offset, 0xA5);
         const RawBytes changed = dialog.records;
         dialog.events.clear();
-        EXPECT_EQ(dialog.Tell(WM_COMMAND, IDOK), 0);
+        EXPECT_EQ(dialog.Deliver(WM_COMMAND, IDOK), 0);
         EXPECT_EQ(Differences(dialog.records.bytes.data(), changed), "");
-        EXPECT_EQ(dialog.Tell(WM_COMMAND, IDCANCEL), 1);
+        EXPECT_EQ(dialog.Deliver(WM_COMMAND, IDCANCEL), 1);
         RawBytes wanted = opened;
         for (size_t i = 3; i < 6; ++i)
             wanted.U8(9 * kTraySize + kAttributes[i].offset,
@@ -235,7 +237,7 @@ TEST(TrayDialogs, LockTheirControls) {
         dialog.Choose(kAttributes[0], 3);
         EXPECT_EQ(dialog.Events({"disable"}), locks);
         dialog.events.clear();
-        EXPECT_EQ(dialog.Tell(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1)), 0);
+        EXPECT_EQ(dialog.Deliver(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1)), 0);
         EXPECT_EQ(dialog.Events({"disable"}), locks);
     }
 }
@@ -248,19 +250,19 @@ TEST(TrayDialogs, Messages) {
         dialog.events.clear();
         dialog.records.U16(2 * kTraySize + 36, 8); // from outside
         NMHDR note = {dialog.Control(kList), 4711, LVN_ITEMCHANGED};
-        EXPECT_EQ(dialog.Tell(WM_NOTIFY, 4711, reinterpret_cast<LPARAM>(&note)), 0);
-        EXPECT_EQ(dialog.Selection(1860), 0);
+        EXPECT_EQ(dialog.Deliver(WM_NOTIFY, 4711, reinterpret_cast<LPARAM>(&note)), 0);
+        EXPECT_EQ(dialog.Shown(1860), 0);
         note.code = LVN_ITEMCHANGING;
         dialog.records.U16(2 * kTraySize + 36, 9);
-        dialog.Tell(WM_NOTIFY, kList, reinterpret_cast<LPARAM>(&note));
-        EXPECT_EQ(dialog.Selection(1860), 0);
+        dialog.Deliver(WM_NOTIFY, kList, reinterpret_cast<LPARAM>(&note));
+        EXPECT_EQ(dialog.Shown(1860), 0);
         dialog.events.clear();
-        dialog.Tell(WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, 1));
+        dialog.Deliver(WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, 1));
         EXPECT_EQ(dialog.Events(kCalls), "");
-        dialog.Tell(WM_ACTIVATE, WA_ACTIVE);
+        dialog.Deliver(WM_ACTIVATE, WA_ACTIVE);
         EXPECT_EQ(dialog.Events({"DoConstraints", "DispHintControl"}),
                   "DoConstraints 0\nDispHintControl 155\n");
-        EXPECT_EQ(dialog.Selection(1860), 1);
+        EXPECT_EQ(dialog.Shown(1860), 1);
 
         dialog.events.clear();
         std::vector<uint32_t> help = kHelp;
@@ -268,23 +270,23 @@ TEST(TrayDialogs, Messages) {
         help.insert(help.end(), {0, 0});
         HELPINFO info = {};
         info.hItemHandle = dialog.Control(1003);
-        EXPECT_EQ(dialog.Tell(WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), 0);
+        EXPECT_EQ(dialog.Deliver(WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), 0);
         EXPECT_EQ(dialog.helpTable, help);
-        EXPECT_EQ(dialog.Tell(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(dialog.Control(1860))), 0);
-        EXPECT_EQ(dialog.Tell(WM_COMMAND, IDHELP), 0);
+        EXPECT_EQ(dialog.Deliver(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(dialog.Control(1860))), 0);
+        EXPECT_EQ(dialog.Deliver(WM_COMMAND, IDHELP), 0);
         EXPECT_EQ(dialog.Events({"WinHelp"}), "WinHelp 1003 12\nWinHelp 1860 10\nWinHelp 0 1 7300\n");
 
         dialog.events.clear();
         for (const Attribute& attribute : kAttributes) { // of the kind, or of another
             const bool isOwn =
                 std::count(kind.attributes.begin(), kind.attributes.end(), &attribute - kAttributes);
-            EXPECT_EQ(dialog.Tell(WM_COMMAND, Chosen(static_cast<WPARAM>(attribute.box))), isOwn);
+            EXPECT_EQ(dialog.Deliver(WM_COMMAND, Chosen(static_cast<WPARAM>(attribute.box))), isOwn);
             MEASUREITEMSTRUCT item = {ODT_COMBOBOX, static_cast<UINT>(attribute.box), 0, 0, 3, 0};
-            EXPECT_EQ(dialog.Tell(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item)), 1);
+            EXPECT_EQ(dialog.Deliver(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item)), 1);
             EXPECT_EQ(item.itemHeight, 16u);
         }
         MEASUREITEMSTRUCT item = {ODT_LISTVIEW, kList, 0, 0, 3, 0};
-        EXPECT_EQ(dialog.Tell(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item)), 1);
+        EXPECT_EQ(dialog.Deliver(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item)), 1);
         EXPECT_EQ(item.itemHeight, 16u);
         dialog.List(LVM_DELETEALLITEMS); // no row: nothing is stored or asked
         dialog.constraints = [](uint32_t) { return 0; };
@@ -296,11 +298,11 @@ TEST(TrayDialogs, Messages) {
     Trays dialog; // what none of them handles
     dialog.PressButton();
     MEASUREITEMSTRUCT item = {ODT_LISTVIEW, 1845, 0, 0, 3, 0};
-    EXPECT_EQ(dialog.Tell(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item)), 0);
+    EXPECT_EQ(dialog.Deliver(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item)), 0);
     for (const WPARAM command :
          {WPARAM{1860}, WPARAM{MAKEWPARAM(1860, CBN_SELCHANGE)}, WPARAM{MAKEWPARAM(IDCANCEL, 1)}})
-        EXPECT_EQ(dialog.Tell(WM_COMMAND, command), 0);
-    EXPECT_EQ(dialog.Tell(WM_USER + 100), 0);
+        EXPECT_EQ(dialog.Deliver(WM_COMMAND, command), 0);
+    EXPECT_EQ(dialog.Deliver(WM_USER + 100), 0);
     EXPECT_EQ(dialog.Events({"EndDialog"}), "");
 }
 
@@ -317,7 +319,7 @@ TEST(TrayDialogs, WorkWithWhatThereIs) {
     dialog.PressButton();
     EXPECT_EQ(dialog.List(LVM_GETITEMCOUNT), 0);
     EXPECT_EQ(dialog.Choose(kAttributes[0], 0), 1);
-    EXPECT_EQ(dialog.Tell(WM_COMMAND, IDCANCEL), 1);
+    EXPECT_EQ(dialog.Deliver(WM_COMMAND, IDCANCEL), 1);
     const DLGPROC procedure = dialog.procedure;
     dialog.Close();
     EXPECT_EQ(procedure(nullptr, WM_DESTROY, 0, 0), 0);
@@ -365,7 +367,7 @@ TEST(TrayDialogs, LeaveNothingBehind) {
         dialog.Choose(kAttributes[0], i % 5);
         const LONG_PTR own = GetClassLongPtrW(list, GCLP_WNDPROC);
         EXPECT_NE(GetWindowLongPtrW(list, GWLP_WNDPROC), own);
-        dialog.Tell(WM_DESTROY); // once more by the window's end
+        dialog.Deliver(WM_DESTROY); // once more by the window's end
         EXPECT_EQ(GetWindowLongPtrW(list, GWLP_WNDPROC), own);
         EXPECT_EQ(dialog.List(LVM_GETIMAGELIST, LVSIL_SMALL), 0);
         dialog.Close();

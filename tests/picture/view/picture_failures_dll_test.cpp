@@ -1,8 +1,8 @@
 // The printer's picture when the system refuses something in the middle, and what is left behind afterwards.
-#include "gdi_recorder.h"
-#include "product.h"
+#include "picture/view/view_model.h"
+#include "support/gdi_recorder.h"
+#include "support/product.h"
 #include "support/rounds.h"
-#include "view_model.h"
 
 namespace {
 

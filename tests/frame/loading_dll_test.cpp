@@ -1,6 +1,6 @@
 // Loading and freeing the DLL: the resource library that goes with it, from which folder it comes and when it
 // goes; nothing left behind however often it happens.
-#include "product.h"
+#include "support/product.h"
 #include "support/rounds.h"
 
 #include <gtest/gtest.h>
@@ -15,8 +15,8 @@ constexpr wchar_t kSibling[] = L"TELMAR_S.DLL";
 // Other libraries of the sibling's name, in every place where a search by bare name looks.
 struct Decoys {
     Decoys() {
-        onPath.Add(L"abi_sibling.dll", kSibling);
-        inCurrent.Add(L"abi_sibling.dll", kSibling);
+        onPath.Add(L"frame_sibling.dll", kSibling);
+        inCurrent.Add(L"frame_sibling.dll", kSibling);
         GetEnvironmentVariableW(L"PATH", savedPath, 32767);
         SetEnvironmentVariableW(L"PATH", onPath.path.c_str());
         fs::current_path(inCurrent.path);
@@ -42,7 +42,7 @@ TEST(Loading, SiblingComesFromTheModulesFolderAndGoesWithTheModule) {
         HMODULE decoy = LoadLibraryW(kSibling);
         ASSERT_NE(decoy, nullptr) << "the decoys must be where a bare name is found";
         FreeLibrary(decoy);
-        const fs::path sibling = folder.Add(L"abi_sibling.dll", kSibling);
+        const fs::path sibling = folder.Add(L"frame_sibling.dll", kSibling);
         {
             const LoadedModule module(folder.path);
             ASSERT_FALSE(LoadedPath(kSibling).empty());

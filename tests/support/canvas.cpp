@@ -1,7 +1,7 @@
 // Pictures of the tests: see the header.
-#include "canvas.h"
+#include "support/canvas.h"
 
-#include "product.h"
+#include "support/product.h"
 #include "support/raw_bytes.h"
 
 #include <algorithm>

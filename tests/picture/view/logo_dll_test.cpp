@@ -1,8 +1,8 @@
 // The two logo exports. The bitmaps that the module does not hold, and the page with its controls, are the
 // test's.
-#include "canvas.h"
-#include "gdi_recorder.h"
-#include "product.h"
+#include "support/canvas.h"
+#include "support/gdi_recorder.h"
+#include "support/product.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The printer's picture through the export: its bitmaps, pixels and caption, and records that are incomplete.
-#include "gdi_recorder.h"
-#include "product.h"
-#include "view_model.h"
+#include "picture/view/view_model.h"
+#include "support/gdi_recorder.h"
+#include "support/product.h"
 
 #include <functional>
 #include <optional>

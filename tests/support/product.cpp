@@ -1,5 +1,5 @@
 // The built module as its callers meet it: see the header.
-#include "product.h"
+#include "support/product.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // The bitmaps of the module's resources: sizes, depths, colour counts, backgrounds and visible areas.
-#include "canvas.h"
-#include "product.h"
+#include "support/canvas.h"
+#include "support/product.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // What lies in the DLL's image: export directory, the exports that share an entry point, imports, version
 // information, and nothing of the machine that built it. The image is read where the system has loaded it.
-#include "product.h"
+#include "support/product.h"
 
 #include <algorithm>
 #include <fstream>

@@ -1,7 +1,7 @@
 // Pictures of the tests: the module's bitmaps unpacked from its resources by hand, canvases to draw on, and
 // their comparison.
-#ifndef ABI_CANVAS_H
-#define ABI_CANVAS_H
+#ifndef SUPPORT_CANVAS_H
+#define SUPPORT_CANVAS_H
 
 #include <cstdint>
 #include <gtest/gtest.h>

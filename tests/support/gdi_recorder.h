@@ -1,7 +1,7 @@
 // Stands between the module and the system's drawing services, through the module's import table: notes what
 // the module makes, selects, deletes and draws on, and lets chosen calls fail.
-#ifndef ABI_GDI_RECORDER_H
-#define ABI_GDI_RECORDER_H
+#ifndef SUPPORT_GDI_RECORDER_H
+#define SUPPORT_GDI_RECORDER_H
 
 #include <map>
 #include <set>

@@ -1,5 +1,5 @@
-// How dialog 128 finds the user-interface module and calls it, at its opening and later; what is left behind.
-#include "full_dialog.h"
+// How the full colour dialog loads the user-interface module and calls back into it.
+#include "dialogs/color/color_driver.h"
 
 namespace {
 
@@ -17,12 +17,7 @@ const std::set<std::string> kCallbacks = {
     "DoConstraints", "DispHintControl", "IsInstalledDLManager", "ReqDrawStopInfoIcon",
 };
 // clang-format on
-std::set<std::string> With(std::set<std::string> kinds, std::initializer_list<std::string> more) {
-    kinds.insert(more);
-    return kinds;
-}
-
-TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
+TEST_F(FullDialog, SkipsMissingCallbacksAndKeepsTheOrder) {
     std::vector<std::string> lacks(kCallbacks.begin(), kCallbacks.end());
     lacks.insert(lacks.end(), {"TELMAR_U.DLL", "nothing"});
     for (const std::string& lacking : lacks) {
@@ -34,37 +29,39 @@ TEST_F(FullDialog, CallsBackInOrderWithoutWhatIsMissing) {
         std::string wanted;
         for (const std::string& call : kBinding)
             wanted += has(call.substr(0, call.find(' '))) ? call + "\n" : "";
-        wanted += InOrder("fill", false) + InOrder("show", true);
+        wanted += Fills() + Shows();
         const bool isAsked = has("IsInstalledDLManager"), isDisabled = isAsked && downloadManager == 0;
         wanted += std::string(isAsked ? "IsInstalledDLManager\n" : "") + (isDisabled ? "disable 1393\n" : "");
-        settings = FullSettings();
+        settings = OfferedSettings(dialog);
         events.clear();
         Open();
         EXPECT_EQ(initAnswer, (Answer{0, 1}));
-        EXPECT_EQ(Events(With(kCallbacks, {"fill", "show", "disable"})), wanted);
+        std::set<std::string> kinds = {"fill", "show", "disable"};
+        kinds.insert(kCallbacks.begin(), kCallbacks.end());
+        EXPECT_EQ(Events(kinds), wanted);
         EXPECT_EQ(!IsWindowEnabled(Control(1393)), isDisabled);
 
-        // The icon controls are drawn from the table, whoever has been told of it.
+        // Icon controls are drawn from the table even if StoreStopIconRect is missing.
         events.clear();
         DRAWITEMSTRUCT item = {ODT_STATIC, 1503, 0, ODA_DRAWENTIRE, 0, Control(1503), nullptr, {}, 0};
-        Tell(WM_DRAWITEM, 1503, reinterpret_cast<LPARAM>(&item));
+        Deliver(WM_DRAWITEM, 1503, reinterpret_cast<LPARAM>(&item));
         EXPECT_EQ(Events(kCallbacks), has("ReqDrawStopInfoIcon") ? "ReqDrawStopInfoIcon 1503\n" : "");
 
-        // What an earlier opening had is not used again.
+        // Entry points of an earlier opening are not used again.
         constraints = [](uint32_t control) { return control == 0 ? 0 : 100; };
         const bool isRefusable = has("DoConstraints");
         Choose(1354, 2);
-        EXPECT_EQ(Selection(1354), isRefusable ? 1 : 2);
+        EXPECT_EQ(Shown(1354), isRefusable ? 1 : 2);
         EXPECT_EQ(Events(kCallbacks), std::string(isRefusable ? "DoConstraints 1354\n" : "")
                                           + (has("DispHintControl") ? "DispHintControl 128\n" : ""));
         Close();
     }
 }
 
-// The table's pairs of icon and control stand side by side.
-TEST_F(FullDialog, StopIconsStandBesideTheirControls) {
+// The icon and the control of each record are next to each other in the dialog.
+TEST_F(FullDialog, StopIconTablePairsNeighbours) {
     Open();
-    const auto* record = static_cast<const uint8_t*>(stopIcons) + 16;
+    const auto* record = static_cast<const uint8_t*>(stopIcons) + 16; // after the header
     int pairs = 0;
     for (; NumberAt<uint32_t>(record, 0) != 0; record += 8232) {
         const HWND icon = Control(NumberAt<int32_t>(record, 0)),
@@ -80,24 +77,24 @@ TEST_F(FullDialog, StopIconsStandBesideTheirControls) {
     EXPECT_EQ(pairs, 20);
 }
 
-// Of the save area what the first constraint call has left, but not what the fallbacks change.
+// The save area has what the first constraint call changes, but not what the fallbacks change.
 TEST_F(FullDialog, SavesTheSettingsBetweenConstraintsAndFallbacks) {
     settings.U16(2514, 300).U16(2166, 77);
     RawBytes saved = settings;
     saved.U8(2153, 3).U8(0, 200).U8(7807, 201);
     constraints = [this](uint32_t) {
         settings.U8(2153, 3).U8(0, 200).U8(7807, 201);
-        return 100; // to all controls at once nothing can be refused
+        return 100; // a check of all controls refuses nothing
     };
     Open();
-    ExpectSaved(saved);
+    EXPECT_EQ(Differences(saveArea.bytes.data(), saved), "");
 }
 
-// Each initialisation takes the module anew; the end gives back what was taken last.
-TEST_F(FullDialog, TakesTheModuleAtEveryInitialisation) {
+// Each initialisation loads the library once more; the end frees it once.
+TEST_F(FullDialog, LoadsTheUiModuleAtEveryInitialisation) {
     Open();
     missing = {"DoConstraints"};
-    Tell(WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&context));
+    Deliver(WM_INITDIALOG, 0, reinterpret_cast<LPARAM>(&context));
     EXPECT_EQ(uiLoads, 2);
     EXPECT_EQ(uiFrees, 0);
     Choose(1354, 0);

@@ -1,5 +1,5 @@
 // The printer's picture as the tests see it: see the header.
-#include "view_model.h"
+#include "picture/view/view_model.h"
 
 #include <algorithm>
 #include <cstdlib>

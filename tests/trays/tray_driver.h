@@ -1,8 +1,8 @@
-// The tray-setting dialogs as a person would write them down, and one of them opened by its button.
-#ifndef DIALOGS_TEST_TRAY_DRIVER_H
-#define DIALOGS_TEST_TRAY_DRIVER_H
+// The tray-setting dialogs as published, written down by hand, and a driver that opens one by its button.
+#ifndef TRAYS_TEST_TRAY_DRIVER_H
+#define TRAYS_TEST_TRAY_DRIVER_H
 
-#include "dialog_driver.h"
+#include "dialogs/dialog_driver.h"
 
 #include <commctrl.h>
 
@@ -63,15 +63,15 @@ struct Trays : DialogDriver {
         events.clear();
         SetWindowLongPtrW(page, DWLP_USER, withContext ? reinterpret_cast<LONG_PTR>(&context) : 0);
         int32_t handled = kUntouched;
-        EXPECT_EQ(Ask(156, page, WM_COMMAND, 1847, 0, &handled), (Answer{0, kUntouched}));
+        EXPECT_EQ(DeliverTo(156, page, WM_COMMAND, 1847, 0, &handled), (Answer{0, kUntouched}));
     }
-    INT_PTR Tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
+    INT_PTR Deliver(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         return procedure(window, message, wParam, lParam);
     }
     INT_PTR Choose(const Attribute& attribute, int entry) {
         Send(attribute.box, CB_SETCURSEL, static_cast<WPARAM>(entry));
         events.clear();
-        return Tell(WM_COMMAND, Chosen(static_cast<WPARAM>(attribute.box)));
+        return Deliver(WM_COMMAND, Chosen(static_cast<WPARAM>(attribute.box)));
     }
 
     LRESULT List(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
@@ -107,7 +107,7 @@ struct Trays : DialogDriver {
     std::vector<int> Selections(const Kind& kind) const {
         std::vector<int> selections;
         for (const int i : kind.attributes)
-            selections.push_back(Selection(kAttributes[i].box));
+            selections.push_back(Shown(kAttributes[i].box));
         return selections;
     }
 
