@@ -10,15 +10,11 @@ DialogDriver* current;
 const HANDLE kPrinter = reinterpret_cast<HANDLE>(0x5150);
 const HWND kHintWindow = reinterpret_cast<HWND>(0x4711);
 
-std::string Narrow(const wchar_t* text) {
-    std::string narrow;
-    for (; *text != 0; ++text)
-        narrow += static_cast<char>(*text);
-    return narrow;
-}
-
 void Note(const std::string& event, bool isAsExpected = true) {
-    current->Note(event + (isAsExpected ? "" : " WRONG"));
+    current->events.push_back(event + (isAsExpected ? "" : " WRONG"));
+}
+void Note(const std::string& event, int64_t number, bool isAsExpected = true) {
+    Note(event + " " + std::to_string(number), isAsExpected);
 }
 
 // The text of a control text table's first row.
@@ -26,45 +22,8 @@ std::string FirstText(const uint8_t* table) {
     return Narrow(reinterpret_cast<const wchar_t*>(table + 20));
 }
 
-// --- The user-interface module -----------------------------------------------------------------------------
-
-void WINAPI ReplaceCommon(HWND dialog, const uint8_t* texts, uint32_t id, const DialogContext* context) {
-    const bool isContext = context == reinterpret_cast<void*>(GetWindowLongPtrW(dialog, DWLP_USER));
-    Note("ReplaceDlgDispStringCmnItem " + FirstText(texts) + " " + std::to_string(id), isContext);
-}
-void WINAPI Replace(HWND, const uint8_t* texts) {
-    Note("ReplaceDlgDispString " + FirstText(texts));
-}
-HWND WINAPI CreateHintWindow(HWND) {
-    Note("CreateToolWnd");
-    return kHintWindow;
-}
-void WINAPI StoreIcons(HWND, const uint8_t* table) {
-    current->stopIcons = table;
-    Note("StoreStopIconRect", NumberAt<uint64_t>(table, 0) == 0 && NumberAt<uint64_t>(table, 8) == 0);
-}
-int32_t WINAPI Constrain(const void* none, HWND dialog, HWND hints, uint32_t control, int32_t all,
-                         const void* alsoNone) {
-    // When a tray dialog checks all settings, it passes the hint window of the colour dialogs.
-    const bool hasOwn = current->missing.count("CreateToolWnd") == 0 && (control != 0 || !current->isTray);
-    Note("DoConstraints " + std::to_string(control), none == nullptr && IsWindow(dialog) && all == -1
-                                                         && hints == (hasOwn ? kHintWindow : nullptr)
-                                                         && alsoNone == nullptr);
-    return current->constraints(control);
-}
-void WINAPI Hint(HWND dialog, const DialogContext* context, uint16_t id) {
-    const bool isContext = context == reinterpret_cast<void*>(GetWindowLongPtrW(dialog, DWLP_USER));
-    Note("DispHintControl " + std::to_string(id), isContext);
-}
-int32_t WINAPI HasDownloadManager() {
-    Note("IsInstalledDLManager");
-    return current->downloadManager;
-}
-INT_PTR WINAPI RunModally(HINSTANCE resources, HWND owner, uint32_t id, DLGPROC procedure, LPARAM parameter);
-void WINAPI DrawIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item, const void* table) {
-    Note("ReqDrawStopInfoIcon " + std::to_string(control),
-         IsWindow(dialog) && item->CtlID == control && NumberAt<uint32_t>(table, 16) != 0
-             && (current->missing.count("StoreStopIconRect") != 0 || table == current->stopIcons));
+bool IsContextOf(HWND dialog, const DialogContext* context) {
+    return context == reinterpret_cast<void*>(GetWindowLongPtrW(dialog, DWLP_USER));
 }
 
 template <typename Function>
@@ -72,32 +31,74 @@ FARPROC Address(Function* function) {
     return reinterpret_cast<FARPROC>(reinterpret_cast<void (*)()>(function));
 }
 
-FARPROC WINAPI FindProcedure(HMODULE library, const char* name) {
-    static const std::map<std::string, FARPROC> kCallbacks = {
-        {"ReplaceDlgDispStringCmnItem", Address(ReplaceCommon)},
-        {"ReplaceDlgDispString", Address(Replace)},
-        {"CreateToolWnd", Address(CreateHintWindow)},
-        {"StoreStopIconRect", Address(StoreIcons)},
-        {"DoConstraints", Address(Constrain)},
-        {"DispHintControl", Address(Hint)},
-        {"IsInstalledDLManager", Address(HasDownloadManager)},
-        {"ReqDrawStopInfoIcon", Address(DrawIcon)},
-        {"MyDialogBox", Address(RunModally)},
-    };
-    if (current->missing.count(name) != 0)
-        return nullptr;
-    const auto found = kCallbacks.find(name);
-    const bool isOwn =
-        current->usesOwnCallbacks && found != kCallbacks.end() && found->first != "MyDialogBox";
-    return isOwn || found == kCallbacks.end() ? GetProcAddress(library, name) : found->second;
+// --- The user-interface module -----------------------------------------------------------------------------
+
+int32_t Constrain(const void* none, HWND dialog, HWND hints, uint32_t control, int32_t all,
+                  const void* alsoNone) {
+    // When a tray dialog checks all settings, it passes the hint window of the colour dialogs.
+    const bool hasOwn = current->missing.count("CreateToolWnd") == 0 && (control != 0 || !current->isTray);
+    Note("DoConstraints", control,
+         none == nullptr && IsWindow(dialog) && hints == (hasOwn ? kHintWindow : nullptr) && all == -1
+             && alsoNone == nullptr);
+    return current->constraints(control);
 }
 
-HMODULE WINAPI Load(const wchar_t* path) {
+void DrawIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item, const void* table) {
+    Note("ReqDrawStopInfoIcon", control,
+         IsWindow(dialog) && item->CtlID == control && NumberAt<uint32_t>(table, 16) != 0
+             && (current->missing.count("StoreStopIconRect") != 0 || table == current->stopIcons));
+}
+
+// Opens a dialog of the module's own: a tray dialog.
+INT_PTR RunModally(HINSTANCE resources, HWND owner, uint32_t id, DLGPROC procedure, LPARAM parameter) {
+    Note("MyDialogBox", id,
+         resources == GetModuleHandleW(L"TELMAR_S.DLL") && owner == current->page
+             && parameter == GetWindowLongPtrW(owner, DWLP_USER));
+    current->procedure = procedure;
+    const DLGPROC relay = [](HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) -> INT_PTR {
+        current->window = dialog;
+        return current->procedure(dialog, message, wParam, lParam);
+    };
+    CreateDialogParamW(resources, MAKEINTRESOURCEW(id), nullptr, relay, parameter);
+    return current->endCode;
+}
+
+const std::map<std::string, FARPROC> kUiCallbacks = {
+    {"ReplaceDlgDispStringCmnItem",
+     Address(+[](HWND dialog, const uint8_t* texts, uint32_t id, const DialogContext* context) {
+         Note("ReplaceDlgDispStringCmnItem " + FirstText(texts), id, IsContextOf(dialog, context));
+     })},
+    {"ReplaceDlgDispString",
+     Address(+[](HWND, const uint8_t* texts) { Note("ReplaceDlgDispString " + FirstText(texts)); })},
+    {"CreateToolWnd", Address(+[](HWND) { return Note("CreateToolWnd"), kHintWindow; })},
+    {"StoreStopIconRect", Address(+[](HWND, const uint8_t* table) {
+         current->stopIcons = table;
+         Note("StoreStopIconRect", NumberAt<uint64_t>(table, 0) == 0 && NumberAt<uint64_t>(table, 8) == 0);
+     })},
+    {"DoConstraints", Address(Constrain)},
+    {"DispHintControl", Address(+[](HWND dialog, const DialogContext* context, uint16_t id) {
+         Note("DispHintControl", id, IsContextOf(dialog, context));
+     })},
+    {"IsInstalledDLManager", Address(+[] { return Note("IsInstalledDLManager"), current->downloadManager; })},
+    {"ReqDrawStopInfoIcon", Address(DrawIcon)},
+    {"MyDialogBox", Address(RunModally)},
+};
+
+FARPROC FindProcedure(HMODULE library, const char* name) {
+    if (current->missing.count(name) != 0)
+        return nullptr;
+    const auto found = kUiCallbacks.find(name);
+    const bool isOwn =
+        current->usesOwnCallbacks && found != kUiCallbacks.end() && found->first != "MyDialogBox";
+    return isOwn || found == kUiCallbacks.end() ? GetProcAddress(library, name) : found->second;
+}
+
+HMODULE Load(const wchar_t* path) {
     ++current->uiLoads;
     EXPECT_TRUE(std::filesystem::equivalent(path, current->folder / L"TELMAR_U.DLL"));
     return current->hasUiModule ? LoadLibraryW(path) : nullptr;
 }
-BOOL WINAPI Free(HMODULE library) {
+BOOL Free(HMODULE library) {
     ++current->uiFrees;
     EXPECT_EQ(library, GetModuleHandleW(L"TELMAR_U.DLL"));
     return FreeLibrary(library);
@@ -105,28 +106,21 @@ BOOL WINAPI Free(HMODULE library) {
 
 // --- The system --------------------------------------------------------------------------------------------
 
-BOOL WINAPI End(HWND, INT_PTR code) {
-    Note("EndDialog " + std::to_string(code));
-    return TRUE;
-}
-
-BOOL WINAPI Help(HWND window, const wchar_t* file, UINT command, ULONG_PTR data) {
+BOOL Help(HWND window, const wchar_t* file, UINT command, ULONG_PTR data) {
     const int asked = window == current->window ? 0 : GetDlgCtrlID(window);
-    const bool isFile = file == (current->folder / L"TELMAR__.HLP").wstring();
+    const bool isTopic = command == HELP_CONTEXT;
     Note("WinHelp " + std::to_string(asked) + " " + std::to_string(command)
-             + (command == HELP_CONTEXT ? " " + std::to_string(data) : ""),
-         isFile);
-    current->helpTable.clear();
-    for (const auto* at = reinterpret_cast<uint32_t*>(data); command != HELP_CONTEXT; at += 2) {
-        current->helpTable.insert(current->helpTable.end(), {at[0], at[1]});
-        if (at[0] == 0)
-            break;
-    }
+             + (isTopic ? " " + std::to_string(data) : ""),
+         file == (current->folder / L"TELMAR__.HLP").wstring());
+    const auto* const table = reinterpret_cast<const uint32_t*>(data);
+    size_t size = 0;
+    while (!isTopic && (size == 0 || table[size - 2] != 0))
+        size += 2;
+    current->helpTable.assign(table, table + size);
     return TRUE;
 }
 
-DWORD WINAPI ReadPrinterData(HANDLE printer, wchar_t* name, DWORD* type, BYTE* data, DWORD size,
-                             DWORD* needed) {
+DWORD ReadPrinterData(HANDLE printer, wchar_t* name, DWORD* type, BYTE* data, DWORD size, DWORD* needed) {
     EXPECT_EQ(printer, kPrinter);
     EXPECT_STREQ(name, L"DefaultOEMDEV");
     EXPECT_EQ(size, kSettingsSize);
@@ -138,7 +132,7 @@ DWORD WINAPI ReadPrinterData(HANDLE printer, wchar_t* name, DWORD* type, BYTE* d
     return *needed > size ? ERROR_MORE_DATA : ERROR_SUCCESS;
 }
 
-BOOL WINAPI DescribePrinter(HANDLE printer, DWORD level, BYTE* data, DWORD size, DWORD* needed) {
+BOOL DescribePrinter(HANDLE printer, DWORD level, BYTE* data, DWORD size, DWORD* needed) {
     EXPECT_EQ(std::pair(printer, level), std::pair(kPrinter, DWORD{2}));
     const std::wstring& driver = current->printerDriver;
     *needed = static_cast<DWORD>(sizeof(PRINTER_INFO_2W) + 2 * (driver.size() + 1));
@@ -150,7 +144,7 @@ BOOL WINAPI DescribePrinter(HANDLE printer, DWORD level, BYTE* data, DWORD size,
     return TRUE;
 }
 
-int WINAPI ReadLocale(LCID locale, LCTYPE type, wchar_t* text, int capacity) {
+int ReadLocale(LCID locale, LCTYPE type, wchar_t* text, int capacity) {
     EXPECT_EQ(locale, LCID{LOCALE_USER_DEFAULT});
     const std::wstring& value = type == LOCALE_ICOUNTRY ? current->country : current->measure;
     EXPECT_TRUE(type == LOCALE_ICOUNTRY || type == LOCALE_IMEASURE);
@@ -160,51 +154,9 @@ int WINAPI ReadLocale(LCID locale, LCTYPE type, wchar_t* text, int capacity) {
     return static_cast<int>(value.size()) + 1;
 }
 
-void* WINAPI Allocate(UINT flags, SIZE_T size) {
-    void* block = current->failingAllocation-- == 1 ? nullptr : LocalAlloc(flags, size);
-    current->ownedBlocks.insert(block);
-    return block;
-}
-void* WINAPI Release(void* block) {
-    EXPECT_EQ(current->ownedBlocks.erase(block), 1u);
-    return LocalFree(block);
-}
+// --- Controls and windows ----------------------------------------------------------------------------------
 
-HICON WINAPI LoadSystemIcon(HINSTANCE library, const wchar_t* name) {
-    Note("LoadIcon " + std::to_string(reinterpret_cast<uintptr_t>(name)), library == nullptr);
-    return LoadIconW(library, name);
-}
-BOOL WINAPI Destroy(HICON icon) {
-    Note("DestroyIcon");
-    return DestroyIcon(icon);
-}
-
-// --- The window --------------------------------------------------------------------------------------------
-
-INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    current->window = dialog;
-    const Answer answer = current->Deliver(message, wParam, lParam);
-    if (message == WM_INITDIALOG)
-        current->initAnswer = answer;
-    return answer.result;
-}
-
-// The tray dialogs, which the module lets the user-interface module run.
-INT_PTR CALLBACK ModuleProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
-    current->window = dialog;
-    return current->procedure(dialog, message, wParam, lParam);
-}
-INT_PTR WINAPI RunModally(HINSTANCE resources, HWND owner, uint32_t id, DLGPROC procedure, LPARAM parameter) {
-    Note("MyDialogBox " + std::to_string(id), resources == GetModuleHandleW(L"TELMAR_S.DLL")
-                                                  && owner == current->page
-                                                  && parameter == GetWindowLongPtrW(owner, DWLP_USER));
-    current->procedure = procedure;
-    CreateDialogParamW(resources, MAKEINTRESOURCEW(id), nullptr, ModuleProcedure, parameter);
-    return current->endCode;
-}
-
-// The messages to the controls.
-LRESULT WINAPI SendNoted(HWND dialog, int control, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT SendNoted(HWND dialog, int control, UINT message, WPARAM wParam, LPARAM lParam) {
     static const std::map<UINT, std::string> kKinds = {{CB_RESETCONTENT, "fill"},
                                                        {CB_SETCURSEL, "show"},
                                                        {BM_SETCHECK, "show"},
@@ -212,25 +164,26 @@ LRESULT WINAPI SendNoted(HWND dialog, int control, UINT message, WPARAM wParam, 
                                                        {BM_GETCHECK, "read"}};
     const auto kind = kKinds.find(message);
     if (kind != kKinds.end())
-        Note(kind->second + " " + std::to_string(control), dialog == current->window);
+        Note(kind->second, control, dialog == current->window);
     const bool isFull = message == CB_INSERTSTRING && current->failingEntry-- == 1;
     return isFull ? CB_ERRSPACE : SendDlgItemMessageW(dialog, control, message, wParam, lParam);
 }
-LRESULT WINAPI SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NEXTDLGCTL)
-        Note("focus " + std::to_string(GetDlgCtrlID(reinterpret_cast<HWND>(wParam))),
-             target == current->window && lParam == 1);
+        Note("focus", GetDlgCtrlID(reinterpret_cast<HWND>(wParam)), target == current->window && lParam == 1);
     if (message == WM_USER + 104)
         Note("trays-changed", target == GetParent(current->page)
                                   && wParam == reinterpret_cast<WPARAM>(current->page) && lParam == 0);
     return SendMessageW(target, message, wParam, lParam);
 }
-BOOL WINAPI Enable(HWND control, BOOL isEnabled) {
-    Note("disable " + std::to_string(GetDlgCtrlID(control)), !isEnabled);
-    return EnableWindow(control, isEnabled);
-}
-
 } // namespace
+
+std::string Narrow(const wchar_t* text) {
+    std::string narrow;
+    for (; *text != 0; ++text)
+        narrow += static_cast<char>(*text);
+    return narrow;
+}
 
 std::ostream& operator<<(std::ostream& out, const Answer& answer) {
     return out << "result " << answer.result << ", handled " << answer.handled;
@@ -283,16 +236,35 @@ void DialogDriver::Patch() {
     patch(GetProcAddress, FindProcedure);
     patch(SendDlgItemMessageW, SendNoted);
     patch(SendMessageW, SendToWindow);
-    patch(EnableWindow, Enable);
-    patch(EndDialog, End);
+    patch(
+        EnableWindow, +[](HWND control, BOOL isEnabled) {
+            Note("disable", GetDlgCtrlID(control), !isEnabled);
+            return EnableWindow(control, isEnabled);
+        });
+    patch(
+        EndDialog, +[](HWND, INT_PTR code) -> BOOL { return Note("EndDialog", code), TRUE; });
     patch(WinHelpW, Help);
     patch(GetProcAddress(GetModuleHandleW(L"winspool.drv"), "GetPrinterDataW"), Address(ReadPrinterData));
     patch(GetProcAddress(GetModuleHandleW(L"winspool.drv"), "GetPrinterW"), Address(DescribePrinter));
     patch(GetLocaleInfoW, ReadLocale);
-    patch(LocalAlloc, Allocate);
-    patch(LocalFree, Release);
-    patch(LoadIconW, LoadSystemIcon);
-    patch(DestroyIcon, Destroy);
+    patch(
+        LocalAlloc, +[](UINT flags, SIZE_T size) -> HLOCAL {
+            void* block = current->failingAllocation-- == 1 ? nullptr : LocalAlloc(flags, size);
+            current->ownedBlocks.insert(block);
+            return block;
+        });
+    patch(
+        LocalFree, +[](HLOCAL block) {
+            EXPECT_EQ(current->ownedBlocks.erase(block), 1u);
+            return LocalFree(block);
+        });
+    patch(
+        LoadIconW, +[](HINSTANCE library, const wchar_t* name) {
+            Note("LoadIcon", reinterpret_cast<intptr_t>(name), library == nullptr);
+            return LoadIconW(library, name);
+        });
+    patch(
+        DestroyIcon, +[](HICON icon) { return Note("DestroyIcon"), DestroyIcon(icon); });
 }
 
 void DialogDriver::PassProfiles() {
@@ -314,7 +286,14 @@ void DialogDriver::Open(bool withContext) {
     context.saveArea = area(saveArea);
     context.scratch = area(scratch);
     PassProfiles();
-    CreateDialogParamW(resources, MAKEINTRESOURCEW(dialogId), nullptr, DialogProcedure,
+    const DLGPROC deliver = [](HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) -> INT_PTR {
+        current->window = dialog;
+        const Answer answer = current->Deliver(message, wParam, lParam);
+        if (message == WM_INITDIALOG)
+            current->initAnswer = answer;
+        return answer.result;
+    };
+    CreateDialogParamW(resources, MAKEINTRESOURCEW(dialogId), nullptr, deliver,
                        withContext ? reinterpret_cast<LPARAM>(&context) : 0);
     ASSERT_NE(window, nullptr);
 }

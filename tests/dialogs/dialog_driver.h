@@ -34,6 +34,8 @@ constexpr WPARAM Chosen(WPARAM list) {
     return list | WPARAM{CBN_SELENDOK} << 16;
 }
 
+std::string Narrow(const wchar_t* text);
+
 // A profile as the printer lists it.
 RawBytes Profile(const wchar_t* qualifier, const wchar_t* name, uint32_t location);
 
@@ -70,7 +72,6 @@ struct DialogDriver {
 
     // The events of these kinds (their first words) in order, a line each.
     std::string Events(const std::set<std::string>& kinds) const;
-    void Note(const std::string& event) { events.push_back(event); }
     void PassProfiles();
     // The module's own item record with this key, to be changed by raw offset; null when there is none.
     uint8_t* FindItem(const std::string& key) const;

@@ -4,6 +4,7 @@
 
 #include "dialogs/dialog_driver.h"
 
+#include <algorithm>
 #include <commctrl.h>
 
 constexpr size_t kTraySize = 48, kTrays = 10;
@@ -21,26 +22,45 @@ constexpr Attribute kAttributes[] = {
 struct Kind {
     const wchar_t* model;
     int templateId;
-    std::vector<int> attributes; // by position above
+    std::vector<int> attributes, selections; // by position above; what the boxes show at first
+    const wchar_t* cells;                    // of the first tray, behind the four plain columns
     std::vector<uint32_t> help;
 };
-inline const std::vector<uint32_t> kHelp = {1845, 7310, 1844, 7320, 1859, 7330, 1860, 7330, 1861, 7340, 1862, 7340, 1005, 7350, 1003, 7350};
+#define HELP_HEAD 1845, 7310, 1844, 7320, 1859, 7330, 1860, 7330, 1861, 7340, 1862, 7340, 1005, 7350, 1003, 7350
+#define HELP_TAIL 1089, 7370, 1091, 7370, 1097, 7380, 1094, 7380, 0, 0
 inline const Kind kKinds[] = {
-    {L"",      155, {0, 1, 2, 3, 4, 5}, {1084, 7360, 1086, 7360, 1089, 7370, 1091, 7370, 1097, 7380, 1094, 7380}},
-    {L"type2", 165, {0, 1, 2, 4, 5},    {1089, 7370, 1091, 7370, 1097, 7380, 1094, 7380}},
-    {L"type3", 166, {0, 1, 2},          {}},
+    {L"",      155, {0, 1, 2, 3, 4, 5}, {0, 0, 0, 0, 5, 0}, L"60-90 g/m\u00b2|Other colour|Not punched|",
+     {HELP_HEAD, 1084, 7360, 1086, 7360, HELP_TAIL}},
+    {L"type2", 165, {0, 1, 2, 4, 5},    {0, 0, 0, 5, 0},    L"Other colour|Not punched|", {HELP_HEAD, HELP_TAIL}},
+    {L"type3", 166, {0, 1, 2},          {0, 0, 0},          L"",                          {HELP_HEAD, 0, 0}},
 };
 // clang-format on
 
-// The records before the dialog: different paper in each, and marks that the list of trays overwrites.
+// The records before the dialog opens: different paper in each, and keys and bins that the tray list
+// replaces.
 inline RawBytes TrayRecords() {
     RawBytes records(kTraySize * kTrays);
-    for (size_t i = 0; i < kTrays; ++i) {
+    for (unsigned i = 0; i < kTrays; ++i) {
         const size_t at = i * kTraySize;
-        records.Text(at, "stale").U32(at + 32, 77).U8(at + 47, 0xEE);
-        records.U16(at + 36, 9).U16(at + 38, 1 + static_cast<unsigned>(i) % 2).U16(at + 40, 257);
-        records.U16(at + 42, static_cast<unsigned>(i) % 6).U16(at + 44, 5 - static_cast<unsigned>(i) % 6);
-        records.U8(at + 46, static_cast<unsigned>(i) % 2);
+        records.Text(at, "stale").U32(at + 32, 77).U16(at + 36, 9).U16(at + 38, 1 + i % 2);
+        records.U16(at + 40, 257).U16(at + 42, i % 6).U16(at + 44, 5 - i % 6).U8(at + 46, i % 2);
+        records.U8(at + 47, 0xEE);
+    }
+    return records;
+}
+
+// The records once the trays are listed.
+inline RawBytes Keyed(RawBytes records) {
+    size_t at = 0;
+    for (const auto& [key, bin] : {std::pair("InTray1", 257u),
+                                   {"InTray2", 258u},
+                                   {"InTray3", 259u},
+                                   {"InTray4", 260u},
+                                   {"InTray5", 261u},
+                                   {"InTrayLCT", 1000u},
+                                   {"InTrayManual", 4u}}) {
+        records.Text(at, key).U8(at + strlen(key), 0).U32(at + 32, bin);
+        at += kTraySize;
     }
     return records;
 }
@@ -55,7 +75,7 @@ struct Trays : DialogDriver {
     ~Trays() {
         Close();
         DestroyWindow(sheet);
-        while (GetModuleHandleW(L"TELMAR_U.DLL") != nullptr) // the dialogs keep it
+        while (GetModuleHandleW(L"TELMAR_U.DLL") != nullptr) // never freed by the dialogs
             FreeLibrary(GetModuleHandleW(L"TELMAR_U.DLL"));
     }
 
@@ -110,22 +130,12 @@ struct Trays : DialogDriver {
             selections.push_back(Shown(kAttributes[i].box));
         return selections;
     }
+    void ExpectRecords(const RawBytes& wanted) const {
+        EXPECT_EQ(Differences(records.bytes.data(), wanted), "");
+    }
 
     HWND sheet;
     RawBytes records = TrayRecords();
 };
-
-inline constexpr const char* kKeys[] = {"InTray1", "InTray2",   "InTray3",     "InTray4",
-                                        "InTray5", "InTrayLCT", "InTrayManual"};
-constexpr uint32_t kBins[] = {257, 258, 259, 260, 261, 1000, 4};
-
-// The records once the trays are listed.
-inline RawBytes Keyed(RawBytes records) {
-    for (size_t i = 0; i < std::size(kKeys); ++i)
-        records.Text(i * kTraySize, kKeys[i])
-            .U8(i * kTraySize + strlen(kKeys[i]), 0)
-            .U32(i * kTraySize + 32, kBins[i]);
-    return records;
-}
 
 #endif

@@ -1,6 +1,7 @@
 // The printer's picture when the system refuses something in the middle, and what is left behind afterwards.
 #include "picture/view/view_model.h"
 #include "support/gdi_recorder.h"
+#include "support/live_objects.h"
 #include "support/product.h"
 #include "support/rounds.h"
 
@@ -64,16 +65,6 @@ TEST_F(PictureFailures, EachRefusedCallCostsItsOwnPartOnly) {
             DrawWanted(module.handle, wanted, kRectangle, ids, kName, mishap);
             EXPECT_TRUE(SamePicture(got, wanted));
         }
-}
-
-// The process can make a limited number of drawing objects.
-size_t CountFreeObjects() {
-    std::vector<HRGN> regions;
-    while (HRGN region = CreateRectRgn(0, 0, 1, 1))
-        regions.push_back(region);
-    for (HRGN region : regions)
-        DeleteObject(region);
-    return regions.size();
 }
 
 TEST_F(PictureFailures, ManyDrawingsLeaveNothing) {

@@ -1,0 +1,40 @@
+// What the process has of the system, by which tests see that nothing is left behind.
+#ifndef SUPPORT_LIVE_OBJECTS_H
+#define SUPPORT_LIVE_OBJECTS_H
+
+#include <ostream>
+#include <vector>
+#include <windows.h>
+
+// How many more graphics objects the process can make: wine's GetGuiResources counts nothing.
+inline size_t CountFreeObjects() {
+    std::vector<HRGN> regions;
+    while (HRGN region = CreateRectRgn(0, 0, 1, 1))
+        regions.push_back(region);
+    for (HRGN region : regions)
+        DeleteObject(region);
+    return regions.size();
+}
+
+struct LiveObjects {
+    int windows; // of this thread
+    size_t freeObjects;
+    bool operator==(const LiveObjects& other) const {
+        return windows == other.windows && freeObjects == other.freeObjects;
+    }
+};
+
+inline std::ostream& operator<<(std::ostream& out, const LiveObjects& objects) {
+    return out << objects.windows << " windows, room for " << objects.freeObjects << " graphics objects";
+}
+
+inline LiveObjects CountLiveObjects() {
+    int windows = 0;
+    const WNDENUMPROC countOne = [](HWND, LPARAM sum) -> BOOL {
+        return ++*reinterpret_cast<int*>(sum), TRUE;
+    };
+    EnumThreadWindows(GetCurrentThreadId(), countOne, reinterpret_cast<LPARAM>(&windows));
+    return {windows, CountFreeObjects()};
+}
+
+#endif
