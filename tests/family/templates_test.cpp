@@ -1,7 +1,6 @@
-// The dialog templates of the built TELMAR_S.DLL, read octet by octet: do they hold what the dialogs address,
-// can the keyboard reach it, does it fit?
+// The dialog templates of the built TELMAR_S.DLL, opened as windows: they have the controls that the dialogs
+// use, by their published numbers, with access keys and without overlaps.
 #include <algorithm>
-#include <array>
 #include <gtest/gtest.h>
 #include <map>
 #include <set>
@@ -13,24 +12,22 @@
 
 namespace {
 
-// --- What the dialogs address ------------------------------------------------------------------------------
-
-enum Kind : uint16_t { kNamed = 0, kButton = 0x80, kCombo = 0x85 }; // classes of controls
+// --- What the dialogs use ----------------------------------------------------------------------------------
 
 struct Look {
-    Kind kind;
+    const wchar_t* className;
     DWORD type, flags; // of the style: its low four bits, others that it must have
 };
 // clang-format off
-constexpr Look kGroup   = {kButton, BS_GROUPBOX,        WS_GROUP};
-constexpr Look kCheck   = {kButton, BS_AUTOCHECKBOX,    WS_TABSTOP};
-constexpr Look kPush    = {kButton, BS_PUSHBUTTON,      WS_TABSTOP};
-constexpr Look kDefault = {kButton, BS_DEFPUSHBUTTON,   WS_TABSTOP};
-constexpr Look kRadio   = {kButton, BS_AUTORADIOBUTTON, WS_GROUP | WS_TABSTOP};
-constexpr Look kSecond  = {kButton, BS_AUTORADIOBUTTON, 0};
-constexpr Look kLine    = {kNamed,  0,                  SS_ETCHEDHORZ};
-constexpr Look kList    = {kCombo,  CBS_DROPDOWNLIST,   CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP};
-constexpr Look kView    = {kNamed,  LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS,
+constexpr Look kGroup   = {L"Button", BS_GROUPBOX,        WS_GROUP};
+constexpr Look kCheck   = {L"Button", BS_AUTOCHECKBOX,    WS_TABSTOP};
+constexpr Look kPush    = {L"Button", BS_PUSHBUTTON,      WS_TABSTOP};
+constexpr Look kDefault = {L"Button", BS_DEFPUSHBUTTON,   WS_TABSTOP};
+constexpr Look kRadio   = {L"Button", BS_AUTORADIOBUTTON, WS_GROUP | WS_TABSTOP};
+constexpr Look kSecond  = {L"Button", BS_AUTORADIOBUTTON, 0};
+constexpr Look kLine    = {L"Static", 0,                  SS_ETCHEDHORZ};
+constexpr Look kList    = {L"ComboBox", CBS_DROPDOWNLIST,   CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP};
+constexpr Look kView    = {L"SysListView32", LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS,
                            LVS_OWNERDRAWFIXED | LVS_SHAREIMAGELISTS | WS_TABSTOP}; // the dialog destroys its images
 
 struct Expected { Look look; uint32_t label, icon; }; // 0: none
@@ -48,19 +45,22 @@ const std::map<uint32_t, Expected> kControls = {
     {1630, {kGroup, 0, 0}},
 };
 
-const std::pair<const uint32_t, std::vector<uint32_t>> kDialogs[] = { // without labels and icons
-    {122, {1501, 1504, 1354, 1335, 1332, 1506, 1509, 1353, 1334, 1330, 1473, 1477, 1475, 1523, 1524, 1627, 1526, 1630, 1525, 1393, 1528, 1069, 1032, 1, 2, 9}},
-    {123, {1501, 1504, 1354, 1335, 1332, 1506, 1509, 1353, 1334, 1330, 1473, 1477, 1475, 1069, 1032, 1, 2, 9}},
-    {124, {1501, 1504, 1354, 1332, 1506, 1509, 1353, 1334, 1330, 1473, 1477, 1475, 1523, 1524, 1627, 1526, 1393, 1528, 1069, 1032, 1, 2, 9}},
-    {125, {1634, 1501, 1354, 1332, 1506, 1353, 1334, 1330, 1473, 1477, 1475, 1069, 1032, 1, 2, 9}},
-    {128, {1501, 1504, 1354, 1335, 1599, 1332, 1506, 1509, 1353, 1334, 1592, 1330, 1473, 1513, 1516, 1519, 1584, 1522, 1523, 1524, 1627, 1526, 1393, 1528, 1069, 1032, 1, 2, 9}},
-    {155, {1844, 1860, 1862, 1003, 1086, 1091, 1094, 1, 2, 9}},
-    {165, {1844, 1860, 1862, 1003, 1091, 1094, 1, 2, 9}},
+#define IMAGE_LISTS 1501, 1504, 1354, 1332
+#define TEXT_LISTS 1506, 1509, 1353, 1334, 1330
+#define FOLLOWING 1473, 1477, 1475
+#define SIMULATION 1523, 1524, 1627, 1526, 1393, 1528
+#define FOOTER 1069, 1032, 1, 2, 9
+const std::pair<const uint32_t, std::vector<uint32_t>> kDialogs[] = { // without labels and icons, in any order
+    {122, {IMAGE_LISTS, 1335, TEXT_LISTS, FOLLOWING, SIMULATION, 1630, 1525, FOOTER}},
+    {123, {IMAGE_LISTS, 1335, TEXT_LISTS, FOLLOWING, FOOTER}}, {124, {IMAGE_LISTS, TEXT_LISTS, FOLLOWING, SIMULATION, FOOTER}},
+    {125, {1634, 1501, 1354, 1332, 1506, 1353, 1334, 1330, FOLLOWING, FOOTER}},
+    {128, {IMAGE_LISTS, 1335, 1599, TEXT_LISTS, 1592, 1473, 1513, 1516, 1519, 1584, 1522, SIMULATION, FOOTER}},
+    {155, {1844, 1860, 1862, 1003, 1086, 1091, 1094, 1, 2, 9}}, {165, {1844, 1860, 1862, 1003, 1091, 1094, 1, 2, 9}},
     {166, {1844, 1860, 1862, 1003, 1, 2, 9}},
 };
 // clang-format on
 
-// --- What the library holds --------------------------------------------------------------------------------
+// --- What the library has ----------------------------------------------------------------------------------
 
 bool Meets(RECT one, const RECT& other, int reach) {
     InflateRect(&one, reach, reach);
@@ -73,62 +73,41 @@ bool Holds(const RECT& outer, const RECT& inner) {
 }
 
 struct Control {
+    explicit Control(HWND window) : id(static_cast<uint32_t>(GetDlgCtrlID(window))) {
+        wchar_t buffer[200];
+        text.assign(buffer, static_cast<size_t>(GetWindowTextW(window, buffer, 200)));
+        className.assign(buffer, static_cast<size_t>(GetClassNameW(window, buffer, 200)));
+        GetWindowRect(window, &area);
+        LONG bits = GetWindowLongW(window, GWL_STYLE);
+        COMBOBOXINFO list = {sizeof(list), {}, {}, 0, nullptr, nullptr, nullptr};
+        if (GetComboBoxInfo(window, &list)) {
+            for (int i = 0; i < 40; ++i) // more than fit: the list shows its scroll bar
+                SendMessageW(window, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L""));
+            bits |= GetWindowLongW(list.hwndList, GWL_STYLE) & WS_VSCROLL;
+        }
+        style = static_cast<DWORD>(bits);
+        key = text.find(L'&') < text.size() ? text.at(text.find(L'&') + 1) : 0;
+    }
+    bool IsGroup() const { return className == L"Button" && (style & 0xF) == BS_GROUPBOX; }
+
     DWORD style;
-    RECT area;
+    RECT area; // on the screen
     uint32_t id;
-    uint16_t kind;
-    std::wstring text; // without the mark of its access key
-    wchar_t key;       // 0: none
-    bool IsGroup() const { return kind == kButton && (style & 0xF) == BS_GROUPBOX; }
+    std::wstring className, text;
+    wchar_t key; // 0: none
 };
-
-template <typename Value>
-Value Take(const char*& at) {
-    at += sizeof(Value);
-    return reinterpret_cast<const Value*>(at)[-1];
-}
-
-RECT TakeArea(const char*& at) {
-    const auto place = Take<std::array<int16_t, 4>>(at);
-    return {place[0], place[1], place[0] + place[2], place[1] + place[3]};
-}
-
-std::wstring TakeText(const char*& at) { // 0xFFFF and a number, where a number stands in its place
-    const auto first = reinterpret_cast<const wchar_t*>(at);
-    const std::wstring text = *first == 0xFFFF ? std::wstring(first, 2) : std::wstring(first);
-    at += (text.size() + (*first == 0xFFFF ? 0 : 1)) * sizeof(wchar_t);
-    return text;
-}
 
 struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<uint32_t>>> {
     void SetUp() override {
-        const HMODULE library = LoadLibraryExW(L"TELMAR_S.DLL", nullptr, LOAD_LIBRARY_AS_DATAFILE);
-        const HRSRC found = FindResourceW(library, MAKEINTRESOURCEW(GetParam().first), RT_DIALOG);
-        ASSERT_NE(found, nullptr);
-        const auto octets = static_cast<const char*>(LockResource(LoadResource(library, found)));
-        const char* at = octets;
-        ASSERT_EQ(Take<uint32_t>(at), 0xFFFF0001u); // the extended form
-        at += 12;                                   // help, extended style, style
-        controls.resize(Take<uint16_t>(at));
-        area = TakeArea(at);
-        for (int text = 0; text < 3; ++text) // menu, class, title
-            TakeText(at);
-        at += 6;      // size, weight, slant and character set of the font
-        TakeText(at); // its name
-        for (Control& control : controls) {
-            at += ((octets - at) & 3) + 8; // help, extended style
-            control = {Take<DWORD>(at), TakeArea(at), Take<uint32_t>(at), kNamed, {}, 0};
-            const std::wstring name = TakeText(at);
-            control.kind = name[0] == 0xFFFF ? name[1] : +kNamed;
-            control.text = TakeText(at);
-            at += 2; // further data: none
-            if (const size_t mark = control.text.find(L'&'); mark != control.text.npos) {
-                control.key = control.text.at(mark + 1);
-                control.text.erase(mark, 1);
-            }
-            if (control.kind == kCombo)
-                control.area.bottom = control.area.top + 14; // closed; the template's is with its entries
-        }
+        InitCommonControls();
+        const DLGPROC ignore = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
+        dialog = CreateDialogParamW(library, MAKEINTRESOURCEW(GetParam().first), nullptr, ignore, 0);
+        ASSERT_NE(dialog, nullptr);
+        for (HWND at = GetWindow(dialog, GW_CHILD); at != nullptr; at = GetWindow(at, GW_HWNDNEXT))
+            controls.emplace_back(at);
+    }
+    ~Templates() override {
+        DestroyWindow(dialog);
         FreeLibrary(library);
     }
     size_t IndexOf(uint32_t id) const {
@@ -136,12 +115,13 @@ struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<
         return static_cast<size_t>(std::find_if(controls.begin(), controls.end(), hasId) - controls.begin());
     }
 
-    RECT area;
-    std::vector<Control> controls;
+    const HMODULE library = LoadLibraryW(L"TELMAR_S.DLL");
+    HWND dialog = nullptr;
+    std::vector<Control> controls; // in the order of the template
 };
 INSTANTIATE_TEST_SUITE_P(, Templates, testing::ValuesIn(kDialogs));
 
-TEST_P(Templates, HoldTheDialogsControlsEachAfterItsLabelAndBesideItsIconAndNoOther) {
+TEST_P(Templates, HaveTheControlsOfTheirDialogsOnly) {
     std::multiset<uint32_t> expectedIds, ids;
     for (const Control& control : controls)
         ids.insert(control.id);
@@ -150,7 +130,7 @@ TEST_P(Templates, HoldTheDialogsControlsEachAfterItsLabelAndBesideItsIconAndNoOt
         const size_t index = IndexOf(id);
         ASSERT_LT(index, controls.size()) << id;
         const Control& control = controls[index];
-        EXPECT_TRUE(control.kind == look.kind && (control.style & 0xF) == look.type) << id;
+        EXPECT_TRUE(control.className == look.className && (control.style & 0xF) == look.type) << id;
         EXPECT_EQ(control.style & look.flags, look.flags) << id;
         EXPECT_TRUE(label == 0 || IndexOf(label) + 1 == index) << label;
         EXPECT_TRUE(id != 1475 || // the arrow keys choose between the two radio buttons only
@@ -158,14 +138,14 @@ TEST_P(Templates, HoldTheDialogsControlsEachAfterItsLabelAndBesideItsIconAndNoOt
         expectedIds.insert({id, label, icon});
         const Control& iconControl = controls.at(icon != 0 ? IndexOf(icon) : index);
         EXPECT_TRUE(icon == 0 || (iconControl.style & SS_TYPEMASK) == SS_OWNERDRAW) << icon;
-        EXPECT_TRUE(Meets(iconControl.area, control.area, 4)) << icon;
+        EXPECT_TRUE(Meets(iconControl.area, control.area, 8)) << icon;
     }
     expectedIds.erase(0);
-    ids.erase(UINT32_MAX); // that of controls which nobody addresses
+    ids.erase(UINT32_MAX); // of controls that the dialogs do not use
     EXPECT_EQ(ids, expectedIds);
 }
 
-TEST_P(Templates, EveryTextThatLeadsSomewhereHasAnAccessKeyOfItsOwn) {
+TEST_P(Templates, AccessKeysAreCompleteAndUnique) {
     std::set<wint_t> keys;
     for (const Control& control : controls) {
         const bool isBottomButton = control.id == IDOK || control.id == IDCANCEL || control.id == IDHELP;
@@ -175,8 +155,12 @@ TEST_P(Templates, EveryTextThatLeadsSomewhereHasAnAccessKeyOfItsOwn) {
     }
 }
 
-TEST_P(Templates, ControlsLieInsideTheMarginAndApart) {
-    InflateRect(&area, -7, -7);
+TEST_P(Templates, ControlsKeepTheMarginAndDoNotOverlap) {
+    RECT area, margin = {7, 7, 0, 0};
+    MapDialogRect(dialog, &margin);
+    GetClientRect(dialog, &area);
+    MapWindowPoints(dialog, nullptr, reinterpret_cast<POINT*>(&area), 2);
+    InflateRect(&area, 2 - margin.left, 2 - margin.top); // 2 pixels: rounding
     for (auto one = controls.begin(); one != controls.end(); ++one) {
         EXPECT_TRUE(Holds(area, one->area)) << one->id;
         for (auto other = one + 1; other != controls.end(); ++other)

@@ -1,17 +1,21 @@
 // The built TELMAR_U.DLL on the dialog of uimodule_test.rc, called as the model's dialogs call it.
 #include "uimodule/exports.h"
 
+#include "base/dialog_ids.h"
 #include "base/records.h"
+#include "support/canvas.h"
 
-#include <gtest/gtest.h>
 #include <map>
 #include <memory>
 #include <string>
 
 namespace {
 
-constexpr uint16_t kRgbList = 1504, kSimulation = 1524, kPaper = 1526, kSimulationGray = 1627;
-constexpr uint16_t kIcons[][2] = {{1482, kSimulation}, {1527, kPaper}, {1629, kSimulationGray}};
+constexpr uint16_t kRgbList = IDC_IMAGE_RGB_SOURCE, kSimulation = IDC_SIMULATION,
+                   kPaper = IDC_MATCH_PAPER_COLOR, kSimulationGray = IDC_SIMULATION_GRAY;
+constexpr uint16_t kIcons[][2] = {{IDC_SIMULATION_ICON, kSimulation},
+                                  {IDC_MATCH_PAPER_COLOR_ICON, kPaper},
+                                  {IDC_SIMULATION_GRAY_ICON, kSimulationGray}};
 
 #define FUNCTION(name) Function<decltype(&(name))>(#name)
 
@@ -70,14 +74,14 @@ struct UiModule : testing::Test {
 
     HWND Control(int id) const { return GetDlgItem(dialog, id); }
 
-    // What is shown after a choice that is already in the settings; "-" for no hint.
+    // The hint that is shown after a choice, which is already in the settings; "-" for none.
     std::wstring HintAfter(uint32_t control, int32_t expectedAnswer = 0) {
         EXPECT_EQ(FUNCTION(DoConstraints)(nullptr, dialog, hintWindow, control, -1, nullptr), expectedAnswer);
         FUNCTION(DispHintControl)(dialog, &context, 128);
         return IsWindowVisible(hintWindow) ? TextOf(hintWindow) : L"-";
     }
 
-    // The controls that have a stop sign beside them.
+    // The controls that have a stop sign next to them.
     std::string Stops() const {
         std::string controls;
         for (const auto& icon : kIcons)
@@ -85,7 +89,20 @@ struct UiModule : testing::Test {
         return controls;
     }
 
-    bool IsStopDrawn(uint32_t icon) const;
+    // Draws an icon into a square of a larger bitmap: outside nothing changes, inside it is red or not.
+    bool IsStopDrawn(uint32_t icon) const {
+        constexpr int margin = 3, size = 24, side = size + 2 * margin;
+        const Canvas canvas(side, side, 0);
+        DRAWITEMSTRUCT item = {};
+        item.hDC = canvas.dc;
+        item.rcItem = {margin, margin, margin + size, margin + size};
+        FUNCTION(ReqDrawStopInfoIcon)(dialog, icon, &item, icons.get());
+        std::map<uint32_t, int> count;
+        for (const uint32_t pixel : canvas.Content().pixels)
+            ++count[pixel];
+        EXPECT_EQ(count[0], side * side - size * size);
+        return count[0xCC0000] > 0;
+    }
 
     HMODULE library;
     HWND dialog = nullptr;
@@ -95,33 +112,12 @@ struct UiModule : testing::Test {
     DialogContext context = {};
 };
 
-// Has an icon drawn into a square of a larger bitmap: what is outside stays, and inside is red or not.
-bool UiModule::IsStopDrawn(uint32_t icon) const {
-    constexpr int margin = 3, size = 24, side = size + 2 * margin;
-    HDC dc = CreateCompatibleDC(nullptr);
-    BITMAPINFO info = {{sizeof(BITMAPINFOHEADER), side, side, 1, 32, BI_RGB, 0, 0, 0, 0, 0}, {}};
-    HBITMAP bitmap = CreateDIBSection(dc, &info, DIB_RGB_COLORS, nullptr, nullptr, 0); // black
-    HGDIOBJ before = SelectObject(dc, bitmap);
-    DRAWITEMSTRUCT item = {};
-    item.hDC = dc;
-    item.rcItem = {margin, margin, margin + size, margin + size};
-    FUNCTION(ReqDrawStopInfoIcon)(dialog, icon, &item, icons.get());
-    std::map<COLORREF, int> count;
-    for (int i = 0; i < side * side; ++i)
-        ++count[GetPixel(dc, i % side, i / side)];
-    SelectObject(dc, before);
-    DeleteObject(bitmap);
-    DeleteDC(dc);
-    EXPECT_EQ(count[RGB(0, 0, 0)], side * side - size * size);
-    return count[RGB(204, 0, 0)] > 0;
-}
-
 TEST_F(UiModule, PutsTextsIntoTitleAndControls) {
     const ControlTextRecord model[] = {
         {{122, 123, 124, 125, 128}, L"Title", "Title"},
-        {{1501}, L"Images", "GroupBox"},     // lacks the access key T
+        {{1501}, L"Images", "GroupBox"},     // without the access key T
         {{1502}, L"Origin:", "Label"},       // access key R
-        {{1469}, L"Greys:", "NoSuchLetter"}, // lacks the access key X
+        {{1469}, L"Greys:", "NoSuchLetter"}, // without the access key X
         {{1526}, L"Match && so on", "OwnAmpersand"},
         {{-1}, L"Column", "Column"},
         {{1032}, L"", "Nothing"},
@@ -129,12 +125,13 @@ TEST_F(UiModule, PutsTextsIntoTitleAndControls) {
     };
     FUNCTION(ReplaceDlgDispString)(dialog, model);
     EXPECT_EQ(TextOf(dialog), L"Title");
-    EXPECT_EQ(TextOf(Control(1501)), L"Images");
-    EXPECT_EQ(TextOf(Control(1502)), L"O&rigin:");
-    EXPECT_EQ(TextOf(Control(1469)), L"Greys (&X):");
-    EXPECT_EQ(TextOf(Control(1526)), L"Match && so on");
-    EXPECT_EQ(TextOf(Control(-1)), L"Keep");
-    EXPECT_EQ(TextOf(Control(1032)), L"&Defaults");
+    for (const auto& [control, text] : {std::pair(1501, L"Images"),
+                                        {1502, L"O&rigin:"},
+                                        {1469, L"Greys (&X):"},
+                                        {1526, L"Match && so on"},
+                                        {-1, L"Keep"},
+                                        {1032, L"&Defaults"}})
+        EXPECT_EQ(TextOf(Control(control)), text);
 
     ControlTextRecord trays[] = {{{155}, L"Trays", "Title"}, {{1}, {}, "Full"}, {}};
     std::fill(std::begin(trays[1].display), std::end(trays[1].display), L'w');
@@ -179,7 +176,7 @@ TEST_F(UiModule, ShowsARefusedChoiceUntilTheNextOne) {
     EXPECT_EQ(HintAfter(0), L"-");
     settings->matchPaperColor = 1;
     EXPECT_NE(HintAfter(kPaper, 100).find(L"paper"), std::wstring::npos);
-    settings->matchPaperColor = 0; // put back by the dialog
+    settings->matchPaperColor = 0; // restored by the dialog
     EXPECT_EQ(Stops(), " 1526");
     EXPECT_EQ(GetFocus(), Control(kRgbList));
     EXPECT_EQ(GetActiveWindow(), dialog);
@@ -196,11 +193,11 @@ TEST_F(UiModule, ShowsConflictsOfTheSettingsOnce) {
     settings->simulation = 1;
     ValidateRect(Control(kIcons[0][0]), nullptr);
     EXPECT_EQ(HintAfter(kSimulation), L"-");
-    EXPECT_TRUE(GetUpdateRect(Control(kIcons[0][0]), nullptr, FALSE)) << "icons are to be drawn anew";
+    EXPECT_TRUE(GetUpdateRect(Control(kIcons[0][0]), nullptr, FALSE)) << "icons must be redrawn";
     EXPECT_EQ(Stops(), "");
 }
 
-TEST_F(UiModule, KeepsTheHintBelowItsDialogAndGoesWithIt) {
+TEST_F(UiModule, KeepsTheHintBelowItsDialogUntilItEnds) {
     settings->matchPaperColor = 1;
     HintAfter(kPaper, 100);
     SetWindowPos(dialog, nullptr, 150, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
@@ -211,26 +208,24 @@ TEST_F(UiModule, KeepsTheHintBelowItsDialogAndGoesWithIt) {
     DestroyWindow(dialog);
     EXPECT_FALSE(IsWindow(hintWindow));
     EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
-    Pump(150); // nothing of the library is called any more
+    Pump(150); // a late timer would call into the freed library
 }
 
-TEST_F(UiModule, RunsDialogsAndHoldsTheIcons) {
+TEST_F(UiModule, RunsDialogsAndHasTheIcons) {
     EXPECT_EQ(FUNCTION(MyDialogBox)(GetModuleHandleW(nullptr), dialog, 155, DialogProcedure, 0), 17);
     EXPECT_LE(FUNCTION(MyDialogBox)(GetModuleHandleW(nullptr), dialog, 166, DialogProcedure, 0), 0);
-    for (const int id : {473, 474}) {
+    for (const int id : {IDI_PORTRAIT, IDI_LANDSCAPE}) {
+        const Canvas canvas(16, 16);
         HANDLE icon = LoadImageW(FUNCTION(GetImgResInst)(), MAKEINTRESOURCEW(id), IMAGE_ICON, 16, 16, 0);
-        ICONINFO info = {};
-        ASSERT_TRUE(GetIconInfo(static_cast<HICON>(icon), &info));
-        HDC dc = CreateCompatibleDC(nullptr);
-        SelectObject(dc, info.hbmMask);
-        int width = 0, height = 0; // of what is not transparent
-        for (int i = 0; i < 16; ++i) {
-            width += GetPixel(dc, i, 8) == 0;
-            height += GetPixel(dc, 7, i) == 0;
-        }
-        EXPECT_EQ(std::pair(width, height), id == 473 ? std::pair(10, 14) : std::pair(14, 10));
-        DeleteDC(dc);
+        DrawIconEx(canvas.dc, 0, 0, static_cast<HICON>(icon), 16, 16, 0, nullptr, DI_NORMAL);
         DestroyIcon(static_cast<HICON>(icon));
+        const Picture picture = canvas.Content();
+        int width = 0, height = 0; // of the page, across its middle
+        for (size_t i = 0; i < 16; ++i) {
+            width += picture.pixels[8 * 16 + i] != kGround;
+            height += picture.pixels[16 * i + 7] != kGround;
+        }
+        EXPECT_EQ(std::pair(width, height), id == IDI_PORTRAIT ? std::pair(10, 14) : std::pair(14, 10));
     }
 }
 
