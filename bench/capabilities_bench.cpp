@@ -1,5 +1,5 @@
-// Device capabilities of the shipped model: the bin numbers and names of the paper sources whose option is
-// installed, against the same lists copied without a question.
+// Device capabilities of the shipped model: bin numbers and names of the paper sources whose options are
+// installed. The peer copies the same lists without any check.
 #include "base/records.h"
 #include "base/text.h"
 #include "paramdata/prm_file.h"

@@ -1,5 +1,6 @@
-// Opening the full colour dialog, against a bare dialog of the same template whose lists take the same
-// entries, in turn: created, filled, shown, painted once, destroyed.
+// Opens the full colour dialog and, in turn, a bare dialog of the same template with the same list entries:
+// both are created, filled, shown, painted once and destroyed.
+#include "base/dialog_ids.h"
 #include "base/entry_point.h"
 #include "base/records.h"
 #include "bench/stopwatch.h"
@@ -13,14 +14,14 @@
 namespace {
 
 constexpr int kRounds = 100;
-constexpr uint32_t kDialogId = 128;
+constexpr uint32_t kDialogId = IDD_COLOR_FULL;
 
 decltype(DDProc_DlgProc)* dlgProc;
 
 // The entries of each list, as the module has filled them.
 std::map<int, std::vector<std::wstring>> entries;
 
-// As the user-interface module does: hands over every message, and uses the answer.
+// Passes every message to the module and uses its answer, as the user-interface module does.
 INT_PTR CALLBACK RunOurs(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     int32_t handled = 0;
     const int32_t result = dlgProc(kDialogId, window, message, wParam, lParam, &handled);
@@ -84,7 +85,7 @@ int wmain(int, wchar_t** arguments) {
     HWND first = dlgProc != nullptr ? ours.Show() : nullptr;
     if (first == nullptr) {
         fprintf(stderr,
-                "dialog_bench: TELMAR_D.DLL, TELMAR_S.DLL and TELMAR_U.DLL must lie beside this program, "
+                "dialog_bench: TELMAR_D.DLL, TELMAR_S.DLL and TELMAR_U.DLL must be in this program's folder, "
                 "and it needs a screen\n");
         return 1;
     }

@@ -1,4 +1,4 @@
-// Loading and freeing the module under Windows, against a library that does nothing, in turn.
+// Loads and frees the module and, in turn, a library that does nothing.
 #include "bench/stopwatch.h"
 
 #include <cstdio>
@@ -31,7 +31,7 @@ int wmain(int, wchar_t** arguments) {
         module.push_back(MeasureLoad(folder / "TELMAR_D.DLL"));
         empty.push_back(MeasureLoad(folder / "empty.dll"));
         if (module.back() < 0 || empty.back() < 0) {
-            fprintf(stderr, "load_bench: TELMAR_D.DLL and empty.dll must lie beside this program\n");
+            fprintf(stderr, "load_bench: TELMAR_D.DLL and empty.dll must be in this program's folder\n");
             return 1;
         }
     }

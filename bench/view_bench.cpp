@@ -1,5 +1,5 @@
-// Drawing the printer's picture, against the bare system calls that the same picture takes with its bitmaps
-// already loaded and selected, in turn; and what part of it goes into loading the bitmaps.
+// Draws the printer's picture and, in turn, makes the bare system calls for the same picture with its bitmaps
+// already loaded and selected. Also measures how much of the time is spent loading bitmaps.
 #include "base/entry_point.h"
 #include "base/records.h"
 #include "base/text.h"
@@ -68,7 +68,7 @@ int wmain(int, wchar_t** arguments) {
     HMODULE module = LoadLibraryW((folder / "TELMAR_D.DLL").c_str());
     auto* draw = FindEntryPoint<decltype(DrawPrinterView)>(module, "DrawPrinterView");
     if (draw == nullptr) {
-        fprintf(stderr, "view_bench: TELMAR_D.DLL must lie beside this program\n");
+        fprintf(stderr, "view_bench: TELMAR_D.DLL must be in this program's folder\n");
         return 1;
     }
 

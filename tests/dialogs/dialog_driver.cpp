@@ -1,4 +1,4 @@
-// Drives a dialog through DDProc_DlgProc and stands between it and the system.
+// Drives a dialog through DDProc_DlgProc and replaces what it imports from the system.
 #include "dialogs/dialog_driver.h"
 
 #include <map>
@@ -200,7 +200,7 @@ RawBytes Pattern(unsigned seed) {
     return record;
 }
 
-// Holds copies of the files that go with another model; null for the model as built.
+// Copies of the product's files with another model; null for the model as built.
 std::unique_ptr<TemporaryFolder> MakeFolder(const std::wstring& model) {
     if (model.empty())
         return nullptr;

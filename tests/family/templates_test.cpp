@@ -67,7 +67,7 @@ bool Meets(RECT one, const RECT& other, int reach) {
     return IntersectRect(&one, &one, &other);
 }
 
-bool Holds(const RECT& outer, const RECT& inner) {
+bool Contains(const RECT& outer, const RECT& inner) {
     RECT common;
     return IntersectRect(&common, &outer, &inner) && EqualRect(&common, &inner);
 }
@@ -162,10 +162,10 @@ TEST_P(Templates, ControlsKeepTheMarginAndDoNotOverlap) {
     MapWindowPoints(dialog, nullptr, reinterpret_cast<POINT*>(&area), 2);
     InflateRect(&area, 2 - margin.left, 2 - margin.top); // 2 pixels: rounding
     for (auto one = controls.begin(); one != controls.end(); ++one) {
-        EXPECT_TRUE(Holds(area, one->area)) << one->id;
+        EXPECT_TRUE(Contains(area, one->area)) << one->id;
         for (auto other = one + 1; other != controls.end(); ++other)
             EXPECT_TRUE(!Meets(one->area, other->area, 0)
-                        || (one->IsGroup() && Holds(one->area, other->area)))
+                        || (one->IsGroup() && Contains(one->area, other->area)))
                 << one->id << " and " << other->id;
     }
 }

@@ -1,5 +1,5 @@
-// What lies in the DLL's image: export directory, the exports that share an entry point, imports, version
-// information, and nothing of the machine that built it. The image is read where the system has loaded it.
+// The image of the built DLL: export directory, exports that share an entry point, imports, version
+// information, and nothing of the machine that built it. Read where the system has loaded it.
 #include "support/product.h"
 
 #include <algorithm>
@@ -35,7 +35,7 @@ const ExpectedExport kExports[] = {
 
 const std::set<std::set<WORD>> kSharedEntryPoints = {{26, 28}, {34, 35}};
 
-// Libraries of the system that the module may be bound to when it is loaded.
+// System libraries that the module may import.
 const std::set<std::string> kSystemLibraries = {"advapi32.dll", "comctl32.dll", "gdi32.dll",
                                                 "kernel32.dll", "msvcrt.dll",   "user32.dll",
                                                 "version.dll",  "winspool.drv", "ws2_32.dll"};
@@ -58,7 +58,7 @@ struct Image : testing::Test {
     LoadedModule module;
 };
 
-TEST_F(Image, ExportDirectoryHasExactlyTheAgreedNamesAtTheAgreedOrdinals) {
+TEST_F(Image, ExportsThePublishedNamesAtTheirOrdinalsOnly) {
     const auto& exports = *DirectoryAt<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT);
     EXPECT_STREQ(At<char>(exports.Name), "TELMAR_D.dll");
     EXPECT_EQ(exports.Base, 1u);
@@ -100,7 +100,7 @@ TEST_F(Image, FreeFunctionsReleaseALocalBlockAndAcceptNull) {
     }
 }
 
-TEST_F(Image, FeatureNamesAreNullWhateverIsPassed) {
+TEST_F(Image, FeatureNamesAreNullForAnyArgument) {
     int anything = 0;
     for (const char* name : {"DDProc_FeatureNameItemTable", "DDProc_FeatureNameValuePtr"})
         for (void* argument : {static_cast<void*>(nullptr), static_cast<void*>(&anything)})
@@ -118,7 +118,7 @@ TEST_F(Image, ImportsSystemLibrariesOnly) {
     }
 }
 
-TEST_F(Image, VersionIsAPrinterDriversAndTheProjects) {
+TEST_F(Image, VersionIsThatOfTheProjectForAPrinterDriver) {
     const std::wstring path = LoadedPath(L"TELMAR_D.DLL").wstring();
     std::vector<BYTE> info(GetFileVersionInfoSizeW(path.c_str(), nullptr));
     ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(info.size()), info.data()));
@@ -134,7 +134,7 @@ TEST_F(Image, VersionIsAPrinterDriversAndTheProjects) {
         EXPECT_EQ(low, static_cast<DWORD>(PROJECT_VERSION_PATCH << 16));
 }
 
-TEST_F(Image, HoldsNoTraceOfWhenAndWhereItWasBuilt) {
+TEST_F(Image, HasNoTraceOfTimeAndPlaceOfTheBuild) {
     EXPECT_EQ(Headers().FileHeader.TimeDateStamp, 0u);
     EXPECT_EQ(DirectoryAt<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT)->TimeDateStamp, 0u);
 

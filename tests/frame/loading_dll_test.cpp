@@ -1,5 +1,5 @@
-// Loading and freeing the DLL: the resource library that goes with it, from which folder it comes and when it
-// goes; nothing left behind however often it happens.
+// Loading and freeing the built DLL: where its resource library is loaded from and when it is freed, and that
+// nothing is left behind.
 #include "support/product.h"
 #include "support/rounds.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr wchar_t kSibling[] = L"TELMAR_S.DLL";
 
-// Other libraries of the sibling's name, in every place where a search by bare name looks.
+// Libraries of the same name in every folder that a search by bare name covers.
 struct Decoys {
     Decoys() {
         onPath.Add(L"frame_sibling.dll", kSibling);
@@ -34,7 +34,7 @@ struct Decoys {
     wchar_t savedPath[32767] = {};
 };
 
-TEST(Loading, SiblingComesFromTheModulesFolderAndGoesWithTheModule) {
+TEST(Loading, ResourceLibraryIsLoadedFromTheModulesFolderAndFreedWithIt) {
     for (const wchar_t* name : {L"lumora ascii", L"lumora \u00FC\u0416\u30C6\u30B9\u30C8\U0001F5A8"}) {
         const TemporaryFolder folder(name);
         folder.Add(L"TELMAR_D.DLL", L"TELMAR_D.DLL");
@@ -52,8 +52,8 @@ TEST(Loading, SiblingComesFromTheModulesFolderAndGoesWithTheModule) {
     }
 }
 
-// With the spooler's library in use, as every host of a printer driver has it: wine's keeps a handle each
-// time that it is loaded.
+// The spooler's library stays loaded, as in every host of a printer driver: wine's leaks a handle at each
+// load.
 struct LoadingOften : testing::Test {
     ~LoadingOften() override { FreeLibrary(spooler); }
 
@@ -61,13 +61,13 @@ struct LoadingOften : testing::Test {
 };
 using ParameterFile = LoadingOften;
 
-// The product as it lies in its folder, with all files that go with it.
+// The product in its folder, with all its files.
 TEST_F(LoadingOften, LeavesNoHeapBlockAndNoHandle) {
     const auto load = [](int rounds) {
         for (int i = 0; i < rounds; ++i)
             LoadedModule{};
     };
-    load(10); // what the system keeps after its first loads
+    load(10); // the system caches something at the first loads
     const Holdings before = CountHoldings();
     load(Rounds(200, 1000));
     const Holdings after = CountHoldings();
@@ -75,8 +75,8 @@ TEST_F(LoadingOften, LeavesNoHeapBlockAndNoHandle) {
     EXPECT_EQ(after.handles, before.handles);
 }
 
-// Missing, empty, cut within the chain of entries, complete.
-TEST_F(ParameterFile, IsReadAndClosedAndLeavesNothingWhateverItHolds) {
+// A missing, an empty and a cut file, and the complete one.
+TEST_F(ParameterFile, IsClosedAfterLoadingAndLeavesNothingBehind) {
     constexpr wchar_t kParameterFile[] = L"TELMAR_D.PRM";
     constexpr uintmax_t kMissing = UINTMAX_MAX;
     const uintmax_t complete = fs::file_size(ProductFolder() / kParameterFile);
@@ -94,7 +94,7 @@ TEST_F(ParameterFile, IsReadAndClosedAndLeavesNothingWhateverItHolds) {
             heldBlocks[size] = CountHoldings().heapBlocks - before.heapBlocks;
             HANDLE alone = CreateFileW(file.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
                                        FILE_ATTRIBUTE_NORMAL, nullptr);
-            EXPECT_EQ(alone == INVALID_HANDLE_VALUE, size == kMissing) << "held open: a file of " << size;
+            EXPECT_EQ(alone == INVALID_HANDLE_VALUE, size == kMissing) << "still open: a file of " << size;
             CloseHandle(alone);
         }
         const Holdings after = CountHoldings();
@@ -106,7 +106,7 @@ TEST_F(ParameterFile, IsReadAndClosedAndLeavesNothingWhateverItHolds) {
     EXPECT_GE(heldBlocks[complete], heldBlocks[0] + 30) << "the model's lists";
 }
 
-TEST(ProcessEnd, WithTheModuleLoadedIsAsUsual) {
+TEST(ProcessEnd, SucceedsWithTheModuleLoaded) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_EXIT(
         {

@@ -1,4 +1,4 @@
-// Pictures of the tests: see the header.
+// Unpacks, draws, compares and writes pictures.
 #include "support/canvas.h"
 
 #include "support/product.h"
@@ -11,7 +11,7 @@
 
 namespace {
 
-// Answers the path of the file.
+// Returns the path of the file.
 std::string WriteBitmap(const std::string& name, const Picture& picture) {
     const auto width = static_cast<uint32_t>(picture.width), height = static_cast<uint32_t>(picture.height);
     RawBytes file(54 + 4 * width * height);
@@ -26,7 +26,7 @@ std::string WriteBitmap(const std::string& name, const Picture& picture) {
     return path.string();
 }
 
-// After the test that runs: "Suite.Test_1", _2 and so on; empty when it has left enough to look at.
+// Named after the running test: "Suite.Test_1", _2 and so on; empty once there are enough to look at.
 std::string NameOfPair() {
     constexpr int kMaxPairs = 5; // of one test
     static std::map<std::string, int> pairs;
@@ -43,17 +43,17 @@ ResourceBitmap::ResourceBitmap(HMODULE module, UINT id) : Picture() {
     HRSRC found = FindResourceW(module, MAKEINTRESOURCEW(id), MAKEINTRESOURCEW(2)); // RT_BITMAP
     if (found == nullptr)
         return;
-    octets = SizeofResource(module, found);
+    bytes = SizeofResource(module, found);
     const auto* const start = static_cast<const uint8_t*>(LockResource(LoadResource(module, found)));
     header = NumberAt<BITMAPINFOHEADER>(start, 0);
     width = header.biWidth;
     height = header.biHeight;
-    const size_t depth = header.biBitCount, rowOctets = (static_cast<size_t>(width) * depth + 31) / 32 * 4;
+    const size_t depth = header.biBitCount, rowBytes = (static_cast<size_t>(width) * depth + 31) / 32 * 4;
     const uint8_t* const colors = start + header.biSize;
     const uint8_t* const rows = colors + 4 * size_t{header.biClrUsed};
-    for (size_t y = static_cast<size_t>(height); y-- > 0;) // they lie from the bottom upward
+    for (size_t y = static_cast<size_t>(height); y-- > 0;) // stored from the bottom upwards
         for (size_t bit = 0; bit < static_cast<size_t>(width) * depth; bit += depth) {
-            const uint8_t* color = rows + y * rowOctets + bit / 8;
+            const uint8_t* color = rows + y * rowBytes + bit / 8;
             if (depth <= 8)
                 color = colors + 4 * (*color >> (8 - depth - bit % 8) & ((1 << depth) - 1));
             pixels.push_back(static_cast<uint32_t>(color[2] << 16 | color[1] << 8 | color[0]));

@@ -1,5 +1,5 @@
-// Pictures of the tests: the module's bitmaps unpacked from its resources by hand, canvases to draw on, and
-// their comparison.
+// Pictures for tests: bitmaps unpacked from a module's resources without the system's help, canvases to draw
+// on, and their comparison.
 #ifndef SUPPORT_CANVAS_H
 #define SUPPORT_CANVAS_H
 
@@ -9,22 +9,22 @@
 #include <windows.h>
 
 constexpr uint32_t kWhite = 0xFFFFFF;
-constexpr uint32_t kGround = 0x3060C0; // of a canvas, to show what is not drawn
+constexpr uint32_t kGround = 0x3060C0; // of a canvas, where nothing is drawn
 
 struct Picture {
     int width, height;
-    std::vector<uint32_t> pixels; // from the top left corner on, as 0xRRGGBB
+    std::vector<uint32_t> pixels; // row by row from the top, 0xRRGGBB
 };
 
-// A bitmap as it lies in the resources; all zero when there is none of this id.
+// A bitmap of the resources; all zero when there is none with this identifier.
 struct ResourceBitmap : Picture {
     ResourceBitmap(HMODULE module, UINT id);
 
     BITMAPINFOHEADER header = {};
-    DWORD octets = 0; // of the whole resource
+    DWORD bytes = 0; // of the whole resource
 };
 
-// A 32-bit section with a context of its own, in one colour at first.
+// A 32-bit DIB section with a context of its own, initially of one colour.
 struct Canvas {
     Canvas(int canvasWidth, int canvasHeight, uint32_t color = kGround);
     ~Canvas();
@@ -32,7 +32,7 @@ struct Canvas {
     Canvas& operator=(const Canvas&) = delete;
 
     void Clear(uint32_t color = kGround) const;
-    // Puts a picture here, pixel by pixel: SRCAND, SRCINVERT, SRCPAINT or SRCCOPY.
+    // Combines a picture with the canvas, pixel by pixel: SRCAND, SRCINVERT, SRCPAINT or SRCCOPY.
     void Combine(const Picture& picture, POINT topLeft, DWORD rasterOperation) const;
     Picture Content() const;
 
@@ -43,11 +43,9 @@ struct Canvas {
     HGDIOBJ own;
 };
 
-// For a test that expects them to be the same: a pair that differs is left as two bitmaps beside the test
-// program, named after the test.
+// Fails when the pictures differ, and writes both as bitmaps named after the test next to the test program.
 testing::AssertionResult SamePicture(const Canvas& got, const Canvas& wanted);
 
-// For a test that goes by the answer.
 bool IsSamePicture(const Canvas& got, const Canvas& wanted);
 
 #endif

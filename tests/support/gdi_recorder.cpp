@@ -1,4 +1,4 @@
-// Stands between the module and the system's drawing services: see the header.
+// Replaces the module's imports of drawing services and records the calls.
 #include "support/gdi_recorder.h"
 
 #include <gtest/gtest.h>
@@ -53,7 +53,7 @@ int WINAPI ReadObject(HANDLE object, int size, void* description) {
     return Fails("GetObjectW", GetObjectType(object)) ? 0 : GetObjectW(object, size, description);
 }
 
-// Only what the module made can fail to be selected: what was selected before always goes back.
+// Only objects that the module has made can fail to be selected; the former object can always be restored.
 HGDIOBJ WINAPI Select(HDC context, HGDIOBJ object) {
     const DWORD type = GetObjectType(object);
     if (recording->live.count(object) != 0 && Fails("SelectObject", type))
@@ -66,20 +66,20 @@ HGDIOBJ WINAPI Select(HDC context, HGDIOBJ object) {
 
 BOOL WINAPI DeleteNoted(HGDIOBJ object) {
     if (recording->live.erase(object) == 0)
-        recording->misdeeds += "deletes what it does not own; ";
+        recording->errors += "deletes what it does not own; ";
     for (const auto& context : recording->selected)
         for (const auto& of : context.second)
             if (of.second == object)
-                recording->misdeeds += "deletes what is still selected; ";
+                recording->errors += "deletes what is still selected; ";
     return DeleteObject(object);
 }
 
 BOOL WINAPI DeleteContext(HDC context) {
     if (recording->live.erase(context) == 0)
-        recording->misdeeds += "deletes a context that it does not own; ";
+        recording->errors += "deletes a context that it does not own; ";
     for (const auto& of : recording->selected[context])
         if (recording->live.count(of.second) != 0)
-            recording->misdeeds += "deletes a context with its object still selected; ";
+            recording->errors += "deletes a context with its object still selected; ";
     recording->selected.erase(context);
     return DeleteDC(context);
 }
@@ -94,7 +94,7 @@ int WINAPI ReadCapability(HDC context, int index) {
     return GetDeviceCaps(context, index) * (context == recording->fineContext && index == LOGPIXELSY ? 2 : 1);
 }
 
-// Where the module's import table holds this function's address; null when it does not import it.
+// The slot of the module's import table with this function; null when the module does not import it.
 void** ImportSlot(HMODULE module, void* function) {
     char* const base = reinterpret_cast<char*>(module);
     const auto* head =
@@ -141,7 +141,7 @@ GdiRecorder::GdiRecorder(HMODULE module)
 }
 
 GdiRecorder::~GdiRecorder() {
-    EXPECT_EQ(Complaints(), "");
+    EXPECT_EQ(Errors(), "");
 }
 
 void GdiRecorder::Fail(const char* function, size_t nth) {
@@ -153,6 +153,6 @@ void GdiRecorder::Fail(const char* function, size_t nth) {
     copies.clear();
 }
 
-std::string GdiRecorder::Complaints() const {
-    return misdeeds + (live.empty() ? "" : std::to_string(live.size()) + " objects left behind");
+std::string GdiRecorder::Errors() const {
+    return errors + (live.empty() ? "" : std::to_string(live.size()) + " objects left behind");
 }

@@ -1,5 +1,5 @@
-// Stands between the module and the system's drawing services, through the module's import table: notes what
-// the module makes, selects, deletes and draws on, and lets chosen calls fail.
+// Records what the module creates, selects, deletes and draws on, and lets chosen calls fail. Works through
+// the module's import table.
 #ifndef SUPPORT_GDI_RECORDER_H
 #define SUPPORT_GDI_RECORDER_H
 
@@ -9,7 +9,7 @@
 #include <vector>
 #include <windows.h>
 
-// A function that a loaded module imports is another until the end.
+// Replaces a function that a loaded module imports, until the end of the scope.
 struct PatchedImport {
     template <typename Function>
     PatchedImport(HMODULE module, Function* system, Function* other)
@@ -26,30 +26,30 @@ struct PatchedImport {
 // One at a time.
 struct GdiRecorder {
     explicit GdiRecorder(HMODULE module);
-    ~GdiRecorder(); // expects no complaints
+    ~GdiRecorder(); // expects no errors
 
-    // Lets the n-th call of a function (of any, without a name) from now on fail, counted from 1, or each.
-    // What is noted of calls begins anew.
+    // From now on the n-th call of a function (with an empty name: of any) fails, counted from 1, or every
+    // call. The records of calls are cleared.
     void Fail(const char* function, size_t nth);
     static constexpr size_t kEvery = SIZE_MAX;
-    // What has been left behind or done in the wrong order; empty when all is well.
-    std::string Complaints() const;
+    // What was left behind or done in the wrong order; empty when there is nothing.
+    std::string Errors() const;
 
     std::vector<UINT> ids;          // of the bitmaps, in the order of loading
     std::map<HDC, int> copies;      // block transfers by target
-    std::map<UINT, HBITMAP> served; // bitmaps that the resources shall hold besides; copies are served
-    HDC fineContext = nullptr;      // the context of twice the usual resolution
+    std::map<UINT, HBITMAP> served; // more bitmaps of the resources; copies are returned
+    HDC fineContext = nullptr;      // reports twice the usual resolution
 
-    bool hasFailed = false; // a call was let fail:
-    size_t loadsBefore = 0; // bitmaps asked for before, or by it
-    DWORD failedType = 0;   // OBJ_BITMAP or OBJ_FONT, where the call is about either
+    bool hasFailed = false; // a call has failed:
+    size_t loadsBefore = 0; // bitmaps requested until then, including that call
+    DWORD failedType = 0;   // OBJ_BITMAP or OBJ_FONT, if the call concerns either
 
     // The recorder's own.
     std::string failing;
     size_t failingCall = 0, calls = 0;
     std::set<HGDIOBJ> live;
     std::map<HDC, std::map<DWORD, HGDIOBJ>> selected; // by type of object
-    std::string misdeeds;
+    std::string errors;
     PatchedImport patches[10];
 };
 

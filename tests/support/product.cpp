@@ -1,4 +1,4 @@
-// The built module as its callers meet it: see the header.
+// Loads the built module and counts what the process has.
 #include "support/product.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-// The built module as its callers meet it: a file that is loaded, asked for exports and freed. Knows nothing
-// of its sources. Used by every test of this folder.
+// The built module as its callers see it: a file that is loaded, asked for exports and freed. Independent of
+// the module's sources. Used by all tests of the DLL.
 #ifndef SUPPORT_PRODUCT_H
 #define SUPPORT_PRODUCT_H
 
@@ -9,7 +9,7 @@
 // Folder of the running test program, where the build puts the product.
 std::filesystem::path ProductFolder();
 
-// Full path of a library that is loaded in this process; empty when none of this name is.
+// Full path of a loaded library; empty when no library of this name is loaded.
 std::filesystem::path LoadedPath(const wchar_t* name);
 
 // The module, loaded from a folder and freed at the end.
@@ -34,13 +34,13 @@ struct TemporaryFolder {
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    // Puts a copy of the built file here under this name, and answers its path.
+    // Copies the built file here under this name and returns the copy's path.
     std::filesystem::path Add(const wchar_t* builtFile, const wchar_t* name) const;
 
     std::filesystem::path path;
 };
 
-// What the process holds now.
+// What the process has at present.
 struct Holdings {
     size_t heapBlocks;
     size_t handles;

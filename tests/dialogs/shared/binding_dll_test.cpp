@@ -67,11 +67,11 @@ TEST_F(FullDialog, StopIconTablePairsNeighbours) {
         const HWND icon = Control(NumberAt<int32_t>(record, 0)),
                    control = Control(NumberAt<uint16_t>(record, 4));
         EXPECT_EQ(icon == nullptr, control == nullptr);
-        RECT beside = {}, at = {}, shared = {};
+        RECT place = {}, at = {}, shared = {};
         GetWindowRect(icon, &at);
-        GetWindowRect(control, &beside);
+        GetWindowRect(control, &place);
         InflateRect(&at, 8, 4);
-        EXPECT_TRUE(icon == nullptr || IntersectRect(&shared, &at, &beside)) << GetDlgCtrlID(icon);
+        EXPECT_TRUE(icon == nullptr || IntersectRect(&shared, &at, &place)) << GetDlgCtrlID(icon);
         pairs += icon != nullptr;
     }
     EXPECT_EQ(pairs, 20);

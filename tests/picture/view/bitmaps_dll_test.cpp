@@ -1,4 +1,4 @@
-// The bitmaps of the module's resources: sizes, depths, colour counts, backgrounds and visible areas.
+// The bitmaps in the built module's resources: sizes, depths, colour counts, backgrounds and visible areas.
 #include "support/canvas.h"
 #include "support/product.h"
 
@@ -6,7 +6,7 @@
 
 namespace {
 
-// Where a bitmap is not white: left, right, top, bottom, all counted in.
+// The part of a bitmap that is not white: left, right, top, bottom, all inclusive.
 using Extent = std::vector<int>;
 constexpr struct {
     UINT id;
@@ -19,7 +19,7 @@ constexpr struct {
         {137, {85, 135, 73, 86}},  {138, {37, 135, 69, 163}},
 },
   kMasks[] = {
-      // each behind its image
+      // each after its image
       {112, {96, 155, 120, 128}},  {114, {96, 155, 129, 137}},  {116, {86, 127, 138, 160}},
       {118, {121, 156, 138, 160}}, {120, {155, 184, 105, 123}}, {122, {155, 192, 113, 159}},
       {142, {72, 121, 73, 81}},    {144, {72, 121, 73, 81}},    {146, {84, 121, 79, 87}},
@@ -38,29 +38,29 @@ Extent ExtentOf(const Picture& picture) {
     return extent;
 }
 
-struct BitmapConventions : testing::Test {
-    // Checks what a header says and that the resource holds just that.
+struct Bitmaps : testing::Test {
+    // Checks the header and that the resource has the size that follows from it.
     ResourceBitmap Read(UINT id, int width, int height, WORD depth, DWORD colors) const {
         const ResourceBitmap bitmap(module.handle, id);
-        const DWORD rowOctets = (static_cast<DWORD>(width) * depth + 31) / 32 * 4;
+        const DWORD rowBytes = (static_cast<DWORD>(width) * depth + 31) / 32 * 4;
         EXPECT_TRUE(bitmap.width == width && bitmap.height == height && bitmap.header.biBitCount == depth)
             << id;
         EXPECT_EQ(bitmap.header.biCompression, static_cast<DWORD>(BI_RGB)) << id;
         EXPECT_EQ(bitmap.header.biClrUsed, colors) << id;
-        EXPECT_EQ(bitmap.octets, 40 + 4 * colors + rowOctets * static_cast<DWORD>(height)) << id;
+        EXPECT_EQ(bitmap.bytes, 40 + 4 * colors + rowBytes * static_cast<DWORD>(height)) << id;
         return bitmap;
     }
 
     LoadedModule module;
 };
 
-TEST_F(BitmapConventions, PartsLieOnWhiteInTheirPlaces) {
+TEST_F(Bitmaps, PartsLieOnWhiteInTheirPlaces) {
     for (const auto& [id, extent] : kParts)
         EXPECT_EQ(ExtentOf(Read(id, 200, 200, 8, 256)), Extent(extent, extent + 4)) << id;
 }
 
-// AND with body and cabinet, and with each other where both may stand, leaves the units' colours as they are.
-TEST_F(BitmapConventions, NothingDarkensWherePartsMeet) {
+// AND with body and cabinet does not change a unit's colours, nor do input and output units overlap.
+TEST_F(Bitmaps, UnitsKeepTheirColoursWherePartsOverlap) {
     const ResourceBitmap body(module.handle, 101), cabinet(module.handle, 103), input(module.handle, 104);
     for (const auto& part : kParts) {
         const ResourceBitmap unit(module.handle, part.id);
@@ -75,7 +75,7 @@ TEST_F(BitmapConventions, NothingDarkensWherePartsMeet) {
     }
 }
 
-TEST_F(BitmapConventions, HighlightsArePairsOfMaskAndImage) {
+TEST_F(Bitmaps, HighlightsArePairsOfMaskAndImage) {
     for (const auto& [id, extent] : kMasks) {
         const ResourceBitmap image = Read(id - 1, 200, 200, 8, 256), mask = Read(id, 200, 200, 8, 256);
         EXPECT_EQ(ExtentOf(mask), Extent(extent, extent + 4)) << id;
@@ -90,14 +90,14 @@ TEST_F(BitmapConventions, HighlightsArePairsOfMaskAndImage) {
     }
 }
 
-TEST_F(BitmapConventions, BadgesHaveFourColorsAndDiffer) {
+TEST_F(Bitmaps, BadgesHaveFourColorsAndDiffer) {
     EXPECT_NE(Read(201, 39, 17, 4, 4).pixels, Read(202, 39, 17, 4, 4).pixels);
 }
 
-TEST_F(BitmapConventions, OneLogoOfTwoAndNoMasks) {
+TEST_F(Bitmaps, OnlyTheVersionLogoExistsWithoutAMask) {
     Read(502, 176, 120, 24, 0);
     for (const UINT absent : {500u, 501u, 503u})
-        EXPECT_EQ(ResourceBitmap(module.handle, absent).octets, 0u) << absent;
+        EXPECT_EQ(ResourceBitmap(module.handle, absent).bytes, 0u) << absent;
 }
 
 } // namespace

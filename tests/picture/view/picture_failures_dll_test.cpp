@@ -1,4 +1,4 @@
-// The printer's picture when the system refuses something in the middle, and what is left behind afterwards.
+// The printer's picture when a system call fails, and what is left behind afterwards.
 #include "picture/view/view_model.h"
 #include "support/gdi_recorder.h"
 #include "support/live_objects.h"
@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr RECT kRectangle = {12, 9, 331, 219}; // off the origin: memory and target differ in place
+constexpr RECT kRectangle = {12, 9, 331, 219}; // off the origin: positions in memory and target differ
 const Choice kChoice = {2, 1, 1, 0, 1, 0, true, "InTrayManual", 1 << 2};
 const std::wstring kName = L"QUORVANE lumora R880";
 
@@ -23,8 +23,7 @@ struct PictureFailures : testing::Test {
     Canvas got{350, 230}, wanted{350, 230};
 };
 
-// Nothing is drawn on it besides: what the picture does not cover stays. Its resolution counts, not the
-// memory's.
+// Pixels outside the picture stay. The font follows the resolution of the target, not of the memory bitmap.
 TEST_F(PictureFailures, TargetIsWrittenByOneTransfer) {
     GdiRecorder recorder(module.handle);
     recorder.fineContext = got.dc;
@@ -35,8 +34,8 @@ TEST_F(PictureFailures, TargetIsWrittenByOneTransfer) {
     EXPECT_TRUE(SamePicture(got, wanted));
 }
 
-// What the refused call takes out of the picture.
-Mishap MishapOf(const GdiRecorder& recorder) {
+// What the failed call costs.
+Failure FailureOf(const GdiRecorder& recorder) {
     if (recorder.loadsBefore == 0)
         return {SIZE_MAX, true, false};
     if (recorder.failedType == OBJ_FONT)
@@ -44,9 +43,9 @@ Mishap MishapOf(const GdiRecorder& recorder) {
     return {recorder.loadsBefore - 1, false, false};
 }
 
-TEST_F(PictureFailures, EachRefusedCallCostsItsOwnPartOnly) {
+TEST_F(PictureFailures, AFailedCallCostsOnlyItsPart) {
     const std::map<std::string, size_t> kCalls = {
-        {"CreateCompatibleDC", ids.size()}, // memory, and each bitmap but for the badge when it is measured
+        {"CreateCompatibleDC", ids.size()}, // the memory, and each bitmap except the measured badge
         {"CreateCompatibleBitmap", 1},      {"LoadImageW", ids.size()},
         {"GetObjectW", ids.size()},         {"SelectObject", ids.size() + 1}, // the last one is the font
         {"CreateFontIndirectW", 1},
@@ -59,25 +58,25 @@ TEST_F(PictureFailures, EachRefusedCallCostsItsOwnPartOnly) {
             for (Canvas* canvas : {&got, &wanted})
                 std::fill_n(canvas->bits, 350 * 230, kGround);
             records.Draw(module, got.dc, kRectangle);
-            const Mishap mishap = MishapOf(recorder);
+            const Failure failure = FailureOf(recorder);
             EXPECT_TRUE(recorder.hasFailed);
-            EXPECT_EQ(recorder.copies[got.dc] == 1, !mishap.isStraight);
-            DrawWanted(module.handle, wanted, kRectangle, ids, kName, mishap);
+            EXPECT_EQ(recorder.copies[got.dc] == 1, !failure.isStraight);
+            DrawWanted(module.handle, wanted, kRectangle, ids, kName, failure);
             EXPECT_TRUE(SamePicture(got, wanted));
         }
 }
 
-TEST_F(PictureFailures, ManyDrawingsLeaveNothing) {
+TEST_F(PictureFailures, ManyDrawingsLeaveNothingBehind) {
     size_t before = 0;
     GdiRecorder recorder(module.handle);
     for (int i = 0; i < Rounds(2000, 10000); ++i) {
-        const bool isFull = i % 50 == 0; // a picture with all that it can have takes its time
+        const bool isFull = i % 50 == 0; // a complete picture takes long
         records.request.U8(0, isFull);
         records.settings[2] = isFull ? 2 : 0;
         records.Draw(module, got.dc, isFull ? kRectangle : RECT{0, 0, 30, 20});
-        ASSERT_EQ(recorder.Complaints(), "") << i;
+        ASSERT_EQ(recorder.Errors(), "") << i;
         if (i == 0)
-            before = CountFreeObjects(); // without what the system keeps for itself
+            before = CountFreeObjects(); // without what the system caches
     }
     EXPECT_GT(before, 10000u);
     EXPECT_EQ(CountFreeObjects(), before);

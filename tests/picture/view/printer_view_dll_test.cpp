@@ -1,4 +1,4 @@
-// The printer's picture through the export: its bitmaps, pixels and caption, and records that are incomplete.
+// DrawPrinterView through the built module: bitmaps, pixels and caption, and incomplete records.
 #include "picture/view/view_model.h"
 #include "support/gdi_recorder.h"
 #include "support/product.h"
@@ -12,19 +12,19 @@ struct PrinterView : testing::Test {
     // Draws on a canvas as large as the rectangle's far corner, and compares.
     testing::AssertionResult IsAsWanted(const ViewRecords& records, const std::vector<UINT>& ids,
                                         const RECT& rectangle = {0, 0, 200, 200},
-                                        const std::wstring& caption = {}, const Mishap& mishap = {}) const {
+                                        const std::wstring& caption = {}, const Failure& failure = {}) const {
         const int width = std::max({rectangle.right, rectangle.left, 1L}) + 10;
         const int height = std::max({rectangle.bottom, rectangle.top, 1L}) + 10;
         Canvas got(width, height), wanted(width, height);
         records.Draw(module, got.dc, rectangle);
-        DrawWanted(module.handle, wanted, rectangle, ids, caption, mishap);
+        DrawWanted(module.handle, wanted, rectangle, ids, caption, failure);
         return SamePicture(got, wanted);
     }
 
     LoadedModule module;
 };
 
-// Every combination that the rules know. Without the paper's way, sources and flags are as good as one.
+// Every combination that the rules distinguish. Without a paper path, sources and flags make no difference.
 void ForEachChoice(const std::function<void(const Choice&)>& use) {
     std::vector<uint32_t> flagSets = {0x3FE, 0};
     for (uint32_t a = 1; a <= 9; ++a)
@@ -42,8 +42,8 @@ void ForEachChoice(const std::function<void(const Choice&)>& use) {
             }
 }
 
-// Which bitmaps, and in which order, for every combination; then each picture that they make, pixel by pixel.
-TEST_F(PrinterView, EveryCombination) {
+// First the order of the bitmaps for every combination, then each different picture, pixel by pixel.
+TEST_F(PrinterView, EveryCombinationIsDrawnInOrder) {
     ViewRecords records(UnitFeatures());
     std::map<std::vector<UINT>, Choice> pictures;
     int wrong = 0;
@@ -73,7 +73,7 @@ TEST_F(PrinterView, EveryCombination) {
     EXPECT_EQ(wrong, 0);
 }
 
-TEST_F(PrinterView, RectanglesOfAnySizeAndPlace) {
+TEST_F(PrinterView, RectanglesOfAnySizeAndPositionAreFilled) {
     constexpr RECT kRectangles[] = {
         {0, 0, 200, 200},   {0, 0, 201, 203},   {0, 0, 333, 222},   {0, 0, 120, 90},    {0, 0, 39, 17},
         {0, 0, 1, 1},       {0, 0, 7, 400},     {11, 23, 211, 223}, {30, 40, 131, 97},  {-15, -7, 186, 194},
@@ -105,7 +105,7 @@ TEST_F(PrinterView, CaptionNamesTheSelectedMachine) {
     const Feature two = {"opmachine", {"A", "B"}, {L"A", L"Two"}},
                   longer = {"OpMachines", {"A", "B"}, {L"A", L"B"}};
     const struct {
-        std::vector<Feature> machines; // behind the option features
+        std::vector<Feature> machines; // after the option features
         int32_t selected;
         std::wstring caption;
     } kCases[] = {
@@ -131,19 +131,19 @@ TEST_F(PrinterView, CaptionNamesTheSelectedMachine) {
         if (!c.machines.empty())
             records.settings[6] = c.selected;
         if (c.caption == full)
-            records.items[6].Wide(2 * 144, L"XX"); // what lies behind the name
+            records.items[6].Wide(2 * 144, L"XX"); // in the record after the name
         for (const RECT& rectangle : {RECT{0, 0, 700, 200}, RECT{9, 5, 640, 210}})
             EXPECT_TRUE(IsAsWanted(records, WantedIds(choice), rectangle, c.caption))
                 << c.machines.size() << ' ' << c.selected;
     }
 
-    Canvas one(700, 200), other(700, 200); // texts show at all on this system
+    Canvas one(700, 200), other(700, 200); // this system does draw texts
     DrawWanted(module.handle, one, {0, 0, 700, 200}, WantedIds(choice), full);
     DrawWanted(module.handle, other, {0, 0, 700, 200}, WantedIds(choice), L"");
-    EXPECT_FALSE(one.Content().pixels == other.Content().pixels);
+    EXPECT_FALSE(IsSamePicture(one, other));
 }
 
-TEST_F(PrinterView, WhatNamesNoItemInstallsNothing) {
+TEST_F(PrinterView, ChoicesWithoutAnItemInstallNothing) {
     ViewRecords records(UnitFeatures({{"OpMachine", {"A", "B"}, {L"A", L"B"}}}));
     const std::vector<UINT> bare = WantedIds({});
     for (const int32_t index : {-1, 5, 1000000, INT32_MIN, INT32_MAX}) {
@@ -192,8 +192,8 @@ TEST_F(PrinterView, LaterFeatureOverridesBothWays) {
     }
 }
 
-// What an end record holds besides its empty key, and what lies behind it.
-TEST_F(PrinterView, NothingBehindTheEndIsRead) {
+// The rest of an end record, and the records after it.
+TEST_F(PrinterView, NothingAfterTheEndIsRead) {
     ViewRecords records({{"OpHDD", {"DisOpHDD", "", "EnaOpHDD"}, {}},
                          {"", {"OpMachine", "OpMachine"}, {L"left", L"over"}},
                          {"OpInTrayUnit", {"OpInTrayUnit1"}, {}},

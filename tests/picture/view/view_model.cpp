@@ -1,4 +1,4 @@
-// The printer's picture as the tests see it: see the header.
+// Builds the records and composes the picture from the bitmaps, pixel by pixel.
 #include "picture/view/view_model.h"
 
 #include <algorithm>
@@ -62,7 +62,7 @@ ViewRecords::ViewRecords(const std::vector<Feature>& list)
         items.push_back(table);
         features.Text(i * kFeatureOctets + 4, list[i].key);
     }
-    for (size_t i = 0; i < list.size(); ++i) // where they stay
+    for (size_t i = 0; i < list.size(); ++i) // now that they no longer move
         features.Pointer(i * kFeatureOctets + 144, items[i].bytes.data());
     request.Pointer(1, features.bytes.data()).Pointer(9, settings.data());
 }
@@ -118,27 +118,27 @@ std::vector<UINT> WantedIds(const Choice& choice) {
 }
 
 void DrawWanted(HMODULE module, Canvas& target, const RECT& rectangle, const std::vector<UINT>& ids,
-                const std::wstring& caption, const Mishap& mishap, int dotsPerInch) {
+                const std::wstring& caption, const Failure& failure, int dotsPerInch) {
     const LONG width = std::abs(rectangle.right - rectangle.left),
                height = std::abs(rectangle.bottom - rectangle.top);
     Canvas memory(width, height, 0);
-    Canvas& canvas = mishap.isStraight ? target : memory;
+    Canvas& canvas = failure.isStraight ? target : memory;
     FillRect(canvas.dc, &rectangle, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
     for (size_t i = 0; i < ids.size(); ++i) {
         const bool isBadge = i + 2 >= ids.size();
-        if (i == mishap.skipped || i + 2 == ids.size())
+        if (i == failure.skipped || i + 2 == ids.size())
             continue;
         const ResourceBitmap& bitmap = Bitmap(module, ids[i]);
         const bool isImage = ids[i] % 2 != 0 && ids[i] > 110 && (ids[i] < 130 || ids[i] > 140) && !isBadge;
         POINT corner = {rectangle.left + width / 2 - 100, rectangle.top + height / 2 - 100};
-        if (isBadge) // 39 x 17, centre from its size, where that could be read
-            corner = mishap.skipped + 2 == ids.size()
+        if (isBadge) // 39 x 17; its place follows from its size, 0 when that could not be read
+            corner = failure.skipped + 2 == ids.size()
                          ? POINT{rectangle.right - 8 - 19, rectangle.top + 8 - 8}
                          : POINT{rectangle.right - 19 - 8 - 19, rectangle.top + 8};
         canvas.Combine(bitmap, corner, isImage ? SRCINVERT : SRCAND);
     }
     if (!caption.empty())
-        Write(canvas.dc, {rectangle.left + 4, rectangle.top + 4}, caption, mishap.hasNoFont, dotsPerInch);
-    if (!mishap.isStraight)
+        Write(canvas.dc, {rectangle.left + 4, rectangle.top + 4}, caption, failure.hasNoFont, dotsPerInch);
+    if (!failure.isStraight)
         target.Combine(memory.Content(), {0, 0}, SRCCOPY);
 }
