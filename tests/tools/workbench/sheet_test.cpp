@@ -1,6 +1,6 @@
 // `workbench tour` as a process, on a screen and with simulated printers: the program uses the property
 // sheet, the tests check the report.
-#include "workbench/workbench_run.h"
+#include "tools/workbench/workbench_run.h"
 
 #include <fstream>
 

@@ -1,7 +1,7 @@
 // The workbench as a process: its output, its exit codes and its messages. Expected facts are those of the
 // shipped model file.
 #include "support/print_queue.h"
-#include "workbench/workbench_run.h"
+#include "tools/workbench/workbench_run.h"
 
 #include <algorithm>
 

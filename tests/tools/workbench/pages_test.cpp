@@ -5,7 +5,7 @@
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
-#include "workbench/workbench_run.h"
+#include "tools/workbench/workbench_run.h"
 
 #include <set>
 
