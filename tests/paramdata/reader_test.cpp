@@ -210,24 +210,4 @@ TEST(Reader, StringValues) {
     }
 }
 
-TEST(Reader, Numbers) {
-    // clang-format off
-    const struct {
-        const char* text;
-        uint32_t only;
-        uint16_t first, second; // 77: left as it was
-    } cases[] = {
-        {"", 0, 77, 77},            {"none", 0, 77, 77},     {"A4 210mm", 4, 4, 210}, {"Tray 12", 12, 12, 77},
-        {"600x600", 600, 600, 600}, {"PCL6 PS3", 6, 6, 3},   {"-5", 5, 5, 77},        {"007.9", 7, 7, 9},
-        {"1 2 3", 1, 1, 2},         {"\xB2\xB3 1", 1, 1, 77}, {"70000 65536", 70000, 4464, 0}};
-    // clang-format on
-    for (const auto& c : cases) {
-        uint16_t first = 77, second = 77;
-        PrmParseTwoNumbers(c.text, first, second);
-        EXPECT_EQ(PrmParseFirstNumber(c.text), c.only) << c.text;
-        EXPECT_EQ(first, c.first) << c.text;
-        EXPECT_EQ(second, c.second) << c.text;
-    }
-}
-
 } // namespace
