@@ -81,7 +81,7 @@ TEST(WorkbenchPictures, ViewAppliesReportedOptionsOfEitherTransport) {
             RunWorkbench(L"view --json --from 127.0.162.1" + pictures.Out(L"view.png"), c.folder);
         const Json view = Json::parse(result.output);
         EXPECT_NE(Contents(pictures.path / "view.png"), plain);
-        EXPECT_EQ(view["printer"], Json({{"address", "127.0.162.1"}, {"road", c.transport}}));
+        EXPECT_EQ(view["printer"], Json({{"address", "127.0.162.1"}, {"transport", c.transport}}));
         const Json items = Pick(view["options"], "item");
         EXPECT_EQ(std::count(items.begin(), items.end(), c.reported), 1) << items;
         EXPECT_EQ(std::count(items.begin(), items.end(), c.notReported), 0) << items;

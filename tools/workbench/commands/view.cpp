@@ -51,7 +51,7 @@ Document ApplyOptionsFrom(const FamilyFiles& family, const std::string& agent, O
     const DeviceOptions device = AskDeviceOptions(family, agent);
     for (const OptionRequestItem& answer : device.answers)
         ApplyReportedOption(options, answer.key, answer.value);
-    return {{"address", agent}, {"road", device.transport}};
+    return {{"address", agent}, {"transport", device.transport}};
 }
 
 } // namespace
