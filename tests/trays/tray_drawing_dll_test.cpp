@@ -82,6 +82,9 @@ TEST_F(RowDrawing, ColorsTextsAndIcons) {
 
 TEST_F(RowDrawing, UsesTheIconsOfTheUserInterfaceModule) {
     const auto images = reinterpret_cast<HIMAGELIST>(List(LVM_GETIMAGELIST, LVSIL_SMALL));
+    IMAGEINFO info = {};
+    ImageList_GetImageInfo(images, 0, &info);
+    EXPECT_NE(info.hbmMask, nullptr);
     for (const int icon : {0, 1}) {
         HICON file =
             static_cast<HICON>(LoadImageW(GetModuleHandleW(L"TELMAR_U.DLL"), MAKEINTRESOURCEW(473 + icon),

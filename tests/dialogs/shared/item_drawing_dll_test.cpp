@@ -67,21 +67,19 @@ TEST_F(Drawing, TextFollowsTheItemData) {
         int list;
         LONG_PTR data;
         std::wstring text;
-    } cases[] = {
-        {1504, 1, L"sRGB"},
-        {1509, 256, L"Camera Hard disk"},
-        {1513, 257, L"Scanner (Office) Memory"},
-        {1504, 258, L""},
-        {1504, 255, L""},
-        {1504, -1, L""},
-        {1599, 0, L"Automatic"},
-        {1584, 129, L"Press B (Coated) Built in, hard disk"},
-        {1524, 5, L"DIC"},
-        {1524, 129, L"Sim B (Q) "},
-        {1524, 6, L""},
-        {1354, 128, L""},
-        {1627, 1, L"Black and grey"},
-    };
+    } cases[] = {{1504, 1, L"sRGB"},
+                 {1509, 256, L"Camera Hard disk"},
+                 {1513, 257, L"Scanner (Office) Memory"},
+                 {1504, 258, L""},
+                 {1504, 255, L""},
+                 {1504, -1, L""},
+                 {1599, 0, L"Automatic"},
+                 {1524, 5, L"DIC"},
+                 {1584, 129, L"Press B (Coated) Built in, hard disk"},
+                 {1524, 129, L"Sim B (Q) "},
+                 {1524, 6, L""},
+                 {1354, 128, L""},
+                 {1627, 1, L"Black and grey"}};
     for (const auto& row : cases) {
         SCOPED_TRACE(testing::Message() << row.list << ", data " << row.data);
         Draw(Item(row.list, static_cast<ULONG_PTR>(row.data), ODA_DRAWENTIRE, 0));
@@ -93,8 +91,10 @@ TEST_F(Drawing, TextFollowsTheItemData) {
     Draw(Item(1592, 128, ODA_DRAWENTIRE, 0));
     WantBackground(COLOR_WINDOW);
     EXPECT_TRUE(SamePicture(got, wanted));
-    Close();
-    DialogDrawing basic(kColorDialogs[5]); // draws profiles, although it lists none
+}
+
+TEST(BasicDialog, DrawsProfilesAlthoughItListsNone) {
+    DialogDrawing basic(kColorDialogs[5]);
     basic.Draw(basic.Item(1504, 256, ODA_DRAWENTIRE, 0));
     basic.WantBackground(COLOR_WINDOW);
     basic.WantText(L"Camera Hard disk", 20, COLOR_WINDOWTEXT);

@@ -21,9 +21,8 @@ constexpr uint32_t kTrayDialogId = IDD_TRAYS_6_ATTRIBUTES; // for all kinds
 constexpr uint16_t kChangedHintsId =
     TELMAR_TRAY_BUTTON_PAGE; // what DispHintControl gets after a change: the button's page
 constexpr uint32_t kHelpTopic = 7300;
-constexpr int kIconSize = 16; // pixels
-constexpr uint16_t kOrientationIcons[] = {IDI_PORTRAIT,
-                                          IDI_LANDSCAPE}; // portrait, landscape; of the user-interface module
+constexpr int kIconSize = 16;                                           // pixels
+constexpr uint16_t kOrientationIcons[] = {IDI_PORTRAIT, IDI_LANDSCAPE}; // of the user-interface module
 
 HWND trayHintToolWindow;
 
