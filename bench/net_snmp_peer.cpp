@@ -25,10 +25,10 @@ void CloseSequence(u_char* start, const u_char* end, u_char tag) {
 
 } // namespace
 
-size_t PeerBuildRequest(const char* community, long requestId, const uint32_t* arcs, size_t arcCount,
+size_t PeerBuildRequest(const char* community, long requestId, const uint32_t* ids, size_t idCount,
                         uint8_t* to, size_t capacity) {
     oid name[MAX_OID_LEN];
-    std::copy_n(arcs, arcCount, name);
+    std::copy_n(ids, idCount, name);
     const long zero = 0;
     size_t left = capacity;
     u_char* at = to;
@@ -42,7 +42,7 @@ size_t PeerBuildRequest(const char* community, long requestId, const uint32_t* a
     at = asn_build_int(at, &left, ASN_INTEGER, &zero, sizeof(zero));
     u_char* list = OpenSequence(at, left, ASN_SEQUENCE | ASN_CONSTRUCTOR);
     u_char* varBind = OpenSequence(at, left, ASN_SEQUENCE | ASN_CONSTRUCTOR);
-    at = asn_build_objid(at, &left, ASN_OBJECT_ID, name, arcCount);
+    at = asn_build_objid(at, &left, ASN_OBJECT_ID, name, idCount);
     at = asn_build_null(at, &left, ASN_NULL);
     if (at == nullptr)
         return 0;
@@ -88,11 +88,11 @@ void* PeerOpen(uint16_t port, const char* community) {
     return snmp_sess_open(&session);
 }
 
-bool PeerGet(void* session, const uint32_t* arcs, size_t arcCount) {
+bool PeerGet(void* session, const uint32_t* ids, size_t idCount) {
     oid name[MAX_OID_LEN];
-    std::copy_n(arcs, arcCount, name);
+    std::copy_n(ids, idCount, name);
     netsnmp_pdu* request = snmp_pdu_create(SNMP_MSG_GET);
-    snmp_add_null_var(request, name, arcCount);
+    snmp_add_null_var(request, name, idCount);
     netsnmp_pdu* reply = nullptr;
     const bool answered = snmp_sess_synch_response(session, request, &reply) == STAT_SUCCESS
                           && reply->errstat == SNMP_ERR_NOERROR;

@@ -20,7 +20,7 @@ namespace {
 
 // hrStorageSize.1 and a reply to request 257, "640".
 constexpr const char* kObject = ".1.3.6.1.2.1.25.2.3.1.5.1";
-constexpr UINT kArcs[] = {1, 3, 6, 1, 2, 1, 25, 2, 3, 1, 5, 1};
+constexpr UINT kSubIdentifiers[] = {1, 3, 6, 1, 2, 1, 25, 2, 3, 1, 5, 1};
 constexpr uint32_t kRequestId = 257;
 uint8_t reply[] = {0x30, 0x2C, 0x02, 0x01, 0x00, 0x04, 0x06, 't',  'o',  'v',  'a',  's',
                    'k',  0xA2, 0x1F, 0x02, 0x02, 0x01, 0x01, 0x02, 0x01, 0x00, 0x02, 0x01,
@@ -54,7 +54,9 @@ BENCHMARK(BuildRequest);
 void PeerBuildsRequest(benchmark::State& state) {
     for ([[maybe_unused]] auto _ : state) {
         uint8_t message[512];
-        if (PeerBuildRequest(kCommunity, kRequestId, kArcs, std::size(kArcs), message, sizeof(message)) == 0)
+        if (PeerBuildRequest(kCommunity, kRequestId, kSubIdentifiers, std::size(kSubIdentifiers), message,
+                             sizeof(message))
+            == 0)
             state.SkipWithError("net-snmp does not build the request");
         benchmark::DoNotOptimize(message);
     }
@@ -110,7 +112,7 @@ void PeerRoundTrip(benchmark::State& state) {
     const Server printer = SimulatedPrinter("--address 127.0.0.1");
     void* session = PeerOpen(printer.port, kCommunity);
     for ([[maybe_unused]] auto _ : state)
-        if (session == nullptr || !PeerGet(session, kArcs, std::size(kArcs))) {
+        if (session == nullptr || !PeerGet(session, kSubIdentifiers, std::size(kSubIdentifiers))) {
             state.SkipWithError("net-snmp gets no answer");
             break;
         }

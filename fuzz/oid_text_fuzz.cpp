@@ -1,6 +1,7 @@
 // Fuzz target: any text at all as an object identifier. What is accepted is held against a conversion of its
-// own, arc text by arc text, against its own text printed again and, as far as they can be written, against
-// its BER octets. Run by libFuzzer and, over a fixed set of inputs, by the regression test.
+// own, sub-identifier text by sub-identifier text, against its own text printed again and, as far as they can
+// be written, against its BER octets. Run by libFuzzer and, over a fixed set of inputs, by the regression
+// test.
 #include "require.h"
 
 #include "devcomm/snmp/ber_reader.h"
@@ -13,14 +14,14 @@
 
 namespace {
 
-using Arcs = std::vector<UINT>;
+using SubIdentifiers = std::vector<UINT>;
 
-constexpr size_t kMaxArcs = 128;
+constexpr size_t kMaxSubIdentifiers = 128;
 constexpr size_t kMaxDigits = 15;
 
-// The arcs of a text by opening and closing arc texts; none when it is not an OID's.
-Arcs ExpectedArcs(const std::string& text) {
-    Arcs arcs;
+// The sub-identifiers of a text by opening and closing sub-identifier texts; none when it is not an OID's.
+SubIdentifiers ExpectedSubIdentifiers(const std::string& text) {
+    SubIdentifiers ids;
     bool isOpen = false;
     std::string digits;
     for (size_t i = 0; i <= text.size(); ++i) {
@@ -33,38 +34,38 @@ Arcs ExpectedArcs(const std::string& text) {
         if ((c != '.' && c != '\0') || digits.size() > kMaxDigits)
             return {};
         if (isOpen) {
-            const unsigned long long arc = strtoull(digits.c_str(), nullptr, 10);
-            if (arc > UINT32_MAX || arcs.size() == kMaxArcs)
+            const unsigned long long id = strtoull(digits.c_str(), nullptr, 10);
+            if (id > UINT32_MAX || ids.size() == kMaxSubIdentifiers)
                 return {};
-            arcs.push_back(static_cast<UINT>(arc));
+            ids.push_back(static_cast<UINT>(id));
         }
         isOpen = c == '.';
         digits.clear();
     }
-    return arcs.size() >= 2 && arcs[0] < 3 && arcs[1] < 40 ? arcs : Arcs();
+    return ids.size() >= 2 && ids[0] < 3 && ids[1] < 40 ? ids : SubIdentifiers();
 }
 
-Arcs Convert(const std::string& text) {
+SubIdentifiers Convert(const std::string& text) {
     AsnObjectIdentifier oid;
     const bool converted = ClientStrToOid(text.c_str(), &oid) != FALSE;
     Require(converted == (oid.ids != nullptr) && converted == (oid.idLength > 0), "half an OID");
-    const Arcs arcs(oid.ids, oid.ids + oid.idLength);
+    const SubIdentifiers ids(oid.ids, oid.ids + oid.idLength);
     ClientOidFree(&oid);
-    return arcs;
+    return ids;
 }
 
-void CheckOctets(const Arcs& arcs) {
-    BerBuffer message = BerCreate(ASN_SEQUENCE, 2 * kBerMostHeader + kBerMostOid);
-    const bool written = BerAppendOid(message, arcs.data(), static_cast<uint32_t>(arcs.size()));
-    Require(written || arcs.size() > kBerMostOid / 5, "a short OID can't be written");
+void CheckOctets(const SubIdentifiers& ids) {
+    BerBuffer message = BerCreate(ASN_SEQUENCE, 2 * kBerMaxHeader + kBerMaxOid);
+    const bool written = BerAppendOid(message, ids.data(), static_cast<uint32_t>(ids.size()));
+    Require(written || ids.size() > kBerMaxOid / 5, "a short OID can't be written");
     if (written) {
         BerReader reader = {message.octets, message.octets + message.count, false};
         BerReader contents = BerOpen(reader, ASN_SEQUENCE);
         BerReader oid = BerOpen(contents, ASN_OBJECTIDENTIFIER);
-        Arcs read(arcs.size());
-        Require(BerReadArcs(oid, read.data(), static_cast<uint32_t>(read.size())) == arcs.size()
-                    && read == arcs,
-                "written and read arcs differ");
+        SubIdentifiers read(ids.size());
+        Require(BerReadSubIdentifiers(oid, read.data(), static_cast<uint32_t>(read.size())) == ids.size()
+                    && read == ids,
+                "written and read sub-identifiers differ");
     }
     BerFree(message);
 }
@@ -75,14 +76,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     win32::Reset();
     std::string text(octets, octets + count);
     text.resize(text.find('\0') != std::string::npos ? text.find('\0') : text.size());
-    const Arcs arcs = Convert(text);
-    Require(arcs == ExpectedArcs(text), "other arcs than the text's");
-    if (!arcs.empty()) {
+    const SubIdentifiers ids = Convert(text);
+    Require(ids == ExpectedSubIdentifiers(text), "other sub-identifiers than the text's");
+    if (!ids.empty()) {
         std::string printed;
-        for (const UINT arc : arcs)
-            printed += '.' + std::to_string(arc);
-        Require(Convert(printed) == arcs, "other arcs from the printed text");
-        CheckOctets(arcs);
+        for (const UINT id : ids)
+            printed += '.' + std::to_string(id);
+        Require(Convert(printed) == ids, "other sub-identifiers from the printed text");
+        CheckOctets(ids);
     }
     Require(win32::Count().localBlocks == 0, "something is left over");
     return 0;

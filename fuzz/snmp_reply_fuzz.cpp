@@ -52,9 +52,9 @@ void CheckValue(const AsnAny& value, size_t most) {
         Require(value.asnValue.string.dynamic == TRUE && value.asnValue.string.length < most,
                 "more octets than came");
         break;
-    case SnmpForm::kArcs:
+    case SnmpForm::kOid:
         Require(value.asnValue.object.idLength >= 2 && value.asnValue.object.idLength <= most,
-                "more arcs than came");
+                "more sub-identifiers than came");
         break;
     case SnmpForm::kEmpty:
         Require(value.asnValue.string.length == 0, "a NULL with octets");

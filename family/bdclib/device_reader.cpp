@@ -60,9 +60,9 @@ Words Text(DeviceRow& row, const DeviceColumn& column) {
 
 DeviceRow MakeRow(const DeviceSession& session, uint32_t number) {
     DeviceRow row = {session.connection.handle, number, {}, {}, false};
-    AppendArc(row.ofDevice, number);
-    AppendArc(row.ofPrinter, session.printer);
-    AppendArc(row.ofPrinter, number);
+    AppendSubIdentifier(row.ofDevice, number);
+    AppendSubIdentifier(row.ofPrinter, session.printer);
+    AppendSubIdentifier(row.ofPrinter, number);
     return row;
 }
 
@@ -201,7 +201,7 @@ bool ReadList(const DeviceSession& session, const DeviceList& list, void* items,
 bool ReadPrinterNumber(SnmpSession session, uint32_t& number) {
     for (number = 1; number <= kMaxDevices; ++number) {
         ObjectSuffix suffix = {};
-        AppendArc(suffix, number);
+        AppendSubIdentifier(suffix, number);
         const Match match = MatchObject(session, kHostDeviceType, suffix, TELMAR_COMPARE_OID, kTypePrinter);
         if (match != Match::kNo)
             return match == Match::kYes;
@@ -216,7 +216,7 @@ bool ReadModelName(const DeviceSession& session, ObjectText& name) {
     if (name[0] != 0)
         return true;
     ObjectSuffix suffix = {};
-    AppendArc(suffix, session.printer);
+    AppendSubIdentifier(suffix, session.printer);
     return ReadText(session.connection.handle, kHostDeviceText, suffix, name);
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 // What is appended to a message, without the message's own header. The block has just the promised room.
 struct Message {
-    explicit Message(uint32_t contentOctets) : element(BerCreate(0x30, 2 * kBerMostHeader + contentOctets)) {}
+    explicit Message(uint32_t contentOctets) : element(BerCreate(0x30, 2 * kBerMaxHeader + contentOctets)) {}
     ~Message() { BerFree(element); }
     Message(const Message&) = delete;
     Message& operator=(const Message&) = delete;
@@ -33,7 +33,7 @@ TEST(Ber, IntegersThereAndBack) {
         // clang-format on
     };
     for (const auto& c : cases) {
-        Message message(kBerMostInteger);
+        Message message(kBerMaxInteger);
         BerAppendInteger(message.element, c.value);
         EXPECT_EQ(message.Contents(), Element(0x02, {Hex(c.contents)})) << c.value;
         const ExactBlock element(message.Contents());
@@ -70,7 +70,7 @@ TEST(BerWriter, LengthForms) {
 
 TEST(BerWriter, ObjectIdentifiers) {
     const struct {
-        std::vector<uint32_t> arcs;
+        std::vector<uint32_t> ids;
         const char* element; // empty: can't be written
     } cases[] = {
         {{1, 3}, "06 01 2B"},
@@ -90,16 +90,16 @@ TEST(BerWriter, ObjectIdentifiers) {
         {{0xFFFFFFFF, 0}, ""},
     };
     for (const auto& c : cases) {
-        Message message(kBerMostOid);
-        const auto count = static_cast<uint32_t>(c.arcs.size());
-        EXPECT_EQ(BerAppendOid(message.element, c.arcs.data(), count), *c.element != 0) << c.element;
+        Message message(kBerMaxOid);
+        const auto count = static_cast<uint32_t>(c.ids.size());
+        EXPECT_EQ(BerAppendOid(message.element, c.ids.data(), count), *c.element != 0) << c.element;
         EXPECT_EQ(message.Contents(), Hex(c.element));
     }
 }
 
 TEST(BerWriter, ObjectIdentifiersOfTheLongestForm) {
     const struct {
-        size_t ones; // arcs of 1 behind 1.3, an octet each
+        size_t ones; // sub-identifiers of 1 behind 1.3, an octet each
         uint32_t last;
         bool fits;
     } cases[] = {
@@ -107,11 +107,11 @@ TEST(BerWriter, ObjectIdentifiersOfTheLongestForm) {
         {126, 4294967295, false}, {125, 128, true}, {126, 128, false},       {200, 1, false},
     };
     for (const auto& c : cases) {
-        std::vector<uint32_t> arcs(c.ones + 2, 1);
-        arcs[1] = 3;
-        arcs.push_back(c.last);
-        Message message(kBerMostOid);
-        EXPECT_EQ(BerAppendOid(message.element, arcs.data(), static_cast<uint32_t>(arcs.size())), c.fits);
+        std::vector<uint32_t> ids(c.ones + 2, 1);
+        ids[1] = 3;
+        ids.push_back(c.last);
+        Message message(kBerMaxOid);
+        EXPECT_EQ(BerAppendOid(message.element, ids.data(), static_cast<uint32_t>(ids.size())), c.fits);
         const Octets last = c.last == 1 ? Hex("01") : c.last == 128 ? Hex("81 00") : Hex("8F FF FF FF 7F");
         EXPECT_EQ(message.All(),
                   c.fits ? Element(0x30, {Hex("06 82 00 80 2B"), Octets(c.ones, 1), last}) : Hex("30 00"))
@@ -191,10 +191,10 @@ TEST(BerReader, IntegersOfOtherLengths) {
     }
 }
 
-TEST(BerReader, Arcs) {
+TEST(BerReader, SubIdentifiers) {
     const struct {
         const char* contents;
-        std::vector<uint32_t> arcs; // empty: refused
+        std::vector<uint32_t> ids; // empty: refused
         uint32_t capacity = 4;
     } cases[] = {
         {"00", {0, 0}},
@@ -217,11 +217,11 @@ TEST(BerReader, Arcs) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.contents);
         const ExactBlock contents(Hex(c.contents));
-        const std::unique_ptr<uint32_t[]> arcs(new uint32_t[c.capacity]);
+        const std::unique_ptr<uint32_t[]> ids(new uint32_t[c.capacity]);
         BerReader reader = {contents.Start(), contents.End(), false};
-        const uint32_t count = BerReadArcs(reader, arcs.get(), c.capacity);
-        EXPECT_EQ(std::vector<uint32_t>(arcs.get(), arcs.get() + count), c.arcs);
-        EXPECT_EQ(reader.failed, c.arcs.empty());
+        const uint32_t count = BerReadSubIdentifiers(reader, ids.get(), c.capacity);
+        EXPECT_EQ(std::vector<uint32_t>(ids.get(), ids.get() + count), c.ids);
+        EXPECT_EQ(reader.failed, c.ids.empty());
     }
 }
 

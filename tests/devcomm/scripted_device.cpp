@@ -105,7 +105,7 @@ Element* CopyOf(const Element* elements, size_t count) {
 
 // False, and nothing stored, without memory.
 bool Store(const Answer& answer, AsnAny& value) {
-    const size_t octets = answer.octets.size(), arcs = answer.arcs.size();
+    const size_t octets = answer.octets.size(), ids = answer.ids.size();
     AsnAny stored;
     memset(&stored, 0xCD, sizeof(stored));
     stored.asnType = answer.type;
@@ -115,7 +115,7 @@ bool Store(const Answer& answer, AsnAny& value) {
         if (copy == nullptr)
             return false;
     } else if (answer.type == ASN_OBJECTIDENTIFIER) {
-        stored.asnValue.object = {static_cast<UINT>(arcs), CopyOf(answer.arcs.data(), arcs)};
+        stored.asnValue.object = {static_cast<UINT>(ids), CopyOf(answer.ids.data(), ids)};
         if (stored.asnValue.object.ids == nullptr)
             return false;
     } else {
@@ -162,16 +162,16 @@ BOOL WINAPI StrToOid(const char* text, AsnObjectIdentifier* oid) {
     SetLastError(kNoise);
     if (!device->textsConvert)
         return FALSE;
-    std::vector<UINT> arcs;
+    std::vector<UINT> parsed;
     for (const char* at = text; *at == '.';) {
         char* end = nullptr;
-        arcs.push_back(static_cast<UINT>(strtoul(at + 1, &end, 10)));
+        parsed.push_back(static_cast<UINT>(strtoul(at + 1, &end, 10)));
         at = end;
     }
-    UINT* ids = CopyOf(arcs.data(), arcs.size());
+    UINT* ids = CopyOf(parsed.data(), parsed.size());
     if (ids == nullptr)
         return FALSE;
-    *oid = {static_cast<UINT>(arcs.size()), ids};
+    *oid = {static_cast<UINT>(parsed.size()), ids};
     return TRUE;
 }
 
@@ -192,8 +192,8 @@ Answer Text(const std::string& octets, BYTE type) {
     return {type, 0, octets};
 }
 
-Answer Oid(const std::vector<UINT>& arcs) {
-    return {ASN_OBJECTIDENTIFIER, 0, {}, arcs};
+Answer Oid(const std::vector<UINT>& ids) {
+    return {ASN_OBJECTIDENTIFIER, 0, {}, ids};
 }
 
 Answer Failing(DWORD lastError) {

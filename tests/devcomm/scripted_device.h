@@ -17,7 +17,7 @@ struct Answer {
     BYTE type = ASN_NULL;
     int32_t number = 0;
     std::string octets = {};
-    std::vector<UINT> arcs = {};
+    std::vector<UINT> ids = {};
     AsnInteger32 errorStatus = 0;
     AsnInteger32 errorIndex = 0;
     DWORD failure = 0;
@@ -26,7 +26,7 @@ struct Answer {
 };
 Answer Number(int32_t number, BYTE type = ASN_INTEGER);
 Answer Text(const std::string& octets, BYTE type = ASN_OCTETSTRING);
-Answer Oid(const std::vector<UINT>& arcs);
+Answer Oid(const std::vector<UINT>& ids);
 Answer Failing(DWORD lastError);
 
 // Fills the entry points for the time of a scope; at its end nothing may be left open or allocated.

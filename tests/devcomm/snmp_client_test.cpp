@@ -192,11 +192,11 @@ TEST(SnmpRequest, LongestVarBinds) {
     constexpr UINT kVarBinds = 20;
     Client client({}, "", kVarBinds);
     ClientOidFree(&client.list.list[0].name);
-    UINT arcs[129] = {2, 39};
-    std::fill(arcs + 2, arcs + 129, 7);
+    UINT ids[129] = {2, 39};
+    std::fill(ids + 2, ids + 129, 7);
     Octets varBinds;
     for (UINT i = 0; i < kVarBinds; ++i) {
-        client.list.list[i].name = {129, arcs};
+        client.list.list[i].name = {129, ids};
         varBinds = Join({varBinds, Hex("30 82 00 86 06 82 00 80 77"), Octets(127, 7), Hex("05 00")});
     }
     EXPECT_FALSE(client.Request());

@@ -8,10 +8,10 @@
 
 namespace {
 
-using Arcs = std::vector<UINT>;
+using SubIdentifiers = std::vector<UINT>;
 
-Arcs ArcsOf(const AsnObjectIdentifier& oid) {
-    return Arcs(oid.ids, oid.ids + oid.idLength);
+SubIdentifiers ArcsOf(const AsnObjectIdentifier& oid) {
+    return SubIdentifiers(oid.ids, oid.ids + oid.idLength);
 }
 
 // Whether the datagram is taken; its value then lies in `value`.
@@ -87,7 +87,7 @@ TEST(SnmpValues, ObjectIdentifiersAndNull) {
     Value read;
     ASSERT_TRUE(read.Read("06 0A 2B 06 01 04 01 82 F6 29 81 00")); // 2*16384 + 0x76*128 + 0x29
     EXPECT_EQ(read.value.asnType, 0x06);
-    EXPECT_EQ(ArcsOf(read.value.asnValue.object), Arcs({1, 3, 6, 1, 4, 1, 47913, 128}));
+    EXPECT_EQ(ArcsOf(read.value.asnValue.object), SubIdentifiers({1, 3, 6, 1, 4, 1, 47913, 128}));
     read.Free();
     EXPECT_TRUE(read.value.asnValue.object.ids == nullptr);
     EXPECT_EQ(read.value.asnValue.object.idLength, 0u);
@@ -121,8 +121,8 @@ TEST(SnmpValues, OtherTypesAndMalformedContents) {
         }
     for (const char* element : {"02 00", "41 05 01 00 00 00 00", "06 00", "06 02 2B 81"})
         EXPECT_EQ(refuses(Hex(element)), 11u);
-    for (const size_t arcs : {size_t{129}, size_t{1000}}) // beyond what is held at once
-        EXPECT_EQ(refuses(Element(0x06, {Hex("2B"), Octets(arcs - 2, 7)})), 11u);
+    for (const size_t ids : {size_t{129}, size_t{1000}}) // beyond what is held at once
+        EXPECT_EQ(refuses(Element(0x06, {Hex("2B"), Octets(ids - 2, 7)})), 11u);
     refuses(Hex("02 02 01")); // longer than the varbind
     refuses(Hex("04 84 FF FF FF FF"));
 }
@@ -219,7 +219,7 @@ TEST(SnmpValues, FreeingVarBindsAndLists) {
 TEST(SnmpTextToOid, Texts) {
     struct Case {
         const char* text;
-        Arcs arcs; // empty: refused
+        SubIdentifiers ids; // empty: refused
     };
     std::vector<Case> cases = {
         {".1.3.6.1.2.1.1.2.0", {1, 3, 6, 1, 2, 1, 1, 2, 0}},
@@ -231,8 +231,8 @@ TEST(SnmpTextToOid, Texts) {
         {"1.3.4294967295", {1, 3, 4294967295}},
         {"1.3.000004294967295", {1, 3, 4294967295}}, // 15 digits
     };
-    // Too many digits; too large, also when cut to 64 or 32 bits; too short; impossible first arcs; other
-    // characters, also those beside the digits.
+    // Too many digits; too large, also when cut to 64 or 32 bits; too short; impossible first
+    // sub-identifiers; other characters, also those beside the digits.
     // clang-format off
     const char* const refused[] = {
         "1.3.0000004294967295", "1.3.0000000000000001", "1.3.4294967296", "1.3.18446744073709551617",
@@ -247,10 +247,10 @@ TEST(SnmpTextToOid, Texts) {
         AsnObjectIdentifier oid = {9, reinterpret_cast<UINT*>(1)}; // not freed
         SetLastError(777);
         EXPECT_EQ(ClientStrToOid(reinterpret_cast<const char*>(text.Start()), &oid),
-                  c.arcs.empty() ? FALSE : TRUE);
+                  c.ids.empty() ? FALSE : TRUE);
         EXPECT_EQ(GetLastError(), 777u);
-        EXPECT_EQ(ArcsOf(oid), c.arcs);
-        EXPECT_EQ(oid.ids == nullptr, c.arcs.empty());
+        EXPECT_EQ(ArcsOf(oid), c.ids);
+        EXPECT_EQ(oid.ids == nullptr, c.ids.empty());
         for (int i = 0; i < 2; ++i) {
             ClientOidFree(&oid);
             EXPECT_TRUE(oid.ids == nullptr);
@@ -265,12 +265,12 @@ TEST(SnmpTextToOid, AtMost128Arcs) {
             std::string text = "1.3";
             for (size_t i = 2; i < count; ++i)
                 text += further;
-            Arcs expected(count, further[1] == '7' ? 7 : 0);
+            SubIdentifiers expected(count, further[1] == '7' ? 7 : 0);
             expected[0] = 1;
             expected[1] = 3;
             AsnObjectIdentifier oid = {};
             EXPECT_EQ(ClientStrToOid(text.c_str(), &oid), count <= 128 ? TRUE : FALSE) << count;
-            EXPECT_EQ(ArcsOf(oid), count <= 128 ? expected : Arcs());
+            EXPECT_EQ(ArcsOf(oid), count <= 128 ? expected : SubIdentifiers());
             ClientOidFree(&oid);
         }
 }

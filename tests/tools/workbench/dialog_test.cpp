@@ -1,7 +1,7 @@
 // `workbench dialog` as a process, on a screen: what scripts change, what the report shows and what is
 // refused. Expected values are those of the model file and of the dialogs' rules.
-#include "workbench/lib/picture.h"
 #include "tools/workbench/workbench_run.h"
+#include "workbench/lib/picture.h"
 
 #include <algorithm>
 #include <fstream>

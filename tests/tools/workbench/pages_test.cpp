@@ -1,11 +1,11 @@
 // The property sheet in this process, on a screen and with simulated printers: how its pages react to the
 // user, to a printer's answers and to failures.
+#include "tools/workbench/workbench_run.h"
 #include "workbench/lib/dialog_view.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
-#include "tools/workbench/workbench_run.h"
 
 #include <set>
 

@@ -1,7 +1,7 @@
 // The picture files that the workbench writes: their sizes, what changes them, and what is refused. The
 // module's own tests show which bitmaps a picture is composed of.
-#include "workbench/lib/picture.h"
 #include "tools/workbench/workbench_run.h"
+#include "workbench/lib/picture.h"
 
 #include <algorithm>
 #include <fstream>

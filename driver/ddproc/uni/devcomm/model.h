@@ -1,4 +1,4 @@
-// What this model's printers go by on the network.
+// How printers of this model are recognized and queried on the network.
 #ifndef DEVCOMM_MODEL_H
 #define DEVCOMM_MODEL_H
 

@@ -1,4 +1,4 @@
-// Reading one object of a printer: see the header.
+// Reads single objects of a printer.
 #include "devcomm/queries/object_reader.h"
 
 #include "base/scope_guard.h"
@@ -12,13 +12,13 @@ constexpr uint8_t kNumberTypes[] = {ASN_INTEGER, ASN_UINTEGER32, ASN_COUNTER32, 
 constexpr uint8_t kTextTypes[] = {ASN_OCTETSTRING, ASN_BITS, ASN_SEQUENCE, ASN_IPADDRESS, ASN_OPAQUE};
 
 enum class Outcome {
-    kNotAsked, // the text is none of an OID
+    kNotAsked, // the text is not an OID
     kFailed,
     kAnswered,
 };
 
-// The reply to a request of one object. Owns the varbind list; all its memory is that of the entry points,
-// which need not zero it.
+// The reply to a request of one object. Owns the varbind list, whose memory comes from the entry points and
+// need not be zero.
 struct ObjectReply {
     ObjectReply() = default;
     ~ObjectReply() {
@@ -34,7 +34,7 @@ struct ObjectReply {
     AsnInteger32 errorIndex = 0;
 };
 
-// Arcs of the table's OID with the suffix behind; the text is cut to its field.
+// Converts the OID of a table with a suffix. The text is cut to its field.
 bool ToOid(const char* oid, const char* suffix, AsnObjectIdentifier& converted) {
     char text[256];
     CopyText(text, oid);
@@ -42,8 +42,8 @@ bool ToOid(const char* oid, const char* suffix, AsnObjectIdentifier& converted) 
     return snmpEntryPoints.snmpMgrStrToOid(text, &converted) != FALSE;
 }
 
-// A list of one varbind with a copy of this name and no value. False without memory; what the list then holds
-// is to be freed all the same.
+// Makes a list of one varbind with a copy of this name and no value. False without memory; the list must be
+// freed in that case, too.
 bool MakeList(const AsnObjectIdentifier& name, SnmpVarBindList& list) {
     auto* varBind = static_cast<SnmpVarBind*>(snmpEntryPoints.snmpUtilMemAlloc(sizeof(SnmpVarBind)));
     if (varBind == nullptr)
@@ -85,7 +85,7 @@ bool IsOneOf(const uint8_t (&types)[N], uint8_t type) {
     return false;
 }
 
-// The object's value; null when the reply tells an error or has none. The list may have another array by now.
+// The value of the object; null when the reply has none or reports an error. The list may have a new array.
 const AsnAny* ValueOf(const ObjectReply& reply) {
     const bool isThere =
         reply.errorStatus == 0 && reply.errorIndex == 0 && reply.list.list != nullptr && reply.list.len > 0;
@@ -99,7 +99,7 @@ bool NumberOf(const AsnAny* value, int32_t& number) {
     return true;
 }
 
-// The octets as text: at most so many as fit, up to the first NUL.
+// The octets as text, up to the first NUL and cut to fit.
 template <size_t Capacity>
 bool TextOf(const AsnAny* value, char (&text)[Capacity]) {
     if (value == nullptr || !IsOneOf(kTextTypes, value->asnType))
@@ -122,10 +122,10 @@ bool IsSameOid(const AsnObjectIdentifier& oid, const char* text) {
             return false;
         if (!IsDigit(*text))
             return false;
-        uint64_t arc = 0;
-        for (; IsDigit(*text) && arc <= UINT32_MAX; ++text)
-            arc = arc * 10 + static_cast<uint64_t>(*text - '0');
-        if (arc != oid.ids[i])
+        uint64_t id = 0;
+        for (; IsDigit(*text) && id <= UINT32_MAX; ++text)
+            id = id * 10 + static_cast<uint64_t>(*text - '0');
+        if (id != oid.ids[i])
             return false;
     }
     return *text == 0;
@@ -165,13 +165,13 @@ AgentSession::~AgentSession() {
         snmpEntryPoints.snmpMgrClose(handle);
 }
 
-void AppendArc(ObjectSuffix& suffix, uint32_t arc) {
+void AppendSubIdentifier(ObjectSuffix& suffix, uint32_t id) {
     char text[12]; // filled from its end
     size_t first = sizeof(text) - 1;
     text[first] = 0;
     do
-        text[--first] = static_cast<char>('0' + arc % 10);
-    while ((arc /= 10) != 0);
+        text[--first] = static_cast<char>('0' + id % 10);
+    while ((id /= 10) != 0);
     text[--first] = '.';
     const char* const from = text + first;
     AppendText(suffix, from);

@@ -1,4 +1,4 @@
-// Printer queries that answer item by item: access, model, options, supplies. See the header.
+// The MIB_ queries for access, model, options and supplies.
 #include "base/records.h"
 
 #include "base/scope_guard.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int32_t kSomeLeft = -3; // of a level: more than nothing, but how much is not known
+constexpr int32_t kSomeLeft = -3; // a level: some is left, but not how much
 constexpr int32_t kWholePercentage = 100;
 
 const OptionRecord* FindOption(const QueryKey& key) {
@@ -74,7 +74,8 @@ bool ReadSupply(SnmpSession session, const MrkSupItem& supply, int32_t& capacity
     return read[0].isPresent && read[1].isPresent;
 }
 
-// Answers an item whose answers are 0 so far; it stays so when the supply can't be evaluated.
+// Answers an item whose fields are 0. They stay 0 when the supply can't be evaluated. Capacity and level are
+// both requested, also when the capacity is absent.
 void AskSupply(SnmpSession session, const MrkSupItem& supply, MrkSupRequestItem& item) {
     int32_t capacity = 0;
     int32_t level = 0;
@@ -121,17 +122,15 @@ const ProfileReqInfo* WINAPI MIB_CMProfReqInfo() {
 }
 
 BOOL WINAPI MIB_IsAccessOK(const char* agent) {
-    if (!CanQuery(agent != nullptr && agent[0] != 0))
-        return FALSE;
-    const AgentSession session(agent, kReachLimits);
+    const AgentSession session = OpenQuery(agent, agent != nullptr && agent[0] != 0, kReachLimits);
     return session.handle != nullptr && AskForObject(session.handle, kReachObject);
 }
 
-BOOL CheckModel(const ModelCheckInfo& check, const char* agent) {
+bool CheckModel(const ModelCheckInfo& check, const char* agent) {
     if (!CanQuery(agent != nullptr))
-        return FALSE;
+        return false;
     if (check.enabled == 0)
-        return TRUE;
+        return true;
     const AgentSession session(agent, kQueryLimits);
     return session.handle != nullptr
            && MatchObject(session.handle, check.oid, "", check.comparison, check.expected) == Match::kYes;
@@ -142,12 +141,10 @@ BOOL WINAPI MIB_IsModelOK(const char* agent) {
 }
 
 BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, OptionRequestItem* items) {
-    if (!CanQuery(agent != nullptr && items != nullptr))
-        return FALSE;
-    const AgentSession session(agent, kQueryLimits);
+    const AgentSession session = OpenQuery(agent, agent != nullptr && items != nullptr);
     if (session.handle == nullptr)
         return FALSE;
-    const KeepLastError keep; // whatever single items give
+    const KeepLastError keep; // of the session; single items do not change it
     for (DWORD i = 0; i < count; ++i) {
         memset(items[i].value, 0, sizeof(items[i].value));
         const OptionRecord* option = FindOption(items[i].key);
@@ -159,12 +156,10 @@ BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, OptionRequestItem*
 }
 
 BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem* items) {
-    if (!CanQuery(agent != nullptr && items != nullptr))
-        return FALSE;
-    const AgentSession session(agent, kQueryLimits);
+    const AgentSession session = OpenQuery(agent, agent != nullptr && items != nullptr);
     if (session.handle == nullptr)
         return FALSE;
-    const KeepLastError keep; // whatever single items give
+    const KeepLastError keep; // of the session; single items do not change it
     for (DWORD i = 0; i < count; ++i) {
         items[i].state = TELMAR_STATE_UNKNOWN;
         items[i].value = 0;

@@ -1,5 +1,5 @@
-// The tables by which this model's printers are asked, for the queries themselves. Callers of the module get
-// them through its exports.
+// The tables of the SNMP queries: which objects report what. Callers of the module get them through its
+// exports.
 #ifndef DEVCOMM_QUERIES_QUERY_CATALOGUE_H
 #define DEVCOMM_QUERIES_QUERY_CATALOGUE_H
 
@@ -13,7 +13,7 @@ extern const MrkSupReqInfo kMrkSupReqInfo;
 extern const OverlayReqInfo kOverlayReqInfo;
 extern const ProfileReqInfo kProfileReqInfo;
 
-// MIB_IsModelOK by any table (printer_queries.cpp).
-BOOL CheckModel(const ModelCheckInfo& check, const char* agent);
+// MIB_IsModelOK with a given table (printer_queries.cpp).
+bool CheckModel(const ModelCheckInfo& check, const char* agent);
 
 #endif

@@ -1,6 +1,7 @@
-// The static tables of the printer queries. All of it is constant data, laid out at compile time. Declared in
-// devcomm/queries/query_catalogue.h.
+// The constant tables of the SNMP queries.
 #include "devcomm/queries/query_catalogue.h"
+
+#include "base/text.h"
 
 #include <iterator>
 
@@ -33,37 +34,30 @@ constexpr OptionValueRecord kHardDisk[] = {
 constexpr OptionValueRecord kManualFeed[] = {
     {"EnaOpManualFeed", "",               "",     TELMAR_COMPARE_EXISTS, ""},
 };
-constexpr OptionValueRecord kInTray1[] = {
-    {"EnaOpInTray1",    INPUT_TYPE,       ".1.1", TELMAR_COMPARE_EXISTS, ""},
-    {"DisOpInTray1",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
+// Input trays 1 to 5 and output trays 1 to 4 differ only in their digit.
+constexpr OptionValueRecord TrayValue(const char* name, char digit, bool isRequested) {
+    const char text[] = {digit, 0};
+    OptionValueRecord value = {};
+    CopyText(value.name, name);
+    AppendText(value.name, text);
+    value.comparison = TELMAR_COMPARE_EXISTS;
+    if (isRequested) {
+        CopyText(value.oid, INPUT_TYPE);
+        CopyText(value.suffix, ".1.");
+        AppendText(value.suffix, text);
+    }
+    return value;
+}
+constexpr OptionValueRecord kInTrays[][2] = {
+    {TrayValue("EnaOpInTray", '1', true), TrayValue("DisOpInTray", '1', false)},
+    {TrayValue("EnaOpInTray", '2', true), TrayValue("DisOpInTray", '2', false)},
+    {TrayValue("EnaOpInTray", '3', true), TrayValue("DisOpInTray", '3', false)},
+    {TrayValue("EnaOpInTray", '4', true), TrayValue("DisOpInTray", '4', false)},
+    {TrayValue("EnaOpInTray", '5', true), TrayValue("DisOpInTray", '5', false)},
 };
-constexpr OptionValueRecord kInTray2[] = {
-    {"EnaOpInTray2",    INPUT_TYPE,       ".1.2", TELMAR_COMPARE_EXISTS, ""},
-    {"DisOpInTray2",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
-};
-constexpr OptionValueRecord kInTray3[] = {
-    {"EnaOpInTray3",    INPUT_TYPE,       ".1.3", TELMAR_COMPARE_EXISTS, ""},
-    {"DisOpInTray3",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
-};
-constexpr OptionValueRecord kInTray4[] = {
-    {"EnaOpInTray4",    INPUT_TYPE,       ".1.4", TELMAR_COMPARE_EXISTS, ""},
-    {"DisOpInTray4",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
-};
-constexpr OptionValueRecord kInTray5[] = {
-    {"EnaOpInTray5",    INPUT_TYPE,       ".1.5", TELMAR_COMPARE_EXISTS, ""},
-    {"DisOpInTray5",    "",               "",     TELMAR_COMPARE_EXISTS, ""},
-};
-constexpr OptionValueRecord kOutTray1[] = {
-    {"DisOpOutTray1",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
-};
-constexpr OptionValueRecord kOutTray2[] = {
-    {"DisOpOutTray2",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
-};
-constexpr OptionValueRecord kOutTray3[] = {
-    {"DisOpOutTray3",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
-};
-constexpr OptionValueRecord kOutTray4[] = {
-    {"DisOpOutTray4",   "",               "",     TELMAR_COMPARE_EXISTS, ""},
+constexpr OptionValueRecord kOutTrays[] = {
+    TrayValue("DisOpOutTray", '1', false), TrayValue("DisOpOutTray", '2', false),
+    TrayValue("DisOpOutTray", '3', false), TrayValue("DisOpOutTray", '4', false),
 };
 constexpr OptionValueRecord kDuplex[] = {
     {"EnaOpDuplex",     MEDIA_PATH_SPEED, ".1.2", TELMAR_COMPARE_EXISTS, ""},
@@ -74,15 +68,15 @@ constexpr OptionRecord kOptions[] = {
     {"OpMemory",     std::size(kMemory),     0, kMemory},
     {"OpHDD",        std::size(kHardDisk),   0, kHardDisk},
     {"OpManualFeed", std::size(kManualFeed), 0, kManualFeed},
-    {"OpInTray1",    std::size(kInTray1),    0, kInTray1},
-    {"OpInTray2",    std::size(kInTray2),    0, kInTray2},
-    {"OpInTray3",    std::size(kInTray3),    0, kInTray3},
-    {"OpInTray4",    std::size(kInTray4),    0, kInTray4},
-    {"OpInTray5",    std::size(kInTray5),    0, kInTray5},
-    {"OpOutTray1",   std::size(kOutTray1),   0, kOutTray1},
-    {"OpOutTray2",   std::size(kOutTray2),   0, kOutTray2},
-    {"OpOutTray3",   std::size(kOutTray3),   0, kOutTray3},
-    {"OpOutTray4",   std::size(kOutTray4),   0, kOutTray4},
+    {"OpInTray1",    2,                      0, kInTrays[0]},
+    {"OpInTray2",    2,                      0, kInTrays[1]},
+    {"OpInTray3",    2,                      0, kInTrays[2]},
+    {"OpInTray4",    2,                      0, kInTrays[3]},
+    {"OpInTray5",    2,                      0, kInTrays[4]},
+    {"OpOutTray1",   1,                      0, &kOutTrays[0]},
+    {"OpOutTray2",   1,                      0, &kOutTrays[1]},
+    {"OpOutTray3",   1,                      0, &kOutTrays[2]},
+    {"OpOutTray4",   1,                      0, &kOutTrays[3]},
     {"OpDuplex",     std::size(kDuplex),     0, kDuplex},
 };
 

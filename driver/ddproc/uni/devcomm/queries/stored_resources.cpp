@@ -1,5 +1,5 @@
-// What printers store: the walks over their overlays and colour profiles, and the blocks handed to callers.
-// Declared in devcomm/queries/printer_queries.h.
+// The MIB_ queries for stored overlays and colour profiles: walks over the printer's tables, and the result
+// blocks.
 #include "base/records.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
@@ -13,13 +13,13 @@ namespace {
 constexpr uint32_t kMaxEntries = 32767;
 constexpr uint32_t kFirstCapacity = 16;
 
-// An entry that a walk keeps, with a bit for each list that it belongs to.
+// An entry of a walk, with a bit for each list that it belongs to.
 struct FoundEntry {
     StoredResourceEntry entry;
     uint32_t lists;
 };
 
-// The kept entries in walk order, in a block of the local heap that grows by doubling.
+// The entries in walk order, in a block of the local heap that doubles when it is full.
 struct FoundEntries {
     FoundEntries() = default;
     ~FoundEntries() {
@@ -52,12 +52,12 @@ bool Append(FoundEntries& found, const FoundEntry& entry) {
 
 enum class Step { kFailed, kEnd, kSkip, kKeep };
 
-// Visits the printer's entries from 1 on, until a step ends the walk. False when one failed.
+// Reads the printer's entries from 1 on until a step ends the walk. False when a step failed.
 template <typename ReadEntry>
 bool Walk(FoundEntries& found, const ReadEntry& readEntry) {
     for (uint32_t number = 1; number <= kMaxEntries; ++number) {
         ObjectSuffix suffix = {};
-        AppendArc(suffix, number);
+        AppendSubIdentifier(suffix, number);
         FoundEntry entry = {};
         const Step step = readEntry(suffix, entry);
         if (step == Step::kEnd)
@@ -68,7 +68,7 @@ bool Walk(FoundEntries& found, const ReadEntry& readEntry) {
     return true;
 }
 
-// Asks until one of the selector's values is there, each time anew. False when a request failed.
+// Requests the object once for each value of the selector, until one matches. False when a request failed.
 bool AskSelector(SnmpSession session, const SelectorRecord& selector, const char* suffix, bool& isSelected) {
     isSelected = false;
     for (int32_t i = 0; i < selector.valueCount && !isSelected; ++i) {
@@ -87,7 +87,7 @@ const StorageNameRecord* FindStorage(const ProfileReqInfo& table, int32_t code) 
     return nullptr;
 }
 
-// An overlay: the walk ends on an empty first reply text; the second stands first in the entry.
+// An overlay. The walk ends at an empty first text; the second text is the first of the entry.
 Step ReadOverlay(SnmpSession session, const SelectorRecord& selector, const char* suffix, FoundEntry& found) {
     const OverlayReqInfo& table = kOverlayReqInfo;
     bool isSelected = false;
@@ -106,7 +106,7 @@ Step ReadOverlay(SnmpSession session, const SelectorRecord& selector, const char
     return Step::kKeep;
 }
 
-// A colour profile: the walk ends on an empty second reply text; the first stands first in the entry.
+// A colour profile. The walk ends at an empty second text; the first text is the first of the entry.
 Step ReadProfile(SnmpSession session, const char* suffix, FoundEntry& found) {
     const ProfileReqInfo& table = kProfileReqInfo;
     if (!ReadText(session, table.secondOid, suffix, found.entry.second))
@@ -135,7 +135,7 @@ Step ReadProfile(SnmpSession session, const char* suffix, FoundEntry& found) {
     return Step::kKeep;
 }
 
-// One block of the local heap: the lists, then the entries of each. Null without memory.
+// One block of the local heap with the lists, then their entries. Null without memory.
 StoredResourceList* BuildBlock(const FoundEntries& found, uint32_t listCount) {
     size_t total = 0;
     for (uint32_t i = 0; i < found.count; ++i)
@@ -159,9 +159,7 @@ StoredResourceList* BuildBlock(const FoundEntries& found, uint32_t listCount) {
 } // namespace
 
 OverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage) {
-    if (!CanQuery(agent != nullptr))
-        return nullptr;
-    const AgentSession session(agent, kQueryLimits);
+    const AgentSession session = OpenQuery(agent, agent != nullptr);
     if (session.handle == nullptr)
         return nullptr;
     if (storage != 0 && storage != 1) {
@@ -177,9 +175,7 @@ OverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage) {
 }
 
 ProfileInfo* WINAPI MIB_ProfileRequest(const char* agent) {
-    if (!CanQuery(agent != nullptr))
-        return nullptr;
-    const AgentSession session(agent, kQueryLimits);
+    const AgentSession session = OpenQuery(agent, agent != nullptr);
     if (session.handle == nullptr)
         return nullptr;
     FoundEntries found;

@@ -1,4 +1,4 @@
-// Reading of BER elements: see the header.
+// Reads BER elements.
 #include "devcomm/snmp/ber_reader.h"
 
 #include "devcomm/snmp/ber.h"
@@ -94,27 +94,27 @@ int32_t BerReadInteger(BerReader& reader) {
     return value;
 }
 
-uint32_t BerReadArcs(BerReader& contents, uint32_t* arcs, uint32_t capacity) {
+uint32_t BerReadSubIdentifiers(BerReader& contents, uint32_t* ids, uint32_t capacity) {
     if (Left(contents) == 0 || capacity < 2) {
         Fail(contents);
         return 0;
     }
     const uint8_t first = *contents.at++;
     uint32_t count = 0;
-    arcs[count++] = first / kBerArcsPerFirst;
-    arcs[count++] = first % kBerArcsPerFirst;
+    ids[count++] = first / kBerSubIdentifiersPerFirst;
+    ids[count++] = first % kBerSubIdentifiersPerFirst;
     while (contents.at != contents.end) {
-        uint64_t arc = 0;
+        uint64_t id = 0;
         uint8_t octet;
         do {
-            octet = TakeOctet(contents); // an incomplete arc fails here
-            arc = arc << kBerGroupBits | (octet & ~kBerMoreGroups);
-        } while ((octet & kBerMoreGroups) != 0 && arc <= UINT32_MAX);
-        if (contents.failed || arc > UINT32_MAX || count == capacity) {
+            octet = TakeOctet(contents); // fails when the sub-identifier is incomplete
+            id = id << kBerGroupBits | (octet & ~kBerMoreGroups);
+        } while ((octet & kBerMoreGroups) != 0 && id <= UINT32_MAX);
+        if (contents.failed || id > UINT32_MAX || count == capacity) {
             Fail(contents);
             return 0;
         }
-        arcs[count++] = static_cast<uint32_t>(arc);
+        ids[count++] = static_cast<uint32_t>(id);
     }
     return count;
 }

@@ -1,44 +1,43 @@
-// Reading of BER elements (ITU-T X.690) from octets that nobody vouches for. Knows nothing of messages or
-// sockets and owns nothing: everything points into the caller's octets.
+// Reads BER elements (ITU-T X.690) from untrusted input. Independent of messages and sockets. Owns nothing:
+// all results point into the caller's octets.
 #ifndef DEVCOMM_SNMP_BER_READER_H
 #define DEVCOMM_SNMP_BER_READER_H
 
 #include <cstddef>
 #include <cstdint>
 
-// Cursor over octets. `failed` is sticky, and what is opened inside a failed cursor has failed too: read
-// straight down, test it once at the end. A failed cursor has no octets left.
+// A cursor over octets. `failed` is sticky, and contents opened from a failed cursor have failed, too: read
+// straight on, and test once at the end. A failed cursor has no octets left.
 struct BerReader {
     const uint8_t* at;
     const uint8_t* end;
     bool failed;
 };
 
-// Takes the next `count` octets; null, and the cursor failed, when fewer are left.
+// Takes the next `count` octets. Null, with the cursor failed, when fewer are left.
 const uint8_t* BerTake(BerReader& reader, size_t count);
 
-// Takes the next element whatever its tag, and opens its contents. Lengths may have the short form or the
-// long form with 1 to 4 length octets. The cursor fails, and the tag is 0, when the element does not lie
-// within it.
+// Takes the next element with any tag, and opens its contents. Lengths have the short form, or the long form
+// with 1 to 4 length octets. The cursor fails, and the tag is 0, when the element does not end within it.
 uint8_t BerOpenAny(BerReader& reader, BerReader& contents);
 
 // Takes the next element, which must have this tag, and opens its contents.
 BerReader BerOpen(BerReader& reader, uint8_t tag);
 
-// The same for an element that must not be empty.
+// The same, for an element that must not be empty.
 BerReader BerOpenFilled(BerReader& reader, uint8_t tag);
 
 // The contents of an element as a signed 32-bit number, most significant octet first, sign-extended from the
-// first octet when shorter than four. Five octets are taken when the first is 0: an unsigned number from 2^31
-// on. Fails on no octets and on longer contents.
+// first octet when shorter than four. Five octets are valid when the first is 0: an unsigned number from 2^31
+// on. Fails without octets and for longer contents.
 int32_t BerInteger(BerReader& contents);
 
 // Takes the next element, which must be an INTEGER.
 int32_t BerReadInteger(BerReader& reader);
 
-// The arcs of the contents of an OBJECT IDENTIFIER; their count. The first octet gives two: divided by 40,
-// and the remainder. Fails on no octets, an incomplete arc, an arc of more than 32 bits and more than
-// `capacity` arcs.
-uint32_t BerReadArcs(BerReader& contents, uint32_t* arcs, uint32_t capacity);
+// The sub-identifiers of the contents of an OBJECT IDENTIFIER; their count. The first octet gives two:
+// divided by 40, and the remainder. Fails on no octets, an incomplete sub-identifier, an sub-identifier of
+// more than 32 bits and more than `capacity` sub-identifiers.
+uint32_t BerReadSubIdentifiers(BerReader& contents, uint32_t* ids, uint32_t capacity);
 
 #endif

@@ -1,5 +1,5 @@
-// Building of BER elements: see the header. Lengths up to 127 take one octet, longer ones the long form with
-// two, three or four length octets.
+// Builds BER elements. Lengths up to 127 have the short form, others the long form with two, three or four
+// length octets.
 #include "devcomm/snmp/ber_writer.h"
 
 #include "devcomm/snmp/ber.h"
@@ -20,7 +20,7 @@ uint32_t HeaderSize(uint32_t contents) {
     return 2 + LengthOctets(contents);
 }
 
-// Of an element that is there already.
+// Of an existing element.
 uint32_t HeaderSize(const BerBuffer& element) {
     return element.octets[1] <= kMaxShortLength ? 2 : 2u + (element.octets[1] & ~kBerLongForm);
 }
@@ -36,7 +36,7 @@ uint8_t* FreeEnd(const BerBuffer& element) {
     return element.octets + element.count;
 }
 
-// Takes the octets behind the element into its contents.
+// Adds the octets after the element to its contents.
 void Grow(BerBuffer& element, uint32_t added) {
     const uint32_t header = HeaderSize(element);
     const uint32_t contents = element.count - header + added;
@@ -48,19 +48,19 @@ void Grow(BerBuffer& element, uint32_t added) {
 }
 
 // Contents of an OBJECT IDENTIFIER; 0 when they can't be written.
-uint32_t WriteArcs(const uint32_t* arcs, uint32_t count, uint8_t (&to)[kBerMostOid]) {
-    if (count < 2 || !AreFirstArcs(arcs[0], arcs[1]))
+uint32_t WriteSubIdentifiers(const uint32_t* ids, uint32_t count, uint8_t (&to)[kBerMaxOid]) {
+    if (count < 2 || !AreFirstSubIdentifiers(ids[0], ids[1]))
         return 0;
     uint32_t written = 0;
-    to[written++] = static_cast<uint8_t>(arcs[0] * kBerArcsPerFirst + arcs[1]);
+    to[written++] = static_cast<uint8_t>(ids[0] * kBerSubIdentifiersPerFirst + ids[1]);
     for (uint32_t i = 2; i < count; ++i) {
         uint32_t groups = 1;
-        while (groups < 5 && arcs[i] >> (groups * kBerGroupBits) != 0)
+        while (groups < 5 && ids[i] >> (groups * kBerGroupBits) != 0)
             ++groups;
-        if (groups > kBerMostOid - written)
+        if (groups > kBerMaxOid - written)
             return 0;
         while (groups-- > 0)
-            to[written++] = static_cast<uint8_t>((arcs[i] >> (groups * kBerGroupBits) & kGroup)
+            to[written++] = static_cast<uint8_t>((ids[i] >> (groups * kBerGroupBits) & kGroup)
                                                  | (groups > 0 ? kBerMoreGroups : 0));
     }
     return written;
@@ -104,19 +104,19 @@ void BerAppendOctets(BerBuffer& outer, uint8_t tag, const void* octets, uint32_t
 }
 
 void BerAppendInteger(BerBuffer& outer, int32_t value) {
-    uint8_t octets[kBerMostInteger];
-    for (uint32_t i = 0; i < kBerMostInteger; ++i)
-        octets[i] = static_cast<uint8_t>(static_cast<uint32_t>(value) >> (8 * (kBerMostInteger - 1 - i)));
-    // An octet that only repeats the sign of the next one is left out.
+    uint8_t octets[kBerMaxInteger];
+    for (uint32_t i = 0; i < kBerMaxInteger; ++i)
+        octets[i] = static_cast<uint8_t>(static_cast<uint32_t>(value) >> (8 * (kBerMaxInteger - 1 - i)));
+    // Leading octets that only repeat the sign are omitted.
     uint32_t skipped = 0;
-    while (skipped < kBerMostInteger - 1 && octets[skipped] == ((octets[skipped + 1] & 0x80) != 0 ? 0xFF : 0))
+    while (skipped < kBerMaxInteger - 1 && octets[skipped] == ((octets[skipped + 1] & 0x80) != 0 ? 0xFF : 0))
         ++skipped;
-    BerAppendOctets(outer, kBerIntegerTag, octets + skipped, kBerMostInteger - skipped);
+    BerAppendOctets(outer, kBerIntegerTag, octets + skipped, kBerMaxInteger - skipped);
 }
 
-bool BerAppendOid(BerBuffer& outer, const uint32_t* arcs, uint32_t count) {
-    uint8_t contents[kBerMostOid];
-    const uint32_t length = WriteArcs(arcs, count, contents);
+bool BerAppendOid(BerBuffer& outer, const uint32_t* ids, uint32_t count) {
+    uint8_t contents[kBerMaxOid];
+    const uint32_t length = WriteSubIdentifiers(ids, count, contents);
     if (length > 0)
         BerAppendOctets(outer, kBerOidTag, contents, length);
     return length > 0;

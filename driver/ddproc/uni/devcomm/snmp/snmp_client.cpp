@@ -1,4 +1,4 @@
-// The built-in SNMPv1 manager: see the header.
+// The built-in SNMPv1 manager.
 #include "devcomm/snmp/snmp_client.h"
 
 #include "base/scope_guard.h"
@@ -19,8 +19,8 @@ constexpr int kMaxPolls = 10000; // after each send
 constexpr int kMaxDatagrams = 5; // of one request
 constexpr size_t kReceiveCapacity = 4096;
 
-// A receive waits only behind a datagram that was dropped. Without a limit one stray datagram could hold the
-// caller for ever.
+// A receive waits only after a datagram that was dropped. Without this limit a late answer to an earlier
+// request could block the caller.
 constexpr DWORD kReceiveLimit = 2000; // ms
 
 struct SnmpClientSession {
@@ -46,6 +46,7 @@ bool FailAsSockets() {
     return Fail(static_cast<DWORD>(WSAGetLastError()));
 }
 
+// Each successful WSAStartup is matched by a WSACleanup, also when a later step fails.
 bool StartSockets() {
     WSADATA granted = {};
     const int result = WSAStartup(kSocketsVersion, &granted);
@@ -102,7 +103,7 @@ bool OpenSession(SnmpClientSession& session, const char* agent) {
     return false;
 }
 
-bool SomethingWaits(SOCKET socket) {
+bool HasDatagram(SOCKET socket) {
     for (int poll = 0; poll < kMaxPolls; ++poll) {
         u_long octets = 0;
         if (ioctlsocket(socket, static_cast<long>(FIONREAD), &octets) == 0 && octets != 0)
@@ -116,19 +117,20 @@ bool SendUntilAnswered(SOCKET socket, const BerBuffer& message) {
     for (int sends = 0; sends < kMaxSends; ++sends) {
         if (send(socket, reinterpret_cast<const char*>(message.octets), count, 0) != count)
             return Fail(kSnmpTransferFailed);
-        if (SomethingWaits(socket))
+        if (HasDatagram(socket))
             return true;
     }
     return Fail(kSnmpNoAnswer);
 }
 
-// Whether the session's community begins with the reply's. Its terminator counts as a character of it.
+// Whether the community of the session begins with that of the reply. Its terminator counts as a character.
 bool IsSameCommunity(const char* community, const BerReader& reply) {
     const auto length = static_cast<size_t>(reply.end - reply.at);
     return length <= TextLength(community) + 1 && memcmp(reply.at, community, length) == 0;
 }
 
-// The reply to the session's last request. What was received earlier is dropped, without a look at all of it.
+// Receives the reply to the last request of the session. Replies to earlier requests are dropped, read only
+// as far as their request-id.
 bool ReceiveReply(SnmpClientSession& session, AsnInteger32* errorStatus, AsnInteger32* errorIndex,
                   SnmpResult& result) {
     for (int datagrams = 0; datagrams < kMaxDatagrams; ++datagrams) {
@@ -169,7 +171,7 @@ SnmpSession WINAPI ClientOpen(const char* agent, const char* community, INT time
 
 BOOL WINAPI ClientClose(SnmpSession session) {
     if (session != nullptr) {
-        const KeepLastError keep; // of the request before
+        const KeepLastError keep; // of the last request
         closesocket(Record(session).socket);
         WSACleanup();
         LocalFree(session);

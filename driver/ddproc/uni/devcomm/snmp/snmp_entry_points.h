@@ -1,6 +1,6 @@
-// The nine entry points through which the module speaks SNMP: those of the system's SNMP Management API, or
-// the built-in client's. Bound and released by the start-up order; every query goes through the table and
-// can't tell which set is in use.
+// The nine entry points that the module uses for SNMP: those of the system's SNMP Management API, or those of
+// the built-in client. Bound at process attach, released at process detach. Queries use the table and do not
+// know which set is bound.
 #ifndef DEVCOMM_SNMP_SNMP_ENTRY_POINTS_H
 #define DEVCOMM_SNMP_SNMP_ENTRY_POINTS_H
 
@@ -8,13 +8,12 @@
 #include <snmp.h>
 #include <windows.h>
 
-using SnmpSession = void*; // opaque: belongs to the set that opened it
+using SnmpSession = void*; // opaque; only for the set that has opened it
 
-// Process-wide, written only while the process attaches or detaches. What one set's functions hand out is
-// freed by the same set's.
+// Process-wide, written only at process attach and detach. Memory is freed by the set that has allocated it.
 struct SnmpEntryPoints {
     // SNMPAPI.DLL
-    void*(WINAPI* snmpUtilMemAlloc)(UINT octets); // not necessarily zero-filled; null: no memory
+    void*(WINAPI* snmpUtilMemAlloc)(UINT size); // not necessarily zero-filled; null: no memory
     void(WINAPI* snmpUtilMemFree)(void* block);
     void(WINAPI* snmpUtilOidFree)(AsnObjectIdentifier* oid);
     void(WINAPI* snmpUtilVarBindFree)(SnmpVarBind* varBind);
@@ -33,15 +32,15 @@ struct SnmpEntryPoints {
 };
 extern SnmpEntryPoints snmpEntryPoints;
 
-// Fills the table: with the system's functions where both its libraries load, otherwise with the built-in
-// client's. TRUE when it is filled, now or earlier; FALSE, and the table empty, when the system's libraries
-// load but lack an entry point.
-BOOL SnmpApiBind();
+// Fills the table: with the functions of the system when both its libraries load, otherwise with those of the
+// built-in client. True when it is filled, now or earlier. False, with the whole table empty, when the
+// libraries load but lack an entry point: their other functions are gone with them.
+bool SnmpApiBind();
 
 // Empties the table and frees the system's libraries.
 void SnmpApiRelease();
 
-// Whether all nine are there. Without that no query asks anything.
+// Whether all nine are bound. Otherwise queries send nothing.
 bool SnmpApiIsBound();
 
 #endif

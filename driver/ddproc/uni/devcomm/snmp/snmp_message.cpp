@@ -1,4 +1,4 @@
-// Request and reply: see the header.
+// Builds requests and reads replies.
 #include "devcomm/snmp/snmp_message.h"
 
 #include "base/text.h"
@@ -10,8 +10,8 @@ namespace {
 constexpr int32_t kVersion1 = 0;
 
 // Room for all but the community and the varbinds, and for one varbind: headers and contents of each element.
-constexpr uint64_t kFixedRoom = 8 * kBerMostHeader + 4 * kBerMostInteger;
-constexpr uint64_t kVarBindRoom = 3 * kBerMostHeader + kBerMostOid;
+constexpr uint64_t kFixedRoom = 8 * kBerMaxHeader + 4 * kBerMaxInteger;
+constexpr uint64_t kVarBindRoom = 3 * kBerMaxHeader + kBerMaxOid;
 
 BerBuffer CreateMessage(size_t communityLength, UINT varBinds) {
     const uint64_t capacity = kFixedRoom + communityLength + kVarBindRoom * varBinds;

@@ -1,5 +1,5 @@
-// The two messages of an SNMPv1 GetRequest (RFC 1157): the request that is sent, and what is read from a
-// datagram that came back. Knows nothing of sockets.
+// The two messages of an SNMPv1 GetRequest (RFC 1157): the request, and the reply in a datagram. Independent
+// of sockets.
 #ifndef DEVCOMM_SNMP_SNMP_MESSAGE_H
 #define DEVCOMM_SNMP_SNMP_MESSAGE_H
 
@@ -8,9 +8,9 @@
 
 #include <snmp.h>
 
-// A request for the objects of the list, whose values are sent as NULL. A varbind whose value is not NULL
-// goes with its name only, one whose name can't be encoded without it. The caller frees the message by
-// BerFree; null octets without memory.
+// Builds a request for the objects of the list, with NULL values. A varbind whose value is not NULL is sent
+// with its name only, one whose name can't be encoded without a name. The caller frees the message by
+// BerFree. Null octets without memory.
 BerBuffer SnmpBuildRequest(uint8_t pduTag, const char* community, uint32_t requestId,
                            const SnmpVarBindList& list);
 
@@ -18,10 +18,10 @@ BerBuffer SnmpBuildRequest(uint8_t pduTag, const char* community, uint32_t reque
 struct SnmpReply {
     BerReader community;
     int32_t requestId;
-    BerReader rest; // of the PDU, behind the request-id
+    BerReader rest; // of the PDU, after the request-id
 };
 
-// Reads up to the request-id; what lies behind it is not looked at. False when that is malformed.
+// Reads up to the request-id. False when that much is malformed.
 bool SnmpReadReply(const uint8_t* datagram, size_t count, SnmpReply& reply);
 
 struct SnmpResult {
@@ -29,8 +29,8 @@ struct SnmpResult {
     BerReader value; // contents, in the datagram
 };
 
-// Reads on to the first varbind's value, whose name may be any. Stores error-status and error-index as soon
-// as they are read; either out may be null. False when the reply is malformed.
+// Reads on to the value of the first varbind, whatever its name. Stores error-status and error-index as soon
+// as they are read; either may be null. False when the reply is malformed.
 bool SnmpReadResult(SnmpReply& reply, AsnInteger32* errorStatus, AsnInteger32* errorIndex,
                     SnmpResult& result);
 

@@ -1,4 +1,4 @@
-// Values and names of the built-in client, and their memory: see the header.
+// Decodes values and names for the built-in client, and manages their memory.
 #include "devcomm/snmp/snmp_values.h"
 
 #include "base/scope_guard.h"
@@ -22,13 +22,13 @@ constexpr struct {
     {ASN_SEQUENCE,         SnmpForm::kOctets},
     {ASN_IPADDRESS,        SnmpForm::kOctets},
     {ASN_OPAQUE,           SnmpForm::kOctets},
-    {ASN_OBJECTIDENTIFIER, SnmpForm::kArcs},
+    {ASN_OBJECTIDENTIFIER, SnmpForm::kOid},
     {ASN_NULL,             SnmpForm::kEmpty},
 };
 // clang-format on
 
-constexpr UINT kMaxArcs = 128;
-constexpr int kMaxArcDigits = 15;
+constexpr UINT kMaxSubIdentifiers = 128;
+constexpr int kMaxSubIdentifierDigits = 15;
 
 bool CopyOctets(const BerReader& contents, AsnOctetString& to) {
     const auto length = static_cast<UINT>(contents.end - contents.at);
@@ -40,28 +40,28 @@ bool CopyOctets(const BerReader& contents, AsnOctetString& to) {
     return true;
 }
 
-bool CopyArcs(const UINT* arcs, UINT count, AsnObjectIdentifier& to) {
+bool CopySubIdentifiers(const UINT* ids, UINT count, AsnObjectIdentifier& to) {
     auto* copy = static_cast<UINT*>(ClientMemAlloc(static_cast<UINT>(count * sizeof(UINT))));
     if (copy == nullptr)
         return false;
-    memcpy(copy, arcs, count * sizeof(UINT));
+    memcpy(copy, ids, count * sizeof(UINT));
     to = {count, copy};
     return true;
 }
 
-// The arc texts up to the end of the text; their count, or 0 when the text is none of an OID.
-UINT ParseArcs(const char* text, UINT (&arcs)[kMaxArcs]) {
+// Parses the sub-identifiers of a dotted text. Returns their count, 0 when the text is not an OID.
+UINT ParseSubIdentifiers(const char* text, UINT (&ids)[kMaxSubIdentifiers]) {
     UINT count = 0;
     for (text += *text == '.' ? 1 : 0;; ++text) {
-        uint64_t arc = 0;
+        uint64_t id = 0;
         for (int digits = 0; IsDigit(*text); ++text) {
-            if (++digits > kMaxArcDigits)
+            if (++digits > kMaxSubIdentifierDigits)
                 return 0;
-            arc = arc * 10 + static_cast<uint64_t>(*text - '0');
+            id = id * 10 + static_cast<uint64_t>(*text - '0');
         }
-        if ((*text != '.' && *text != 0) || arc > UINT32_MAX || count == kMaxArcs)
+        if ((*text != '.' && *text != 0) || id > UINT32_MAX || count == kMaxSubIdentifiers)
             return 0;
-        arcs[count++] = static_cast<UINT>(arc);
+        ids[count++] = static_cast<UINT>(id);
         if (*text == 0)
             return count;
     }
@@ -76,7 +76,7 @@ SnmpForm SnmpFormOf(uint8_t typeCode) {
     return SnmpForm::kUnknown;
 }
 
-BOOL SnmpDecodeValue(uint8_t typeCode, BerReader contents, AsnAny& value) {
+bool SnmpDecodeValue(uint8_t typeCode, BerReader contents, AsnAny& value) {
     AsnAny decoded = {};
     decoded.asnType = typeCode;
     bool enoughMemory = true;
@@ -87,10 +87,10 @@ BOOL SnmpDecodeValue(uint8_t typeCode, BerReader contents, AsnAny& value) {
     case SnmpForm::kOctets:
         enoughMemory = contents.failed || CopyOctets(contents, decoded.asnValue.string);
         break;
-    case SnmpForm::kArcs: {
-        UINT arcs[kMaxArcs];
-        const UINT count = BerReadArcs(contents, arcs, kMaxArcs);
-        enoughMemory = contents.failed || CopyArcs(arcs, count, decoded.asnValue.object);
+    case SnmpForm::kOid: {
+        UINT ids[kMaxSubIdentifiers];
+        const UINT count = BerReadSubIdentifiers(contents, ids, kMaxSubIdentifiers);
+        enoughMemory = contents.failed || CopySubIdentifiers(ids, count, decoded.asnValue.object);
         break;
     }
     case SnmpForm::kEmpty:
@@ -103,9 +103,9 @@ BOOL SnmpDecodeValue(uint8_t typeCode, BerReader contents, AsnAny& value) {
     if (contents.failed)
         SetLastError(kSnmpBadReply);
     if (contents.failed || !enoughMemory)
-        return FALSE;
+        return false;
     value = decoded;
-    return TRUE;
+    return true;
 }
 
 void* WINAPI ClientMemAlloc(UINT octets) {
@@ -130,7 +130,7 @@ void WINAPI ClientVarBindFree(SnmpVarBind* varBind) {
         if (value.asnValue.string.dynamic != FALSE)
             ClientMemFree(value.asnValue.string.stream);
         value.asnValue.string = {};
-    } else if (form == SnmpForm::kArcs) {
+    } else if (form == SnmpForm::kOid) {
         ClientOidFree(&value.asnValue.object);
     }
     value.asnType = ASN_NULL;
@@ -148,7 +148,7 @@ void WINAPI ClientVarBindListFree(SnmpVarBindList* list) {
 BOOL WINAPI ClientStrToOid(const char* text, AsnObjectIdentifier* oid) {
     *oid = {};
     const KeepLastError keep;
-    UINT arcs[kMaxArcs];
-    const UINT count = ParseArcs(text, arcs);
-    return count >= 2 && AreFirstArcs(arcs[0], arcs[1]) && CopyArcs(arcs, count, *oid);
+    UINT ids[kMaxSubIdentifiers];
+    const UINT count = ParseSubIdentifiers(text, ids);
+    return count >= 2 && AreFirstSubIdentifiers(ids[0], ids[1]) && CopySubIdentifiers(ids, count, *oid);
 }
