@@ -13,7 +13,7 @@ bool IsStartedWithoutArguments(int argc) {
     return argc < 2;
 }
 
-// Closes the console if the program is alone in it: the desktop has opened it for nothing.
+// Closes the console if no other program uses it: the system opened it only for this start from the desktop.
 void CloseOwnConsole() {
     DWORD others[2];
     if (GetConsoleProcessList(others, 2) == 1)

@@ -1,5 +1,6 @@
-// The network address of a printer: see the header. One function for each step: the record, the queue's port,
-// the port monitor's transceiver, the registry. Each closes what it has opened.
+// DDProc_GetPrinterIPAddress. The sources of the address are the caller's record, the transceiver of the
+// queue's port monitor, and the registry keys of port monitors. A source finds a text; Deliver passes it to
+// the caller. All of it is untrusted: a text ends at its terminator or at the end of its block.
 #include "base/records.h"
 
 #include "base/entry_point.h"
@@ -13,7 +14,7 @@
 
 namespace {
 
-// Where the address goes, and what the thread's last error was before the call.
+// Where the address goes, and the last error before the call.
 struct Caller {
     char* buffer;
     DWORD bufferSize;
@@ -24,14 +25,14 @@ struct Caller {
 // UTF-16 text that may lack its terminator.
 struct WideText {
     const wchar_t* at;
-    size_t length; // characters before the terminator or the end of what has been read
+    size_t length; // characters before the terminator or the end of the block
 };
 
-// Port monitors that keep a port's address in the registry, in the order in which they are tried.
+// Port monitors that have the address of a port in the registry, in the order in which they are tried.
 constexpr wchar_t kMonitorsKey[] = L"System\\CurrentControlSet\\Control\\Print\\Monitors\\";
 // clang-format off
 constexpr struct PortMonitor {
-    const wchar_t* portsKey; // under the monitors' key; the port's name follows
+    const wchar_t* portsKey; // below the key of the monitors; the port's name follows
     const wchar_t* value;
 } kPortMonitors[] = {
     {L"Standard TCP/IP Port\\Ports\\",    L"IPAddress"},
@@ -44,46 +45,58 @@ constexpr struct PortMonitor {
 };
 // clang-format on
 
-constexpr size_t kKeyPathCapacity = 1024; // characters, the terminator included
+constexpr size_t kKeyPathCapacity = 1024; // characters, with the terminator
 using KeyPath = wchar_t[kKeyPathCapacity];
-using RegistryValue = wchar_t[256];
 
-// The text that begins here, in a block that ends there. One that begins elsewhere ends at its terminator.
+// The address of a port, as its source has it.
+struct PortAddress {
+    PortAddress() = default;
+    ~PortAddress() {
+        const KeepLastError keep;
+        if (reply != nullptr)
+            GlobalFree(reply);
+    }
+    PortAddress(const PortAddress&) = delete;
+    PortAddress& operator=(const PortAddress&) = delete;
+
+    WideText text = {};    // within one of these two
+    BYTE* reply = nullptr; // of the transceiver, on the global heap
+    wchar_t registryValue[256];
+};
+
+// The text from here to its terminator or the end of the block. A text outside the block ends at its
+// terminator.
 WideText TextWithin(const void* begin, const void* end) {
     const auto* text = static_cast<const wchar_t*>(begin);
-    const size_t most =
+    const size_t capacity =
         (reinterpret_cast<uintptr_t>(end) - reinterpret_cast<uintptr_t>(begin)) / sizeof(wchar_t);
     size_t length = 0;
-    while (length < most && text[length] != 0)
+    while (length < capacity && text[length] != 0)
         ++length;
     return {text, length};
 }
 
-// Octets that the text takes in the ANSI code page, its NUL included; 0: it can't be converted.
+// Bytes of the text in the ANSI code page, with its NUL; 0 when it can't be converted.
 DWORD ConvertedSize(const WideText& text) {
     if (text.length == 0)
-        return 1; // the system declines to convert nothing
-    const int octets = WideCharToMultiByte(GetACP(), 0, text.at, static_cast<int>(text.length), nullptr, 0,
-                                           nullptr, nullptr);
-    return octets > 0 ? static_cast<DWORD>(octets) + 1 : 0;
+        return 1; // the system does not convert an empty text
+    const int size = WideCharToMultiByte(GetACP(), 0, text.at, static_cast<int>(text.length), nullptr, 0,
+                                         nullptr, nullptr);
+    return size > 0 ? static_cast<DWORD>(size) + 1 : 0;
 }
 
-// Converts into the buffer, which has room for `size`: what ConvertedSize has answered. Octets stored, the
-// NUL included; 0: the conversion failed.
+// Converts into the buffer, which has room for `size` bytes, the result of ConvertedSize. Returns the bytes
+// stored, with the NUL; 0 when the conversion failed.
 DWORD Convert(const WideText& text, char* buffer, DWORD size) {
-    int octets = 0;
+    int stored = 0;
     if (text.length != 0) {
-        octets = WideCharToMultiByte(GetACP(), 0, text.at, static_cast<int>(text.length), buffer,
+        stored = WideCharToMultiByte(GetACP(), 0, text.at, static_cast<int>(text.length), buffer,
                                      static_cast<int>(size - 1), nullptr, nullptr);
-        if (octets <= 0)
+        if (stored <= 0)
             return 0;
     }
-    buffer[octets] = 0;
-    return static_cast<DWORD>(octets) + 1;
-}
-
-bool HasRoom(const Caller& caller, DWORD size) {
-    return caller.buffer != nullptr && size <= caller.bufferSize;
+    buffer[stored] = 0;
+    return static_cast<DWORD>(stored) + 1;
 }
 
 void StoreSize(const Caller& caller, DWORD size) {
@@ -91,55 +104,53 @@ void StoreSize(const Caller& caller, DWORD size) {
         *caller.neededSize = size;
 }
 
-// On the port's roads a call that has no room for the address succeeds, and says so this way.
-void StoreSizeOnly(const Caller& caller, DWORD size) {
-    StoreSize(caller, size);
-    SetLastError(ERROR_INSUFFICIENT_BUFFER);
+enum class Delivery {
+    kStored,
+    kNoRoom,           // the buffer is null or too small
+    kNotConvertible,   // the text has no form in the code page
+    kConversionFailed, // although its size was known
+};
+
+// Stores the text in the caller's buffer. `size` is what it needs or has taken, in bytes; 0 without a
+// conversion.
+Delivery Deliver(const WideText& text, const Caller& caller, DWORD& size) {
+    size = ConvertedSize(text);
+    if (size == 0)
+        return Delivery::kNotConvertible;
+    if (caller.buffer == nullptr || size > caller.bufferSize)
+        return Delivery::kNoRoom;
+    size = Convert(text, caller.buffer, size);
+    return size != 0 ? Delivery::kStored : Delivery::kConversionFailed;
 }
 
 bool AnswerFromRecord(const AddressSettings& settings, const Caller& caller) {
     const wchar_t* address = settings.address;
     const WideText text = {address, TextLength(address)};
-    const DWORD size = text.length != 0 ? ConvertedSize(text) : 0;
-    if (size == 0)
+    DWORD size = 0;
+    if (text.length == 0)
         return false;
-    if (size > caller.bufferSize) {
+    const Delivery delivery = Deliver(text, caller, size);
+    if (delivery == Delivery::kNoRoom && size > caller.bufferSize)
         StoreSize(caller, size);
-        return false;
-    }
-    return caller.buffer != nullptr && Convert(text, caller.buffer, size) != 0;
+    return delivery == Delivery::kStored;
 }
 
-// The name by which OpenPrinterW opens the port's transceiver, to be released by GlobalFree; null: no memory.
+// The name by which OpenPrinterW opens the transceiver of the port. Released by GlobalFree; null without
+// memory.
 wchar_t* MakeTransceiverName(const WideText& portName) {
     constexpr wchar_t kPrefix[] = L",XcvPort ";
-    const size_t portOctets = portName.length * sizeof(wchar_t);
-    auto* name = static_cast<wchar_t*>(GlobalAlloc(GPTR, sizeof(kPrefix) + portOctets));
+    const size_t portBytes = portName.length * sizeof(wchar_t);
+    auto* name = static_cast<wchar_t*>(GlobalAlloc(GPTR, sizeof(kPrefix) + portBytes));
     if (name == nullptr)
         return nullptr;
     memcpy(name, kPrefix, sizeof(kPrefix));
-    memcpy(name + std::size(kPrefix) - 1, portName.at, portOctets); // the block is zero behind it
+    memcpy(name + std::size(kPrefix) - 1, portName.at, portBytes); // the rest of the block is 0
     return name;
 }
 
-// False when the text can't be converted.
-bool AnswerWithReply(const WideText& reply, const Caller& caller) {
-    const DWORD size = ConvertedSize(reply);
-    if (size == 0)
-        return false;
-    if (!HasRoom(caller, size)) {
-        StoreSizeOnly(caller, size);
-        return true;
-    }
-    const DWORD stored = Convert(reply, caller.buffer, size);
-    if (stored == 0)
-        return false;
-    StoreSize(caller, stored);
-    return true;
-}
-
-// A null name opens the local print server. False when there is no usable reply.
-bool AnswerFromTransceiver(wchar_t* name, const Caller& caller) {
+// Asks the transceiver of this name; null is that of the local print server. False when there is no valid
+// reply.
+bool FindInTransceiver(wchar_t* name, PortAddress& address) {
     PRINTER_DEFAULTSW wanted = {nullptr, nullptr, SERVER_ACCESS_ADMINISTER};
     HANDLE printer = nullptr;
     if (!OpenPrinterW(name, &printer, &wanted))
@@ -159,19 +170,19 @@ bool AnswerFromTransceiver(wchar_t* name, const Caller& caller) {
     xcvData(printer, kCommand, nullptr, 0, nullptr, 0, &size, &status);
     if (size == 0)
         return false;
-    auto* reply = static_cast<BYTE*>(GlobalAlloc(GPTR, size));
-    if (reply == nullptr)
+    address.reply = static_cast<BYTE*>(GlobalAlloc(GPTR, size));
+    if (address.reply == nullptr)
         return false;
-    const ScopeGuard freeReply{[reply] { GlobalFree(reply); }};
     DWORD replySize = 0;
     status = 0;
-    // The call itself succeeds when the port monitor refuses the command; the status then says so.
-    if (!xcvData(printer, kCommand, nullptr, 0, reply, size, &replySize, &status) || status != 0)
+    // The call succeeds also when the port monitor refuses the command; then the status is not 0.
+    if (!xcvData(printer, kCommand, nullptr, 0, address.reply, size, &replySize, &status) || status != 0)
         return false;
-    return AnswerWithReply(TextWithin(reply, reply + size), caller);
+    address.text = TextWithin(address.reply, address.reply + size);
+    return true;
 }
 
-// Appends what still fits; the path stays terminated.
+// Appends what fits; the path stays terminated.
 void AppendPortName(KeyPath& path, const WideText& portName) {
     size_t length = TextLength(path);
     for (size_t i = 0; i < portName.length && length < kKeyPathCapacity - 1; ++i)
@@ -179,10 +190,8 @@ void AppendPortName(KeyPath& path, const WideText& portName) {
     path[length] = 0;
 }
 
-// What the registry holds for the port under this monitor, of whatever type; false: nothing that could be
-// read. The text refers to `value`.
-bool ReadPortValue(const PortMonitor& monitor, const WideText& portName, RegistryValue& value,
-                   WideText& text) {
+// Reads the value that this monitor has for the port, of any type. False when it can't be read.
+bool ReadPortValue(const PortMonitor& monitor, const WideText& portName, PortAddress& address) {
     KeyPath path;
     CopyText(path, kMonitorsKey);
     AppendText(path, monitor.portsKey);
@@ -191,58 +200,69 @@ bool ReadPortValue(const PortMonitor& monitor, const WideText& portName, Registr
     if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, path, 0, KEY_READ, &key) != ERROR_SUCCESS)
         return false;
     const ScopeGuard closeKey{[key] { RegCloseKey(key); }};
-    auto* octets = reinterpret_cast<BYTE*>(value);
-    DWORD size = sizeof(value);
-    if (RegQueryValueExW(key, monitor.value, nullptr, nullptr, octets, &size) != ERROR_SUCCESS)
+    auto* value = reinterpret_cast<BYTE*>(address.registryValue);
+    DWORD size = sizeof(address.registryValue);
+    if (RegQueryValueExW(key, monitor.value, nullptr, nullptr, value, &size) != ERROR_SUCCESS)
         return false;
-    text = TextWithin(octets, octets + size);
+    address.text = TextWithin(value, value + size);
     return true;
 }
 
-// False when no monitor knows the port. Once one does, the call succeeds: a value that can't be converted is
-// one that takes 0 octets.
-bool AnswerFromRegistry(const WideText& portName, const Caller& caller) {
-    RegistryValue value;
-    WideText text = {};
-    bool found = false;
-    for (size_t i = 0; i < std::size(kPortMonitors) && !found; ++i)
-        found = ReadPortValue(kPortMonitors[i], portName, value, text);
-    if (!found)
-        return false;
-    const DWORD size = ConvertedSize(text);
-    if (size == 0 || !HasRoom(caller, size))
-        StoreSizeOnly(caller, size);
-    else
-        StoreSize(caller, Convert(text, caller.buffer, size));
+// False when no monitor has the port.
+bool FindInRegistry(const WideText& portName, PortAddress& address) {
+    for (const PortMonitor& monitor : kPortMonitors)
+        if (ReadPortValue(monitor, portName, address))
+            return true;
+    return false;
+}
+
+// Finishes a call with the address of a port. Without room, or a form in the code page, it succeeds with a
+// last error.
+bool AnswerWithPortAddress(Delivery delivery, DWORD size, const Caller& caller) {
+    StoreSize(caller, size);
+    if (delivery == Delivery::kNoRoom || delivery == Delivery::kNotConvertible)
+        SetLastError(ERROR_INSUFFICIENT_BUFFER);
     return true;
 }
 
-// The NT family has transceivers; from version 5 on they are opened by the port's name.
+// The transceiver exists on the NT family; from version 5 on it is opened by the port's name. A reply that
+// can't be converted counts as none. The registry is the last source: there such a value counts as one that
+// needs 0 bytes.
 bool AnswerFromPort(const WideText& portName, const Caller& caller) {
     constexpr DWORD kFirstWithPortNames = 5;
     const OSVERSIONINFOW version = SystemVersion();
-    if (version.dwPlatformId != VER_PLATFORM_WIN32_NT)
-        return AnswerFromRegistry(portName, caller);
-    wchar_t* name = nullptr;
-    if (version.dwMajorVersion >= kFirstWithPortNames) {
-        name = MakeTransceiverName(portName);
-        if (name == nullptr) {
-            SetLastError(caller.lastError);
-            return false;
+    PortAddress address;
+    DWORD size = 0;
+    if (version.dwPlatformId == VER_PLATFORM_WIN32_NT) {
+        wchar_t* name = nullptr;
+        if (version.dwMajorVersion >= kFirstWithPortNames) {
+            name = MakeTransceiverName(portName);
+            if (name == nullptr) {
+                SetLastError(caller.lastError);
+                return false;
+            }
+        }
+        const ScopeGuard freeName{[name] {
+            if (name != nullptr)
+                GlobalFree(name);
+        }};
+        if (FindInTransceiver(name, address)) {
+            const Delivery delivery = Deliver(address.text, caller, size);
+            if (delivery == Delivery::kStored || delivery == Delivery::kNoRoom)
+                return AnswerWithPortAddress(delivery, size, caller);
         }
     }
-    const ScopeGuard freeName{[name] {
-        if (name != nullptr)
-            GlobalFree(name);
-    }};
-    return AnswerFromTransceiver(name, caller) || AnswerFromRegistry(portName, caller);
+    if (!FindInRegistry(portName, address))
+        return false;
+    const Delivery delivery = Deliver(address.text, caller, size);
+    return AnswerWithPortAddress(delivery, size, caller);
 }
 
-// False when the printer can't be opened, or its port not be read.
+// False when the printer can't be opened or its port can't be read.
 bool AnswerFromQueue(const wchar_t* printerName, const Caller& caller) {
     constexpr DWORD kLevel = 2;
     HANDLE printer = nullptr;
-    if (!OpenPrinterW(const_cast<wchar_t*>(printerName), &printer, nullptr)) // which only reads it
+    if (!OpenPrinterW(const_cast<wchar_t*>(printerName), &printer, nullptr)) // the name is only read
         return false;
     const ScopeGuard closePrinter{[printer] { ClosePrinter(printer); }};
     DWORD size = 0;
@@ -271,7 +291,7 @@ BOOL WINAPI DDProc_GetPrinterIPAddress(const wchar_t* printerName, const Address
     bool answered;
     if (settings->hasAddress != 0) {
         answered = AnswerFromRecord(*settings, caller);
-        SetLastError(caller.lastError); // whatever the conversion has left
+        SetLastError(caller.lastError); // not that of the conversion
     } else {
         answered = AnswerFromQueue(printerName, caller);
     }
