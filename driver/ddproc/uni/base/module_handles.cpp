@@ -1,4 +1,4 @@
-// The module's process-wide handles: see the header.
+// The module's process-wide handles, and paths of files in its folder.
 #include "base/module_handles.h"
 
 #include "base/text.h"
@@ -33,7 +33,7 @@ bool SiblingPath(HINSTANCE instance, const wchar_t* fileName, wchar_t (&path)[kP
     wchar_t modulePath[kPathCapacity];
     size_t directory = GetModuleFileNameW(instance, modulePath, kPathCapacity);
     if (directory >= kPathCapacity)
-        return false; // cut
+        return false; // the path is cut
     while (directory > 0 && modulePath[directory - 1] != L'\\' && modulePath[directory - 1] != L'/')
         --directory;
     const size_t nameLength = TextLength(fileName);

@@ -1,5 +1,5 @@
-// The module's process-wide handles, and paths beside its file. Ground floor of the module: every subsystem
-// may include this header. Written while the process attaches or detaches, only read in between.
+// The module's process-wide handles, and paths of files in its folder. The handles are written at process
+// attach and detach, and only read in between.
 #ifndef BASE_MODULE_HANDLES_H
 #define BASE_MODULE_HANDLES_H
 
@@ -15,8 +15,8 @@ void SetResourceModule(HMODULE module);
 
 constexpr size_t kPathCapacity = 260;
 
-// Full path of a file that lies beside the module. False, and the path empty, when the module's own path is
-// not known in full or the file's would not fit: a bare name or a cut path could lead to another file.
+// Full path of a file in the module's folder. False, with an empty path, when the module's own path is
+// unknown or the result would not fit: a bare name or a cut path could lead to another file.
 bool SiblingPath(HINSTANCE instance, const wchar_t* fileName, wchar_t (&path)[kPathCapacity]);
 
 #endif

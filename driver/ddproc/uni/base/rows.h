@@ -1,10 +1,10 @@
-// Rows that lie one behind the other, for whoever goes through them: of a table, or of a list in a block.
+// A range of rows in memory: of a table, or of a list in a block.
 #ifndef BASE_ROWS_H
 #define BASE_ROWS_H
 
 #include <cstddef>
 
-// Owns nothing: good for as long as what it was made from.
+// Owns nothing: valid as long as its rows.
 template <typename Row>
 struct Rows {
     constexpr Rows() = default;

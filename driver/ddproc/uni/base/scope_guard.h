@@ -1,11 +1,11 @@
-// What a function does at the end of a scope, on every way out of it, for every subsystem. The only objects
-// with a destructor in the module are these and those that own one resource in the same manner.
+// Actions at the end of a scope, on every way out of it. Only these and types that own one resource have
+// destructors in the module.
 #ifndef BASE_SCOPE_GUARD_H
 #define BASE_SCOPE_GUARD_H
 
 #include <windows.h>
 
-// Puts the last error of its beginning back: callers are told why something failed, not how it was tidied up.
+// Restores the last error: callers learn why something failed, not how it was released.
 struct KeepLastError {
     KeepLastError() = default;
     ~KeepLastError() { SetLastError(error); }
@@ -15,8 +15,8 @@ struct KeepLastError {
     const DWORD error = GetLastError();
 };
 
-// `const ScopeGuard closePrinter{[printer] { ClosePrinter(printer); }};` releases what has been opened, and
-// keeps the last error.
+// `const ScopeGuard closePrinter{[printer] { ClosePrinter(printer); }};` releases a resource and keeps the
+// last error.
 template <typename Release>
 struct ScopeGuard {
     ~ScopeGuard() {

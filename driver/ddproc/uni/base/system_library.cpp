@@ -1,4 +1,4 @@
-// Libraries of the system and its version: see the header.
+// Loads libraries of the system by their full path; the version of the system.
 #include "base/system_library.h"
 
 #include "base/module_handles.h"

@@ -1,4 +1,4 @@
-// Libraries of the system that are loaded at run time, by their full path in the system directory.
+// Loads libraries of the system by their full path, so that no other file of that name is found.
 #ifndef BASE_SYSTEM_LIBRARY_H
 #define BASE_SYSTEM_LIBRARY_H
 
@@ -7,7 +7,7 @@
 // The caller frees it. Null with the last error of the failed load.
 HMODULE LoadSystemLibrary(const wchar_t* fileName);
 
-// Version of the running system; all 0 when it can't be asked.
+// Version of the running system; all 0 when it is unknown.
 OSVERSIONINFOW SystemVersion();
 
 #endif

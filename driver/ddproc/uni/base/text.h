@@ -1,6 +1,5 @@
-// Texts in fixed fields: bounded copies, comparisons and numbers, for every subsystem. Nobody copies a text
-// in another way. A text is given as an array, which it may fill without a terminator, or as a pointer to a
-// terminated text.
+// Texts in fixed fields: bounded copies, comparisons, numbers. The module copies texts only by these
+// functions. A text is an array, which it may fill without a terminator, or a pointer to a terminated text.
 #ifndef BASE_TEXT_H
 #define BASE_TEXT_H
 
@@ -8,7 +7,7 @@
 #include <cstdint>
 #include <type_traits>
 
-// The character at this position; 0 behind the end of an array.
+// The character at this position; 0 beyond the end of an array.
 template <typename Text>
 constexpr auto CharAt(const Text& text, size_t position) {
     if constexpr (std::is_array_v<Text>) {
@@ -27,7 +26,7 @@ constexpr size_t TextLength(const Text& text) {
     return length;
 }
 
-// Copies what fits and always terminates; the rest of the destination stays as it is.
+// Copies what fits and always terminates. The rest of the destination is unchanged.
 template <typename Char, size_t Capacity, typename Text>
 constexpr void CopyText(Char (&to)[Capacity], const Text& from) {
     size_t length = 0;
@@ -70,8 +69,8 @@ constexpr bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-// Leading spaces, an optional sign, then digits; what follows them is ignored. 0 when there are none. Digits
-// beyond 32 bits are lost; a negative number is its two's complement.
+// Parses leading spaces, an optional sign and digits; the rest is ignored. 0 without digits. The number wraps
+// at 32 bits; a negative one is its two's complement.
 constexpr uint32_t ParseDecimal(const char* text) {
     while (*text == ' ')
         ++text;

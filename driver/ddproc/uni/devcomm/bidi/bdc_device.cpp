@@ -1,4 +1,4 @@
-// A device as the bidirectional library tells of it: see the header.
+// Reads a device through the bidirectional library, list by list.
 #include "devcomm/bidi/bdc_device.h"
 
 #include "base/entry_point.h"
@@ -26,11 +26,12 @@ Function* EntryPoint(const BdcDeviceContext& context, BdcFunction function) {
     return AsFunction<Function>(context.functions.entryPoints[function]);
 }
 
+// Results of a failed call are discarded.
 bool Succeeded(int32_t status) {
     return status >= 0 && status != kBdcNothing;
 }
 
-// The lists, in the order in which they are asked for.
+// The lists, in the order of the queries.
 struct ListDescription {
     BdcFunction function;
     uint32_t itemSize;
@@ -48,8 +49,7 @@ constexpr ListDescription kLists[] = {
 };
 // clang-format on
 
-// One call for a list. The input trays are asked with a selector; the media path is one item, and has no
-// count.
+// Calls the library for a list. The input trays take a selector; the media path is one item without a count.
 int32_t CallForList(const BdcDeviceContext& context, BdcFunction function, uint32_t& count, uint32_t& state,
                     void* items) {
     const BdcDeviceRecord* device = &context.device;
@@ -64,8 +64,8 @@ int32_t CallForList(const BdcDeviceContext& context, BdcFunction function, uint3
     }
 }
 
-// How many items there are to fetch; 0 when that is not known.
-uint32_t AskCount(BdcDeviceContext& context, BdcFunction function) {
+// The number of items to read; 0 when it is unknown.
+uint32_t QueryCount(BdcDeviceContext& context, BdcFunction function) {
     if (function == kBdcGetDevMediaPathInfo)
         return 1;
     uint32_t count = 0;
@@ -77,13 +77,13 @@ uint32_t AskCount(BdcDeviceContext& context, BdcFunction function) {
 }
 
 void FetchList(BdcDeviceContext& context, const ListDescription& description) {
-    const uint32_t count = AskCount(context, description.function);
+    const uint32_t count = QueryCount(context, description.function);
     if (count == 0)
         return;
-    void* items = AllocateLockedOctets(size_t{count} * description.itemSize);
+    void* items = AllocateLockedBytes(size_t{count} * description.itemSize);
     if (items == nullptr)
         return;
-    uint32_t countThen = count; // the block stays as large as it is, whatever the library makes of it
+    uint32_t countThen = count; // not used: the block has room for the first count
     uint32_t state = context.firstState;
     if (!Succeeded(CallForList(context, description.function, countThen, state, items))) {
         FreeLocked(items);
@@ -101,7 +101,7 @@ void FillRecord(BdcDeviceContext& context) {
     CopyText(device.community, context.community);
 }
 
-// Both texts within their fields, letter by letter.
+// Compares within the fields, with case.
 template <size_t kLength>
 bool IsOneOf(const BdcNameList<kLength>& list, const char (&name)[kLength]) {
     for (uint32_t i = 0; i < list.count; ++i)

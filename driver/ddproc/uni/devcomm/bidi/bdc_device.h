@@ -1,13 +1,13 @@
-// A device as the bidirectional library tells of it: the records handed to the library and read from its
-// answers, and a context that holds all of them for the time of one export call.
+// A device as the bidirectional library reports it: the records passed to the library and returned by it, and
+// a context that holds all of them during one export call.
 #ifndef DEVCOMM_BIDI_BDC_DEVICE_H
 #define DEVCOMM_BIDI_BDC_DEVICE_H
 
 #include "base/rows.h"
 #include "devcomm/bidi/bdc_library.h"
 
-// Statuses of the library: negative ones are failures. So is this one, that the device has none of what was
-// asked for, of every call but the version's and those that only count.
+// Statuses of the library: negative ones are failures. So is this one, "nothing found", except for the
+// version and for calls that only count.
 constexpr int32_t kBdcNothing = 1;
 
 // Selects the input trays with what lies in them.
@@ -18,7 +18,7 @@ constexpr uint32_t kBdcTraySelector = 2;
 struct BdcDeviceRecord {
     uint32_t flags[2]; // 1 each
     char agent[64];
-    uint32_t communication; // 0, then as the communication information tells it
+    uint32_t communication; // 0, then the value of the communication information
     uint8_t zero[256];
     char secondText[64]; // always empty
     char community[32];
@@ -27,7 +27,7 @@ static_assert(sizeof(BdcDeviceRecord) == 428 && offsetof(BdcDeviceRecord, agent)
               && offsetof(BdcDeviceRecord, communication) == 72
               && offsetof(BdcDeviceRecord, secondText) == 332 && offsetof(BdcDeviceRecord, community) == 396);
 
-// Answers of the library. What this module does not read has no name of its own.
+// Records that the library fills. What this module does not read has no name.
 
 struct BdcLibVersion {
     uint32_t numbers[4];
@@ -43,7 +43,7 @@ static_assert(sizeof(BdcCommInfo) == 336 && offsetof(BdcCommInfo, communication)
 
 struct BdcNameInfo {
     uint8_t notRead[4];
-    char longName[256]; // may fill its field without a terminator, as the next may
+    char longName[256]; // both may fill their fields without a terminator
     char shortName[64];
 };
 static_assert(sizeof(BdcNameInfo) == 324 && offsetof(BdcNameInfo, longName) == 4
@@ -108,19 +108,19 @@ static_assert(sizeof(BdcFinisherItem) == 140 && offsetof(BdcFinisherItem, flags)
 
 #pragma pack(pop)
 
-// Items in a block of their own; none when the library did not deliver them.
+// Items in a block of their own; none when the library has not returned them.
 struct BdcList {
     void* items;
     uint32_t count;
 };
 
-// The list as what it holds: BdcItemsOf<BdcOptionItem>(context.options).
+// The items of a list by type: BdcItemsOf<BdcOptionItem>(context.options).
 template <typename Item>
 Rows<Item> BdcItemsOf(const BdcList& list) {
     return {static_cast<const Item*>(list.items), list.count};
 }
 
-// Model names that pass for this model.
+// Model names that count as this model.
 template <size_t kLength>
 struct BdcNameList {
     uint32_t count;
@@ -133,7 +133,7 @@ struct BdcDeviceContext {
     BdcNameList<64> shortNames;
     uint32_t firstState; // goes into each call
     uint32_t flags[2];
-    const char* agent; // the texts as given
+    const char* agent; // the texts as passed
     const char* secondText;
     const char* community;
     BdcDeviceRecord device;
@@ -147,7 +147,7 @@ struct BdcDeviceContext {
     BdcList outputTrays;
     BdcList mediaPath; // one item
     BdcList finishers;
-    uint32_t lastState; // came out of the latest successful call
+    uint32_t lastState; // from the last successful call
 };
 
 // A context for the agent, with the library loaded; null without memory or the library. BdcCloseDevice frees
@@ -155,12 +155,12 @@ struct BdcDeviceContext {
 BdcDeviceContext* BdcOpenDevice(const char* agent);
 void BdcCloseDevice(BdcDeviceContext* context);
 
-// One question each. False when it failed: what the library has written is thrown away.
+// One query each. False when it failed; what the library has written is then discarded.
 bool BdcAskVersion(BdcDeviceContext& context);
 bool BdcAskCommunication(BdcDeviceContext& context);
 bool BdcAskName(BdcDeviceContext& context);
 
-// Asks everything there is to ask. What fails stays empty.
+// Queries everything. What fails stays empty.
 void BdcFillDevice(BdcDeviceContext& context);
 
 // Whether both model names are exactly this model's.

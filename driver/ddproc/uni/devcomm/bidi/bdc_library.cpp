@@ -1,4 +1,4 @@
-// The bidirectional library: see the header.
+// Loads the bidirectional library and finds its entry points.
 #include "devcomm/bidi/bdc_library.h"
 
 #include "base/module_handles.h"
@@ -35,7 +35,7 @@ constexpr const char* kNames[] = {
 };
 static_assert(std::size(kNames) == kBdcFunctionCount);
 
-// What the library itself is bound to.
+// Libraries that the bidirectional library needs.
 constexpr const wchar_t* kSystemLibraries[] = {L"KERNEL32.DLL", L"WS2_32.DLL", L"WSOCK32.DLL"};
 
 bool CanLoad(const wchar_t* name) {
@@ -74,14 +74,14 @@ bool BdcLoadFromAnywhere(BdcFunctionTable& table) {
            || (SiblingPath(ModuleInstance(), kLibraryName, path) && BdcLoadLibrary(&table, path) != 0);
 }
 
-BOOL BdcIsLibraryUsable() {
+bool BdcIsLibraryUsable() {
     auto* table = AllocateLocked<BdcFunctionTable>();
     if (table == nullptr)
-        return FALSE;
+        return false;
     bool usable = BdcLoadFromAnywhere(*table);
     for (size_t i = 0; i < std::size(kSystemLibraries) && usable; ++i)
         usable = CanLoad(kSystemLibraries[i]);
     BdcFreeLibrary(*table);
     FreeLocked(table);
-    return usable ? TRUE : FALSE;
+    return usable;
 }

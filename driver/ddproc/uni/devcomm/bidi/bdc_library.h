@@ -1,5 +1,5 @@
-// The driver family's bidirectional library, TELMAR_B.DLL: its entry points, and how it is found, loaded and
-// freed. It stays loaded no longer than the export call that asks for it.
+// The driver family's bidirectional library, TELMAR_B.DLL: its entry points, loading and freeing. It is
+// loaded only during an export call.
 #ifndef DEVCOMM_BIDI_BDC_LIBRARY_H
 #define DEVCOMM_BIDI_BDC_LIBRARY_H
 
@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <windows.h>
 
-// The entry points, in the order of their slots. All must be there for the library to count as loaded.
+// The entry points, in the order of their slots. A library that lacks one does not count as loaded.
 enum BdcFunction : uint32_t {
     kBdcGetLibVersion,
     kBdcGetDevIpAddress,
@@ -45,10 +45,11 @@ static_assert(sizeof(BdcFunctionTable) == 248 && offsetof(BdcFunctionTable, entr
 int32_t BdcLoadLibrary(BdcFunctionTable* table, const wchar_t* path);
 void BdcFreeLibrary(BdcFunctionTable& table);
 
-// Loads it by its bare name, or else from the module's own folder.
+// Loads it by its bare name, otherwise from the folder of the module. A library that lacks an entry point is
+// freed.
 bool BdcLoadFromAnywhere(BdcFunctionTable& table);
 
-// Whether it can be loaded, and the libraries of the system that it stands on too. Nothing stays loaded.
-BOOL BdcIsLibraryUsable();
+// Whether it and the system's libraries that it needs can be loaded. Nothing stays loaded.
+bool BdcIsLibraryUsable();
 
 #endif

@@ -1,4 +1,4 @@
-// The tables of the bidirectional path, and the look-ups in them: see the header.
+// The tables that translate codes and names of the bidirectional library.
 #include "devcomm/bidi/bdc_tables.h"
 
 #include "base/text.h"
@@ -46,7 +46,7 @@ constexpr struct {
 
 constexpr uint32_t kHardDisk = 3; // kind of memory
 
-// --- Rules: of the rows of an option the first holds whose masks are each 0 or share a bit with the device.
+// --- Rules: the first row of an option applies whose masks are each 0 or share a bit with the device.
 
 constexpr struct OptionRule {
     const char* option;
@@ -74,7 +74,7 @@ constexpr struct OptionRule {
     {"OpHDD",         {0,     0,     0,       0,     0},   "DisOpHDD"},
 };
 
-// --- Trays and what lies in them
+// --- Trays and the paper in them
 
 struct CodeKey {
     int32_t code;
@@ -133,12 +133,12 @@ constexpr CodeKey kOrientations[] = {
     {3, "MediaTypeList_Landscape"},
 };
 
-// The device tells these codes, but the driver has no word for them: the keys come out empty.
+// The driver has no key for these codes: the keys are empty.
 constexpr CodeKey kWeights[] = {{-1, ""}};
 constexpr CodeKey kColors[]  = {{0, ""}, {15, ""}};
 constexpr CodeKey kHoles[]   = {{-1, ""}};
 
-// The first row wins whose codes are those of the tray, as far as its flags say to compare them.
+// The first row applies whose codes, as far as its flags select them, are those of the tray.
 constexpr uint32_t kType = 1;
 constexpr uint32_t kColor = 2;
 constexpr uint32_t kSide = 4;
@@ -221,7 +221,7 @@ uint32_t MediaPathBits(const Rows<BdcMediaPathInfo>& paths) {
     return bits;
 }
 
-bool Holds(const OptionRule& rule, const BdcDeviceBits& bits) {
+bool Applies(const OptionRule& rule, const BdcDeviceBits& bits) {
     for (uint32_t i = 0; i < kBitWords; ++i)
         if (rule.masks[i] != 0 && (rule.masks[i] & bits.words[i]) == 0)
             return false;
@@ -237,7 +237,7 @@ const BdcTrayKeys kUnknownTrayKeys = {
 
 BdcDeviceBits BdcDeriveBits(const BdcDeviceContext& context) {
     BdcDeviceBits bits;
-    bits.words[kModelBits] = SameText(context.name.longName, kModelName) ? 1 : 0; // in any letter case
+    bits.words[kModelBits] = SameText(context.name.longName, kModelName) ? 1 : 0; // case ignored
     bits.words[kOptionBits] = OptionBits(BdcItemsOf<BdcOptionItem>(context.options));
     bits.words[kFinisherBits] = FinisherBits(BdcItemsOf<BdcFinisherItem>(context.finishers));
     bits.words[kMemoryBits] = MemoryBits(BdcItemsOf<BdcMemoryItem>(context.memory));
@@ -247,7 +247,7 @@ BdcDeviceBits BdcDeriveBits(const BdcDeviceContext& context) {
 
 const char* BdcApplyRules(const char (&option)[32], const BdcDeviceBits& bits) {
     for (const OptionRule& rule : BdcOptionRuleTable)
-        if (SameText(rule.option, option) && Holds(rule, bits))
+        if (SameText(rule.option, option) && Applies(rule, bits))
             return rule.item;
     return nullptr;
 }

@@ -1,23 +1,23 @@
-// What the codes and names of the bidirectional library mean in the driver's vocabulary.
+// Translates codes and names of the bidirectional library to the driver's keys.
 #ifndef DEVCOMM_BIDI_BDC_TABLES_H
 #define DEVCOMM_BIDI_BDC_TABLES_H
 
 #include "devcomm/bidi/bdc_device.h"
 
-// What is installed, one word of bits for each kind of mask in a rule.
+// What is installed: a word of bits for each kind of mask in a rule.
 enum BdcBits : uint32_t { kModelBits, kOptionBits, kFinisherBits, kMemoryBits, kMediaPathBits, kBitWords };
 struct BdcDeviceBits {
     uint32_t words[kBitWords];
 };
 BdcDeviceBits BdcDeriveBits(const BdcDeviceContext& context);
 
-// Item key of the first rule of this option (letter case ignored) that holds; null when there is none.
+// The item key of the first rule of this option that applies; null when there is none. Case is ignored.
 const char* BdcApplyRules(const char (&option)[32], const BdcDeviceBits& bits);
 
-// Number of the tray with this key (letter case ignored); 0 when it is not one of the device's.
+// The number of the tray with this key; 0 when the device has no such tray. Case is ignored.
 int32_t BdcTrayNumber(const char (&key)[32]);
 
-// Keys of what lies in a tray; empty for a code without a key.
+// Keys for the paper in a tray; empty for a code without a key.
 struct BdcTrayKeys {
     const char* mediaSize;
     const char* orientation;
@@ -28,7 +28,7 @@ struct BdcTrayKeys {
 };
 BdcTrayKeys BdcKeysOf(const BdcInputTrayItem& tray);
 
-// Of a tray of which nothing is known.
+// For a tray that is not reported.
 extern const BdcTrayKeys kUnknownTrayKeys;
 
 #endif

@@ -1,4 +1,4 @@
-// The exports of the bidirectional path: see the header.
+// The exports that query a printer through the bidirectional library. Nothing is kept between calls.
 #include "base/records.h"
 
 #include "base/scope_guard.h"
@@ -9,8 +9,8 @@
 
 namespace {
 
-// A device of this model with everything the library tells of it, for the caller's items; null when there is
-// none, with last error 87 when an argument is missing. Freed by BdcCloseDevice.
+// Queries everything about a device of this model. Freed by BdcCloseDevice. Null when there is none; the last
+// error is 87 when an argument is null.
 BdcDeviceContext* AskDevice(const char* agent, const void* items) {
     if (agent == nullptr || items == nullptr) {
         SetLastError(ERROR_INVALID_PARAMETER);
@@ -27,7 +27,7 @@ BdcDeviceContext* AskDevice(const char* agent, const void* items) {
     return nullptr;
 }
 
-// The first that reports itself as this tray; null when none does.
+// The first item with this tray number; null when there is none.
 const BdcInputTrayItem* FindTray(const BdcDeviceContext& device, int32_t number) {
     for (const BdcInputTrayItem& tray : BdcItemsOf<BdcInputTrayItem>(device.inputTrays))
         if (tray.tray == number)

@@ -1,5 +1,4 @@
-// Blocks of the global heap as the bidirectional library's records want them: movable, zero-filled and
-// locked.
+// Blocks of the global heap for records of the bidirectional library: movable, zero-filled, locked.
 #ifndef DEVCOMM_BIDI_LOCKED_BLOCK_H
 #define DEVCOMM_BIDI_LOCKED_BLOCK_H
 
@@ -7,8 +6,8 @@
 #include <windows.h>
 
 // Null without memory.
-inline void* AllocateLockedOctets(size_t octets) {
-    HGLOBAL handle = GlobalAlloc(GHND, octets);
+inline void* AllocateLockedBytes(size_t size) {
+    HGLOBAL handle = GlobalAlloc(GHND, size);
     void* block = handle != nullptr ? GlobalLock(handle) : nullptr;
     if (handle != nullptr && block == nullptr)
         GlobalFree(handle);
@@ -17,7 +16,7 @@ inline void* AllocateLockedOctets(size_t octets) {
 
 template <typename Record>
 Record* AllocateLocked() {
-    return static_cast<Record*>(AllocateLockedOctets(sizeof(Record)));
+    return static_cast<Record*>(AllocateLockedBytes(sizeof(Record)));
 }
 
 // Accepts null.
