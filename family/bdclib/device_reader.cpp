@@ -1,14 +1,14 @@
-// Reading a device by SNMP: see the header. Objects are the standard ones where they hold what is asked for;
-// the rest is in the equipment's tables of docs/simulating_a_printer.md.
+// Reads a device by SNMP. Standard objects are used where they exist; the rest is in the equipment's tables
+// of docs/simulating_a_printer.md.
 #include "bdclib/device_reader.h"
 
 #include <cstring>
 
 namespace {
 
-constexpr uint32_t kMaxRows = 255;   // of a table: no device has so many of anything
-constexpr uint32_t kMaxInputs = 7;   // the numbers of the family's inputs
-constexpr uint32_t kMaxDevices = 16; // of the host, among which the printer is looked for
+constexpr uint32_t kMaxRows = 255;   // of a table: more than any device has
+constexpr uint32_t kMaxInputs = 7;   // the inputs of this family are numbered up to this
+constexpr uint32_t kMaxDevices = 16; // of the host, one of which is the printer
 
 // --- Objects
 
@@ -48,7 +48,7 @@ ObjectNumber Number(DeviceRow& row, const DeviceColumn& column) {
     return number;
 }
 
-// Empty when it is not there.
+// Empty when it does not exist.
 struct Words {
     ObjectText text;
 };
@@ -69,11 +69,11 @@ DeviceRow MakeRow(const DeviceSession& session, uint32_t number) {
 // --- Items
 
 #pragma pack(push, 1)
-// Of lists whose items nobody reads: the number and a text.
-template <size_t kOctets>
+// An item of a list that the module does not read: a number and a text.
+template <size_t kSize>
 struct NumberedText {
     uint32_t number;
-    char text[kOctets - sizeof(uint32_t)];
+    char text[kSize - sizeof(uint32_t)];
 };
 #pragma pack(pop)
 using Firmware = NumberedText<sizeof(BdcFirmwareItem)>;
@@ -107,14 +107,14 @@ void ReadFinisher(DeviceRow& row, BdcFinisherItem& item) {
     item.flags = flags.isPresent ? static_cast<uint32_t>(flags.value) : 0;
 }
 
-// The library's numbers of the trays, which are not those of the inputs; 0 for an unknown word.
+// The library's number of a tray, which is not that of the input; 0 for an unknown word.
 int32_t TrayNumber(const ObjectText& word) {
     constexpr struct {
         const char* word;
         int32_t number;
     } kTrays[] = {
         {"TRAY1", 1}, {"TRAY2", 2},  {"TRAY3", 3}, {"TRAY4", 4},
-        {"LCT", 5},   {"MANUAL", 6}, {"TRAY5", 7}, // the driver knows none beyond 6
+        {"LCT", 5},   {"MANUAL", 6}, {"TRAY5", 7}, // the driver uses none above 6
     };
     for (const auto& tray : kTrays)
         if (SameText(tray.word, word))
@@ -122,7 +122,7 @@ int32_t TrayNumber(const ObjectText& word) {
     return 0;
 }
 
-// Sheets, or a level that is no number, in 16 bits. What is absent or no level at all is unknown.
+// A number of sheets in 16 bits, or the negative number of a level that is not one. Anything else is unknown.
 uint16_t TrayLevel(const ObjectNumber& level) {
     constexpr int32_t kUnknown = -2;
     constexpr int32_t kLeast = -3;
@@ -132,16 +132,16 @@ uint16_t TrayLevel(const ObjectNumber& level) {
 }
 
 void ReadInputTray(DeviceRow& row, BdcInputTrayItem& item) {
-    constexpr int32_t kNotTold = -1;
+    constexpr int32_t kNotReported = -1;
     item.tray = TrayNumber(Text(row, kPaperTray).text);
     item.mediaSize = static_cast<uint16_t>(Number(row, kPaperSize).value);
     item.orientation = Number(row, kPaperOrientation).value;
     item.mediaType = Number(row, kPaperType).value;
     item.color = Number(row, kPaperColor).value;
     item.secondSide = Number(row, kPaperSecondSide).value;
-    item.level = TrayLevel(Number(row, kInputLevel)); // the row's number is the input's
-    item.weight = kNotTold;
-    item.hole = kNotTold;
+    item.level = TrayLevel(Number(row, kInputLevel)); // the number of the row is that of the input
+    item.weight = kNotReported;
+    item.hole = kNotReported;
 }
 
 template <typename Item, void (*kRead)(DeviceRow&, Item&)>
@@ -149,10 +149,10 @@ void Into(DeviceRow& row, void* item) {
     kRead(row, *static_cast<Item*>(item));
 }
 
-// Visits the rows that are there, until `visit` has enough. False when a request failed.
+// Visits the existing rows until `visit` returns false. False when a request failed.
 template <typename Visit>
 bool WalkRows(const DeviceSession& session, const DeviceList& list, const Visit& visit) {
-    for (uint32_t number = 1; number <= list.mostRows; ++number) {
+    for (uint32_t number = 1; number <= list.maxRows; ++number) {
         DeviceRow row = MakeRow(session, number);
         const bool isThere = Number(row, list.presence).isPresent;
         const bool goesOn = isThere ? visit(row) : list.hasGaps;
@@ -178,7 +178,7 @@ const DeviceList kFinisherList   = {kFinisherNumber,    kMaxRows,   false, sizeo
 
 DeviceSession::DeviceSession(const BdcDeviceRecord& device)
     : printer(device.communication != 0 ? device.communication : 1), community(device.community),
-      // A device that has not told its printer's number has not been reached: it is not waited for as long.
+      // A device without a printer number has not answered yet, so the shorter time-out applies.
       connection(TerminatedText(device.agent).text, device.communication != 0 ? kQueryLimits : kReachLimits,
                  community.text) {}
 

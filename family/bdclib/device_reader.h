@@ -1,5 +1,5 @@
-// Reading a device by SNMP: a session with the device of a record, and what the records of the library hold
-// as tables of the device's objects.
+// Reads a device by SNMP: a session with the device of a record, and the lists of the library as tables of
+// the device's objects.
 #ifndef BDCLIB_DEVICE_READER_H
 #define BDCLIB_DEVICE_READER_H
 
@@ -7,14 +7,14 @@
 #include "devcomm/bidi/bdc_device.h"
 #include "devcomm/queries/object_reader.h"
 
-// The text of a record's field, terminated, as the field need not be.
+// The text of a record's field, terminated; the field may lack its terminator.
 template <size_t kLength>
 struct TerminatedText {
     explicit TerminatedText(const char (&field)[kLength]) { CopyText(text, field); }
     char text[kLength + 1];
 };
 
-// A session with the device for the time of a scope, in the community of its record.
+// A session with the device, with the community of its record.
 struct DeviceSession {
     explicit DeviceSession(const BdcDeviceRecord& device);
 
@@ -23,8 +23,8 @@ struct DeviceSession {
     const AgentSession connection;
 };
 
-// A row of the device's tables. `failed`, that a request got no answer, is sticky: objects are read one after
-// the other, and it is tested at the end.
+// A row of the device's tables. `failed` (a request had no answer) is sticky: read all objects, then test it
+// once.
 struct DeviceRow {
     SnmpSession session;
     uint32_t number;
@@ -38,11 +38,11 @@ struct DeviceColumn {
     ObjectSuffix DeviceRow::*suffix;
 };
 
-// How a list of the library lies in the device's tables.
+// How a list of the library is stored in the device's tables.
 struct DeviceList {
-    DeviceColumn presence; // a number: the row is there when it is
-    uint32_t mostRows;     // rows beyond it are not asked for
-    bool hasGaps;          // otherwise the first row that is not there ends the list
+    DeviceColumn presence; // a number that every row has
+    uint32_t maxRows;      // no more are requested
+    bool hasGaps;          // otherwise the first missing row ends the list
     size_t itemSize;
     void (*read)(DeviceRow& row, void* item); // into an item that is all 0
 };
@@ -57,15 +57,15 @@ extern const DeviceList kFinisherList;
 bool ReadList(const DeviceSession& session, const DeviceList& list, void* items, uint32_t capacity,
               uint32_t& count);
 
-// Each false when a request failed.
+// The following return false when a request failed.
 
-// Number of the printer among the host's devices; 1 when none is listed as one.
+// The number of the printer among the host's devices; 1 when no printer is listed.
 bool ReadPrinterNumber(SnmpSession session, uint32_t& number);
 
 // Empty when the device has none.
 bool ReadModelName(const DeviceSession& session, ObjectText& name);
 
-// How many media paths there are, and whether one prints both sides.
+// The number of media paths, and whether one prints both sides.
 bool ReadMediaPaths(const DeviceSession& session, uint32_t& count, bool& hasDuplex);
 
 #endif

@@ -1,4 +1,4 @@
-// The functions of the stand-in, and its entry point. See the header; the export table is telmar_b.def.
+// The functions of the stand-in, and its entry point. The export table is telmar_b.def.
 #include "bdclib/exports.h"
 
 #include "base/text.h"
@@ -6,7 +6,7 @@
 
 namespace {
 
-// A device without an address is nobody: an empty one would be looked up as this machine's own.
+// An empty address is refused: it would be resolved to this machine.
 bool HasAgent(const BdcDeviceRecord* device) {
     return device != nullptr && device->agent[0] != 0;
 }
@@ -24,8 +24,8 @@ int32_t AnswerList(const DeviceList& list, const BdcDeviceRecord* device, uint32
 
 } // namespace
 
-// The SNMP entry points stay bound for as long as the library is loaded; where they are incomplete it does
-// not load.
+// The SNMP entry points are bound as long as the library is loaded. It does not load when they are
+// incomplete.
 extern "C" BOOL WINAPI DllMain(HINSTANCE /*instance*/, DWORD reason, void* /*reserved*/) {
     if (reason == DLL_PROCESS_ATTACH)
         return SnmpApiBind();

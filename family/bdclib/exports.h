@@ -1,18 +1,18 @@
-// TELMAR_B.DLL, a stand-in for the driver family's bidirectional library: asks networked devices by SNMP and
-// answers in the records of devcomm/bidi/bdc_device.h. What those records do not name stays 0, but for the
-// numbers and texts that bdclib/device_reader.cpp puts there.
+// TELMAR_B.DLL, a stand-in for the driver family's bidirectional library: queries networked devices by SNMP
+// and fills the records of devcomm/bidi/bdc_device.h. Bytes without a name there are 0, except numbers and
+// texts that bdclib/device_reader.cpp sets.
 //
-// Every function returns a status. A device is asked anew by each call; nothing is kept in between. `state`
-// is accepted and left as it is. Buffers are the caller's: one item, or as many as `*count` says, and of a
-// call that does not return kBdcDone nothing is to be used.
+// Every function returns a status. Each call queries the device; nothing is kept between calls. `state` is
+// accepted and not changed. Buffers are the caller's: one item, or `*count` items. Their contents are valid
+// only for kBdcDone.
 #ifndef BDCLIB_EXPORTS_H
 #define BDCLIB_EXPORTS_H
 
 #include "devcomm/bidi/bdc_device.h"
 
 constexpr int32_t kBdcDone = 0;
-// kBdcNothing: the device answers, but has none of it
-constexpr int32_t kBdcNoAnswer = -1;     // it can't be reached or has fallen silent: the last error tells why
+// kBdcNothing: the device answers but has no items
+constexpr int32_t kBdcNoAnswer = -1;     // unreachable or unresponsive; the last error has the reason
 constexpr int32_t kBdcBadArgument = -2;  // a null argument, an empty address, an unknown selector
 constexpr int32_t kBdcNotSupported = -3; // by this stand-in
 
@@ -26,15 +26,14 @@ int32_t WINAPI BdcGetLibVersion(uint32_t* state, BdcLibVersion* version);
 // it, and the other functions take it from the device record (0: 1).
 int32_t WINAPI BdcGetDevCommInfo(const char* agent, uint32_t* state, BdcCommInfo* info);
 
-// Both names are the device's model name: its own word for it, or else the description of the printer among
-// the host's devices.
+// Both names are the model name of the device, or the description of the printer among the host's devices.
 int32_t WINAPI BdcGetDevName(const BdcDeviceRecord* device, uint32_t* state, BdcNameInfo* info);
 
 // Path 1 with a duplex unit, else 0.
 int32_t WINAPI BdcGetDevMediaPathInfo(const BdcDeviceRecord* device, uint32_t* state, BdcMediaPathInfo* info);
 
-// Lists. Without items, `*count` becomes the number of items that there are; with them, at most `*count` are
-// filled and it becomes the number of those.
+// Lists. With null items, `*count` is set to the number of items. Otherwise at most `*count` items are
+// filled, and it is set to their number.
 int32_t WINAPI BdcGetDevFirmwareVersion(const BdcDeviceRecord* device, uint32_t* count, uint32_t* state,
                                         BdcFirmwareItem* items);
 int32_t WINAPI BdcGetDevMemoryCapacity(const BdcDeviceRecord* device, uint32_t* count, uint32_t* state,
@@ -46,8 +45,8 @@ int32_t WINAPI BdcGetDevOutputTrayInfo(const BdcDeviceRecord* device, uint32_t* 
 int32_t WINAPI BdcGetDevFinisherInfo(const BdcDeviceRecord* device, uint32_t* count, uint32_t* state,
                                      BdcFinisherItem* items);
 
-// The selector must be 2. A level that is no number of sheets is the Printer MIB's (-1 no limit, -2 unknown,
-// -3 some) in 16 bits: 65535, 65534, 65533; levels beyond 32767 are cut to that.
+// The selector must be 2. A level that is not a number of sheets is that of the Printer MIB (-1 no limit, -2
+// unknown, -3 some) in 16 bits: 65535, 65534, 65533; levels above 32767 are limited to that.
 int32_t WINAPI BdcGetDevInputTrayInfoEx(const BdcDeviceRecord* device, uint32_t* count, uint32_t selector,
                                         uint32_t* state, BdcInputTrayItem* items);
 

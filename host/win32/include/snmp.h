@@ -1,5 +1,5 @@
-// Host stand-in for the system's header of this name: the value types of its SNMP Management API and the type
-// codes that the module reads, packed to 4 octets as the system declares them.
+// The host's replacement for the system's header of this name: the value types of its SNMP Management API and
+// the type codes that the module reads, packed to 4 bytes as the system declares them.
 #ifndef WIN32_SNMP_H
 #define WIN32_SNMP_H
 

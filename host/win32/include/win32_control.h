@@ -1,5 +1,5 @@
-// How a test steers the host's stand-in for the system and sees what the code under test has left behind.
-// Used by host tests and fuzz targets only; not safe for several threads at once.
+// Control of the host's replacement for Windows by tests: injected failures, scripted services, counts of
+// what is open. Used by host tests and fuzz targets only; not safe for several threads at once.
 #ifndef WIN32_WIN32_CONTROL_H
 #define WIN32_WIN32_CONTROL_H
 
@@ -85,7 +85,7 @@ void LetReleasesSetLastError(DWORD error);
 struct Queue {
     const wchar_t* name;
     const wchar_t* port;
-    // Octets of level 2 that there are, instead of as many as it takes, the port's name last.
+    // Size of the level 2 block in bytes, if not as large as its contents; the port's name is last.
     DWORD infoSize = 0;
 };
 void RegisterQueue(const Queue& queue);

@@ -1,5 +1,6 @@
-// Host stand-in for the system's header of this name: the services that the module's subsystems call on the
-// host, with the widths and values of 64-bit Windows. Tests steer the services through win32_control.h.
+// The host's replacement for the system's header of this name: the services that the module's subsystems call
+// on the host, with the widths and values of 64-bit Windows. Tests control the services through
+// win32_control.h.
 //
 // wchar_t is a UTF-16 unit here (-fshort-wchar), so the C library's wide functions and std::wstring must not
 // be used.
@@ -124,8 +125,8 @@ DWORD WINAPI SetFilePointer(HANDLE file, LONG distance, LONG* distanceHigh, DWOR
 DWORD WINAPI GetFileSize(HANDLE file, DWORD* sizeHigh);
 BOOL WINAPI CloseHandle(HANDLE file);
 
-// Blocks that are not asked for zero-filled come filled with a pattern. The handle of a movable block is not
-// its address; freeing one that is still locked counts as a block left behind.
+// Blocks that are not requested zero-filled are filled with a pattern. The handle of a movable block is not
+// its address; freeing a block that is still locked counts as a leak.
 HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size);
 HGLOBAL WINAPI GlobalFree(HGLOBAL handle);
 LPVOID WINAPI GlobalLock(HGLOBAL handle);

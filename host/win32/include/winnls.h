@@ -1,5 +1,5 @@
-// Host stand-in for the system's header of this name, included by windows.h: conversion to the ANSI code page
-// that a test has set. Conversions are recorded and can be made to fail.
+// The host's replacement for the system's header of this name, included by windows.h: conversion to the ANSI
+// code page that a test has set. Conversions are recorded and can be made to fail.
 #ifndef WIN32_WINNLS_H
 #define WIN32_WINNLS_H
 

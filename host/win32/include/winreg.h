@@ -1,5 +1,5 @@
-// Host stand-in for the system's header of this name, included by windows.h: reading of registry values that
-// a test has set. Opening and querying are recorded and can be made to fail.
+// The host's replacement for the system's header of this name, included by windows.h: reading of registry
+// values that a test has set. Opening and querying are recorded and can be made to fail.
 #ifndef WIN32_WINREG_H
 #define WIN32_WINREG_H
 

@@ -1,4 +1,4 @@
-// Host stand-in for the system's header of this name.
+// The host's replacement for the system's header of this name.
 #ifndef WIN32_WINSOCK2_H
 #define WIN32_WINSOCK2_H
 

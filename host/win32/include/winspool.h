@@ -1,6 +1,6 @@
-// Host stand-in for the system's header of this name: the spooler calls that the module makes, on queues and
-// port transceivers that a test has registered. Every call but ClosePrinter is recorded and can be made to
-// fail.
+// The host's replacement for the system's header of this name: the spooler calls that the module makes, on
+// queues and port transceivers that a test has registered. Every call but ClosePrinter is recorded and can be
+// made to fail.
 #ifndef WIN32_WINSPOOL_H
 #define WIN32_WINSPOOL_H
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kUnfilled = 0xCD; // what a block holds that was not asked for zero-filled
+constexpr int kUnfilled = 0xCD; // contents of a block that is not requested zero-filled
 
 // No machine grants a larger block, so that tests need none on which one fails.
 constexpr SIZE_T kMaxOctets = SIZE_T{1} << 30;
@@ -53,7 +53,7 @@ void* Release(void* block, int& liveBlocks) {
     return nullptr;
 }
 
-// What the handle of a movable block points to.
+// The record of a movable block; its address is the handle.
 struct MovableBlock {
     void* block;
     int locks;

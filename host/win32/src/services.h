@@ -1,4 +1,4 @@
-// What the stand-in's source files share: one reset function for each service, and the record of calls.
+// Shared by the source files: a reset function for each service, and the record of calls.
 #ifndef WIN32_SERVICES_H
 #define WIN32_SERVICES_H
 

@@ -1,4 +1,4 @@
-// UTF-16 texts: see the header.
+// Conversions of UTF-16 texts.
 #include "unicode.h"
 
 #include <cstdint>
