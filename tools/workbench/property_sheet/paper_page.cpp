@@ -24,7 +24,7 @@ public:
 
 private:
     void Init() override {
-        SetColumns(ID_TRAYS, {"Tray", "Size", "Orientation", "Type", "Weight", "Colour", "Pre-punched"});
+        SetColumns(ID_TRAYS, {"Tray", "Size", "Orientation", "Type", "Weight", "Colour", "Punched"});
     }
 
     void Show() override {
