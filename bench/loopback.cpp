@@ -1,4 +1,4 @@
-// Servers and clients on loopback: see the header.
+// UDP servers and clients on loopback.
 #include "loopback.h"
 
 #include <arpa/inet.h>

@@ -1,4 +1,4 @@
-// net-snmp's library as the peer: see the header.
+// net-snmp's library as the peer of the module's client.
 #include "net_snmp_peer.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 // The built-in SNMP client against net-snmp's library: a GetRequest built, a reply read, and requests to the
 // same agent on loopback, these also against a bare UDP echo; all the options of a printer asked at once; and
-// how long a silent agent is waited for.
+// how long an unresponsive agent takes.
 #include "base/records.h"
 #include "devcomm/model.h"
 #include "devcomm/snmp/snmp_client.h"

@@ -24,7 +24,7 @@
 //
 // Every record has a fixed layout without padding, checked when this header is compiled. A record is a table,
 // NAME(R, FIELD, GAP), with a row for each field: R is the record's type, then the offset in bytes, the type,
-// the name and the dimensions. A gap, from one offset to another, belongs to other modules or to nobody: this
+// the name and the dimensions. A gap, from one offset to another, belongs to other modules or is unused: this
 // module neither reads nor changes it. The tables can be used to list the fields of a record by other macros
 // than those below.
 

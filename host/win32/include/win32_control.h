@@ -13,11 +13,11 @@
 
 namespace win32 {
 
-// Everything back to the start: no fault, no library, no module file name, counts of the past at 0.
-// Call it while nothing is live.
+// Resets everything: no faults, no libraries, no module file name, all counts 0. Call it while nothing is
+// open.
 void Reset();
 
-// What is held now, and what has been asked for since the reset. A block released to the wrong heap shows as
+// What is open now, and what has been requested since the reset. A block released to the wrong heap shows as
 // a negative number.
 struct Counts {
     int globalBlocks;
@@ -33,7 +33,7 @@ struct Counts {
 };
 Counts Count();
 
-// From the allocation of this number from now on (1: the next one), of either heap, that many fail. 0: none.
+// Makes allocations fail, of either heap: from this one on (1: the next), that many. 0: none.
 void FailAllocations(unsigned first, unsigned howMany = 1);
 
 struct FileFaults {
@@ -44,7 +44,7 @@ struct FileFaults {
 };
 void SetFileFaults(const FileFaults& ordered);
 
-// One function of a library. Takes a function of any signature.
+// One function of a library, with any signature.
 struct Export {
     template <typename Result, typename... Arguments>
     Export(const char* exportName, Result (*exportFunction)(Arguments...))
@@ -58,27 +58,27 @@ struct Export {
 // Makes LoadLibraryW of exactly this path succeed until the reset.
 void RegisterLibrary(const wchar_t* path, const std::vector<Export>& exports = {});
 
-// What was asked of libraries since the reset, in order: "load PATH", "find NAME", "free PATH".
+// The calls for libraries since the reset, in order: "load PATH", "find NAME", "free PATH".
 std::vector<std::string> LibraryCalls();
 
-// What GetModuleFileNameW answers for every module; before, it fails.
+// The result of GetModuleFileNameW for every module. Without it the call fails.
 void SetModuleFileName(const wchar_t* path);
 
 // Version of the system: platform family and major number.
 void SetVersion(DWORD id, DWORD major);
 
-// Without a separator at its end. "C:\\Windows\\system32" before a test sets another.
+// Without a separator at its end. The default is "C:\\Windows\\system32".
 void SetSystemDirectory(const wchar_t* path);
 
 // The calls of the spooler, the registry and the code page conversion since the reset, each as one line: the
-// function and what it was asked for, such as "XcvDataW IPAddress 512".
+// function and its arguments, such as "XcvDataW IPAddress 512".
 const std::vector<std::string>& Calls();
 
-// The recorded call of this number from now on (1: the next one) fails with this error. 0: none.
+// Makes a recorded call fail with this error: the n-th from now on (1: the next). 0: none.
 void FailCall(unsigned number, DWORD error);
 
-// From now on what closes or frees something (a printer, a registry key, a library, a heap block) also sets
-// the last error, as a system may.
+// From now on, calls that close or free something (a printer, a registry key, a library, a heap block) also
+// set the last error, as a system may.
 void LetReleasesSetLastError(DWORD error);
 
 // A print queue. A null port: none is reported.
@@ -90,20 +90,20 @@ struct Queue {
 };
 void RegisterQueue(const Queue& queue);
 
-// What OpenPrinterW opens by this name (null: the local print server) with the right to administer it, and
-// the reply to every command. `status` is that of the call that fetches the reply.
+// The transceiver that OpenPrinterW opens by this name (null: the local print server) with administer rights,
+// and its reply to every command. `status` is that of the call that fetches the reply.
 void RegisterTransceiver(const wchar_t* name, const std::vector<BYTE>& reply, DWORD status = 0);
 
-// A key under HKEY_LOCAL_MACHINE, and a value in it. Names are compared letter by letter.
+// A key under HKEY_LOCAL_MACHINE, and a value in it. Names are compared with case.
 void AddRegistryKey(const wchar_t* path);
 void SetRegistryValue(const wchar_t* path, const wchar_t* name, const std::vector<BYTE>& data);
 
-// 1252 before a test sets another.
+// The default is 1252.
 void SetAnsiCodePage(UINT codePage);
 
 using Datagram = std::vector<uint8_t>;
 
-// The network between Windows Sockets and an agent, as a test scripts it. Errors are those of Windows
+// A scripted network between Windows Sockets and an agent. Errors are those of Windows
 // Sockets; 0: the call succeeds.
 struct Wire {
     int startupError = 0;
@@ -118,10 +118,10 @@ struct Wire {
     std::function<std::vector<Datagram>(const Datagram& sent)> answer;
 };
 
-// Sockets reach nothing but this wire until the reset. It carries UDP over IPv4 alone: other arguments fail.
+// Until the reset sockets reach only this wire. It carries UDP over IPv4; other arguments fail.
 void SetWire(const Wire& scripted);
 
-// What has gone over the wire.
+// The datagrams and calls on the wire.
 struct WireRecord {
     std::vector<Datagram> sent;
     unsigned polls;

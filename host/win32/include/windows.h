@@ -112,7 +112,7 @@ UINT WINAPI GetSystemDirectoryW(LPWSTR path, UINT capacity);
 HMODULE WINAPI LoadLibraryW(LPCWSTR path);
 FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name);
 BOOL WINAPI FreeLibrary(HMODULE handle);
-// Answers what the test has set, whatever the module.
+// Returns what the test has set, for any module.
 DWORD WINAPI GetModuleFileNameW(HMODULE module, LPWSTR path, DWORD capacity);
 
 // Files of the host, opened for reading. A backslash in a path separates folders as a slash does.

@@ -36,7 +36,7 @@ int32_t BerInteger(BerReader& contents);
 int32_t BerReadInteger(BerReader& reader);
 
 // The sub-identifiers of the contents of an OBJECT IDENTIFIER; their count. The first octet gives two:
-// divided by 40, and the remainder. Fails on no octets, an incomplete sub-identifier, an sub-identifier of
+// divided by 40, and the remainder. Fails on no octets, an incomplete sub-identifier, a sub-identifier of
 // more than 32 bits and more than `capacity` sub-identifiers.
 uint32_t BerReadSubIdentifiers(BerReader& contents, uint32_t* ids, uint32_t capacity);
 
