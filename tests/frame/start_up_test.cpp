@@ -61,6 +61,10 @@ PrmImage CompleteImage() {
     };
     image.Items<PrmTextItem>("MediaWeight", {image.WithText("Plain", L"Plain paper", 3, "")});
     image.Items<PrmMediaItem>("ALL_InTray", {image.Media("InTray3", L"", 300, 1, "")});
+    image.Items<PrmMediaItem>("InTray", {image.Media("InTray1", L"Tray 1", 257, 1, "")});
+    image.Items<PrmItemDescriptor>("MediaTypeList_Tray", {image.Plain("x_InTray1", L"First")});
+    const uint32_t detail = image.Put(RawBytes(32).Text(0, "lumora").Text(16, "R880"));
+    image.Entry("MachineInfo", {image.Put(RawBytes(24).Text(0, "M").U32(16, 1).U32(20, detail))});
     image.StringValue("FCoverTray", "FCover_Tray3");
     items("Property_0", {image.Plain("OK", L"Yes")}, "");
     items("Dlg_ColorSetting", {image.Plain("Text", L"Letters")}, "");
@@ -117,6 +121,7 @@ TEST_F(StartUpTest, BuildersRunInOrder) {
         EXPECT_EQ(Differences(mediaTypeLists->lists[kMediaWeight], kWeights), "");
         RawBytes settings(sizeof(defaultSettings)); // from the compiled-in tables and the updated slots
         memcpy(settings.bytes.data(), kept.settings.bytes, sizeof(defaultSettings));
+        settings.Text(167, "InTray1").U32(199, 257).U16(203, 257);
         settings.U8(1395, 14).U8(1396, 1).U8(1478, 4).U8(1483, 4).U16(1480, 300).U16(2166, 5).U16(2516, 1);
         EXPECT_EQ(Differences(&defaultSettings, settings), "");
 
