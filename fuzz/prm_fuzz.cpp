@@ -1,10 +1,9 @@
-// Fuzz target: any bytes at all as the parameter data file beside the module. Lets a process attach, holds
-// what came out against what its readers rely on, lets the process detach and looks for leftovers. Run by
-// libFuzzer and, over a fixed set of inputs, by the regression test.
+// Fuzz target: any bytes as the parameter data file. Attaches, checks what readers of the tables rely on,
+// detaches and checks for leaks. Run by libFuzzer and, over a fixed set of inputs, by the regression test.
 #include "../tests/support/compiled_in.h"
 #include "require.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 #include "frame/entry.h"
 #include "win32_control.h"
 
@@ -19,21 +18,49 @@ namespace fs = std::filesystem;
 
 namespace {
 
-template <typename Text>
-void RequireTerminated(const Text& text) {
-    Require(TextLength(text) < std::extent_v<Text>, "a text fills its field without terminator");
+// Texts end within their fields. Fields of other types have nothing to check.
+template <typename Field>
+void CheckField(const Field& field);
+
+#define CHECK_FIELD(R, offset, type, name, dimensions) CheckField(record.name);
+#define NO_GAP(R, from, to)
+#define CHECK_TEXTS(R, TABLE)                                                                                \
+    void CheckTexts(const R& record) {                                                                       \
+        TABLE(R, CHECK_FIELD, NO_GAP)                                                                        \
+    }
+CHECK_TEXTS(TelmarItemHead, TELMAR_ITEM_HEAD)
+CHECK_TEXTS(TelmarItemRecord, TELMAR_ITEM_RECORD)
+CHECK_TEXTS(TelmarTextItemRecord, TELMAR_TEXT_ITEM_RECORD)
+CHECK_TEXTS(TelmarCompactItemRecord, TELMAR_COMPACT_ITEM_RECORD)
+CHECK_TEXTS(TelmarFinishingItemRecord, TELMAR_FINISHING_ITEM_RECORD)
+CHECK_TEXTS(TelmarInputSlotRecord, TELMAR_INPUT_SLOT_RECORD)
+CHECK_TEXTS(TelmarTrayRowRecord, TELMAR_TRAY_ROW_RECORD)
+CHECK_TEXTS(TelmarResolutionRecord, TELMAR_RESOLUTION_RECORD)
+CHECK_TEXTS(TelmarTabPaperRecord, TELMAR_TAB_PAPER_RECORD)
+CHECK_TEXTS(TelmarCollateRecord, TELMAR_COLLATE_RECORD)
+CHECK_TEXTS(TelmarOutputPaperSizeRecord, TELMAR_OUTPUT_PAPER_SIZE_RECORD)
+CHECK_TEXTS(TelmarPaperSizeRecord, TELMAR_PAPER_SIZE_RECORD)
+CHECK_TEXTS(TelmarMachineDetailRecord, TELMAR_MACHINE_DETAIL_RECORD)
+
+template <typename Field>
+void CheckField(const Field& field) {
+    using Element = std::remove_cv_t<std::remove_extent_t<Field>>;
+    if constexpr (std::is_same_v<Element, char> || std::is_same_v<Element, wchar_t>)
+        Require(TextLength(field) < std::extent_v<Field>, "a text fills its field without terminator");
+    else if constexpr (std::is_array_v<Element>)
+        for (const auto& element : field)
+            CheckField(element);
+    else if constexpr (std::is_same_v<Element, ItemHead>)
+        CheckTexts(field);
 }
 
-// Walks a list to its end, as every reader does; the sanitizer stops a walk that leaves the list's block.
-template <typename Record, typename... Texts>
-void CheckList(const Record* record, Texts Record::*... texts) {
-    if (record == nullptr)
-        return;
-    for (; record->head.key[0] != 0; ++record) {
-        RequireTerminated(record->head.key);
-        (RequireTerminated(record->*texts), ...);
-        Require(record->head.size == sizeof(Record), "a record carries another record's size");
-        Require(record->head.icon == kItemIcon && record->head.iconFlag == 0, "a record has another icon");
+// Walks a list to its end, as every reader does; the sanitizer ends a walk that leaves the list's block.
+template <typename Record>
+void CheckList(const Record* list) {
+    for (const Record& record : Listed(list)) {
+        CheckTexts(record);
+        Require(record.head.size == sizeof(Record), "a record has the size of another record");
+        Require(record.head.icon == kItemIcon && record.head.iconFlag == 0, "a record has another icon");
     }
 }
 
@@ -41,11 +68,10 @@ void CheckMachines(const DeviceTable& table) {
     Require((table.machineInfo == nullptr) == (table.machineInfoCount == 0), "a count without machines");
     for (uint32_t i = 0; i < table.machineInfoCount; ++i) {
         const MachineInfoRecord machine = table.machineInfo[i];
-        RequireTerminated(machine.name);
+        CheckField(machine.name);
         Require((machine.details == nullptr) == (machine.detailCount == 0), "a count without details");
         for (uint32_t j = 0; j < machine.detailCount; ++j)
-            for (const auto& text : machine.details[j].texts)
-                RequireTerminated(text);
+            CheckTexts(machine.details[j]);
     }
 }
 
@@ -55,40 +81,32 @@ void CheckSwitches(const DeviceTable& table) {
                 "a switch has a value that it can't have");
 }
 
+// A field of the device table: a list, an array of lists, or nothing to check. It may be unaligned.
+template <typename Field>
+void CheckLists(const void* at) {
+    if constexpr (std::is_array_v<Field>) {
+        using Element = std::remove_extent_t<Field>;
+        for (size_t i = 0; i < std::extent_v<Field>; ++i)
+            CheckLists<Element>(static_cast<const uint8_t*>(at) + i * sizeof(Element));
+    } else if constexpr (std::is_pointer_v<Field> && !std::is_same_v<Field, MachineInfoRecord*>) {
+        Field list;
+        memcpy(&list, at, sizeof(list));
+        CheckList<std::remove_pointer_t<Field>>(list);
+    }
+}
+
 void CheckTable(const DeviceTable& table) {
     CheckSwitches(table);
     CheckMachines(table);
-    CheckList(table.paperSizes, &PaperSizeRecord::display, &PaperSizeRecord::displayAgain,
-              &PaperSizeRecord::secondDisplay, &PaperSizeRecord::secondDisplayAgain, &PaperSizeRecord::text,
-              &PaperSizeRecord::shortName, &PaperSizeRecord::longText);
-    CheckList(table.outputPaperSizes, &OutputPaperSizeRecord::display, &OutputPaperSizeRecord::displayAgain,
-              &OutputPaperSizeRecord::secondDisplay, &OutputPaperSizeRecord::secondDisplayAgain);
-    CheckList(table.inputTrays, &InputSlotRecord::display, &InputSlotRecord::text);
-    CheckList(table.trayRows, &TrayRowRecord::display);
-    CheckList(table.resolutions, &ResolutionRecord::display);
-    CheckList(table.tabPaperSizes, &TabPaperRecord::display);
-    CheckList(table.collates);
-    for (const CollateRecord* collate = table.collates; collate != nullptr && collate->head.key[0] != 0;
-         ++collate)
-        for (const auto& text : collate->texts)
-            RequireTerminated(text);
-    for (const CompactItemRecord* list :
-         {table.mediaTypes, table.mediaWeights, table.mediaColors, table.combinations, table.foldings,
-          table.outputOrders, table.perPagePrintTypes, table.prePunchedMedia, table.perPageStaples})
-        CheckList(list, &CompactItemRecord::display, &CompactItemRecord::text);
-    for (const FinishingItemRecord* list : {table.holePunches, table.staples})
-        CheckList(list, &FinishingItemRecord::display, &FinishingItemRecord::text);
-    for (const TextItemRecord* list : {table.outputTrays, table.outputMethods, table.overlayLocations,
-                                       table.profileLocations, table.interleaves, table.paperArrangements})
-        CheckList(list, &TextItemRecord::display, &TextItemRecord::text);
-    for (size_t i = 0; i < kTraySelectionCount; ++i)
-        CheckList<ItemRecord>(table.traySelections[i], &ItemRecord::display);
+    const auto* start = reinterpret_cast<const uint8_t*>(&table);
+#define CHECK_LIST(R, offset, type, name, dimensions) CheckLists<decltype(R::name)>(start + (offset));
+    TELMAR_DEVICE_TABLE(TelmarDeviceTable, CHECK_LIST, NO_GAP)
 }
 
 void CheckMediaLists(const MediaTypeLists& lists) {
     for (const ItemRecord* list : lists.lists) {
         Require(list != nullptr, "a media type list is missing");
-        CheckList(list, &ItemRecord::display);
+        CheckList(list);
     }
 }
 
@@ -99,8 +117,8 @@ void CheckColorTables(const CompiledInTables& kept) {
     const auto* compiledIn = reinterpret_cast<const ItemRecord*>(kept.colors.bytes);
     for (size_t i = 0; i < sizeof(colorTables) / sizeof(ItemRecord); ++i) {
         const ItemRecord& record = records[i];
-        RequireTerminated(record.head.key);
-        RequireTerminated(record.display);
+        CheckField(record.head.key);
+        CheckField(record.display);
         Require(compiledIn[i].head.key[0] != 0 || memcmp(&record, &kEnd, sizeof(kEnd)) == 0,
                 "a colour table has no end record");
         Require(record.head.key[0] == 0
@@ -110,21 +128,21 @@ void CheckColorTables(const CompiledInTables& kept) {
 }
 
 void CheckSettings() {
-    RequireTerminated(defaultSettings.watermarkName);
-    RequireTerminated(defaultSettings.watermarkText);
-    RequireTerminated(defaultSettings.watermarkFont);
+    CheckField(defaultSettings.watermarkName);
+    CheckField(defaultSettings.watermarkText);
+    CheckField(defaultSettings.watermarkFont);
     for (const ProfileEntry* profile : {&defaultSettings.textRgbProfile, &defaultSettings.imageRgbProfile,
                                         &defaultSettings.graphicsRgbProfile})
-        RequireTerminated(profile->qualifier);
+        CheckField(profile->qualifier);
     for (const TrayPaperDefault& tray : defaultSettings.trays)
-        RequireTerminated(tray.key);
+        CheckField(tray.key);
 }
 
 // The tables of which the file may change texts and numbers only: puts those back, and the rest must be as it
 // was compiled in.
 void CheckFixedParts(const CompiledInTables& kept) {
     for (TraySourceRecord& slot : inputSlots) {
-        RequireTerminated(slot.text);
+        CheckField(slot.text);
         const auto* original =
             reinterpret_cast<const TraySourceRecord*>(kept.slots.bytes) + (&slot - inputSlots);
         slot.bin = original->bin;
@@ -132,7 +150,7 @@ void CheckFixedParts(const CompiledInTables& kept) {
     }
     const auto checkTexts = [](auto& records, auto text) {
         for (auto& record : records) {
-            RequireTerminated(record.*text);
+            CheckField(record.*text);
             memset(record.*text, 0, sizeof(record.*text));
         }
     };
@@ -140,7 +158,7 @@ void CheckFixedParts(const CompiledInTables& kept) {
     checkTexts(colorDialogTexts, &ControlTextRecord::display);
     checkTexts(trayDialogTexts, &ControlTextRecord::display);
     for (const MediaTypeColumn& column : mediaTypeColumns)
-        RequireTerminated(column.title);
+        CheckField(column.title);
     Require(kept.slots.Unchanged() && kept.property.Unchanged() && kept.colorDialog.Unchanged()
                 && kept.trayDialog.Unchanged(),
             "more than texts and numbers has changed");
