@@ -40,7 +40,7 @@ struct PrinterAddress : testing::Test {
 TEST_F(PrinterAddress, FromThePortMonitorsTransceiver) {
     const Queue queue(kQueue, L"IP_10.1.2.3");
     Monitor monitor(L"Tarn Port", L"IP_10.1.2.3", L"IPAddress", L"10.9.9.9");
-    monitor.Text(L"Driver", (ProductFolder() / L"abi_port_monitor.dll").wstring());
+    monitor.Text(L"Driver", (ProductFolder() / L"test_port_monitor.dll").wstring());
     EXPECT_EQ(Ask(nullptr, 9), "10.1.2.3");
     EXPECT_EQ(needed, 9u);
     EXPECT_EQ(Ask(nullptr, 8), "?");
@@ -54,7 +54,7 @@ TEST_F(PrinterAddress, FromThePortMonitorsTransceiver) {
 TEST_F(PrinterAddress, FromTheRegistryWhenTheTransceiverRefuses) {
     const Queue queue(kQueue, L"LUMORA_1");
     Monitor monitor(L"Tarn Port", L"LUMORA_1", L"IPAddress", L"10.9.9.9");
-    monitor.Text(L"Driver", (ProductFolder() / L"abi_port_monitor.dll").wstring());
+    monitor.Text(L"Driver", (ProductFolder() / L"test_port_monitor.dll").wstring());
     EXPECT_EQ(Ask(nullptr, 9), "10.9.9.9");
     EXPECT_EQ(needed, 9u);
 }
