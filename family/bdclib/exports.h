@@ -2,19 +2,13 @@
 // and fills the records of devcomm/bidi/bdc_device.h. Bytes without a name there are 0, except numbers and
 // texts that bdclib/device_reader.cpp sets.
 //
-// Every function returns a status. Each call queries the device; nothing is kept between calls. `state` is
+// Every function returns a BdcStatus. Each call queries the device; nothing is kept between calls. `state` is
 // accepted and not changed. Buffers are the caller's: one item, or `*count` items. Their contents are valid
 // only for kBdcDone.
 #ifndef BDCLIB_EXPORTS_H
 #define BDCLIB_EXPORTS_H
 
 #include "devcomm/bidi/bdc_device.h"
-
-constexpr int32_t kBdcDone = 0;
-// kBdcNothing: the device answers but has no items
-constexpr int32_t kBdcNoAnswer = -1;     // unreachable or unresponsive; the last error has the reason
-constexpr int32_t kBdcBadArgument = -2;  // a null argument, an empty address, an unknown selector
-constexpr int32_t kBdcNotSupported = -3; // by this stand-in
 
 extern "C" {
 

@@ -12,9 +12,6 @@ namespace {
 
 constexpr uint32_t kFirstState = 1;
 
-using VersionFunction = int32_t WINAPI(uint32_t* state, BdcLibVersion* version);
-using CommInfoFunction = int32_t WINAPI(const char* agent, uint32_t* state, BdcCommInfo* info);
-using NameFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t* state, BdcNameInfo* info);
 using MediaPathFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t* state, void* info);
 using ListFunction = int32_t WINAPI(const BdcDeviceRecord* device, uint32_t* count, uint32_t* state,
                                     void* items);
@@ -26,9 +23,19 @@ Function* EntryPoint(const BdcDeviceContext& context, BdcFunction function) {
     return AsFunction<Function>(context.functions.entryPoints[function]);
 }
 
-// Results of a failed call are discarded.
-bool Succeeded(int32_t status) {
-    return status >= 0 && status != kBdcNothing;
+// Calls a function that fills one record, with these arguments before the state word. What a failed call has
+// written is discarded.
+template <typename Info, typename... Arguments>
+bool AskForRecord(BdcDeviceContext& context, BdcFunction function, bool (*isValid)(int32_t status),
+                  Info BdcDeviceContext::*record, Arguments... arguments) {
+    Info info = {};
+    uint32_t state = context.firstState;
+    using Function = int32_t WINAPI(Arguments..., uint32_t * state, Info * info);
+    if (!isValid(EntryPoint<Function>(context, function)(arguments..., &state, &info)))
+        return false;
+    context.*record = info;
+    context.lastState = state;
+    return true;
 }
 
 // The lists, in the order of the queries.
@@ -70,7 +77,7 @@ uint32_t QueryCount(BdcDeviceContext& context, BdcFunction function) {
         return 1;
     uint32_t count = 0;
     uint32_t state = context.firstState;
-    if (CallForList(context, function, count, state, nullptr) < 0)
+    if (!BdcSucceeded(CallForList(context, function, count, state, nullptr)))
         return 0;
     context.lastState = state;
     return count;
@@ -85,7 +92,7 @@ void FetchList(BdcDeviceContext& context, const ListDescription& description) {
         return;
     uint32_t countThen = count; // not used: the block has room for the first count
     uint32_t state = context.firstState;
-    if (!Succeeded(CallForList(context, description.function, countThen, state, items))) {
+    if (!BdcHasFilled(CallForList(context, description.function, countThen, state, items))) {
         FreeLocked(items);
         return;
     }
@@ -144,34 +151,20 @@ void BdcCloseDevice(BdcDeviceContext* context) {
 }
 
 bool BdcAskVersion(BdcDeviceContext& context) {
-    BdcLibVersion version = {};
-    uint32_t state = context.firstState;
-    if (EntryPoint<VersionFunction>(context, kBdcGetLibVersion)(&state, &version) < 0)
-        return false;
-    context.version = version;
-    context.lastState = state;
-    return true;
+    return AskForRecord(context, kBdcGetLibVersion, BdcSucceeded, &BdcDeviceContext::version);
 }
 
 bool BdcAskCommunication(BdcDeviceContext& context) {
-    BdcCommInfo info = {};
-    uint32_t state = context.firstState;
-    if (!Succeeded(EntryPoint<CommInfoFunction>(context, kBdcGetDevCommInfo)(context.agent, &state, &info)))
+    if (!AskForRecord(context, kBdcGetDevCommInfo, BdcHasFilled, &BdcDeviceContext::communication,
+                      context.agent))
         return false;
-    context.communication = info;
-    context.device.communication = info.communication;
-    context.lastState = state;
+    context.device.communication = context.communication.communication;
     return true;
 }
 
 bool BdcAskName(BdcDeviceContext& context) {
-    BdcNameInfo info = {};
-    uint32_t state = context.firstState;
-    if (!Succeeded(EntryPoint<NameFunction>(context, kBdcGetDevName)(&context.device, &state, &info)))
-        return false;
-    context.name = info;
-    context.lastState = state;
-    return true;
+    const BdcDeviceRecord* device = &context.device;
+    return AskForRecord(context, kBdcGetDevName, BdcHasFilled, &BdcDeviceContext::name, device);
 }
 
 void BdcFillDevice(BdcDeviceContext& context) {

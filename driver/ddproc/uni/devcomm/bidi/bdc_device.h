@@ -6,9 +6,25 @@
 #include "base/rows.h"
 #include "devcomm/bidi/bdc_library.h"
 
-// Statuses of the library: negative ones are failures. So is this one, "nothing found", except for the
-// version and for calls that only count.
-constexpr int32_t kBdcNothing = 1;
+// Statuses of the library. All negative ones are failures; those named here are the ones that the project's
+// stand-in returns.
+enum BdcStatus : int32_t {
+    kBdcNotSupported = -3, // by the stand-in
+    kBdcBadArgument = -2,  // a null argument, an empty address, an unknown selector
+    kBdcNoAnswer = -1,     // unreachable or unresponsive; the last error has the reason
+    kBdcDone = 0,
+    kBdcNothing = 1, // the device answers but has no items
+};
+
+// Whether a call that has no items to return has succeeded: the version, and the count of a list.
+constexpr bool BdcSucceeded(int32_t status) {
+    return status >= 0;
+}
+
+// Whether a call has filled the caller's buffer.
+constexpr bool BdcHasFilled(int32_t status) {
+    return BdcSucceeded(status) && status != kBdcNothing;
+}
 
 // Selects the input trays with what lies in them.
 constexpr uint32_t kBdcTraySelector = 2;

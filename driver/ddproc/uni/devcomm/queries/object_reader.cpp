@@ -3,6 +3,7 @@
 
 #include "base/scope_guard.h"
 #include "base/text.h"
+#include "devcomm/snmp/oid_text.h"
 
 #include <cstring>
 
@@ -120,12 +121,7 @@ bool IsSameOid(const AsnObjectIdentifier& oid, const char* text) {
     for (UINT i = 0; i < oid.idLength; ++i) {
         if (i > 0 && *text++ != '.')
             return false;
-        if (!IsDigit(*text))
-            return false;
-        uint64_t id = 0;
-        for (; IsDigit(*text) && id <= UINT32_MAX; ++text)
-            id = id * 10 + static_cast<uint64_t>(*text - '0');
-        if (id != oid.ids[i])
+        if (!IsDigit(*text) || TakeSubIdentifier(text) != oid.ids[i])
             return false;
     }
     return *text == 0;

@@ -2,8 +2,8 @@
 #include "devcomm/snmp/snmp_values.h"
 
 #include "base/scope_guard.h"
-#include "base/text.h"
 #include "devcomm/snmp/ber.h"
+#include "devcomm/snmp/oid_text.h"
 
 #include <cstring>
 
@@ -53,13 +53,10 @@ bool CopySubIdentifiers(const UINT* ids, UINT count, AsnObjectIdentifier& to) {
 UINT ParseSubIdentifiers(const char* text, UINT (&ids)[kMaxSubIdentifiers]) {
     UINT count = 0;
     for (text += *text == '.' ? 1 : 0;; ++text) {
-        uint64_t id = 0;
-        for (int digits = 0; IsDigit(*text); ++text) {
-            if (++digits > kMaxSubIdentifierDigits)
-                return 0;
-            id = id * 10 + static_cast<uint64_t>(*text - '0');
-        }
-        if ((*text != '.' && *text != 0) || id > UINT32_MAX || count == kMaxSubIdentifiers)
+        const char* const digits = text;
+        const uint64_t id = TakeSubIdentifier(text);
+        if ((*text != '.' && *text != 0) || text - digits > kMaxSubIdentifierDigits || id > UINT32_MAX
+            || count == kMaxSubIdentifiers)
             return 0;
         ids[count++] = static_cast<UINT>(id);
         if (*text == 0)
