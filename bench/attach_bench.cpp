@@ -1,6 +1,5 @@
-// Work per process attach and detach: the device data built from the shipped model's file and released,
-// against the least that any reader does (open, read into memory, close); and the same for files of ever more
-// items.
+// Process attach and detach: builds and releases the device data from the shipped model's file, against the
+// minimum of any reader (open, read into memory, close). Then the same for files with more and more items.
 #include "frame/device_data.h"
 #include "synthetic_file.h"
 #include "trays/media_type_lists.h"
@@ -19,7 +18,7 @@
 
 namespace {
 
-// The device data as process attach and detach build and release it, from the file in this folder.
+// Builds and releases the device data from the file in this folder, as process attach and detach do.
 void Measure(benchmark::State& state, const std::string& folder) {
     const std::string name = folder + "/TELMAR_D.DLL";
     std::vector<wchar_t> module(name.begin(), name.end());

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr size_t kMaxOctets = 4096;
+constexpr size_t kMaxBytes = 4096;
 constexpr timeval kLimit = {2, 0};
 
 sockaddr_in Loopback(uint16_t port) {
@@ -23,13 +23,13 @@ sockaddr_in Loopback(uint16_t port) {
 
 [[noreturn]] void Echo(int socket) {
     for (;;) {
-        char octets[kMaxOctets];
+        char bytes[kMaxBytes];
         sockaddr_in from;
         socklen_t length = sizeof(from);
         const ssize_t count =
-            recvfrom(socket, octets, sizeof(octets), 0, reinterpret_cast<sockaddr*>(&from), &length);
+            recvfrom(socket, bytes, sizeof(bytes), 0, reinterpret_cast<sockaddr*>(&from), &length);
         if (count >= 0)
-            sendto(socket, octets, static_cast<size_t>(count), 0, reinterpret_cast<sockaddr*>(&from), length);
+            sendto(socket, bytes, static_cast<size_t>(count), 0, reinterpret_cast<sockaddr*>(&from), length);
     }
 }
 
@@ -91,8 +91,8 @@ EchoClient::~EchoClient() {
     close(socket);
 }
 
-bool EchoClient::RoundTrip(const uint8_t* octets, size_t count) const {
-    char back[kMaxOctets];
-    return send(socket, octets, count, 0) == static_cast<ssize_t>(count)
+bool EchoClient::RoundTrip(const uint8_t* bytes, size_t count) const {
+    char back[kMaxBytes];
+    return send(socket, bytes, count, 0) == static_cast<ssize_t>(count)
            && recv(socket, back, sizeof(back), 0) == static_cast<ssize_t>(count);
 }

@@ -1,4 +1,4 @@
-// What the benchmarks talk to on loopback: the simulated printer as a process of its own, and a bare UDP
+// The servers that the benchmarks use on loopback: the simulated printer in its own process, and a plain UDP
 // echo.
 #ifndef BENCH_LOOPBACK_H
 #define BENCH_LOOPBACK_H
@@ -6,8 +6,7 @@
 #include <cstdint>
 #include <string>
 
-// A program that serves a UDP port of 127.0.0.1 until the end of its scope. Port 0 when it could not be
-// started.
+// A process that serves a UDP port of 127.0.0.1, ended with its scope. Port 0 when it could not be started.
 struct Server {
     Server(uint16_t servedPort, int child) : port(servedPort), process(child) {}
     ~Server();
@@ -18,16 +17,17 @@ struct Server {
     int process; // not positive: none
 };
 Server EchoServer();
-Server SimulatedPrinter(const std::string& arguments); // of simprinter
+Server SimulatedPrinter(const std::string& arguments); // command line of simprinter
 
-// One datagram to a connected socket and back.
+// A connected socket. RoundTrip sends one datagram and receives the echo; false when none of the same size
+// came back.
 struct EchoClient {
     explicit EchoClient(uint16_t port);
     ~EchoClient();
     EchoClient(const EchoClient&) = delete;
     EchoClient& operator=(const EchoClient&) = delete;
 
-    bool RoundTrip(const uint8_t* octets, size_t count) const;
+    bool RoundTrip(const uint8_t* bytes, size_t count) const;
 
     int socket;
 };

@@ -1,5 +1,5 @@
-// Runs the benchmarks and sums them up as ratios of times that were measured in the same run:
-// processor times, or real ones where a benchmark says so.
+// Runs the benchmarks and prints ratios of times from the same run: processor times, or real times for
+// benchmarks that measure those.
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <map>
@@ -7,7 +7,7 @@
 
 namespace {
 
-// Google Benchmark's own table, and what it showed by name.
+// Prints the usual table and keeps the times by name.
 struct Reporter : benchmark::ConsoleReporter {
     void ReportRuns(const std::vector<Run>& runs) override {
         ConsoleReporter::ReportRuns(runs);
@@ -35,7 +35,7 @@ const Ratio kRatios[] = {
     {"time per item, 2 x the items : as many", "Growth/128", "Growth/64", 2},
     {"time per item, 4 x the items : as many", "Growth/256", "Growth/64", 4},
     {"time per item, 8 x the items : as many", "Growth/512", "Growth/64", 8},
-    {"bins and bin names : copied without a question", "Capabilities", "CopyOnly", 1},
+    {"bins and bin names : copied without a check", "Capabilities", "CopyOnly", 1},
     {"a GetRequest built : by net-snmp", "BuildRequest", "PeerBuildsRequest", 1},
     {"a reply read : by net-snmp", "ReadReply", "PeerReadsReply", 1},
     {"request and answer : by net-snmp", "RoundTrip/real_time", "PeerRoundTrip/real_time", 1},

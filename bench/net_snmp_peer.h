@@ -1,17 +1,17 @@
-// net-snmp's library doing what the built-in client does, to measure against. Apart from the benchmarks,
-// because its headers and the system's SNMP header name the same things.
+// The built-in client's work done by net-snmp's library, as the reference of the benchmarks. In a file of its
+// own, because its headers and the system's SNMP header declare the same names.
 #ifndef BENCH_NET_SNMP_PEER_H
 #define BENCH_NET_SNMP_PEER_H
 
 #include <cstddef>
 #include <cstdint>
 
-// The message of a GetRequest with asn_build_*; octets written, 0 on failure.
+// Builds the message of a GetRequest with asn_build_*. Returns the bytes written, 0 on failure.
 size_t PeerBuildRequest(const char* community, long requestId, const uint32_t* ids, size_t idCount,
                         uint8_t* to, size_t capacity);
 
-// Reads a reply with asn_parse_* as far as the first value, an INTEGER; false on failure. Writes to the
-// datagram's octets nothing, though its interface asks for them.
+// Reads a reply with asn_parse_* up to the first value, an INTEGER. False on failure. The datagram is not
+// changed, although asn_parse_* takes it as writable.
 bool PeerReadReply(uint8_t* datagram, size_t count, long& value);
 
 // A session with the agent on 127.0.0.1; null on failure.

@@ -27,7 +27,7 @@ uint8_t reply[] = {0x30, 0x2C, 0x02, 0x01, 0x00, 0x04, 0x06, 't',  'o',  'v',  '
                    0x00, 0x30, 0x13, 0x30, 0x11, 0x06, 0x0B, 0x2B, 0x06, 0x01, 0x02, 0x01,
                    0x19, 0x02, 0x03, 0x01, 0x05, 0x01, 0x02, 0x02, 0x02, 0x80};
 
-// The object as a varbind without a value, in a list of its own.
+// A list of one varbind: the object, without a value.
 struct Question {
     Question() {
         ClientStrToOid(kObject, &varBind.name);
@@ -134,8 +134,8 @@ void EchoRoundTrip(benchmark::State& state) {
 }
 BENCHMARK(EchoRoundTrip)->UseRealTime();
 
-// Of a printer with 512 MB: four requests until the memory is found, one for the hard disk, the five trays
-// and the duplex unit each.
+// For a printer with 512 MB: four for the memory size, one for the hard disk, five for the trays and one for
+// the duplex unit.
 constexpr int kOptionRequests = 4 + 1 + 5 + 1;
 
 void AllOptions(benchmark::State& state) {
@@ -166,7 +166,7 @@ void EchoesOfAllOptions(benchmark::State& state) {
 }
 BENCHMARK(EchoesOfAllOptions)->UseRealTime();
 
-void SilentAgent(benchmark::State& state) {
+void UnresponsiveAgent(benchmark::State& state) {
     const Server printer = SimulatedPrinter("--fault silence");
     SnmpSession session = OpenTo(printer.port);
     Question question;
@@ -175,6 +175,6 @@ void SilentAgent(benchmark::State& state) {
             state.SkipWithError("it answers");
     ClientClose(session);
 }
-BENCHMARK(SilentAgent)->UseRealTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(UnresponsiveAgent)->UseRealTime()->Unit(benchmark::kMillisecond);
 
 } // namespace

@@ -6,7 +6,7 @@
 #include <vector>
 #include <windows.h>
 
-// Microseconds that the work takes.
+// The duration of the work in microseconds.
 template <typename Work>
 double Measure(const Work& work) {
     LARGE_INTEGER start;

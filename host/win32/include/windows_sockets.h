@@ -62,7 +62,7 @@ hostent* gethostbyname(const char* name);
 int connect(SOCKET handle, const sockaddr* address, int length);
 int setsockopt(SOCKET handle, int level, int option, const char* value, int length);
 int ioctlsocket(SOCKET handle, long command, u_long* argument);
-int send(SOCKET handle, const char* octets, int count, int flags);
+int send(SOCKET handle, const char* bytes, int count, int flags);
 int recv(SOCKET handle, char* to, int capacity, int flags);
 
 } // namespace winsock

@@ -10,10 +10,10 @@ namespace {
 UINT ansiCodePage = 0;
 
 std::string ToLatin1(const std::vector<wchar_t>& text) {
-    std::string octets;
+    std::string bytes;
     for (const wchar_t c : text)
-        octets.push_back(c < 0x100 ? static_cast<char>(c) : '?');
-    return octets;
+        bytes.push_back(c < 0x100 ? static_cast<char>(c) : '?');
+    return bytes;
 }
 
 // -1: the text runs to its terminator, which is converted with it.
@@ -29,15 +29,10 @@ std::string Converted(UINT codePage, const wchar_t* text, int length) {
     if (codePage != CP_UTF8)
         return ToLatin1(characters);
     characters.push_back(0);
-    std::string octets = win32::ToUtf8(characters.data());
+    std::string bytes = win32::ToUtf8(characters.data());
     if (length < 0)
-        octets.push_back('\0');
-    return octets;
-}
-
-int Fail(DWORD error) {
-    SetLastError(error);
-    return 0;
+        bytes.push_back('\0');
+    return bytes;
 }
 
 } // namespace
@@ -51,17 +46,17 @@ int WINAPI WideCharToMultiByte(UINT codePage, DWORD flags, LPCWSTR text, int len
     const DWORD error =
         win32::RecordCall("WideCharToMultiByte " + std::to_string(codePage) + " " + std::to_string(capacity));
     if (error != 0)
-        return Fail(error);
+        return win32::Fail(error);
     if (text == nullptr || length == 0 || length < -1 || capacity < 0 || (to == nullptr && capacity != 0)
         || flags != 0 || defaultChar != nullptr || usedDefaultChar != nullptr)
-        return Fail(ERROR_INVALID_PARAMETER);
-    const std::string octets = Converted(codePage, text, length);
-    const auto count = static_cast<int>(octets.size());
+        return win32::Fail(ERROR_INVALID_PARAMETER);
+    const std::string bytes = Converted(codePage, text, length);
+    const auto count = static_cast<int>(bytes.size());
     if (capacity == 0)
         return count;
     if (count > capacity)
-        return Fail(ERROR_INSUFFICIENT_BUFFER);
-    std::copy(octets.begin(), octets.end(), to);
+        return win32::Fail(ERROR_INSUFFICIENT_BUFFER);
+    std::copy(bytes.begin(), bytes.end(), to);
     return count;
 }
 

@@ -14,7 +14,7 @@ namespace {
 constexpr int kUnfilled = 0xCD; // contents of a block that is not requested zero-filled
 
 // No machine grants a larger block, so that tests need none on which one fails.
-constexpr SIZE_T kMaxOctets = SIZE_T{1} << 30;
+constexpr SIZE_T kMaxBytes = SIZE_T{1} << 30;
 
 win32::Counts counts = {};
 unsigned failFirst = 0; // allocations from now until the first that fails; 0: none is ordered
@@ -34,7 +34,7 @@ bool FailureIsOrdered() {
 
 void* Allocate(UINT flags, SIZE_T size, int& liveBlocks) {
     ++counts.allocations;
-    void* block = FailureIsOrdered() || size > kMaxOctets ? nullptr : std::malloc(size);
+    void* block = FailureIsOrdered() || size > kMaxBytes ? nullptr : std::malloc(size);
     if (block == nullptr) {
         SetLastError(ERROR_NOT_ENOUGH_MEMORY);
         return nullptr;
@@ -60,9 +60,9 @@ struct MovableBlock {
 };
 std::list<MovableBlock*> movableBlocks;
 
-template <typename Test>
-MovableBlock* FindMovable(const Test& test) {
-    const auto found = std::find_if(movableBlocks.begin(), movableBlocks.end(), test);
+// Null for the handle of a fixed block, which is its address.
+MovableBlock* FindMovable(const void* handle) {
+    const auto found = std::find(movableBlocks.begin(), movableBlocks.end(), handle);
     return found != movableBlocks.end() ? *found : nullptr;
 }
 
@@ -78,7 +78,7 @@ HGLOBAL WINAPI GlobalAlloc(UINT flags, SIZE_T size) {
 }
 
 HGLOBAL WINAPI GlobalFree(HGLOBAL handle) {
-    MovableBlock* movable = FindMovable([handle](const MovableBlock* each) { return each == handle; });
+    MovableBlock* movable = FindMovable(handle);
     if (movable == nullptr)
         return Release(handle, counts.globalBlocks);
     if (movable->locks != 0)
@@ -89,7 +89,7 @@ HGLOBAL WINAPI GlobalFree(HGLOBAL handle) {
 }
 
 LPVOID WINAPI GlobalLock(HGLOBAL handle) {
-    MovableBlock* movable = FindMovable([handle](const MovableBlock* each) { return each == handle; });
+    MovableBlock* movable = FindMovable(handle);
     if (movable == nullptr)
         return handle; // a fixed block needs no lock
     ++movable->locks;
@@ -97,14 +97,17 @@ LPVOID WINAPI GlobalLock(HGLOBAL handle) {
 }
 
 BOOL WINAPI GlobalUnlock(HGLOBAL handle) {
-    MovableBlock* movable = FindMovable([handle](const MovableBlock* each) { return each == handle; });
+    MovableBlock* movable = FindMovable(handle);
     if (movable != nullptr && movable->locks > 0)
         --movable->locks;
     return movable != nullptr && movable->locks > 0 ? TRUE : FALSE;
 }
 
 HGLOBAL WINAPI GlobalHandle(const void* block) {
-    return FindMovable([block](const MovableBlock* each) { return each->block == block; });
+    for (MovableBlock* each : movableBlocks)
+        if (each->block == block)
+            return each;
+    return nullptr;
 }
 
 HLOCAL WINAPI LocalAlloc(UINT flags, SIZE_T size) {

@@ -54,10 +54,8 @@ FARPROC WINAPI GetProcAddress(HMODULE handle, LPCSTR name) {
 
 BOOL WINAPI FreeLibrary(HMODULE handle) {
     Library* library = FromHandle(handle);
-    if (library == nullptr) {
-        SetLastError(ERROR_INVALID_HANDLE);
-        return FALSE;
-    }
+    if (library == nullptr)
+        return win32::Fail(ERROR_INVALID_HANDLE);
     libraryCalls.push_back("free " + library->path);
     --library->references;
     win32::Released();
@@ -65,10 +63,8 @@ BOOL WINAPI FreeLibrary(HMODULE handle) {
 }
 
 DWORD WINAPI GetModuleFileNameW(HMODULE, LPWSTR path, DWORD capacity) {
-    if (moduleFileName.empty() || capacity == 0) {
-        SetLastError(moduleFileName.empty() ? ERROR_MOD_NOT_FOUND : ERROR_INSUFFICIENT_BUFFER);
-        return 0;
-    }
+    if (moduleFileName.empty() || capacity == 0)
+        return win32::Fail(moduleFileName.empty() ? ERROR_MOD_NOT_FOUND : ERROR_INSUFFICIENT_BUFFER);
     const bool fits = moduleFileName.size() <= capacity;
     const auto length = static_cast<DWORD>(fits ? moduleFileName.size() - 1 : capacity - 1);
     std::copy_n(moduleFileName.begin(), length, path);

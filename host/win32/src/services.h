@@ -31,6 +31,12 @@ DWORD RecordCall(const std::string& call);
 // Sets the last error if a test wants releases to.
 void Released();
 
+// Sets the last error. Returns false, which callers return as FALSE or 0.
+inline bool Fail(DWORD error) {
+    SetLastError(error);
+    return false;
+}
+
 } // namespace win32
 
 #endif

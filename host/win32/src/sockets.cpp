@@ -6,7 +6,7 @@ constexpr int kIpv4 = winsock::AF_INET;
 constexpr int kDatagrams = winsock::SOCK_DGRAM;
 constexpr int kSocketLevel = winsock::SOL_SOCKET;
 constexpr int kReceiveLimitOption = winsock::SO_RCVTIMEO;
-constexpr auto kOctetsWaiting = static_cast<long>(winsock::FIONREAD);
+constexpr auto kBytesWaiting = static_cast<long>(winsock::FIONREAD);
 
 #include "services.h"
 #include "win32_control.h"
@@ -171,22 +171,21 @@ int setsockopt(SOCKET handle, int level, int option, const char* value, int) {
 int ioctlsocket(SOCKET handle, long command, u_long* argument) {
     ++record.polls;
     if (wire == nullptr) {
-        int octets = 0;
-        const int result = Result(::ioctl(Descriptor(handle), FIONREAD, &octets), HostError());
-        *argument = static_cast<u_long>(octets);
+        int bytes = 0;
+        const int result = Result(::ioctl(Descriptor(handle), FIONREAD, &bytes), HostError());
+        *argument = static_cast<u_long>(bytes);
         return result;
     }
     const bool seen = pollsSinceSend++ >= wire->pollsUntilSeen && !waiting.empty();
     *argument = seen ? static_cast<u_long>(waiting.front().size()) : 0;
-    return WireResult(0, command == kOctetsWaiting);
+    return WireResult(0, command == kBytesWaiting);
 }
 
-int send(SOCKET handle, const char* octets, int count, int) {
+int send(SOCKET handle, const char* bytes, int count, int) {
     if (wire == nullptr)
-        return static_cast<int>(
-            Result(static_cast<int>(::send(Descriptor(handle), octets, static_cast<size_t>(count), 0)),
-                   HostError()));
-    record.sent.emplace_back(octets, octets + count);
+        return static_cast<int>(Result(
+            static_cast<int>(::send(Descriptor(handle), bytes, static_cast<size_t>(count), 0)), HostError()));
+    record.sent.emplace_back(bytes, bytes + count);
     pollsSinceSend = 0;
     if (record.sent.size() == wire->failingSend)
         return Result(-1, WSAECONNRESET);

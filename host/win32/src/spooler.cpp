@@ -27,14 +27,9 @@ const Printer& FromHandle(HANDLE handle) {
     return **static_cast<const Printer**>(handle);
 }
 
-bool FailWith(DWORD error) {
-    SetLastError(error);
-    return false;
-}
-
 bool OrderedToFail(const std::string& call) {
     const DWORD error = win32::RecordCall(call);
-    return error != 0 && !FailWith(error);
+    return error != 0 && !win32::Fail(error);
 }
 
 std::string NameOf(const wchar_t* name) {
@@ -49,12 +44,12 @@ BOOL WINAPI OpenPrinterW(LPWSTR name, HANDLE* printer, PRINTER_DEFAULTSW* defaul
     if (OrderedToFail("OpenPrinterW " + wanted + " " + std::to_string(access)))
         return FALSE;
     if (defaults != nullptr && (defaults->pDatatype != nullptr || defaults->pDevMode != nullptr))
-        return FailWith(ERROR_INVALID_PARAMETER);
+        return win32::Fail(ERROR_INVALID_PARAMETER);
     const auto found = std::find_if(printers.begin(), printers.end(), [&](const Printer& p) {
         return p.name == wanted && p.isTransceiver == (access == SERVER_ACCESS_ADMINISTER);
     });
     if (found == printers.end())
-        return FailWith(ERROR_INVALID_PRINTER_NAME);
+        return win32::Fail(ERROR_INVALID_PRINTER_NAME);
     openPrinters.push_back(&*found);
     *printer = &openPrinters.back();
     return TRUE;
@@ -65,10 +60,10 @@ BOOL WINAPI GetPrinterW(HANDLE printer, DWORD level, BYTE* info, DWORD capacity,
         return FALSE;
     const Printer& queue = FromHandle(printer);
     if (queue.isTransceiver || level != 2)
-        return FailWith(ERROR_INVALID_HANDLE);
+        return win32::Fail(ERROR_INVALID_HANDLE);
     *needed = static_cast<DWORD>(queue.info.size());
     if (capacity < *needed)
-        return FailWith(ERROR_INSUFFICIENT_BUFFER);
+        return win32::Fail(ERROR_INSUFFICIENT_BUFFER);
     std::copy(queue.info.begin(), queue.info.end(), info);
     if (queue.portOffset != 0) {
         auto* port = reinterpret_cast<LPWSTR>(info + queue.portOffset);
@@ -90,7 +85,7 @@ BOOL WINAPI XcvDataW(HANDLE transceiver, LPCWSTR command, BYTE* input, DWORD inp
     if (OrderedToFail("XcvDataW " + win32::ToUtf8(command) + " " + std::to_string(capacity)))
         return FALSE;
     if (!printer.isTransceiver || input != nullptr || inputSize != 0)
-        return FailWith(ERROR_INVALID_PARAMETER);
+        return win32::Fail(ERROR_INVALID_PARAMETER);
     *status = capacity < *needed ? ERROR_INSUFFICIENT_BUFFER : printer.status;
     if (*status == 0)
         std::copy(printer.reply.begin(), printer.reply.end(), output);

@@ -17,10 +17,8 @@ std::vector<wchar_t> systemDirectory; // with its terminator; empty: the call fa
 } // namespace
 
 BOOL WINAPI GetVersionExW(OSVERSIONINFOW* version) {
-    if (version->dwOSVersionInfoSize != sizeof(*version)) {
-        SetLastError(ERROR_INSUFFICIENT_BUFFER);
-        return FALSE;
-    }
+    if (version->dwOSVersionInfoSize != sizeof(*version))
+        return win32::Fail(ERROR_INSUFFICIENT_BUFFER);
     version->dwPlatformId = platformId;
     version->dwMajorVersion = majorVersion;
     version->dwMinorVersion = 1;

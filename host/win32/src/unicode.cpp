@@ -7,7 +7,7 @@ namespace win32 {
 
 std::string ToUtf8(const wchar_t* text) {
     std::string result;
-    const auto append = [&result](uint32_t octet) { result.push_back(static_cast<char>(octet)); };
+    const auto append = [&result](uint32_t byte) { result.push_back(static_cast<char>(byte)); };
     while (*text != 0) {
         uint32_t code = static_cast<uint16_t>(*text++);
         const uint32_t second = static_cast<uint16_t>(*text);
