@@ -100,7 +100,7 @@ bool NumberOf(const AsnAny* value, int32_t& number) {
     return true;
 }
 
-// The octets as text, up to the first NUL and cut to fit.
+// The bytes as text, up to the first NUL and cut to fit.
 template <size_t Capacity>
 bool TextOf(const AsnAny* value, char (&text)[Capacity]) {
     if (value == nullptr || !IsOneOf(kTextTypes, value->asnType))

@@ -17,7 +17,7 @@ namespace {
 // --- Options: the answers of each, in the order in which they are tried.
 
 constexpr OptionValueRecord kMemory[] = {
-    // answer         object            suffix  comparison       expected
+    // answer           object            suffix  comparison             expected
     {"128MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "128"},
     {"256MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "256"},
     {"384MB",           STORAGE_SIZE,     ".1",   TELMAR_COMPARE_NUMBER, "384"},
@@ -83,7 +83,7 @@ constexpr OptionRecord kOptions[] = {
 // --- Supplies.
 
 constexpr MrkSupItem kSupplies[] = {
-    // name         kind               flag  level  suffix  colour
+    // name          kind                      flag  level  suffix  colour
     {"Consumable1",  TELMAR_SUPPLY_NONE,       0,    0,     "",     0},
     {"Consumable2",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.1", 0x00FFFF00}, // cyan
     {"Consumable3",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.2", 0x00FF00FF}, // magenta

@@ -1,5 +1,5 @@
 // Builds BER elements. Lengths up to 127 have the short form, others the long form with two, three or four
-// length octets.
+// length bytes.
 #include "devcomm/snmp/ber_writer.h"
 
 #include "devcomm/snmp/ber.h"
@@ -36,7 +36,7 @@ uint8_t* FreeEnd(const BerBuffer& element) {
     return element.octets + element.count;
 }
 
-// Adds the octets after the element to its contents.
+// Adds the bytes after the element to its contents.
 void Grow(BerBuffer& element, uint32_t added) {
     const uint32_t header = HeaderSize(element);
     const uint32_t contents = element.count - header + added;
@@ -107,7 +107,7 @@ void BerAppendInteger(BerBuffer& outer, int32_t value) {
     uint8_t octets[kBerMaxInteger];
     for (uint32_t i = 0; i < kBerMaxInteger; ++i)
         octets[i] = static_cast<uint8_t>(static_cast<uint32_t>(value) >> (8 * (kBerMaxInteger - 1 - i)));
-    // Leading octets that only repeat the sign are omitted.
+    // Leading bytes that only repeat the sign are omitted.
     uint32_t skipped = 0;
     while (skipped < kBerMaxInteger - 1 && octets[skipped] == ((octets[skipped + 1] & 0x80) != 0 ? 0xFF : 0))
         ++skipped;

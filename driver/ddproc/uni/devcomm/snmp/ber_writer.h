@@ -14,15 +14,15 @@ struct BerBuffer {
         owned; // 1: a block of the local heap, which BerFree releases; 0: within the block of another element
 };
 
-// Octets of the longest tag and length.
+// Bytes of the longest tag and length.
 constexpr uint32_t kBerMaxHeader = 6;
 
-// Content octets of the longest INTEGER and of the longest OBJECT IDENTIFIER that is written.
+// Content bytes of the longest INTEGER and of the longest OBJECT IDENTIFIER that is written.
 constexpr uint32_t kBerMaxInteger = 4;
 constexpr uint32_t kBerMaxOid = 128;
 
 // An empty element in a block of its own, which must have room for everything that will be appended, each
-// element with kBerMaxHeader. Null octets without memory.
+// element with kBerMaxHeader. `octets` is null without memory.
 BerBuffer BerCreate(uint8_t tag, uint32_t capacity);
 void BerFree(BerBuffer& element);
 

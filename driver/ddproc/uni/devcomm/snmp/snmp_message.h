@@ -10,7 +10,7 @@
 
 // Builds a request for the objects of the list, with NULL values. A varbind whose value is not NULL is sent
 // with its name only, one whose name can't be encoded without a name. The caller frees the message by
-// BerFree. Null octets without memory.
+// BerFree. `octets` is null without memory.
 BerBuffer SnmpBuildRequest(uint8_t pduTag, const char* community, uint32_t requestId,
                            const SnmpVarBindList& list);
 

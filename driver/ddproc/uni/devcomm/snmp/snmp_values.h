@@ -15,7 +15,7 @@ enum class SnmpForm {
     kNumber,  // asnValue.number
     kOctets,  // asnValue.string, in a block of its own
     kOid,     // asnValue.object, in a block of its own
-    kEmpty,   // asnValue.string, without octets or block
+    kEmpty,   // asnValue.string, without bytes or a block
 };
 SnmpForm SnmpFormOf(uint8_t typeCode);
 
@@ -25,7 +25,7 @@ SnmpForm SnmpFormOf(uint8_t typeCode);
 bool SnmpDecodeValue(uint8_t typeCode, BerReader contents, AsnAny& value);
 
 // Members of SnmpEntryPoints (devcomm/snmp/snmp_entry_points.h). Freeing leaves its argument cleared, so that
-// freeing it once more does nothing; of a value only octets that have the allocated flag are freed.
+// freeing it once more does nothing; of a value only bytes that have the allocated flag are freed.
 void* WINAPI ClientMemAlloc(UINT octets); // zero-filled
 void WINAPI ClientMemFree(void* block);   // accepts null
 void WINAPI ClientOidFree(AsnObjectIdentifier* oid);
