@@ -170,8 +170,9 @@ constexpr struct {
 };
 // clang-format on
 
+// The key of the first row with this code; empty when there is none.
 template <size_t N>
-const char* KeyOf(const CodeKey (&table)[N], int32_t code) {
+const char* KeyForCode(const CodeKey (&table)[N], int32_t code) {
     for (const CodeKey& row : table)
         if (row.code == code)
             return row.key;
@@ -261,11 +262,11 @@ int32_t BdcTrayNumber(const char (&key)[32]) {
 
 BdcTrayKeys BdcKeysOf(const BdcInputTrayItem& tray) {
     return {
-        KeyOf(MediaSizeTable, tray.mediaSize),
-        KeyOf(kOrientations, tray.orientation),
+        KeyForCode(MediaSizeTable, tray.mediaSize),
+        KeyForCode(kOrientations, tray.orientation),
         MediaTypeOf(tray),
-        KeyOf(kWeights, tray.weight),
-        KeyOf(kColors, tray.color),
-        KeyOf(kHoles, tray.hole),
+        KeyForCode(kWeights, tray.weight),
+        KeyForCode(kColors, tray.color),
+        KeyForCode(kHoles, tray.hole),
     };
 }
