@@ -48,7 +48,6 @@ TEST_F(BdcAnswers, ModelTestIsExact) {
         {"", kModel, 0},
         {kModel + "0", kModel, 0},
         {kModel, kModel + " ", 0},
-        {kModel, "QUORVANE lumora R88", 0},
         {kModel + std::string(236, 'x'), kModel, 0}, // fields without terminator
         {kModel, kModel + std::string(44, 'x'), 0},
     };
@@ -82,48 +81,33 @@ TEST_F(BdcAnswers, Options) {
                    d = OptionItem(6, "QD-440"), e = OptionItem(6, "QE-550"), f = OptionItem(6, "QF-660"),
                    fax = OptionItem(1000, "Bdc_Function_Fax");
     const std::string unterminated = "QA-110" + std::string(58, '0');
+    // clang-format off
     const struct {
         std::string key;
         std::vector<RawBytes> options;
         std::vector<uint32_t> finisherFlags;
         const char* item;
     } cases[] = {
-        {"OpInTrayUnit", {a}, {}, "OpInTrayUnit1"},
-        {"OpInTrayUnit", {b, c, d, e, f, fax}, {0x70}, "DisOpInTrayUnit"},
-        {"OpOutTrayUnit", {b, d}, {}, "OpOutTrayUnit2"},
-        {"OpOutTrayUnit", {b}, {0x24}, "OpOutTrayUnit1"},
-        {"OpOutTrayUnit", {a, c, e, f, fax}, {0x70}, "DisOpOutTrayUnit"},
-        {"OpPunchKit", {c}, {0x70}, "OpPunchKit3"},
-        {"OpPunchKit", {c}, {0x10, 0, 0x40}, "OpPunchKit3"},
-        {"OpPunchKit", {c}, {0x30}, "OpPunchKit2"},
-        {"OpPunchKit", {b, c}, {0x24}, "OpPunchKit2"},
-        {"OpPunchKit", {c}, {0x20, 0x20}, "OpPunchKit2"},
-        {"OpPunchKit", {c}, {0x10}, "OpPunchKit1"},
-        {"OpPunchKit", {c}, {0xFFFFFF8F}, "DisOpPunchKit"},
-        {"OpPunchKit", {c}, {}, "DisOpPunchKit"},
-        {"OpPunchKit", {a, b, d, e, f, fax}, {0x70}, "DisOpPunchKit"},
-        {"OpMailBinKit", {e}, {}, "EnaOpMailBinKit"},
-        {"OpMailBinKit", {a, b, c, d, f, fax}, {0x70}, "DisOpMailBinKit"},
-        {"OpSaddleKit", {f}, {}, "EnaSaddleKit"},
-        {"OpSaddleKit", {a, b, c, d, e, fax}, {0x70}, "DisSaddleKit"},
-        {"OpFAXUnit", {fax}, {}, "EnaOpFAXKit"},
+        {"OpInTrayUnit", {a}, {}, "OpInTrayUnit1"}, {"OpInTrayUnit", {b, c, d, e, f, fax}, {0x70}, "DisOpInTrayUnit"},
+        {"OpOutTrayUnit", {b, d}, {}, "OpOutTrayUnit2"}, {"OpOutTrayUnit", {b}, {0x24}, "OpOutTrayUnit1"},
+        {"OpOutTrayUnit", {a, c, e, f, fax}, {0x70}, "DisOpOutTrayUnit"}, {"OpPunchKit", {c}, {0x70}, "OpPunchKit3"},
+        {"OpPunchKit", {c}, {0x10, 0, 0x40}, "OpPunchKit3"}, {"OpPunchKit", {b, c}, {0x34}, "OpPunchKit2"},
+        {"OpPunchKit", {c}, {0x20, 0x20}, "OpPunchKit2"}, {"OpPunchKit", {c}, {0x10}, "OpPunchKit1"},
+        {"OpPunchKit", {c}, {0xFFFFFF8F}, "DisOpPunchKit"}, {"OpPunchKit", {c}, {}, "DisOpPunchKit"},
+        {"OpPunchKit", {a, b, d, e, f, fax}, {0x70}, "DisOpPunchKit"}, {"OpMailBinKit", {e}, {}, "EnaOpMailBinKit"},
+        {"OpMailBinKit", {a, b, c, d, f, fax}, {0x70}, "DisOpMailBinKit"}, {"OpSaddleKit", {f}, {}, "EnaSaddleKit"},
+        {"OpSaddleKit", {a, b, c, d, e, fax}, {0x70}, "DisSaddleKit"}, {"OpFAXUnit", {fax}, {}, "EnaOpFAXKit"},
         {"OpFAXUnit", {a, b, c, d, e, f}, {0x70}, "DisOpFAXKit"},
-        {"OpHDD", {a, b, c, d, e, f, fax}, {0x70}, "DisOpHDD"},
         // Exactly one, letter case ignored, of the type and with all of the name.
-        {"OpMailBinKit", {e, e}, {}, "DisOpMailBinKit"},
         {"OpMailBinKit", {e, f, OptionItem(6, "qe-550")}, {}, "DisOpMailBinKit"},
         {"OpMailBinKit", {OptionItem(5, "QE-550"), e}, {}, "EnaOpMailBinKit"},
-        {"OpInTrayUnit", {OptionItem(3, "qa-110")}, {}, "OpInTrayUnit1"},
         {"OpInTrayUnit", {OptionItem(5, "QA-110"), OptionItem(0x10003, "QA-110")}, {}, "DisOpInTrayUnit"},
         {"OpInTrayUnit", {OptionItem(3, "QA-11"), OptionItem(3, unterminated)}, {}, "DisOpInTrayUnit"},
-        // Keys.
-        {"opmachine", {}, {}, "OpMachine1"},
-        {"OPFAXUNIT", {fax}, {}, "EnaOpFAXKit"},
-        {"OpMachine1", {}, {}, ""},
-        {"Op", {}, {}, ""},
-        {"", {}, {}, ""},
-        {"OpMachine" + std::string(23, 'x'), {}, {}, ""}, // fills its field
+        // Keys: the last fills its field.
+        {"opmachine", {}, {}, "OpMachine1"}, {"OpMachine1", {}, {}, ""}, {"Op", {}, {}, ""}, {"", {}, {}, ""},
+        {"OpMachine" + std::string(23, 'x'), {}, {}, ""},
     };
+    // clang-format on
     for (const auto& each : cases) {
         script.device.options.items = Items(each.options);
         script.device.finishers.items = RawBytes(0);
@@ -151,49 +135,29 @@ TEST_F(BdcAnswers, SeveralItems) {
 }
 
 // clang-format off
-TEST_F(BdcAnswers, MediaSizes) {
-    const std::pair<unsigned, std::string> cases[] = {
-        {259, "A3"}, {260, "A4"}, {261, "A5"}, {262, "A6"}, {516, "B4_JIS"}, {517, "B5_JIS"}, {518, "B6"},
-        {1540, "12x18inch"}, {1541, "11x17inch"}, {1547, "8half14"}, {1551, "8half11"}, {1559, "7qtr10half"},
-        {1560, "5half8half"}, {2051, "8K"}, {2052, "16K"}, {773, "B5_ISO"}, {1029, "EnvelopeC5"},
-        {2826, "EnvelopeDL"}, {3073, "EnvelopeMonarch"}, {3074, "Envelope10"}, {3587, "JpnPostcard"},
-        {3602, "4x6PostCard"}, {1556, "8x13"}, {1553, "8qtr13"}, {1549, "8half13"}, {1285, "220330mm"},
-        {1554, "8hq13qtr"}, {8451, "A3W"}, {8452, "A4W"}, {8453, "A5W"}, {8708, "B4W"}, {8709, "B5W"},
-        {9733, "11x17W"}, {9743, "8half11W"}, {9752, "5half8halfW"}, {0, ""}, {258, ""}, {263, ""}, {65535, ""},
-    };
-    for (const auto& [code, key] : cases)
-        EXPECT_EQ(TrayWith({1, code}), key + " MediaTypeList_Portrait Plain    0") << code;
-}
-
-TEST_F(BdcAnswers, Orientations) {
-    const std::pair<uint32_t, std::string> cases[] = {
-        {2, "MediaTypeList_Portrait"}, {3, "MediaTypeList_Landscape"}, {0, ""}, {1, ""}, {4, ""}, {0x10002, ""},
-    };
-    for (const auto& [code, key] : cases)
-        EXPECT_EQ(TrayWith({1, 260, 1, 0, code}), "A4 " + key + " Plain    0") << code;
-}
-
-TEST_F(BdcAnswers, MediaTypes) {
-    const struct {
-        uint32_t type, color, secondSide;
-        std::string key;
-    } cases[] = {
-        {1, 15, 0, "Color"},          {1, 15, 1, "Color"},      {1, 0, 1, "PlainPaper2nd"},
-        {1, 7, 1, "PlainPaper2nd"},   {1, 0, 0, "Plain"},       {1, 0, 2, "Plain"},
-        {1, 7, 0, ""},                {177, 15, 1, "Special"},  {40, 15, 1, "Envelope"},
-        {162, 15, 1, "Letterhead"},   {184, 15, 1, "SingleSided"},
-        {225, 15, 1, "Thick1_2nd"},   {225, 7, 0, "Thick1"},    {226, 0, 1, "Thick2_2nd"},
-        {226, 0, 2, "Thick2"},        {227, 0, 1, "Thick3_2nd"}, {227, 0, 0xFFFFFFFF, "Thick3"},
-        {228, 0, 1, "Thick4_2nd"},    {228, 15, 0, "Thick4"},   {65, 7, 1, "OHP"},
-        {234, 0, 1, "Thick1Plus_2nd"}, {234, 0, 0, "Thick1Plus"},
-        {0, 15, 1, ""}, {2, 0, 0, ""}, {0xFFFFFFFF, 0, 0, ""}, {0x10001, 0, 0, ""},
-    };
+TEST_F(BdcAnswers, CodesOfATrayAreTranslatedOrLeftEmpty) {
     constexpr uint32_t kAny = 0xFFFFFFFF;
-    for (const auto& c : cases)
-        EXPECT_EQ(TrayWith({1, 260, c.type, 0, 2, kAny, c.color, kAny, c.secondSide}),
-                  "A4 MediaTypeList_Portrait " + c.key + "    0")
-            << "case " << &c - cases;
-    EXPECT_EQ(TrayWith({1, 260, 1, 0xFFFF, 2, 7, 0, 7, 0}), "A4 MediaTypeList_Portrait Plain    65535");
+    const auto paper = [](uint32_t type, uint32_t color, uint32_t secondSide) {
+        return TrayState{1, 260, type, 0, 2, kAny, color, kAny, secondSide};
+    };
+    const std::string portrait = "MediaTypeList_Portrait ", a4 = "A4 " + portrait;
+    const std::pair<TrayState, std::string> cases[] = {
+        {{1, 259}, "A3 " + portrait + "Plain"}, {{1, 517}, "B5_JIS " + portrait + "Plain"},
+        {{1, 773}, "B5_ISO " + portrait + "Plain"}, {{1, 1560}, "5half8half " + portrait + "Plain"},
+        {{1, 9752}, "5half8halfW " + portrait + "Plain"}, {{1, 0}, " " + portrait + "Plain"},
+        {{1, 258}, " " + portrait + "Plain"}, {{1, 65535}, " " + portrait + "Plain"},
+        {{1, 260, 1, 0, 3}, "A4 MediaTypeList_Landscape Plain"}, {{1, 260, 1, 0, 1}, "A4  Plain"},
+        {{1, 260, 1, 0, 4}, "A4  Plain"}, {{1, 260, 1, 0, 0x10002}, "A4  Plain"},
+        {paper(1, 15, 1), a4 + "Color"}, {paper(1, 0, 1), a4 + "PlainPaper2nd"},
+        {paper(1, 7, 1), a4 + "PlainPaper2nd"}, {paper(1, 0, 2), a4 + "Plain"}, {paper(1, 7, 0), a4},
+        {paper(177, 15, 1), a4 + "Special"}, {paper(65, 7, 1), a4 + "OHP"}, {paper(225, 15, 1), a4 + "Thick1_2nd"},
+        {paper(225, 7, 0), a4 + "Thick1"}, {paper(227, 0, kAny), a4 + "Thick3"},
+        {paper(234, 0, 1), a4 + "Thick1Plus_2nd"}, {paper(234, 0, 0), a4 + "Thick1Plus"},
+        {paper(0, 15, 1), a4}, {paper(kAny, 0, 0), a4}, {paper(0x10001, 0, 0), a4},
+    };
+    for (const auto& [tray, keys] : cases)
+        EXPECT_EQ(TrayWith(tray), keys + "    0") << "size " << tray.size << ", type " << tray.type;
+    EXPECT_EQ(TrayWith({1, 260, 1, 0xFFFF, 2, 7, 0, 7, 0}), a4 + "Plain    65535");
 }
 
 TEST_F(BdcAnswers, TrayKeys) {
