@@ -81,30 +81,16 @@ int32_t WINAPI GetDevMediaPathInfo(const void* record, uint32_t* state, void* bl
     return Give(answer, block);
 }
 
-int32_t WINAPI GetDevFirmwareVersion(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevFirmwareVersion", script.device.firmware, record, count, state, items);
-}
-
-int32_t WINAPI GetDevMemoryCapacity(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevMemoryCapacity", script.device.memory, record, count, state, items);
-}
-
-int32_t WINAPI GetDevOptionInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevOptionInfo", script.device.options, record, count, state, items);
+// A list's query, named as its entry point.
+template <size_t kEntryPoint, ListAnswer Device::*kList>
+int32_t WINAPI GetList(const void* record, uint32_t* count, uint32_t* state, void* items) {
+    return GiveList(kEntryPoints[kEntryPoint].name, script.device.*kList, record, count, state, items);
 }
 
 int32_t WINAPI GetDevInputTrayInfoEx(const void* record, uint32_t* count, uint32_t selector, uint32_t* state,
                                      void* items) {
     const std::string name = "BdcGetDevInputTrayInfoEx, selector " + std::to_string(selector);
     return GiveList(name.c_str(), script.device.inputTrays, record, count, state, items);
-}
-
-int32_t WINAPI GetDevOutputTrayInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevOutputTrayInfo", script.device.outputTrays, record, count, state, items);
-}
-
-int32_t WINAPI GetDevFinisherInfo(const void* record, uint32_t* count, uint32_t* state, void* items) {
-    return GiveList("BdcGetDevFinisherInfo", script.device.finishers, record, count, state, items);
 }
 
 int32_t WINAPI NobodyAsks() {
@@ -119,29 +105,24 @@ EntryPoint Named(const char* name, Function* function) {
 
 } // namespace
 
+// clang-format off
 const EntryPoint kEntryPoints[kEntryPointCount] = {
-    Named("BdcGetLibVersion", GetLibVersion),
-    Named("BdcGetDevIpAddress", NobodyAsks),
-    Named("BdcGetDevCommInfo", GetDevCommInfo),
-    Named("BdcGetDevName", GetDevName),
-    Named("BdcGetDevMemoryCapacity", GetDevMemoryCapacity),
-    Named("BdcGetDevFirmwareVersion", GetDevFirmwareVersion),
-    Named("BdcGetDevOptionInfo", GetDevOptionInfo),
-    Named("BdcGetDevInputTrayInfo", NobodyAsks),
-    Named("BdcGetDevInputTrayInfoEx", GetDevInputTrayInfoEx),
-    Named("BdcGetDevOutputTrayInfo", GetDevOutputTrayInfo),
+    Named("BdcGetLibVersion", GetLibVersion), Named("BdcGetDevIpAddress", NobodyAsks),
+    Named("BdcGetDevCommInfo", GetDevCommInfo), Named("BdcGetDevName", GetDevName),
+    Named("BdcGetDevMemoryCapacity", GetList<4, &Device::memory>),
+    Named("BdcGetDevFirmwareVersion", GetList<5, &Device::firmware>),
+    Named("BdcGetDevOptionInfo", GetList<6, &Device::options>),
+    Named("BdcGetDevInputTrayInfo", NobodyAsks), Named("BdcGetDevInputTrayInfoEx", GetDevInputTrayInfoEx),
+    Named("BdcGetDevOutputTrayInfo", GetList<9, &Device::outputTrays>),
     Named("BdcGetDevMediaPathInfo", GetDevMediaPathInfo),
-    Named("BdcGetDevFinisherInfo", GetDevFinisherInfo),
-    Named("BdcGetDevStatus", NobodyAsks),
-    Named("BdcBeginDevEventNotify", NobodyAsks),
-    Named("BdcEndDevEventNotify", NobodyAsks),
-    Named("BdcBeginNotifyPrint", NobodyAsks),
-    Named("BdcGetDevJobHistoryList", NobodyAsks),
-    Named("BdcEndNotifyPrint", NobodyAsks),
-    Named("BdcBeginNotifyJobCompletion", NobodyAsks),
-    Named("BdcGetReceiveAddress", NobodyAsks),
+    Named("BdcGetDevFinisherInfo", GetList<11, &Device::finishers>),
+    Named("BdcGetDevStatus", NobodyAsks), Named("BdcBeginDevEventNotify", NobodyAsks),
+    Named("BdcEndDevEventNotify", NobodyAsks), Named("BdcBeginNotifyPrint", NobodyAsks),
+    Named("BdcGetDevJobHistoryList", NobodyAsks), Named("BdcEndNotifyPrint", NobodyAsks),
+    Named("BdcBeginNotifyJobCompletion", NobodyAsks), Named("BdcGetReceiveAddress", NobodyAsks),
     Named("BdcEndNotifyJobCompletion", NobodyAsks),
 };
+// clang-format on
 
 RawBytes OptionItem(uint32_t type, const std::string& model) {
     return RawBytes(72).U32(4, type).Text(8, model);
