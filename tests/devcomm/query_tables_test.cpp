@@ -27,40 +27,27 @@ TEST(QueryTables, Options) {
 }
 
 TEST(QueryTables, Supplies) {
+    // clang-format off
     const struct {
         const char* name;
         uint32_t kind, callerFlag, levelFlag;
         const char* suffix;
         uint32_t color;
     } rows[] = {
-        {"Consumable1", 0, 0, 0, "", 0},
-        {"Consumable2", 1, 1, 0, ".1.1", 0x00FFFF00},
-        {"Consumable3", 1, 1, 0, ".1.2", 0x00FF00FF},
-        {"Consumable4", 1, 1, 0, ".1.3", 0x0000FFFF},
-        {"Consumable5", 1, 1, 0, ".1.4", 0},
-        {"Consumable6", 3, 0, 0, "", 0},
-        {"Consumable7", 3, 1, 0, "", 0},
-        {"Consumable8", 3, 1, 0, "", 0},
-        {"Consumable9", 3, 1, 0, "", 0},
-        {"Consumable10", 3, 1, 0, "", 0},
-        {"Consumable11", 2, 0, 1, ".1.8", 0},
-        {"Consumable12", 3, 0, 0, "", 0},
-        {"", 999, 0, 0, "", 0},
+        {"Consumable1", 0, 0, 0, "", 0}, {"Consumable2", 1, 1, 0, ".1.1", 0x00FFFF00},
+        {"Consumable3", 1, 1, 0, ".1.2", 0x00FF00FF}, {"Consumable4", 1, 1, 0, ".1.3", 0x0000FFFF},
+        {"Consumable5", 1, 1, 0, ".1.4", 0}, {"Consumable6", 3, 0, 0, "", 0}, {"Consumable7", 3, 1, 0, "", 0},
+        {"Consumable8", 3, 1, 0, "", 0}, {"Consumable9", 3, 1, 0, "", 0}, {"Consumable10", 3, 1, 0, "", 0},
+        {"Consumable11", 2, 0, 1, ".1.8", 0}, {"Consumable12", 3, 0, 0, "", 0}, {"", 999, 0, 0, "", 0},
     };
     RawBytes items(0);
     for (const auto& row : rows)
-        items.Append(RawBytes(80)
-                         .Text(0, row.name)
-                         .U32(32, row.kind)
-                         .U32(36, row.callerFlag)
-                         .U32(40, row.levelFlag)
-                         .Text(44, row.suffix)
-                         .U32(76, row.color));
-    EXPECT_EQ(Differences(MIB_MrkSupReqInfo(), RawBytes(520)
-                                                   .Text(0, ".1.3.6.1.2.1.43.11.1.1.8")
-                                                   .Text(256, ".1.3.6.1.2.1.43.11.1.1.9")
-                                                   .U32(512, 13)),
-              "");
+        items.Append(RawBytes(80).Text(0, row.name).U32(32, row.kind).U32(36, row.callerFlag)
+                         .U32(40, row.levelFlag).Text(44, row.suffix).U32(76, row.color));
+    const char* capacities = ".1.3.6.1.2.1.43.11.1.1.8";
+    EXPECT_EQ(Differences(MIB_MrkSupReqInfo(), RawBytes(520).Text(0, capacities)
+                              .Text(256, ".1.3.6.1.2.1.43.11.1.1.9").U32(512, 13)), "");
+    // clang-format on
     EXPECT_EQ(Differences(GET_MrkSupItemList(), items), "");
     EXPECT_EQ(PointerAt(MIB_MrkSupReqInfo(), 520), reinterpret_cast<Record>(GET_MrkSupItemList()));
 }
