@@ -149,44 +149,29 @@ TEST(PrinterQueries, Comparisons) {
         const char* expected;
         std::vector<Answer> matching, others;
     } cases[] = {
-        {0,
-         "5",
-         {kNull, Number(6), kNull.With(0, 7)},
+        // clang-format off
+        {0, "5", {kNull, Number(6), kNull.With(0, 7)},
          {Number(5).With(2, 0), Number(5).With(0x100, 0), Number(5).With(0x10000, 0),
           Number(5).With(INT_MIN, 0), none}},
-        {1,
-         "640",
-         {Number(640), Number(640, 0x41), Number(640, 0x42), Number(640, 0x43), Number(640, 0x47)},
+        {1, "640", {Number(640), Number(640, 0x41), Number(640, 0x42), Number(640, 0x43), Number(640, 0x47)},
          {Number(640, 0x45), Number(640, 0x46), Number(640, 0x05), Text("640"), Number(641), Number(0x10280),
           none, Number(640).With(0, 1), Number(640).With(0x10000, 0)}},
-        {1, "  +640", {Number(640)}, {Number(0)}},
-        {1, " -5", {Number(-5)}, {Number(5)}},
+        {1, "  +640", {Number(640)}, {Number(0)}}, {1, " -5", {Number(-5)}, {Number(5)}},
         {1, "-2147483648", {Number(INT_MIN)}, {}},
-        {2,
-         "Ab",
-         {Text("Ab"), Text("Ab", 0x03), Text("Ab", 0x30), Text("Ab", 0x40), Text("Ab", 0x44),
+        {2, "Ab", {Text("Ab"), Text("Ab", 0x03), Text("Ab", 0x30), Text("Ab", 0x40), Text("Ab", 0x44),
           Text({"Ab\0c", 4})},
          {Text("ab"), Text("A"), Text("Abc"), Text("Ab").With(0, 1), Text("Ab").With(1, 0), none}},
         {2, "", {Text(""), Text({"\0c", 2})}, {Number(0), kNull, Oid({1, 3}), Text(" ")}},
         {2, x255.c_str(), {Text(x255), Text(x255 + "y")}, {Text(x255.substr(1)), Text(x255.substr(1) + "y")}},
-        {3,
-         ".1.3.47913",
-         {Oid({1, 3, 47913})},
-         {Oid({1, 3}), Oid({1, 3, 47913, 0}), Oid({1, 3, 4791}), none}},
-        {3,
-         "1.3",
-         {Oid({1, 3})},
-         {Oid({1, 33}), Oid({1}), Text("1.3"), Oid({1, 3}).With(0, 1), Oid({1, 3}).With(1, 0)}},
-        {3, "..1.3", {}, {Oid({1, 3}), Oid({0, 1, 3})}},
-        {3, "1.3.", {}, {Oid({1, 3}), Oid({1, 3, 0})}},
-        {3, "1..3", {}, {Oid({1, 3}), Oid({1, 0, 3})}},
-        {3, "1.3x", {}, {Oid({1, 3})}},
+        {3, ".1.3.47913", {Oid({1, 3, 47913})}, {Oid({1, 3}), Oid({1, 3, 47913, 0}), Oid({1, 3, 4791}), none}},
+        {3, "1.3", {Oid({1, 3})}, {Oid({1, 33}), Oid({1}), Text("1.3"), Oid({1, 3}).With(0, 1),
+          Oid({1, 3}).With(1, 0)}},
+        {3, "..1.3", {}, {Oid({1, 3}), Oid({0, 1, 3})}}, {3, "1.3.", {}, {Oid({1, 3}), Oid({1, 3, 0})}},
+        {3, "1..3", {}, {Oid({1, 3}), Oid({1, 0, 3})}}, {3, "1.3x", {}, {Oid({1, 3})}},
         {3, "1.-3", {}, {Oid({1, 3}), Oid({1, static_cast<UINT>(-3)})}},
-        {3, "1.4294967295", {Oid({1, UINT_MAX})}, {}},
-        {3, "1.18446744073709551617", {}, {Oid({1, 1})}},
-        {4, "640", {}, {Number(640)}},
-        {-1, "640", {}, {Number(640)}},
-        {256, "", {}, {kNull}},
+        {3, "1.4294967295", {Oid({1, UINT_MAX})}, {}}, {3, "1.18446744073709551617", {}, {Oid({1, 1})}},
+        {4, "640", {}, {Number(640)}}, {-1, "640", {}, {Number(640)}}, {256, "", {}, {kNull}},
+        // clang-format on
     };
     const auto expectMatch = [](ModelCheckInfo& check, const Answer& answer, BOOL matches) {
         ScriptedDevice device;
@@ -250,24 +235,21 @@ TEST(PrinterQueries, Options) {
         const char* value;
         Texts asked;
     } cases[] = {
+        // clang-format off
         {"OpMemory", {{kMemory, Number(640, 0x42)}}, "640MB", Texts(5, kMemory)},
-        {"OpMemory", {{kMemory, Number(2048)}}, "", Texts(8, kMemory)},
         {"OpMemory", {}, "", Texts(8, kMemory)},
+        {"OpMemory", {{kMemory, Number(2048)}}, "", Texts(8, kMemory)},
         {"OpMemory", {{kMemory, Failing(kRequestError)}}, "", Texts(1, kMemory)},
-        {"OpHDD", {{kHardDisk, Number(0)}}, "EnaOpHDD", {kHardDisk}},
-        {"OpHDD", {}, "DisOpHDD", {kHardDisk}},
+        {"OpHDD", {{kHardDisk, Number(0)}}, "EnaOpHDD", {kHardDisk}}, {"OpHDD", {}, "DisOpHDD", {kHardDisk}},
         {"OpHDD", {{kHardDisk, Failing(kRequestError)}}, "", {kHardDisk}},
         {"opinTRAY3", {{kInTray + "3", Text("x")}}, "EnaOpInTray3", {kInTray + "3"}},
         {"OpInTray2", {{kInTray + "2", Text("x")}}, "EnaOpInTray2", {kInTray + "2"}},
         {"OpInTray4", {{kInTray + "4", Text("x")}}, "EnaOpInTray4", {kInTray + "4"}},
         {"OpInTray5", {{kInTray + "3", Text("x")}}, "DisOpInTray5", {kInTray + "5"}},
-        {"OpDuplex", {{kDuplex, Number(-1)}}, "EnaOpDuplex", {kDuplex}},
-        {"OpManualFeed", {}, "EnaOpManualFeed", {}},
-        {"OpOutTray2", {}, "DisOpOutTray2", {}},
-        {"", {}, "", {}},
-        {"OpInTray", {}, "", {}},
-        {"OpInTray33", {}, "", {}},
+        {"OpDuplex", {{kDuplex, Number(-1)}}, "EnaOpDuplex", {kDuplex}}, {"OpManualFeed", {}, "EnaOpManualFeed", {}},
+        {"OpOutTray2", {}, "DisOpOutTray2", {}}, {"", {}, "", {}}, {"OpInTray", {}, "", {}}, {"OpInTray33", {}, "", {}},
         {"OpManualFeed6789012345678901234x", {}, "", {}}, // fills its 32 octets
+        // clang-format on
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
@@ -324,8 +306,7 @@ TEST(PrinterQueries, Percentages) {
 }
 
 TEST(PrinterQueries, SupplyLevels) {
-    const int32_t levels[][2] = {{0, 4},  {1, 3},  {2, 5},  {7, 5},  {INT_MAX, 5},
-                                 {-3, 5}, {-1, 0}, {-2, 0}, {-4, 0}, {INT_MIN, 0}};
+    const int32_t levels[][2] = {{0, 4}, {1, 3}, {2, 5}, {INT_MAX, 5}, {-3, 5}, {-1, 0}, {-2, 0}, {-4, 0}};
     for (const auto& [level, value] : levels) {
         ScriptedDevice device;
         device.answers = {{kCapacity + "8", Number(-2)}, {kLevel + "8", Number(level)}};
@@ -344,15 +325,13 @@ TEST(PrinterQueries, SuppliesThatDoNotAnswer) {
     const struct {
         Answer capacity, level;
         bool isThere;
-    } cases[] = {{whole, half, true},
-                 {Number(100, 0x41), Number(50, 0x43), true},
-                 {Number(100, 0x46), half, false},
-                 {whole, Text("50"), false},
-                 {Text("100"), half, false},
-                 {whole.With(2, 0), half, false},
-                 {whole, half.With(0, 1), false},
-                 {Failing(kRequestError), half, false},
-                 {whole, Failing(kRequestError), false}};
+    } cases[] = {
+        // clang-format off
+        {whole, half, true}, {Number(100, 0x41), Number(50, 0x43), true}, {Number(100, 0x46), half, false},
+        {whole, Text("50"), false}, {Text("100"), half, false}, {whole.With(2, 0), half, false},
+        {whole, half.With(0, 1), false}, {Failing(kRequestError), half, false}, {whole, Failing(kRequestError), false},
+        // clang-format on
+    };
     for (const auto& c : cases)
         for (const bool isPercentage : {true, false}) {
             SCOPED_TRACE(&c - cases);
@@ -390,11 +369,8 @@ TEST(PrinterQueries, SuppliesWithoutARequest) {
         EXPECT_EQ(MIB_MrkSupRequest(kAgent, 5, items.data()), FALSE);
         EXPECT_EQ(GetLastError(), kUntouched);
         const int32_t states[] = {0, 3, 3, 0};
-        for (size_t i = 0; i < 4; ++i) {
-            EXPECT_EQ(items[i].state, states[i]);
-            EXPECT_EQ(items[i].value, 0);
-            EXPECT_EQ(items[i].color, 0u);
-        }
+        for (size_t i = 0; i < 4; ++i)
+            EXPECT_TRUE(items[i].state == states[i] && items[i].value == 0 && items[i].color == 0u) << i;
         EXPECT_EQ(items[4].state, static_cast<int32_t>(0xEEEEEEEE));
         EXPECT_EQ(device.asked, Texts());
         EXPECT_EQ(device.closes, 1u);
