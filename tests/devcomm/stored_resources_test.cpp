@@ -60,14 +60,11 @@ Answers Rows(const std::string& table, const std::vector<std::pair<Answer, Answe
 
 TEST(StoredResources, Overlays) {
     ScriptedDevice device;
-    device.answers = Rows(kOverlay, {{Number(1), kAbsent},
-                                     {Number(2, 0x42), kAbsent},
-                                     {Number(1), kAbsent},
-                                     {Number(1).With(0, 1), kAbsent},
-                                     {Text("1"), kAbsent},
-                                     {kAbsent, kAbsent},
-                                     {kAbsent, kAbsent},
-                                     {Number(1), kAbsent}});
+    // clang-format off
+    device.answers = Rows(kOverlay, {{Number(1), kAbsent}, {Number(2, 0x42), kAbsent}, {Number(1), kAbsent},
+                                     {Number(1).With(0, 1), kAbsent}, {Text("1"), kAbsent}, {kAbsent, kAbsent},
+                                     {kAbsent, kAbsent}, {Number(1), kAbsent}});
+    // clang-format on
     device.answers[kOverlay + "4.1.3"] = kAbsent;
     device.answers[kOverlay + "3.1.7"] = kAbsent; // the end: what is behind it does not count
     ExpectBlock(MIB_OverlayRequest(kAgent, 0),
@@ -99,19 +96,13 @@ TEST(StoredResources, EmptyTextEndsTheWalk) {
 
 TEST(StoredResources, Profiles) {
     ScriptedDevice device;
-    device.answers = Rows(kProfile, {{Number(4), Number(3)},
-                                     {Number(5), Number(1)},
-                                     {Number(3), Number(2)},
-                                     {Number(3), Number(4)},
-                                     {Number(3), kAbsent},
-                                     {Number(6), Number(1)},
-                                     {Number(1), Number(3, 0x41)},
-                                     {Number(2, 0x42), Number(2)},
-                                     {kAbsent, Number(1)},
-                                     {Number(4).With(0, 1), Number(1)},
-                                     {Number(4), Number(3).With(1, 0)},
-                                     {Number(-1), Number(1)},
-                                     {Number(3), Number(1)}});
+    // clang-format off
+    device.answers = Rows(kProfile, {{Number(4), Number(3)}, {Number(5), Number(1)}, {Number(3), Number(2)},
+                                     {Number(3), Number(4)}, {Number(3), kAbsent}, {Number(6), Number(1)},
+                                     {Number(1), Number(3, 0x41)}, {Number(2, 0x42), Number(2)}, {kAbsent, Number(1)},
+                                     {Number(4).With(0, 1), Number(1)}, {Number(4), Number(3).With(1, 0)},
+                                     {Number(-1), Number(1)}, {Number(3), Number(1)}});
+    // clang-format on
     device.answers[kProfile + "3.1.13"] = kAbsent;
     const RawBytes row1 = Entry("first 1", "second 1", "Prof_HDD");
     const RawBytes row7 = Entry("first 7", "second 7", "internalROM");
