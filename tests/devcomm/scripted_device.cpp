@@ -68,8 +68,8 @@ void WINAPI VarBindListFree(SnmpVarBindList* list) {
 }
 
 SnmpSession WINAPI Open(const char* agent, const char* community, INT timeOut, INT retries) {
-    device->sessions.push_back(std::string(agent) + " " + community + " " + std::to_string(timeOut) + " "
-                               + std::to_string(retries));
+    const std::string limits = std::to_string(timeOut) + " " + std::to_string(retries);
+    device->sessions.push_back(std::string(agent) + " " + community + " " + limits);
     if (device->openError != 0) {
         SetLastError(device->openError);
         return nullptr;
@@ -127,12 +127,10 @@ bool Store(const Answer& answer, AsnAny& value) {
 
 INT WINAPI Request(SnmpSession session, BYTE requestType, SnmpVarBindList* list, AsnInteger32* errorStatus,
                    AsnInteger32* errorIndex) {
-    EXPECT_EQ(openSessions.count(session), 1u);
-    EXPECT_EQ(requestType, 0xA0);
-    EXPECT_EQ(list->len, 1u);
+    EXPECT_TRUE(openSessions.count(session) == 1 && requestType == 0xA0 && list->len == 1);
     EXPECT_EQ(list->list[0].value.asnType, 0x05);
-    EXPECT_EQ(blocks.count(list->list), 1u) << "the list is not of this memory";
-    EXPECT_EQ(blocks.count(list->list[0].name.ids), 1u) << "the name is not of this memory";
+    EXPECT_TRUE(blocks.count(list->list) == 1 && blocks.count(list->list[0].name.ids) == 1)
+        << "foreign memory";
     device->asked.push_back(TextOf(list->list[0].name));
 
     const auto found = device->answers.find(device->asked.back());
