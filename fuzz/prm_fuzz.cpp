@@ -24,9 +24,9 @@ void CheckField(const Field& field);
 
 #define CHECK_FIELD(R, offset, type, name, dimensions) CheckField(record.name);
 #define NO_GAP(R, from, to)
-#define CHECK_TEXTS(R, TABLE)                                                                                \
-    void CheckTexts(const R& record) {                                                                       \
-        TABLE(R, CHECK_FIELD, NO_GAP)                                                                        \
+#define CHECK_TEXTS(R, TABLE)                                                                                          \
+    void CheckTexts(const R& record) {                                                                                 \
+        TABLE(R, CHECK_FIELD, NO_GAP)                                                                                  \
     }
 CHECK_TEXTS(TelmarItemHead, TELMAR_ITEM_HEAD)
 CHECK_TEXTS(TelmarItemRecord, TELMAR_ITEM_RECORD)
@@ -121,8 +121,7 @@ void CheckColorTables(const CompiledInTables& kept) {
         CheckField(record.display);
         Require(compiledIn[i].head.key[0] != 0 || memcmp(&record, &kEnd, sizeof(kEnd)) == 0,
                 "a colour table has no end record");
-        Require(record.head.key[0] == 0
-                    || (record.head.size == sizeof(ItemRecord) && record.head.icon == kItemIcon),
+        Require(record.head.key[0] == 0 || (record.head.size == sizeof(ItemRecord) && record.head.icon == kItemIcon),
                 "a colour item is incomplete");
     }
 }
@@ -131,8 +130,8 @@ void CheckSettings() {
     CheckField(defaultSettings.watermarkName);
     CheckField(defaultSettings.watermarkText);
     CheckField(defaultSettings.watermarkFont);
-    for (const ProfileEntry* profile : {&defaultSettings.textRgbProfile, &defaultSettings.imageRgbProfile,
-                                        &defaultSettings.graphicsRgbProfile})
+    for (const ProfileEntry* profile :
+         {&defaultSettings.textRgbProfile, &defaultSettings.imageRgbProfile, &defaultSettings.graphicsRgbProfile})
         CheckField(profile->qualifier);
     for (const TrayPaperDefault& tray : defaultSettings.trays)
         CheckField(tray.key);
@@ -143,8 +142,7 @@ void CheckSettings() {
 void CheckFixedParts(const CompiledInTables& kept) {
     for (TraySourceRecord& slot : inputSlots) {
         CheckField(slot.text);
-        const auto* original =
-            reinterpret_cast<const TraySourceRecord*>(kept.slots.bytes) + (&slot - inputSlots);
+        const auto* original = reinterpret_cast<const TraySourceRecord*>(kept.slots.bytes) + (&slot - inputSlots);
         slot.bin = original->bin;
         memcpy(slot.text, original->text, sizeof(slot.text));
     }
@@ -182,8 +180,7 @@ struct ModuleFolder {
     ModuleFolder(const ModuleFolder&) = delete;
     ModuleFolder& operator=(const ModuleFolder&) = delete;
     void Store(const uint8_t* bytes, size_t size) const {
-        Require(ftruncate(descriptor, 0) == 0
-                    && pwrite(descriptor, bytes, size, 0) == static_cast<ssize_t>(size),
+        Require(ftruncate(descriptor, 0) == 0 && pwrite(descriptor, bytes, size, 0) == static_cast<ssize_t>(size),
                 "the memory file can't be written");
     }
 
@@ -215,9 +212,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     DllMain(nullptr, DLL_PROCESS_DETACH, nullptr);
 
     const win32::Counts counts = win32::Count();
-    Require(counts.globalBlocks == 0 && counts.localBlocks == 0 && counts.files == 0,
-            "something is left over");
-    Require(counts.allocatedBytes <= kMaxAnyway + kMaxPerByte * count,
-            "memory out of proportion to the file");
+    Require(counts.globalBlocks == 0 && counts.localBlocks == 0 && counts.files == 0, "something is left over");
+    Require(counts.allocatedBytes <= kMaxAnyway + kMaxPerByte * count, "memory out of proportion to the file");
     return 0;
 }

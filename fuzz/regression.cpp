@@ -34,8 +34,8 @@ size_t RunReplacedFields(Bytes bytes) {
     for (uint32_t offset = 0; offset + sizeof(uint32_t) <= size; offset += sizeof(uint32_t)) {
         uint32_t saved;
         memcpy(&saved, &bytes[offset], sizeof(saved));
-        for (const uint32_t value : {0u, 1u, offset, size - 1, size, size / 4, 0x7FFFFFFFu, 0x80000000u,
-                                     0xFFFFFFFCu, 0xFFFFFFFFu, saved + 1, saved - 1}) {
+        for (const uint32_t value : {0u, 1u, offset, size - 1, size, size / 4, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFCu,
+                                     0xFFFFFFFFu, saved + 1, saved - 1}) {
             memcpy(&bytes[offset], &value, sizeof(value));
             Run(bytes);
             ++runs;
@@ -92,8 +92,8 @@ int main(int count, char** paths) {
         const size_t replaced = bytes.size() <= kSmall ? RunReplacedFields(bytes) : 0;
         const size_t octets = bytes.size() <= kMessage ? RunReplacedOctets(bytes) : 0;
         const size_t overrun = bytes.size() <= kSmall ? RunLongTexts(bytes) : 0;
-        printf("%zu bytes, %zu cuts, %zu replaced fields, %zu replaced octets, %zu long texts\n",
-               bytes.size(), cuts, replaced, octets, overrun);
+        printf("%zu bytes, %zu cuts, %zu replaced fields, %zu replaced octets, %zu long texts\n", bytes.size(), cuts,
+               replaced, octets, overrun);
     }
     return count > 1 ? 0 : 1;
 }

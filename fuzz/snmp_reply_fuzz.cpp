@@ -49,8 +49,7 @@ void CheckValue(const AsnAny& value, size_t most) {
     case SnmpForm::kNumber:
         break;
     case SnmpForm::kOctets:
-        Require(value.asnValue.string.dynamic == TRUE && value.asnValue.string.length < most,
-                "more octets than came");
+        Require(value.asnValue.string.dynamic == TRUE && value.asnValue.string.length < most, "more octets than came");
         break;
     case SnmpForm::kOid:
         Require(value.asnValue.object.idLength >= 2 && value.asnValue.object.idLength <= most,
@@ -141,8 +140,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     if (!datagrams.empty() && !datagrams[0].empty()) // else nothing is seen waiting, which only takes time
         CheckRequest(datagrams);
     const win32::Counts counts = win32::Count();
-    Require(counts.localBlocks == 0 && counts.sockets == 0 && counts.socketUses == 0,
-            "something is left over");
+    Require(counts.localBlocks == 0 && counts.sockets == 0 && counts.socketUses == 0, "something is left over");
     win32::Reset(); // with nothing kept no search for leaks is due, which takes most of the time
     return 0;
 }

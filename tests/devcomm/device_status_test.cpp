@@ -128,14 +128,11 @@ struct BdcStatus : BdcLoad {
     static Words Fill(const std::string& agent = kAgent) {
         Words calls = {"BdcGetLibVersion, state 1", "BdcGetDevCommInfo " + agent + ", state 1",
                        "BdcGetDevName, state 1"};
-        for (const std::string list :
-             {"BdcGetDevFirmwareVersion", "BdcGetDevMemoryCapacity", "BdcGetDevOptionInfo",
-              "BdcGetDevInputTrayInfoEx, selector 2", "BdcGetDevOutputTrayInfo"})
+        for (const std::string list : {"BdcGetDevFirmwareVersion", "BdcGetDevMemoryCapacity", "BdcGetDevOptionInfo",
+                                       "BdcGetDevInputTrayInfoEx, selector 2", "BdcGetDevOutputTrayInfo"})
             calls = calls + Words{list + ", state 1, null", list + ", state 1, 1 items"};
         const std::string finishers = "BdcGetDevFinisherInfo, state 1, ";
-        return calls
-               + Words{"BdcGetDevMediaPathInfo, state 1, information", finishers + "null",
-                       finishers + "1 items"};
+        return calls + Words{"BdcGetDevMediaPathInfo, state 1, information", finishers + "null", finishers + "1 items"};
     }
 };
 
@@ -187,9 +184,9 @@ TEST_F(BdcStatus, IsCommunicateDeviceAsksInOrderUntilOneFails) {
 TEST_F(BdcStatus, EachFailureLeavesItsPartEmptyAndStopsNothing) {
     ListAnswer Device::*const lists[] = {&Device::firmware,   &Device::memory,      &Device::options,
                                          &Device::inputTrays, &Device::outputTrays, &Device::finishers};
-    BdcList BdcDeviceContext::*const filled[] = {
-        &BdcDeviceContext::firmware,   &BdcDeviceContext::memory,      &BdcDeviceContext::options,
-        &BdcDeviceContext::inputTrays, &BdcDeviceContext::outputTrays, &BdcDeviceContext::finishers};
+    BdcList BdcDeviceContext::*const filled[] = {&BdcDeviceContext::firmware,    &BdcDeviceContext::memory,
+                                                 &BdcDeviceContext::options,     &BdcDeviceContext::inputTrays,
+                                                 &BdcDeviceContext::outputTrays, &BdcDeviceContext::finishers};
     const struct {
         int32_t firstStatus;
         std::optional<uint32_t> firstCount;
@@ -241,8 +238,7 @@ TEST_F(BdcStatus, WhatAFailingCallWroteIsThrownAway) {
         ASSERT_NE(context, nullptr);
         EXPECT_EQ(Differences(&context->version, status >= 0 ? script.version.octets : RawBytes(16)), "");
         const Device& device = script.device;
-        EXPECT_EQ(Differences(&context->communication, kept ? device.communication.octets : RawBytes(336)),
-                  "");
+        EXPECT_EQ(Differences(&context->communication, kept ? device.communication.octets : RawBytes(336)), "");
         EXPECT_EQ(context->device.communication, kept ? 0x12345678 : 0u);
         EXPECT_EQ(Differences(&context->name, kept ? device.name.octets : RawBytes(324)), "");
         EXPECT_EQ(context->mediaPath.items != nullptr, kept);

@@ -19,9 +19,8 @@ using Words = std::vector<std::string>;
 
 // In the order of the table's slots and of their look-up; the first five are SNMPAPI.DLL's.
 constexpr const char* kNames[] = {
-    "SnmpUtilMemAlloc",    "SnmpUtilMemFree",         "SnmpUtilOidFree",
-    "SnmpUtilVarBindFree", "SnmpUtilVarBindListFree", "SnmpMgrOpen",
-    "SnmpMgrClose",        "SnmpMgrRequest",          "SnmpMgrStrToOid",
+    "SnmpUtilMemAlloc", "SnmpUtilMemFree", "SnmpUtilOidFree", "SnmpUtilVarBindFree", "SnmpUtilVarBindListFree",
+    "SnmpMgrOpen",      "SnmpMgrClose",    "SnmpMgrRequest",  "SnmpMgrStrToOid",
 };
 constexpr size_t kNone = 9;
 constexpr size_t kStrToOid = 8;
@@ -44,15 +43,13 @@ template <typename... Functions>
 Slots AddressesOf(Functions... functions) {
     return {reinterpret_cast<Address>(functions)...};
 }
-const Slots kClient =
-    AddressesOf(ClientMemAlloc, ClientMemFree, ClientOidFree, ClientVarBindFree, ClientVarBindListFree,
-                ClientOpen, ClientClose, ClientRequest, ClientStrToOid);
+const Slots kClient = AddressesOf(ClientMemAlloc, ClientMemFree, ClientOidFree, ClientVarBindFree,
+                                  ClientVarBindListFree, ClientOpen, ClientClose, ClientRequest, ClientStrToOid);
 
 Slots Bound() {
     const SnmpEntryPoints& t = snmpEntryPoints;
     return AddressesOf(t.snmpUtilMemAlloc, t.snmpUtilMemFree, t.snmpUtilOidFree, t.snmpUtilVarBindFree,
-                       t.snmpUtilVarBindListFree, t.snmpMgrOpen, t.snmpMgrClose, t.snmpMgrRequest,
-                       t.snmpMgrStrToOid);
+                       t.snmpUtilVarBindListFree, t.snmpMgrOpen, t.snmpMgrClose, t.snmpMgrRequest, t.snmpMgrStrToOid);
 }
 
 void Register(const std::string& path, size_t first, size_t end, size_t missing = kNone) {
@@ -157,8 +154,7 @@ TEST(SnmpBind, EntryPointThatIsMissing) {
         ExpectReleased();
         EXPECT_EQ(SnmpApiBind(), FALSE) << "tried anew, and not with the built-in client";
         SnmpApiRelease();
-        EXPECT_EQ(win32::LibraryCalls().size(), 2 * WithFrees(Finds(missing + 1)).size())
-            << "nothing is freed twice";
+        EXPECT_EQ(win32::LibraryCalls().size(), 2 * WithFrees(Finds(missing + 1)).size()) << "nothing is freed twice";
     }
 }
 

@@ -84,9 +84,8 @@ Outcome Ask(const RawBytes& record, DWORD bufferSize = 64, const wchar_t* printe
     char* to = bufferSize != kNoBuffer ? buffer.data() : nullptr;
     Outcome outcome = {FALSE, "-"};
     SetLastError(kBefore);
-    outcome.result =
-        DDProc_GetPrinterIPAddress(printer, reinterpret_cast<const AddressSettings*>(record.bytes.data()), to,
-                                   bufferSize, &outcome.needed);
+    outcome.result = DDProc_GetPrinterIPAddress(printer, reinterpret_cast<const AddressSettings*>(record.bytes.data()),
+                                                to, bufferSize, &outcome.needed);
     outcome.lastError = GetLastError();
     if (std::any_of(buffer.begin(), buffer.end(), [](char c) { return c != '#'; }))
         outcome.text.assign(buffer.begin(), std::find(buffer.begin(), buffer.end(), '\0'));
@@ -159,8 +158,8 @@ TEST(PrinterAddress, NullArgumentsAndSizesThatNoBufferHas) {
     const RawBytes record = Record(1, Terminated(L"10.0.0.3"));
     char buffer[9];
     const auto ask = [&buffer](const RawBytes& from, DWORD size) {
-        return DDProc_GetPrinterIPAddress(
-            L"Lumora", reinterpret_cast<const AddressSettings*>(from.bytes.data()), buffer, size, nullptr);
+        return DDProc_GetPrinterIPAddress(L"Lumora", reinterpret_cast<const AddressSettings*>(from.bytes.data()),
+                                          buffer, size, nullptr);
     };
     ArrangeTransceiver();
     DWORD needed = kUntouched;
@@ -331,9 +330,8 @@ TEST(PrinterAddress, QueuesThatLackSomething) {
 TEST(PrinterAddress, EveryCallFailsInTurn) {
     // Open the queue, ask for the size of its data, read them; open the transceiver, ask for the size of the
     // reply (only the size counts), fetch it; ask for the size of the text, convert it. Then nothing fails.
-    const Outcome withTransceiver[] = {Refused(5),    Refused(5),       Refused(5),
-                                       kFromRegistry, kFromTransceiver, kFromRegistry,
-                                       kFromRegistry, kFromRegistry,    kFromTransceiver};
+    const Outcome withTransceiver[] = {Refused(5),    Refused(5),    Refused(5),    kFromRegistry,   kFromTransceiver,
+                                       kFromRegistry, kFromRegistry, kFromRegistry, kFromTransceiver};
     for (unsigned i = 0; i < std::size(withTransceiver); ++i) {
         SCOPED_TRACE(i);
         ArrangeTransceiver();

@@ -125,8 +125,7 @@ TEST(PrinterQueries, RefusedArguments) {
 }
 
 TEST(PrinterQueries, AccessIsAnyAnswer) {
-    for (const Answer& answer :
-         {Oid({1, 3, 6, 1}), kNull.With(2, 1), kNull.With(5, 0), Number(1).With(0, 3)}) {
+    for (const Answer& answer : {Oid({1, 3, 6, 1}), kNull.With(2, 1), kNull.With(5, 0), Number(1).With(0, 3)}) {
         ScriptedDevice device;
         device.answers[kSysObjectId] = answer;
         EXPECT_EQ(MIB_IsAccessOK(kAgent), TRUE);
@@ -271,8 +270,7 @@ TEST(PrinterQueries, OptionsGoOnAfterOneWithoutAnswer) {
     device.answers = {{kMemory, Number(384)}, {kInTray + "1", Failing(kRequestError)}, {kDuplex, Number(1)}};
     ExpectOptions({"OpInTray1", "none", "OpMemory", "OpHDD", "OpDuplex", "OpInTray1"},
                   {"", "", "384MB", "DisOpHDD", "EnaOpDuplex", ""});
-    EXPECT_EQ(device.asked,
-              Texts({kInTray + "1", kMemory, kMemory, kMemory, kHardDisk, kDuplex, kInTray + "1"}));
+    EXPECT_EQ(device.asked, Texts({kInTray + "1", kMemory, kMemory, kMemory, kHardDisk, kDuplex, kInTray + "1"}));
     EXPECT_EQ(device.sessions.size(), 1u);
     EXPECT_EQ(MIB_OptionRequest(kAgent, 0, &option), TRUE);
     EXPECT_EQ(device.closes, 2u);
@@ -358,8 +356,7 @@ TEST(PrinterQueries, SuppliesThatDoNotAnswer) {
 
 // An unknown name ends the call; the items before keep their answers.
 TEST(PrinterQueries, SuppliesWithoutARequest) {
-    for (const char* unknown :
-         {"", "Consumable", "Consumable13", "Consumable1 ", "Consumable1890123456789012345678"}) {
+    for (const char* unknown : {"", "Consumable", "Consumable13", "Consumable1 ", "Consumable1890123456789012345678"}) {
         SCOPED_TRACE(unknown);
         ScriptedDevice device;
         std::vector<MrkSupRequestItem> items;

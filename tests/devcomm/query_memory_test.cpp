@@ -21,9 +21,7 @@ void Script(ScriptedDevice& scripted) {
             for (int row = 1; row <= 40; ++row) {
                 std::ostringstream object;
                 object << ".1.3.6.1.4.1.47913.1.1.1.1.6." << table << ".1.1." << column << ".1." << row;
-                scripted.answers[object.str()] = *column == '2'   ? Number(1)
-                                                 : *column == '5' ? Number(3)
-                                                                  : Text("text");
+                scripted.answers[object.str()] = *column == '2' ? Number(1) : *column == '5' ? Number(3) : Text("text");
             }
 }
 
@@ -42,8 +40,7 @@ TEST(QueryMemory, EachAllocationFailing) {
                 const win32::Counts after = win32::Count();
                 win32::FailAllocations(0);
                 done = block != nullptr;
-                EXPECT_EQ(done, after.allocations - before.allocations < failing)
-                    << "one failed, and was missed";
+                EXPECT_EQ(done, after.allocations - before.allocations < failing) << "one failed, and was missed";
                 EXPECT_EQ(after.localBlocks, before.localBlocks + done);
                 EXPECT_TRUE(done || GetLastError() == ERROR_NOT_ENOUGH_MEMORY);
                 // Long walks don't ask for memory entry by entry: far fewer allocations than entries.

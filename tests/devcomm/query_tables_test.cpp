@@ -57,8 +57,7 @@ TEST(QueryTables, WhatNoQueryReads) {
     const auto* overlays = reinterpret_cast<Record>(MIB_OvlReqInfo());
     const char* storage = ".1.3.6.1.4.1.47913.1.1.1.1.6.12.1.1.5.1";
     EXPECT_EQ(Differences(overlays + 512, RawBytes(260).Text(0, storage).U32(256, 3)), "");
-    RawBytes names =
-        RawBytes(108).Text(0, "OvlForm_Memory").Text(36, "OvlForm_HDD").Text(72, "OvlForm_Flash");
+    RawBytes names = RawBytes(108).Text(0, "OvlForm_Memory").Text(36, "OvlForm_HDD").Text(72, "OvlForm_Flash");
     EXPECT_EQ(Differences(PointerAt(overlays, 776), names.U32(32, 3).U32(68, 4).U32(104, 5)), "");
     const auto* profiles = reinterpret_cast<Record>(MIB_CMProfReqInfo());
     EXPECT_EQ(Differences(profiles + 784, RawBytes(32).Text(0, "Prof_HDD")), "");

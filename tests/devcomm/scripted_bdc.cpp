@@ -15,8 +15,8 @@ constexpr size_t kRecordSize = 428;
 
 void Record(const std::string& text, const void* record) {
     const auto* octets = static_cast<const uint8_t*>(record);
-    script.calls.push_back({text, octets != nullptr ? std::vector<uint8_t>(octets, octets + kRecordSize)
-                                                    : std::vector<uint8_t>()});
+    script.calls.push_back(
+        {text, octets != nullptr ? std::vector<uint8_t>(octets, octets + kRecordSize) : std::vector<uint8_t>()});
 }
 
 // Names the state word that came in, and gives back another.
@@ -45,8 +45,8 @@ std::string Block(const void* block, size_t size, const std::string& contents) {
     return ", " + contents + (IsFit(block, size) ? "" : " unfit");
 }
 
-int32_t GiveList(const char* name, const ListAnswer& answer, const void* record, uint32_t* count,
-                 uint32_t* state, void* block) {
+int32_t GiveList(const char* name, const ListAnswer& answer, const void* record, uint32_t* count, uint32_t* state,
+                 void* block) {
     const size_t room = block != nullptr ? *count * answer.itemSize : 0;
     Record(name + State(state) + Block(block, room, std::to_string(*count) + " items"), record);
     if (block == nullptr) {
@@ -76,8 +76,7 @@ int32_t WINAPI GetDevName(const void* record, uint32_t* state, void* buffer) {
 
 int32_t WINAPI GetDevMediaPathInfo(const void* record, uint32_t* state, void* block) {
     const Answer& answer = script.device.mediaPath;
-    Record("BdcGetDevMediaPathInfo" + State(state) + Block(block, answer.octets.bytes.size(), "information"),
-           record);
+    Record("BdcGetDevMediaPathInfo" + State(state) + Block(block, answer.octets.bytes.size(), "information"), record);
     return Give(answer, block);
 }
 

@@ -39,8 +39,7 @@ inline std::string FieldAt(const RawBytes& record, size_t offset) {
 
 // Puts a query with one record, which must stay as it is when the query fails.
 template <typename Item>
-bool Ask(BOOL WINAPI (*query)(const char*, DWORD, Item*), const char* agent, const std::string& key,
-         RawBytes& record) {
+bool Ask(BOOL WINAPI (*query)(const char*, DWORD, Item*), const char* agent, const std::string& key, RawBytes& record) {
     const std::string field = key.size() < 32 ? key + '\0' : key;
     record.U8(0, 0xAB, record.bytes.size()).Text(0, field);
     const RawBytes before = record;

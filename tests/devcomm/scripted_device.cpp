@@ -129,8 +129,7 @@ INT WINAPI Request(SnmpSession session, BYTE requestType, SnmpVarBindList* list,
                    AsnInteger32* errorIndex) {
     EXPECT_TRUE(openSessions.count(session) == 1 && requestType == 0xA0 && list->len == 1);
     EXPECT_EQ(list->list[0].value.asnType, 0x05);
-    EXPECT_TRUE(blocks.count(list->list) == 1 && blocks.count(list->list[0].name.ids) == 1)
-        << "foreign memory";
+    EXPECT_TRUE(blocks.count(list->list) == 1 && blocks.count(list->list[0].name.ids) == 1) << "foreign memory";
     device->asked.push_back(TextOf(list->list[0].name));
 
     const auto found = device->answers.find(device->asked.back());

@@ -41,8 +41,7 @@ struct Client {
         win32::LetReleasesSetLastError(0);
         session = ClientOpen("192.0.2.7", reinterpret_cast<const char*>(community.Start()), 2000, 3);
         EXPECT_NE(session, nullptr);
-        list = {static_cast<SnmpVarBind*>(ClientMemAlloc(static_cast<UINT>(varBinds * sizeof(SnmpVarBind)))),
-                varBinds};
+        list = {static_cast<SnmpVarBind*>(ClientMemAlloc(static_cast<UINT>(varBinds * sizeof(SnmpVarBind)))), varBinds};
         for (UINT i = 0; i < varBinds; ++i)
             list.list[i].value.asnType = ASN_NULL;
         EXPECT_TRUE(ClientStrToOid(".1.3.6.1.2.1.1.2.0", &list.list[0].name));
@@ -99,9 +98,7 @@ TEST(SnmpOpen, AddressPortAndLimit) {
         const char* agent;
         uint32_t address; // network order, read as little-endian
     } cases[] = {
-        {"192.0.2.7", 0x070200C0},
-        {"printer", 0x0D0C0B0A},
-        {"255.255.255.255", 0x0100007F}, // that one looks like none
+        {"192.0.2.7", 0x070200C0}, {"printer", 0x0D0C0B0A}, {"255.255.255.255", 0x0100007F}, // that one looks like none
     };
     for (const auto& c : cases) {
         win32::Wire wire;
@@ -201,8 +198,8 @@ TEST(SnmpRequest, LongestVarBinds) {
     }
     EXPECT_FALSE(client.Request());
     EXPECT_EQ(win32::ReadWire().sent.at(0),
-              Element(0x30, {Hex("02 01 00 04 00"), Element(0xA0, {Hex("02 02 01 01 02 01 00 02 01 00"),
-                                                                   Element(0x30, {varBinds})})}));
+              Element(0x30, {Hex("02 01 00 04 00"),
+                             Element(0xA0, {Hex("02 02 01 01 02 01 00 02 01 00"), Element(0x30, {varBinds})})}));
     for (UINT i = 0; i < kVarBinds; ++i)
         client.list.list[i].name = {};
 }
@@ -221,8 +218,7 @@ TEST(SnmpRequest, Communities) {
         const std::string community(c.length, '\xE4');
         Client client({}, community);
         EXPECT_EQ(client.Failure(), 4102u);
-        const Octets expected =
-            Element(0x30, {Hex("02 01 00"), Hex(c.header), Characters(community), behind});
+        const Octets expected = Element(0x30, {Hex("02 01 00"), Hex(c.header), Characters(community), behind});
         EXPECT_TRUE(win32::ReadWire().sent.at(0) == expected) << c.length;
     }
 }
@@ -288,8 +284,7 @@ TEST(SnmpReceive, ValueStatusAndIndexAreStored) {
     for (const bool withStatus : {false, true})
         for (const bool withIndex : {false, true}) {
             Client client(Answering({reply.Message()}));
-            EXPECT_NE(ClientRequest(client.session, SNMP_PDU_GET, &client.list,
-                                    withStatus ? &client.status : nullptr,
+            EXPECT_NE(ClientRequest(client.session, SNMP_PDU_GET, &client.list, withStatus ? &client.status : nullptr,
                                     withIndex ? &client.index : nullptr),
                       0);
             EXPECT_EQ(client.status, withStatus ? 2 : kNothing);

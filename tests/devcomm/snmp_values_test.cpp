@@ -61,8 +61,7 @@ TEST(SnmpValues, Numbers) {
 }
 
 TEST(SnmpValues, OctetsAreCopied) {
-    for (const char* element :
-         {"04 03 61 00 FF", "30 03 02 01 05", "40 04 C0 00 02 07", "44 01 00", "04 00"}) {
+    for (const char* element : {"04 03 61 00 FF", "30 03 02 01 05", "40 04 C0 00 02 07", "44 01 00", "04 00"}) {
         SCOPED_TRACE(element);
         Value read;
         ASSERT_TRUE(read.Read(element)); // the datagram is gone now
@@ -71,8 +70,7 @@ TEST(SnmpValues, OctetsAreCopied) {
         ASSERT_TRUE(text.stream != nullptr);
         EXPECT_EQ(text.dynamic, 1);
         EXPECT_EQ(read.value.asnType, whole[0]);
-        EXPECT_EQ(Octets(text.stream, text.stream + text.length),
-                  Octets(whole.end() - text.length, whole.end()));
+        EXPECT_EQ(Octets(text.stream, text.stream + text.length), Octets(whole.end() - text.length, whole.end()));
         EXPECT_EQ(text.length, whole.size() - 2);
         for (int i = 0; i < 2; ++i) {
             read.Free();
@@ -151,9 +149,8 @@ TEST(SnmpReply, IncompleteRepliesAreRefused) {
     const Octets ids = Join({sound.requestId, sound.status, sound.index});
     const Octets varBind = Element(0x30, {sound.name, sound.value});
     const auto whole = [&](uint8_t message, uint8_t pdu, uint8_t list, uint8_t first) {
-        return Element(message,
-                       {sound.version, sound.community,
-                        Element(pdu, {ids, Element(list, {Element(first, {sound.name, sound.value})})})});
+        return Element(message, {sound.version, sound.community,
+                                 Element(pdu, {ids, Element(list, {Element(first, {sound.name, sound.value})})})});
     };
     EXPECT_TRUE(Read(whole(0x30, 0xA2, 0x30, 0x30), value));
     for (const Octets& datagram :

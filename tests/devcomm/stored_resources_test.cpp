@@ -69,14 +69,12 @@ TEST(StoredResources, Overlays) {
     device.answers[kOverlay + "3.1.7"] = kAbsent; // the end: what is behind it does not count
     ExpectBlock(MIB_OverlayRequest(kAgent, 0),
                 {{Entry("second 1", "first 1", "OvlForm_HDD"), Entry("", "first 3", "OvlForm_HDD")}});
-    EXPECT_EQ(device.asked,
-              Objects(kOverlay, {"3.1.1", "2.1.1", "4.1.1", "3.1.2", "2.1.2", "3.1.3", "2.1.3", "4.1.3",
-                                 "3.1.4", "2.1.4", "3.1.5", "2.1.5", "3.1.6", "2.1.6", "3.1.7"}));
+    EXPECT_EQ(device.asked, Objects(kOverlay, {"3.1.1", "2.1.1", "4.1.1", "3.1.2", "2.1.2", "3.1.3", "2.1.3", "4.1.3",
+                                               "3.1.4", "2.1.4", "3.1.5", "2.1.5", "3.1.6", "2.1.6", "3.1.7"}));
     device.asked.clear();
     ExpectBlock(MIB_OverlayRequest(kAgent, 1), {{Entry("second 2", "first 2", "OvlForm_HDD")}});
-    EXPECT_EQ(device.asked,
-              Objects(kOverlay, {"3.1.1", "2.1.1", "3.1.2", "2.1.2", "4.1.2", "3.1.3", "2.1.3", "3.1.4",
-                                 "2.1.4", "3.1.5", "2.1.5", "3.1.6", "2.1.6", "3.1.7"}));
+    EXPECT_EQ(device.asked, Objects(kOverlay, {"3.1.1", "2.1.1", "3.1.2", "2.1.2", "4.1.2", "3.1.3", "2.1.3", "3.1.4",
+                                               "2.1.4", "3.1.5", "2.1.5", "3.1.6", "2.1.6", "3.1.7"}));
     EXPECT_EQ(device.closes, 2u);
 }
 
@@ -150,8 +148,7 @@ TEST(StoredResources, EndOfALongWalk) {
     ASSERT_NE(overlays, nullptr);
     EXPECT_EQ(overlays->list.count, 32767);
     for (size_t row = 1; row <= 32767; ++row)
-        ASSERT_EQ(Differences(&overlays->list.entries[row - 1],
-                              Entry("", Object("first", " ", row), "OvlForm_HDD")),
+        ASSERT_EQ(Differences(&overlays->list.entries[row - 1], Entry("", Object("first", " ", row), "OvlForm_HDD")),
                   "");
     MIB_FreeOverlayInfo(overlays);
     EXPECT_EQ(device.asked.size(), 3u * 32767);

@@ -33,8 +33,7 @@ FARPROC Address(Function* function) {
 
 // --- The user-interface module -----------------------------------------------------------------------------
 
-int32_t Constrain(const void* none, HWND dialog, HWND hints, uint32_t control, int32_t all,
-                  const void* alsoNone) {
+int32_t Constrain(const void* none, HWND dialog, HWND hints, uint32_t control, int32_t all, const void* alsoNone) {
     // When a tray dialog checks all settings, it passes the hint window of the colour dialogs.
     const bool hasOwn = current->missing.count("CreateToolWnd") == 0 && (control != 0 || !current->isTray);
     Note("DoConstraints", control,
@@ -88,8 +87,7 @@ FARPROC FindProcedure(HMODULE library, const char* name) {
     if (current->missing.count(name) != 0)
         return nullptr;
     const auto found = kUiCallbacks.find(name);
-    const bool isOwn =
-        current->usesOwnCallbacks && found != kUiCallbacks.end() && found->first != "MyDialogBox";
+    const bool isOwn = current->usesOwnCallbacks && found != kUiCallbacks.end() && found->first != "MyDialogBox";
     return isOwn || found == kUiCallbacks.end() ? GetProcAddress(library, name) : found->second;
 }
 
@@ -172,8 +170,8 @@ LRESULT SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_NEXTDLGCTL)
         Note("focus", GetDlgCtrlID(reinterpret_cast<HWND>(wParam)), target == current->window && lParam == 1);
     if (message == WM_USER + 104)
-        Note("trays-changed", target == GetParent(current->page)
-                                  && wParam == reinterpret_cast<WPARAM>(current->page) && lParam == 0);
+        Note("trays-changed",
+             target == GetParent(current->page) && wParam == reinterpret_cast<WPARAM>(current->page) && lParam == 0);
     return SendMessageW(target, message, wParam, lParam);
 }
 } // namespace
@@ -212,8 +210,7 @@ std::unique_ptr<TemporaryFolder> MakeFolder(const std::wstring& model) {
 }
 
 DialogDriver::DialogDriver(uint32_t identifier, const std::wstring& model)
-    : otherModel(MakeFolder(model)), folder(otherModel != nullptr ? otherModel->path : ProductFolder()),
-      module(folder),
+    : otherModel(MakeFolder(model)), folder(otherModel != nullptr ? otherModel->path : ProductFolder()), module(folder),
       dialogId(identifier), context{nullptr, nullptr, nullptr, &lists, kPrinter, 1, 0, nullptr},
       resources(LoadLibraryW((folder / L"TELMAR_S.DLL").c_str())) {
     current = this;
@@ -312,8 +309,7 @@ Answer DialogDriver::Deliver(UINT message, WPARAM wParam, LPARAM lParam) {
 Answer DialogDriver::DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
                                int32_t* handled) const {
     using Function = int32_t WINAPI(uint32_t, HWND, UINT, WPARAM, LPARAM, int32_t*);
-    const int32_t result =
-        module.Export<Function>("DDProc_DlgProc")(otherId, dialog, message, wParam, lParam, handled);
+    const int32_t result = module.Export<Function>("DDProc_DlgProc")(otherId, dialog, message, wParam, lParam, handled);
     return {result, handled != nullptr ? *handled : kUntouched};
 }
 
@@ -358,8 +354,7 @@ uint8_t* DialogDriver::FindItem(const std::string& key) const {
             continue;
         uint8_t* const data = base + section->VirtualAddress;
         for (size_t at = 0; at + 144 <= section->Misc.VirtualSize; ++at)
-            if (memcmp(data + at + 4, key.c_str(), key.size() + 1) == 0
-                && NumberAt<uint32_t>(data, at) == 144)
+            if (memcmp(data + at + 4, key.c_str(), key.size() + 1) == 0 && NumberAt<uint32_t>(data, at) == 144)
                 return data + at;
     }
     ADD_FAILURE() << "no item " << key;

@@ -55,8 +55,7 @@ struct DialogDriver {
 
     // Passes a message to the module as the user-interface module does.
     Answer Deliver(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    Answer DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
-                     int32_t* handled) const;
+    Answer DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, int32_t* handled) const;
     Answer Command(WPARAM command) { return Deliver(WM_COMMAND, command); }
     // Selects an entry or sets a button's check, and reports the change. Earlier events are forgotten.
     Answer Choose(int control, int entry);

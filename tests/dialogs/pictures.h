@@ -27,8 +27,7 @@ struct Pictures {
     void WantBackground(int color) const { WantFill(kPlace, GetSysColor(color)); }
     void WantText(const std::wstring& text, int indent, int color) const {
         WantTextIn(color);
-        TextOutW(wanted.dc, kPlace.left + indent, kPlace.top + 1, text.c_str(),
-                 static_cast<int>(text.size()));
+        TextOutW(wanted.dc, kPlace.left + indent, kPlace.top + 1, text.c_str(), static_cast<int>(text.size()));
     }
     void WantFocus(const RECT& area = kPlace) const { DrawFocusRect(wanted.dc, &area); }
 

@@ -149,8 +149,7 @@ TEST_P(Templates, AccessKeysAreCompleteAndUnique) {
     std::set<wint_t> keys;
     for (const Control& control : controls) {
         const bool isBottomButton = control.id == IDOK || control.id == IDCANCEL || control.id == IDHELP;
-        EXPECT_EQ(control.key != 0, !control.text.empty() && !control.IsGroup() && !isBottomButton)
-            << control.id;
+        EXPECT_EQ(control.key != 0, !control.text.empty() && !control.IsGroup() && !isBottomButton) << control.id;
         EXPECT_TRUE(control.key == 0 || keys.insert(towupper(control.key)).second) << control.id;
     }
 }
@@ -164,8 +163,7 @@ TEST_P(Templates, ControlsKeepTheMarginAndDoNotOverlap) {
     for (auto one = controls.begin(); one != controls.end(); ++one) {
         EXPECT_TRUE(Contains(area, one->area)) << one->id;
         for (auto other = one + 1; other != controls.end(); ++other)
-            EXPECT_TRUE(!Meets(one->area, other->area, 0)
-                        || (one->IsGroup() && Contains(one->area, other->area)))
+            EXPECT_TRUE(!Meets(one->area, other->area, 0) || (one->IsGroup() && Contains(one->area, other->area)))
                 << one->id << " and " << other->id;
     }
 }

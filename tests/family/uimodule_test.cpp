@@ -11,8 +11,8 @@
 
 namespace {
 
-constexpr uint16_t kRgbList = IDC_IMAGE_RGB_SOURCE, kSimulation = IDC_SIMULATION,
-                   kPaper = IDC_MATCH_PAPER_COLOR, kSimulationGray = IDC_SIMULATION_GRAY;
+constexpr uint16_t kRgbList = IDC_IMAGE_RGB_SOURCE, kSimulation = IDC_SIMULATION, kPaper = IDC_MATCH_PAPER_COLOR,
+                   kSimulationGray = IDC_SIMULATION_GRAY;
 constexpr uint16_t kIcons[][2] = {{IDC_SIMULATION_ICON, kSimulation},
                                   {IDC_MATCH_PAPER_COLOR_ICON, kPaper},
                                   {IDC_SIMULATION_GRAY_ICON, kSimulationGray}};
@@ -51,8 +51,8 @@ RECT FrameOf(HWND window) {
 struct UiModule : testing::Test {
     UiModule() : library(LoadLibraryW(L"TELMAR_U.DLL")) {
         context.settings = settings.get();
-        dialog = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(155), nullptr,
-                                    DialogProcedure, reinterpret_cast<LPARAM>(&context));
+        dialog = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(155), nullptr, DialogProcedure,
+                                    reinterpret_cast<LPARAM>(&context));
         SetWindowLongPtrW(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
         for (size_t i = 0; i < std::size(kIcons); ++i) {
             icons->records[i].iconControl = kIcons[i][0];

@@ -54,8 +54,7 @@ struct StartUpTest : ParameterDataTest {
 // An entry for each builder, and for what depends on their order.
 PrmImage CompleteImage() {
     PrmImage image;
-    const auto items = [&](const char* entry, const std::vector<PrmItemDescriptor>& plain,
-                           const char* defaultKey) {
+    const auto items = [&](const char* entry, const std::vector<PrmItemDescriptor>& plain, const char* defaultKey) {
         const uint32_t offset = image.Items(entry, plain);
         image.SetDefault(offset, image.Put(RawBytes(16).U32(0, image.Text(defaultKey))));
     };
@@ -77,8 +76,8 @@ PrmImage CompleteImage() {
     return image;
 }
 
-const RawBytes kWeights = ListRecord("Plain", 3, L"Plain paper")
-                              .Append(ListRecord("MediaTypeList_Weight_Unknown", 0xFFFFFFFF, L"?"));
+const RawBytes kWeights =
+    ListRecord("Plain", 3, L"Plain paper").Append(ListRecord("MediaTypeList_Weight_Unknown", 0xFFFFFFFF, L"?"));
 
 TEST_F(StartUpTest, WithoutAFileTablesStayAsCompiledIn) {
     Attach();
@@ -125,14 +124,10 @@ TEST_F(StartUpTest, BuildersRunInOrder) {
         settings.U8(1395, 14).U8(1396, 1).U8(1478, 4).U8(1483, 4).U16(1480, 300).U16(2166, 5).U16(2516, 1);
         EXPECT_EQ(Differences(&defaultSettings, settings), "");
 
-        EXPECT_EQ(
-            Differences(&colorTables.simulations, ListRecord("Simu_DIC", 0, L"DIC").Append(RawBytes(144))),
-            "");
-        EXPECT_EQ(Differences(&colorTables.text.rgbProfiles,
-                              ListRecord("Text_PAL", 133, L"PAL").Append(RawBytes(144))),
+        EXPECT_EQ(Differences(&colorTables.simulations, ListRecord("Simu_DIC", 0, L"DIC").Append(RawBytes(144))), "");
+        EXPECT_EQ(Differences(&colorTables.text.rgbProfiles, ListRecord("Text_PAL", 133, L"PAL").Append(RawBytes(144))),
                   "");
-        EXPECT_EQ(
-            Differences(&colorTables.graphics.destinations, ListRecord("Graph_DestAuto", 0, L"Printer")), "");
+        EXPECT_EQ(Differences(&colorTables.graphics.destinations, ListRecord("Graph_DestAuto", 0, L"Printer")), "");
         EXPECT_EQ(Differences(propertyTexts[12].display, RawBytes(96).Wide(0, L"Yes")), "");
         EXPECT_EQ(Differences(colorDialogTexts[2].display, RawBytes(96).Wide(0, L"Letters")), "");
         EXPECT_EQ(Differences(trayDialogTexts[3].display, RawBytes(96).Wide(0, L"Format")), "");
@@ -162,8 +157,7 @@ TEST_F(StartUpTest, AttachSucceedsWithoutMemory) {
             EXPECT_TRUE(built || mediaTypeLists == nullptr);
             if (built && howMany == 1) {
                 withoutLists += mediaTypeLists == nullptr ? 1 : 0;
-                withoutDestination +=
-                    Differences(&colorTables.graphics.destinations, destination).empty() ? 0 : 1;
+                withoutDestination += Differences(&colorTables.graphics.destinations, destination).empty() ? 0 : 1;
                 EXPECT_EQ(Differences(propertyTexts[12].display, RawBytes(96).Wide(0, L"Yes")), "");
             }
             Detach();

@@ -39,8 +39,8 @@ std::vector<Item> Items(const std::string& text) {
 RawBytes TableOf(const std::vector<Item>& items, size_t capacity) {
     RawBytes table(0);
     for (size_t i = 0; i < items.size() && i < capacity; ++i)
-        table.Append(ListRecord(items[i].key.substr(0, 31), items[i].value,
-                                Widened(items[i].display.substr(0, 47)).data()));
+        table.Append(
+            ListRecord(items[i].key.substr(0, 31), items[i].value, Widened(items[i].display.substr(0, 47)).data()));
     table.bytes.resize(144 * (capacity + 1));
     return table;
 }
@@ -55,8 +55,7 @@ struct Table {
 
 std::vector<Table> Tables() {
     const auto& [text, image, graphics] = std::tie(colorTables.text, colorTables.image, colorTables.graphics);
-    const std::string textProfiles =
-        "Text_sRGB=1:S;text_BLUEADJUST=141:B;Img_PAL=0;Text_PALs=0:P;Text_PAL=133";
+    const std::string textProfiles = "Text_sRGB=1:S;text_BLUEADJUST=141:B;Img_PAL=0;Text_PALs=0:P;Text_PAL=133";
     const std::string imageProfiles =
         With("Img_", "PAL=133:P;" + kProfiles.substr(kProfiles.find("sRGB=")) + ";DeviceRGB=0;Beyond=0");
     return {
@@ -115,8 +114,7 @@ TEST_F(ColorTablesTest, FilledFromTheFile) {
     FillFrom(image);
     for (const Table& c : Tables()) {
         const RawBytes filled = TableOf(Items(c.fromFile), c.capacity);
-        EXPECT_EQ(Differences(c.table, c.fromFile.empty() ? Before(*this, c) : filled), "")
-            << c.entry << c.capacity;
+        EXPECT_EQ(Differences(c.table, c.fromFile.empty() ? Before(*this, c) : filled), "") << c.entry << c.capacity;
     }
 }
 
@@ -156,8 +154,8 @@ TEST_F(ColorTablesTest, DestinationLists) {
     };
     for (const auto& c : cases) {
         kept.Restore();
-        for (auto* table : {&colorTables.text.destinations, &colorTables.image.destinations,
-                            &colorTables.graphics.destinations}) {
+        for (auto* table :
+             {&colorTables.text.destinations, &colorTables.image.destinations, &colorTables.graphics.destinations}) {
             table->items[0].head.value = 5; // as if another number and a name were compiled in
             CopyText(table->items[0].display, L"Old");
         }
@@ -184,8 +182,8 @@ TEST_F(ColorTablesTest, DestinationLists) {
 TEST_F(ColorTablesTest, ControlTextsFromTheFile) {
     PrmImage image;
     std::vector<PrmItemDescriptor> items;
-    for (const char* item : {"b=1:In another case", "C=1:Long", "A=1:First", "A=1:Later",
-                             "Empty=1:", "A2=1:Longer key", "Missing=1:X", "B=1:Beyond the count"}) {
+    for (const char* item : {"b=1:In another case", "C=1:Long", "A=1:First", "A=1:Later", "Empty=1:", "A2=1:Longer key",
+                             "Missing=1:X", "B=1:Beyond the count"}) {
         const Item parts = Items(item)[0];
         items.push_back(image.Plain(parts.key, Widened(parts.display).data()));
     }
@@ -195,9 +193,8 @@ TEST_F(ColorTablesTest, ControlTextsFromTheFile) {
     --info.itemCount;
     info.itemOffsets = 0xFFFFFFFF; // the chain leads to the items, not the array
 
-    const ControlTextRecord rows[] = {{{1}, L"", "A"},         {{2}, L"", "B"}, {{3}, L"Was", "Empty"},
-                                      {{4}, L"second A", "A"}, {{5}, L"", "C"}, {{6}, L"", ""},
-                                      {{7}, L"", "Missing"}};
+    const ControlTextRecord rows[] = {{{1}, L"", "A"}, {{2}, L"", "B"}, {{3}, L"Was", "Empty"}, {{4}, L"second A", "A"},
+                                      {{5}, L"", "C"}, {{6}, L"", ""},  {{7}, L"", "Missing"}};
     ControlTextRecord table[std::size(rows)];
     memcpy(table, rows, sizeof(rows));
     OpenedImage file(image);

@@ -72,9 +72,7 @@ struct DefaultsTest : ParameterDataTest {
         FreeDeviceTable(table);
     }
     // Builds from the image over filler; returns the differences from filler with these fields written.
-    std::string Compare(const PrmImage& image, const Writes& writes) {
-        return Compare(image, Write(Filled(), writes));
-    }
+    std::string Compare(const PrmImage& image, const Writes& writes) { return Compare(image, Write(Filled(), writes)); }
     std::string Compare(const PrmImage& image, const RawBytes& expected) {
         kept.Restore();
         memset(&defaultSettings, kFiller, sizeof(defaultSettings));
@@ -362,12 +360,11 @@ TEST_F(DefaultsTest, Resolutions) {
 TEST_F(DefaultsTest, BindingEdgeAndCoverPrint) {
     for (const bool fourEdges : {false, true}) {
         PrmImage image;
-        image.Table("FeatureSetting",
-                    fourEdges ? "BindingEdge=4Bind;FCoverPrint=Driver" : "BCoverPrint=Driver");
+        image.Table("FeatureSetting", fourEdges ? "BindingEdge=4Bind;FCoverPrint=Driver" : "BCoverPrint=Driver");
         const unsigned cover = fourEdges ? 1 : 4;
         for (unsigned before = 0; before < 20; ++before) {
-            const unsigned edge = fourEdges ? (before == 10 || before == 11 ? before : 10)
-                                            : (before >= 14 && before <= 17 ? before : 14);
+            const unsigned edge =
+                fourEdges ? (before == 10 || before == 11 ? before : 10) : (before >= 14 && before <= 17 ? before : 14);
             kept.Restore();
             reinterpret_cast<uint8_t*>(&defaultSettings)[1395] = static_cast<uint8_t>(before);
             Build(image);
@@ -398,9 +395,8 @@ TEST_F(DefaultsTest, EachTrayTakesTheDefaultPaper) {
         image.Items<PrmMediaItem>("ALL_InTray", {image.Media("InTrayAuto", L"", number(c.automatic), 1, "")});
         RawBytes expected = Write(CompiledIn(), kDerived);
         expected.U16(122, 0x1234).U16(160, 0x1234).U16(162, 0x2345).U16(164, 0x3456).U8(166, 0x78);
-        for (const auto& [entry, value] :
-             {std::pair("MediaType", 0x1234u), std::pair("MediaWeight", 0x2345u),
-              std::pair("MediaColor", 0x3456u), std::pair("MediaPrePunched", 0x78u)})
+        for (const auto& [entry, value] : {std::pair("MediaType", 0x1234u), std::pair("MediaWeight", 0x2345u),
+                                           std::pair("MediaColor", 0x3456u), std::pair("MediaPrePunched", 0x78u)})
             image.Entry(entry, {}, 0, image.Put(RawBytes(156).U32(12, value)));
         kept.Restore();
         size_t at = 167;

@@ -92,8 +92,7 @@ TEST_F(DeviceTableTest, RangesAndCountry) {
 TEST_F(DeviceTableTest, MachineInformation) {
     PrmImage image;
     const std::string v16(16, 'v'), v15(15, 'v'); // without terminator in the file, and what is kept of it
-    const uint32_t details =
-        image.Put(RawBytes(64).Text(0, "lumora R880").Text(16, v16).Text(32, v16).Text(48, "2"));
+    const uint32_t details = image.Put(RawBytes(64).Text(0, "lumora R880").Text(16, v16).Text(32, v16).Text(48, "2"));
     const uint32_t first = image.Put(RawBytes(24).Text(0, "0123456789ABCDEF").U32(16, 2).U32(20, details));
     const uint32_t second = image.Put(RawBytes(24).Text(0, "B").U32(16, 0).U32(20, details));
     image.Entry("MachineInfo", {first, second});

@@ -16,8 +16,7 @@ PrmImage MixedImage() {
     image.Range("Copies", 1, 999, 1);
     const PrmItemHead head = image.Head("UserPaper", L"Custom");
     image.Entry("PaperSize", {image.Put(RawBytes(620).U32(0, head.key).U32(8, head.display))});
-    image.Items<PrmItemDescriptor>("FCoverTray",
-                                   {image.Plain("FCover_Tray1", L"First"), image.Plain("Other")});
+    image.Items<PrmItemDescriptor>("FCoverTray", {image.Plain("FCover_Tray1", L"First"), image.Plain("Other")});
     image.StringValue("Default", "A4");
     return image;
 }
@@ -27,8 +26,7 @@ std::string Transcript(const PrmFile& file, uint32_t size) {
     std::ostringstream said;
     char value[128];
     for (const char* name : {"First", "copies", "PaperSize", "Default", "Missing"})
-        said << PrmFindEntry(file, name) << PrmReadStringValue(file, name, value, sizeof(value)) << value
-             << '\n';
+        said << PrmFindEntry(file, name) << PrmReadStringValue(file, name, value, sizeof(value)) << value << '\n';
     for (uint32_t offset = 0; offset < size + 100; offset += 7) {
         PrmPaper record = {};
         uint32_t dword = 0, delivered = 0, range[3] = {};
@@ -36,9 +34,8 @@ std::string Transcript(const PrmFile& file, uint32_t size) {
         PrmWideText wide = {};
         said << PrmReadRecord(file, offset, record) << PrmReadRecord(file, offset, dword)
              << PrmReadString(file, offset, text) << PrmReadWideString(file, offset, wide)
-             << PrmReadRange(file, offset, range) << PrmRead(file, &record, 50, offset, delivered)
-             << delivered << dword << text << range[0]
-             << std::string(reinterpret_cast<char*>(&record), sizeof(record)) << '\n';
+             << PrmReadRange(file, offset, range) << PrmRead(file, &record, 50, offset, delivered) << delivered << dword
+             << text << range[0] << std::string(reinterpret_cast<char*>(&record), sizeof(record)) << '\n';
     }
     return said.str();
 }

@@ -14,8 +14,7 @@ constexpr wchar_t kCut48[] = L"\u00C4123456789_123456789_123456789_123456789_123
 static_assert(sizeof(kCut32) == 64 && sizeof(kCut48) == 96);
 
 // Compares the list at a position of the table, its terminating record included.
-void ExpectList(const BuiltTable& built, size_t position, RawBytes expected, size_t recordSize,
-                bool sizedEnd) {
+void ExpectList(const BuiltTable& built, size_t position, RawBytes expected, size_t recordSize, bool sizedEnd) {
     expected.Append(RawBytes(recordSize).U32(0, sizedEnd ? static_cast<uint32_t>(recordSize) : 0));
     EXPECT_EQ(Differences(built.List(position), expected), "") << "list at " << position;
 }
@@ -142,8 +141,7 @@ RawBytes ListPaper(const char* key, unsigned present) {
     const size_t flags[] = {568, 644, 808, 812, 816}, sets[] = {572, 648, 656, 672, 792},
                  sizes[] = {72, 8, 16, 120, 16};
     for (unsigned i = 0; i < 5; ++i)
-        record.U32(flags[i], Flag(present, i + 1))
-            .U8(sets[i], Flag(present, i + 1) * 0x11 * (i + 1), sizes[i]);
+        record.U32(flags[i], Flag(present, i + 1)).U8(sets[i], Flag(present, i + 1) * 0x11 * (i + 1), sizes[i]);
     record.U32(820, 101).U32(824, 102).U32(828, 1).Text(832, std::string(31, 's'));
     return record.U32(864, 103).U32(868, 104).U32(872, 105).Text(876, kCutText);
 }
@@ -181,8 +179,7 @@ TEST_F(ItemListsTest, UserPaperAlsoFillsTheDeviceTable) {
         const BuiltTable built(image);
         RawBytes expected(168); // positions 398 to 566
         if (c.found) {
-            expected.U32(0, 2100).U32(4, 2160).U32(8, 2970).U32(12, 3030).U8(16, Flag(c.present, 3) * 0x33,
-                                                                             16);
+            expected.U32(0, 2100).U32(4, 2160).U32(8, 2970).U32(12, 3030).U8(16, Flag(c.present, 3) * 0x33, 16);
             expected.U8(32, Flag(c.present, 4) * 0x44, 120).U8(152, Flag(c.present, 5) * 0x55, 16);
         }
         EXPECT_EQ(Differences(reinterpret_cast<uint8_t*>(built.table) + 398, expected), "") << c.key;

@@ -203,8 +203,7 @@ TEST(Reader, StringValues) {
     OpenedImage file(image);
     for (const auto& c : cases) {
         std::string to(c.capacity + 1, '#'), expected = c.value;
-        EXPECT_EQ(PrmReadStringValue(*file, c.name, to.data(), c.capacity), c.success)
-            << c.name << c.capacity;
+        EXPECT_EQ(PrmReadStringValue(*file, c.name, to.data(), c.capacity), c.success) << c.name << c.capacity;
         expected.resize(c.capacity);
         EXPECT_EQ(to, expected + '#') << c.name << c.capacity;
     }

@@ -88,9 +88,9 @@ TEST_F(TraysTest, SelectionListsUseUpdatedBinNumbers) {
 
     PrmImage image;
     image.Items<PrmItemDescriptor>("FCoverTray", {image.Plain("FCover_Tray3")});
-    image.Items<PrmMediaItem>("ALL_InTray", {Tray(image, "intray3", 0x10000 + 300, 0),
-                                             Tray(image, "InTray", 1), Tray(image, "InTray33", 2),
-                                             Tray(image, "", 3), Tray(image, "InTrayLCT", 0xFFFF)});
+    image.Items<PrmMediaItem>("ALL_InTray",
+                              {Tray(image, "intray3", 0x10000 + 300, 0), Tray(image, "InTray", 1),
+                               Tray(image, "InTray33", 2), Tray(image, "", 3), Tray(image, "InTrayLCT", 0xFFFF)});
     BuiltTable built(image);
     EXPECT_EQ(Differences(inputSlots, expected), "");
     ASSERT_NE(built.List(722), nullptr);

@@ -21,8 +21,7 @@ std::string WriteBitmap(const std::string& name, const Picture& picture) {
         file.U32(54 + 4 * i, picture.pixels[i]);
     const auto path = ProductFolder() / name;
     std::ofstream(path, std::ios::binary)
-        .write(reinterpret_cast<const char*>(file.bytes.data()),
-               static_cast<std::streamsize>(file.bytes.size()));
+        .write(reinterpret_cast<const char*>(file.bytes.data()), static_cast<std::streamsize>(file.bytes.size()));
     return path.string();
 }
 
@@ -111,11 +110,10 @@ testing::AssertionResult SamePicture(const Canvas& got, const Canvas& wanted) {
     if (at == a.pixels.end())
         return testing::AssertionSuccess();
     std::ostringstream text;
-    text << "differs first at (" << (at - a.pixels.begin()) % a.width << ", "
-         << (at - a.pixels.begin()) / a.width << "): got " << std::hex << *at << ", wanted " << *other;
+    text << "differs first at (" << (at - a.pixels.begin()) % a.width << ", " << (at - a.pixels.begin()) / a.width
+         << "): got " << std::hex << *at << ", wanted " << *other;
     if (const std::string name = NameOfPair(); !name.empty())
-        text << "; see " << WriteBitmap(name + "_got.bmp", a) << " and "
-             << WriteBitmap(name + "_wanted.bmp", b);
+        text << "; see " << WriteBitmap(name + "_got.bmp", a) << " and " << WriteBitmap(name + "_wanted.bmp", b);
     return testing::AssertionFailure() << text.str();
 }
 

@@ -37,16 +37,14 @@ HFONT WINAPI MakeFont(const LOGFONTW* description) {
     return Fails("CreateFontIndirectW", OBJ_FONT) ? nullptr : NoteMade(CreateFontIndirectW(description));
 }
 
-HANDLE WINAPI LoadBitmapImage(HINSTANCE module, const wchar_t* name, UINT type, int width, int height,
-                              UINT flags) {
+HANDLE WINAPI LoadBitmapImage(HINSTANCE module, const wchar_t* name, UINT type, int width, int height, UINT flags) {
     const UINT id = static_cast<UINT>(reinterpret_cast<uintptr_t>(name));
     recording->ids.push_back(id);
     if (Fails("LoadImageW"))
         return nullptr;
     const auto served = recording->served.find(id);
-    return NoteMade(served != recording->served.end()
-                        ? CopyImage(served->second, type, 0, 0, LR_CREATEDIBSECTION)
-                        : LoadImageW(module, name, type, width, height, flags));
+    return NoteMade(served != recording->served.end() ? CopyImage(served->second, type, 0, 0, LR_CREATEDIBSECTION)
+                                                      : LoadImageW(module, name, type, width, height, flags));
 }
 
 int WINAPI ReadObject(HANDLE object, int size, void* description) {
@@ -84,8 +82,7 @@ BOOL WINAPI DeleteContext(HDC context) {
     return DeleteDC(context);
 }
 
-BOOL WINAPI Copy(HDC to, int x, int y, int width, int height, HDC from, int fromX, int fromY,
-                 DWORD operation) {
+BOOL WINAPI Copy(HDC to, int x, int y, int width, int height, HDC from, int fromX, int fromY, DWORD operation) {
     ++recording->copies[to];
     return BitBlt(to, x, y, width, height, from, fromX, fromY, operation);
 }
@@ -97,8 +94,7 @@ int WINAPI ReadCapability(HDC context, int index) {
 // The slot of the module's import table with this function; null when the module does not import it.
 void** ImportSlot(HMODULE module, void* function) {
     char* const base = reinterpret_cast<char*>(module);
-    const auto* head =
-        reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
+    const auto* head = reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
     const auto& place = head->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
     auto* library = reinterpret_cast<IMAGE_IMPORT_DESCRIPTOR*>(base + place.VirtualAddress);
     for (; library->FirstThunk != 0; ++library)

@@ -30,9 +30,7 @@ inline std::ostream& operator<<(std::ostream& out, const LiveObjects& objects) {
 
 inline LiveObjects CountLiveObjects() {
     int windows = 0;
-    const WNDENUMPROC countOne = [](HWND, LPARAM sum) -> BOOL {
-        return ++*reinterpret_cast<int*>(sum), TRUE;
-    };
+    const WNDENUMPROC countOne = [](HWND, LPARAM sum) -> BOOL { return ++*reinterpret_cast<int*>(sum), TRUE; };
     EnumThreadWindows(GetCurrentThreadId(), countOne, reinterpret_cast<LPARAM>(&windows));
     return {windows, CountFreeObjects()};
 }

@@ -23,11 +23,10 @@ struct RegistryKey {
         return Set(name, REG_SZ, text.c_str(), size, below);
     }
 
-    RegistryKey& Set(const wchar_t* name, DWORD type, const void* data, DWORD size,
-                     const std::wstring& below = L"") {
+    RegistryKey& Set(const wchar_t* name, DWORD type, const void* data, DWORD size, const std::wstring& below = L"") {
         HKEY key = nullptr;
-        EXPECT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, (path + below).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
-                                  nullptr, &key, nullptr),
+        EXPECT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, (path + below).c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr,
+                                  &key, nullptr),
                   ERROR_SUCCESS);
         EXPECT_EQ(RegSetValueExW(key, name, 0, type, static_cast<const BYTE*>(data), size), ERROR_SUCCESS);
         RegCloseKey(key);
@@ -39,8 +38,7 @@ struct RegistryKey {
 
 // A print queue on a port, with wine's own print processor.
 struct Queue : RegistryKey {
-    Queue(const wchar_t* name, const wchar_t* port)
-        : RegistryKey(kPrintKey + (L"Printers\\" + std::wstring(name))) {
+    Queue(const wchar_t* name, const wchar_t* port) : RegistryKey(kPrintKey + (L"Printers\\" + std::wstring(name))) {
         const DWORD attributes = 0;
         Text(L"Name", name).Text(L"Port", port).Text(L"Printer Driver", L"none");
         Text(L"Print Processor", L"wineps").Text(L"Datatype", L"RAW");

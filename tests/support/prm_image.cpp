@@ -51,8 +51,8 @@ PrmMediaItem PrmImage::Media(const std::string& key, const wchar_t* display, uin
     return item;
 }
 
-uint32_t PrmImage::Entry(const std::string& name, const std::vector<uint32_t>& itemOffsets,
-                         uint32_t firstItem, uint32_t defaultRecord) {
+uint32_t PrmImage::Entry(const std::string& name, const std::vector<uint32_t>& itemOffsets, uint32_t firstItem,
+                         uint32_t defaultRecord) {
     const auto count = static_cast<uint32_t>(itemOffsets.size());
     const uint32_t offsets = count == 0 ? 0 : Put(itemOffsets.data(), count * sizeof(uint32_t));
     const uint32_t entry = Put(RawBytes(52).Text(0, name).U32(32, firstItem));
@@ -89,8 +89,7 @@ uint32_t PrmImage::StringValue(const std::string& name, const std::string& value
 // Test programs may run at the same time, and one test may use several files.
 TemporaryFile::TemporaryFile(const std::vector<uint8_t>& bytes) {
     static unsigned number = 0;
-    path =
-        testing::TempDir() + "lumora_" + std::to_string(getpid()) + "_" + std::to_string(++number) + ".prm";
+    path = testing::TempDir() + "lumora_" + std::to_string(getpid()) + "_" + std::to_string(++number) + ".prm";
     widePath = Widened(path);
     std::ofstream file(path, std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));

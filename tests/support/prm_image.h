@@ -24,24 +24,19 @@ struct PrmImage {
     uint32_t Put(const RawBytes& record) { return Put(record.bytes.data(), record.bytes.size()); }
     uint32_t Text(const std::string& text); // texts are filled up to a multiple of 4 bytes
     uint32_t Wide(const wchar_t* text);
-    uint32_t Entry(const std::string& name, const std::vector<uint32_t>& itemOffsets = {},
-                   uint32_t firstItem = 0, uint32_t defaultRecord = 0);
+    uint32_t Entry(const std::string& name, const std::vector<uint32_t>& itemOffsets = {}, uint32_t firstItem = 0,
+                   uint32_t defaultRecord = 0);
     // A name/value table from rows "Name=value", separated by semicolons.
     uint32_t Table(const std::string& name, const std::string& rows);
     uint32_t Range(const std::string& name, uint32_t at36, uint32_t at40, uint32_t at44);
     uint32_t StringValue(const std::string& name, const std::string& value);
 
     // The first fields of an item, and their texts.
-    PrmItemHead Head(const std::string& key, const wchar_t* display = L"") {
-        return {Text(key), 0, Wide(display)};
-    }
+    PrmItemHead Head(const std::string& key, const wchar_t* display = L"") { return {Text(key), 0, Wide(display)}; }
 
     // Items of the most common kinds.
-    PrmItemDescriptor Plain(const std::string& key, const wchar_t* display = L"") {
-        return {Head(key, display), 0};
-    }
-    PrmTextItem WithText(const std::string& key, const wchar_t* display, uint32_t value,
-                         const std::string& text);
+    PrmItemDescriptor Plain(const std::string& key, const wchar_t* display = L"") { return {Head(key, display), 0}; }
+    PrmTextItem WithText(const std::string& key, const wchar_t* display, uint32_t value, const std::string& text);
     PrmMediaItem Media(const std::string& key, const wchar_t* display, uint32_t value, uint32_t extra,
                        const std::string& text);
 
@@ -111,8 +106,7 @@ struct ParameterDataTest : testing::Test {
 };
 
 // The start of every list record, by default of the most common size.
-inline RawBytes ListRecord(const std::string& key, uint32_t value, const wchar_t* display,
-                           size_t size = 144) {
+inline RawBytes ListRecord(const std::string& key, uint32_t value, const wchar_t* display, size_t size = 144) {
     const RawBytes record = RawBytes(size).U32(0, static_cast<uint32_t>(size)).Text(4, key).U32(36, value);
     return RawBytes(record).U16(44, 32515).Wide(48, display);
 }

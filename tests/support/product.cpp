@@ -24,8 +24,7 @@ fs::path LoadedPath(const wchar_t* name) {
     return module != nullptr ? PathOf(module) : fs::path();
 }
 
-LoadedModule::LoadedModule(const fs::path& folder)
-    : handle(LoadLibraryW((folder / L"TELMAR_D.DLL").c_str())) {
+LoadedModule::LoadedModule(const fs::path& folder) : handle(LoadLibraryW((folder / L"TELMAR_D.DLL").c_str())) {
     EXPECT_NE(handle, nullptr) << "last error " << GetLastError();
 }
 

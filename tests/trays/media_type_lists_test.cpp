@@ -69,8 +69,7 @@ TEST_F(MediaTypeListsTest, ListHasRecordsThenTexts) {
             MediaTypeLists* built = BuildMediaTypeLists(OpenedImage(image).file, AsTable(table));
             ASSERT_NE(built, nullptr);
             for (size_t i = 0; i < std::size(kLists); ++i)
-                EXPECT_EQ(Differences(built->lists[i], expected[i]), "")
-                    << kLists[i].entry << records << texts;
+                EXPECT_EQ(Differences(built->lists[i], expected[i]), "") << kLists[i].entry << records << texts;
             FreeMediaTypeLists(built);
         }
 }
@@ -100,9 +99,7 @@ TEST_F(MediaTypeListsTest, MissingTextLeavesNoGap) {
 TEST_F(MediaTypeListsTest, ItemTexts) {
     const std::string key127(127, 'k'), key128(128, 'k');
     PrmImage image;
-    const auto text = [&](const std::string& key, const wchar_t* display) {
-        return image.Plain(key, display);
-    };
+    const auto text = [&](const std::string& key, const wchar_t* display) { return image.Plain(key, display); };
     const uint32_t entry = image.Items<PrmItemDescriptor>(
         "List", {text("Keys", L"longer"), text("Key", L"Text"), text("KEY", L"later"), text("Empty", L""),
                  text("Empty", L"later"), text(key127, L"127"), text(key128, L"128"), text("Beyond", L"x")});
@@ -114,20 +111,18 @@ TEST_F(MediaTypeListsTest, ItemTexts) {
         size_t capacity;
         const wchar_t* text; // null: there is none
     } cases[] = {
-        {"List", "Key", 8, L"Text"},         {"LIST", "kEY", 8, L"Text"},
-        {"List", "Key", 5, L"Text"},         {"List", "Key", 4, L"Tex"},
-        {"List", "Key", 1, nullptr},         {"List", "Ke", 8, nullptr},
-        {"List", "Empty", 8, nullptr},       {"List", "Beyond", 8, nullptr},
-        {"NoItems", "Key", 8, nullptr},      {"Missing", "Key", 8, nullptr},
-        {nullptr, "Key", 8, nullptr},        {"List", nullptr, 8, nullptr},
+        {"List", "Key", 8, L"Text"},         {"LIST", "kEY", 8, L"Text"},          {"List", "Key", 5, L"Text"},
+        {"List", "Key", 4, L"Tex"},          {"List", "Key", 1, nullptr},          {"List", "Ke", 8, nullptr},
+        {"List", "Empty", 8, nullptr},       {"List", "Beyond", 8, nullptr},       {"NoItems", "Key", 8, nullptr},
+        {"Missing", "Key", 8, nullptr},      {nullptr, "Key", 8, nullptr},         {"List", nullptr, 8, nullptr},
         {"List", key127.c_str(), 8, L"127"}, {"List", key128.c_str(), 8, nullptr},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(&c - cases);
         RawBytes got = RawBytes(18).U8(0, 0x5A, 18), expected = got;
-        EXPECT_EQ(PrmGetItemText(*opened.file, c.entry, c.key, reinterpret_cast<wchar_t*>(got.bytes.data()),
-                                 c.capacity),
-                  c.text != nullptr);
+        EXPECT_EQ(
+            PrmGetItemText(*opened.file, c.entry, c.key, reinterpret_cast<wchar_t*>(got.bytes.data()), c.capacity),
+            c.text != nullptr);
         if (c.entry != nullptr && c.key != nullptr) // the whole buffer is cleared, nothing beyond it
             expected.U8(0, 0, 2 * c.capacity).Wide(0, c.text != nullptr ? c.text : L"");
         EXPECT_EQ(Differences(got.bytes.data(), expected), "");

@@ -71,10 +71,9 @@ TEST_P(TrayDialogs, OpenInOrderWithTheFirstTray) {
     wanted.U16(36, 8);
     PressButton();
     const std::string done = Events(kNoted);
-    EXPECT_EQ(
-        done.find("ReplaceDlgDispStringCmnItem Printer view 155\nReplaceDlgDispString Paper Source Settings\n"
-                  "CreateToolWnd\nStoreStopIconRect\nDoConstraints 0\nDispHintControl 155\n"),
-        0u)
+    EXPECT_EQ(done.find("ReplaceDlgDispStringCmnItem Printer view 155\nReplaceDlgDispString Paper Source Settings\n"
+                        "CreateToolWnd\nStoreStopIconRect\nDoConstraints 0\nDispHintControl 155\n"),
+              0u)
         << done;
     EXPECT_NE(done.find(InOrder("fill") + InOrder("show")), std::string::npos) << done;
     EXPECT_EQ(done.find("disable"), std::string::npos);
@@ -96,8 +95,7 @@ TEST_P(TrayDialogs, ChangesAreKeptOrRefused) {
         for (const int i : GetParam().attributes)
             for (const int answer : {100, 101, 99, 102, 0x10064, 0}) {
                 const Attribute& attribute = kAttributes[i];
-                SCOPED_TRACE(testing::Message()
-                             << attribute.box << " in row " << row << ", answer " << answer);
+                SCOPED_TRACE(testing::Message() << attribute.box << " in row " << row << ", answer " << answer);
                 Select(row);
                 const RawBytes before = records;
                 RawBytes chosen = before;
@@ -183,8 +181,7 @@ TEST_P(TrayDialogs, AnswerTheirOwnMessagesOnly) {
 
     MEASUREITEMSTRUCT item = {};
     for (const Attribute& attribute : kAttributes) // every kind measures the boxes of all
-        EXPECT_EQ(Deliver(WM_COMMAND, Chosen(static_cast<WPARAM>(attribute.box))),
-                  Has(&attribute - kAttributes));
+        EXPECT_EQ(Deliver(WM_COMMAND, Chosen(static_cast<WPARAM>(attribute.box))), Has(&attribute - kAttributes));
     for (const int control : {1860, 1862, 1003, 1086, 1091, 1094, kList, 1845}) {
         item.CtlID = static_cast<UINT>(control);
         item.itemHeight = 3;
@@ -230,8 +227,7 @@ TEST(TrayList, ColumnsFollowTheModel) {
             dialog.List(LVM_GETCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
             EXPECT_EQ(title, titles[row.columns[i]]);
             EXPECT_EQ(column.fmt & LVCFMT_JUSTIFYMASK, LVCFMT_LEFT);
-            const auto text =
-                static_cast<int>(dialog.List(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title)));
+            const auto text = static_cast<int>(dialog.List(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title)));
             const bool isRest = row.takesRest && i + 1 == row.columns.size();
             EXPECT_EQ(column.cx, isRest ? client.right - left : text + 2 * margin + 20) << i;
             left += column.cx;
@@ -245,8 +241,7 @@ TEST(TrayDialog, HidesWhatTheModelLacks) {
     for (const Attribute& attribute : kAttributes)
         for (const int control : {attribute.box, attribute.label}) {
             const bool isShown = &attribute - kAttributes < 3;
-            EXPECT_EQ((GetWindowLongW(dialog.Control(control), GWL_STYLE) & WS_VISIBLE) != 0, isShown)
-                << control;
+            EXPECT_EQ((GetWindowLongW(dialog.Control(control), GWL_STYLE) & WS_VISIBLE) != 0, isShown) << control;
             EXPECT_EQ(IsWindowEnabled(dialog.Control(control)) != FALSE, isShown) << control;
         }
     // The automatic source is found by its bin number. Of two sizes with one value cells show the last name.
@@ -271,14 +266,12 @@ TEST(TrayDialog, ValuesWithoutAnEntryShowNothing) {
     const RawBytes before = dialog.records;
     dialog.Choose(kAttributes[1], -1); // stores nothing but does the rest
     dialog.ExpectRecords(before);
-    EXPECT_EQ(dialog.Events({"DoConstraints", "DispHintControl"}),
-              "DoConstraints 1862\nDispHintControl 156\n");
+    EXPECT_EQ(dialog.Events({"DoConstraints", "DispHintControl"}), "DoConstraints 1862\nDispHintControl 156\n");
 }
 
 TEST(TrayDialog, WorksWithoutCallbacksAndRecords) {
     Trays dialog;
-    dialog.missing = {"GetImgResInst", "CreateToolWnd", "StoreStopIconRect", "DoConstraints",
-                      "DispHintControl"};
+    dialog.missing = {"GetImgResInst", "CreateToolWnd", "StoreStopIconRect", "DoConstraints", "DispHintControl"};
     dialog.PressButton();
     EXPECT_EQ(dialog.List(LVM_GETIMAGELIST, LVSIL_SMALL), 0);
     dialog.Choose(kAttributes[0], 0);

@@ -38,8 +38,8 @@ struct RowDrawing : testing::Test, Trays, Pictures {
             WantFill({left, bounds.top, left + widths[i], bounds.bottom}, background);
             const int indent = i == 2 ? 16 : 0;
             if (i == 2)
-                ImageList_Draw(reinterpret_cast<HIMAGELIST>(List(LVM_GETIMAGELIST, LVSIL_SMALL)), icon,
-                               wanted.dc, left, bounds.top, ILD_TRANSPARENT);
+                ImageList_Draw(reinterpret_cast<HIMAGELIST>(List(LVM_GETIMAGELIST, LVSIL_SMALL)), icon, wanted.dc, left,
+                               bounds.top, ILD_TRANSPARENT);
             const RECT cell = {left + indent, bounds.top, left + indent + widths[i], bounds.bottom};
             const std::wstring text = Cell(row, i);
             ExtTextOutW(wanted.dc, cell.left + LOWORD(GetDialogBaseUnits()) / 4,
@@ -86,9 +86,8 @@ TEST_F(RowDrawing, UsesTheIconsOfTheUserInterfaceModule) {
     ImageList_GetImageInfo(images, 0, &info);
     EXPECT_NE(info.hbmMask, nullptr);
     for (const int icon : {0, 1}) {
-        HICON file =
-            static_cast<HICON>(LoadImageW(GetModuleHandleW(L"TELMAR_U.DLL"), MAKEINTRESOURCEW(473 + icon),
-                                          IMAGE_ICON, 16, 16, LR_DEFAULTCOLOR));
+        HICON file = static_cast<HICON>(LoadImageW(GetModuleHandleW(L"TELMAR_U.DLL"), MAKEINTRESOURCEW(473 + icon),
+                                                   IMAGE_ICON, 16, 16, LR_DEFAULTCOLOR));
         Clear();
         ImageList_Draw(images, icon, got.dc, 5, 6, ILD_TRANSPARENT);
         DrawIconEx(wanted.dc, 5, 6, file, 16, 16, 0, nullptr, DI_NORMAL);

@@ -130,9 +130,7 @@ struct Trays : DialogDriver {
             selections.push_back(Shown(kAttributes[i].box));
         return selections;
     }
-    void ExpectRecords(const RawBytes& wanted) const {
-        EXPECT_EQ(Differences(records.bytes.data(), wanted), "");
-    }
+    void ExpectRecords(const RawBytes& wanted) const { EXPECT_EQ(Differences(records.bytes.data(), wanted), ""); }
 
     HWND sheet;
     RawBytes records = TrayRecords();

@@ -16,8 +16,8 @@ BOOL WINAPI OpenTransceiver(LPCWSTR port, ACCESS_MASK /*granted*/, PHANDLE handl
     return TRUE;
 }
 
-DWORD WINAPI Answer(HANDLE handle, LPCWSTR command, PBYTE /*input*/, DWORD /*inputSize*/, PBYTE output,
-                    DWORD capacity, PDWORD needed) {
+DWORD WINAPI Answer(HANDLE handle, LPCWSTR command, PBYTE /*input*/, DWORD /*inputSize*/, PBYTE output, DWORD capacity,
+                    PDWORD needed) {
     const auto* port = static_cast<const wchar_t*>(handle);
     if (wcscmp(command, L"IPAddress") != 0 || wcsncmp(port, L"IP_", 3) != 0)
         return ERROR_INVALID_PARAMETER;

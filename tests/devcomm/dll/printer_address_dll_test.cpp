@@ -31,8 +31,7 @@ struct PrinterAddress : testing::Test {
 
     LoadedModule module;
     BOOL WINAPI (*get)(const wchar_t*, const void*, void*, DWORD, DWORD*) =
-        module.Export<BOOL WINAPI(const wchar_t*, const void*, void*, DWORD, DWORD*)>(
-            "DDProc_GetPrinterIPAddress");
+        module.Export<BOOL WINAPI(const wchar_t*, const void*, void*, DWORD, DWORD*)>("DDProc_GetPrinterIPAddress");
     DWORD needed = 0;
     DWORD lastError = 0;
 };

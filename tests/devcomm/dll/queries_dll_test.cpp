@@ -71,8 +71,7 @@ struct Query : testing::Test {
             memset(items[i].value, 'x', sizeof(items[i].value));
         }
         using Function = int WINAPI(const char*, DWORD, OptionItem*);
-        EXPECT_EQ(module.Export<Function>("MIB_OptionRequest")(agent, static_cast<DWORD>(items.size()),
-                                                               items.data()),
+        EXPECT_EQ(module.Export<Function>("MIB_OptionRequest")(agent, static_cast<DWORD>(items.size()), items.data()),
                   TRUE);
         std::vector<std::string> answers;
         for (const OptionItem& item : items)
@@ -88,14 +87,13 @@ struct Query : testing::Test {
             items[i].state = items[i].value = -1;
         }
         using Function = int WINAPI(const char*, DWORD, SupplyItem*);
-        EXPECT_EQ(module.Export<Function>("MIB_MrkSupRequest")(agent, static_cast<DWORD>(items.size()),
-                                                               items.data()),
+        EXPECT_EQ(module.Export<Function>("MIB_MrkSupRequest")(agent, static_cast<DWORD>(items.size()), items.data()),
                   TRUE);
         std::vector<std::string> answers;
         for (const SupplyItem& item : items) {
             char text[64];
-            snprintf(text, sizeof(text), "%d %d %06x", static_cast<int>(item.state),
-                     static_cast<int>(item.value), static_cast<unsigned>(item.color));
+            snprintf(text, sizeof(text), "%d %d %06x", static_cast<int>(item.state), static_cast<int>(item.value),
+                     static_cast<unsigned>(item.color));
             answers.emplace_back(text);
         }
         return answers;
@@ -109,9 +107,7 @@ struct Query : testing::Test {
         return module.Export<const List * WINAPI(const char*)>("MIB_ProfileRequest")(agent);
     }
 
-    void Free(const List* block) const {
-        module.Export<void WINAPI(const void*)>("MIB_FreeProfileInfo")(block);
-    }
+    void Free(const List* block) const { module.Export<void WINAPI(const void*)>("MIB_FreeProfileInfo")(block); }
 
     LoadedModule module;
 };
@@ -126,10 +122,10 @@ TEST_F(Query, AnAgentThatNobodyHereWrote) {
                      "DisOpOutTray2", ""}));
     // 333 of 1000; something of nothing; a level that is no number; a capacity that is negative as 32 bits;
     // nearly full
-    EXPECT_EQ(Supplies(kNetSnmp, {"Consumable2", "Consumable3", "Consumable4", "Consumable5", "consumable11",
-                                  "Consumable7", "Consumable1"}),
-              Words({"1 33 ffff00", "1 100 ff00ff", "0 0 000000", "1 100 000000", "2 3 000000", "3 0 000000",
-                     "0 0 000000"}));
+    EXPECT_EQ(
+        Supplies(kNetSnmp, {"Consumable2", "Consumable3", "Consumable4", "Consumable5", "consumable11", "Consumable7",
+                            "Consumable1"}),
+        Words({"1 33 ffff00", "1 100 ff00ff", "0 0 000000", "1 100 000000", "2 3 000000", "3 0 000000", "0 0 000000"}));
 
     const List* overlays = Overlays(kNetSnmp, 1);
     ASSERT_NE(overlays, nullptr);

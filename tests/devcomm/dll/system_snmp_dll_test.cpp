@@ -58,23 +58,20 @@ Function* EntryPoint(const wchar_t* library, const char* name) {
 TEST(SystemSnmp, QueriesGoThroughThemAlone) {
     const SystemFile mgmt(kMgmt, L"stub_mgmtapi.dll"), snmp(kSnmp, L"stub_snmpapi.dll");
     std::optional<LoadedModule> module(std::in_place);
-    ASSERT_NE(EntryPoint<int()>(kMgmt, "StubBlocks"), nullptr)
-        << "start it with WINEDLLOVERRIDES=mgmtapi,snmpapi=n";
+    ASSERT_NE(EntryPoint<int()>(kMgmt, "StubBlocks"), nullptr) << "start it with WINEDLLOVERRIDES=mgmtapi,snmpapi=n";
     EXPECT_TRUE(fs::equivalent(LoadedPath(kMgmt), mgmt.path));
     EXPECT_TRUE(fs::equivalent(LoadedPath(kSnmp), snmp.path));
     EXPECT_NE(module->Export<int WINAPI(const char*)>("MIB_IsAccessOK")("192.0.2.7"), 0);
-    EXPECT_STREQ(EntryPoint<const char*()>(kMgmt, "StubCalls")(),
-                 "SnmpMgrOpen 192.0.2.7 tovask 1000 1\n"
-                 "SnmpMgrStrToOid .1.3.6.1.2.1.1.2.0\n"
-                 "SnmpMgrRequest A0 1.3.6.1.2.1.1.2.0, value 05\n"
-                 "SnmpMgrClose\n");
+    EXPECT_STREQ(EntryPoint<const char*()>(kMgmt, "StubCalls")(), "SnmpMgrOpen 192.0.2.7 tovask 1000 1\n"
+                                                                  "SnmpMgrStrToOid .1.3.6.1.2.1.1.2.0\n"
+                                                                  "SnmpMgrRequest A0 1.3.6.1.2.1.1.2.0, value 05\n"
+                                                                  "SnmpMgrClose\n");
 
     struct {
         char key[32];
         char value[32];
     } item = {"OpMemory", "none"};
-    EXPECT_NE(
-        module->Export<int WINAPI(const char*, DWORD, void*)>("MIB_OptionRequest")("192.0.2.7", 1, &item), 0);
+    EXPECT_NE(module->Export<int WINAPI(const char*, DWORD, void*)>("MIB_OptionRequest")("192.0.2.7", 1, &item), 0);
     EXPECT_STREQ(item.value, "640MB");
     const std::string calls = EntryPoint<const char*()>(kMgmt, "StubCalls")();
     const std::string once = "SnmpMgrStrToOid .1.3.6.1.2.1.25.2.3.1.5.1\n"

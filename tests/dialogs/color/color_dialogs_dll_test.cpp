@@ -100,9 +100,8 @@ struct Driver : ColorDriver {
         wanted.U8(2165, fromImages).U8(2161, fromImages ? 1 : 3).U8(2163, gray).U8(2162, fromImages ? 2 : 1);
         if (Has(1504))
             wanted.U16(2518, fromImages ? 128 : dialog.listsProfiles ? 257 : 129);
-        return dialog.listsProfiles
-                   ? PutRecord(wanted, 2856, fromImages ? Profile(L"mark", L"", 0) : kScanner)
-                   : wanted;
+        return dialog.listsProfiles ? PutRecord(wanted, 2856, fromImages ? Profile(L"mark", L"", 0) : kScanner)
+                                    : wanted;
     }
 };
 
@@ -110,8 +109,7 @@ struct ColorDialogs : testing::TestWithParam<ColorDialogCase> {};
 struct FollowingGraphics : ColorDialogs {};
 const auto kNameOf = [](const auto& dialog) { return std::string(dialog.param.name); };
 INSTANTIATE_TEST_SUITE_P(, ColorDialogs, testing::ValuesIn(kColorDialogs), kNameOf);
-INSTANTIATE_TEST_SUITE_P(, FollowingGraphics, testing::ValuesIn(kColorDialogs + 1, std::end(kColorDialogs)),
-                         kNameOf);
+INSTANTIATE_TEST_SUITE_P(, FollowingGraphics, testing::ValuesIn(kColorDialogs + 1, std::end(kColorDialogs)), kNameOf);
 
 TEST_P(ColorDialogs, OpenAndRefreshInOrder) {
     Driver driver(GetParam());
@@ -129,16 +127,15 @@ TEST_P(ColorDialogs, OpenAndRefreshInOrder) {
     const bool lists = GetParam().listsProfiles, follows = driver.Has(kImages);
     driver.Open();
     EXPECT_EQ(driver.initAnswer, (Answer{0, 1}));
-    EXPECT_EQ(driver.Events(kinds), driver.Check() + driver.Fills() + driver.Shows()
-                                        + (lists ? "IsInstalledDLManager\ndisable 1393\n" : ""));
+    EXPECT_EQ(driver.Events(kinds),
+              driver.Check() + driver.Fills() + driver.Shows() + (lists ? "IsInstalledDLManager\ndisable 1393\n" : ""));
     driver.Expect(OfferedSettings(GetParam()));
     EXPECT_EQ(Differences(driver.saveArea.bytes.data(), OfferedSettings(GetParam())), "");
     for (const OfferedList& row : kLists)
         if (driver.Has(row.list)) {
             const bool isBasicRgb = !lists && row.entries == kRgb; // without the printer's profiles
             EXPECT_EQ(driver.Entries(row.list),
-                      isBasicRgb ? marked[row.list].substr(0, marked[row.list].find("|Camera"))
-                                 : marked[row.list]);
+                      isBasicRgb ? marked[row.list].substr(0, marked[row.list].find("|Camera")) : marked[row.list]);
             EXPECT_EQ(driver.Shown(row.list), isBasicRgb && row.list == 1509 ? 3 : row.selection);
         }
     EXPECT_EQ(driver.Shown(kBox), driver.Has(kBox));
@@ -166,9 +163,9 @@ TEST_P(ColorDialogs, AnswerTheirOwnMessagesOnly) {
     driver.Open();
     for (const WPARAM command : {WPARAM{1393}, WPARAM{1528}})
         EXPECT_EQ(driver.Command(command), (Answer{GetParam().listsProfiles ? 1 : 0, kUntouched}));
-    for (const WPARAM command : {WPARAM{MAKEWPARAM(kImages, 1)}, Chosen(kText), Chosen(kBox), WPARAM{1504},
-                                 MAKEWPARAM(1504, CBN_SELCHANGE), IDOK | 1ull << 32, Chosen(0), WPARAM{0},
-                                 WPARAM{MAKEWPARAM(IDOK, 1)}, WPARAM{MAKEWPARAM(1528, 1)}})
+    for (const WPARAM command :
+         {WPARAM{MAKEWPARAM(kImages, 1)}, Chosen(kText), Chosen(kBox), WPARAM{1504}, MAKEWPARAM(1504, CBN_SELCHANGE),
+          IDOK | 1ull << 32, Chosen(0), WPARAM{0}, WPARAM{MAKEWPARAM(IDOK, 1)}, WPARAM{MAKEWPARAM(1528, 1)}})
         EXPECT_EQ(driver.Command(command), (Answer{0, kUntouched})) << command;
     for (const Change& change : kChanges) {
         const WPARAM command = change.control == kBox ? kBox : Chosen(static_cast<WPARAM>(change.control));
@@ -177,8 +174,7 @@ TEST_P(ColorDialogs, AnswerTheirOwnMessagesOnly) {
             << change.control;
         MEASUREITEMSTRUCT item = {ODT_COMBOBOX, static_cast<UINT>(change.control), 0, 0, 3, 0};
         driver.Deliver(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
-        EXPECT_EQ(item.itemHeight, driver.Has(change.control) && change.control != kBox ? 16u : 3u)
-            << change.control;
+        EXPECT_EQ(item.itemHeight, driver.Has(change.control) && change.control != kBox ? 16u : 3u) << change.control;
     }
     driver.events.clear();
     EXPECT_EQ(driver.Command(IDHELP), (Answer{0, 1}));

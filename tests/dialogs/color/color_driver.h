@@ -119,9 +119,7 @@ struct ColorDriver : DialogDriver {
         settings = OfferedSettings(dialog);
     }
 
-    bool Has(int control) const {
-        return std::count(dialog.controls.begin(), dialog.controls.end(), control) != 0;
-    }
+    bool Has(int control) const { return std::count(dialog.controls.begin(), dialog.controls.end(), control) != 0; }
     // "fill 1504\nfill 1354\n...": what is done to all controls, or to all lists.
     std::string InOrder(const std::string& action, bool withButtons) const {
         std::string text;
@@ -133,9 +131,7 @@ struct ColorDriver : DialogDriver {
     }
     std::string Fills() const { return InOrder("fill", false); }
     std::string Shows() const { return InOrder("show", true); }
-    std::string Check() const {
-        return "DoConstraints 0\nDispHintControl " + std::to_string(dialog.id) + "\n";
-    }
+    std::string Check() const { return "DoConstraints 0\nDispHintControl " + std::to_string(dialog.id) + "\n"; }
 
     const ColorDialogCase& dialog;
 };

@@ -14,8 +14,7 @@ using Defaults = FullDialog;
 TEST_F(Defaults, SurviveTheActivationByTheFocus) {
     storedDefaults = OtherSettings().bytes;
     Open();
-    const HWND other =
-        CreateWindowW(L"Button", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+    const HWND other = CreateWindowW(L"Button", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
     SetFocus(other);
     events.clear();
     Command(IDC_DEFAULTS);
@@ -27,8 +26,7 @@ TEST_F(Defaults, SurviveTheActivationByTheFocus) {
 
 TEST_F(Defaults, StoredOnesAreUsedAtTheirFullLengthOnly) {
     Open();
-    for (const size_t length :
-         {size_t{0}, size_t{7800}, kSettingsSize - 1, kSettingsSize + 1, kSettingsSize}) {
+    for (const size_t length : {size_t{0}, size_t{7800}, kSettingsSize - 1, kSettingsSize + 1, kSettingsSize}) {
         storedDefaults = OtherSettings().bytes;
         storedDefaults->resize(length);
         Command(IDC_DEFAULTS);
@@ -69,8 +67,8 @@ TEST_F(Defaults, BuiltInOnesHaveThePaperAndUnitsOfTheRegion) {
 
 TEST_F(Defaults, BuiltInOnesAreMonochromeForDriversNamedMono) {
     Open();
-    const std::pair<const wchar_t*, int> cases[] = {
-        {L"lumora Mono", 1}, {L"lumora MONO", 0}, {L"lumora Mono2", 0}, {L"Mono", 1}, {L"ono", 0}, {L"", 0}};
+    const std::pair<const wchar_t*, int> cases[] = {{L"lumora Mono", 1}, {L"lumora MONO", 0}, {L"lumora Mono2", 0},
+                                                    {L"Mono", 1},        {L"ono", 0},         {L"", 0}};
     for (const auto& [driver, mono] : cases) {
         printerDriver = driver;
         Command(IDC_DEFAULTS);

@@ -50,13 +50,12 @@ TEST_F(FullDialog, ListsEndWhereMemoryRunsOut) {
 }
 
 TEST_F(FullDialog, TextsThatFillTheirFieldsStayInThem) {
-    const RawBytes full =
-        Profile(std::wstring(41, L'q').c_str(), std::wstring(41, L'n').c_str(), 5); // no terminators
+    const RawBytes full = Profile(std::wstring(41, L'q').c_str(), std::wstring(41, L'n').c_str(), 5); // no terminators
     destinations = {Profile(L"", L"nnn", 5), full};
     memcpy(FindItem("Img_AdobeRGB1998") + 48, std::wstring(47, L'd').data(), 2 * 47);
     Open();
-    EXPECT_EQ(Entries(1599), "Automatic=0|nnn Flash memory=128|" + std::string(41, 'n') + " ("
-                                 + std::string(41, 'q') + ") Flash memory=129");
+    EXPECT_EQ(Entries(1599), "Automatic=0|nnn Flash memory=128|" + std::string(41, 'n') + " (" + std::string(41, 'q')
+                                 + ") Flash memory=129");
     RawBytes wanted = settings;
     Choose(1599, 2);
     Expect(PutRecord(wanted.U16(3026, 128), 3198, full));
@@ -126,13 +125,11 @@ TEST_F(FullDialog, AnswersWithoutAContext) {
 
 // Linked in: the dialogs never enable a control.
 TEST(Controls, OnlyVisibleOnesAreEnabled) {
-    HWND dialog = CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 90, 90, nullptr, nullptr,
-                                nullptr, nullptr);
-    HWND control = CreateWindowW(L"Button", L"", WS_CHILD, 0, 0, 20, 20, dialog, reinterpret_cast<HMENU>(7),
-                                 nullptr, nullptr);
-    const auto state = [control] {
-        return std::pair(IsWindowVisible(control) != 0, IsWindowEnabled(control) != 0);
-    };
+    HWND dialog =
+        CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, 0, 0, 90, 90, nullptr, nullptr, nullptr, nullptr);
+    HWND control =
+        CreateWindowW(L"Button", L"", WS_CHILD, 0, 0, 20, 20, dialog, reinterpret_cast<HMENU>(7), nullptr, nullptr);
+    const auto state = [control] { return std::pair(IsWindowVisible(control) != 0, IsWindowEnabled(control) != 0); };
     EnableDlgControl(dialog, 7, true);
     EXPECT_EQ(state(), std::pair(false, false));
     ShowDlgControl(dialog, 7, true);

@@ -64,8 +64,7 @@ TEST_F(FullDialog, StopIconTablePairsNeighbours) {
     const auto* record = static_cast<const uint8_t*>(stopIcons) + 16; // after the header
     int pairs = 0;
     for (; NumberAt<uint32_t>(record, 0) != 0; record += 8232) {
-        const HWND icon = Control(NumberAt<int32_t>(record, 0)),
-                   control = Control(NumberAt<uint16_t>(record, 4));
+        const HWND icon = Control(NumberAt<int32_t>(record, 0)), control = Control(NumberAt<uint16_t>(record, 4));
         EXPECT_EQ(icon == nullptr, control == nullptr);
         RECT place = {}, at = {}, shared = {};
         GetWindowRect(icon, &at);

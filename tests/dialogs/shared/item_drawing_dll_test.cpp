@@ -11,8 +11,7 @@ struct DialogDrawing : ColorDriver, Pictures {
     }
 
     DRAWITEMSTRUCT Item(int list, ULONG_PTR data, UINT action, UINT state) const {
-        return {ODT_COMBOBOX, static_cast<UINT>(list), 0, action, state, Control(list), nullptr, kPlace,
-                data};
+        return {ODT_COMBOBOX, static_cast<UINT>(list), 0, action, state, Control(list), nullptr, kPlace, data};
     }
 
     // Draws it on a cleared canvas.
@@ -47,8 +46,7 @@ TEST_F(Drawing, BackgroundAndTextByState) {
     for (const auto& row : cases)
         for (const UINT edit : {0u, UINT{ODS_COMBOBOXEDIT}})
             for (const UINT action : {ODA_DRAWENTIRE, ODA_SELECT, ODA_SELECT | ODA_FOCUS, ODA_FOCUS}) {
-                SCOPED_TRACE(testing::Message()
-                             << row.type << " " << row.state << " " << edit << " " << action);
+                SCOPED_TRACE(testing::Message() << row.type << " " << row.state << " " << edit << " " << action);
                 DRAWITEMSTRUCT item = Item(1353, 2, action, row.state | edit);
                 item.CtlType = row.type;
                 EXPECT_EQ(Draw(item), (Answer{1, 1}));
@@ -110,8 +108,7 @@ TEST_F(Drawing, ItemsWithAnIconShowIt) {
         Draw(item);
         EXPECT_EQ(Events({"LoadIcon", "DestroyIcon"}), "LoadIcon 32515\nDestroyIcon\n");
         WantBackground(COLOR_WINDOW);
-        DrawIconEx(wanted.dc, kPlace.left, kPlace.top, LoadIconW(nullptr, IDI_WARNING), 16, 16, 0, nullptr,
-                   DI_NORMAL);
+        DrawIconEx(wanted.dc, kPlace.left, kPlace.top, LoadIconW(nullptr, IDI_WARNING), 16, 16, 0, nullptr, DI_NORMAL);
         WantText(L"Proof", 20, COLOR_WINDOWTEXT);
         EXPECT_TRUE(SamePicture(got, wanted));
     }

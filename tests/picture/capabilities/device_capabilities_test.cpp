@@ -41,9 +41,8 @@ struct Caller {
         std::vector<uint8_t> device(1 + 818);
         const InputSlotRecord* first = slots;
         memcpy(device.data() + 1 + 582, &first, sizeof(first));
-        return DDProc_DeviceCapabilities(reinterpret_cast<const DeviceTable*>(device.data() + 1),
-                                         features.data(), nullptr, settings.data(),
-                                         static_cast<WORD>(capability), output, answer);
+        return DDProc_DeviceCapabilities(reinterpret_cast<const DeviceTable*>(device.data() + 1), features.data(),
+                                         nullptr, settings.data(), static_cast<WORD>(capability), output, answer);
     }
 
     std::vector<std::vector<ItemRecord>> itemTables;

@@ -13,28 +13,23 @@ constexpr struct {
     int extent[4];
 } kParts[] =
     {
-        {101, {96, 184, 50, 137}}, {103, {96, 154, 138, 163}}, {104, {155, 189, 123, 163}},
-        {131, {54, 135, 54, 163}}, {132, {54, 135, 54, 163}},  {133, {53, 135, 42, 163}},
-        {134, {53, 135, 42, 163}}, {135, {43, 135, 51, 163}},  {136, {43, 135, 51, 163}},
-        {137, {85, 135, 73, 86}},  {138, {37, 135, 69, 163}},
+        {101, {96, 184, 50, 137}}, {103, {96, 154, 138, 163}}, {104, {155, 189, 123, 163}}, {131, {54, 135, 54, 163}},
+        {132, {54, 135, 54, 163}}, {133, {53, 135, 42, 163}},  {134, {53, 135, 42, 163}},   {135, {43, 135, 51, 163}},
+        {136, {43, 135, 51, 163}}, {137, {85, 135, 73, 86}},   {138, {37, 135, 69, 163}},
 },
   kMasks[] = {
       // each after its image
-      {112, {96, 155, 120, 128}},  {114, {96, 155, 129, 137}},  {116, {86, 127, 138, 160}},
-      {118, {121, 156, 138, 160}}, {120, {155, 184, 105, 123}}, {122, {155, 192, 113, 159}},
-      {142, {72, 121, 73, 81}},    {144, {72, 121, 73, 81}},    {146, {84, 121, 79, 87}},
-      {152, {42, 79, 67, 87}},     {154, {42, 79, 77, 97}},     {156, {42, 79, 87, 107}},
-      {160, {42, 70, 59, 69}},     {162, {42, 70, 53, 64}},     {164, {42, 70, 47, 59}},
-      {166, {42, 70, 41, 53}},
+      {112, {96, 155, 120, 128}},  {114, {96, 155, 129, 137}},  {116, {86, 127, 138, 160}}, {118, {121, 156, 138, 160}},
+      {120, {155, 184, 105, 123}}, {122, {155, 192, 113, 159}}, {142, {72, 121, 73, 81}},   {144, {72, 121, 73, 81}},
+      {146, {84, 121, 79, 87}},    {152, {42, 79, 67, 87}},     {154, {42, 79, 77, 97}},    {156, {42, 79, 87, 107}},
+      {160, {42, 70, 59, 69}},     {162, {42, 70, 53, 64}},     {164, {42, 70, 47, 59}},    {166, {42, 70, 41, 53}},
 };
 
 Extent ExtentOf(const Picture& picture) {
     Extent extent = {INT32_MAX, -1, INT32_MAX, -1};
     for (int i = 0; i < picture.width * picture.height; ++i)
-        if (const int x = i % picture.width, y = i / picture.width;
-            picture.pixels[static_cast<size_t>(i)] != kWhite)
-            extent = {std::min(extent[0], x), std::max(extent[1], x), std::min(extent[2], y),
-                      std::max(extent[3], y)};
+        if (const int x = i % picture.width, y = i / picture.width; picture.pixels[static_cast<size_t>(i)] != kWhite)
+            extent = {std::min(extent[0], x), std::max(extent[1], x), std::min(extent[2], y), std::max(extent[3], y)};
     return extent;
 }
 
@@ -43,8 +38,7 @@ struct Bitmaps : testing::Test {
     ResourceBitmap Read(UINT id, int width, int height, WORD depth, DWORD colors) const {
         const ResourceBitmap bitmap(module.handle, id);
         const DWORD rowBytes = (static_cast<DWORD>(width) * depth + 31) / 32 * 4;
-        EXPECT_TRUE(bitmap.width == width && bitmap.height == height && bitmap.header.biBitCount == depth)
-            << id;
+        EXPECT_TRUE(bitmap.width == width && bitmap.height == height && bitmap.header.biBitCount == depth) << id;
         EXPECT_EQ(bitmap.header.biCompression, static_cast<DWORD>(BI_RGB)) << id;
         EXPECT_EQ(bitmap.header.biClrUsed, colors) << id;
         EXPECT_EQ(bitmap.bytes, 40 + 4 * colors + rowBytes * static_cast<DWORD>(height)) << id;
@@ -85,8 +79,7 @@ TEST_F(Bitmaps, HighlightsArePairsOfMaskAndImage) {
             outside += mask.pixels[i] != 0 && image.pixels[i] != 0;
             colored += image.pixels[i] != 0;
         }
-        EXPECT_TRUE(grey == 0 && outside == 0 && colored > 0)
-            << id << ' ' << grey << ' ' << outside << ' ' << colored;
+        EXPECT_TRUE(grey == 0 && outside == 0 && colored > 0) << id << ' ' << grey << ' ' << outside << ' ' << colored;
     }
 }
 

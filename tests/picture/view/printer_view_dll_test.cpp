@@ -11,8 +11,8 @@ namespace {
 struct PrinterView : testing::Test {
     // Draws on a canvas as large as the rectangle's far corner, and compares.
     testing::AssertionResult IsAsWanted(const ViewRecords& records, const std::vector<UINT>& ids,
-                                        const RECT& rectangle = {0, 0, 200, 200},
-                                        const std::wstring& caption = {}, const Failure& failure = {}) const {
+                                        const RECT& rectangle = {0, 0, 200, 200}, const std::wstring& caption = {},
+                                        const Failure& failure = {}) const {
         const int width = std::max({rectangle.right, rectangle.left, 1L}) + 10;
         const int height = std::max({rectangle.bottom, rectangle.top, 1L}) + 10;
         Canvas got(width, height), wanted(width, height);
@@ -37,8 +37,8 @@ void ForEachChoice(const std::function<void(const Choice&)>& use) {
             for (const uint32_t flags : flagSets) {
                 const bool hasPath = (bits & 32) != 0;
                 if (hasPath || (slot == slots[0] && flags == flagSets[0]))
-                    use({bits >> 6, bits & 1, bits >> 1 & 1, bits >> 2 & 1, bits >> 3 & 1, bits >> 4 & 1,
-                         hasPath, slot, flags});
+                    use({bits >> 6, bits & 1, bits >> 1 & 1, bits >> 2 & 1, bits >> 3 & 1, bits >> 4 & 1, hasPath, slot,
+                         flags});
             }
 }
 
@@ -56,9 +56,8 @@ TEST_F(PrinterView, EveryCombinationIsDrawnInOrder) {
             records.Draw(module, nowhere.dc, {0, 0, 1, 1});
             const std::vector<UINT> wanted = WantedIds(choice);
             if (recorder.ids != wanted && wrong++ < 5)
-                ADD_FAILURE() << testing::PrintToString(recorder.ids) << ", wanted "
-                              << testing::PrintToString(wanted) << ": unit " << choice.outputUnit << ", "
-                              << choice.slot << ", flags " << choice.flags;
+                ADD_FAILURE() << testing::PrintToString(recorder.ids) << ", wanted " << testing::PrintToString(wanted)
+                              << ": unit " << choice.outputUnit << ", " << choice.slot << ", flags " << choice.flags;
             pictures.emplace(wanted, choice);
         });
     }
@@ -80,8 +79,7 @@ TEST_F(PrinterView, RectanglesOfAnySizeAndPositionAreFilled) {
         {-60, 3, 141, 120}, {200, 200, 0, 0},   {190, 0, 3, 201},   {0, 151, 200, -50}, {-37, 180, -240, -21},
         {50, 50, 50, 90},   {-250, -250, 0, 0},
     };
-    const Choice choices[] = {{1, 1, 1, 1, 1, 0, true, "InTray3", 1 << 7},
-                              {4, 0, 0, 0, 0, 0, true, "InTrayLCT", 0}};
+    const Choice choices[] = {{1, 1, 1, 1, 1, 0, true, "InTray3", 1 << 7}, {4, 0, 0, 0, 0, 0, true, "InTrayLCT", 0}};
     ViewRecords records(UnitFeatures());
     for (const Choice& choice : choices)
         for (const RECT& rectangle : kRectangles)
@@ -90,10 +88,9 @@ TEST_F(PrinterView, RectanglesOfAnySizeAndPositionAreFilled) {
                 std::optional<GdiRecorder> recorder;
                 if (isStraight)
                     recorder.emplace(module.handle).Fail("CreateCompatibleBitmap", 1);
-                EXPECT_TRUE(
-                    IsAsWanted(records, WantedIds(choice), rectangle, {}, {SIZE_MAX, isStraight, false}))
-                    << rectangle.left << ' ' << rectangle.top << ' ' << rectangle.right << ' '
-                    << rectangle.bottom << (isStraight ? ", straight" : "");
+                EXPECT_TRUE(IsAsWanted(records, WantedIds(choice), rectangle, {}, {SIZE_MAX, isStraight, false}))
+                    << rectangle.left << ' ' << rectangle.top << ' ' << rectangle.right << ' ' << rectangle.bottom
+                    << (isStraight ? ", straight" : "");
             }
 }
 
@@ -102,8 +99,7 @@ TEST_F(PrinterView, CaptionNamesTheSelectedMachine) {
     const Choice choice = {2, 0, 1, 0, 0, 0, true, "InTray2", 1 << 5};
     const Feature three = {"OpMachine", {"A", "B", "C"}, {L"QUORVANE R880 & Co", full, L""}};
     const Feature alone = {"OpMachine", {"A"}, {L"Alone"}}, empty = {"OpMachine", {}, {}};
-    const Feature two = {"opmachine", {"A", "B"}, {L"A", L"Two"}},
-                  longer = {"OpMachines", {"A", "B"}, {L"A", L"B"}};
+    const Feature two = {"opmachine", {"A", "B"}, {L"A", L"Two"}}, longer = {"OpMachines", {"A", "B"}, {L"A", L"B"}};
     const struct {
         std::vector<Feature> machines; // after the option features
         int32_t selected;
@@ -213,8 +209,7 @@ TEST_F(PrinterView, NothingIsDrawnWithoutRectangleOrRequest) {
     draw(canvas.dc, &kRectangle, nullptr);
     EXPECT_TRUE(SamePicture(canvas, untouched));
     draw(nullptr, &kRectangle, records.request.bytes.data());
-    for (const RECT& wild :
-         {RECT{INT32_MIN, INT32_MIN, INT32_MAX, INT32_MAX}, RECT{INT32_MAX, 0, INT32_MIN, 9}})
+    for (const RECT& wild : {RECT{INT32_MIN, INT32_MIN, INT32_MAX, INT32_MAX}, RECT{INT32_MAX, 0, INT32_MIN, 9}})
         draw(canvas.dc, &wild, records.request.bytes.data());
 }
 

@@ -106,9 +106,9 @@ std::vector<UINT> WantedIds(const Choice& choice) {
     else if (unit != 0)
         ids.push_back(unit == 3 ? 137 : 138);
     const auto highlight = [&ids](UINT image) { ids.insert(ids.end(), {image + 1, image}); };
-    static const std::map<std::string, UINT> kSlots = {
-        {"InTray1", 111}, {"InTray2", 113}, {"InTray3", 115},      {"InTray4", 117},
-        {"intray4", 117}, {"INTRAY1", 111}, {"InTrayManual", 119}, {"InTrayLCT", 121}};
+    static const std::map<std::string, UINT> kSlots = {{"InTray1", 111},      {"InTray2", 113},  {"InTray3", 115},
+                                                       {"InTray4", 117},      {"intray4", 117},  {"INTRAY1", 111},
+                                                       {"InTrayManual", 119}, {"InTrayLCT", 121}};
     if (choice.hasPath && kSlots.count(choice.slot) != 0)
         highlight(kSlots.at(choice.slot));
     if (choice.hasPath && OutputHighlight(choice) != 0)
@@ -119,8 +119,7 @@ std::vector<UINT> WantedIds(const Choice& choice) {
 
 void DrawWanted(HMODULE module, Canvas& target, const RECT& rectangle, const std::vector<UINT>& ids,
                 const std::wstring& caption, const Failure& failure, int dotsPerInch) {
-    const LONG width = std::abs(rectangle.right - rectangle.left),
-               height = std::abs(rectangle.bottom - rectangle.top);
+    const LONG width = std::abs(rectangle.right - rectangle.left), height = std::abs(rectangle.bottom - rectangle.top);
     Canvas memory(width, height, 0);
     Canvas& canvas = failure.isStraight ? target : memory;
     FillRect(canvas.dc, &rectangle, static_cast<HBRUSH>(GetStockObject(WHITE_BRUSH)));
@@ -132,9 +131,8 @@ void DrawWanted(HMODULE module, Canvas& target, const RECT& rectangle, const std
         const bool isImage = ids[i] % 2 != 0 && ids[i] > 110 && (ids[i] < 130 || ids[i] > 140) && !isBadge;
         POINT corner = {rectangle.left + width / 2 - 100, rectangle.top + height / 2 - 100};
         if (isBadge) // 39 x 17; its place follows from its size, 0 when that could not be read
-            corner = failure.skipped + 2 == ids.size()
-                         ? POINT{rectangle.right - 8 - 19, rectangle.top + 8 - 8}
-                         : POINT{rectangle.right - 19 - 8 - 19, rectangle.top + 8};
+            corner = failure.skipped + 2 == ids.size() ? POINT{rectangle.right - 8 - 19, rectangle.top + 8 - 8}
+                                                       : POINT{rectangle.right - 19 - 8 - 19, rectangle.top + 8};
         canvas.Combine(bitmap, corner, isImage ? SRCINVERT : SRCAND);
     }
     if (!caption.empty())

@@ -76,8 +76,7 @@ TEST(PrmDamage, SeparateDefaultRecordIsMatchedByKey) {
     bytes.replace(0x0B0, 4, Words({static_cast<uint32_t>(record)}));
     Lines messages;
     const Model model = FromPrm(bytes, messages);
-    EXPECT_EQ(messages,
-              Lines{"note: 'OpInTrayUnit': the default is a separate record; only its key is kept"});
+    EXPECT_EQ(messages, Lines{"note: 'OpInTrayUnit': the default is a separate record; only its key is kept"});
     EXPECT_EQ(model.entries.at(1).defaultItem, 0u);
 }
 

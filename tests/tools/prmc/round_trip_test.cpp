@@ -47,8 +47,7 @@ TEST(RoundTrip, SpecialTextsAreQuoted) {
 
 TEST(Utf8, InvalidFormsAreFound) {
     EXPECT_EQ(Utf16FromUtf8("a\xC3\xA9\xE2\x82\xAC\xF0\x9D\x84\x9E"), u"a\u00E9\u20AC\U0001D11E");
-    for (const char* bad :
-         {"\x80", "\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8"})
+    for (const char* bad : {"\x80", "\xC3", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8"})
         EXPECT_EQ(FindBadUtf8(std::string("ab") + bad), 2u) << bad;
 }
 
@@ -70,8 +69,7 @@ TEST(ShippedModel, IsComplete) {
                 names.push_back(feature.name);
         for (const std::string name : names) {
             const std::vector<Pair>& pairs = entry->records.at(0).values.at(0).pairs;
-            EXPECT_TRUE(
-                std::any_of(pairs.begin(), pairs.end(), [&](const Pair& pair) { return pair.name == name; }))
+            EXPECT_TRUE(std::any_of(pairs.begin(), pairs.end(), [&](const Pair& pair) { return pair.name == name; }))
                 << row.name << " has no row " << name;
         }
     }

@@ -45,11 +45,10 @@ TEST(Damage, NoRequestCrashesTheAgent) {
     Bytes none = StorageRequest(); // no variables
     none[1] = 0x18, none[14] = 0x0B, none[25] = 0;
     none.resize(26);
-    std::vector<Bytes> requests = {none, StorageRequest(), Changed(35, 0x7E), Changed(13, 0xA1),
-                                   Changed(13, 0xA3)};
+    std::vector<Bytes> requests = {none, StorageRequest(), Changed(35, 0x7E), Changed(13, 0xA1), Changed(13, 0xA3)};
     for (const char* fault :
-         {"silence", "loss=50", "delay=1", "duplicate", "stale=2", "wrong-community", "wrong-source",
-          "wrong-address", "truncated", "truncated=9", "malformed", "error-status=5", "counter"}) {
+         {"silence", "loss=50", "delay=1", "duplicate", "stale=2", "wrong-community", "wrong-source", "wrong-address",
+          "truncated", "truncated=9", "malformed", "error-status=5", "counter"}) {
         Agent agent{{}, ObjectsOf(PlainDevice()), {}};
         agent.faults.faults = {ParseFault(fault), ParseFault("malformed"), ParseFault("counter")};
         for (const Bytes& request : requests)

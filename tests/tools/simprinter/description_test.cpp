@@ -19,18 +19,16 @@ TEST(Description, OmittedFieldsHaveTheirDefaults) {
     EXPECT_EQ(ObjectsOf(Read("name: lumora")), ObjectsOf(PlainDevice()));
     EXPECT_TRUE(Read("trays: []").trays.empty());
 
-    EXPECT_EQ(
-        ObjectsOf(
-            Read("{trays: [{tray: lct}, {level: 3, capacity: 9, tray: Tray5}, {capacity: 9, tray: TRAY1}],"
-                 " supplies: [{supply: BLACK, capacity: 70}, {supply: waste, capacity: 70}],"
-                 " overlays: [{name: \"\"}], profiles: [{name: p, storage: 6, class: -1}]}")),
-        ObjectsOf(Read("{trays: [{tray: LCT, name: Large-capacity tray, size: A4, orientation: landscape,"
-                       "          type: PLAIN, capacity: 2500, level: 2500},"
-                       "         {tray: TRAY5, capacity: 9, level: 3}, {tray: TRAY1, capacity: 9, level: 9}],"
-                       " supplies: [{supply: black, name: Black toner, capacity: 70, level: 70},"
-                       "            {supply: waste, capacity: 70, level: -3}],"
-                       " overlays: [{name: \"\", title: \"\", kind: 1, storage: HDD}],"
-                       " profiles: [{name: p, title: \"\", storage: 6, class: -1}]}")));
+    EXPECT_EQ(ObjectsOf(Read("{trays: [{tray: lct}, {level: 3, capacity: 9, tray: Tray5}, {capacity: 9, tray: TRAY1}],"
+                             " supplies: [{supply: BLACK, capacity: 70}, {supply: waste, capacity: 70}],"
+                             " overlays: [{name: \"\"}], profiles: [{name: p, storage: 6, class: -1}]}")),
+              ObjectsOf(Read("{trays: [{tray: LCT, name: Large-capacity tray, size: A4, orientation: landscape,"
+                             "          type: PLAIN, capacity: 2500, level: 2500},"
+                             "         {tray: TRAY5, capacity: 9, level: 3}, {tray: TRAY1, capacity: 9, level: 9}],"
+                             " supplies: [{supply: black, name: Black toner, capacity: 70, level: 70},"
+                             "            {supply: waste, capacity: 70, level: -3}],"
+                             " overlays: [{name: \"\", title: \"\", kind: 1, storage: HDD}],"
+                             " profiles: [{name: p, title: \"\", storage: 6, class: -1}]}")));
 }
 
 TEST(Description, LevelsSetTheDetectedErrors) {
@@ -44,8 +42,7 @@ TEST(Description, LevelsSetTheDetectedErrors) {
         {"supplies: [{supply: waste, level: 0}, {supply: cyan, level: 11}]", std::string("\0\0", 2)},
     };
     for (const auto& one : cases)
-        EXPECT_EQ(ObjectsOf(Read(one.yaml)).at({1, 3, 6, 1, 2, 1, 25, 3, 5, 1, 2, 1}).bytes, one.bits)
-            << one.yaml;
+        EXPECT_EQ(ObjectsOf(Read(one.yaml)).at({1, 3, 6, 1, 2, 1, 25, 3, 5, 1, 2, 1}).bytes, one.bits) << one.yaml;
 }
 
 TEST(Description, EveryErrorIsReportedAtItsPlace) {

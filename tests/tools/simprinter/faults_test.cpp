@@ -46,8 +46,7 @@ TEST(Faults, AnswersAreChanged) {
         ASSERT_EQ(answers.size(), 1u) << one.faults;
         EXPECT_EQ(answers[0].bytes, one.bytes) << one.faults;
         EXPECT_EQ(answers[0].from.sin_port != printer.address.sin_port, one.otherPort) << one.faults;
-        EXPECT_EQ(answers[0].from.sin_addr.s_addr != printer.address.sin_addr.s_addr, one.otherAddress)
-            << one.faults;
+        EXPECT_EQ(answers[0].from.sin_addr.s_addr != printer.address.sin_addr.s_addr, one.otherAddress) << one.faults;
     }
 }
 

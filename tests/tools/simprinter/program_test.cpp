@@ -21,13 +21,11 @@ TEST(Program, ExitCodesAndMessages) {
     } cases[] = {
         {"--help", 0, "A simulated printer on the network: "},
         {"--prot 1", 2, "simprinter: "},
-        {"--fault dealy=5", 2,
-         "simprinter: fault 'dealy=5': unknown fault; possible: silence, loss, delay, "},
+        {"--fault dealy=5", 2, "simprinter: fault 'dealy=5': unknown fault; possible: silence, loss, delay, "},
         {"--fault delay", 2, "simprinter: fault 'delay': write delay=MS"},
         {"--fault loss=101", 2, "simprinter: fault 'loss=101': PERCENT must be a number from 0 to 100"},
         {"--fault counter=1", 2, "simprinter: fault 'counter=1': counter takes no value"},
-        {"--fault silence@system", 2,
-         "simprinter: fault 'silence@system': after '@' write an object identifier"},
+        {"--fault silence@system", 2, "simprinter: fault 'silence@system': after '@' write an object identifier"},
         {"--device " + bad + " --replay " + walk, 2, "simprinter: --device excludes --replay"},
         {"--replay " + folder.path, 1, "simprinter: cannot read '" + folder.path + "': Is a directory"},
         {"--device " + bad + " 2>&1 | tail -2", 0,
@@ -55,9 +53,9 @@ TEST(Program, LogHasALineForEachDatagram) {
     EXPECT_EQ(printer.Receive(300).size(), 1u);
     EXPECT_EQ(printer.Stop(SIGINT), 0);
     const std::string from = "127.0.0.1:[0-9]+ ", name = " (\\.[0-9]+){12} ";
-    EXPECT_TRUE(std::regex_match(ReadFile(file),
-                                 std::regex(from + "#17 GetRequest" + name + "->" + name + "INTEGER 512\n"
-                                            + from + "3 bytes, not a valid SNMPv1 request: dropped\n")))
+    EXPECT_TRUE(
+        std::regex_match(ReadFile(file), std::regex(from + "#17 GetRequest" + name + "->" + name + "INTEGER 512\n"
+                                                    + from + "3 bytes, not a valid SNMPv1 request: dropped\n")))
         << ReadFile(file);
 }
 

@@ -64,11 +64,10 @@ int RunningPrinter::Stop(int signal) {
 
 CommandResult RunningPrinter::Ask(const std::string& tool, const std::string& objects,
                                   const std::string& options) const {
-    const TemporaryFolder folder; // in place of the user's settings
-    std::filesystem::create_directory(folder.path
-                                      + "/cert_indexes"); // otherwise they report that they create it
-    return RunCommand("SNMPCONFPATH=" + folder.path + " SNMP_PERSISTENT_DIR=" + folder.path + ' ' + tool
-                      + " -m '' -On " + options + " 127.0.0.1:" + Port() + ' ' + objects);
+    const TemporaryFolder folder;                                     // in place of the user's settings
+    std::filesystem::create_directory(folder.path + "/cert_indexes"); // otherwise they report that they create it
+    return RunCommand("SNMPCONFPATH=" + folder.path + " SNMP_PERSISTENT_DIR=" + folder.path + ' ' + tool + " -m '' -On "
+                      + options + " 127.0.0.1:" + Port() + ' ' + objects);
 }
 
 void RunningPrinter::Send(const Bytes& request) const {
@@ -83,8 +82,8 @@ std::vector<Received> RunningPrinter::Receive(int quietMs, size_t most) const {
     while (all.size() < most && poll(&entry, 1, quietMs) == 1) {
         Received next = {Bytes(65536), {}};
         socklen_t length = sizeof next.from;
-        const ssize_t size = recvfrom(client, next.bytes.data(), next.bytes.size(), 0,
-                                      reinterpret_cast<sockaddr*>(&next.from), &length);
+        const ssize_t size =
+            recvfrom(client, next.bytes.data(), next.bytes.size(), 0, reinterpret_cast<sockaddr*>(&next.from), &length);
         next.bytes.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
         all.push_back(next);
     }

@@ -58,10 +58,9 @@ TEST_F(SnmpTools, ObjectsHaveTheDescribedValues) {
 }
 
 TEST_F(SnmpTools, MissingObjectsGetNoSuchName) {
-    for (const char* name :
-         {".1.3.6.1.2.1.43.8.2.1.2.1.2", ".1.3.6.1.2.1.43.8.2.1.2.1.5", ".1.3.6.1.2.1.43.11.1.1.9.1.2",
-          ".1.3.6.1.4.1.47913.1.1.1.1.6.12.1.1.3.1.3", ".1.3.6.1.4.1.47913.1.1.1.1.6.13.1.1.4.1.2",
-          ".1.3.6.1.2.1.1.1", ".1.3.6.1.2.1.1.1.0.0"})
+    for (const char* name : {".1.3.6.1.2.1.43.8.2.1.2.1.2", ".1.3.6.1.2.1.43.8.2.1.2.1.5",
+                             ".1.3.6.1.2.1.43.11.1.1.9.1.2", ".1.3.6.1.4.1.47913.1.1.1.1.6.12.1.1.3.1.3",
+                             ".1.3.6.1.4.1.47913.1.1.1.1.6.13.1.1.4.1.2", ".1.3.6.1.2.1.1.1", ".1.3.6.1.2.1.1.1.0.0"})
         EXPECT_NE(printer.Ask("snmpget", name).output.find("(noSuchName)"), std::string::npos) << name;
     const RunningPrinter plain; // without hard disk and duplex unit
     for (const char* name : {".1.3.6.1.2.1.25.2.3.1.5.2", ".1.3.6.1.2.1.43.13.4.1.2.1.2"})
@@ -77,17 +76,15 @@ TEST_F(SnmpTools, WalksReachEveryObject) {
 
 TEST_F(SnmpTools, FailedRequestsGetErrors) {
     for (const char* name : {".1.3.6.1.2.1.1.5.0", ".1.3.6.1.2.1.1.99.0"})
-        EXPECT_NE(printer.Ask("snmpset", name + std::string(" s x")).output.find("(noSuchName)"),
-                  std::string::npos);
+        EXPECT_NE(printer.Ask("snmpset", name + std::string(" s x")).output.find("(noSuchName)"), std::string::npos);
     // The second of three does not exist; the tool asks again without it.
     EXPECT_NE(printer.Ask("snmpget", ".1.3.6.1.2.1.1.5.0 .1.3.6.1.2.1.1.99.0 .1.3.6.1.2.1.1.7.0")
                   .output.find("Failed object: .1.3.6.1.2.1.1.99.0\n\n.1.3.6.1.2.1.1.5.0 = STRING: \"lab\"\n"
                                ".1.3.6.1.2.1.1.7.0 = "),
               std::string::npos);
     const std::string longText(300, 'x');
-    const RunningPrinter small(
-        "--community public --largest-reply 484 --replay "
-        + folder.File("long", "1.3.1.0|4|" + longText + "\n1.3.2.0|4|" + longText + "\n"));
+    const RunningPrinter small("--community public --largest-reply 484 --replay "
+                               + folder.File("long", "1.3.1.0|4|" + longText + "\n1.3.2.0|4|" + longText + "\n"));
     const std::string options = "-v1 -c public -r0 -t2";
     EXPECT_EQ(small.Ask("snmpget", ".1.3.1.0", options).exitCode, 0);
     EXPECT_NE(small.Ask("snmpget", ".1.3.1.0 .1.3.2.0", options).output.find("(tooBig)"), std::string::npos);

@@ -20,8 +20,8 @@ struct DialogFolder : Folder {
         return L" \"" + (path / name).wstring() + L"\"";
     }
     Json Run(const std::string& script, const std::wstring& options = L"") const {
-        return RunForJson(L"dialog 128 --script" + Write("s.txt", script) + L" --profiles"
-                          + Write("p.json", kProfiles) + L" " + options);
+        return RunForJson(L"dialog 128 --script" + Write("s.txt", script) + L" --profiles" + Write("p.json", kProfiles)
+                          + L" " + options);
     }
 };
 
@@ -61,9 +61,8 @@ TEST(WorkbenchDialog, ScriptChangesAreReported) {
 
 TEST(WorkbenchDialog, DefaultsResetAndCancelDiscards) {
     const DialogFolder folder;
-    const Json report =
-        folder.Run("choose 1330 Detail\nchoose 1354 Vivid\ndefaults\nrefresh\nchoose 1330 Detail\n"
-                   "key escape");
+    const Json report = folder.Run("choose 1330 Detail\nchoose 1354 Vivid\ndefaults\nrefresh\nchoose 1330 Detail\n"
+                                   "key escape");
     EXPECT_EQ(report["dialog"]["end"], "Cancel");
     EXPECT_EQ(report["changes"], Json::array());
     EXPECT_EQ(ControlRow(report, 1330)["shows"], "Detail");
@@ -75,14 +74,13 @@ TEST(WorkbenchDialog, KeysAndSettingsFileAreUsed) {
     const DialogFolder folder;
     const Json report = folder.Run("\xEF\xBB\xBF" // a byte order mark
                                    "choose 1524 DIC\nchoose 1627 #0\nkey tab\nkey space\nkey enter\n",
-                                   L"--settings" + folder.Write("record", std::string(7808, '\0'))
-                                       + L" --out \"" + folder.path.wstring() + L"/end.png\"");
+                                   L"--settings" + folder.Write("record", std::string(7808, '\0')) + L" --out \""
+                                       + folder.path.wstring() + L"/end.png\"");
     EXPECT_EQ(report["dialog"]["endCode"], 1);
     EXPECT_EQ(report["pictures"].size(), 1) << "of a dialog that a key closes";
     EXPECT_NE(ReadPicture((folder.path / "end.png").u8string()), nullptr);
-    EXPECT_EQ(Changes(report),
-              "simulation:0:5 matchPaperColor:0:1 textRgbProfile.qualifier::Device RGB "
-              "imageRgbProfile.qualifier::Device RGB graphicsRgbProfile.qualifier::Device RGB ");
+    EXPECT_EQ(Changes(report), "simulation:0:5 matchPaperColor:0:1 textRgbProfile.qualifier::Device RGB "
+                               "imageRgbProfile.qualifier::Device RGB graphicsRgbProfile.qualifier::Device RGB ");
 }
 
 TEST(WorkbenchDialog, PictureIncludesHintBelow) {
@@ -96,8 +94,7 @@ TEST(WorkbenchDialog, PictureIncludesHintBelow) {
     const auto refused = ReadPicture(path + "/b.png");
     EXPECT_NE(GetPixel(refused->context, 3, bottom + 3), RGB(0, 0, 0)) << "no hint below the dialog";
     const auto* pixels = static_cast<const DWORD*>(refused->pixels);
-    EXPECT_GT(std::count(pixels, pixels + refused->size.cx * refused->size.cy, 0xFFCC0000), 50)
-        << "no stop sign";
+    EXPECT_GT(std::count(pixels, pixels + refused->size.cx * refused->size.cy, 0xFFCC0000), 50) << "no stop sign";
 }
 
 TEST(WorkbenchDialog, FlagsShortenListsAndLockControls) {
@@ -116,8 +113,7 @@ TEST(WorkbenchDialog, TrayChangesAreReportedAfterOk) {
          "after": "Pre-punched", "value": 1},
         {"tray": "InTrayManual", "attribute": "type", "before": "Unknown", "after": "Thick 1", "value": 263}])");
     for (const bool isOk : {true, false}) {
-        const Json report =
-            RunForJson(L"dialog 155 --script" + folder.Write("s.txt", script + (isOk ? "ok" : "")));
+        const Json report = RunForJson(L"dialog 155 --script" + folder.Write("s.txt", script + (isOk ? "ok" : "")));
         EXPECT_EQ(report["dialog"]["endCode"], isOk ? 1 : 2);
         EXPECT_EQ(report["dialog"]["pageTold"], isOk);
         EXPECT_EQ(ControlRow(report, 1844)["shows"], "Manual feed");
@@ -149,12 +145,11 @@ TEST(WorkbenchDialog, FailureSaysWhatIsWrongAndWhere) {
         {"--profiles", R"({"cmyk": []})", 1, "'cmyk'; possible: rgbSources, simulations, destinations"},
         {"--profiles", "{", 1, "wrong: not JSON; see line 1, column 2\n"},
         {"--profiles", R"({"rgbSources": 1e999})", 1, "wrong: .*a number is too large\n"},
-        {"--profiles", std::string(100000, '[') + std::string(100000, ']'), 1,
-         "wrong: values .* levels deep"},
+        {"--profiles", std::string(100000, '[') + std::string(100000, ']'), 1, "wrong: values .* levels deep"},
     };
     for (const auto& c : cases)
-        ExpectFailure(L"dialog 128 " + fs::path(c.option).wstring() + folder.Write("wrong", c.file),
-                      c.exitCode, c.message);
+        ExpectFailure(L"dialog 128 " + fs::path(c.option).wstring() + folder.Write("wrong", c.file), c.exitCode,
+                      c.message);
     ExpectFailure(L"dialog 165", 1, "no dialog 165; .* 155\\.");
     const Folder alone(L"workbench_without_ui_module", {"TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL"});
     ExpectFailure(L"dialog 155" + alone.Option(), 1, "TELMAR_U.DLL next to the module");

@@ -58,9 +58,7 @@ struct Sheet : testing::Test {
         return "none";
     }
 
-    std::string PaperType(size_t tray) const {
-        return PapersDocument(state.papers).Elements().at(tray)["type"].Text();
-    }
+    std::string PaperType(size_t tray) const { return PapersDocument(state.papers).Elements().at(tray)["type"].Text(); }
 
     // The pixels of a part of a control, as on the screen.
     std::string Pixels(int id, RECT place) const {
@@ -126,15 +124,13 @@ TEST_F(Sheet, QueryResultsAreShown) {
                                         "Black toner: 92 %", "Waste toner box: in order"}));
     RECT row = {};
     SendMessageW(supplies, LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
-    EXPECT_EQ(Pixels(ID_SUPPLIES, {row.left + 8, row.top + 6, row.left + 9, row.top + 7}).substr(0, 3),
-              "\xFF\xFF\0"s)
+    EXPECT_EQ(Pixels(ID_SUPPLIES, {row.left + 8, row.top + 6, row.left + 9, row.top + 7}).substr(0, 3), "\xFF\xFF\0"s)
         << "the bar is not cyan";
     EXPECT_EQ(Lines(driver.Control(ID_STORED)).at(0), "Overlay: Company letterhead");
     EXPECT_EQ(PaperType(3), "Thick 1");
     EXPECT_EQ(ItemOf("OpOutTrayUnit"), "OpOutTrayUnit1");
 
-    EXPECT_EQ(Query("127.0.162.5"),
-              "Reported by 127.0.162.5 (bidirectional library). Not available: overlays.");
+    EXPECT_EQ(Query("127.0.162.5"), "Reported by 127.0.162.5 (bidirectional library). Not available: overlays.");
     EXPECT_EQ(Lines(supplies).size(), 5u);
     EXPECT_EQ(Lines(driver.Control(ID_STORED)).at(0), "RGB profile: sRGB");
 
@@ -251,8 +247,8 @@ TEST_P(SheetLayout, ControlsFitWithoutOverlap) {
     const std::vector<HWND> controls = ControlsOf(sheet.CurrentPage());
     for (HWND control : controls) {
         const RECT place = PlaceOf(control);
-        SCOPED_TRACE(testing::Message() << "control " << GetDlgCtrlID(control) << " at "
-                                        << place.left - page.left << ", " << place.top - page.top);
+        SCOPED_TRACE(testing::Message() << "control " << GetDlgCtrlID(control) << " at " << place.left - page.left
+                                        << ", " << place.top - page.top);
         EXPECT_TRUE(place.left >= page.left && place.right <= page.right && place.top >= page.top
                     && place.bottom <= page.bottom);
         RECT both;

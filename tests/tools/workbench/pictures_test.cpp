@@ -38,10 +38,9 @@ TEST(WorkbenchPictures, ViewFollowsEveryOption) {
     std::wstring line = L"view";
     std::string before = plain;
     for (const wchar_t* more :
-         {L" --set OpHDD=EnaOpHDD", L" --set OpOutTrayUnit=OpOutTrayUnit2",
-          L" --set opmailbinkit=ENAOPMAILBINKIT", L" --set OpInTrayUnit=OpInTrayUnit1", L" --tray intray2",
-          L" --output-flag 3", L" --output-flag 7", L" --machine \"R880 \u00DC\"",
-          L" --set OpMachine=OpMachine1", L" --machine-only"}) {
+         {L" --set OpHDD=EnaOpHDD", L" --set OpOutTrayUnit=OpOutTrayUnit2", L" --set opmailbinkit=ENAOPMAILBINKIT",
+          L" --set OpInTrayUnit=OpInTrayUnit1", L" --tray intray2", L" --output-flag 3", L" --output-flag 7",
+          L" --machine \"R880 \u00DC\"", L" --set OpMachine=OpMachine1", L" --machine-only"}) {
         line += more;
         const std::string after = pictures.Make(line);
         EXPECT_NE(after, before) << fs::path(line).u8string();
@@ -54,16 +53,15 @@ TEST(WorkbenchPictures, ViewFollowsEveryOption) {
 
 TEST(WorkbenchPictures, ViewReportsThePicture) {
     const Pictures pictures;
-    const Json view = RunForJson(
-        L"view --size 300x250 --tray INTRAYLCT --output-flag 2 --output-flag 9 --machine Zw\u00F6lf"
-        + pictures.Out(L"a b.png"));
-    Json expected = Json::parse(
-        R"({"width": 300, "height": 250, "paperPath": true, "tray": "InTrayLCT", "outputFlags": [2, 9]})");
+    const Json view =
+        RunForJson(L"view --size 300x250 --tray INTRAYLCT --output-flag 2 --output-flag 9 --machine Zw\u00F6lf"
+                   + pictures.Out(L"a b.png"));
+    Json expected =
+        Json::parse(R"({"width": 300, "height": 250, "paperPath": true, "tray": "InTrayLCT", "outputFlags": [2, 9]})");
     expected["path"] = (pictures.path / "a b.png").u8string();
     EXPECT_EQ(view["picture"], expected);
     EXPECT_EQ(view["printer"], nullptr);
-    EXPECT_EQ(view["options"][0],
-              Json({{"feature", "OpMachine"}, {"item", "OpMachine2"}, {"name", "Zw\u00F6lf"}}));
+    EXPECT_EQ(view["options"][0], Json({{"feature", "OpMachine"}, {"item", "OpMachine2"}, {"name", "Zw\u00F6lf"}}));
 }
 
 // Over the library the device reports its units, over SNMP its trays.
@@ -77,8 +75,7 @@ TEST(WorkbenchPictures, ViewAppliesReportedOptionsOfEitherTransport) {
     } cases[] = {{ProgramFolder(), "bidirectional library", "OpOutTrayUnit1", "EnaOpInTray3"},
                  {noLibrary.path, "SNMP", "EnaOpInTray3", "OpOutTrayUnit1"}};
     for (const auto& c : cases) {
-        const Result result =
-            RunWorkbench(L"view --json --from 127.0.162.1" + pictures.Out(L"view.png"), c.folder);
+        const Result result = RunWorkbench(L"view --json --from 127.0.162.1" + pictures.Out(L"view.png"), c.folder);
         const Json view = Json::parse(result.output);
         EXPECT_NE(Contents(pictures.path / "view.png"), plain);
         EXPECT_EQ(view["printer"], Json({{"address", "127.0.162.1"}, {"transport", c.transport}}));
@@ -107,8 +104,7 @@ TEST(WorkbenchPictures, FailureSaysWhatIsWrongAndKeepsTheFile) {
     ExpectFailure(L"view", 2, "--out is required");
     ExpectFailure(L"gallery --out \"\"", 2, "--out lacks");
     ExpectFailure(L"view --set OpRoof=EnaOpRoof" + out, 2, "no option feature 'OpRoof'; possible: OpMachine");
-    ExpectFailure(L"view --tray InTray9" + out, 2,
-                  "'InTray9'; possible: InTrayAuto, InTray1.*InTrayLCT, InTrayManual");
+    ExpectFailure(L"view --tray InTray9" + out, 2, "'InTray9'; possible: InTrayAuto, InTray1.*InTrayLCT, InTrayManual");
     ExpectFailure(L"view --output-flag 10" + out, 2, "--output-flag: .*10 .*1 to 9");
     for (const wchar_t* size : {L"0x200", L"200x4097", L"200", L"200x200x", L"200x00200"})
         ExpectFailure(L"view --size " + (size + out), 2, "--size: '.*' is not a size.*WxH.*1 to 4096");

@@ -9,8 +9,8 @@ namespace {
 struct SheetFolder : Folder {
     SheetFolder() : Folder(L"workbench_sheet") {}
     Json Tour(const std::wstring& options = L"") const {
-        return RunForJson(L"tour --out \"" + path.wstring() + L"\" --state \""
-                          + (path / "kept.json").wstring() + L"\"" + options);
+        return RunForJson(L"tour --out \"" + path.wstring() + L"\" --state \"" + (path / "kept.json").wstring() + L"\""
+                          + options);
     }
 };
 
@@ -30,8 +30,7 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
     EXPECT_EQ(first["pictures"].size(), 4);
     EXPECT_TRUE(fs::exists(folder.path / "page-version.png"));
     // OK of the colour dialog also writes new records of the RGB sources.
-    EXPECT_EQ(Changes(first).find("inputTray:7:258 mediaType:257:261 image.colorMatch:1:3 "), 0u)
-        << Changes(first);
+    EXPECT_EQ(Changes(first).find("inputTray:7:258 mediaType:257:261 image.colorMatch:1:3 "), 0u) << Changes(first);
 
     const Json second = folder.Tour();
     EXPECT_EQ(second["printer"]["toldBy"], "");
@@ -55,8 +54,7 @@ TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {
 TEST(WorkbenchSheet, UnfitPartsOfTheStateFileAreIgnored) {
     const SheetFolder folder;
     const auto keep = [&](const std::string& text) { std::ofstream(folder.path / "kept.json") << text; };
-    keep(
-        R"({"address": 7, "options": {"OpFAXUnit": "NoSuch", "Other": "x"}, "settings": "zz", "trays": "00"})");
+    keep(R"({"address": 7, "options": {"OpFAXUnit": "NoSuch", "Other": "x"}, "settings": "zz", "trays": "00"})");
     const Json fitting = folder.Tour();
     EXPECT_EQ(ItemOf(fitting, "OpHDD"), "DisOpHDD");
     EXPECT_EQ(fitting["settings"]["trouble"], "");

@@ -52,8 +52,7 @@ Folder::Folder(const wchar_t* name, const std::vector<std::string>& files)
     fs::remove_all(path, isInUse);
     fs::create_directory(path);
     for (const std::string& file : files) // without '=' the source is the name
-        fs::copy_file(ProgramFolder() / file.substr(file.find('=') + 1),
-                      path / file.substr(0, file.find('=')));
+        fs::copy_file(ProgramFolder() / file.substr(file.find('=') + 1), path / file.substr(0, file.find('=')));
 }
 
 Folder::~Folder() {
@@ -74,8 +73,8 @@ Result RunWorkbench(const std::wstring& arguments, const fs::path& folder) {
     STARTUPINFOEXW start = {};
     start.lpAttributeList = reinterpret_cast<LPPROC_THREAD_ATTRIBUTE_LIST>(attributes.data());
     InitializeProcThreadAttributeList(start.lpAttributeList, 1, 0, &size);
-    UpdateProcThreadAttribute(start.lpAttributeList, 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, files,
-                              sizeof(files), nullptr, nullptr);
+    UpdateProcThreadAttribute(start.lpAttributeList, 0, PROC_THREAD_ATTRIBUTE_HANDLE_LIST, files, sizeof(files),
+                              nullptr, nullptr);
     start.StartupInfo.cb = sizeof(start);
     start.StartupInfo.dwFlags = STARTF_USESTDHANDLES;
     start.StartupInfo.hStdOutput = files[0];

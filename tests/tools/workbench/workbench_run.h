@@ -16,8 +16,7 @@ fs::path ProgramFolder();
 // A new folder next to the test program, with copies of files from there. Programs that run at the same time
 // have folders of their own. Files that a process still has open are removed by the next run.
 struct Folder {
-    explicit Folder(const wchar_t* name,
-                    const std::vector<std::string>& files = {}); // "NAME" or "NAME=SOURCE"
+    explicit Folder(const wchar_t* name, const std::vector<std::string>& files = {}); // "NAME" or "NAME=SOURCE"
     ~Folder();
     Folder(const Folder&) = delete;
     Folder& operator=(const Folder&) = delete;

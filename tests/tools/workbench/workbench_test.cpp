@@ -55,9 +55,8 @@ TEST(Workbench, TextsListsControlsColorsAndColumns) {
     EXPECT_EQ(texts["destinations"]["Text_Destination"][0]["key"], "Text_DestAuto");
 
     EXPECT_EQ(Pick(texts["mediaTypeLists"]["MediaTypeList_Orient"], "value"), Json({1, 2, -1}));
-    EXPECT_EQ(Pick(texts["mediaTypeColumns"], "title"),
-              Json({"Paper source", "Paper size", "Orientation", "Paper type", "Paper weight", "Paper colour",
-                    "Holes"}));
+    EXPECT_EQ(Pick(texts["mediaTypeColumns"], "title"), Json({"Paper source", "Paper size", "Orientation", "Paper type",
+                                                              "Paper weight", "Paper colour", "Holes"}));
     EXPECT_EQ(Pick(texts["mediaTypeColumns"], "shown"), Json(std::vector<bool>(7, true))); // TYPE1
 }
 
@@ -66,8 +65,7 @@ TEST(Workbench, CapabilitiesFollowInstalledOptions) {
     for (const wchar_t* tray : {L"InTray2", L"InTray3", L"InTray4", L"InTray5", L"InTrayLCT"})
         all += std::wstring(L" --set Op") + tray + L"=EnaOp" + tray;
     EXPECT_EQ(Pick(RunForJson(all)["answers"], "answer"), Json({8, 8, 1, 1}));
-    const Json removed =
-        RunForJson(all + L" --set opintray3=DISOPINTRAY3 --set OpOutTrayUnit=DisOpOutTrayUnit");
+    const Json removed = RunForJson(all + L" --set opintray3=DISOPINTRAY3 --set OpOutTrayUnit=DisOpOutTrayUnit");
     EXPECT_EQ(Pick(removed["paperSources"], "bin"), Json({7, 257, 258, 260, 261, 1000, 4}));
     EXPECT_EQ(removed["paperSources"][3]["name"], "Tray 4");
     EXPECT_EQ(Pick(removed["answers"], "answer"), Json({7, 7, 1, 0}));
@@ -112,14 +110,12 @@ TEST(Workbench, QueryReportsSnmpAnswers) {
 
 TEST(Workbench, StatusReportsLibraryAnswers) {
     const Json equipped = RunForJson(L"status 127.0.162.1");
-    EXPECT_EQ(Pick(equipped["options"], "option"),
-              Json({"OpMachine", "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit", "OpMailBinKit", "OpSaddleKit",
-                    "OpFAXUnit", "OpHDD"}));
+    EXPECT_EQ(Pick(equipped["options"], "option"), Json({"OpMachine", "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit",
+                                                         "OpMailBinKit", "OpSaddleKit", "OpFAXUnit", "OpHDD"}));
     EXPECT_EQ(equipped["options"][3]["answer"], "OpPunchKit3");
     EXPECT_EQ(Pick(equipped["trays"], "tray"),
               Json({"InTray1", "InTray2", "InTray3", "InTray4", "InTrayLCT", "InTrayManual"}));
-    EXPECT_EQ(equipped["trays"][2],
-              Json::parse(R"({"tray": "InTray3", "size": "8half11", "type": "Letterhead",
+    EXPECT_EQ(equipped["trays"][2], Json::parse(R"({"tray": "InTray3", "size": "8half11", "type": "Letterhead",
         "orientation": "MediaTypeList_Landscape", "level": 120, "weight": null, "color": null, "hole": null})"));
 }
 
@@ -127,8 +123,7 @@ TEST(Workbench, StatusSaysWhichCheckFailed) {
     const auto checks = [](const wchar_t* address) {
         const Json status = RunForJson(std::wstring(L"status ") + address);
         const Json& printer = status["printer"];
-        return Json(
-            {printer["libraryUsable"], printer["reached"], printer["thisModel"], status["trays"].size()});
+        return Json({printer["libraryUsable"], printer["reached"], printer["thisModel"], status["trays"].size()});
     };
     EXPECT_EQ(checks(L"127.0.162.1"), Json({true, true, true, 6}));
     EXPECT_EQ(checks(L"127.0.162.3"), Json({true, true, false, 0}));
@@ -143,8 +138,7 @@ TEST(Workbench, StatusSaysWhereLibraryIsLookedFor) {
     const Folder complete(L"Dr\u00FCcker \u30D7\u30EA\u30F3\u30BF", // a folder may have any name
                           {"TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_B.DLL"});
     for (const Folder* folder : {&missing, &incomplete}) {
-        const Json printer =
-            Json::parse(RunWorkbench(L"status 127.0.162.1 --json", folder->path).output)["printer"];
+        const Json printer = Json::parse(RunWorkbench(L"status 127.0.162.1 --json", folder->path).output)["printer"];
         EXPECT_EQ(printer["libraryUsable"], false);
         EXPECT_EQ(printer["reached"], nullptr);
         const std::string hint = printer["hint"];
