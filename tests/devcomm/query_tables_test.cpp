@@ -1,4 +1,4 @@
-// The static tables of the printer queries, octet by octet at their published offsets.
+// The constant tables of the printer queries, byte by byte at their published offsets.
 #include "support/raw_bytes.h"
 #include "telmar_d.h"
 
@@ -16,7 +16,6 @@ TEST(QueryTables, ModelCheckIsOff) {
     EXPECT_EQ(Differences(MIB_ModelCheckInfo(), RawBytes(520)), "");
 }
 
-// What the queries make of them is tested with these.
 TEST(QueryTables, Options) {
     EXPECT_EQ(Differences(MIB_OptionReqInfo(), RawBytes(8).U32(0, 13)), "");
     std::string keys;
@@ -26,34 +25,27 @@ TEST(QueryTables, Options) {
                     "OpOutTray1 OpOutTray2 OpOutTray3 OpOutTray4 OpDuplex");
 }
 
+// Which objects each supply asks for, and what it reports, is tested with the queries.
 TEST(QueryTables, Supplies) {
-    // clang-format off
-    const struct {
-        const char* name;
-        uint32_t kind, callerFlag, levelFlag;
-        const char* suffix;
-        uint32_t color;
-    } rows[] = {
-        {"Consumable1", 0, 0, 0, "", 0}, {"Consumable2", 1, 1, 0, ".1.1", 0x00FFFF00},
-        {"Consumable3", 1, 1, 0, ".1.2", 0x00FF00FF}, {"Consumable4", 1, 1, 0, ".1.3", 0x0000FFFF},
-        {"Consumable5", 1, 1, 0, ".1.4", 0}, {"Consumable6", 3, 0, 0, "", 0}, {"Consumable7", 3, 1, 0, "", 0},
-        {"Consumable8", 3, 1, 0, "", 0}, {"Consumable9", 3, 1, 0, "", 0}, {"Consumable10", 3, 1, 0, "", 0},
-        {"Consumable11", 2, 0, 1, ".1.8", 0}, {"Consumable12", 3, 0, 0, "", 0}, {"", 999, 0, 0, "", 0},
-    };
-    RawBytes items(0);
-    for (const auto& row : rows)
-        items.Append(RawBytes(80).Text(0, row.name).U32(32, row.kind).U32(36, row.callerFlag)
-                         .U32(40, row.levelFlag).Text(44, row.suffix).U32(76, row.color));
-    const char* capacities = ".1.3.6.1.2.1.43.11.1.1.8";
-    EXPECT_EQ(Differences(MIB_MrkSupReqInfo(), RawBytes(520).Text(0, capacities)
-                              .Text(256, ".1.3.6.1.2.1.43.11.1.1.9").U32(512, 13)), "");
-    // clang-format on
-    EXPECT_EQ(Differences(GET_MrkSupItemList(), items), "");
-    EXPECT_EQ(PointerAt(MIB_MrkSupReqInfo(), 520), reinterpret_cast<Record>(GET_MrkSupItemList()));
+    EXPECT_EQ(Differences(
+                  MIB_MrkSupReqInfo(),
+                  RawBytes(520).Text(0, ".1.3.6.1.2.1.43.11.1.1.8").Text(256, ".1.3.6.1.2.1.43.11.1.1.9").U32(512, 13)),
+              "");
+    const auto* items = reinterpret_cast<Record>(GET_MrkSupItemList());
+    EXPECT_EQ(PointerAt(MIB_MrkSupReqInfo(), 520), items);
+    RawBytes yellow = RawBytes(80).Text(0, "Consumable4").U32(32, 1).U32(36, 1).Text(44, ".1.3").U32(76, 0xFFFF);
+    EXPECT_EQ(Differences(items + 3 * 80, yellow), "");
+    EXPECT_EQ(Differences(items + 10 * 80, RawBytes(80).Text(0, "Consumable11").U32(32, 2).U32(40, 1).Text(44, ".1.8")),
+              "");
+    EXPECT_EQ(Differences(items + 12 * 80, RawBytes(80).U32(32, 999)), "");
+    std::string kindsAndFlags;
+    for (int i = 0; i < 12; ++i)
+        kindsAndFlags += std::to_string(items[80 * i + 32]) + std::to_string(items[80 * i + 36]) + " ";
+    EXPECT_EQ(kindsAndFlags, "00 11 11 11 11 30 31 31 31 31 20 30 ");
 }
 
-// The queries look at neither an overlay's storage nor the default of profiles: others do.
-TEST(QueryTables, WhatNoQueryReads) {
+// No query reads an overlay's storage or the default storage of profiles; callers do.
+TEST(QueryTables, FieldsThatNoQueryReads) {
     const auto* overlays = reinterpret_cast<Record>(MIB_OvlReqInfo());
     const char* storage = ".1.3.6.1.4.1.47913.1.1.1.1.6.12.1.1.5.1";
     EXPECT_EQ(Differences(overlays + 512, RawBytes(260).Text(0, storage).U32(256, 3)), "");

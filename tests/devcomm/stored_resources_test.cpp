@@ -158,32 +158,4 @@ TEST(StoredResources, EndOfALongWalk) {
     EXPECT_EQ(device.asked.back(), kProfile + "5.1.32767");
 }
 
-// Every request of a walk failing in turn, and every allocation in the device's memory.
-TEST(StoredResources, FaultsInTurn) {
-    Answers answers = Rows(kOverlay, {{Number(1), kAbsent}, {Number(2), kAbsent}, {Number(1), kAbsent}});
-    answers.merge(Rows(kProfile, {{Number(4), Number(1)}, {Number(5), Number(3)}}));
-    const struct {
-        void* (*ask)();
-        size_t requests;
-        size_t allocations; // three to ask, one for every other reply, and one for a text
-    } walks[] = {{[]() -> void* { return MIB_OverlayRequest(kAgent, 0); }, 9, 9 * 3 + 5 + 5},
-                 {[]() -> void* { return MIB_ProfileRequest(kAgent); }, 14, 14 * 3 + 7 + 4}};
-    for (const auto& walk : walks)
-        for (const bool inMemory : {false, true}) {
-            const size_t count = inMemory ? walk.allocations : walk.requests;
-            for (size_t failing = 1; failing <= count + 1; ++failing) {
-                SCOPED_TRACE(failing);
-                ScriptedDevice device;
-                device.answers = answers;
-                (inMemory ? device.failingAllocation : device.failingRequest) = failing;
-                void* block = walk.ask();
-                const bool isLast = failing > count;
-                EXPECT_EQ(block != nullptr, isLast);
-                EXPECT_TRUE(isLast || GetLastError() == (inMemory ? kMemoryError : kRequestError));
-                EXPECT_TRUE(inMemory || device.asked.size() == (isLast ? walk.requests : failing));
-                MIB_FreeOverlayInfo(block);
-            }
-        }
-}
-
 } // namespace
