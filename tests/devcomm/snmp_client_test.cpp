@@ -1,4 +1,4 @@
-// Host only: sessions and requests of the built-in client over a scripted wire.
+// Host only: sessions and requests of the built-in client on a simulated network.
 #include "devcomm/snmp/snmp_client.h"
 #include "devcomm/snmp/snmp_values.h"
 #include "support/octets.h"
@@ -12,7 +12,7 @@ namespace {
 using win32::Datagram;
 using Datagrams = std::vector<Datagram>;
 
-constexpr DWORD kErrorBefore = 777; // a last error that nobody sets
+constexpr DWORD kErrorBefore = 777; // a last error that no function sets
 constexpr AsnInteger32 kNothing = 0x5A5A5A5A;
 
 const Octets kSmallest = Hex("30 21 02 01 00 04 00 A0 1A 02 02 01 01 02 01 00 02 01 00 30 0E 30 0C 06 08 2B"
@@ -25,9 +25,9 @@ win32::Wire Answering(const Datagrams& replies) {
 }
 
 // The answer to the n-th sending, and to no other.
-win32::Wire AnsweringAt(int sending, const Datagram& reply) {
+win32::Wire AnsweringAt(unsigned sending, const Datagram& reply) {
     win32::Wire wire;
-    wire.answer = [sending, reply, sendings = 0](const Datagram&) mutable {
+    wire.answer = [sending, reply, sendings = 0u](const Datagram&) mutable {
         return ++sendings == sending ? Datagrams{reply} : Datagrams{};
     };
     return wire;
@@ -98,7 +98,9 @@ TEST(SnmpOpen, AddressPortAndLimit) {
         const char* agent;
         uint32_t address; // network order, read as little-endian
     } cases[] = {
-        {"192.0.2.7", 0x070200C0}, {"printer", 0x0D0C0B0A}, {"255.255.255.255", 0x0100007F}, // that one looks like none
+        {"192.0.2.7", 0x070200C0},
+        {"printer", 0x0D0C0B0A},
+        {"255.255.255.255", 0x0100007F}, // inet_addr reports it as an error
     };
     for (const auto& c : cases) {
         win32::Wire wire;
@@ -156,23 +158,15 @@ TEST(SnmpOpen, Failures) {
     }
 }
 
-TEST(SnmpRequest, SmallestMessageIsSentFiveTimesAndPolledFor) {
-    Client client({}, "");
-    EXPECT_EQ(client.Failure(), 4102u);
-    EXPECT_EQ(win32::ReadWire().sent, Datagrams(5, kSmallest));
-    EXPECT_EQ(win32::ReadWire().polls, 50000u);
-    EXPECT_EQ(win32::ReadWire().receives, 0u);
-}
-
 TEST(SnmpRequest, SeveralVarBinds) {
     Client client({}, "", 5);
     SnmpVarBind* varBinds = client.list.list;
     ClientOidFree(&varBinds[0].name);
     ASSERT_TRUE(ClientStrToOid("1.3.6.1", &varBinds[0].name));
     ASSERT_TRUE(ClientStrToOid("2.39.128", &varBinds[1].name));
-    varBinds[1].value.asnType = ASN_INTEGER; // goes with its name only
+    varBinds[1].value.asnType = ASN_INTEGER; // sent with its name only
     UINT single[] = {1};
-    varBinds[2].name = {1, single}; // can't be encoded: left out
+    varBinds[2].name = {1, single}; // can't be encoded, is left out
     UINT beyond[] = {1, 40, 1};
     varBinds[3].name = {3, beyond};
     varBinds[3].value.asnType = ASN_OCTETSTRING;
@@ -249,21 +243,24 @@ TEST(SnmpRequest, IdsOfALongSession) {
 
     win32::SetWire(Answering({To("02 02 80 00").Message(), To("02 03 00 80 00").Message()}));
     EXPECT_TRUE(client.Request());
-    EXPECT_EQ(win32::ReadWire().receives, 2u) << "the first is that of -32768";
+    EXPECT_EQ(win32::ReadWire().receives, 2u) << "the first has the id -32768";
     const Datagram last = win32::ReadWire().sent.at(0);
     EXPECT_EQ(Octets(last.begin() + 13, last.begin() + 20), Hex("A0 1B 02 03 00 80 00"));
 }
 
-TEST(SnmpRequest, AnswerToALaterSending) {
-    for (int sending = 1; sending <= 6; ++sending) {
-        Client client(AnsweringAt(sending, kReply));
-        EXPECT_EQ(client.Request(), sending <= 5);
+TEST(SnmpRequest, IsSentFiveTimesUntilAnAnswerComes) {
+    for (unsigned sending = 1; sending <= 6; ++sending) {
+        Client client(AnsweringAt(sending, kReply), "");
+        const bool isAnswered = sending <= 5;
+        if (isAnswered) {
+            EXPECT_TRUE(client.Request());
+        } else {
+            EXPECT_EQ(client.Failure(), 4102u);
+        }
         const win32::WireRecord record = win32::ReadWire();
-        EXPECT_EQ(record.sent.size(), std::min<size_t>(static_cast<size_t>(sending), 5));
-        EXPECT_EQ(record.polls, sending <= 5 ? static_cast<unsigned>(sending - 1) * 10000 + 1 : 50000u);
-        EXPECT_EQ(record.receives, sending <= 5 ? 1u : 0u);
-        for (const Datagram& sent : record.sent)
-            EXPECT_EQ(sent, record.sent[0]);
+        EXPECT_EQ(record.sent, Datagrams(std::min(sending, 5u), kSmallest));
+        EXPECT_EQ(record.polls, isAnswered ? (sending - 1) * 10000 + 1 : 50000);
+        EXPECT_EQ(record.receives, isAnswered ? 1u : 0u);
     }
 }
 
@@ -312,43 +309,32 @@ TEST(SnmpReceive, SeveralVarBinds) {
     EXPECT_TRUE(client.list.list[1].name.ids == nullptr);
 }
 
+// Of a stale reply nothing after the request-id is read; what comes before it is. The five datagrams that are
+// received at most need one poll.
 TEST(SnmpReceive, StaleReplies) {
-    for (size_t stale = 0; stale <= 5; ++stale) {
-        Datagrams replies(stale, kStale);
-        replies.push_back(kReply);
-        Client client(Answering(replies));
-        if (stale < 5) {
-            EXPECT_TRUE(client.Request());
-            EXPECT_EQ(GetLastError(), kErrorBefore);
-        } else {
-            EXPECT_EQ(client.Failure(), 3u);
-        }
-        EXPECT_EQ(win32::ReadWire().receives, std::min<size_t>(stale + 1, 5));
-        EXPECT_EQ(win32::ReadWire().sent.size(), 1u);
-        EXPECT_EQ(win32::ReadWire().polls, 1u) << "none before the receives that follow";
-    }
-}
-
-// Of a stale reply what lies behind the request-id is not looked at; what lies before it is.
-TEST(SnmpReceive, StaleAndMore) {
-    ReplyParts stale = To("02 02 01 00");
+    ReplyParts stale = To("02 02 01 00"), foreign = stale, nameless = stale;
     stale.status = Hex("FF FF FF");
-    ReplyParts foreign = To("02 02 01 00");
     foreign.community = Hex("04 01 78");
-    ReplyParts nameless = To("02 02 01 00");
     nameless.version = {};
+    Datagrams four(4, kStale), five(5, kStale);
+    four.push_back(kReply);
+    five.push_back(kReply);
     const struct {
         Datagrams replies;
+        unsigned receives;
         bool succeeds;
         DWORD lastError;
     } cases[] = {
-        {{stale.Message(), kReply}, true, kErrorBefore},
-        {{foreign.Message(), kReply}, true, 5},
-        {{nameless.Message(), kReply}, false, 11},
-        {{kStale, {}, kReply}, false, 11}, // empty, with the stale one still in the buffer
-        {{kStale}, false, 0xFFFFFFFF},     // and then silence
+        {four, 5, true, kErrorBefore},
+        {five, 5, false, 3},
+        {{stale.Message(), kReply}, 2, true, kErrorBefore},
+        {{foreign.Message(), kReply}, 2, true, 5},
+        {{nameless.Message(), kReply}, 1, false, 11},
+        {{kStale, {}, kReply}, 2, false, 11}, // empty, with the stale one still in the buffer
+        {{kStale}, 2, false, 0xFFFFFFFF},     // and then nothing
     };
     for (const auto& c : cases) {
+        SCOPED_TRACE(&c - cases);
         Client client(Answering(c.replies));
         if (c.succeeds) {
             EXPECT_TRUE(client.Request());
@@ -356,6 +342,9 @@ TEST(SnmpReceive, StaleAndMore) {
         } else {
             EXPECT_EQ(client.Failure(), c.lastError);
         }
+        const win32::WireRecord record = win32::ReadWire();
+        EXPECT_EQ(record.receives, c.receives);
+        EXPECT_TRUE(record.sent.size() == 1 && record.polls == 1);
     }
 }
 
@@ -399,8 +388,8 @@ TEST(SnmpReceive, MalformedRepliesLeaveTheList) {
     }
 }
 
-// The datagram before, as long as a whole reply, still lies in the receive buffer: it must not complete a cut
-// one.
+// The receive buffer still has the datagram before, which is as long as a whole reply. It must not complete one
+// that is cut short.
 TEST(SnmpReceive, EndsWithItsDatagramNotWithTheBuffer) {
     for (size_t count = 0; count < kReply.size(); ++count) {
         Client client(Answering({kStale, Octets(kReply.begin(), kReply.begin() + static_cast<long>(count))}));
