@@ -1,7 +1,7 @@
-// Queries through the exports, over the network, of agents that answer on loopback while the program runs
-// (agents.list): net-snmp's own and the simulated printer, sound and with faults. The callers' records are
-// laid out byte by byte, as another compiler's callers would.
+// Queries through the built DLL on the network, with printers that answer on loopback while the program runs
+// (agents.list): net-snmp's agent and the simulated printer, without and with faults.
 #include "product.h"
+#include "telmar_d.h"
 
 #include <gtest/gtest.h>
 #include <string>
@@ -15,107 +15,61 @@ constexpr DWORD kNoAnswer = 4102;
 constexpr DWORD kMalformed = 11;
 constexpr DWORD kOtherRequests = 3;
 
-struct OptionItem {
-    char key[32];
-    char value[32];
-};
-static_assert(sizeof(OptionItem) == 64);
+using Words = std::vector<std::string>;
 
-struct SupplyItem {
-    char name[32];
-    int32_t state;
-    int32_t value;
-    uint32_t color;
-};
-static_assert(sizeof(SupplyItem) == 44);
-
-struct Entry {
-    char first[128];
-    char second[128];
-    char storage[32];
-};
-static_assert(sizeof(Entry) == 288);
-
-// A list of a result block: count, padding, pointer.
-struct List {
-    int32_t count;
-    int32_t padding;
-    const Entry* entries;
-};
-static_assert(sizeof(List) == 16);
-
-std::string Text(const Entry& entry) {
-    return std::string(entry.first) + " | " + entry.second + " | " + entry.storage;
+Words EntriesOf(const TelmarStoredResourceList& list) {
+    Words entries;
+    for (const auto* entry = list.entries; entry != list.entries + list.count; ++entry)
+        entries.push_back(std::string(entry->first) + " | " + entry->second + " | " + entry->storage);
+    return entries;
 }
 
-std::vector<std::string> Texts(const List& list) {
-    std::vector<std::string> texts;
-    for (int32_t i = 0; i < list.count; ++i)
-        texts.push_back(Text(list.entries[i]));
-    return texts;
-}
+// The module's export of this name, with its type.
+#define EXPORT(name) module.Export<decltype(name)>(#name)
 
 struct Query : testing::Test {
-    // As in the processes that load the module, Windows Sockets stays: wine's opens no socket once it was
-    // unloaded.
+    // As in the processes that load the module, Windows Sockets stays loaded: wine's opens no socket after it
+    // has been unloaded.
     static void SetUpTestSuite() { ASSERT_NE(LoadLibraryW(L"ws2_32.dll"), nullptr); }
 
-    bool IsReached(const char* agent) const {
-        return module.Export<int WINAPI(const char*)>("MIB_IsAccessOK")(agent) != 0;
-    }
-
-    std::vector<std::string> Options(const char* agent, const std::vector<const char*>& keys) const {
-        std::vector<OptionItem> items(keys.size());
-        for (size_t i = 0; i < keys.size(); ++i) {
+    Words Options(const char* agent, const std::vector<const char*>& keys) const {
+        Words values;
+        std::vector<TelmarOptionRequestItem> items(keys.size());
+        for (size_t i = 0; i < keys.size(); ++i)
             strcpy(items[i].key, keys[i]);
-            memset(items[i].value, 'x', sizeof(items[i].value));
-        }
-        using Function = int WINAPI(const char*, DWORD, OptionItem*);
-        EXPECT_EQ(module.Export<Function>("MIB_OptionRequest")(agent, static_cast<DWORD>(items.size()), items.data()),
-                  TRUE);
-        std::vector<std::string> answers;
-        for (const OptionItem& item : items)
-            answers.emplace_back(item.value, strnlen(item.value, sizeof(item.value)));
-        return answers;
+        EXPECT_EQ(EXPORT(MIB_OptionRequest)(agent, static_cast<DWORD>(items.size()), items.data()), TRUE);
+        for (const auto& item : items)
+            values.emplace_back(item.value);
+        return values;
     }
 
     // State, value and colour of each supply, as one text.
-    std::vector<std::string> Supplies(const char* agent, const std::vector<const char*>& names) const {
-        std::vector<SupplyItem> items(names.size());
-        for (size_t i = 0; i < names.size(); ++i) {
+    Words Supplies(const char* agent, const std::vector<const char*>& names) const {
+        Words values;
+        std::vector<TelmarMrkSupRequestItem> items(names.size());
+        for (size_t i = 0; i < names.size(); ++i)
             strcpy(items[i].name, names[i]);
-            items[i].state = items[i].value = -1;
-        }
-        using Function = int WINAPI(const char*, DWORD, SupplyItem*);
-        EXPECT_EQ(module.Export<Function>("MIB_MrkSupRequest")(agent, static_cast<DWORD>(items.size()), items.data()),
-                  TRUE);
-        std::vector<std::string> answers;
-        for (const SupplyItem& item : items) {
+        EXPECT_EQ(EXPORT(MIB_MrkSupRequest)(agent, static_cast<DWORD>(items.size()), items.data()), TRUE);
+        for (const auto& item : items) {
             char text[64];
-            snprintf(text, sizeof(text), "%d %d %06x", static_cast<int>(item.state), static_cast<int>(item.value),
-                     static_cast<unsigned>(item.color));
-            answers.emplace_back(text);
+            snprintf(text, sizeof(text), "%d %d %06x", int{item.state}, int{item.value}, unsigned{item.color});
+            values.emplace_back(text);
         }
-        return answers;
+        return values;
     }
 
-    const List* Overlays(const char* agent, int storage) const {
-        return module.Export<const List * WINAPI(const char*, int)>("MIB_OverlayRequest")(agent, storage);
+    Words Overlays(const char* agent, int storage) const {
+        TelmarOverlayInfo* block = EXPORT(MIB_OverlayRequest)(agent, storage);
+        const Words overlays = block != nullptr ? EntriesOf(block->list) : Words{"none"};
+        EXPORT(MIB_FreeOverlayInfo)(block);
+        return overlays;
     }
-
-    const List* Profiles(const char* agent) const {
-        return module.Export<const List * WINAPI(const char*)>("MIB_ProfileRequest")(agent);
-    }
-
-    void Free(const List* block) const { module.Export<void WINAPI(const void*)>("MIB_FreeProfileInfo")(block); }
 
     LoadedModule module;
 };
 
-using Words = std::vector<std::string>;
-
-TEST_F(Query, AnAgentThatNobodyHereWrote) {
-    EXPECT_TRUE(IsReached(kNetSnmp));
+TEST_F(Query, NetSnmpAgent) {
+    EXPECT_TRUE(EXPORT(MIB_IsAccessOK)(kNetSnmp));
     EXPECT_EQ(Options(kNetSnmp, {"OpMemory", "OpHDD", "opinTRAY3", "OpInTray2", "OpDuplex", "OpManualFeed",
                                  "OpOutTray2", "NoSuchOption"}),
               Words({"640MB", "DisOpHDD", "EnaOpInTray3", "DisOpInTray2", "DisOpDuplex", "EnaOpManualFeed",
@@ -126,28 +80,21 @@ TEST_F(Query, AnAgentThatNobodyHereWrote) {
         Supplies(kNetSnmp, {"Consumable2", "Consumable3", "Consumable4", "Consumable5", "consumable11", "Consumable7",
                             "Consumable1"}),
         Words({"1 33 ffff00", "1 100 ff00ff", "0 0 000000", "1 100 000000", "2 3 000000", "3 0 000000", "0 0 000000"}));
-
-    const List* overlays = Overlays(kNetSnmp, 1);
-    ASSERT_NE(overlays, nullptr);
-    EXPECT_EQ(Texts(*overlays),
+    EXPECT_EQ(Overlays(kNetSnmp, 0), Words({"second two | first two | OvlForm_HDD"}));
+    EXPECT_EQ(Overlays(kNetSnmp, 1),
               Words({"second one | first one | OvlForm_HDD", "second three | first three | OvlForm_HDD"}));
-    Free(overlays);
-    overlays = Overlays(kNetSnmp, 0);
-    ASSERT_NE(overlays, nullptr);
-    EXPECT_EQ(Texts(*overlays), Words({"second two | first two | OvlForm_HDD"}));
-    Free(overlays);
 
-    const List* profiles = Profiles(kNetSnmp);
+    TelmarProfileInfo* profiles = EXPORT(MIB_ProfileRequest)(kNetSnmp);
     ASSERT_NE(profiles, nullptr);
-    EXPECT_EQ(Texts(profiles[0]), Words({"first RGB | second RGB | internalROM"}));
-    EXPECT_EQ(Texts(profiles[1]), Words({"first out | second out | Prof_Flash"}));
-    EXPECT_EQ(Texts(profiles[2]), Texts(profiles[1]));
-    EXPECT_NE(profiles[1].entries, profiles[2].entries) << "each list has an entry of its own";
-    Free(profiles);
+    EXPECT_EQ(EntriesOf(profiles->lists[0]), Words({"first RGB | second RGB | internalROM"}));
+    for (const int list : {1, 2})
+        EXPECT_EQ(EntriesOf(profiles->lists[list]), Words({"first out | second out | Prof_Flash"}));
+    EXPECT_NE(profiles->lists[1].entries, profiles->lists[2].entries) << "each list has an entry of its own";
+    EXPORT(MIB_FreeProfileInfo)(profiles);
 }
 
-// A query that gets no usable answer says so, and by its last error why; nothing crashes or hangs. A fault
-// that can be lived with changes nothing.
+// A query without a usable answer fails, with the reason as the last error; nothing crashes or hangs. Other
+// faults change nothing.
 TEST_F(Query, Faults) {
     const struct {
         const char* agent;
@@ -155,8 +102,8 @@ TEST_F(Query, Faults) {
         const char* tray;
         DWORD lastError; // of a profile request; 0: it succeeds
     } cases[] = {
-        {"127.0.161.10", false, "", kNoAnswer},      // silent
-        {"127.0.161.11", true, "EnaOpInTray1", 0},   // heard at the third sending
+        {"127.0.161.10", false, "", kNoAnswer},      // unresponsive
+        {"127.0.161.11", true, "EnaOpInTray1", 0},   // answers the third attempt
         {"127.0.161.12", true, "EnaOpInTray1", 0},   // three answers to other requests first
         {"127.0.161.13", false, "", kOtherRequests}, // five of them
         {"127.0.161.14", true, "EnaOpInTray1", 0},   // another community
@@ -169,17 +116,13 @@ TEST_F(Query, Faults) {
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.agent);
-        EXPECT_EQ(IsReached(c.agent), c.reached);
+        EXPECT_EQ(EXPORT(MIB_IsAccessOK)(c.agent) != FALSE, c.reached);
         EXPECT_EQ(Options(c.agent, {"OpInTray1", "OpManualFeed"}), Words({c.tray, "EnaOpManualFeed"}));
-        const List* profiles = Profiles(c.agent);
-        const DWORD lastError = GetLastError();
-        EXPECT_EQ(profiles != nullptr, c.lastError == 0);
-        if (c.lastError != 0) {
-            EXPECT_EQ(lastError, c.lastError);
-        }
-        Free(profiles);
+        TelmarProfileInfo* profiles = EXPORT(MIB_ProfileRequest)(c.agent);
+        EXPECT_TRUE(c.lastError == 0 ? profiles != nullptr : profiles == nullptr && GetLastError() == c.lastError);
+        EXPORT(MIB_FreeProfileInfo)(profiles);
     }
-    EXPECT_EQ(Options("127.0.161.19", {"OpMemory"}), Words({"512MB"})) << "kept as the number that it is";
+    EXPECT_EQ(Options("127.0.161.19", {"OpMemory"}), Words({"512MB"})) << "of any type of number";
     EXPECT_EQ(Supplies("127.0.161.10", {"Consumable2", "Consumable7"}), Words({"0 0 000000", "3 0 000000"}));
 }
 
