@@ -1,14 +1,13 @@
 // telmar_d.h: the public interface of TELMAR_D.DLL, the device-dependent procedure module of the QUORVANE
 // lumora R880. It declares the module's 26 exports, the records that they exchange with their callers, the
 // functions of TELMAR_U.DLL that the module's dialogs call, and the two messages that go with the dialogs. It
-// stands alone: C11, C++11 and later, for Windows x86-64. Where to begin: docs/using_the_module.md.
+// stands alone: C11, C++11 and later, for Windows x86-64.
 //
 // What holds for every export unless its comment says otherwise:
 // - Thread: any, and several at once. Each export finishes its work within the call.
 // - Memory: what the caller passes stays the caller's and is not kept beyond the call. Constant tables that
-// an export
-//   returns belong to the module and are valid as long as it is loaded.
-// - Errors: FALSE, 0 or null says no. The last error is as the caller left it.
+//   an export returns belong to the module and are valid as long as it is loaded.
+// - Errors: FALSE, 0 or null says no. The last error is defined only where a comment gives it.
 // - Texts of type char are 8-bit, those of type wchar_t UTF-16. Both end with a NUL.
 //
 // A key names a feature, an item or a tray, such as "OpHDD" or "InTray1". Keys are compared without regard to
@@ -186,8 +185,10 @@ TELMAR_RECORD(TelmarMachineDetailRecord, 32, TELMAR_MACHINE_DETAIL_RECORD)
     FIELD(R, 20, TelmarMachineDetailRecord*, details,)
 TELMAR_RECORD(TelmarMachineInfoRecord, 28, TELMAR_MACHINE_INFO_RECORD)
 
-// What the file lacks is 0, a list that it lacks is null. Of a range the file gives two values; B is the first, A the
-// second. Which is the upper bound is up to the file.
+// Callers pass it to DDProc_DeviceCapabilities, which reads `inputTrays` alone; the order of the switches is the module's
+// own. The selections are those of front cover, back cover, separator page, interleave, front and back of inserted sheets,
+// and of the per-page list. What the file lacks is 0, a list that it lacks is null. Of a range the file gives two values; B
+// is the first, A the second. Which is the upper bound is up to the file.
 #define TELMAR_DEVICE_TABLE(R, FIELD, GAP) \
     FIELD(R,   0, uint32_t,                     switches,           [TELMAR_SWITCH_COUNT]) /* 1 on, 0 off, or the number of a variant */ \
     FIELD(R, 340, uint16_t,                     copiesA,) \
@@ -432,16 +433,19 @@ TELMAR_CHECK(sizeof(TelmarOemDevmode) == 7808, "TelmarOemDevmode is not of 7808 
     FIELD(R, 144, const TelmarItemRecord*, items,)
 TELMAR_RECORD(TelmarFeatureRecord, 152, TELMAR_FEATURE_RECORD)
 
-// The caller's choices: for each feature of the table, by position, the position of the selected item.
+// One of the caller's choices. An array has one for each feature of the table, by position: the position of the
+// selected item.
 typedef int32_t TelmarFeatureSettings;
 
-// What DrawPrinterView is to show. Flags are set when they are not 0.
+// What DrawPrinterView is to show. Flags are set when they are not 0. The picture shows the options "OpBody",
+// "OpInTrayUnit", "OpOutTrayUnit", "OpHDD", "OpMailBinKit" and "OpSaddleKit", and names the item of "OpMachine" when there
+// are several.
 #define TELMAR_PRINTER_VIEW_REQUEST(R, FIELD, GAP) \
     FIELD(R,  0, uint8_t,                      showsPaperPath,)      /* 0: the machine alone */ \
     FIELD(R,  1, const TelmarFeatureRecord*,   features,)            /* may be null: nothing installed */ \
     FIELD(R,  9, const TelmarFeatureSettings*, settings,)            /* may be null: nothing chosen */ \
     FIELD(R, 17, char,                         inputSlotKey,   [40]) /* the paper source in use, such as "InTray1" */ \
-    FIELD(R, 57, uint32_t,                     outputFlags,    [9])  /* the output destination in use */
+    FIELD(R, 57, uint32_t,                     outputFlags,    [9])  /* in use: 0 to 4 output trays, 5 to 8 bins 1 to 4 of the mail bin kit */
 TELMAR_RECORD(TelmarPrinterViewRequest, 93, TELMAR_PRINTER_VIEW_REQUEST)
 
 // --- The dialogs
@@ -491,7 +495,7 @@ TELMAR_RECORD(TelmarDialogContext, 56, TELMAR_DIALOG_CONTEXT)
     FIELD(R, 116, char,    key,         [32])
 TELMAR_RECORD(TelmarControlTextRecord, 148, TELMAR_CONTROL_TEXT_RECORD)
 
-// The icon control that shows a stop sign beside a control whose choice is refused.
+// The icon control that shows a stop sign next to a control whose choice is refused.
 #define TELMAR_STOP_ICON_RECORD(R, FIELD, GAP) \
     FIELD(R, 0, uint32_t, iconControl,) \
     FIELD(R, 4, uint16_t, control,) \
@@ -588,15 +592,18 @@ TELMAR_RECORD(TelmarMrkSupReqInfo, 528, TELMAR_MRK_SUP_REQ_INFO)
     FIELD(R, 32, int32_t, code,)
 TELMAR_RECORD(TelmarStorageNameRecord, 36, TELMAR_STORAGE_NAME_RECORD)
 
-// The objects of one list: those whose selector holds one of the values. Each value makes a request of its own.
+// The objects of one list: those whose selector object holds one of the values. The object is requested again for each
+// value until one matches.
 #define TELMAR_SELECTOR_RECORD(R, FIELD, GAP) \
     FIELD(R,   0, char,           oid,        [256]) \
     FIELD(R, 256, int32_t,        valueCount,) \
     FIELD(R, 260, int32_t,        padding,) \
-    FIELD(R, 264, const int32_t*, values,) /* each makes a request of its own */
+    FIELD(R, 264, const int32_t*, values,)
 TELMAR_RECORD(TelmarSelectorRecord, 272, TELMAR_SELECTOR_RECORD)
 
-// What printers store: overlays, with a selector for each storage, and colour profiles, with one for each list.
+// What printers store: overlays, with two selectors to choose from, and colour profiles, with a selector for each list.
+// An overlay's entry gets the text at `secondOid` as its first, that at `firstOid` as its second text, and always the
+// default storage. A profile's entry gets them in order, and the storage whose code is at `storageCodeOid`.
 #define TELMAR_OVERLAY_REQ_INFO(R, FIELD, GAP) \
     TELMAR_STORED_RESOURCES(R, FIELD) \
     FIELD(R, 816, TelmarSelectorRecord, selectors, [TELMAR_OVERLAY_SELECTORS])
@@ -628,7 +635,7 @@ TELMAR_RECORD(TelmarOptionRequestItem, 64, TELMAR_OPTION_REQUEST_ITEM)
     FIELD(R, 40, uint32_t, color,) /* COLORREF, 0x00BBGGRR; 0 unless a percentage */
 TELMAR_RECORD(TelmarMrkSupRequestItem, 44, TELMAR_MRK_SUP_REQUEST_ITEM)
 
-// One stored overlay or colour profile.
+// One stored overlay or colour profile. Which object each text is from, see the records of the requests above.
 #define TELMAR_STORED_RESOURCE_ENTRY(R, FIELD, GAP) \
     FIELD(R,   0, char, first,   [128]) \
     FIELD(R, 128, char, second,  [128]) \
@@ -681,8 +688,9 @@ extern "C" {
 // --- Exports: picture and capabilities
 
 // Draws the picture of the printer and its installed units, on white, as large as the rectangle (logical
-// units of the target), at the target's origin. It is composed off-screen and copied at once; without memory
-// for that it is drawn on the target itself. A null rectangle or request draws nothing. Every graphics object
+// units of the target). Left and top of the rectangle are to be 0: the picture is composed off-screen and
+// copied to the target's origin, and a rectangle elsewhere is cropped. Without memory for that it is drawn on
+// the target itself, within the rectangle. A null rectangle or request draws nothing. Every graphics object
 // made is released.
 void WINAPI DrawPrinterView(HDC target, const RECT* rectangle, const TelmarPrinterViewRequest* request);
 
@@ -703,9 +711,8 @@ void WINAPI DrawLogoVersionTab(HDC context, const void* reserved, LONG x, LONG y
 // installed.
 // - device: its input trays are listed; null: there are none.
 // - features, settings: the installed options; null: none.
-// - output: for DC_BINS an array of WORD, for DC_BINNAMES of TELMAR_BIN_NAME_LENGTH characters, an element
-// per usable
-//   paper source; null asks for the count alone.
+// - output: an element for each usable paper source, a WORD for DC_BINS, TELMAR_BIN_NAME_LENGTH characters
+//   for DC_BINNAMES; null asks for the count alone.
 // - answer: the count, or 1 for yes and 0 for no; may be null. `reserved` is not read.
 // FALSE for any other capability, with nothing written.
 BOOL WINAPI DDProc_DeviceCapabilities(const TelmarDeviceTable* device, const TelmarFeatureRecord* features,
@@ -731,9 +738,13 @@ void* WINAPI DDProc_FeatureNameValuePtr(void);
 #define TELMAR_WM_TRAYS_CHANGED (WM_USER + 104)
 
 // Handles one message of the model's dialogs: 122 to 125 and 128 (colours) and 156 (the page with the
-// tray-settings button). `handled`, which may be null, is set to 1 when the dialog has handled the message.
-// Returns the dialog procedure's result; 0, with nothing handled, for other dialogs. Thread: the dialog's.
-// One dialog may be open at a time: the module keeps the state of the open one.
+// tray-settings button). Returns the dialog procedure's result; 0, with nothing handled, for other dialogs.
+// - Context: a colour dialog gets its TelmarDialogContext as the parameter of WM_INITDIALOG and keeps the
+//   pointer in DWLP_USER of its window. For page 156 the caller has put it there; without it the button does
+//   nothing.
+// - handled: set to 1 when a colour dialog has handled the message, otherwise unchanged, so clear it before
+//   the call. Page 156 never sets it. It may be null; the entries of lists are then not drawn.
+// - Thread: the dialog's. One dialog may be open at a time: the module keeps the state of the open one.
 int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                               int32_t* handled);
 
@@ -742,6 +753,10 @@ int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPAR
 // An agent is a dotted IPv4 address or a host name. No argument may be null: the last error is then 87
 // (ERROR_INVALID_PARAMETER). Each query opens a session of its own and closes it. Without the SNMP functions,
 // of the system or built in, a query fails with the last error unchanged.
+//
+// A query blocks the calling thread until the printer has answered for each object. The built-in client gives
+// up an unresponsive printer after five attempts for each object; where the system's SNMP libraries are
+// installed, their limits apply.
 
 // The tables that the queries follow. Never null.
 const TelmarModelCheckInfo* WINAPI MIB_ModelCheckInfo(void);
@@ -767,9 +782,10 @@ BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, TelmarOptionReques
 // unchanged.
 BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, TelmarMrkSupRequestItem* items);
 
-// The overlays of a storage, 0 or 1, or the colour profiles that the printer stores, in one block that the
-// caller releases by MIB_FreeOverlayInfo or MIB_FreeProfileInfo. Null, with the reason as the last error,
-// when no session can be opened, when a request fails, and for any other storage (87); null without memory.
+// The overlays or the colour profiles that the printer stores, in one block that the caller releases by
+// MIB_FreeOverlayInfo or MIB_FreeProfileInfo. `storage`, 0 or 1, is the number of the overlay table's
+// selector that chooses the overlays. Null, with the reason as the last error, when no session can be opened,
+// when a request fails, and for any other storage (87); null without memory.
 TelmarOverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage);
 TelmarProfileInfo* WINAPI MIB_ProfileRequest(const char* agent);
 
@@ -779,14 +795,15 @@ void WINAPI MIB_FreeProfileInfo(void* block);
 
 // --- Exports: queries through the bidirectional library
 //
-// Each loads TELMAR_B.DLL and frees it before it returns. An agent is a dotted IPv4 address or a host name of
-// at most 63 bytes.
+// Each loads TELMAR_B.DLL and frees it before it returns: first by its bare name, in the system's search
+// order, then from the module's folder. An agent is a dotted IPv4 address or a host name of at most 63 bytes.
+// Each call blocks the calling thread until the library has answered.
 
 // Whether the library, with all its functions, and the system's libraries that it needs can be loaded.
 BOOL WINAPI DDProc_IsEnableBdcLib(void);
 
 // Whether the device answers. `modelAnswer`, which may be null, is set to 1 for a device of exactly this
-// model, else 0.
+// model, else 0. A null agent is answered by FALSE.
 BOOL WINAPI DDProc_IsCommunicateDevice(const char* agent, int32_t* modelAnswer);
 
 // Sets the value of each item to the key of the installed option's item; empty when the library does not
@@ -805,13 +822,15 @@ BOOL WINAPI DDProc_InputTrayStatus(const char* agent, DWORD count, TelmarInputTr
 // `printerName` is as for OpenPrinterW. `bufferSize` and `*neededSize` are in bytes and include the NUL;
 // `neededSize` may be null.
 //
-// When `settings` holds an address: TRUE when it has been stored. FALSE when it is empty or can't be
-// converted; FALSE, with `*neededSize` set, when the buffer is too small.
+// When `settings` holds an address: TRUE when it has been stored. FALSE when it is empty, can't be converted,
+// or the buffer is null or too small; `*neededSize` is set when it exceeds `bufferSize`. The last error is
+// unchanged.
 //
 // Otherwise the queue's port is asked: TRUE with `*neededSize` set when the address has been stored, and
-// also, with the last error 122 (ERROR_INSUFFICIENT_BUFFER), when the buffer is null or too small. FALSE when
-// the printer can't be opened, its port can't be read or the port has no known address; the last error is
-// then as the system left it.
+// also, with the last error 122 (ERROR_INSUFFICIENT_BUFFER), when the buffer is null or too small. An address
+// in the registry that can't be converted to the code page gives TRUE with a needed size of 0 and nothing
+// stored: check the size. FALSE when the printer can't be opened, its port can't be read or the port has no
+// known address; the last error is then as the system left it.
 //
 // FALSE when `settings` is null. What is not mentioned stays unchanged.
 BOOL WINAPI DDProc_GetPrinterIPAddress(const wchar_t* printerName, const TelmarAddressSettings* settings,

@@ -1,7 +1,7 @@
 // Replaces the texts of a dialog and fits its lists to them.
 #include "uimodule/dialog_texts.h"
 
-#include "base/text.h"
+#include "base/keyed_list.h"
 #include "base/window_services.h"
 
 namespace {
@@ -88,19 +88,19 @@ bool IsTitle(HWND dialog, const ControlTextRecord& row) {
 } // namespace
 
 void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel) {
-    if (dialog == nullptr || texts == nullptr)
+    if (dialog == nullptr)
         return;
-    for (const ControlTextRecord* row = texts; row->key[0] != 0; ++row) {
+    for (const ControlTextRecord& row : Listed(texts)) {
         Text text = L"";
-        CopyText(text, row->display);
+        CopyText(text, row.display);
         // -1 is a list column; it would also match labels without an identifier.
-        if (text[0] == 0 || row->identifiers[0] <= 0)
+        if (text[0] == 0 || row.identifiers[0] <= 0)
             continue;
-        if (isModel && row == texts && IsTitle(dialog, *row)) {
+        if (isModel && &row == texts && IsTitle(dialog, row)) {
             SetWindowTextW(dialog, text);
             continue;
         }
-        HWND control = GetDlgItem(dialog, row->identifiers[0]);
+        HWND control = GetDlgItem(dialog, row.identifiers[0]);
         if (control == nullptr)
             continue;
         if (HasAccessKeys(control))

@@ -141,11 +141,11 @@ constexpr Field kPaperFields[] = {
     {"length",     T::kNumbers, true,  offsetof(PrmPaper, length),       1,  kU16},
     {"further",    T::kNumbers, false, offsetof(PrmPaper, furtherSizes), 2,  kU32},
     // Geometry sets 1, 2, 4 and 5: meaning unknown, carried through.
-    {"set1",       T::kNumbers, false, offsetof(PrmPaper, geometry1),         18, kU32, offsetof(PrmPaper, hasGeometry1)},
-    {"set2",       T::kNumbers, false, offsetof(PrmPaper, geometry2),         2,  kU32, offsetof(PrmPaper, hasGeometry2)},
+    {"geometry1",  T::kNumbers, false, offsetof(PrmPaper, geometry1),         18, kU32, offsetof(PrmPaper, hasGeometry1)},
+    {"geometry2",  T::kNumbers, false, offsetof(PrmPaper, geometry2),         2,  kU32, offsetof(PrmPaper, hasGeometry2)},
     {"margins",    T::kNumbers, false, offsetof(PrmPaper, margins),         4,  kU16, offsetof(PrmPaper, hasMargins)},
-    {"set4",       T::kNumbers, false, offsetof(PrmPaper, geometry4),         30, kU32, offsetof(PrmPaper, hasGeometry4)},
-    {"set5",       T::kNumbers, false, offsetof(PrmPaper, geometry5),         4,  kU32, offsetof(PrmPaper, hasGeometry5)},
+    {"geometry4",  T::kNumbers, false, offsetof(PrmPaper, geometry4),         30, kU32, offsetof(PrmPaper, hasGeometry4)},
+    {"geometry5",  T::kNumbers, false, offsetof(PrmPaper, geometry5),         4,  kU32, offsetof(PrmPaper, hasGeometry5)},
     {"text",       T::kText,    false, offsetof(PrmPaper, text),         128},
     {"values",     T::kNumbers, false, offsetof(PrmPaper, values),       2,  kU32},
     {"shortName",  T::kText,    false, offsetof(PrmPaper, shortName),    32},
@@ -186,7 +186,7 @@ constexpr Kind kPlain      = {"plain item",       F::kList,   sizeof(PrmItemDesc
 constexpr Kind kDest       = {"destination",      F::kList,   sizeof(PrmItemDescriptor), kDestFields, kNext};
 constexpr Kind kText       = {"item with text",   F::kList,   sizeof(PrmTextItem),       kTextFields};
 constexpr Kind kMedia      = {"media item",       F::kList,   sizeof(PrmMediaItem),      kMediaFields};
-constexpr Kind kTray       = {"input tray",       F::kList,   sizeof(PrmMediaItem),      kTrayFields};
+constexpr Kind kTray       = {"paper source",     F::kList,   sizeof(PrmMediaItem),      kTrayFields};
 constexpr Kind kCollate    = {"collate item",     F::kList,   sizeof(PrmMediaItem),      kCollateFields};
 constexpr Kind kOption     = {"option",           F::kList,   sizeof(PrmTabPaper),       kOptionFields};
 constexpr Kind kTabPaper   = {"tab paper",        F::kList,   sizeof(PrmTabPaper),       kTabPaperFields};

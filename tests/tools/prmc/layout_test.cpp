@@ -69,8 +69,8 @@ constexpr uint32_t kRecord = 8 + 52 + 12 + 4;
 
 TEST(Layout, FieldsOfEveryRecord) {
     const char* const paper = "PaperSize: {default: P, items: [{key: P, name: n, secondName: s, value: 9, width: 2100, "
-                              "length: 2970, further: [31, 32], set2: [128, 129], margins: [1, 2, 3, 4], "
-                              "set5: [272, 0, 0, 275], text: paper, values: [440, 444], shortName: short, "
+                              "length: 2970, further: [31, 32], geometry2: [128, 129], margins: [1, 2, 3, 4], "
+                              "geometry5: [272, 0, 0, 275], text: paper, values: [440, 444], shortName: short, "
                               "longValues: [480, 484, 488], longText: long}]}";
     const char* const outputPaper = "OutPaperSize: {default: K, items: [{key: K, name: n, secondName: s, value: 357, "
                                     "width: 21, length: 29, values: [1, 2]}]}";

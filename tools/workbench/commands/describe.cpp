@@ -81,10 +81,10 @@ constexpr Field kPaper[] = {
     {"shortName",  Show<&PaperSizeRecord::shortName>},
     {"longValues", ShowIfAny<&PaperSizeRecord::longValues>},
     {"longText",   Show<&PaperSizeRecord::longText>},
-    {"set1",       ShowIf<&PaperSizeRecord::hasGeometry1, &PaperSizeRecord::geometry1>},
-    {"set2",       ShowIf<&PaperSizeRecord::hasGeometry2, &PaperSizeRecord::geometry2>},
-    {"set4",       ShowIf<&PaperSizeRecord::hasGeometry4, &PaperSizeRecord::geometry4>},
-    {"set5",       ShowIf<&PaperSizeRecord::hasGeometry5, &PaperSizeRecord::geometry5>},
+    {"geometry1",  ShowIf<&PaperSizeRecord::hasGeometry1, &PaperSizeRecord::geometry1>},
+    {"geometry2",  ShowIf<&PaperSizeRecord::hasGeometry2, &PaperSizeRecord::geometry2>},
+    {"geometry4",  ShowIf<&PaperSizeRecord::hasGeometry4, &PaperSizeRecord::geometry4>},
+    {"geometry5",  ShowIf<&PaperSizeRecord::hasGeometry5, &PaperSizeRecord::geometry5>},
 };
 
 Document ShowCollateTexts(const void* record) {
@@ -154,10 +154,10 @@ constexpr struct {
 };
 
 constexpr Field kCustomPaper[] = {
-    {"size",    Show<&DeviceTable::userPaperSize>},
-    {"margins", Show<&DeviceTable::userPaperMargins>},
-    {"set4",    Show<&DeviceTable::userPaperGeometry4>},
-    {"set5",    Show<&DeviceTable::userPaperGeometry5>},
+    {"size",      Show<&DeviceTable::userPaperSize>},
+    {"margins",   Show<&DeviceTable::userPaperMargins>},
+    {"geometry4", Show<&DeviceTable::userPaperGeometry4>},
+    {"geometry5", Show<&DeviceTable::userPaperGeometry5>},
 };
 
 constexpr Field kPaperSource[] = {

@@ -12,6 +12,10 @@ auto KeyOf(const Record& record) -> decltype((record.key)) {
     return record.key;
 }
 template <typename Record>
+auto KeyOf(const Record& record) -> decltype((record.name)) {
+    return record.name;
+}
+template <typename Record>
 auto KeyOf(const Record& record) -> decltype((record.head.key)) {
     return record.head.key;
 }

@@ -8,7 +8,7 @@
 
 // Each stage builds its lists in the order of the table in feature_lists.cpp.
 enum class ListStage {
-    Paper,     // paper sizes, output paper sizes, media types, input trays
+    Paper,     // paper sizes, output paper sizes, media types, paper sources
     Output,    // output trays, media weights, media colours, resolutions
     Finishing, // combinations to per-page staples
     Location,  // output methods, overlay and profile locations

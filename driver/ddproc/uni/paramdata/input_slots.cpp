@@ -7,9 +7,8 @@
 
 namespace {
 
-constexpr size_t kSourceCount = sizeof(kPaperSources) / sizeof(kPaperSources[0]);
 struct InputSlots {
-    TraySourceRecord records[kSourceCount + 1]; // the last one ends the list
+    TraySourceRecord records[kPaperSourceCount + 1]; // the last one ends the list
 };
 
 constexpr InputSlots CompiledIn() {
@@ -29,7 +28,7 @@ InputSlots slots = CompiledIn();
 
 } // namespace
 
-TraySourceRecord (&inputSlots)[12] = slots.records;
+TraySourceRecord (&inputSlots)[kPaperSourceCount + 1] = slots.records;
 
 void UpdateInputSlots(const PrmFile& file) {
     PrmItems items;

@@ -21,7 +21,7 @@ static_assert(sizeof(TraySourceRecord) == 388 && offsetof(TraySourceRecord, bin)
 #pragma pack(pop)
 
 // Ends at an empty key. The first row is the automatic choice.
-extern TraySourceRecord (&inputSlots)[12];
+extern TraySourceRecord (&inputSlots)[kPaperSourceCount + 1];
 
 // Whether this bin number is the automatic choice, not a tray.
 inline bool IsAutomaticBin(uint32_t bin) {

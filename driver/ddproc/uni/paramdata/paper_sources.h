@@ -36,5 +36,6 @@ inline constexpr PaperSourceRow kPaperSources[] = {
     {"InTrayLCT",     1000, {"FCover_LCT",    "BCover_LCT",    "",             "OHPInt_LCT",    "",         "",         "PPSLCT"}},
 };
 // clang-format on
+constexpr size_t kPaperSourceCount = sizeof(kPaperSources) / sizeof(kPaperSources[0]);
 
 #endif

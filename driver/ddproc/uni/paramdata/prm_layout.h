@@ -71,7 +71,7 @@ struct PrmMediaItem {
     PrmItemHead head;
     uint32_t value;
     uint8_t unread[8];
-    uint32_t extra; // enable flag (input trays) or extra value (collate)
+    uint32_t extra; // enable flag (paper sources) or extra value (collate)
     union {
         char text[128];
         char texts[2][64];

@@ -11,6 +11,7 @@
 #include "paramdata/control_texts.h"
 #include "paramdata/device_table.h"
 #include "trays/tray_list_view.h"
+#include "trays/tray_settings.h"
 
 #include <commctrl.h>
 #include <cstring>

@@ -1,5 +1,6 @@
 // The list view of the tray-setting dialogs: columns, rows, drawing.
 #include "trays/tray_list_view.h"
+#include "trays/tray_settings.h"
 
 #include "base/dialog_ids.h"
 #include "base/text.h"

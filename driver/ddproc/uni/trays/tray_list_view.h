@@ -4,7 +4,6 @@
 #define TRAYS_TRAY_LIST_VIEW_H
 
 #include "dialogs/shared/dialog_context.h"
-#include "trays/tray_settings.h"
 
 #include <windows.h>
 

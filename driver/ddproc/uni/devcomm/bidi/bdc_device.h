@@ -26,7 +26,7 @@ constexpr bool BdcHasFilled(int32_t status) {
     return BdcSucceeded(status) && status != kBdcNothing;
 }
 
-// Selects the input trays with what lies in them.
+// Selects the input trays with the paper in them.
 constexpr uint32_t kBdcTraySelector = 2;
 
 #pragma pack(push, 1)

@@ -1,6 +1,7 @@
 // The MIB_ queries for access, model, options and supplies.
 #include "base/records.h"
 
+#include "base/keyed_list.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "devcomm/queries/object_reader.h"
@@ -34,13 +35,6 @@ const char* AskOption(SnmpSession session, const OptionRecord& option) {
         if (match == Match::kFailed)
             return nullptr;
     }
-    return nullptr;
-}
-
-const MrkSupItem* FindSupply(const QueryKey& name) {
-    for (const MrkSupItem* supply = kMrkSupReqInfo.items; supply->name[0] != 0; ++supply)
-        if (SameText(supply->name, name))
-            return supply;
     return nullptr;
 }
 
@@ -164,7 +158,7 @@ BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, MrkSupRequestItem*
         items[i].state = TELMAR_STATE_UNKNOWN;
         items[i].value = 0;
         items[i].color = 0;
-        const MrkSupItem* supply = FindSupply(items[i].name);
+        const MrkSupItem* supply = FindByKey(kMrkSupReqInfo.items, items[i].name);
         if (supply == nullptr)
             return FALSE;
         AskSupply(session.handle, *supply, items[i]);

@@ -80,21 +80,21 @@ constexpr OptionRecord kOptions[] = {
     {"OpDuplex",     std::size(kDuplex),     0, kDuplex},
 };
 
-// --- Supplies.
+// --- Supplies
 
 constexpr MrkSupItem kSupplies[] = {
     // name          kind                      flag  level  suffix  colour
     {"Consumable1",  TELMAR_SUPPLY_NONE,       0,    0,     "",     0},
-    {"Consumable2",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.1", 0x00FFFF00}, // cyan
-    {"Consumable3",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.2", 0x00FF00FF}, // magenta
-    {"Consumable4",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.3", 0x0000FFFF}, // yellow
-    {"Consumable5",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.4", 0x00000000}, // black
+    {"Consumable2",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.1", 0x00FFFF00}, // cyan toner
+    {"Consumable3",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.2", 0x00FF00FF}, // magenta toner
+    {"Consumable4",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.3", 0x0000FFFF}, // yellow toner
+    {"Consumable5",  TELMAR_SUPPLY_PERCENTAGE, 1,    0,     ".1.4", 0x00000000}, // black toner
     {"Consumable6",  TELMAR_SUPPLY_FIXED,      0,    0,     "",     0},
     {"Consumable7",  TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
     {"Consumable8",  TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
     {"Consumable9",  TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
     {"Consumable10", TELMAR_SUPPLY_FIXED,      1,    0,     "",     0},
-    {"Consumable11", TELMAR_SUPPLY_LEVEL,      0,    1,     ".1.8", 0},
+    {"Consumable11", TELMAR_SUPPLY_LEVEL,      0,    1,     ".1.8", 0},          // waste toner box
     {"Consumable12", TELMAR_SUPPLY_FIXED,      0,    0,     "",     0},
     {"",             TELMAR_SUPPLY_END,        0,    0,     "",     0},
 };

@@ -3,6 +3,7 @@
 
 #include "base/scope_guard.h"
 #include "base/text.h"
+#include "devcomm/snmp/snmp_errors.h"
 #include "devcomm/snmp/snmp_message.h"
 #include "devcomm/snmp/snmp_values.h"
 

@@ -5,7 +5,6 @@
 #define DEVCOMM_SNMP_SNMP_CLIENT_H
 
 #include "devcomm/snmp/snmp_entry_points.h"
-#include "devcomm/snmp/snmp_errors.h"
 
 // Opens a session with an agent, a dotted IPv4 address or a host name, on UDP port 161. The community is not
 // copied: it must outlive the session. Time-out (ms) and retries are stored but not used: a request has

@@ -4,6 +4,7 @@
 #include "base/scope_guard.h"
 #include "devcomm/snmp/ber.h"
 #include "devcomm/snmp/oid_text.h"
+#include "devcomm/snmp/snmp_errors.h"
 
 #include <cstring>
 

@@ -4,7 +4,6 @@
 #define DEVCOMM_SNMP_SNMP_VALUES_H
 
 #include "devcomm/snmp/ber_reader.h"
-#include "devcomm/snmp/snmp_errors.h"
 
 #include <snmp.h>
 #include <windows.h>

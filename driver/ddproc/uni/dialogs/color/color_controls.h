@@ -5,7 +5,6 @@
 
 #include "base/rows.h"
 #include "dialogs/shared/dialog_context.h"
-#include "paramdata/device_table.h"
 #include "paramdata/devmode_fields.h"
 
 #include <windows.h>

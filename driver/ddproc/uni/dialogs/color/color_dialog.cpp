@@ -9,6 +9,7 @@
 #include "paramdata/control_texts.h"
 #include "paramdata/device_table.h"
 
+#include <cstring>
 #include <initializer_list>
 
 namespace {

@@ -2,8 +2,7 @@
 #ifndef DIALOGS_SHARED_ITEM_DRAWING_H
 #define DIALOGS_SHARED_ITEM_DRAWING_H
 
-#include "dialogs/shared/dialog_context.h"
-#include "paramdata/device_table.h"
+#include "base/records.h"
 
 #include <windows.h>
 

@@ -10,11 +10,7 @@ int32_t FindFeature(const FeatureRecord* features, const char* key) {
 
 const ItemRecord* SelectedItem(const FeatureRecord* features, const FeatureSettings* settings,
                                int32_t position) {
-    const ItemRecord* item = features[position].items;
-    if (item == nullptr || settings == nullptr)
-        return nullptr;
-    for (int32_t i = 0; item->head.key[0] != 0; ++i, ++item)
-        if (i == settings[position])
-            return item;
-    return nullptr;
+    const Rows<ItemRecord> items = Listed(features[position].items);
+    const int32_t choice = settings != nullptr ? settings[position] : -1;
+    return choice >= 0 && static_cast<size_t>(choice) < items.count ? items.first + choice : nullptr;
 }

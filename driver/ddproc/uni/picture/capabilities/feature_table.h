@@ -3,7 +3,7 @@
 #ifndef PICTURE_CAPABILITIES_FEATURE_TABLE_H
 #define PICTURE_CAPABILITIES_FEATURE_TABLE_H
 
-#include "paramdata/device_table.h"
+#include "base/records.h"
 
 // Position of the first feature with this key, ASCII case ignored; -1 when there is none.
 int32_t FindFeature(const FeatureRecord* features, const char* key);

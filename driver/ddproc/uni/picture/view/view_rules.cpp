@@ -17,7 +17,7 @@ struct Condition {
     int32_t value;
 };
 
-constexpr Condition kMailbin = {&OptionSummary::mailbinKit, 1};
+constexpr Condition kMailbin = {&OptionSummary::mailbinKit, 1}; // the mail bin kit
 constexpr Condition kSaddle = {&OptionSummary::saddleKit, 1};
 constexpr Condition kPrinterBody = {&OptionSummary::bodyPrinter, 1};
 constexpr Condition kAlways = {};
