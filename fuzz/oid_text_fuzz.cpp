@@ -1,7 +1,6 @@
-// Fuzz target: any text at all as an object identifier. What is accepted is held against a conversion of its
-// own, sub-identifier text by sub-identifier text, against its own text printed again and, as far as they can
-// be written, against its BER octets. Run by libFuzzer and, over a fixed set of inputs, by the regression
-// test.
+// Fuzz target: any text as an object identifier. The result is compared with a conversion of the target's own, with
+// that of its text printed again and, if it can be written, with its BER element. Run by libFuzzer and, over a fixed
+// set of inputs, by the regression test.
 #include "require.h"
 
 #include "devcomm/snmp/ber_reader.h"
@@ -19,7 +18,7 @@ using SubIdentifiers = std::vector<UINT>;
 constexpr size_t kMaxSubIdentifiers = 128;
 constexpr size_t kMaxDigits = 15;
 
-// The sub-identifiers of a text by opening and closing sub-identifier texts; none when it is not an OID's.
+// The sub-identifiers of a text; none when it is no OID.
 SubIdentifiers ExpectedSubIdentifiers(const std::string& text) {
     SubIdentifiers ids;
     bool isOpen = false;

@@ -1,6 +1,6 @@
-// Runs a fuzz target over given files as they are and, the small ones, over every cut and over every 32-bit
-// field and octet replaced by awkward values: always the same inputs, as a plain test. A failing input ends
-// the program.
+// Runs a fuzz target over given files, whole and cut; over small ones also with every 32-bit field and every byte
+// replaced by awkward values. The inputs are always the same, so this is a plain test. A failing input ends the
+// program.
 #include "require.h"
 
 #include <cstring>
@@ -45,7 +45,7 @@ size_t RunReplacedFields(Bytes bytes) {
     return runs;
 }
 
-// Lengths, tags and characters of a message are single octets.
+// Lengths, tags and characters of a message are single bytes.
 size_t RunReplacedOctets(Bytes bytes) {
     size_t runs = 0;
     for (uint8_t& octet : bytes) {
@@ -59,8 +59,7 @@ size_t RunReplacedOctets(Bytes bytes) {
     return runs;
 }
 
-// Each terminator, and what lies behind it, overwritten: texts that overrun a key, a name, a text, what is
-// read at all.
+// Overwrites each terminator and the bytes after it: texts that overrun a key, a name, a text, the longest read.
 size_t RunLongTexts(const Bytes& bytes) {
     size_t runs = 0;
     for (size_t end = 1; end < bytes.size(); ++end)

@@ -105,7 +105,7 @@ TEST(SnmpBind, SystemVersions) {
         SCOPED_TRACE(std::to_string(c.platformId) + " " + std::to_string(c.major));
         win32::Reset();
         win32::SetVersion(c.platformId, c.major);
-        RegisterBoth(c.systemSlots); // what isn't asked for may be missing
+        RegisterBoth(c.systemSlots); // it is not looked up, so it may be missing
         Slots expected = kSystem;
         if (c.systemSlots < 9)
             expected[kStrToOid] = kClient[kStrToOid];
@@ -135,7 +135,7 @@ TEST(SnmpBind, LibraryThatDoesNotLoad) {
             EXPECT_EQ(SnmpApiBind(), TRUE);
             EXPECT_EQ(Bound(), kClient);
             EXPECT_TRUE(SnmpApiIsBound());
-            EXPECT_EQ(win32::LibraryCalls(), Loads()) << "the second is tried whatever the first gave";
+            EXPECT_EQ(win32::LibraryCalls(), Loads()) << "the second is tried also after the first has failed";
             EXPECT_EQ(snmpEntryPoints.mgmtApi != nullptr, withMgmt) << "stays loaded";
             EXPECT_EQ(snmpEntryPoints.snmpApi != nullptr, withSnmp);
             EXPECT_EQ(win32::Count().libraryReferences, withMgmt + withSnmp);
@@ -152,7 +152,7 @@ TEST(SnmpBind, EntryPointThatIsMissing) {
         EXPECT_EQ(SnmpApiBind(), FALSE);
         EXPECT_EQ(win32::LibraryCalls(), WithFrees(Finds(missing + 1)));
         ExpectReleased();
-        EXPECT_EQ(SnmpApiBind(), FALSE) << "tried anew, and not with the built-in client";
+        EXPECT_EQ(SnmpApiBind(), FALSE) << "tried again, and not with the built-in client";
         SnmpApiRelease();
         EXPECT_EQ(win32::LibraryCalls().size(), 2 * WithFrees(Finds(missing + 1)).size()) << "nothing is freed twice";
     }
@@ -160,7 +160,7 @@ TEST(SnmpBind, EntryPointThatIsMissing) {
 
 TEST(SnmpBind, OnceBoundASecondBindChangesNothing) {
     EXPECT_EQ(SnmpApiBind(), TRUE);
-    RegisterBoth(); // would now be there
+    RegisterBoth(); // would be found now
     EXPECT_EQ(SnmpApiBind(), TRUE);
     EXPECT_EQ(Bound(), kClient);
     EXPECT_EQ(win32::LibraryCalls(), Loads());

@@ -105,7 +105,7 @@ std::vector<std::string> CallsOf(const std::string& function) {
 
 #define MONITORS L"System\\CurrentControlSet\\Control\\Print\\Monitors\\"
 
-// The queue on its port, of which the LPR monitor's key says 10.0.0.22, and no transceiver.
+// The queue on its port, for which the LPR monitor's key has 10.0.0.22, and no transceiver.
 void Arrange(const win32::Queue& queue = {L"Lumora", L"IP_1"}) {
     win32::Reset();
     win32::LetReleasesSetLastError(kReleases);
@@ -113,7 +113,7 @@ void Arrange(const win32::Queue& queue = {L"Lumora", L"IP_1"}) {
     win32::SetRegistryValue(MONITORS L"LPR Port\\Ports\\IP_1", L"Server Name", Terminated(L"10.0.0.22"));
 }
 
-// And a transceiver.
+// The same with a transceiver.
 void ArrangeTransceiver(const Bytes& reply = Terminated(L"10.0.0.1"), DWORD status = 0,
                         const std::vector<win32::Export>& exports = {{"XcvDataW", XcvDataW}}) {
     Arrange();
@@ -150,8 +150,8 @@ TEST(PrinterAddress, FromTheRecord) {
         Expect(Ask(Record(1, Terminated(L"10.0.0.3"))), kNothing);
     }
 
-    RawBytes beside = Record(0, Terminated(L"10.0.0.3")).U8(561, 0xFF).U8(563, 0xFF);
-    Expect(Ask(beside), kFromTransceiver);
+    RawBytes otherFlags = Record(0, Terminated(L"10.0.0.3")).U8(561, 0xFF).U8(563, 0xFF);
+    Expect(Ask(otherFlags), kFromTransceiver);
 }
 
 TEST(PrinterAddress, NullArgumentsAndSizesThatNoBufferHas) {
@@ -252,7 +252,7 @@ TEST(PrinterAddress, NoReplyLeadsToTheRegistryAndNoValueToTheNextMonitor) {
     ArrangeTransceiver();
     win32::SetSystemDirectory(L"C:\\Elsewhere"); // which has no such library
     Expect(Ask(kAskQueue), kFromRegistry);
-    EXPECT_EQ(win32::LibraryCalls().size(), 1u) << "nothing is looked for in it";
+    EXPECT_EQ(win32::LibraryCalls().size(), 1u) << "no entry point is looked up";
 
     Arrange();
     win32::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", Xs(513));

@@ -14,7 +14,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-constexpr DWORD kUntouched = 777; // a last error that nobody sets
+constexpr DWORD kUntouched = 777; // a last error that no function sets
 const std::string kSysObjectId = ".1.3.6.1.2.1.1.2.0";
 const std::string kMemory = ".1.3.6.1.2.1.25.2.3.1.5.1";
 const std::string kHardDisk = ".1.3.6.1.2.1.25.2.3.1.5.2";
@@ -24,9 +24,9 @@ const std::string kCapacity = ".1.3.6.1.2.1.43.11.1.1.8.1.";
 const std::string kLevel = ".1.3.6.1.2.1.43.11.1.1.9.1.";
 const Answer kNull = {ASN_NULL};
 
-constexpr uint8_t kBefore = 0xEE; // fills the answer of an item before it is one
+constexpr uint8_t kBefore = 0xEE; // fills the answers of items beforehand
 
-// A caller's item with this key, behind whose terminator, if it has one, there is garbage.
+// A caller's item with this key, and garbage after its terminator.
 template <typename Item>
 Item ItemOf(const std::string& key) {
     Item item;
@@ -40,7 +40,7 @@ Item ItemOf(const std::string& key) {
 OptionRequestItem option;
 MrkSupRequestItem supply;
 
-// Whether it was a block.
+// Whether there was a block.
 bool Release(void* block) {
     MIB_FreeOverlayInfo(block);
     return block != nullptr;
@@ -210,7 +210,7 @@ TEST(PrinterQueries, LongObjectNames) {
 
 // --- Options.
 
-// Asks for all keys at once, whose items end up as their keys and the answers, with zeros behind.
+// Asks for all keys at once; each item then is its key and the answer, padded with zeros.
 void ExpectOptions(const Texts& keys, const Texts& values) {
     std::vector<OptionRequestItem> items;
     std::vector<RawBytes> expected;
@@ -247,7 +247,7 @@ TEST(PrinterQueries, Options) {
         {"OpInTray5", {{kInTray + "3", Text("x")}}, "DisOpInTray5", {kInTray + "5"}},
         {"OpDuplex", {{kDuplex, Number(-1)}}, "EnaOpDuplex", {kDuplex}}, {"OpManualFeed", {}, "EnaOpManualFeed", {}},
         {"OpOutTray2", {}, "DisOpOutTray2", {}}, {"", {}, "", {}}, {"OpInTray", {}, "", {}}, {"OpInTray33", {}, "", {}},
-        {"OpManualFeed6789012345678901234x", {}, "", {}}, // fills its 32 octets
+        {"OpManualFeed6789012345678901234x", {}, "", {}}, // fills its 32 bytes
         // clang-format on
     };
     for (const auto& c : cases) {
@@ -279,7 +279,7 @@ TEST(PrinterQueries, OptionsGoOnAfterOneWithoutAnswer) {
 // --- Supplies.
 
 TEST(PrinterQueries, Percentages) {
-    // Capacity, level and percentage; -1: not to be had. 42949673 x 100 is 4 in 32 bits.
+    // Capacity, level and percentage; -1: none. 42949673 x 100 is 4 in 32 bits.
     const int32_t cases[][3] = {
         // clang-format off
         {1000, 333, 33}, {1000, 4, 0}, {1000, 5, 1}, {1000, 994, 99}, {1000, 995, 100},

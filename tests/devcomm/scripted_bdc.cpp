@@ -1,4 +1,4 @@
-// The scripted stand-in for the bidirectional library: see the header.
+// Answers the calls of the bidirectional library as scripted, and records them.
 #include "devcomm/scripted_bdc.h"
 
 #include <algorithm>
@@ -19,7 +19,7 @@ void Record(const std::string& text, const void* record) {
         {text, octets != nullptr ? std::vector<uint8_t>(octets, octets + kRecordSize) : std::vector<uint8_t>()});
 }
 
-// Names the state word that came in, and gives back another.
+// Names the state word passed, and replaces it.
 std::string State(uint32_t* state) {
     const std::string text = ", state " + std::to_string(*state);
     *state = kStateAfter;
@@ -31,7 +31,7 @@ int32_t Give(const Answer& answer, void* buffer) {
     return answer.status;
 }
 
-// Whether it is as the module is to allocate it: movable, locked, all zero.
+// Whether the module has allocated it as it must: movable, locked, all zero.
 bool IsFit(const void* block, size_t size) {
     HGLOBAL handle = GlobalHandle(block);
     const bool fit = handle != nullptr && handle != block;
@@ -92,8 +92,8 @@ int32_t WINAPI GetDevInputTrayInfoEx(const void* record, uint32_t* count, uint32
     return GiveList(name.c_str(), script.device.inputTrays, record, count, state, items);
 }
 
-int32_t WINAPI NobodyAsks() {
-    Record("an entry point that the module has no use for", nullptr);
+int32_t WINAPI Unused() {
+    Record("an entry point that the module does not use", nullptr);
     return -1;
 }
 
@@ -106,20 +106,20 @@ EntryPoint Named(const char* name, Function* function) {
 
 // clang-format off
 const EntryPoint kEntryPoints[kEntryPointCount] = {
-    Named("BdcGetLibVersion", GetLibVersion), Named("BdcGetDevIpAddress", NobodyAsks),
+    Named("BdcGetLibVersion", GetLibVersion), Named("BdcGetDevIpAddress", Unused),
     Named("BdcGetDevCommInfo", GetDevCommInfo), Named("BdcGetDevName", GetDevName),
     Named("BdcGetDevMemoryCapacity", GetList<4, &Device::memory>),
     Named("BdcGetDevFirmwareVersion", GetList<5, &Device::firmware>),
     Named("BdcGetDevOptionInfo", GetList<6, &Device::options>),
-    Named("BdcGetDevInputTrayInfo", NobodyAsks), Named("BdcGetDevInputTrayInfoEx", GetDevInputTrayInfoEx),
+    Named("BdcGetDevInputTrayInfo", Unused), Named("BdcGetDevInputTrayInfoEx", GetDevInputTrayInfoEx),
     Named("BdcGetDevOutputTrayInfo", GetList<9, &Device::outputTrays>),
     Named("BdcGetDevMediaPathInfo", GetDevMediaPathInfo),
     Named("BdcGetDevFinisherInfo", GetList<11, &Device::finishers>),
-    Named("BdcGetDevStatus", NobodyAsks), Named("BdcBeginDevEventNotify", NobodyAsks),
-    Named("BdcEndDevEventNotify", NobodyAsks), Named("BdcBeginNotifyPrint", NobodyAsks),
-    Named("BdcGetDevJobHistoryList", NobodyAsks), Named("BdcEndNotifyPrint", NobodyAsks),
-    Named("BdcBeginNotifyJobCompletion", NobodyAsks), Named("BdcGetReceiveAddress", NobodyAsks),
-    Named("BdcEndNotifyJobCompletion", NobodyAsks),
+    Named("BdcGetDevStatus", Unused), Named("BdcBeginDevEventNotify", Unused),
+    Named("BdcEndDevEventNotify", Unused), Named("BdcBeginNotifyPrint", Unused),
+    Named("BdcGetDevJobHistoryList", Unused), Named("BdcEndNotifyPrint", Unused),
+    Named("BdcBeginNotifyJobCompletion", Unused), Named("BdcGetReceiveAddress", Unused),
+    Named("BdcEndNotifyJobCompletion", Unused),
 };
 // clang-format on
 

@@ -1,5 +1,5 @@
 // Host only: a stand-in for the bidirectional library that answers as a test has scripted, and records every
-// call. Records and items are laid out octet by octet, independently of the module's structs.
+// call. Records and items are built byte by byte, independently of the module's structs.
 #ifndef DEVCOMM_SCRIPTED_BDC_H
 #define DEVCOMM_SCRIPTED_BDC_H
 
@@ -11,7 +11,7 @@
 
 namespace scripted_bdc {
 
-constexpr uint32_t kStateAfter = 9001; // the state word that each call gives back
+constexpr uint32_t kStateAfter = 9001; // the state word that each call returns
 
 // What goes into the caller's buffer in full, whatever the status.
 struct Answer {
@@ -28,7 +28,7 @@ struct ListAnswer {
     std::optional<uint32_t> count = {};      // made of the caller's by the call with a buffer
 };
 
-// A device that answers everything: this model, with an item in each list that says nothing.
+// A device that answers everything: this model, with an empty item in each list.
 struct Device {
     Answer communication = {RawBytes(336).U8(0, 0xC0, 336).U32(72, 0x12345678)};
     Answer name = {RawBytes(324).Text(4, "QUORVANE lumora R880").Text(260, "QUORVANE lumora R880")};
@@ -61,7 +61,7 @@ struct Call {
     // Such as "BdcGetDevInputTrayInfoEx, selector 2, state 1, null" and then "..., state 1, 3 items". A block
     // for items that is not movable, locked and zero-filled over its whole size is called "unfit" as well.
     std::string text;
-    std::vector<uint8_t> record; // the device record's 428 octets; empty when there is none
+    std::vector<uint8_t> record; // the device record's 428 bytes; empty when there is none
 };
 
 struct Script {

@@ -1,5 +1,5 @@
-// Host only: the scripted library registered with the platform, and the module's questions to its device,
-// with records laid out octet by octet.
+// Host only: the scripted library in the simulated system, and the module's queries of its device,
+// with records built byte by byte.
 #ifndef DEVCOMM_SCRIPTED_BDC_HOST_H
 #define DEVCOMM_SCRIPTED_BDC_HOST_H
 
@@ -28,7 +28,7 @@ const std::string kUnknownTray =
     "MediaTypeList_Size_Unknown MediaTypeList_Orient_Unknown MediaTypeList_Type_Unknown "
     "MediaTypeList_Weight_Unknown MediaTypeList_Color_Unknown MediaTypeList_Hole_Unknown 0";
 
-// The text of a 32-octet field whose rest is zero.
+// The text of a 32-byte field, which is padded with zeros.
 inline std::string FieldAt(const RawBytes& record, size_t offset) {
     const uint8_t* field = &record.bytes.at(offset + 31) - 31;
     const std::string text(reinterpret_cast<const char*>(field), 31);
@@ -37,7 +37,7 @@ inline std::string FieldAt(const RawBytes& record, size_t offset) {
     return kept;
 }
 
-// Puts a query with one record, which must stay as it is when the query fails.
+// Runs a query with one record, which must stay unchanged when the query fails.
 template <typename Item>
 bool Ask(BOOL WINAPI (*query)(const char*, DWORD, Item*), const char* agent, const std::string& key, RawBytes& record) {
     const std::string field = key.size() < 32 ? key + '\0' : key;
@@ -73,7 +73,7 @@ struct Closing {
 };
 using Context = std::unique_ptr<BdcDeviceContext, Closing>;
 
-// A context with all that the library tells.
+// A context with all that the library reports.
 inline Context Filled() {
     Context context(BdcOpenDevice(kAgent));
     if (context != nullptr)

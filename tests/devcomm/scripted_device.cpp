@@ -1,4 +1,4 @@
-// A device behind the SNMP entry points: see the header.
+// The SNMP entry points of a device, which answers as scripted.
 #include "devcomm/scripted_device.h"
 
 #include <cstring>
@@ -7,7 +7,7 @@
 
 namespace {
 
-// What every call that succeeds leaves as last error: callers must not take it for theirs.
+// The last error that every successful call leaves; callers must not take it for theirs.
 constexpr DWORD kNoise = 4242;
 
 ScriptedDevice* device;

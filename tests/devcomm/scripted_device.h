@@ -1,6 +1,6 @@
-// A device behind the nine SNMP entry points, without a network: answers by object as a test scripts them, in
-// memory of its own that is counted, never zero to begin with, and freed only by its own functions. It
-// records what it was asked and checks that every request is one GetRequest of one varbind without a value.
+// A device that answers through the nine SNMP entry points, without a network: for each object as a test has scripted
+// it. Its memory is counted, not cleared, and freed only by its own functions. It records what it was asked and checks
+// that every request is a GetRequest of one varbind without a value.
 #ifndef DEVCOMM_SCRIPTED_DEVICE_H
 #define DEVCOMM_SCRIPTED_DEVICE_H
 
@@ -29,7 +29,7 @@ Answer Text(const std::string& octets, BYTE type = ASN_OCTETSTRING);
 Answer Oid(const std::vector<UINT>& ids);
 Answer Failing(DWORD lastError);
 
-// Fills the entry points for the time of a scope; at its end nothing may be left open or allocated.
+// Fills the entry points within a scope. At its end nothing may be open or allocated.
 struct ScriptedDevice {
     ScriptedDevice();
     ~ScriptedDevice();

@@ -207,12 +207,12 @@ TEST(SnmpRequest, Communities) {
         {128, "04 82 00 80"},
         {70000, "04 83 01 11 70"},
     };
-    const Octets behind(kSmallest.begin() + 7, kSmallest.end());
+    const Octets rest(kSmallest.begin() + 7, kSmallest.end());
     for (const auto& c : cases) {
         const std::string community(c.length, '\xE4');
         Client client({}, community);
         EXPECT_EQ(client.Failure(), 4102u);
-        const Octets expected = Element(0x30, {Hex("02 01 00"), Hex(c.header), Characters(community), behind});
+        const Octets expected = Element(0x30, {Hex("02 01 00"), Hex(c.header), Characters(community), rest});
         EXPECT_TRUE(win32::ReadWire().sent.at(0) == expected) << c.length;
     }
 }

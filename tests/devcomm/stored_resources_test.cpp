@@ -1,5 +1,5 @@
-// The walks over what a scripted device stores, overlays and colour profiles: requests in order, entries
-// kept, and the blocks handed out.
+// The walks over the overlays and colour profiles of a scripted device: requests in order, entries, and the
+// blocks returned.
 #include "base/records.h"
 #include "devcomm/scripted_device.h"
 #include "support/raw_bytes.h"
@@ -15,7 +15,7 @@ const std::string kOverlay = ".1.3.6.1.4.1.47913.1.1.1.1.6.12.1.1.";
 const std::string kProfile = ".1.3.6.1.4.1.47913.1.1.1.1.6.13.1.1.";
 const Answer kAbsent = Answer{ASN_NULL}.With(2, 1);
 
-// Columns of a table and rows in one word each: "3.1.7" is object 7 of column 3.
+// "3.1.7" is object 7 of column 3.
 Texts Objects(const std::string& table, Texts objects) {
     for (std::string& object : objects)
         object.insert(0, table);
@@ -66,7 +66,7 @@ TEST(StoredResources, Overlays) {
                                      {kAbsent, kAbsent}, {Number(1), kAbsent}});
     // clang-format on
     device.answers[kOverlay + "4.1.3"] = kAbsent;
-    device.answers[kOverlay + "3.1.7"] = kAbsent; // the end: what is behind it does not count
+    device.answers[kOverlay + "3.1.7"] = kAbsent; // the end; what follows does not count
     ExpectBlock(MIB_OverlayRequest(kAgent, 0),
                 {{Entry("second 1", "first 1", "OvlForm_HDD"), Entry("", "first 3", "OvlForm_HDD")}});
     EXPECT_EQ(device.asked, Objects(kOverlay, {"3.1.1", "2.1.1", "4.1.1", "3.1.2", "2.1.2", "3.1.3", "2.1.3", "4.1.3",

@@ -32,7 +32,7 @@ struct GdiRecorder {
     // call. The records of calls are cleared.
     void Fail(const char* function, size_t nth);
     static constexpr size_t kEvery = SIZE_MAX;
-    // What was left behind or done in the wrong order; empty when there is nothing.
+    // What was not released or done in the wrong order; empty when there is nothing.
     std::string Errors() const;
 
     std::vector<UINT> ids;          // of the bitmaps, in the order of loading

@@ -1,5 +1,5 @@
-// Host only, linked into every test program: starts each test with the platform's stand-in as new, and fails
-// a test that leaves a block, a file, a library reference, a printer or a registry key behind.
+// Host only, linked into every test program: resets the simulated system before each test, and fails a test that
+// does not release a block, a file, a library reference, a printer or a registry key.
 #include "win32_control.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// What the process has of the system, by which tests see that nothing is left behind.
+// The system objects of the process, for tests that everything is released.
 #ifndef SUPPORT_LIVE_OBJECTS_H
 #define SUPPORT_LIVE_OBJECTS_H
 

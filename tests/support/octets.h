@@ -1,5 +1,5 @@
-// BER messages octet by octet, independent of the project's writer: hexadecimal text, elements, and an SNMPv1
-// reply with one varbind.
+// BER messages byte by byte, independent of the module's writer: hexadecimal text, elements, and an SNMPv1 reply
+// with one varbind.
 #ifndef SUPPORT_OCTETS_H
 #define SUPPORT_OCTETS_H
 
@@ -35,7 +35,7 @@ inline Octets Join(std::initializer_list<Octets> parts) {
     return whole;
 }
 
-// The long form of a length has two octets, or three where two don't suffice.
+// The long form of a length has two bytes, or three where two are not enough.
 inline Octets Element(uint8_t tag, std::initializer_list<Octets> parts) {
     const Octets contents = Join(parts);
     const size_t length = contents.size();
@@ -46,8 +46,7 @@ inline Octets Element(uint8_t tag, std::initializer_list<Octets> parts) {
     return Join({header, contents});
 }
 
-// Whole elements, so that each may be replaced by anything. As it stands it is a valid reply to the first
-// request of a session.
+// Whole elements, so that each may be replaced. Unchanged it is a valid reply to the first request of a session.
 struct ReplyParts {
     Octets Message() const {
         return Element(0x30, {version, community, Element(0xA2, {requestId, status, index, VarBinds()})});
@@ -63,7 +62,7 @@ struct ReplyParts {
     Octets value = Hex("02 01 2A");
 };
 
-// A heap block of just these octets, so that a sanitizer sees what is read beyond them.
+// A heap block of exactly these bytes, so that a sanitizer finds reads beyond them.
 struct ExactBlock {
     explicit ExactBlock(const Octets& octets) : count(octets.size()), block(new uint8_t[count]) {
         if (count > 0)

@@ -1,6 +1,6 @@
-// Stand-in of the system's SNMP libraries, built as either of them by its list of exports: answers every
-// request with an INTEGER of 640 in a list of its own, and keeps a log for the test that has put it there.
-// Its blocks come unfilled and are no heap's blocks, so that nobody else can free them.
+// A stand-in for the system's SNMP libraries, built as either of them by its list of exports. It answers every
+// request with an INTEGER of 640 in a list of its own, and keeps a log for the test. Its blocks are not cleared,
+// and only its own functions can free them.
 #include <cstdio>
 #include <cstring>
 #include <mgmtapi.h> // checks the signatures
@@ -12,7 +12,7 @@ constexpr size_t kPrefix = 16; // in front of each block: its own heap's view en
 constexpr int kUnfilled = 0xEE;
 
 char calls[4096];
-int blocks; // handed out, less those given back
+int blocks; // allocated and not freed
 int session;
 
 template <typename... Arguments>

@@ -1,4 +1,4 @@
-// The module with the system's SNMP libraries: stand-ins for them (snmp_stub.cpp) lie in the system directory
+// The module with the system's SNMP libraries: stand-ins for them (snmp_stub.cpp) are in the system directory
 // while this program runs. Under wine only, whose prefix is the build's own, and with both loaded as native
 // libraries: ctest sets WINEDLLOVERRIDES for it.
 #include "product.h"
@@ -20,11 +20,11 @@ fs::path SystemDirectory() {
     return path;
 }
 
-// A built file in the system directory; at the end what lay there before lies there again.
+// A built file in the system directory, which replaces one of this name until the end.
 struct SystemFile {
     SystemFile(const wchar_t* name, const wchar_t* builtFile) : path(SystemDirectory() / name), kept(path) {
         kept += L".kept";
-        if (!fs::exists(kept) && fs::exists(path)) // it may be there after a run that was broken off
+        if (!fs::exists(kept) && fs::exists(path)) // it exists after an interrupted run
             fs::rename(path, kept);
         fs::copy_file(ProductFolder() / builtFile, path, fs::copy_options::overwrite_existing);
     }
@@ -53,8 +53,8 @@ Function* EntryPoint(const wchar_t* library, const char* name) {
     return reinterpret_cast<Function*>(reinterpret_cast<void (*)()>(found));
 }
 
-// Both are held from attach to detach. The answer lies in another list than the request's, and in memory that
-// is not filled.
+// Both stay loaded from attach to detach. The answer is in another list than the request's, in memory that is not
+// cleared.
 TEST(SystemSnmp, QueriesGoThroughThemAlone) {
     const SystemFile mgmt(kMgmt, L"stub_mgmtapi.dll"), snmp(kSnmp, L"stub_snmpapi.dll");
     std::optional<LoadedModule> module(std::in_place);

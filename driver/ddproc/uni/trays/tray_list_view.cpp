@@ -1,10 +1,10 @@
 // The list view of the tray-setting dialogs: columns, rows, drawing.
 #include "trays/tray_list_view.h"
-#include "trays/tray_settings.h"
 
 #include "base/dialog_ids.h"
 #include "base/text.h"
 #include "paramdata/device_table.h"
+#include "trays/tray_settings.h"
 
 #include <commctrl.h>
 

@@ -32,7 +32,7 @@ void WINAPI ClientVarBindFree(SnmpVarBind* varBind);
 void WINAPI ClientVarBindListFree(SnmpVarBindList* list);
 
 // Dotted decimal text as an OID, whose sub-identifiers the caller frees by ClientOidFree. A leading '.' is
-// ignored; a sub-identifier without digits, also the one behind a final '.', is 0. FALSE, the OID empty and
+// ignored; a sub-identifier without digits, also the one after a final '.', is 0. FALSE, the OID empty and
 // the last error as it was: another character than digits and '.', a sub-identifier of more than 15 digits
 // or 32 bits, fewer than 2 or more than 128 sub-identifiers, a first of 3 or more, a second of 40 or more, no
 // memory.
