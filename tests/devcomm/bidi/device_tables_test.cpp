@@ -2,7 +2,7 @@
 #include "devcomm/bidi/bdc_tables.h"
 
 #include "base/records.h"
-#include "devcomm/scripted_bdc_host.h"
+#include "devcomm/bidi/scripted_bdc_host.h"
 
 #include <gtest/gtest.h>
 #include <utility>

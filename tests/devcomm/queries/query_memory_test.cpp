@@ -1,6 +1,6 @@
 // Host only: walks over what a scripted device stores while each of their requests fails in turn, then each
 // allocation of the device's memory, then each of the local heap.
-#include "devcomm/scripted_device.h"
+#include "devcomm/queries/scripted_device.h"
 #include "telmar_d.h"
 #include "win32_control.h"
 

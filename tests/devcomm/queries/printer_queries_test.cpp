@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "devcomm/queries/object_reader.h"
 #include "devcomm/queries/query_catalogue.h"
-#include "devcomm/scripted_device.h"
+#include "devcomm/queries/scripted_device.h"
 #include "support/raw_bytes.h"
 
 #include <climits>

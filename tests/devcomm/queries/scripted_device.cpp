@@ -1,5 +1,5 @@
 // The SNMP entry points of a device, which answers as scripted.
-#include "devcomm/scripted_device.h"
+#include "devcomm/queries/scripted_device.h"
 
 #include <cstring>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // is given, what becomes of each answer and of each failure.
 #include "base/records.h"
 
-#include "devcomm/scripted_bdc_host.h"
+#include "devcomm/bidi/scripted_bdc_host.h"
 #include "win32_control.h"
 
 #include <functional>

@@ -1,7 +1,7 @@
 // The walks over the overlays and colour profiles of a scripted device: requests in order, entries, and the
 // blocks returned.
 #include "base/records.h"
-#include "devcomm/scripted_device.h"
+#include "devcomm/queries/scripted_device.h"
 #include "support/raw_bytes.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // Answers the calls of the bidirectional library as scripted, and records them.
-#include "devcomm/scripted_bdc.h"
+#include "devcomm/bidi/scripted_bdc.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,10 +1,10 @@
 // Host only: the scripted library in the simulated system, and the module's queries of its device,
 // with records built byte by byte.
-#ifndef DEVCOMM_SCRIPTED_BDC_HOST_H
-#define DEVCOMM_SCRIPTED_BDC_HOST_H
+#ifndef DEVCOMM_BIDI_SCRIPTED_BDC_HOST_H
+#define DEVCOMM_BIDI_SCRIPTED_BDC_HOST_H
 
 #include "devcomm/bidi/bdc_device.h"
-#include "devcomm/scripted_bdc.h"
+#include "devcomm/bidi/scripted_bdc.h"
 #include "support/raw_bytes.h"
 #include "telmar_d.h"
 #include "win32_control.h"

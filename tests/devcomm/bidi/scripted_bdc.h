@@ -1,7 +1,7 @@
 // Host only: a stand-in for the bidirectional library that answers as a test has scripted, and records every
 // call. Records and items are built byte by byte, independently of the module's structs.
-#ifndef DEVCOMM_SCRIPTED_BDC_H
-#define DEVCOMM_SCRIPTED_BDC_H
+#ifndef DEVCOMM_BIDI_SCRIPTED_BDC_H
+#define DEVCOMM_BIDI_SCRIPTED_BDC_H
 
 #include "support/raw_bytes.h"
 

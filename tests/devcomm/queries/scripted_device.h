@@ -1,8 +1,8 @@
 // A device that answers through the nine SNMP entry points, without a network: for each object as a test has scripted
 // it. Its memory is counted, not cleared, and freed only by its own functions. It records what it was asked and checks
 // that every request is a GetRequest of one varbind without a value.
-#ifndef DEVCOMM_SCRIPTED_DEVICE_H
-#define DEVCOMM_SCRIPTED_DEVICE_H
+#ifndef DEVCOMM_QUERIES_SCRIPTED_DEVICE_H
+#define DEVCOMM_QUERIES_SCRIPTED_DEVICE_H
 
 #include "devcomm/snmp/snmp_entry_points.h"
 
