@@ -1,6 +1,8 @@
 // The SNMP entry points of a device, which answers as scripted.
 #include "devcomm/queries/scripted_device.h"
 
+#include "devcomm/snmp/snmp_values.h"
+
 #include <cstring>
 #include <gtest/gtest.h>
 #include <set>
@@ -11,59 +13,20 @@ namespace {
 constexpr DWORD kNoise = 4242;
 
 ScriptedDevice* device;
-std::set<void*> blocks; // live
 std::set<void*> openSessions;
 
+// As the system's, not zero.
 void* WINAPI MemAlloc(UINT octets) {
-    if (++device->allocations == device->failingAllocation) {
-        SetLastError(kMemoryError);
-        return nullptr;
-    }
-    void* block = malloc(octets);
-    memset(block, 0xCD, octets);
-    blocks.insert(block);
-    SetLastError(kNoise);
-    return block;
+    void* block = ClientMemAlloc(octets);
+    return block != nullptr ? memset(block, 0xCD, octets) : nullptr;
 }
 
-void WINAPI MemFree(void* block) {
-    SetLastError(kNoise);
-    ASSERT_EQ(blocks.erase(block), 1u) << "freed a block that is not of this memory";
-    free(block);
-}
-
-void FreeIfAny(void* block) {
-    if (block != nullptr)
-        MemFree(block);
-}
-
-void WINAPI OidFree(AsnObjectIdentifier* oid) {
-    EXPECT_TRUE(oid->ids != nullptr || oid->idLength == 0);
-    FreeIfAny(oid->ids);
-    *oid = {};
-    SetLastError(kNoise);
-}
-
-bool HasOctets(BYTE type) {
-    return strchr("\x04\x03\x30\x40\x44", type) != nullptr && type != 0;
-}
-
-void WINAPI VarBindFree(SnmpVarBind* varBind) {
-    OidFree(&varBind->name);
-    AsnAny& value = varBind->value;
-    if (HasOctets(value.asnType) && value.asnValue.string.dynamic)
-        FreeIfAny(value.asnValue.string.stream);
-    else if (value.asnType == ASN_OBJECTIDENTIFIER)
-        OidFree(&value.asnValue.object);
-    value.asnType = ASN_NULL;
-    SetLastError(kNoise);
-}
-
+// The built-in client has no BIT STRING, which this device sends in the same form as octets.
 void WINAPI VarBindListFree(SnmpVarBindList* list) {
     for (UINT i = 0; i < list->len; ++i)
-        VarBindFree(&list->list[i]);
-    FreeIfAny(list->list);
-    *list = {};
+        if (list->list[i].value.asnType == ASN_BITS)
+            list->list[i].value.asnType = ASN_OCTETSTRING;
+    ClientVarBindListFree(list);
     SetLastError(kNoise);
 }
 
@@ -97,7 +60,7 @@ std::string TextOf(const AsnObjectIdentifier& oid) {
 
 template <typename Element>
 Element* CopyOf(const Element* elements, size_t count) {
-    auto* copy = static_cast<Element*>(MemAlloc(static_cast<UINT>(count * sizeof(Element))));
+    auto* copy = static_cast<Element*>(ClientMemAlloc(static_cast<UINT>(count * sizeof(Element))));
     if (copy != nullptr && count > 0)
         memcpy(copy, elements, count * sizeof(Element));
     return copy;
@@ -109,7 +72,7 @@ bool Store(const Answer& answer, AsnAny& value) {
     AsnAny stored;
     memset(&stored, 0xCD, sizeof(stored));
     stored.asnType = answer.type;
-    if (HasOctets(answer.type)) {
+    if (answer.type == ASN_BITS || SnmpFormOf(answer.type) == SnmpForm::kOctets) {
         BYTE* copy = CopyOf(reinterpret_cast<const BYTE*>(answer.octets.data()), octets);
         stored.asnValue.string = {copy, static_cast<UINT>(octets), TRUE};
         if (copy == nullptr)
@@ -129,7 +92,6 @@ INT WINAPI Request(SnmpSession session, BYTE requestType, SnmpVarBindList* list,
                    AsnInteger32* errorIndex) {
     EXPECT_TRUE(openSessions.count(session) == 1 && requestType == 0xA0 && list->len == 1);
     EXPECT_EQ(list->list[0].value.asnType, 0x05);
-    EXPECT_TRUE(blocks.count(list->list) == 1 && blocks.count(list->list[0].name.ids) == 1) << "foreign memory";
     device->asked.push_back(TextOf(list->list[0].name));
 
     const auto found = device->answers.find(device->asked.back());
@@ -144,7 +106,7 @@ INT WINAPI Request(SnmpSession session, BYTE requestType, SnmpVarBindList* list,
         SnmpVarBind* other = CopyOf(list->list, 1);
         if (other == nullptr)
             return 0;
-        MemFree(list->list);
+        ClientMemFree(list->list);
         list->list = other;
     }
     if (!Store(answer, list->list[0].value))
@@ -156,20 +118,7 @@ INT WINAPI Request(SnmpSession session, BYTE requestType, SnmpVarBindList* list,
 }
 
 BOOL WINAPI StrToOid(const char* text, AsnObjectIdentifier* oid) {
-    SetLastError(kNoise);
-    if (!device->textsConvert)
-        return FALSE;
-    std::vector<UINT> parsed;
-    for (const char* at = text; *at == '.';) {
-        char* end = nullptr;
-        parsed.push_back(static_cast<UINT>(strtoul(at + 1, &end, 10)));
-        at = end;
-    }
-    UINT* ids = CopyOf(parsed.data(), parsed.size());
-    if (ids == nullptr)
-        return FALSE;
-    *oid = {static_cast<UINT>(parsed.size()), ids};
-    return TRUE;
+    return device->textsConvert && ClientStrToOid(text, oid);
 }
 
 } // namespace
@@ -199,12 +148,13 @@ Answer Failing(DWORD lastError) {
 
 ScriptedDevice::ScriptedDevice() {
     device = this;
-    snmpEntryPoints = {MemAlloc, MemFree, OidFree,  VarBindFree, VarBindListFree, Open,
-                       Close,    Request, StrToOid, nullptr,     nullptr,         1};
+    // clang-format off
+    snmpEntryPoints = {MemAlloc, ClientMemFree, ClientOidFree, ClientVarBindFree, VarBindListFree,
+                       Open, Close, Request, StrToOid, nullptr, nullptr, 1};
+    // clang-format on
 }
 
 ScriptedDevice::~ScriptedDevice() {
-    EXPECT_EQ(blocks.size(), 0u) << "memory of the entry points is left";
     EXPECT_EQ(openSessions.size(), 0u) << "a session is left open";
     snmpEntryPoints = {};
     device = nullptr;

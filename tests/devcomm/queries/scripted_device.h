@@ -1,6 +1,6 @@
 // A device that answers through the nine SNMP entry points, without a network: for each object as a test has scripted
-// it. Its memory is counted, not cleared, and freed only by its own functions. It records what it was asked and checks
-// that every request is a GetRequest of one varbind without a value.
+// it, in the memory of the built-in client. It records what it was asked and checks that every request is a
+// GetRequest of one varbind without a value.
 #ifndef DEVCOMM_QUERIES_SCRIPTED_DEVICE_H
 #define DEVCOMM_QUERIES_SCRIPTED_DEVICE_H
 
@@ -38,19 +38,16 @@ struct ScriptedDevice {
 
     // The script. An object without an answer is answered with noSuchName.
     std::map<std::string, Answer> answers;
-    DWORD openError = 0;          // not 0: no session opens
-    bool textsConvert = true;     // to OIDs
-    size_t failingAllocation = 0; // the one of this number fails (1: the first); 0: none
-    size_t failingRequest = 0;    // likewise; with kRequestError
+    DWORD openError = 0;       // not 0: no session opens
+    bool textsConvert = true;  // to OIDs
+    size_t failingRequest = 0; // the one of this number (1: the first) fails with kRequestError; 0: none
 
     // What happened so far.
     std::vector<std::string> sessions; // opens: "agent community time-out retries"
     unsigned closes = 0;
     std::vector<std::string> asked; // OID texts in order
-    size_t allocations = 0;
 };
 
 constexpr DWORD kRequestError = 1460;
-constexpr DWORD kMemoryError = 14; // of the device's own memory
 
 #endif
