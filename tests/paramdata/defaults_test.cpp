@@ -71,13 +71,15 @@ struct DefaultsTest : ParameterDataTest {
         excelJobCtrl = NumberAt<uint32_t>(table, 630);
         FreeDeviceTable(table);
     }
-    // Builds from the image over filler; returns the differences from filler with these fields written.
-    std::string Compare(const PrmImage& image, const Writes& writes) { return Compare(image, Write(Filled(), writes)); }
-    std::string Compare(const PrmImage& image, const RawBytes& expected) {
-        kept.Restore();
-        memset(&defaultSettings, kFiller, sizeof(defaultSettings));
+    // Builds from the image over filler with these fields written before; returns the differences from what is
+    // expected: a record, or the filler with these fields written.
+    std::string Compare(const PrmImage& image, const RawBytes& expected, const Writes& before = {}) {
+        memcpy(&defaultSettings, Write(RawBytes(7808).U8(0, kFiller, 7808), before).bytes.data(), 7808);
         Build(image);
         return Differences(&defaultSettings, expected);
+    }
+    std::string Compare(const PrmImage& image, const Writes& writes, const Writes& before = {}) {
+        return Compare(image, Write(Write(Filled(), before), writes), before);
     }
 
     uint32_t excelJobCtrl = 0;
@@ -91,67 +93,69 @@ TEST_F(DefaultsTest, FileWithoutDefaultsLeavesTheCompiledInRecord) {
     EXPECT_EQ(Compare(PrmImage(), Writes()), "") << "fonts are always written";
 }
 
-TEST_F(DefaultsTest, Papers) {
+TEST_F(DefaultsTest, PaperGivesItsSizeToAnOutputPaperThatIsTheSame) {
     const struct {
         const char* what;
         uint32_t outputPaper; // value of its default record; 0: no entry
         bool paper;           // with an entry for the paper
-        Writes writes;        // over the compiled-in record
+        Writes writes;        // besides those of the paper
     } cases[] = {
-        {"same as the paper", 357, true, {{98, 2, 4200}, {100, 2, 2971}}},
-        {"same as the compiled-in paper", 357, false, {}},
+        {"same as the paper", 357, true, {{96, 2, 357}, {98, 2, 4200}, {100, 2, 2971}}},
+        {"same as the paper before", 357, false, {{96, 2, 357}, {98, 2, 2100}, {100, 2, 2970}}},
         {"of its own", 8, true, {{96, 2, 8}, {98, 2, 1111}, {100, 2, 2222}}},
         {"not in the file", 0, true, {}},
     };
     for (const auto& c : cases) {
         PrmImage image;
-        const RawBytes paper = RawBytes(620).U32(12, 77).U32(16, 0x10008).U32(24, 4200).U32(28, 2971);
-        const RawBytes output = RawBytes(320).U32(12, 77).U32(24, 1111).U32(28, 2222);
-        if (c.paper) // without its flag at 288; the margins count
+        Writes writes = c.writes;
+        const RawBytes paper = RawBytes(620).U32(16, 0x10008).U32(24, 4200).U32(28, 2971);
+        if (c.paper) { // without its flag at 288; the margins count
             image.Entry("PaperSize", {}, 0,
                         image.Put(RawBytes(paper).U32(136, 1).U32(140, 2).U32(144, 3).U32(148, 0x10004)));
+            writes.insert(writes.end(), {{66, 2, 8}, {68, 2, 4200}, {70, 2, 2971}});
+            writes.insert(writes.end(), {{72, 2, 1}, {74, 2, 2}, {76, 2, 3}, {78, 2, 4}});
+        }
+        const RawBytes output = RawBytes(320).U32(16, c.outputPaper).U32(24, 1111).U32(28, 2222);
         if (c.outputPaper != 0)
-            image.Entry("OutPaperSize", {}, 0, image.Put(RawBytes(output).U32(16, c.outputPaper)));
-        kept.Restore();
-        Build(image);
-        RawBytes expected = Write(CompiledIn(), kDerived);
-        if (c.paper)
-            expected.U16(66, 8).U16(68, 4200).U16(70, 2971).U16(72, 1).U16(74, 2).U16(76, 3).U16(78, 4);
-        EXPECT_EQ(Differences(&defaultSettings, Write(expected, c.writes)), "") << c.what;
+            image.Entry("OutPaperSize", {}, 0, image.Put(output));
+        EXPECT_EQ(Compare(image, writes, {{68, 2, 2100}, {70, 2, 2970}}), "") << c.what;
     }
 }
 
-TEST_F(DefaultsTest, DefaultRecords) {
+TEST_F(DefaultsTest, DefaultRecordGivesItsValue) {
     constexpr uint32_t kValue = 0x81828384;
     const struct {
         const char* entry;
-        Writes writes;
+        unsigned width;
+        std::vector<size_t> positions;
     } cases[] = {
-        {"MediaType", {{122, 2, kValue}, {160, 2, kValue}}},
-        {"MediaWeight", {{162, 2, kValue}}},
-        {"MediaColor", {{164, 2, kValue}}},
-        {"MediaPrePunched", {{166, 1, kValue}}},
-        {"InTray", {{120, 2, kValue}}},
-        {"Collate", {{600, 1, kValue}}},
-        {"PaperOption1", {{744, 1, kValue}}},
-        {"PaperOption2", {{745, 1, kValue}}},
-        {"Staple", {{1457, 1, kValue}}},
-        {"HolePunch", {{1459, 1, kValue}}},
-        {"Folding", {{1466, 1, kValue}}},
-        {"Combination", {{1470, 1, kValue}}},
-        {"OutputTray", {{1460, 2, kValue}}},
-        {"OutputOrder", {{1462, 1, kValue}}},
-        {"ExcelJobCtrl", {}},
+        {"MediaType", 2, {122, 160}},  {"MediaWeight", 2, {162}},  {"MediaColor", 2, {164}},
+        {"MediaPrePunched", 1, {166}}, {"InTray", 2, {120}},       {"Collate", 1, {600}},
+        {"PaperOption1", 1, {744}},    {"PaperOption2", 1, {745}}, {"Staple", 1, {1457}},
+        {"HolePunch", 1, {1459}},      {"Folding", 1, {1466}},     {"Combination", 1, {1470}},
+        {"OutputTray", 2, {1460}},     {"OutputOrder", 1, {1462}}, {"ExcelJobCtrl", 0, {}},
     };
     for (const auto& c : cases) {
         PrmImage image;
         image.Entry(c.entry, {}, 0, image.Put(RawBytes(156).U8(0, 0xAB, 156).U32(12, kValue)));
-        EXPECT_EQ(Compare(image, c.writes), "") << c.entry;
+        Writes writes;
+        for (const size_t position : c.positions)
+            writes.push_back({position, c.width, kValue});
+        EXPECT_EQ(Compare(image, writes), "") << c.entry;
         EXPECT_EQ(excelJobCtrl, std::string(c.entry) == "ExcelJobCtrl" ? kValue : 1) << c.entry;
     }
 }
 
-TEST_F(DefaultsTest, Ranges) {
+// The user paper has two copies of each length, and a third in the metric unit.
+Writes UserPaper(size_t isLength, uint32_t metric, uint32_t inches) {
+    return {{81 + 2 * isLength, 2, metric},
+            {103 + 2 * isLength, 2, metric},
+            {7699 + 2 * isLength, 2, metric},
+            {88 + 4 * isLength, 4, inches},
+            {108 + 4 * isLength, 4, inches}};
+}
+
+TEST_F(DefaultsTest, RangeGivesItsDefaultInBothUnits) {
     const auto negative = [](int value) { return static_cast<uint32_t>(value); };
     const struct {
         const char* entry;
@@ -161,11 +165,11 @@ TEST_F(DefaultsTest, Ranges) {
     } cases[] = {
         // clang-format off
         {"Copies",             0x12345,        "", {{598, 2, 0x2345}}},
-        {"UserPaper_Width",    2970,           "", {{81, 2, 2970}, {103, 2, 2970}, {88, 4, 1169}, {108, 4, 1169}, {7699, 2, 2970}}},
-        {"UserPaper_Width",    2970,        "MFP", {{81, 2, 2970}, {103, 2, 2970}, {88, 4, 11693}, {108, 4, 11693}, {7699, 2, 2970}}},
-        {"UserPaper_Width",    negative(-10),  "", {{81, 2, 65526}, {103, 2, 65526}, {88, 4, negative(-3)}, {108, 4, negative(-3)}, {7699, 2, 65526}}},
-        {"UserPaper_Length",   32767,       "MFP", {{83, 2, 32767}, {105, 2, 32767}, {92, 4, 129004}, {112, 4, 129004}, {7701, 2, 32767}}},
-        {"UserPaper_Length",   negative(-1),   "", {{83, 2, 65535}, {105, 2, 65535}, {92, 4, 0}, {112, 4, 0}, {7701, 2, 65535}}},
+        {"UserPaper_Width",    2970,           "", UserPaper(0, 2970, 1169)},
+        {"UserPaper_Width",    2970,        "MFP", UserPaper(0, 2970, 11693)},
+        {"UserPaper_Width",    negative(-10),  "", UserPaper(0, 65526, negative(-3))},
+        {"UserPaper_Length",   32767,       "MFP", UserPaper(1, 32767, 129004)},
+        {"UserPaper_Length",   negative(-1),   "", UserPaper(1, 65535, 0)},
         {"BindShift_Front",    50,             "", {{1396, 1, 0}, {1398, 2, 50}, {1402, 2, 197}}},
         {"BindShift_Front",    negative(-50),  "", {{1396, 1, 0}, {1398, 2, 65486}, {1402, 2, negative(-196)}}},
         {"BindShift_Front",    0x5A5A,         "", {{1398, 2, 0x5A5A}, {1402, 2, 91063}}}, // as the shift of the back
@@ -186,45 +190,32 @@ TEST_F(DefaultsTest, Ranges) {
 }
 
 // Colour keys are looked up in the compiled-in tables.
-TEST_F(DefaultsTest, DefaultKeys) {
+TEST_F(DefaultsTest, DefaultKeyGivesTheValueOfItsItem) {
     const struct {
         const char *entry, *key;
-        Writes writes;
+        Written written; // a width of 0: nothing
     } cases[] = {
         // clang-format off
-        {"FCoverTray",          "FCover_Tray3",      {{1480, 2, 259}}},
-        {"FCoverTray",          "",                  {}}, // many sources have no key there
-        {"BCoverTray",          "bcover_lct",        {{1484, 2, 1000}}},
-        {"PIFrontCover",        "PIFTray2",          {{1491, 2, 1002}}},
-        {"PIBackCover",         "PIBTray1",          {{1494, 2, 1001}}},
-        {"OHPIntTray",          "OHPInt_Manual",     {{1488, 2, 4}}},
-        {"Text_RGBColorMatch",  "Text_Match",        {{2157, 1, 3}}},
-        {"Text_RGBColorMatch",  "Img_Match",         {}},
-        {"Text_Halftone",       "Text_UltraDetai",   {{2158, 1, 0}}},
-        {"Text_RGBGray",        "text_BLACKonly",    {{2159, 1, 2}}},
-        {"Img_RGBColorMatch",   "Img_Proof",         {{2153, 1, 2}}},
-        {"Img_Halftone",        "Img_Smooth",        {{2154, 1, 2}}},
-        {"Img_RGBGray",         "Img_BandG",         {{2155, 1, 1}}},
-        {"Graphics",            "Graph_MatchImage",  {{2165, 1, 1}}},
-        {"Graphics",            "Graph_MatchText",   {{2165, 1, 0}}},
-        {"Graph_RGBColorMatch", "Graph_Photographic", {{2161, 1, 1}}},
-        {"Graph_Halftone",      "Graph_HalftoneImage", {{2162, 1, 4}}},
-        {"Graph_RGBGray",       "Graph_4Color",      {{2163, 1, 0}}},
-        {"RGBProf",             "sRGB",              {{2512, 2, 1}}},
-        {"Text_Destination",    "Text_DestAuto",     {{3024, 2, 0}}},
-        {"Img_Destination",     "Img_DestAuto",      {{3026, 2, 0}}},
-        {"Graph_Destination",   "Graph_DestAuto",    {{3028, 2, 0}}},
-        {"SimulationProf",      "Simu_DIC",          {{2166, 2, 5}}},
-        {"DestinationProf",     "Dest_Auto",         {{2336, 2, 0}}},
-        {"MatchPaperColor",     "MatchPaperColorON", {{3534, 1, 1}}},
-        {"MatchPaperColor",     "MatchPaperColorOFF", {{3534, 1, 0}}},
-        {"Simu_CMYKGray",       "Simu_BandG",        {{3536, 2, 1}}},
+        {"FCoverTray", "FCover_Tray3", {1480, 2, 259}},              {"BCoverTray", "bcover_lct", {1484, 2, 1000}},
+        {"PIFrontCover", "PIFTray2", {1491, 2, 1002}},               {"PIBackCover", "PIBTray1", {1494, 2, 1001}},
+        {"OHPIntTray", "OHPInt_Manual", {1488, 2, 4}},               {"FCoverTray", "", {}}, // as many sources there
+        {"Text_RGBColorMatch", "Text_Match", {2157, 1, 3}},          {"Text_RGBColorMatch", "Img_Match", {}},
+        {"Text_Halftone", "Text_UltraDetai", {2158, 1, 0}},          {"Text_RGBGray", "text_BLACKonly", {2159, 1, 2}},
+        {"Img_RGBColorMatch", "Img_Proof", {2153, 1, 2}},            {"Img_Halftone", "Img_Smooth", {2154, 1, 2}},
+        {"Img_RGBGray", "Img_BandG", {2155, 1, 1}},                  {"RGBProf", "sRGB", {2512, 2, 1}},
+        {"Graphics", "Graph_MatchImage", {2165, 1, 1}},              {"Graphics", "Graph_MatchText", {2165, 1, 0}},
+        {"Graph_Halftone", "Graph_HalftoneImage", {2162, 1, 4}},     {"Graph_RGBGray", "Graph_4Color", {2163, 1, 0}},
+        {"Graph_RGBColorMatch", "Graph_Photographic", {2161, 1, 1}}, {"SimulationProf", "Simu_DIC", {2166, 2, 5}},
+        {"Text_Destination", "Text_DestAuto", {3024, 2, 0}},         {"Img_Destination", "Img_DestAuto", {3026, 2, 0}},
+        {"Graph_Destination", "Graph_DestAuto", {3028, 2, 0}},       {"DestinationProf", "Dest_Auto", {2336, 2, 0}},
+        {"MatchPaperColor", "MatchPaperColorON", {3534, 1, 1}},      {"Simu_CMYKGray", "Simu_BandG", {3536, 2, 1}},
+        {"MatchPaperColor", "MatchPaperColorOFF", {3534, 1, 0}},
         // clang-format on
     };
     for (const auto& c : cases) {
         PrmImage image;
         image.StringValue(c.entry, c.key);
-        EXPECT_EQ(Compare(image, c.writes), "") << c.entry << " " << c.key;
+        EXPECT_EQ(Compare(image, Writes{c.written}), "") << c.entry << " " << c.key;
     }
     uint32_t mode = 0;
     for (const std::string& name : Split("Auto doc Photo Presen DTP Web CAD ICM Custom", ' ')) {
@@ -244,39 +235,35 @@ TEST_F(DefaultsTest, RgbSourceTakesTheDisplayNameOfItsTable) {
         {"Img_RGBProf", "Img_BlueAdjust", colorTables.image.rgbProfiles.items[15], 2514, 2688},
         {"Graph_RGBProf", "Graph_BlueAdjust", colorTables.graphics.rgbProfiles.items[15], 2518, 2856},
     };
+    PrmImage image;
+    RawBytes expected = Filled();
     for (const auto& c : cases) {
-        PrmImage image;
         image.StringValue(c.entry, c.key);
-        kept.Restore();
-        memset(&defaultSettings, kFiller, sizeof(defaultSettings));
-        memcpy(c.item.display, Repeated(L'x', 47).data(), sizeof(c.item.display));
-        Build(image);
-        const RawBytes expected =
-            Filled().U16(c.value, 141).Wide(c.name, Repeated(L'x', 40).data()).U16(c.name + 80, 0);
-        EXPECT_EQ(Differences(&defaultSettings, expected), "") << c.entry;
+        const wchar_t character = static_cast<wchar_t>('A' + (&c - cases));
+        memcpy(c.item.display, Repeated(character, 47).data(), sizeof(c.item.display));
+        expected.U16(c.value, 141).Wide(c.name, Repeated(character, 40).data()).U16(c.name + 80, 0);
     }
+    EXPECT_EQ(Compare(image, expected), "");
 }
 
-TEST_F(DefaultsTest, Locations) {
+TEST_F(DefaultsTest, DefaultLocationGivesItsValue) {
     const struct {
         const char *entry, *key;
-        Writes writes;
+        std::vector<size_t> positions;
     } cases[] = {
-        // clang-format off
-        {"OvlForm_Location", "hdd", {{2088, 4, 0x10203}}},
-        {"Prof_Location",    "HDD", {{2684, 4, 0x10203}, {2852, 4, 0x10203}, {3020, 4, 0x10203}, {2332, 4, 0x10203},
-                                     {2502, 4, 0x10203}, {2508, 4, 0x10203}}},
-        {"OvlForm_Location", "HD",  {}},
-        {"Prof_Location",    "",    {}},
-        {"OutputMethod",     "HDD", {}},
-        // clang-format on
+        {"OvlForm_Location", "hdd", {2088}}, {"Prof_Location", "HDD", {2684, 2852, 3020, 2332, 2502, 2508}},
+        {"OvlForm_Location", "HD", {}},      {"Prof_Location", "", {}},
+        {"OutputMethod", "HDD", {}},
     };
     for (const auto& c : cases) {
         PrmImage image;
         const uint32_t entry = image.Items<PrmTextItem>(
             c.entry, {image.WithText("Memory", L"", 7, ""), image.WithText("HDD", L"", 0x10203, "")});
         image.SetDefault(entry, image.Put(RawBytes(16).U32(0, image.Text(c.key))));
-        EXPECT_EQ(Compare(image, c.writes), "") << c.entry << c.key;
+        Writes writes;
+        for (const size_t position : c.positions)
+            writes.push_back({position, 4, 0x10203});
+        EXPECT_EQ(Compare(image, writes), "") << c.entry << c.key;
     }
 }
 
@@ -291,7 +278,7 @@ RawBytes Watermark(PrmImage& image, const std::string& key, uint32_t i) {
     return record;
 }
 
-TEST_F(DefaultsTest, Watermarks) {
+TEST_F(DefaultsTest, WatermarkIsTheLastItemWithTheDefaultKey) {
     constexpr int kNone = -1;
     const struct {
         const char *what, *keys, *defaultKey, *colorDevice;
@@ -329,7 +316,7 @@ TEST_F(DefaultsTest, Watermarks) {
     }
 }
 
-TEST_F(DefaultsTest, Resolutions) {
+TEST_F(DefaultsTest, ResolutionIsTheFirstItemWithTheDefaultKey) {
     const Writes second = {{2136, 1, 1}, {2138, 2, 21}, {2140, 2, 22}, {2142, 2, 23}};
     const struct {
         const char *second, *defaultKey;
@@ -357,7 +344,7 @@ TEST_F(DefaultsTest, Resolutions) {
     }
 }
 
-TEST_F(DefaultsTest, BindingEdgeAndCoverPrint) {
+TEST_F(DefaultsTest, SwitchesLimitTheBindingEdgeAndSetTheCoverPrint) {
     for (const bool fourEdges : {false, true}) {
         PrmImage image;
         image.Table("FeatureSetting", fourEdges ? "BindingEdge=4Bind;FCoverPrint=Driver" : "BCoverPrint=Driver");
@@ -365,51 +352,38 @@ TEST_F(DefaultsTest, BindingEdgeAndCoverPrint) {
         for (unsigned before = 0; before < 20; ++before) {
             const unsigned edge =
                 fourEdges ? (before == 10 || before == 11 ? before : 10) : (before >= 14 && before <= 17 ? before : 14);
-            kept.Restore();
-            reinterpret_cast<uint8_t*>(&defaultSettings)[1395] = static_cast<uint8_t>(before);
-            Build(image);
-            const Writes writes = {{1395, 1, edge}, {1396, 1, 1}, {1478, 1, cover}, {1483, 1, cover}};
-            EXPECT_EQ(Differences(&defaultSettings, Write(CompiledIn(), writes)), "") << fourEdges << before;
+            const Writes writes = {{1395, 1, edge}, {1478, 1, cover}, {1483, 1, cover}};
+            EXPECT_EQ(Compare(image, writes, {{1395, 1, before}}), "") << fourEdges << before;
         }
     }
 }
 
 TEST_F(DefaultsTest, EachTrayTakesTheDefaultPaper) {
     const struct {
-        const char *what, *trays, *automatic, *slots;
+        const char *what, *trays, *automatic, *slots; // of one-character keys
     } cases[] = {
-        {"automatic choice is no tray", "InTray1=257;Any=7;InTray2=258", "7", "InTray1=257;InTray2=258"},
-        {"bin of the automatic choice from the file", "A=7;B=301;C=0;D=301", "301", "A=7;C=0"},
-        {"ten slots", "Any=7;A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11;K=12", "7",
+        {"automatic choice is no tray", "A=257;X=7;B=258", "X=7", "A=257;B=258"},
+        {"bin of the automatic choice from the file", "A=7;X=301;C=0;Y=301", "X=301", "A=7;C=0"},
+        {"ten slots", "X=7;A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11;K=12", "X=7",
          "A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11"},
     };
+    const auto bin = [](const std::string& tray) { return static_cast<uint32_t>(std::stoul(tray.substr(2))); };
     for (const auto& c : cases) {
         PrmImage image;
-        const auto number = [](const std::string& text) { return static_cast<uint32_t>(std::stoul(text)); };
         std::vector<PrmMediaItem> trays;
-        for (const std::string& tray : Split(c.trays, ';')) {
-            const std::vector<std::string> parts = Split(tray, '=');
-            trays.push_back(image.Media(parts[0], L"", number(parts[1]), 1, ""));
-        }
+        for (const std::string& tray : Split(c.trays, ';'))
+            trays.push_back(image.Media(tray.substr(0, 1), L"", bin(tray), 1, ""));
         image.Items("InTray", trays);
-        image.Items<PrmMediaItem>("ALL_InTray", {image.Media("InTrayAuto", L"", number(c.automatic), 1, "")});
-        RawBytes expected = Write(CompiledIn(), kDerived);
-        expected.U16(122, 0x1234).U16(160, 0x1234).U16(162, 0x2345).U16(164, 0x3456).U8(166, 0x78);
-        for (const auto& [entry, value] : {std::pair("MediaType", 0x1234u), std::pair("MediaWeight", 0x2345u),
-                                           std::pair("MediaColor", 0x3456u), std::pair("MediaPrePunched", 0x78u)})
-            image.Entry(entry, {}, 0, image.Put(RawBytes(156).U32(12, value)));
-        kept.Restore();
+        image.Items<PrmMediaItem>("ALL_InTray", {image.Media("InTrayAuto", L"", bin(c.automatic), 1, "")});
+        const Writes media = {{122, 2, 0x1234}, {162, 2, 0x2345}, {164, 2, 0x3456}, {166, 1, 0x78}};
+        RawBytes expected = Write(Filled(), media);
         size_t at = 167;
-        for (const std::string& slot : Split(c.slots, ';')) {
-            const std::vector<std::string> parts = Split(slot, '=');
-            expected.Text(at, parts[0]).U32(at + 32, number(parts[1])).U16(at + 36, 0x1234);
+        for (const std::string& slot : Split(c.slots, ';')) { // slots without a tray stay
+            expected.Text(at, slot.substr(0, 1)).U8(at + 1, 0).U32(at + 32, bin(slot)).U16(at + 36, 0x1234);
             expected.U16(at + 38, 0x2345).U16(at + 40, 0x3456).U8(at + 42, 0x78);
             at += 43;
         }
-        expected.U8(at, kFiller, 598 - at); // slots without a tray stay
-        memset(reinterpret_cast<uint8_t*>(&defaultSettings) + at, kFiller, 598 - at);
-        Build(image);
-        EXPECT_EQ(Differences(&defaultSettings, expected), "") << c.what;
+        EXPECT_EQ(Compare(image, expected, media), "") << c.what;
     }
 }
 
