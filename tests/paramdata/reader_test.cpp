@@ -1,4 +1,5 @@
 // Parameter file reader: search for entries, typed readers and their results, parsing of numbers.
+#include "base/text.h"
 #include "support/prm_image.h"
 
 namespace {
@@ -18,7 +19,7 @@ TEST(Reader, FindsEntriesByFullNameInAnyCase) {
         EXPECT_EQ(PrmFindEntry(*file, name), offset) << name;
 }
 
-TEST(Reader, ChainEndsAtItsBoundOrAfterTheMaximumOfSteps) {
+TEST(Reader, EntryChainEndsAtItsBoundOrAfterTheMaximumOfSteps) {
     PrmImage image;
     const uint32_t low = image.Entry("Low"), high = image.Entry("High"), beyond = image.Entry("Beyond");
     const uint32_t end = image.Size();
@@ -26,21 +27,18 @@ TEST(Reader, ChainEndsAtItsBoundOrAfterTheMaximumOfSteps) {
     const struct {
         const char* what;
         uint32_t first, low, high, chainEnd; // next offsets of the three entries, and the header's bound
-        uint32_t findsFirst, findsLow, findsHigh, findsBeyond;
+        std::vector<uint32_t> found;         // First, Low, High, Beyond
     } cases[] = {
-        {"forwards",                     low,    high,       beyond, end,        8, low, high, beyond},
-        {"backwards",                    high,   beyond,     low,    end,        8, low, high, beyond},
-        {"bound at an entry",            low,    high,       end,    high,       8, low, 0,    0},
-        {"bound one after an entry",    low,    high,       end,    high + 1,   8, low, high, 0},
-        {"bound at the first entry",     low,    high,       end,    8,          0, 0,   0,    0},
-        {"bound after the first entry", low,    high,       end,    9,          8, 0,   0,    0},
-        {"loops to itself",              low,    low,        end,    end,        8, low, 0,    0},
-        {"loops back",                   low,    high,       8,      end,        8, low, high, 0},
-        {"leads beyond the file",        low,    0x7FFFFFFF, end,    0xFFFFFFFF, 8, low, 0,    0},
-        {"leads to a cut entry",         low,    end - 51,   end,    end,        8, low, 0,    0},
-        {"comes back from beyond",    beyond, high,       end,    high,       8, 0,   0,    0},
+        {"forwards",                  low,    high,     beyond, end,      {8, low, high, beyond}},
+        {"backwards",                 high,   beyond,   low,    end,      {8, low, high, beyond}},
+        {"bound at an entry",         low,    high,     end,    high,     {8, low, 0, 0}},
+        {"bound one after an entry",  low,    high,     end,    high + 1, {8, low, high, 0}},
+        {"bound at the first entry",  low,    high,     end,    8,        {0, 0, 0, 0}},
+        {"loops back",                low,    high,     8,      end,      {8, low, high, 0}},
+        {"leads to a cut entry",      low,    end - 51, end,    end,      {8, low, 0, 0}},
+        {"comes back from beyond",    beyond, high,     end,    high,     {8, 0, 0, 0}},
         // An entry at offset 0 would have its next offset in bytes that the first entry does not use.
-        {"leads to offset 0",            0,      high,       end,    end,        8, low, high, beyond},
+        {"leads to offset 0",         0,      high,     end,    end,      {8, low, high, beyond}},
     };
     // clang-format on
     image.SetWord(48, beyond);
@@ -51,10 +49,10 @@ TEST(Reader, ChainEndsAtItsBoundOrAfterTheMaximumOfSteps) {
         image.At<PrmEntry>(high).next = c.high;
         image.At<PrmHeader>(0).chainEnd = c.chainEnd;
         OpenedImage file(image);
-        EXPECT_EQ(PrmFindEntry(*file, "First"), c.findsFirst) << c.what;
-        EXPECT_EQ(PrmFindEntry(*file, "Low"), c.findsLow) << c.what;
-        EXPECT_EQ(PrmFindEntry(*file, "High"), c.findsHigh) << c.what;
-        EXPECT_EQ(PrmFindEntry(*file, "Beyond"), c.findsBeyond) << c.what;
+        std::vector<uint32_t> found;
+        for (const char* name : {"First", "Low", "High", "Beyond"})
+            found.push_back(PrmFindEntry(*file, name));
+        EXPECT_EQ(found, c.found) << c.what;
         EXPECT_EQ(PrmFindEntry(*file, "Nobody"), 0u) << c.what;
     }
 }
@@ -109,7 +107,7 @@ TEST(Reader, RecordIsReadWhenItsFirstByteIsThere) {
     EXPECT_EQ(Differences(&record, RawBytes(sizeof(record)).U8(0, 0x5A)), "");
 }
 
-TEST(Reader, RangeNeedsItsLastField) {
+TEST(Reader, RangeWithoutItsLastFieldIsRefused) {
     PrmImage image;
     const uint32_t range = image.Range("Copies", 1, 999, 5) + 64;
     for (const bool complete : {true, false}) { // one byte of the last field is enough
@@ -119,7 +117,7 @@ TEST(Reader, RangeNeedsItsLastField) {
     }
 }
 
-TEST(Reader, Texts) {
+TEST(Reader, TextOfMoreThan290CharactersIsRefused) {
     PrmImage image;
     const std::string most(290, 'a');
     // clang-format off
@@ -147,11 +145,9 @@ TEST(Reader, Texts) {
     }
 }
 
-TEST(Reader, WideTexts) {
+TEST(Reader, EmptyWideTextIsRefusedAndALongOneCut) {
     PrmImage image;
-    std::vector<wchar_t> text292(292, L'\u00FC'), text291(291, L'\u00FC');
-    text292.push_back(0);
-    text291.push_back(0);
+    const auto text291 = Repeated(L'\u00FC', 291), text292 = Repeated(L'\u00FC', 292);
     // clang-format off
     const struct {
         const char* what;
@@ -171,14 +167,11 @@ TEST(Reader, WideTexts) {
     for (const auto& c : cases) {
         PrmWideText text = L"as before";
         EXPECT_EQ(PrmReadWideString(*file, c.offset, text), c.success) << c.what;
-        size_t length = 0;
-        while (c.text[length] != 0)
-            ++length;
-        EXPECT_EQ(Differences(text, RawBytes(2 * length + 2).Wide(0, c.text)), "") << c.what;
+        EXPECT_EQ(Differences(text, RawBytes(2 * TextLength(c.text) + 2).Wide(0, c.text)), "") << c.what;
     }
 }
 
-TEST(Reader, StringValues) {
+TEST(Reader, StringValueMustFitWithItsTerminator) {
     PrmImage image;
     const std::string c126(126, 'a'), c290(290, 'b');
     image.StringValue("Empty", "");
