@@ -106,13 +106,8 @@ TEST_F(ColorTablesTest, DestinationListTakesTheKnownItemsOfItsEntry) {
     ItemTable<1>* const text = &colorTables.text.destinations;
     ItemTable<1>* const image = &colorTables.image.destinations;
     ItemTable<1>* const graphics = &colorTables.graphics.destinations;
-    const struct {
-        const char *what, *entry;
-        uint32_t kind;
-        const char* items;     // of the file
-        ItemTable<1>* rebuilt; // null: fails and changes nothing
-        const char* expected;
-    } cases[] = {
+    // Without a table the call fails and changes nothing.
+    const std::tuple<const char*, const char*, uint32_t, const char*, ItemTable<1>*, const char*> cases[] = {
         {"text, in the table's spelling", "Text_Destination", 1, "TEXT_destauto=0:New", text, "Text_DestAuto=5:New"},
         {"image, no display offset", "Img_Destination", 2, "Img_DestAuto=0:-", image, "Img_DestAuto=5:Old"},
         {"graphics, empty text", "Graph_Destination", 4, "Graph_DestAuto=0:", graphics, "Graph_DestAuto=5"},
@@ -125,18 +120,18 @@ TEST_F(ColorTablesTest, DestinationListTakesTheKnownItemsOfItsEntry) {
         {"two kinds", "Text_Destination", 3, "Text_DestAuto=0:A", nullptr, ""},
         {"unknown kind", "Text_Destination", 8, "Text_DestAuto=0:A", nullptr, ""},
     };
-    for (const auto& c : cases) {
+    for (const auto& [what, entry, kind, items, rebuilt, wanted] : cases) {
         for (auto* table : {text, image, graphics}) {
             table->items[0].head.value = 5; // as if another number and a name were compiled in
             CopyText(table->items[0].display, L"Old");
         }
         Restart();
-        if (c.rebuilt != nullptr)
-            Expect(*c.rebuilt, c.expected);
+        if (rebuilt != nullptr)
+            Expect(*rebuilt, wanted);
         PrmImage file;
-        file.Items(c.entry, FileItems(file, c.items));
-        EXPECT_EQ(BuildDestinationList(*OpenedImage(file), c.kind), c.rebuilt != nullptr) << c.what;
-        EXPECT_EQ(Differences(&colorTables, expected), "") << c.what;
+        file.Items(entry, FileItems(file, items));
+        EXPECT_EQ(BuildDestinationList(*OpenedImage(file), kind), rebuilt != nullptr) << what;
+        EXPECT_EQ(Differences(&colorTables, expected), "") << what;
         kept.Restore();
     }
 }

@@ -94,55 +94,47 @@ TEST_F(DefaultsTest, FileWithoutDefaultsLeavesTheCompiledInRecord) {
 }
 
 TEST_F(DefaultsTest, PaperGivesItsSizeToAnOutputPaperThatIsTheSame) {
-    const struct {
-        const char* what;
-        uint32_t outputPaper; // value of its default record; 0: no entry
-        bool paper;           // with an entry for the paper
-        Writes writes;        // besides those of the paper
-    } cases[] = {
+    // The value of the output paper, 0 without an entry, and what is written besides the paper.
+    const std::tuple<const char*, uint32_t, bool, Writes> cases[] = {
         {"same as the paper", 357, true, {{96, 2, 357}, {98, 2, 4200}, {100, 2, 2971}}},
         {"same as the paper before", 357, false, {{96, 2, 357}, {98, 2, 2100}, {100, 2, 2970}}},
         {"of its own", 8, true, {{96, 2, 8}, {98, 2, 1111}, {100, 2, 2222}}},
         {"not in the file", 0, true, {}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [what, outputPaper, hasPaper, further] : cases) {
         PrmImage image;
-        Writes writes = c.writes;
+        Writes writes = further;
         const RawBytes paper = RawBytes(620).U32(16, 0x10008).U32(24, 4200).U32(28, 2971);
-        if (c.paper) { // without its flag at 288; the margins count
+        if (hasPaper) { // without its flag at 288; the margins count
             image.Entry("PaperSize", {}, 0,
                         image.Put(RawBytes(paper).U32(136, 1).U32(140, 2).U32(144, 3).U32(148, 0x10004)));
             writes.insert(writes.end(), {{66, 2, 8}, {68, 2, 4200}, {70, 2, 2971}});
             writes.insert(writes.end(), {{72, 2, 1}, {74, 2, 2}, {76, 2, 3}, {78, 2, 4}});
         }
-        const RawBytes output = RawBytes(320).U32(16, c.outputPaper).U32(24, 1111).U32(28, 2222);
-        if (c.outputPaper != 0)
+        const RawBytes output = RawBytes(320).U32(16, outputPaper).U32(24, 1111).U32(28, 2222);
+        if (outputPaper != 0)
             image.Entry("OutPaperSize", {}, 0, image.Put(output));
-        EXPECT_EQ(Compare(image, writes, {{68, 2, 2100}, {70, 2, 2970}}), "") << c.what;
+        EXPECT_EQ(Compare(image, writes, {{68, 2, 2100}, {70, 2, 2970}}), "") << what;
     }
 }
 
 TEST_F(DefaultsTest, DefaultRecordGivesItsValue) {
     constexpr uint32_t kValue = 0x81828384;
-    const struct {
-        const char* entry;
-        unsigned width;
-        std::vector<size_t> positions;
-    } cases[] = {
+    const std::tuple<const char*, unsigned, std::vector<size_t>> cases[] = {
         {"MediaType", 2, {122, 160}},  {"MediaWeight", 2, {162}},  {"MediaColor", 2, {164}},
         {"MediaPrePunched", 1, {166}}, {"InTray", 2, {120}},       {"Collate", 1, {600}},
         {"PaperOption1", 1, {744}},    {"PaperOption2", 1, {745}}, {"Staple", 1, {1457}},
         {"HolePunch", 1, {1459}},      {"Folding", 1, {1466}},     {"Combination", 1, {1470}},
         {"OutputTray", 2, {1460}},     {"OutputOrder", 1, {1462}}, {"ExcelJobCtrl", 0, {}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [entry, width, positions] : cases) {
         PrmImage image;
-        image.Entry(c.entry, {}, 0, image.Put(RawBytes(156).U8(0, 0xAB, 156).U32(12, kValue)));
+        image.Entry(entry, {}, 0, image.Put(RawBytes(156).U8(0, 0xAB, 156).U32(12, kValue)));
         Writes writes;
-        for (const size_t position : c.positions)
-            writes.push_back({position, c.width, kValue});
-        EXPECT_EQ(Compare(image, writes), "") << c.entry;
-        EXPECT_EQ(excelJobCtrl, std::string(c.entry) == "ExcelJobCtrl" ? kValue : 1) << c.entry;
+        for (const size_t position : positions)
+            writes.push_back({position, width, kValue});
+        EXPECT_EQ(Compare(image, writes), "") << entry;
+        EXPECT_EQ(excelJobCtrl, std::string(entry) == "ExcelJobCtrl" ? kValue : 1) << entry;
     }
 }
 
@@ -157,12 +149,7 @@ Writes UserPaper(size_t isLength, uint32_t metric, uint32_t inches) {
 
 TEST_F(DefaultsTest, RangeGivesItsDefaultInBothUnits) {
     const auto negative = [](int value) { return static_cast<uint32_t>(value); };
-    const struct {
-        const char* entry;
-        uint32_t value;
-        const char* figureType;
-        Writes writes;
-    } cases[] = {
+    const std::tuple<const char*, uint32_t, const char*, Writes> cases[] = {
         // clang-format off
         {"Copies",             0x12345,        "", {{598, 2, 0x2345}}},
         {"UserPaper_Width",    2970,           "", UserPaper(0, 2970, 1169)},
@@ -181,20 +168,18 @@ TEST_F(DefaultsTest, RangeGivesItsDefaultInBothUnits) {
         {"DivideFinish",       0x10007,        "", {{1472, 2, 7}}},
         // clang-format on
     };
-    for (const auto& c : cases) {
+    for (const auto& [entry, value, figureType, writes] : cases) {
         PrmImage image;
-        image.Range(c.entry, 111, 222, c.value);
-        image.Table("PaperSizeFigure", std::string("FigureType=") + c.figureType);
-        EXPECT_EQ(Compare(image, c.writes), "") << c.entry << " " << c.value;
+        image.Range(entry, 111, 222, value);
+        image.Table("PaperSizeFigure", std::string("FigureType=") + figureType);
+        EXPECT_EQ(Compare(image, writes), "") << entry << " " << value;
     }
 }
 
 // Colour keys are looked up in the compiled-in tables.
 TEST_F(DefaultsTest, DefaultKeyGivesTheValueOfItsItem) {
-    const struct {
-        const char *entry, *key;
-        Written written; // a width of 0: nothing
-    } cases[] = {
+    // A width of 0: nothing is written.
+    const std::tuple<const char*, const char*, Written> cases[] = {
         // clang-format off
         {"FCoverTray", "FCover_Tray3", {1480, 2, 259}},              {"BCoverTray", "bcover_lct", {1484, 2, 1000}},
         {"PIFrontCover", "PIFTray2", {1491, 2, 1002}},               {"PIBackCover", "PIBTray1", {1494, 2, 1001}},
@@ -212,10 +197,10 @@ TEST_F(DefaultsTest, DefaultKeyGivesTheValueOfItsItem) {
         {"MatchPaperColor", "MatchPaperColorOFF", {3534, 1, 0}},
         // clang-format on
     };
-    for (const auto& c : cases) {
+    for (const auto& [entry, key, written] : cases) {
         PrmImage image;
-        image.StringValue(c.entry, c.key);
-        EXPECT_EQ(Compare(image, Writes{c.written}), "") << c.entry << " " << c.key;
+        image.StringValue(entry, key);
+        EXPECT_EQ(Compare(image, Writes{written}), "") << entry << " " << key;
     }
     uint32_t mode = 0;
     for (const std::string& name : Split("Auto doc Photo Presen DTP Web CAD ICM Custom", ' ')) {
@@ -226,44 +211,37 @@ TEST_F(DefaultsTest, DefaultKeyGivesTheValueOfItsItem) {
 }
 
 TEST_F(DefaultsTest, RgbSourceTakesTheDisplayNameOfItsTable) {
-    const struct {
-        const char *entry, *key;
-        ItemRecord& item;
-        size_t value, name;
-    } cases[] = {
+    const std::tuple<const char*, const char*, ItemRecord&, size_t, size_t> cases[] = {
         {"Text_RGBProf", "Text_BlueAdjust", colorTables.text.rgbProfiles.items[15], 2516, 2520},
         {"Img_RGBProf", "Img_BlueAdjust", colorTables.image.rgbProfiles.items[15], 2514, 2688},
         {"Graph_RGBProf", "Graph_BlueAdjust", colorTables.graphics.rgbProfiles.items[15], 2518, 2856},
     };
     PrmImage image;
     RawBytes expected = Filled();
-    for (const auto& c : cases) {
-        image.StringValue(c.entry, c.key);
-        const wchar_t character = static_cast<wchar_t>('A' + (&c - cases));
-        memcpy(c.item.display, Repeated(character, 47).data(), sizeof(c.item.display));
-        expected.U16(c.value, 141).Wide(c.name, Repeated(character, 40).data()).U16(c.name + 80, 0);
+    for (const auto& [entry, key, item, value, name] : cases) {
+        image.StringValue(entry, key);
+        const auto character = static_cast<wchar_t>(entry[0]);
+        memcpy(item.display, Repeated(character, 47).data(), sizeof(item.display));
+        expected.U16(value, 141).Wide(name, Repeated(character, 40).data()).U16(name + 80, 0);
     }
     EXPECT_EQ(Compare(image, expected), "");
 }
 
 TEST_F(DefaultsTest, DefaultLocationGivesItsValue) {
-    const struct {
-        const char *entry, *key;
-        std::vector<size_t> positions;
-    } cases[] = {
+    const std::tuple<const char*, const char*, std::vector<size_t>> cases[] = {
         {"OvlForm_Location", "hdd", {2088}}, {"Prof_Location", "HDD", {2684, 2852, 3020, 2332, 2502, 2508}},
         {"OvlForm_Location", "HD", {}},      {"Prof_Location", "", {}},
         {"OutputMethod", "HDD", {}},
     };
-    for (const auto& c : cases) {
+    for (const auto& [name, key, positions] : cases) {
         PrmImage image;
         const uint32_t entry = image.Items<PrmTextItem>(
-            c.entry, {image.WithText("Memory", L"", 7, ""), image.WithText("HDD", L"", 0x10203, "")});
-        image.SetDefault(entry, image.Put(RawBytes(16).U32(0, image.Text(c.key))));
+            name, {image.WithText("Memory", L"", 7, ""), image.WithText("HDD", L"", 0x10203, "")});
+        image.SetDefault(entry, image.Put(RawBytes(16).U32(0, image.Text(key))));
         Writes writes;
-        for (const size_t position : c.positions)
+        for (const size_t position : positions)
             writes.push_back({position, 4, 0x10203});
-        EXPECT_EQ(Compare(image, writes), "") << c.entry << c.key;
+        EXPECT_EQ(Compare(image, writes), "") << name << key;
     }
 }
 
@@ -279,68 +257,61 @@ RawBytes Watermark(PrmImage& image, const std::string& key, uint32_t i) {
 }
 
 TEST_F(DefaultsTest, WatermarkIsTheLastItemWithTheDefaultKey) {
-    constexpr int kNone = -1;
-    const struct {
-        const char *what, *keys, *defaultKey, *colorDevice;
-        int position, fields; // of the watermark that gives the position, and of the one that gives the rest
-    } cases[] = {
-        {"in another case", "WM_None WM_A WM_B", "wm_a", "TRUE", 1, 1},
-        {"black only", "WM_None WM_A WM_B", "WM_B", "FALSE", 2, 2},
-        {"two of one key", "WM_A WM_B WM_A", "WM_A", "TRUE", 2, 2},
-        {"none", "WM_A WM_None WM_NONE", "wm_none", "TRUE", 2, kNone},
-        {"unknown key", "WM_None WM_AA", "WM_A", "TRUE", kNone, kNone},
-        {"empty key", "WM_A  WM_B", "", "TRUE", 1, 1},
+    // Keys of the items, key of the default record; the item's position (-1: none), and whether it is taken over.
+    const std::tuple<const char*, const char*, bool, int, bool> cases[] = {
+        {"WM_None WM_A WM_B", "wm_a", true, 1, true},  // in another case
+        {"WM_None WM_A WM_B", "WM_B", false, 2, true}, // black only
+        {"WM_A WM_B WM_A", "WM_A", true, 2, true},     // two of one key
+        {"WM_A WM_None WM_NONE", "wm_none", true, 2, false},
+        {"WM_None WM_AA", "WM_A", true, -1, false}, // unknown key
+        {"WM_A  WM_B", "", true, 1, true},          // empty key
     };
-    for (const auto& c : cases) {
+    for (const auto& [keys, defaultKey, isColor, position, hasFields] : cases) {
         PrmImage image;
-        image.Table("DevInfo", std::string("ColorDevice=") + c.colorDevice);
+        image.Table("DevInfo", isColor ? "ColorDevice=TRUE" : "ColorDevice=FALSE");
         std::vector<uint32_t> offsets;
-        for (const std::string& key : Split(c.keys, ' '))
+        for (const std::string& key : Split(keys, ' '))
             offsets.push_back(image.Put(Watermark(image, key, static_cast<uint32_t>(offsets.size()))));
-        image.Entry("Watermark", offsets, 0, image.Put(Watermark(image, c.defaultKey, 9)));
+        image.Entry("Watermark", offsets, 0, image.Put(Watermark(image, defaultKey, 9)));
 
         RawBytes expected = Filled();
-        if (c.position != kNone)
-            expected.U16(1500, static_cast<unsigned>(c.position));
-        if (c.fields != kNone) {
-            const auto i = static_cast<unsigned>(c.fields);
+        const auto i = static_cast<unsigned>(position);
+        if (position >= 0)
+            expected.U16(1500, i);
+        if (hasFields) {
             const auto character = static_cast<wchar_t>(L'a' + i);
             expected.Wide(1534, Repeated(character, 31).data()).U16(1596, 0);
             expected.Wide(1598, Repeated(character, 128).data()).U16(1854, 0);
             expected.Wide(1856, Repeated(character, 31).data()).U16(1918, 0);
             expected.U16(1920, 0x1000 + i).U16(1922, 0x2000 + i);
-            expected.U32(1924, c.colorDevice[0] == 'T' ? 0xC0B0A0 + i : 0x808080);
+            expected.U32(1924, isColor ? 0xC0B0A0 + i : 0x808080);
             expected.U16(1928, 0x3000 + i).U8(1930, 0x64 + i, 8).U16(1946, 0x4000 + i);
         }
-        EXPECT_EQ(Compare(image, expected), "") << c.what;
+        EXPECT_EQ(Compare(image, expected), "") << keys << ": " << defaultKey;
     }
 }
 
 TEST_F(DefaultsTest, ResolutionIsTheFirstItemWithTheDefaultKey) {
-    const Writes second = {{2136, 1, 1}, {2138, 2, 21}, {2140, 2, 22}, {2142, 2, 23}};
-    const struct {
-        const char *second, *defaultKey;
-        int number; // after the fifth character of the second key; -1: nothing is written
-    } cases[] = {
-        {"Res2_1200x600", "res2_1200X600", 1200},
-        {"600x1x42", "600x1x42", 42},
-        {"12345", "12345", 0},
-        {"Res_2", "Res_", -1},
-        {"", "", 0},
+    // With the number that follows the fifth character of the key.
+    const auto second = [](uint32_t number) {
+        return Writes{{2136, 1, 1}, {2138, 2, 21}, {2140, 2, 22}, {2142, 2, 23}, {2144, 2, number}};
     };
-    for (const auto& c : cases) {
+    const std::tuple<const char*, const char*, Writes> cases[] = {
+        {"Res2_1200x600", "res2_1200X600", second(1200)},
+        {"600x1x42", "600x1x42", second(42)},
+        {"Res_2", "Res_", {}},
+        {"", "", second(0)},
+    };
+    for (const auto& [secondKey, defaultKey, writes] : cases) {
         PrmImage image;
         std::vector<uint32_t> offsets;
-        for (const char* key : {"Res_1", c.second, "Res_3"}) {
+        for (const char* key : {"Res_1", secondKey, "Res_3"}) {
             const auto i = static_cast<uint32_t>(10 + 10 * offsets.size());
             const RawBytes record = RawBytes(32).U32(12, 77).U32(16, 77).U32(20, 0x10001 + i).U32(24, 2 + i);
             offsets.push_back(image.Put(RawBytes(record).U32(0, image.Text(key)).U32(28, 3 + i)));
         }
-        image.Entry("Resolution", offsets, 0, image.Put(RawBytes(32).U32(0, image.Text(c.defaultKey))));
-        Writes writes = c.number < 0 ? Writes() : second;
-        if (c.number >= 0)
-            writes.push_back({2144, 2, static_cast<uint32_t>(c.number)});
-        EXPECT_EQ(Compare(image, writes), "") << c.second << " " << c.defaultKey;
+        image.Entry("Resolution", offsets, 0, image.Put(RawBytes(32).U32(0, image.Text(defaultKey))));
+        EXPECT_EQ(Compare(image, writes), "") << secondKey << " " << defaultKey;
     }
 }
 
@@ -359,31 +330,30 @@ TEST_F(DefaultsTest, SwitchesLimitTheBindingEdgeAndSetTheCoverPrint) {
 }
 
 TEST_F(DefaultsTest, EachTrayTakesTheDefaultPaper) {
-    const struct {
-        const char *what, *trays, *automatic, *slots; // of one-character keys
-    } cases[] = {
+    // Trays have keys of one character.
+    const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
         {"automatic choice is no tray", "A=257;X=7;B=258", "X=7", "A=257;B=258"},
         {"bin of the automatic choice from the file", "A=7;X=301;C=0;Y=301", "X=301", "A=7;C=0"},
         {"ten slots", "X=7;A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11;K=12", "X=7",
          "A=1;B=2;C=3;D=4;E=5;F=6;G=8;H=9;I=10;J=11"},
     };
     const auto bin = [](const std::string& tray) { return static_cast<uint32_t>(std::stoul(tray.substr(2))); };
-    for (const auto& c : cases) {
+    for (const auto& [what, fileTrays, automatic, slots] : cases) {
         PrmImage image;
         std::vector<PrmMediaItem> trays;
-        for (const std::string& tray : Split(c.trays, ';'))
+        for (const std::string& tray : Split(fileTrays, ';'))
             trays.push_back(image.Media(tray.substr(0, 1), L"", bin(tray), 1, ""));
         image.Items("InTray", trays);
-        image.Items<PrmMediaItem>("ALL_InTray", {image.Media("InTrayAuto", L"", bin(c.automatic), 1, "")});
+        image.Items<PrmMediaItem>("ALL_InTray", {image.Media("InTrayAuto", L"", bin(automatic), 1, "")});
         const Writes media = {{122, 2, 0x1234}, {162, 2, 0x2345}, {164, 2, 0x3456}, {166, 1, 0x78}};
         RawBytes expected = Write(Filled(), media);
         size_t at = 167;
-        for (const std::string& slot : Split(c.slots, ';')) { // slots without a tray stay
+        for (const std::string& slot : Split(slots, ';')) { // slots without a tray stay
             expected.Text(at, slot.substr(0, 1)).U8(at + 1, 0).U32(at + 32, bin(slot)).U16(at + 36, 0x1234);
             expected.U16(at + 38, 0x2345).U16(at + 40, 0x3456).U8(at + 42, 0x78);
             at += 43;
         }
-        EXPECT_EQ(Compare(image, expected, media), "") << c.what;
+        EXPECT_EQ(Compare(image, expected, media), "") << what;
     }
 }
 
