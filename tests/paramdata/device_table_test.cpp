@@ -15,11 +15,7 @@ void ExpectTable(const PrmImage& image, const RawBytes& expected, const std::str
 
 TEST_F(DeviceTableTest, ValuesOfSwitches) {
     // clang-format off
-    const struct {
-        std::string rows;
-        size_t index;
-        uint32_t value;
-    } cases[] = {
+    const std::tuple<std::string, size_t, uint32_t> cases[] = {
         {"sTAPLE=enable", 29, 1},              {"Staple=Enabled", 29, 0},       {"Staple=Enabl", 29, 0},
         {"Staples=Enable", 29, 0},             {"SeparatePagePrint=Enable", 0, 0},
         {std::string(32, 'S') + "=Enable", 29, 0}, // no terminator in the name's field
@@ -33,10 +29,10 @@ TEST_F(DeviceTableTest, ValuesOfSwitches) {
         {"InterimAuthenticSetting=Enable", 84, 1},
     };
     // clang-format on
-    for (const auto& c : cases) {
+    for (const auto& [rows, index, value] : cases) {
         PrmImage image;
-        image.Table("FeatureSetting", c.rows);
-        ExpectTable(image, RawBytes(kTableSize).U32(4 * c.index, c.value), c.rows);
+        image.Table("FeatureSetting", rows);
+        ExpectTable(image, RawBytes(kTableSize).U32(4 * index, value), rows);
     }
     PrmImage image;
     image.Table("FeatureSetting", "UserAuthentication=Enable");
@@ -48,10 +44,7 @@ TEST_F(DeviceTableTest, DeviceFactsAndFigureType) {
     const auto byte = [&](size_t at, unsigned value) { return RawBytes(none).U8(at, value); };
     const auto dword = [&](size_t at, uint32_t value) { return RawBytes(none).U32(at, value); };
     // clang-format off
-    const struct {
-        const char* rows;
-        RawBytes expected;
-    } cases[] = {
+    const std::pair<const char*, RawBytes> cases[] = {
         {"PrintRatePPM=35", dword(352, 35)},            {"printrateppm=  +42ppm", dword(352, 42)},
         {"PrintRatePPM=-3", dword(352, 0xFFFFFFFD)},    {"PrintRatePPM=x35", none},
         {"PrintRate=70000", dword(356, 70000)},         {"PrintRate=1000;PrintRate=fast", none},
@@ -68,11 +61,11 @@ TEST_F(DeviceTableTest, DeviceFactsAndFigureType) {
         {"FigureType=MFP;FigureType=Printer", dword(386, 1)}, // a row can only set it
     };
     // clang-format on
-    for (const auto& c : cases) {
+    for (const auto& [rows, expected] : cases) {
         PrmImage image;
-        image.Table("DevInfo", c.rows);
-        image.Table("PaperSizeFigure", c.rows);
-        ExpectTable(image, c.expected, c.rows);
+        image.Table("DevInfo", rows);
+        image.Table("PaperSizeFigure", rows);
+        ExpectTable(image, expected, rows);
     }
 }
 

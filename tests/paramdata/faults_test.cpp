@@ -43,12 +43,8 @@ std::string Transcript(const PrmFile& file, uint32_t size) {
 TEST_F(FaultsTest, ResultsAreTheSameWithoutImageAndWithSmallReads) {
     const PrmImage image = MixedImage();
     const std::string expected = Transcript(*OpenedImage(image), image.Size());
-    const struct {
-        const char* what;
-        unsigned failingAllocation;
-        win32::FileFaults faults; // failing read, most bytes per read, size query fails
-        bool hasImage;
-    } ways[] = {
+    // Of a file: failing read, most bytes per read, size query fails.
+    const std::tuple<const char*, unsigned, win32::FileFaults, bool> ways[] = {
         {"size query fails", 0, {0, 0, true}, false},
         {"no memory for the image", 2, {}, false},
         {"first read fails", 0, {1}, false},
@@ -56,13 +52,13 @@ TEST_F(FaultsTest, ResultsAreTheSameWithoutImageAndWithSmallReads) {
         {"small reads", 0, {0, 7}, true},
         {"small reads without image", 2, {0, 3}, false},
     };
-    for (const auto& way : ways) {
-        win32::FailAllocations(way.failingAllocation);
-        win32::SetFileFaults(way.faults);
+    for (const auto& [what, failingAllocation, faults, hasImage] : ways) {
+        win32::FailAllocations(failingAllocation);
+        win32::SetFileFaults(faults);
         OpenedImage file(image);
-        ASSERT_NE(file.file, nullptr) << way.what;
-        EXPECT_EQ(file.file->image != nullptr, way.hasImage) << way.what;
-        EXPECT_EQ(Transcript(*file, image.Size()), expected) << way.what;
+        ASSERT_NE(file.file, nullptr) << what;
+        EXPECT_EQ(file.file->image != nullptr, hasImage) << what;
+        EXPECT_EQ(Transcript(*file, image.Size()), expected) << what;
         win32::SetFileFaults({});
     }
     win32::FailAllocations(1);

@@ -20,12 +20,9 @@ void ExpectList(const BuiltTable& built, size_t position, RawBytes expected, siz
 }
 
 TEST_F(ItemListsTest, ListsOfItemsWithText) {
+    // Position of the pointer in the device table, size of a record, display names of 48 characters.
     // clang-format off
-    const struct {
-        const char* entry;
-        size_t position, size; // of the pointer in the device table, of a record
-        bool wide;             // display names of 48 characters
-    } lists[] = {
+    const std::tuple<const char*, size_t, size_t, bool> lists[] = {
         {"OutputTray",       590, 272, true }, {"MediaWeight",          598, 240, false},
         {"MediaColor",       606, 240, false}, {"Combination",          634, 240, false},
         {"Folding",          642, 240, false}, {"HolePunch",            650, 288, false},
@@ -37,17 +34,17 @@ TEST_F(ItemListsTest, ListsOfItemsWithText) {
     };
     // clang-format on
     PrmImage image;
-    for (const auto& list : lists)
-        image.Items<PrmTextItem>(list.entry, {image.WithText(list.entry, L"Fach \u4E2D", 7, "text"),
-                                              image.WithText(kLongKey, kLongDisplay, 0xFFFFFFFE, kFullText),
-                                              image.WithText("NoDisplay", L"", 0, "")});
+    for (const auto& [entry, position, size, wide] : lists)
+        image.Items<PrmTextItem>(entry, {image.WithText(entry, L"Fach \u4E2D", 7, "text"),
+                                         image.WithText(kLongKey, kLongDisplay, 0xFFFFFFFE, kFullText),
+                                         image.WithText("NoDisplay", L"", 0, "")});
     BuiltTable built(image);
-    for (const auto& list : lists) {
-        const size_t textAt = list.wide ? 144 : 112;
-        RawBytes expected = ListRecord(list.entry, 7, L"Fach \u4E2D", list.size).Text(textAt, "text");
-        RawBytes full = ListRecord(kCutKey, 0xFFFFFFFE, list.wide ? kCut48 : kCut32, list.size);
-        expected.Append(full.Text(textAt, kCutText)).Append(ListRecord("NoDisplay", 0, L"", list.size));
-        ExpectList(built, list.position, expected, list.size, false);
+    for (const auto& [entry, position, size, wide] : lists) {
+        const size_t textAt = wide ? 144 : 112;
+        RawBytes expected = ListRecord(entry, 7, L"Fach \u4E2D", size).Text(textAt, "text");
+        RawBytes full = ListRecord(kCutKey, 0xFFFFFFFE, wide ? kCut48 : kCut32, size);
+        expected.Append(full.Text(textAt, kCutText)).Append(ListRecord("NoDisplay", 0, L"", size));
+        ExpectList(built, position, expected, size, false);
     }
 }
 
@@ -165,24 +162,20 @@ TEST_F(ItemListsTest, Papers) {
 }
 
 TEST_F(ItemListsTest, UserPaperAlsoFillsTheDeviceTable) {
-    const struct {
-        const char* key;
-        unsigned present;
-        bool found;
-    } cases[] = {
+    const std::tuple<const char*, unsigned, bool> cases[] = {
         {"UserPaper", 0b11100, true}, {"USERPAPER", 0b00111, true},   {"UserPaper", 0b01000, true},
         {"UserPaper", 0b10000, true}, {"UserPaper2", 0b11111, false}, {"User", 0b11111, false},
     };
-    for (const auto& c : cases) {
+    for (const auto& [key, present, found] : cases) {
         PrmImage image;
-        image.Entry("PaperSize", {image.Put(FilePaper(image, c.key, c.present))});
+        image.Entry("PaperSize", {image.Put(FilePaper(image, key, present))});
         const BuiltTable built(image);
         RawBytes expected(168); // positions 398 to 566
-        if (c.found) {
-            expected.U32(0, 2100).U32(4, 2160).U32(8, 2970).U32(12, 3030).U8(16, Flag(c.present, 3) * 0x33, 16);
-            expected.U8(32, Flag(c.present, 4) * 0x44, 120).U8(152, Flag(c.present, 5) * 0x55, 16);
+        if (found) {
+            expected.U32(0, 2100).U32(4, 2160).U32(8, 2970).U32(12, 3030).U8(16, Flag(present, 3) * 0x33, 16);
+            expected.U8(32, Flag(present, 4) * 0x44, 120).U8(152, Flag(present, 5) * 0x55, 16);
         }
-        EXPECT_EQ(Differences(reinterpret_cast<uint8_t*>(built.table) + 398, expected), "") << c.key;
+        EXPECT_EQ(Differences(reinterpret_cast<uint8_t*>(built.table) + 398, expected), "") << key;
     }
 }
 

@@ -77,11 +77,7 @@ TEST(Reader, ReadsEndAtTheEndOfTheFile) {
     const uint32_t size = image.Size();
     OpenedImage file(image);
     // clang-format off
-    const struct {
-        uint32_t count;
-        uint64_t offset;
-        uint32_t delivered;
-    } cases[] = {
+    const std::tuple<uint32_t, uint64_t, uint32_t> cases[] = {
         {4, 0, 4}, {8, size - 3, 3}, {1, size - 1, 1}, {1, size, 0}, {0, 0, 0}, {0x7FFFFFFF, 8, size - 8},
         {4, 0xFFFFFFFF, 0}, {4, 0x100000008, 0}}; // the last is 8 in 32 bits
     // clang-format on
@@ -121,12 +117,7 @@ TEST(Reader, TextOfMoreThan290CharactersIsRefused) {
     PrmImage image;
     const std::string most(290, 'a');
     // clang-format off
-    const struct {
-        const char* what;
-        uint32_t offset;
-        bool success;
-        std::string text;
-    } cases[] = {
+    const std::tuple<const char*, uint32_t, bool, std::string> cases[] = {
         {"short", image.Text("InTray1"), true, "InTray1"},
         {"empty", image.Text(""), true, ""},
         {"290 characters", image.Text(most), true, most},
@@ -138,10 +129,10 @@ TEST(Reader, TextOfMoreThan290CharactersIsRefused) {
     };
     // clang-format on
     OpenedImage file(image);
-    for (const auto& c : cases) {
+    for (const auto& [what, offset, success, expected] : cases) {
         PrmText text = "as before";
-        EXPECT_EQ(PrmReadString(*file, c.offset, text), c.success) << c.what;
-        EXPECT_EQ(text, c.text) << c.what;
+        EXPECT_EQ(PrmReadString(*file, offset, text), success) << what;
+        EXPECT_EQ(text, expected) << what;
     }
 }
 
@@ -149,12 +140,7 @@ TEST(Reader, EmptyWideTextIsRefusedAndALongOneCut) {
     PrmImage image;
     const auto text291 = Repeated(L'\u00FC', 291), text292 = Repeated(L'\u00FC', 292);
     // clang-format off
-    const struct {
-        const char* what;
-        uint32_t offset;
-        bool success;
-        const wchar_t* text;
-    } cases[] = {
+    const std::tuple<const char*, uint32_t, bool, const wchar_t*> cases[] = {
         {"short", image.Wide(L"Fach \u00E4\u4E2D"), true, L"Fach \u00E4\u4E2D"},
         {"empty counts as absent", image.Wide(L""), false, L"as before"},
         {"291 characters", image.Wide(text291.data()), true, text291.data()},
@@ -164,10 +150,10 @@ TEST(Reader, EmptyWideTextIsRefusedAndALongOneCut) {
     };
     // clang-format on
     OpenedImage file(image);
-    for (const auto& c : cases) {
+    for (const auto& [what, offset, success, expected] : cases) {
         PrmWideText text = L"as before";
-        EXPECT_EQ(PrmReadWideString(*file, c.offset, text), c.success) << c.what;
-        EXPECT_EQ(Differences(text, RawBytes(2 * TextLength(c.text) + 2).Wide(0, c.text)), "") << c.what;
+        EXPECT_EQ(PrmReadWideString(*file, offset, text), success) << what;
+        EXPECT_EQ(Differences(text, RawBytes(2 * TextLength(expected) + 2).Wide(0, expected)), "") << what;
     }
 }
 
@@ -182,23 +168,18 @@ TEST(Reader, StringValueMustFitWithItsTerminator) {
     image.StringValue("C292", c290 + "cc");
     image.Entry("NoDefault", {}, 0, 0xFFFFFFF0);
     // clang-format off
-    const struct {
-        const char* name;
-        size_t capacity;
-        bool success;
-        std::string value;
-    } cases[] = {
+    const std::tuple<const char*, size_t, bool, std::string> cases[] = {
         {"Short", 128, true, "A4"}, {"short", 4, true, "A4"},   {"Short", 3, false, ""},
         {"C126", 128, true, c126},  {"C127", 128, false, ""},   {"C290", 300, true, c290},
         {"C292", 300, true, ""},    {"Missing", 9, false, ""},  {"NoDefault", 9, true, ""},
         {"Empty", 2, true, ""}};
     // clang-format on
     OpenedImage file(image);
-    for (const auto& c : cases) {
-        std::string to(c.capacity + 1, '#'), expected = c.value;
-        EXPECT_EQ(PrmReadStringValue(*file, c.name, to.data(), c.capacity), c.success) << c.name << c.capacity;
-        expected.resize(c.capacity);
-        EXPECT_EQ(to, expected + '#') << c.name << c.capacity;
+    for (const auto& [name, capacity, success, value] : cases) {
+        std::string to(capacity + 1, '#'), expected = value;
+        EXPECT_EQ(PrmReadStringValue(*file, name, to.data(), capacity), success) << name << capacity;
+        expected.resize(capacity);
+        EXPECT_EQ(to, expected + '#') << name << capacity;
     }
 }
 

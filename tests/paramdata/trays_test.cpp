@@ -27,11 +27,7 @@ TEST_F(TraysTest, DisabledTrayHasATextButNoKey) {
 // The features that select a paper source, the position of their list in the device table, and some of their
 // items with the bin number.
 // clang-format off
-const struct Selection {
-    const char* feature;
-    size_t position;
-    const char* items;
-} kSelections[] = {
+const std::tuple<const char*, size_t, std::string> kSelections[] = {
     {"FCoverTray",          722, "FCover_Auto=32767;FCover_Tray3=259;FCover_LCT=1000"},
     {"BCoverTray",          730, "BCover_Tray1=257;BCover_Manual=4;BCover_Auto=32767"},
     {"SeparatePageTray",    738, "SPage_Tray2=258;SPage_Manual=4"},
@@ -45,21 +41,21 @@ const struct Selection {
 TEST_F(TraysTest, SelectionLists) {
     PrmImage image;
     const char* const unknown = ";SPage_LCT=0;InTray1=0;FCover_Tray=0;PPSTray12=0"; // to every feature
-    for (const Selection& row : kSelections) {
+    for (const auto& [feature, position, list] : kSelections) {
         std::vector<PrmItemDescriptor> items;
-        for (const std::string& item : Split(std::string(row.items) + unknown, ';'))
+        for (const std::string& item : Split(list + unknown, ';'))
             items.push_back(image.Plain(Split(item, '=')[0], L"Tray \u00E4"));
-        image.Items(row.feature, items);
+        image.Items(feature, items);
     }
     BuiltTable built(image);
-    for (const Selection& row : kSelections) {
+    for (const auto& [feature, position, list] : kSelections) {
         RawBytes expected(0);
-        for (const std::string& item : Split(std::string(row.items) + unknown, ';')) {
+        for (const std::string& item : Split(list + unknown, ';')) {
             const std::vector<std::string> parts = Split(item, '=');
             const auto value = static_cast<uint32_t>(std::stoul(parts[1]));
             expected.Append(ListRecord(parts[0], value, L"Tray \u00E4"));
         }
-        EXPECT_EQ(Differences(built.List(row.position), expected.Append(RawBytes(144))), "") << row.feature;
+        EXPECT_EQ(Differences(built.List(position), expected.Append(RawBytes(144))), "") << feature;
     }
 }
 
@@ -105,10 +101,8 @@ TEST_F(TraysTest, RowTakesTheNameOfAnItemThatEndsInItsKey) {
         rows63 += "T: ";
     }
     // clang-format off
-    const struct {
-        const char* what;
-        std::string trays, items, rows; // keys; after the colon the display name of an item or a row
-    } cases[] = {
+    // Keys; after the colon the display name of an item or a row.
+    const std::tuple<const char*, std::string, std::string, std::string> cases[] = {
         {"suffix",                 "InTray1 InTray2",  "Media_InTray2:B",        "InTray1: Media_InTray2:B"},
         {"in any case",            "InTray1",          "x_INTRAY1:A",            "x_INTRAY1:A"},
         {"equal key",              "InTray1",          "InTray1:A",              "InTray1:"},
@@ -123,14 +117,14 @@ TEST_F(TraysTest, RowTakesTheNameOfAnItemThatEndsInItsKey) {
         {"65th row", trays63 + "InTray64 InTray65", "xInTray65:A xInTray64:B", rows63 + "xInTray64:B InTray65:"},
     };
     // clang-format on
-    for (const auto& c : cases) {
+    for (const auto& [what, trayKeys, fileItems, rows] : cases) {
         PrmImage image;
         std::vector<PrmMediaItem> trays;
-        for (const std::string& key : Split(c.trays, ' '))
+        for (const std::string& key : Split(trayKeys, ' '))
             trays.push_back(Tray(image, key, 257 + static_cast<uint32_t>(trays.size())));
         image.Items("InTray", trays);
         std::vector<PrmItemDescriptor> items;
-        for (const std::string& item : Split(c.items + " Beyond_InTray1:Z", ' ')) {
+        for (const std::string& item : Split(fileItems + " Beyond_InTray1:Z", ' ')) {
             const wchar_t display[] = {static_cast<wchar_t>(item.back()), 0};
             items.push_back(image.Plain(item.substr(0, item.find(':')), display));
         }
@@ -139,13 +133,13 @@ TEST_F(TraysTest, RowTakesTheNameOfAnItemThatEndsInItsKey) {
         --info.itemCount;              // the chain goes on after the last item that counts
         info.itemOffsets = 0xFFFFFFFF; // the chain leads to the items, not the array
         RawBytes expected(0);
-        for (const std::string& row : Split(c.rows, ' ')) {
+        for (const std::string& row : Split(rows, ' ')) {
             const auto bin = static_cast<uint32_t>(257 + expected.bytes.size() / 112);
             RawBytes record = ListRecord(row.substr(0, row.find(':')), bin, L"", 112);
             expected.Append(record.Text(48, row.substr(row.find(':') + 1)));
         }
         const BuiltTable built(image);
-        EXPECT_EQ(Differences(built.List(810), expected.Append(RawBytes(112).U32(0, 112))), "") << c.what;
+        EXPECT_EQ(Differences(built.List(810), expected.Append(RawBytes(112).U32(0, 112))), "") << what;
     }
 }
 
