@@ -14,12 +14,8 @@ Copies: {min: 1, max: 99, default: 1}
 Country: {value: 1}
 FeatureSetting: {Poster: Enable, Chapter: Enable, Trim: Enable}
 MachineInfo: {items: [{name: M, details: {Engine: a, Scanner: s}}, {name: M}]}
-MediaColor:
-  default: W
-  items:
-    - {key: W, name: White, value: 3, text: T}
-    - {key: X, name: X, value: 4}
-    - {key: Y, name: Y, value: 5}
+MediaColor: {default: W, items: [{key: W, name: White, value: 3, text: T}, {key: X, name: X, value: 4},
+                                 {key: Y, name: Y, value: 5}]}
 PaperSize: {default: P, items: [{key: P, name: n, secondName: s, value: 9, width: 1, length: 1}]}
 )",
                                  messages);
@@ -27,17 +23,11 @@ PaperSize: {default: P, items: [{key: P, name: n, secondName: s, value: 9, width
 Copies: {min: 1, max: 999, default: 1}
 FeatureSetting: {Chapter: Enable, Poster: Disable, Overlay: SoftOverlay}
 MachineInfo: {items: [{name: M, details: {Engine: b c}}]}
-MediaColor:
-  default: Y
-  items:
-    - {key: Y, name: Y, value: 5, text: ""}
-    - {key: w, name: White, value: 3}
-    - {key: Z, name: Z, value: 6}
+MediaColor: {default: Y, items: [{key: Y, name: Y, value: 5, text: ""}, {key: w, name: White, value: 3},
+                                 {key: Z, name: Z, value: 6}]}
 Staple: {default: S, items: [{key: S, name: S, value: 0}]}
-PaperSize:
-  default: P
-  items:
-    - {key: P, name: n, secondName: s, value: 9, width: 1, length: 1, margins: [0, 0, 0, 0], values: [0, 0]}
+PaperSize: {default: P, items: [{key: P, name: n, secondName: s, value: 9, width: 1, length: 1,
+                                 margins: [0, 0, 0, 0], values: [0, 0]}]}
 )",
                                   messages);
     EXPECT_EQ(messages, Lines{});

@@ -18,11 +18,7 @@ std::string EntryBlock(const char* name, uint32_t firstItem, uint32_t next) {
 
 TEST(Layout, EveryByteOfTheSmallModel) {
     // clang-format off
-    const struct {
-        uint32_t at;
-        const char* what;
-        std::string bytes;
-    } pieces[] = {
+    const std::tuple<uint32_t, const char*, std::string> pieces[] = {
         {0x000, "header: chain end", Words({0, 0x2B0})},
         {0x008, "Copies", EntryBlock("Copies", 0, 0x78)},
         {0x03C, "info: no items", Words({0, 0, 0})},
@@ -56,10 +52,10 @@ TEST(Layout, EveryByteOfTheSmallModel) {
     // clang-format on
     const std::string built = Build(kSmallModel);
     size_t at = 0;
-    for (const auto& piece : pieces) {
-        EXPECT_EQ(at, piece.at) << piece.what;
-        EXPECT_EQ(built.substr(at, piece.bytes.size()), piece.bytes) << piece.what;
-        at += piece.bytes.size();
+    for (const auto& [wantedAt, what, bytes] : pieces) {
+        EXPECT_EQ(at, wantedAt) << what;
+        EXPECT_EQ(built.substr(at, bytes.size()), bytes) << what;
+        at += bytes.size();
     }
     EXPECT_EQ(built.size(), at);
 }
@@ -75,11 +71,8 @@ TEST(Layout, FieldsOfEveryRecord) {
     const char* const outputPaper = "OutPaperSize: {default: K, items: [{key: K, name: n, secondName: s, value: 357, "
                                     "width: 21, length: 29, values: [1, 2]}]}";
     // clang-format off
-    const struct {
-        const char* yaml;
-        size_t offset; // from the first record
-        std::string bytes;
-    } cases[] = {
+    // Offsets are from the first record.
+    const std::tuple<const char*, size_t, std::string> cases[] = {
         {paper, 0, Words({kRecord + 620, 0, kRecord + 622, 0, 9, 0, 2100, 2970, 31, 32, 0, 0})},
         {paper, 124, Words({1, 128, 129, 1, 2, 3, 4, 0})},
         {paper, 272, Words({272, 0, 0, 275, 1, 0, 1, 0, 0, kRecord + 626}) + Text("paper", 128)},
@@ -104,9 +97,8 @@ TEST(Layout, FieldsOfEveryRecord) {
          0, Text("M", 16) + Words({1, kRecord + 24}) + Text("Engine", 16) + Text("35 ppm", 16)},
     };
     // clang-format on
-    for (const auto& record : cases)
-        EXPECT_EQ(Build(record.yaml).substr(kRecord + record.offset, record.bytes.size()), record.bytes)
-            << record.yaml << " at " << record.offset;
+    for (const auto& [yaml, offset, bytes] : cases)
+        EXPECT_EQ(Build(yaml).substr(kRecord + offset, bytes.size()), bytes) << yaml << " at " << offset;
 }
 
 } // namespace

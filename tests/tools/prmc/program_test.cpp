@@ -14,10 +14,8 @@ namespace fs = std::filesystem;
 namespace {
 
 // Runs prmc in a temporary folder with good.yaml, other.yaml, bad.yaml, good.PRM and broken.PRM.
-class Program : public testing::Test {
-protected:
-    void SetUp() override {
-        folder = fs::path(testing::TempDir()) / ("prmc_test_" + std::to_string(getpid()));
+struct Program : testing::Test {
+    Program() {
         fs::create_directory(folder);
         WriteFileWhole(Path("good.yaml"), kSmallModel);
         WriteFileWhole(Path("other.yaml"), "Country: {value: 8}\n");
@@ -25,7 +23,7 @@ protected:
         WriteFileWhole(Path("good.PRM"), Build(kSmallModel));
         WriteFileWhole(Path("broken.PRM"), Build(kSmallModel).substr(1));
     }
-    void TearDown() override { fs::remove_all(folder); }
+    ~Program() override { fs::remove_all(folder); }
 
     std::string Path(const std::string& name) const { return (folder / name).string(); }
 
@@ -36,17 +34,12 @@ protected:
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
-    fs::path folder;
+    const fs::path folder = fs::path(testing::TempDir()) / ("prmc_test_" + std::to_string(getpid()));
 };
 
 TEST_F(Program, ExitCodesAndOutput) {
     // clang-format off
-    const struct {
-        const char* arguments;
-        int exitCode;
-        const char* out;
-        const char* errors;
-    } runs[] = {
+    const std::tuple<const char*, int, const char*, const char*> runs[] = {
         {"build good.yaml -o new.PRM", 0, "", ""},
         {"build bad.yaml -o new.PRM", 1, "", "bad.yaml:1:1: unknown entry 'Countri'"},
         {"build none.yaml -o new.PRM", 2, "", "prmc: cannot read 'none.yaml': No such file or directory"},
@@ -69,12 +62,12 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"--help", 0, "Compiles a printer model's parameter data", ""},
     };
     // clang-format on
-    for (const auto& run : runs) {
-        EXPECT_EQ(Run(run.arguments), run.exitCode) << run.arguments;
-        for (const auto& [file, text] : {std::pair("stdout.txt", run.out), {"stderr.txt", run.errors}}) {
+    for (const auto& [arguments, exitCode, out, errors] : runs) {
+        EXPECT_EQ(Run(arguments), exitCode) << arguments;
+        for (const auto& [file, text] : {std::pair("stdout.txt", out), {"stderr.txt", errors}}) {
             const std::string got = ReadFile(Path(file)), wanted = text;
-            EXPECT_EQ(got.substr(0, wanted.size()), wanted) << run.arguments;
-            EXPECT_EQ(got.empty(), wanted.empty()) << run.arguments << ": " << got;
+            EXPECT_EQ(got.substr(0, wanted.size()), wanted) << arguments;
+            EXPECT_EQ(got.empty(), wanted.empty()) << arguments << ": " << got;
         }
     }
 }

@@ -35,10 +35,8 @@ TEST(RoundTrip, SpecialTextsAreQuoted) {
     std::string yaml = "MediaTypeList_Tray:\n  items:\n";
     for (size_t i = 0; i < std::size(names); ++i)
         yaml += "    - {key: K" + std::to_string(i) + ", name: \"" + names[i] + "\"}\n";
-    const std::string built = Build(yaml);
-    const std::string dumped = DumpOf(built);
+    const std::string built = Build(yaml), dumped = DumpOf(built);
     EXPECT_TRUE(Build(dumped) == built) << dumped;
-
     Lines messages;
     const Model model = FromYaml(dumped, messages);
     EXPECT_EQ(model.entries.at(0).records.at(8).values.at(1).text, "\"a\"");
