@@ -32,24 +32,19 @@ TEST(Description, OmittedFieldsHaveTheirDefaults) {
 }
 
 TEST(Description, LevelsSetTheDetectedErrors) {
-    const struct {
-        const char* yaml;
-        std::string bits; // lowPaper 8000, noPaper 4000, lowToner 2000, noToner 1000, inputTrayEmpty 0004
-    } cases[] = {
+    // lowPaper 8000, noPaper 4000, lowToner 2000, noToner 1000, inputTrayEmpty 0004
+    const std::pair<const char*, std::string> cases[] = {
         {"trays: [{tray: TRAY1, capacity: 100, level: 10}, {tray: TRAY2, level: 0}]", "\x80\x04"},
         {"trays: [{tray: TRAY1, level: 0}]", "\x40\x04"},
         {"supplies: [{supply: cyan, level: 10}, {supply: black, level: 0}]", std::string("\x30\0", 2)},
         {"supplies: [{supply: waste, level: 0}, {supply: cyan, level: 11}]", std::string("\0\0", 2)},
     };
-    for (const auto& one : cases)
-        EXPECT_EQ(ObjectsOf(Read(one.yaml)).at({1, 3, 6, 1, 2, 1, 25, 3, 5, 1, 2, 1}).bytes, one.bits) << one.yaml;
+    for (const auto& [yaml, bits] : cases)
+        EXPECT_EQ(ObjectsOf(Read(yaml)).at({1, 3, 6, 1, 2, 1, 25, 3, 5, 1, 2, 1}).bytes, bits) << yaml;
 }
 
 TEST(Description, EveryErrorIsReportedAtItsPlace) {
-    const struct {
-        std::string yaml;
-        std::string findings;
-    } cases[] = {
+    const std::pair<std::string, const char*> cases[] = {
         {"name: " + std::string(256, 't'), "1:7: 'name' has 256 bytes, but at most 255 fit: shorten it\n"},
         {"memory: -1", "1:9: 'memory' is -1, which is out of range: write 0 to 2147483647\n"},
         {"punching: 4", "1:11: 'punching' can't be '4'; possible: 2, 2-3, 2-4\n"},
@@ -59,10 +54,10 @@ TEST(Description, EveryErrorIsReportedAtItsPlace) {
         {"trays: [{tray: TRAY1, level: much}]",
          "1:30: 'level' can't be 'much'; possible: unknown, some, or a number\n"},
     };
-    for (const auto& one : cases) {
+    for (const auto& [yaml, wanted] : cases) {
         Findings findings;
-        ReadDevice(one.yaml, findings);
-        EXPECT_EQ(Listed(findings), one.findings) << one.yaml;
+        ReadDevice(yaml, findings);
+        EXPECT_EQ(Listed(findings), wanted) << yaml;
     }
 }
 

@@ -14,11 +14,7 @@ TEST(Program, ExitCodesAndMessages) {
     const std::string bad = folder.File("bad.yaml", "memroy: 5\nduplex: both\nname: a\n");
     const std::string walk = folder.File("walk.txt", ".1.3.1 = INTEGER: 1\n.1.3.2 = INTEGER: x\n");
     const RunningPrinter other;
-    const struct {
-        std::string arguments;
-        int exitCode;
-        std::string output;
-    } cases[] = {
+    const std::tuple<std::string, int, std::string> cases[] = {
         {"--help", 0, "A simulated printer on the network: "},
         {"--prot 1", 2, "simprinter: "},
         {"--fault dealy=5", 2, "simprinter: fault 'dealy=5': unknown fault; possible: silence, loss, delay, "},
@@ -37,10 +33,10 @@ TEST(Program, ExitCodesAndMessages) {
          "simprinter: cannot listen on 127.0.0.1:" + other.Port()
              + ": Address already in use. Another program uses that port: stop it, or choose another one with --port"},
     };
-    for (const auto& one : cases) {
-        const CommandResult result = RunCommand("timeout 10 " SIMPRINTER_PROGRAM " " + one.arguments);
-        EXPECT_EQ(result.exitCode, one.exitCode) << one.arguments;
-        EXPECT_EQ(result.output.substr(0, one.output.size()), one.output) << one.arguments;
+    for (const auto& [arguments, exitCode, output] : cases) {
+        const CommandResult result = RunCommand("timeout 10 " SIMPRINTER_PROGRAM " " + arguments);
+        EXPECT_EQ(result.exitCode, exitCode) << arguments;
+        EXPECT_EQ(result.output.substr(0, output.size()), output) << arguments;
     }
 }
 

@@ -7,10 +7,6 @@
 
 namespace {
 
-Value Bytes4(std::initializer_list<unsigned char> bytes) {
-    return TextValue(std::string(bytes.begin(), bytes.end()), kOpaque);
-}
-
 // One object's value, as each format writes it.
 const struct {
     const char* snmprec; // after the name
@@ -21,7 +17,6 @@ const struct {
     {"2|2147483647", "INTEGER: 2147483647", NumberValue(2147483647)},
     {"2|3", "INTEGER: idle(3)", NumberValue(3)},
     {"2|30", "INTEGER: 30 seconds", NumberValue(30)},
-    {"4|plain text", "STRING: \"plain text\"", TextValue("plain text")},
     {"4|a|b", "STRING: \"a|b\"", TextValue("a|b")},
     {"4|", "\"\"", TextValue("")},
     {"4|2024-5-1", "STRING: 2024-5-1", TextValue("2024-5-1")},
@@ -38,8 +33,8 @@ const struct {
     {"65|4294967295", "Counter32: 4294967295", NumberValue(4294967295, kCounter)},
     {"66|12", "Gauge32: 12", NumberValue(12, kGauge)},
     {"67|8640000", "Timeticks: (8640000) 1 day, 0:00:00.00", NumberValue(8640000, kTimeTicks)},
-    {"68x|9f78043fc00000", "Opaque: Float: 1.500000", Bytes4({0x9F, 0x78, 4, 0x3F, 0xC0, 0, 0})},
-    {"68x|040101", "OPAQUE: 04 01 01 ", Bytes4({4, 1, 1})},
+    {"68x|9f78043fc00000", "Opaque: Float: 1.500000", TextValue({"\x9F\x78\4\x3F\xC0\0\0", 7}, kOpaque)},
+    {"68x|040101", "OPAQUE: 04 01 01 ", TextValue("\4\1\1", kOpaque)},
     {"71|9", "9", NumberValue(9, kUnsigned)},
 };
 
@@ -66,10 +61,7 @@ TEST(Recording, BothFormatsGiveTheSameValues) {
 
 TEST(Recording, EveryFindingHasItsLine) {
     const std::string good = "1.3.1.0|2|1\n", goodWalk = ".1.3.1.0 = INTEGER: 1\n";
-    const struct {
-        std::string text;
-        std::string findings;
-    } cases[] = {
+    const std::pair<std::string, const char*> cases[] = {
         {goodWalk + ".1.3.1.0 = No more variables left in this MIB View (It is past the end of the MIB tree)\n", ""},
         {goodWalk + ".1.3.1.0 = INTEGER: 2\n", "2: note: .1.3.1.0 occurs twice: the first value is used\n"},
         {goodWalk + ".1.3.2 = Counter64: 1\n.1.3.3 = Counter64: 3\n",
@@ -83,10 +75,10 @@ TEST(Recording, EveryFindingHasItsLine) {
         {goodWalk + ".1.3.2.0 = STRING: \"open\n.1.3.3.0 = INTEGER: 5\n",
          "2: the quoted text that starts here has no end\n"},
     };
-    for (const auto& one : cases) {
+    for (const auto& [text, wanted] : cases) {
         Findings findings;
-        EXPECT_EQ(ReadRecording(one.text, findings).size(), 1u) << one.text;
-        EXPECT_EQ(Listed(findings), one.findings) << one.text;
+        EXPECT_EQ(ReadRecording(text, findings).size(), 1u) << text;
+        EXPECT_EQ(Listed(findings), wanted) << text;
     }
     Findings findings;
     EXPECT_TRUE(ReadRecording("SNMPv2-MIB::sysDescr.0 = STRING: x\n", findings).empty());
