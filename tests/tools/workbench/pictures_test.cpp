@@ -31,9 +31,6 @@ struct Pictures : Folder {
 TEST(WorkbenchPictures, ViewFollowsEveryOption) {
     const Pictures pictures;
     const std::string plain = pictures.Make(L"view");
-    EXPECT_EQ(pictures.SizeOf(L"view"), "200x200");
-    EXPECT_EQ(pictures.SizeOf(L"view --size 4096x1"), "4096x1");
-
     // Each is added to the line and changes the picture.
     std::wstring line = L"view";
     std::string before = plain;
@@ -69,19 +66,17 @@ TEST(WorkbenchPictures, ViewAppliesReportedOptionsOfEitherTransport) {
     const Pictures pictures;
     const Folder noLibrary(L"workbench_without_library", {"workbench.exe", "TELMAR_D.DLL", "TELMAR_D.PRM"});
     const std::string plain = pictures.Make(L"view");
-    const struct {
-        const fs::path folder;
-        const char *transport, *reported, *notReported; // items
-    } cases[] = {{ProgramFolder(), "bidirectional library", "OpOutTrayUnit1", "EnaOpInTray3"},
-                 {noLibrary.path, "SNMP", "EnaOpInTray3", "OpOutTrayUnit1"}};
-    for (const auto& c : cases) {
-        const Result result = RunWorkbench(L"view --json --from 127.0.162.1" + pictures.Out(L"view.png"), c.folder);
+    const std::tuple<fs::path, const char*, const char*, const char*> cases[] = {
+        {ProgramFolder(), "bidirectional library", "OpOutTrayUnit1", "EnaOpInTray3"},
+        {noLibrary.path, "SNMP", "EnaOpInTray3", "OpOutTrayUnit1"}};
+    for (const auto& [folder, transport, reported, notReported] : cases) {
+        const Result result = RunWorkbench(L"view --json --from 127.0.162.1" + pictures.Out(L"view.png"), folder);
         const Json view = Json::parse(result.output);
         EXPECT_NE(Contents(pictures.path / "view.png"), plain);
-        EXPECT_EQ(view["printer"], Json({{"address", "127.0.162.1"}, {"transport", c.transport}}));
+        EXPECT_EQ(view["printer"], Json({{"address", "127.0.162.1"}, {"transport", transport}}));
         const Json items = Pick(view["options"], "item");
-        EXPECT_EQ(std::count(items.begin(), items.end(), c.reported), 1) << items;
-        EXPECT_EQ(std::count(items.begin(), items.end(), c.notReported), 0) << items;
+        EXPECT_EQ(std::count(items.begin(), items.end(), reported), 1) << items;
+        EXPECT_EQ(std::count(items.begin(), items.end(), notReported), 0) << items;
     }
     EXPECT_EQ(pictures.Make(L"view --set OpInTrayUnit=DisOpInTrayUnit --set OpOutTrayUnit=DisOpOutTrayUnit"
                             L" --set OpHDD=DisOpHDD --from 127.0.162.1"),
@@ -89,8 +84,10 @@ TEST(WorkbenchPictures, ViewAppliesReportedOptionsOfEitherTransport) {
         << "--set must override what is reported";
 }
 
-TEST(WorkbenchPictures, GalleryAndLogoHaveTheirSizes) {
+TEST(WorkbenchPictures, PicturesHaveTheirSizes) {
     const Pictures pictures;
+    EXPECT_EQ(pictures.SizeOf(L"view"), "200x200");
+    EXPECT_EQ(pictures.SizeOf(L"view --size 4096x1"), "4096x1");
     EXPECT_EQ(pictures.SizeOf(L"gallery"), "1589x1273"); // 7 x 5 cells of 220 x 236, title and margins
     EXPECT_EQ(pictures.SizeOf(L"logo"), "200x144");
 }
@@ -114,8 +111,7 @@ TEST(WorkbenchPictures, FailureSaysWhatIsWrongAndKeepsTheFile) {
     ExpectFailure(L"gallery" + pictures.Out(L"nowhere\\a.png"), 1, "a.png: there is no folder .*nowhere;");
     ExpectFailure(L"logo" + pictures.Out(L"folder.png"), 1, "folder.png: cannot be written \\(error ");
     EXPECT_EQ(Contents(pictures.path / "kept.png"), "kept");
-    const auto left = std::distance(fs::directory_iterator(pictures.path), fs::directory_iterator());
-    EXPECT_EQ(left, 2);
+    EXPECT_EQ(std::distance(fs::directory_iterator(pictures.path), fs::directory_iterator()), 2);
 }
 
 } // namespace

@@ -28,16 +28,6 @@ std::string TakeOutput(HANDLE file) {
     return text;
 }
 
-// Waits until the process ends and returns its exit code.
-int ExitCodeOf(const PROCESS_INFORMATION& process) {
-    DWORD exitCode = 0;
-    WaitForSingleObject(process.hProcess, INFINITE);
-    GetExitCodeProcess(process.hProcess, &exitCode);
-    CloseHandle(process.hThread);
-    CloseHandle(process.hProcess);
-    return static_cast<int>(exitCode);
-}
-
 } // namespace
 
 fs::path ProgramFolder() {
@@ -81,12 +71,18 @@ Result RunWorkbench(const std::wstring& arguments, const fs::path& folder) {
     start.StartupInfo.hStdError = files[1];
     std::wstring line = L"workbench.exe " + arguments;
     PROCESS_INFORMATION process = {};
+    DWORD exitCode = MAXDWORD; // when it does not start
     const BOOL isStarted =
         CreateProcessW((folder / "workbench.exe").c_str(), line.data(), nullptr, nullptr, TRUE,
                        EXTENDED_STARTUPINFO_PRESENT, nullptr, folder.c_str(), &start.StartupInfo, &process);
     DeleteProcThreadAttributeList(start.lpAttributeList);
-    const int exitCode = isStarted ? ExitCodeOf(process) : -1;
-    return {exitCode, TakeOutput(files[0]), TakeOutput(files[1])};
+    if (isStarted) {
+        WaitForSingleObject(process.hProcess, INFINITE);
+        GetExitCodeProcess(process.hProcess, &exitCode);
+        CloseHandle(process.hThread);
+        CloseHandle(process.hProcess);
+    }
+    return {static_cast<int>(exitCode), TakeOutput(files[0]), TakeOutput(files[1])};
 }
 
 Json RunForJson(const std::wstring& arguments) {

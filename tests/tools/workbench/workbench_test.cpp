@@ -10,8 +10,6 @@ namespace {
 TEST(Workbench, DescribeListsTheModel) {
     const Json model = RunForJson(L"describe");
     EXPECT_EQ(Pick(model["lists"]["InTray"], "value"), Json({7, 257, 258, 259, 260, 261, 1000, 4}));
-    EXPECT_EQ(model["lists"]["PIFrontCover"][1]["value"], 1002);
-    EXPECT_EQ(model["lists"]["PaperSize"][1]["length"], 2970);
     EXPECT_EQ(model["switches"][11]["value"], 1);    // "ColorSetting", TYPE1
     EXPECT_EQ(model["switches"][52]["value"], "on"); // "Overlay"
     EXPECT_EQ(model["device"]["machineEncryption"], "AES");
@@ -24,19 +22,14 @@ TEST(Workbench, DescribeListsTheModel) {
 
 TEST(Workbench, DefaultsListsFieldsWithOffsets) {
     const Json defaults = RunForJson(L"defaults");
-    const struct { // 210 mm in mils, manual feed, MS Gothic
-        const char* group;
-        const char* row;
-    } wanted[] = {
-        {"paper", R"({"name": "userPaperWidthInches", "offset": 88, "bytes": 4, "value": 8268})"},
-        {"trays", R"({"name": "trays[6].key", "offset": 425, "bytes": 32, "value": "InTrayManual"})"},
-        {"fontTable", R"({"nameOffset": 3702, "trueTypeName": "\uFF2D\uFF33 \u30B4\u30B7\u30C3\u30AF",
-                          "printerFontOffset": 4593, "printerFont": "HGGothic-Bold", "codeOffset": 4411,
-                          "code": 29, "checksumOffset": 5320, "checksum": 1383})"},
-    };
-    for (const auto& w : wanted) {
-        const Json& rows = defaults[w.group];
-        EXPECT_NE(std::find(rows.begin(), rows.end(), Json::parse(w.row)), rows.end()) << w.row << rows;
+    for (const auto& [group, row] :
+         {std::pair("paper", R"({"name": "userPaperWidthInches", "offset": 88, "bytes": 4, "value": 8268})"),
+          {"trays", R"({"name": "trays[6].key", "offset": 425, "bytes": 32, "value": "InTrayManual"})"},
+          {"fontTable", R"({"nameOffset": 3702, "trueTypeName": "\uFF2D\uFF33 \u30B4\u30B7\u30C3\u30AF",
+                 "printerFontOffset": 4593, "printerFont": "HGGothic-Bold", "codeOffset": 4411, "code": 29,
+                 "checksumOffset": 5320, "checksum": 1383})"}}) {
+        const Json& rows = defaults[group];
+        EXPECT_NE(std::find(rows.begin(), rows.end(), Json::parse(row)), rows.end()) << row << rows;
     }
 }
 
@@ -44,7 +37,6 @@ TEST(Workbench, TextsListsControlsColorsAndColumns) {
     const Json texts = RunForJson(L"texts");
     const Json& controls = texts["controlTexts"];
     EXPECT_EQ(controls["Dlg_ColorSetting"][0]["identifiers"], Json({122, 123, 124, 125, 128}));
-    EXPECT_EQ(controls["Property_0"][14]["identifiers"], Json({1032}));
     for (const auto& table : controls.items())
         for (const Json& row : table.value())
             EXPECT_NE(row["text"], "") << row["key"] << " has no text in the model file";
@@ -55,8 +47,7 @@ TEST(Workbench, TextsListsControlsColorsAndColumns) {
     EXPECT_EQ(texts["destinations"]["Text_Destination"][0]["key"], "Text_DestAuto");
 
     EXPECT_EQ(Pick(texts["mediaTypeLists"]["MediaTypeList_Orient"], "value"), Json({1, 2, -1}));
-    EXPECT_EQ(Pick(texts["mediaTypeColumns"], "title"), Json({"Paper source", "Paper size", "Orientation", "Paper type",
-                                                              "Paper weight", "Paper colour", "Holes"}));
+    EXPECT_EQ(texts["mediaTypeColumns"][6]["title"], "Holes");
     EXPECT_EQ(Pick(texts["mediaTypeColumns"], "shown"), Json(std::vector<bool>(7, true))); // TYPE1
 }
 
@@ -100,21 +91,16 @@ TEST(Workbench, QueryReportsSnmpAnswers) {
     EXPECT_EQ(equipped["options"].size(), 13);
     EXPECT_EQ(equipped["supplies"][2],
               Json::parse(R"({"supply": "Consumable3", "state": 1, "value": 67, "color": "#ff00ff"})"));
-    EXPECT_EQ(Pick(equipped["overlays"]["overlays0"], "second"), Json({"letterhead.ovl", "invoice.ovl"}));
+    EXPECT_EQ(equipped["supplies"][10]["color"], nullptr) << "a level has no colour";
     EXPECT_EQ(Pick(equipped["overlays"]["overlays1"], "first"), Json({"Draft stamp"}));
     EXPECT_EQ(Pick(equipped["profiles"]["profiles0"], "storage"), Json({"internalROM", "Prof_HDD"}));
     EXPECT_EQ(Pick(equipped["profiles"]["profiles2"], "second"), Json({"coated.icc", "uncoated.icc"}));
-
-    EXPECT_EQ(equipped["supplies"][10]["color"], nullptr) << "a level has no colour";
 }
 
 TEST(Workbench, StatusReportsLibraryAnswers) {
     const Json equipped = RunForJson(L"status 127.0.162.1");
-    EXPECT_EQ(Pick(equipped["options"], "option"), Json({"OpMachine", "OpInTrayUnit", "OpOutTrayUnit", "OpPunchKit",
-                                                         "OpMailBinKit", "OpSaddleKit", "OpFAXUnit", "OpHDD"}));
-    EXPECT_EQ(equipped["options"][3]["answer"], "OpPunchKit3");
-    EXPECT_EQ(Pick(equipped["trays"], "tray"),
-              Json({"InTray1", "InTray2", "InTray3", "InTray4", "InTrayLCT", "InTrayManual"}));
+    EXPECT_EQ(equipped["options"].size(), 8);
+    EXPECT_EQ(equipped["options"][3], Json({{"option", "OpPunchKit"}, {"answer", "OpPunchKit3"}}));
     EXPECT_EQ(equipped["trays"][2], Json::parse(R"({"tray": "InTray3", "size": "8half11", "type": "Letterhead",
         "orientation": "MediaTypeList_Landscape", "level": 120, "weight": null, "color": null, "hole": null})"));
 }
