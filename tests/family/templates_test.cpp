@@ -26,7 +26,8 @@ constexpr Look kDefault = {L"Button", BS_DEFPUSHBUTTON,   WS_TABSTOP};
 constexpr Look kRadio   = {L"Button", BS_AUTORADIOBUTTON, WS_GROUP | WS_TABSTOP};
 constexpr Look kSecond  = {L"Button", BS_AUTORADIOBUTTON, 0};
 constexpr Look kLine    = {L"Static", 0,                  SS_ETCHEDHORZ};
-constexpr Look kList    = {L"ComboBox", CBS_DROPDOWNLIST,   CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP};
+constexpr Look kList    = {L"ComboBox", CBS_DROPDOWNLIST,
+                           CBS_OWNERDRAWFIXED | CBS_HASSTRINGS | WS_VSCROLL | WS_TABSTOP};
 constexpr Look kView    = {L"SysListView32", LVS_REPORT | LVS_SINGLESEL | LVS_SHOWSELALWAYS,
                            LVS_OWNERDRAWFIXED | LVS_SHAREIMAGELISTS | WS_TABSTOP}; // the dialog destroys its images
 
@@ -52,7 +53,8 @@ const std::map<uint32_t, Expected> kControls = {
 #define FOOTER 1069, 1032, 1, 2, 9
 const std::pair<const uint32_t, std::vector<uint32_t>> kDialogs[] = { // without labels and icons, in any order
     {122, {IMAGE_LISTS, 1335, TEXT_LISTS, FOLLOWING, SIMULATION, 1630, 1525, FOOTER}},
-    {123, {IMAGE_LISTS, 1335, TEXT_LISTS, FOLLOWING, FOOTER}}, {124, {IMAGE_LISTS, TEXT_LISTS, FOLLOWING, SIMULATION, FOOTER}},
+    {123, {IMAGE_LISTS, 1335, TEXT_LISTS, FOLLOWING, FOOTER}},
+    {124, {IMAGE_LISTS, TEXT_LISTS, FOLLOWING, SIMULATION, FOOTER}},
     {125, {1634, 1501, 1354, 1332, 1506, 1353, 1334, 1330, FOLLOWING, FOOTER}},
     {128, {IMAGE_LISTS, 1335, 1599, TEXT_LISTS, 1592, 1473, 1513, 1516, 1519, 1584, 1522, SIMULATION, FOOTER}},
     {155, {1844, 1860, 1862, 1003, 1086, 1091, 1094, 1, 2, 9}}, {165, {1844, 1860, 1862, 1003, 1091, 1094, 1, 2, 9}},

@@ -41,12 +41,6 @@ std::wstring TextOf(HWND window) {
     return text;
 }
 
-RECT FrameOf(HWND window) {
-    RECT frame = {};
-    GetWindowRect(window, &frame);
-    return frame;
-}
-
 // The dialog, bound to the library.
 struct UiModule : testing::Test {
     UiModule() : library(LoadLibraryW(L"TELMAR_U.DLL")) {
@@ -145,11 +139,8 @@ TEST_F(UiModule, PutsTextsIntoTitleAndControls) {
 }
 
 TEST_F(UiModule, RefusesWhatNeedsASimulation) {
-    const struct {
-        uint16_t paper, mono, simulation, gray;
-        uint32_t control;
-        int32_t answer;
-    } cases[] = {
+    const uint16_t cases[][6] = {
+        // match paper, mono, simulation, its greys; the control, the answer
         // clang-format off
         {1, 0, 0,   0, kPaper,          100}, {1, 0, 1,   0, kPaper,          0}, {0, 0, 0, 0, kPaper, 0},
         {0, 0, 0,   2, kSimulationGray, 100}, {0, 0, 128, 2, kSimulationGray, 0}, {0, 0, 0, 2, kPaper, 0},
@@ -158,13 +149,13 @@ TEST_F(UiModule, RefusesWhatNeedsASimulation) {
         {1, 0, 0,   1, /*all*/ 0,         0},
         // clang-format on
     };
-    for (const auto& row : cases) {
-        settings->matchPaperColor = static_cast<uint8_t>(row.paper);
-        settings->mono = static_cast<uint8_t>(row.mono);
-        settings->simulation = row.simulation;
-        settings->simulationGray = row.gray;
-        SCOPED_TRACE(&row - cases);
-        HintAfter(row.control, row.answer);
+    for (const auto& [paper, mono, simulation, gray, control, answer] : cases) {
+        settings->matchPaperColor = static_cast<uint8_t>(paper);
+        settings->mono = static_cast<uint8_t>(mono);
+        settings->simulation = simulation;
+        settings->simulationGray = gray;
+        SCOPED_TRACE(testing::Message() << paper << mono << simulation << gray << ' ' << control);
+        HintAfter(control, answer);
     }
     SetWindowLongPtrW(dialog, DWLP_USER, 0); // no context
     HintAfter(kPaper, 0);
@@ -202,8 +193,10 @@ TEST_F(UiModule, KeepsTheHintBelowItsDialogUntilItEnds) {
     HintAfter(kPaper, 100);
     SetWindowPos(dialog, nullptr, 150, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     Pump(300);
-    EXPECT_EQ(FrameOf(hintWindow).left, FrameOf(dialog).left);
-    EXPECT_EQ(FrameOf(hintWindow).top, FrameOf(dialog).bottom);
+    RECT hint = {}, frame = {};
+    GetWindowRect(hintWindow, &hint);
+    GetWindowRect(dialog, &frame);
+    EXPECT_EQ(std::pair(hint.left, hint.top), std::pair(frame.left, frame.bottom));
     freedWithDialog = library;
     DestroyWindow(dialog);
     EXPECT_FALSE(IsWindow(hintWindow));
