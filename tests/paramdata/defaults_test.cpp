@@ -305,7 +305,7 @@ TEST_F(DefaultsTest, ResolutionIsTheFirstItemWithTheDefaultKey) {
     for (const auto& [secondKey, defaultKey, writes] : cases) {
         PrmImage image;
         std::vector<uint32_t> offsets;
-        for (const char* key : {"Res_1", secondKey, "Res_3"}) {
+        for (const char* key : {"Res_1", secondKey, secondKey}) {
             const auto i = static_cast<uint32_t>(10 + 10 * offsets.size());
             const RawBytes record = RawBytes(32).U32(12, 77).U32(16, 77).U32(20, 0x10001 + i).U32(24, 2 + i);
             offsets.push_back(image.Put(RawBytes(record).U32(0, image.Text(key)).U32(28, 3 + i)));

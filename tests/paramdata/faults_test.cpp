@@ -88,18 +88,4 @@ TEST_F(FaultsTest, FailedReadsAndSeeksWithoutImage) {
         EXPECT_TRUE(PrmRead(*file, &value, 4, offset, delivered) && delivered == 0) << offset;
 }
 
-// A small file that announces much: every item of every list is the same record. Allocations stay within a
-// small multiple of the file.
-TEST_F(FaultsTest, AllocationsStayInProportionToTheFile) {
-    PrmImage image;
-    const uint32_t key = image.Text("Key");
-    const std::vector<uint32_t> items(5000, image.Put(RawBytes(620).U32(0, key).U32(24, 1)));
-    for (const std::string& name :
-         Split("PaperSize OutPaperSize MediaType InTray MediaTypeList_Tray Staple MachineInfo", ' '))
-        image.Entry(name, items, items[0]);
-    const size_t before = win32::Count().allocatedBytes;
-    EXPECT_NE(BuiltTable(image).table, nullptr);
-    EXPECT_LE(win32::Count().allocatedBytes - before, 32 * image.Size() + 16384);
-}
-
 } // namespace

@@ -36,6 +36,7 @@ const std::tuple<size_t, std::string, const char*> kDamages[] = {
     {0x0C0, Words({0x2B0}),      "'OpInTrayUnit': the key at 0x2B0 is outside the file"},
     {0x0C0, Words({0x7C}),       "'OpInTrayUnit': the text at 0x7C overlaps a block"},
     {0x0C8, Words({0x2AF}),      "'OpInTrayUnit': the display name at 0x2AF has no terminator"},
+    {0x0C8, Words({0xFFFFFFFF}), "'OpInTrayUnit': the display name at 0xFFFFFFFF is outside the file"},
     {0x0E4, std::string("\x00\xD8", 2), "'OpInTrayUnit': the display name at 0xE4 is not valid UTF-16"},
     {0x188, std::string(32, 'x'), "'DevInfo': the text 'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx' has no terminator"},
     // What a model has no field for

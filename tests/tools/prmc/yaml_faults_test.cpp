@@ -87,6 +87,7 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {"# nothing", "1:1: the file has no entries"},
     {"Country: {value: 1}\n---\nCountry: {value: 2}",
      "2:1: a second document starts here, but a model file has only one"},
+    {"# a stray comma\n,", "2:1: a second document starts here, but a model file has only one"},
     {"Country: value: 1", "1:15: illegal map value"},
     {"Country: {value: 1}\n# \xFF", "2:3: not valid UTF-8: save the file as UTF-8"},
     {"Country: {value: 1}\x04", "1:20: control character: write it as an escape in double quotes"},

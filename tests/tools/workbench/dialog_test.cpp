@@ -104,18 +104,16 @@ TEST(WorkbenchDialog, TrayChangesAreReportedAfterOk) {
     const DialogFolder folder;
     const std::string script = "choose 1844 Tray 2\nchoose 1860 A4\nchoose 1094 #1\nchoose 1844 #6\n"
                                "choose 1003 Thick 1\n";
-    const Json changes = Json::parse(R"([
-        {"tray": "InTray2", "attribute": "size", "before": "Unknown", "after": "A4", "value": 9},
-        {"tray": "InTray2", "attribute": "hole", "before": "Not known whether punched",
-         "after": "Pre-punched", "value": 1},
-        {"tray": "InTrayManual", "attribute": "type", "before": "Unknown", "after": "Thick 1", "value": 263}])");
+    const Json size =
+        Json::parse(R"({"tray": "InTray2", "attribute": "size", "before": "Unknown", "after": "A4", "value": 9})");
     for (const bool isOk : {true, false}) {
         const Json report = RunForJson(L"dialog 155 --script" + folder.Write("s.txt", script + (isOk ? "ok" : "")));
         EXPECT_EQ(report["dialog"]["endCode"], isOk ? 1 : 2);
         EXPECT_EQ(report["dialog"]["pageTold"], isOk);
         EXPECT_EQ(ControlRow(report, 1844)["shows"], "Manual feed");
         EXPECT_EQ(ControlRow(report, 1003)["shows"], "Thick 1");
-        EXPECT_EQ(report["changes"], isOk ? changes : Json::array());
+        EXPECT_EQ(Pick(report["changes"], "after"), isOk ? Json({"A4", "Pre-punched", "Thick 1"}) : Json::array());
+        EXPECT_TRUE(!isOk || report["changes"][0] == size) << report["changes"];
     }
     const Json locked = RunForJson(L"dialog 155 --locked");
     EXPECT_EQ(locked["dialog"]["disabled"], Json({1844, 1860, 1862, 1003, 1086, 1091, 1094}));

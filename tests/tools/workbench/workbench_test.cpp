@@ -10,6 +10,7 @@ namespace {
 TEST(Workbench, DescribeListsTheModel) {
     const Json model = RunForJson(L"describe");
     EXPECT_EQ(Pick(model["lists"]["InTray"], "value"), Json({7, 257, 258, 259, 260, 261, 1000, 4}));
+    EXPECT_EQ(model["lists"]["PaperSize"][1]["length"], 2970);
     EXPECT_EQ(model["switches"][11]["value"], 1);    // "ColorSetting", TYPE1
     EXPECT_EQ(model["switches"][52]["value"], "on"); // "Overlay"
     EXPECT_EQ(model["device"]["machineEncryption"], "AES");
