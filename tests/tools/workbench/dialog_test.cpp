@@ -112,6 +112,7 @@ TEST(WorkbenchDialog, TrayChangesAreReportedAfterOk) {
         EXPECT_EQ(report["dialog"]["pageTold"], isOk);
         EXPECT_EQ(ControlRow(report, 1844)["shows"], "Manual feed");
         EXPECT_EQ(ControlRow(report, 1003)["shows"], "Thick 1");
+        EXPECT_EQ(Pick(report["changes"], "attribute"), isOk ? Json({"size", "hole", "type"}) : Json::array());
         EXPECT_EQ(Pick(report["changes"], "after"), isOk ? Json({"A4", "Pre-punched", "Thick 1"}) : Json::array());
         EXPECT_TRUE(!isOk || report["changes"][0] == size) << report["changes"];
     }
