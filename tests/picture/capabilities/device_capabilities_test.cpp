@@ -6,6 +6,7 @@
 namespace {
 
 constexpr DWORD kUntouched = 0xDEADBEEF;
+using Answer = std::pair<BOOL, DWORD>;
 
 // The caller's records. Features are described as "Feature:selected:Item,Item ...". Four paper sources,
 // unless a test puts others.
@@ -36,13 +37,16 @@ struct Caller {
         memcpy(&slots[i], slot.bytes.data(), sizeof(slots[i]));
     }
 
-    // The device record lies unaligned, as its layout allows.
-    BOOL Ask(unsigned capability, void* output, DWORD* answer) const {
+    // The result and the number reported. The device record lies unaligned, as its layout allows.
+    Answer Ask(unsigned capability, void* output = nullptr, bool wantsAnswer = true) const {
         std::vector<uint8_t> device(1 + 818);
         const InputSlotRecord* first = slots;
         memcpy(device.data() + 1 + 582, &first, sizeof(first));
-        return DDProc_DeviceCapabilities(reinterpret_cast<const DeviceTable*>(device.data() + 1), features.data(),
-                                         nullptr, settings.data(), static_cast<WORD>(capability), output, answer);
+        DWORD answer = kUntouched;
+        const BOOL result = DDProc_DeviceCapabilities(
+            reinterpret_cast<const DeviceTable*>(device.data() + 1), features.data(), nullptr, settings.data(),
+            static_cast<WORD>(capability), output, wantsAnswer ? &answer : nullptr);
+        return {result, answer};
     }
 
     std::vector<std::vector<ItemRecord>> itemTables;
@@ -74,22 +78,16 @@ TEST(Capabilities, BinsFollowTheInstalledOptions) {
         const Caller caller(c.features);
         std::vector<uint16_t> bins(c.bins.size() + 2, 0xEEEE), expected = c.bins;
         expected.resize(bins.size(), 0xEEEE);
-        DWORD answers[3] = {kUntouched, kUntouched, kUntouched};
-        EXPECT_EQ(caller.Ask(6, bins.data(), &answers[0]), TRUE) << c.features;
-        EXPECT_EQ(caller.Ask(6, nullptr, &answers[1]), TRUE) << c.features;
-        EXPECT_EQ(caller.Ask(12, nullptr, &answers[2]), TRUE) << c.features;
+        for (const Answer& answer : {caller.Ask(6, bins.data()), caller.Ask(6), caller.Ask(12)})
+            EXPECT_EQ(answer, Answer(TRUE, c.bins.size())) << c.features;
         EXPECT_EQ(bins, expected) << c.features;
-        for (const DWORD answer : answers)
-            EXPECT_EQ(answer, c.bins.size()) << c.features;
     }
 }
 
 TEST(Capabilities, BinNamesAreFieldsOf24Characters) {
     const Caller caller("OpInTray2:0:DisOpInTray2");
     RawBytes names = RawBytes(192).U8(0, 0xEE, 192);
-    DWORD answer = kUntouched;
-    EXPECT_EQ(caller.Ask(12, names.bytes.data(), &answer), TRUE);
-    EXPECT_EQ(answer, 3u);
+    EXPECT_EQ(caller.Ask(12, names.bytes.data()), Answer(TRUE, 3));
     RawBytes expected =
         RawBytes(192).Wide(0, L"Tray 1").Wide(48, L"123456789_123456789_123").Wide(96, L"Manual \u00E4");
     EXPECT_EQ(Differences(names.bytes.data(), expected.U8(144, 0xEE, 48)), "");
@@ -101,9 +99,7 @@ TEST(Capabilities, LongestKeyIsNotCut) {
     ASSERT_EQ(key.size(), 31u);
     Caller caller(("Op" + key).substr(0, 31) + ":0:DisOpInTray");
     caller.PutSlot(0, key, 300, L"Long");
-    DWORD answer = kUntouched;
-    EXPECT_EQ(caller.Ask(6, nullptr, &answer), TRUE);
-    EXPECT_EQ(answer, 4u);
+    EXPECT_EQ(caller.Ask(6), Answer(TRUE, 4));
 }
 
 TEST(Capabilities, Stapling) {
@@ -118,9 +114,8 @@ TEST(Capabilities, Stapling) {
         {"OpOutTrayUnit:1:OpOutTrayUnit1", 0}, // names no item
     };
     for (const auto& [features, expected] : cases) {
-        DWORD answer = kUntouched, output = kUntouched;
-        EXPECT_EQ(Caller(features).Ask(30, &output, &answer), TRUE) << features;
-        EXPECT_EQ(answer, expected) << features;
+        DWORD output = kUntouched;
+        EXPECT_EQ(Caller(features).Ask(30, &output), Answer(TRUE, expected)) << features;
         EXPECT_EQ(output, kUntouched) << features;
     }
 }
@@ -130,9 +125,8 @@ TEST(Capabilities, EveryOtherIndexIsDeclined) {
     for (unsigned index = 0; index <= 0xFFFF; ++index) {
         if (index == 6 || index == 12 || index == 30)
             continue;
-        DWORD answer = kUntouched, output = kUntouched;
-        ASSERT_EQ(caller.Ask(index, &output, &answer), index == 7 ? TRUE : FALSE) << index;
-        ASSERT_EQ(answer, index == 7 ? 1 : kUntouched) << index;
+        DWORD output = kUntouched;
+        ASSERT_EQ(caller.Ask(index, &output), index == 7 ? Answer(TRUE, 1) : Answer(FALSE, kUntouched)) << index;
         ASSERT_EQ(output, kUntouched) << index;
     }
 }
@@ -140,22 +134,17 @@ TEST(Capabilities, EveryOtherIndexIsDeclined) {
 TEST(Capabilities, RecordsThatAreEmptyOrMissing) {
     Caller caller("OpInTray2:0:DisOpInTray2 OpOutTrayUnit:0:OpOutTrayUnit1");
     uint16_t bins[4] = {};
-    EXPECT_EQ(caller.Ask(6, bins, nullptr), TRUE) << "the answer is not wanted";
+    EXPECT_EQ(caller.Ask(6, bins, false).first, TRUE) << "the answer is not wanted";
     EXPECT_EQ(bins[2], 4);
     for (const unsigned capability : {7u, 12u, 30u, 28u})
-        EXPECT_EQ(caller.Ask(capability, nullptr, nullptr), capability != 28) << capability;
+        EXPECT_EQ(caller.Ask(capability, nullptr, false).first, capability != 28) << capability;
     for (FeatureRecord& feature : caller.features)
         feature.items = nullptr;
-    const auto ask = [&caller](unsigned capability) {
-        DWORD answer = kUntouched;
-        EXPECT_EQ(caller.Ask(capability, nullptr, &answer), TRUE) << capability;
-        return answer;
-    };
-    EXPECT_EQ(ask(6), 3u) << "an option without items is not installed";
-    EXPECT_EQ(ask(30), 0u);
+    EXPECT_EQ(caller.Ask(6), Answer(TRUE, 3)) << "an option without items is not installed";
+    EXPECT_EQ(caller.Ask(30), Answer(TRUE, 0));
     caller.slots[0].head.key[0] = 0;
-    EXPECT_EQ(ask(6), 0u) << "no paper source";
-    EXPECT_EQ(ask(12), 0u);
+    EXPECT_EQ(caller.Ask(6), Answer(TRUE, 0)) << "no paper source";
+    EXPECT_EQ(caller.Ask(12), Answer(TRUE, 0));
 }
 
 } // namespace
