@@ -177,14 +177,7 @@ LRESULT SendToWindow(HWND target, UINT message, WPARAM wParam, LPARAM lParam) {
 } // namespace
 
 std::string Narrow(const wchar_t* text) {
-    std::string narrow;
-    for (; *text != 0; ++text)
-        narrow += static_cast<char>(*text);
-    return narrow;
-}
-
-std::ostream& operator<<(std::ostream& out, const Answer& answer) {
-    return out << "result " << answer.result << ", handled " << answer.handled;
+    return std::string(text, text + wcslen(text));
 }
 
 RawBytes Profile(const wchar_t* qualifier, const wchar_t* name, uint32_t location) {
@@ -214,20 +207,7 @@ DialogDriver::DialogDriver(uint32_t identifier, const std::wstring& model)
       dialogId(identifier), context{nullptr, nullptr, nullptr, &lists, kPrinter, 1, 0, nullptr},
       resources(LoadLibraryW((folder / L"TELMAR_S.DLL").c_str())) {
     current = this;
-    Patch();
-}
-
-DialogDriver::~DialogDriver() {
-    Close();
-    FreeLibrary(resources);
-    ownedBlocks.erase(nullptr);
-    EXPECT_TRUE(ownedBlocks.empty());
-}
-
-void DialogDriver::Patch() {
-    const auto patch = [this](auto* system, auto* other) {
-        patches.push_back(std::make_unique<PatchedImport>(module.handle, system, other));
-    };
+    const auto patch = [this](auto* system, auto* other) { patches.emplace_back(module.handle, system, other); };
     patch(LoadLibraryW, Load);
     patch(FreeLibrary, Free);
     patch(GetProcAddress, FindProcedure);
@@ -264,17 +244,11 @@ void DialogDriver::Patch() {
         DestroyIcon, +[](HICON icon) { return Note("DestroyIcon"), DestroyIcon(icon); });
 }
 
-void DialogDriver::PassProfiles() {
-    const std::vector<RawBytes>* const profiles[] = {&rgbSources, &simulations, &destinations};
-    ProfileList* const passed[] = {&lists.rgbSources, &lists.simulations, &lists.destinations};
-    for (size_t i = 0; i < std::size(passed); ++i) {
-        RawBytes all(0);
-        for (const RawBytes& profile : *profiles[i])
-            all.Append(profile);
-        listed[i] = all.bytes;
-        *passed[i] = {reinterpret_cast<const ProfileEntry*>(listed[i].data()),
-                      static_cast<uint32_t>(profiles[i]->size())};
-    }
+DialogDriver::~DialogDriver() {
+    Close();
+    FreeLibrary(resources);
+    ownedBlocks.erase(nullptr);
+    EXPECT_TRUE(ownedBlocks.empty());
 }
 
 void DialogDriver::Open(bool withContext) {
@@ -282,13 +256,19 @@ void DialogDriver::Open(bool withContext) {
     context.settings = area(settings);
     context.saveArea = area(saveArea);
     context.scratch = area(scratch);
-    PassProfiles();
+    const auto list = [](const RawBytes& profiles) {
+        return ProfileList{reinterpret_cast<const ProfileEntry*>(profiles.bytes.data()),
+                           static_cast<uint32_t>(profiles.bytes.size() / kProfileSize)};
+    };
+    lists.rgbSources = list(rgbSources);
+    lists.simulations = list(simulations);
+    lists.destinations = list(destinations);
     const DLGPROC deliver = [](HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) -> INT_PTR {
         current->window = dialog;
         const Answer answer = current->Deliver(message, wParam, lParam);
         if (message == WM_INITDIALOG)
             current->initAnswer = answer;
-        return answer.result;
+        return answer.first;
     };
     CreateDialogParamW(resources, MAKEINTRESOURCEW(dialogId), nullptr, deliver,
                        withContext ? reinterpret_cast<LPARAM>(&context) : 0);
@@ -301,16 +281,13 @@ void DialogDriver::Close() {
     window = nullptr;
 }
 
-Answer DialogDriver::Deliver(UINT message, WPARAM wParam, LPARAM lParam) {
-    int32_t handled = kUntouched;
-    return DeliverTo(dialogId, window, message, wParam, lParam, &handled);
-}
-
 Answer DialogDriver::DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam,
-                               int32_t* handled) const {
+                               bool hasHandledFlag) const {
     using Function = int32_t WINAPI(uint32_t, HWND, UINT, WPARAM, LPARAM, int32_t*);
-    const int32_t result = module.Export<Function>("DDProc_DlgProc")(otherId, dialog, message, wParam, lParam, handled);
-    return {result, handled != nullptr ? *handled : kUntouched};
+    int32_t handled = kUntouched;
+    const int32_t result = module.Export<Function>("DDProc_DlgProc")(otherId, dialog, message, wParam, lParam,
+                                                                     hasHandledFlag ? &handled : nullptr);
+    return {result, handled};
 }
 
 Answer DialogDriver::Choose(int control, int entry) {

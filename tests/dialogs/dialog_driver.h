@@ -10,6 +10,7 @@
 #include "support/product.h"
 #include "support/raw_bytes.h"
 
+#include <deque>
 #include <functional>
 #include <gtest/gtest.h>
 #include <memory>
@@ -23,11 +24,7 @@ constexpr size_t kSettingsSize = 7808, kProfileSize = 168;
 
 // The handled flag before each message. It keeps this value when the dialog does not handle the message.
 constexpr int32_t kUntouched = 7;
-struct Answer {
-    int32_t result, handled;
-    bool operator==(const Answer& other) const { return result == other.result && handled == other.handled; }
-};
-std::ostream& operator<<(std::ostream& out, const Answer& answer);
+using Answer = std::pair<int32_t, int32_t>; // the result, and the handled flag afterwards
 
 // The command of a list whose selection has changed.
 constexpr WPARAM Chosen(WPARAM list) {
@@ -54,9 +51,12 @@ struct DialogDriver {
     void Close();
 
     // Passes a message to the module as the user-interface module does.
-    Answer Deliver(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
-    Answer DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam, int32_t* handled) const;
-    Answer Command(WPARAM command) { return Deliver(WM_COMMAND, command); }
+    Answer Deliver(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
+        return DeliverTo(dialogId, window, message, wParam, lParam);
+    }
+    Answer DeliverTo(uint32_t otherId, HWND dialog, UINT message, WPARAM wParam, LPARAM lParam = 0,
+                     bool hasHandledFlag = true) const;
+    Answer Command(WPARAM command) const { return Deliver(WM_COMMAND, command); }
     // Selects an entry or sets a button's check, and reports the change. Earlier events are forgotten.
     Answer Choose(int control, int entry);
     int Shown(int control) const; // the entry that is selected, or a button's check
@@ -71,7 +71,6 @@ struct DialogDriver {
 
     // The events of these kinds (their first words) in order, a line each.
     std::string Events(const std::set<std::string>& kinds) const;
-    void PassProfiles();
     // The module's own item record with this key, to be changed by raw offset; null when there is none.
     uint8_t* FindItem(const std::string& key) const;
 
@@ -81,7 +80,7 @@ struct DialogDriver {
     const uint32_t dialogId;
     HWND window = nullptr;
     RawBytes settings{kSettingsSize}, saveArea{kSettingsSize}, scratch{kSettingsSize};
-    std::vector<RawBytes> rgbSources, simulations, destinations; // in the context from PassProfiles on
+    RawBytes rgbSources{0}, simulations{0}, destinations{0}; // profiles one after another, listed by Open
     ProfileLists lists = {};
     DialogContext context;
     std::vector<std::string> events;
@@ -107,11 +106,8 @@ struct DialogDriver {
     std::vector<uint32_t> helpTable;
 
 private:
-    void Patch();
-
-    std::vector<uint8_t> listed[3];
     HMODULE resources;
-    std::vector<std::unique_ptr<PatchedImport>> patches;
+    std::deque<PatchedImport> patches;
 };
 
 #endif

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 #include <fstream>
-#include <map>
+#include <set>
 #include <sstream>
 
 namespace {
@@ -23,17 +23,6 @@ std::string WriteBitmap(const std::string& name, const Picture& picture) {
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(file.bytes.data()), static_cast<std::streamsize>(file.bytes.size()));
     return path.string();
-}
-
-// Named after the running test: "Suite.Test_1", _2 and so on; empty once there are enough to look at.
-std::string NameOfPair() {
-    constexpr int kMaxPairs = 5; // of one test
-    static std::map<std::string, int> pairs;
-    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
-    std::string name = std::string(test->test_suite_name()) + "." + test->name();
-    std::replace(name.begin(), name.end(), '/', '-'); // of a test with parameters
-    const int pair = ++pairs[name];
-    return pair <= kMaxPairs ? name + "_" + std::to_string(pair) : "";
 }
 
 } // namespace
@@ -112,7 +101,10 @@ testing::AssertionResult SamePicture(const Canvas& got, const Canvas& wanted) {
     std::ostringstream text;
     text << "differs first at (" << (at - a.pixels.begin()) % a.width << ", " << (at - a.pixels.begin()) / a.width
          << "): got " << std::hex << *at << ", wanted " << *other;
-    if (const std::string name = NameOfPair(); !name.empty())
+    const testing::TestInfo* test = testing::UnitTest::GetInstance()->current_test_info();
+    const std::string name = std::string(test->test_suite_name()) + "." + test->name();
+    static std::set<std::string> written; // the first pair of each test is enough to look at
+    if (written.insert(name).second)
         text << "; see " << WriteBitmap(name + "_got.bmp", a) << " and " << WriteBitmap(name + "_wanted.bmp", b);
     return testing::AssertionFailure() << text.str();
 }

@@ -2,7 +2,7 @@
 #ifndef SUPPORT_LIVE_OBJECTS_H
 #define SUPPORT_LIVE_OBJECTS_H
 
-#include <ostream>
+#include <utility>
 #include <vector>
 #include <windows.h>
 
@@ -16,17 +16,7 @@ inline size_t CountFreeObjects() {
     return regions.size();
 }
 
-struct LiveObjects {
-    int windows; // of this thread
-    size_t freeObjects;
-    bool operator==(const LiveObjects& other) const {
-        return windows == other.windows && freeObjects == other.freeObjects;
-    }
-};
-
-inline std::ostream& operator<<(std::ostream& out, const LiveObjects& objects) {
-    return out << objects.windows << " windows, room for " << objects.freeObjects << " graphics objects";
-}
+using LiveObjects = std::pair<int, size_t>; // windows of this thread, and CountFreeObjects
 
 inline LiveObjects CountLiveObjects() {
     int windows = 0;

@@ -6,17 +6,11 @@
 
 namespace {
 
-const std::set<std::string> kNoted = {"ReplaceDlgDispStringCmnItem",
-                                      "ReplaceDlgDispString",
-                                      "CreateToolWnd",
-                                      "StoreStopIconRect",
-                                      "DoConstraints",
-                                      "DispHintControl",
-                                      "fill",
-                                      "show",
-                                      "disable",
-                                      "EndDialog",
-                                      "WinHelp"};
+// clang-format off
+const std::set<std::string> kNoted = {
+    "ReplaceDlgDispStringCmnItem", "ReplaceDlgDispString", "CreateToolWnd", "StoreStopIconRect", "DoConstraints",
+    "DispHintControl", "fill", "show", "disable", "EndDialog", "WinHelp"};
+// clang-format on
 
 // One of the three kinds, by its model.
 struct TrayDialogs : testing::TestWithParam<Kind>, Trays {
@@ -45,12 +39,11 @@ TEST_P(TrayDialogs, AreRunByTheButtonWhichReportsOk) {
         Close();
     }
     const int loads = uiLoads;
-    int32_t handled = kUntouched;
     for (const auto& [message, wParam] : {std::pair(UINT{WM_COMMAND}, WPARAM{1846}),
                                           {WM_COMMAND, MAKEWPARAM(1847, 1)},
                                           {WM_COMMAND, 1847 | WPARAM{1} << 32},
                                           {WM_NOTIFY, 1847}})
-        EXPECT_EQ(DeliverTo(156, page, message, wParam, 0, &handled), (Answer{0, kUntouched}));
+        EXPECT_EQ(DeliverTo(156, page, message, wParam), (Answer{0, kUntouched}));
     PressButton(false);
     EXPECT_EQ(uiLoads, loads);
     endCode = 1;
@@ -235,7 +228,7 @@ TEST(TrayList, ColumnsFollowTheModel) {
     }
 }
 
-TEST(TrayDialog, HidesWhatTheModelLacks) {
+TEST(TrayModel, HidesWhatTheModelLacks) {
     Trays dialog(L"plain_paper");
     dialog.PressButton();
     for (const Attribute& attribute : kAttributes)
@@ -253,85 +246,82 @@ TEST(TrayDialog, HidesWhatTheModelLacks) {
     EXPECT_EQ(dialog.Shown(1860), 1) << "boxes show the first of two sizes with one value";
 }
 
-TEST(TrayDialog, ValuesWithoutAnEntryShowNothing) {
-    Trays dialog;
-    dialog.records.U16(36, 40000).U16(42, 0xFFFF).U8(46, 200).U16(48 + 38, 3).U8(48 + 46, 255);
-    dialog.PressButton();
-    EXPECT_EQ(dialog.RowText(0), L"Tray 1||Portrait|Plain paper|Unknown|Other colour||0");
-    EXPECT_EQ(dialog.Selections(kKinds[0]), (std::vector{-1, 0, 0, 6, 5, -1}));
-    dialog.Select(1);
-    EXPECT_EQ(dialog.RowText(1).substr(0, 10), L"Tray 2|A4|");
-    EXPECT_EQ(dialog.Shown(1094), 2) << "255 is -1, the unknown entry";
-    EXPECT_EQ(dialog.Shown(1862), -1);
-    const RawBytes before = dialog.records;
-    dialog.Choose(kAttributes[1], -1); // stores nothing but does the rest
-    dialog.ExpectRecords(before);
-    EXPECT_EQ(dialog.Events({"DoConstraints", "DispHintControl"}), "DoConstraints 1862\nDispHintControl 156\n");
+struct TrayDialog : testing::Test, Trays {};
+
+TEST_F(TrayDialog, ValuesWithoutAnEntryShowNothing) {
+    records.U16(36, 40000).U16(42, 0xFFFF).U8(46, 200).U16(48 + 38, 3).U8(48 + 46, 255);
+    PressButton();
+    EXPECT_EQ(RowText(0), L"Tray 1||Portrait|Plain paper|Unknown|Other colour||0");
+    EXPECT_EQ(Selections(kKinds[0]), (std::vector{-1, 0, 0, 6, 5, -1}));
+    Select(1);
+    EXPECT_EQ(RowText(1).substr(0, 10), L"Tray 2|A4|");
+    EXPECT_EQ(Shown(1094), 2) << "255 is -1, the unknown entry";
+    EXPECT_EQ(Shown(1862), -1);
+    const RawBytes before = records;
+    Choose(kAttributes[1], -1); // stores nothing but does the rest
+    ExpectRecords(before);
+    EXPECT_EQ(Events({"DoConstraints", "DispHintControl"}), "DoConstraints 1862\nDispHintControl 156\n");
 }
 
-TEST(TrayDialog, WorksWithoutCallbacksAndRecords) {
-    Trays dialog;
-    dialog.missing = {"GetImgResInst", "CreateToolWnd", "StoreStopIconRect", "DoConstraints", "DispHintControl"};
-    dialog.PressButton();
-    EXPECT_EQ(dialog.List(LVM_GETIMAGELIST, LVSIL_SMALL), 0);
-    dialog.Choose(kAttributes[0], 0);
-    EXPECT_EQ(dialog.records.bytes[36], 8);
-    dialog.Close();
-    dialog.context.trays = nullptr;
-    dialog.PressButton();
-    EXPECT_EQ(dialog.List(LVM_GETITEMCOUNT), 0);
-    EXPECT_EQ(dialog.Choose(kAttributes[0], 0), 1);
-    EXPECT_EQ(dialog.Deliver(WM_COMMAND, IDCANCEL), 1);
-    dialog.Close();
-    EXPECT_EQ(dialog.procedure(nullptr, WM_DESTROY, 0, 0), 0);
+TEST_F(TrayDialog, WorksWithoutCallbacksAndRecords) {
+    missing = {"GetImgResInst", "CreateToolWnd", "StoreStopIconRect", "DoConstraints", "DispHintControl"};
+    PressButton();
+    EXPECT_EQ(List(LVM_GETIMAGELIST, LVSIL_SMALL), 0);
+    Choose(kAttributes[0], 0);
+    EXPECT_EQ(records.bytes[36], 8);
+    Close();
+    context.trays = nullptr;
+    PressButton();
+    EXPECT_EQ(List(LVM_GETITEMCOUNT), 0);
+    EXPECT_EQ(Choose(kAttributes[0], 0), 1);
+    EXPECT_EQ(Deliver(WM_COMMAND, IDCANCEL), 1);
+    Close();
+    EXPECT_EQ(procedure(nullptr, WM_DESTROY, 0, 0), 0);
 }
 
 int failingCall; // of those that make the list of icons: the n-th from now on
 
-TEST(TrayDialog, HasBothIconsOrNone) {
-    Trays dialog;
-    const HMODULE module = dialog.module.handle;
-    const PatchedImport patches[] = {
-        {module, ImageList_Create,
+TEST_F(TrayDialog, HasBothIconsOrNone) {
+    const PatchedImport failing[] = {
+        {module.handle, ImageList_Create,
          +[](int width, int height, UINT flags, int count, int growth) {
              return failingCall-- == 1 ? nullptr : ImageList_Create(width, height, flags, count, growth);
          }},
-        {module, LoadImageW,
+        {module.handle, LoadImageW,
          +[](HINSTANCE library, const wchar_t* name, UINT type, int width, int height, UINT flags) {
              return failingCall-- == 1 ? nullptr : LoadImageW(library, name, type, width, height, flags);
          }},
-        {module, ImageList_ReplaceIcon, +[](HIMAGELIST images, int at, HICON icon) {
+        {module.handle, ImageList_ReplaceIcon, +[](HIMAGELIST images, int at, HICON icon) {
              return failingCall-- == 1 ? -1 : ImageList_ReplaceIcon(images, at, icon);
          }}};
     std::optional<LiveObjects> before;
     for (int call = 8; call > 0; --call) { // there are five calls
         failingCall = call;
-        dialog.PressButton();
-        EXPECT_EQ(dialog.List(LVM_GETIMAGELIST, LVSIL_SMALL) != 0, call > 5) << call;
-        dialog.Close();
+        PressButton();
+        EXPECT_EQ(List(LVM_GETIMAGELIST, LVSIL_SMALL) != 0, call > 5) << call;
+        Close();
         if (call == 6)
             before = CountLiveObjects();
     }
     EXPECT_EQ(CountLiveObjects(), *before);
 }
 
-TEST(TrayDialog, LeavesNothingBehind) {
-    Trays dialog;
-    dialog.usesOwnCallbacks = true;
+TEST_F(TrayDialog, LeavesNothingBehind) {
+    usesOwnCallbacks = true;
     std::optional<LiveObjects> before;
     for (int i = 0, rounds = Rounds(23, 203); i < rounds; ++i) {
-        dialog.PressButton();
-        const HWND list = dialog.Control(kList);
-        ShowWindow(dialog.window, i < 5 ? SW_SHOWNOACTIVATE : SW_HIDE);
-        UpdateWindow(dialog.window);
-        dialog.Select(i % 7);
-        dialog.Choose(kAttributes[0], i % 5);
+        PressButton();
+        const HWND list = Control(kList);
+        ShowWindow(window, i < 5 ? SW_SHOWNOACTIVATE : SW_HIDE);
+        UpdateWindow(window);
+        Select(i % 7);
+        Choose(kAttributes[0], i % 5);
         const LONG_PTR own = GetClassLongPtrW(list, GCLP_WNDPROC);
         EXPECT_NE(GetWindowLongPtrW(list, GWLP_WNDPROC), own);
-        dialog.Deliver(WM_DESTROY); // the end of the window sends it again
+        Deliver(WM_DESTROY); // the end of the window sends it again
         EXPECT_EQ(GetWindowLongPtrW(list, GWLP_WNDPROC), own);
-        EXPECT_EQ(dialog.List(LVM_GETIMAGELIST, LVSIL_SMALL), 0);
-        dialog.Close();
+        EXPECT_EQ(List(LVM_GETIMAGELIST, LVSIL_SMALL), 0);
+        Close();
         if (i == 2)
             before = CountLiveObjects();
     }

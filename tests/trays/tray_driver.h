@@ -82,8 +82,7 @@ struct Trays : DialogDriver {
     void PressButton(bool withContext = true) {
         events.clear();
         SetWindowLongPtrW(page, DWLP_USER, withContext ? reinterpret_cast<LONG_PTR>(&context) : 0);
-        int32_t handled = kUntouched;
-        EXPECT_EQ(DeliverTo(156, page, WM_COMMAND, 1847, 0, &handled), (Answer{0, kUntouched}));
+        EXPECT_EQ(DeliverTo(156, page, WM_COMMAND, 1847), (Answer{0, kUntouched}));
     }
     INT_PTR Deliver(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) {
         return procedure(window, message, wParam, lParam);

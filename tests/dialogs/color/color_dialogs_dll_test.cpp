@@ -21,18 +21,17 @@ struct Change {
 const Change kChanges[] = {
     {1504, 3, 2514, 2, 129, 2688, Profile(L"Apple RGB", L"", 0), 1}, {1504, 17, 2514, 2, 257, 2688, kScanner, 1},
     {1504, 16, 2514, 2, 256, 2688, kCamera, 1}, {1509, 0, 2516, 2, 0, 2520, Profile(L"Device RGB", L"", 0), 1},
-    {1509, 16, 2516, 2, 256, 2520, kCamera, 1}, {1513, 15, 2518, 2, 141, 2856, Profile(L"sRGB (blue adjusted)", L"", 0), 1},
+    {1509, 16, 2516, 2, 256, 2520, kCamera, 1},
+    {1513, 15, 2518, 2, 141, 2856, Profile(L"sRGB (blue adjusted)", L"", 0), 1},
     {1513, 17, 2518, 2, 257, 2856, kScanner, 1}, {1524, 0, 2166, 2, 0, 2168, kNone, 0},
     {1524, 5, 2166, 2, 5, 2168, kNone, 0}, {1524, 6, 2166, 2, 128, 2168, kSimA, 0},
     {1524, 7, 2166, 2, 128, 2168, kSimB, 0}, {1599, 1, 3026, 2, 128, 3198, kPressA, 0},
     {1599, 2, 3026, 2, 128, 3198, kPressB, 0}, {1592, 0, 3024, 2, 0, 3030, kNone, 0},
     {1592, 1, 3024, 2, 128, 3030, kPressA, 0}, {1584, 0, 3028, 2, 0, 3366, kNone, 0},
-    {1584, 2, 3028, 2, 128, 3366, kPressB, 0}, {1354, 3, 2153, 1, 3, 0, kNone, 1},
-    {1335, 2, 2155, 1, 2, 0, kNone, 1}, {1332, 0, 2154, 1, 0, 0, kNone, 1},
-    {1353, 0, 2157, 1, 0, 0, kNone, 1}, {1334, 1, 2159, 1, 1, 0, kNone, 1},
-    {1330, 2, 2158, 1, 2, 0, kNone, 1}, {1516, 0, 2161, 1, 0, 0, kNone, 1},
-    {1519, 2, 2163, 1, 2, 0, kNone, 1}, {1522, 0, 2162, 1, 3, 0, kNone, 1},
-    {1522, 4, 2162, 1, 2, 0, kNone, 1}, {kBox, 0, 3534, 1, 0, 0, kNone, 0},
+    {1584, 2, 3028, 2, 128, 3366, kPressB, 0}, {1354, 3, 2153, 1, 3, 0, kNone, 1}, {1335, 2, 2155, 1, 2, 0, kNone, 1},
+    {1332, 0, 2154, 1, 0, 0, kNone, 1}, {1353, 0, 2157, 1, 0, 0, kNone, 1}, {1334, 1, 2159, 1, 1, 0, kNone, 1},
+    {1330, 2, 2158, 1, 2, 0, kNone, 1}, {1516, 0, 2161, 1, 0, 0, kNone, 1}, {1519, 2, 2163, 1, 2, 0, kNone, 1},
+    {1522, 0, 2162, 1, 3, 0, kNone, 1}, {1522, 4, 2162, 1, 2, 0, kNone, 1}, {kBox, 0, 3534, 1, 0, 0, kNone, 0},
     {1627, 1, 3536, 2, 1, 0, kNone, 1}, {1525, 0, 2336, 2, 0, 2338, kNone, 0},
     {1525, 2, 2336, 2, 128, 2338, kPressB, 0}, {1634, 0, 2512, 2, 0, 0, kNone, 1},
 };
@@ -81,8 +80,8 @@ const Stored kStored[] = {
 };
 // clang-format on
 
-struct Driver : ColorDriver {
-    using ColorDriver::ColorDriver;
+struct ColorDialogs : testing::TestWithParam<ColorDialogCase>, ColorDriver {
+    ColorDialogs() : ColorDriver(GetParam()) {}
 
     bool Offers(const Change& change) const {
         const bool isProfile = change.field >= 2512 && change.field < 2520 && change.value >= 256;
@@ -94,29 +93,28 @@ struct Driver : ColorDriver {
             PutRecord(wanted, change.recordAt, record);
     }
 
-    // What graphics take, on the offered settings.
-    RawBytes& Derive(RawBytes& wanted, bool fromImages) const {
-        const unsigned gray = !fromImages ? 2 : Has(1335) ? 1 : 0;
-        wanted.U8(2165, fromImages).U8(2161, fromImages ? 1 : 3).U8(2163, gray).U8(2162, fromImages ? 2 : 1);
+    // What graphics take from the settings of images or text, and their profile.
+    RawBytes& Derive(RawBytes& wanted, bool fromImages, const RawBytes& profile) const {
+        uint8_t* const bytes = wanted.U8(2165, fromImages).bytes.data();
+        memcpy(bytes + 2161, bytes + (fromImages ? 2153 : 2157), 3); // matching, halftone, grey
+        if (fromImages && !Has(1335))
+            wanted.U8(2163, 0);
         if (Has(1504))
-            wanted.U16(2518, fromImages ? 128 : dialog.listsProfiles ? 257 : 129);
-        return dialog.listsProfiles ? PutRecord(wanted, 2856, fromImages ? Profile(L"mark", L"", 0) : kScanner)
-                                    : wanted;
+            memcpy(bytes + 2518, bytes + (fromImages ? 2514 : 2516), 2);
+        return dialog.listsProfiles ? PutRecord(wanted, 2856, profile) : wanted;
     }
 };
 
-struct ColorDialogs : testing::TestWithParam<ColorDialogCase> {};
 struct FollowingGraphics : ColorDialogs {};
-const auto kNameOf = [](const auto& dialog) { return std::string(dialog.param.name); };
+const auto kNameOf = [](const auto& row) { return std::string(row.param.name); };
 INSTANTIATE_TEST_SUITE_P(, ColorDialogs, testing::ValuesIn(kColorDialogs), kNameOf);
 INSTANTIATE_TEST_SUITE_P(, FollowingGraphics, testing::ValuesIn(kColorDialogs + 1, std::end(kColorDialogs)), kNameOf);
 
 TEST_P(ColorDialogs, OpenAndRefreshInOrder) {
-    Driver driver(GetParam());
-    driver.downloadManager = 0;
+    downloadManager = 0;
     std::map<int, std::string> marked; // each table has an item of its own, named after its list
     for (const auto& [list, entries, selection, key] : kLists) {
-        uint8_t* const text = driver.FindItem(key) + 48;
+        uint8_t* const text = FindItem(key) + 48;
         const std::string name = Narrow(reinterpret_cast<const wchar_t*>(text)) + "=";
         marked[list] = entries;
         marked[list].replace(marked[list].find(name), name.size(), std::to_string(list) + "=");
@@ -124,304 +122,279 @@ TEST_P(ColorDialogs, OpenAndRefreshInOrder) {
     }
     const std::set<std::string> kinds = {"fill",          "show",           "disable", "IsInstalledDLManager",
                                          "DoConstraints", "DispHintControl"};
-    const bool lists = GetParam().listsProfiles, follows = driver.Has(kImages);
-    driver.Open();
-    EXPECT_EQ(driver.initAnswer, (Answer{0, 1}));
-    EXPECT_EQ(driver.Events(kinds),
-              driver.Check() + driver.Fills() + driver.Shows() + (lists ? "IsInstalledDLManager\ndisable 1393\n" : ""));
-    driver.Expect(OfferedSettings(GetParam()));
-    EXPECT_EQ(Differences(driver.saveArea.bytes.data(), OfferedSettings(GetParam())), "");
+    const bool hasProfiles = dialog.listsProfiles, follows = Has(kImages);
+    Open();
+    EXPECT_EQ(initAnswer, (Answer{0, 1}));
+    EXPECT_EQ(Events(kinds), Check() + Fills() + Shows() + (hasProfiles ? "IsInstalledDLManager\ndisable 1393\n" : ""));
+    Expect(OfferedSettings(dialog));
+    EXPECT_EQ(Differences(saveArea.bytes.data(), OfferedSettings(dialog)), "");
     for (const OfferedList& row : kLists)
-        if (driver.Has(row.list)) {
-            const bool isBasicRgb = !lists && row.entries == kRgb; // without the printer's profiles
-            EXPECT_EQ(driver.Entries(row.list),
+        if (Has(row.list)) {
+            const bool isBasicRgb = !hasProfiles && row.entries == kRgb; // without the printer's profiles
+            EXPECT_EQ(Entries(row.list),
                       isBasicRgb ? marked[row.list].substr(0, marked[row.list].find("|Camera")) : marked[row.list]);
-            EXPECT_EQ(driver.Shown(row.list), isBasicRgb && row.list == 1509 ? 3 : row.selection);
+            EXPECT_EQ(Shown(row.list), isBasicRgb && row.list == 1509 ? 3 : row.selection);
         }
-    EXPECT_EQ(driver.Shown(kBox), driver.Has(kBox));
-    EXPECT_EQ(driver.Shown(kImages), follows);
-    EXPECT_EQ(driver.Shown(kText), 0);
+    EXPECT_EQ(Shown(kBox), Has(kBox));
+    EXPECT_EQ(Shown(kImages), follows);
+    EXPECT_EQ(Shown(kText), 0);
 
-    driver.events.clear();
-    EXPECT_EQ(driver.Deliver(WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, 1)), (Answer{0, kUntouched}));
-    EXPECT_EQ(driver.Events(kinds), "");
-    EXPECT_EQ(driver.Deliver(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1)), (Answer{0, 1}));
-    EXPECT_EQ(driver.Events(kinds), driver.Check() + (lists ? driver.Fills() : "") + driver.Shows());
-    driver.Expect(OfferedSettings(GetParam()));
+    events.clear();
+    EXPECT_EQ(Deliver(WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, 1)), (Answer{0, kUntouched}));
+    EXPECT_EQ(Events(kinds), "");
+    EXPECT_EQ(Deliver(WM_ACTIVATE, MAKEWPARAM(WA_CLICKACTIVE, 1)), (Answer{0, 1}));
+    EXPECT_EQ(Events(kinds), Check() + (hasProfiles ? Fills() : "") + Shows());
+    Expect(OfferedSettings(dialog));
 
-    driver.events.clear();
-    driver.settings.U8(2165, 2); // neither: text
-    RawBytes wanted = driver.settings;
-    EXPECT_EQ(driver.Deliver(WM_USER + 100), lists ? (Answer{1, 1}) : (Answer{0, kUntouched}));
-    EXPECT_EQ(driver.Events(kinds), lists ? driver.Fills() + driver.Shows() : "");
-    driver.Expect(lists && follows ? driver.Derive(wanted, false) : wanted);
-    EXPECT_EQ(driver.Shown(kText), lists && follows);
+    events.clear();
+    settings.U8(2165, 2); // neither: text
+    RawBytes wanted = settings;
+    EXPECT_EQ(Deliver(WM_USER + 100), hasProfiles ? (Answer{1, 1}) : (Answer{0, kUntouched}));
+    EXPECT_EQ(Events(kinds), hasProfiles ? Fills() + Shows() : "");
+    Expect(hasProfiles && follows ? Derive(wanted, false, kScanner) : wanted);
+    EXPECT_EQ(Shown(kText), hasProfiles && follows);
 }
 
 TEST_P(ColorDialogs, AnswerTheirOwnMessagesOnly) {
-    Driver driver(GetParam());
-    driver.Open();
+    Open();
     for (const WPARAM command : {WPARAM{1393}, WPARAM{1528}})
-        EXPECT_EQ(driver.Command(command), (Answer{GetParam().listsProfiles ? 1 : 0, kUntouched}));
+        EXPECT_EQ(Command(command), (Answer{dialog.listsProfiles ? 1 : 0, kUntouched}));
     for (const WPARAM command :
          {WPARAM{MAKEWPARAM(kImages, 1)}, Chosen(kText), Chosen(kBox), WPARAM{1504}, MAKEWPARAM(1504, CBN_SELCHANGE),
           IDOK | 1ull << 32, Chosen(0), WPARAM{0}, WPARAM{MAKEWPARAM(IDOK, 1)}, WPARAM{MAKEWPARAM(1528, 1)}})
-        EXPECT_EQ(driver.Command(command), (Answer{0, kUntouched})) << command;
+        EXPECT_EQ(Command(command), (Answer{0, kUntouched})) << command;
     for (const Change& change : kChanges) {
         const WPARAM command = change.control == kBox ? kBox : Chosen(static_cast<WPARAM>(change.control));
-        EXPECT_EQ(driver.Command(command),
-                  driver.Has(change.control) ? (Answer{change.result, 1}) : (Answer{0, kUntouched}))
+        EXPECT_EQ(Command(command), Has(change.control) ? (Answer{change.result, 1}) : (Answer{0, kUntouched}))
             << change.control;
         MEASUREITEMSTRUCT item = {ODT_COMBOBOX, static_cast<UINT>(change.control), 0, 0, 3, 0};
-        driver.Deliver(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
-        EXPECT_EQ(item.itemHeight, driver.Has(change.control) && change.control != kBox ? 16u : 3u) << change.control;
+        Deliver(WM_MEASUREITEM, 0, reinterpret_cast<LPARAM>(&item));
+        EXPECT_EQ(item.itemHeight, Has(change.control) && change.control != kBox ? 16u : 3u) << change.control;
     }
-    driver.events.clear();
-    EXPECT_EQ(driver.Command(IDHELP), (Answer{0, 1}));
+    events.clear();
+    EXPECT_EQ(Command(IDHELP), (Answer{0, 1}));
     HELPINFO info = {};
-    info.hItemHandle = driver.Control(1353);
-    EXPECT_EQ(driver.Deliver(WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), (Answer{0, 1}));
-    EXPECT_EQ(driver.helpTable, GetParam().help);
-    EXPECT_EQ(driver.Deliver(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(driver.Control(1354))), (Answer{0, 1}));
-    EXPECT_EQ(driver.Events({"WinHelp"}),
-              "WinHelp 0 1 " + std::to_string(GetParam().topic) + "\nWinHelp 1353 12\nWinHelp 1354 10\n");
-    EXPECT_EQ(driver.helpTable, GetParam().help);
+    info.hItemHandle = Control(1353);
+    EXPECT_EQ(Deliver(WM_HELP, 0, reinterpret_cast<LPARAM>(&info)), (Answer{0, 1}));
+    EXPECT_EQ(helpTable, dialog.help);
+    EXPECT_EQ(Deliver(WM_CONTEXTMENU, reinterpret_cast<WPARAM>(Control(1354))), (Answer{0, 1}));
+    EXPECT_EQ(Events({"WinHelp"}),
+              "WinHelp 0 1 " + std::to_string(dialog.topic) + "\nWinHelp 1353 12\nWinHelp 1354 10\n");
+    EXPECT_EQ(helpTable, dialog.help);
 
     std::vector<int> icons;
-    DRAWITEMSTRUCT item = {ODT_STATIC, 1390, 0, ODA_DRAWENTIRE, 0, driver.window, nullptr, {}, 0};
+    DRAWITEMSTRUCT item = {ODT_STATIC, 1390, 0, ODA_DRAWENTIRE, 0, window, nullptr, {}, 0};
     for (; item.CtlID < 1640; ++item.CtlID) {
-        driver.events.clear();
-        const Answer answer = driver.Deliver(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
-        if (!driver.Events({"ReqDrawStopInfoIcon"}).empty() && answer == Answer{1, 1})
+        events.clear();
+        const Answer answer = Deliver(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
+        if (!Events({"ReqDrawStopInfoIcon"}).empty() && answer == Answer{1, 1})
             icons.push_back(static_cast<int>(item.CtlID));
     }
-    EXPECT_EQ(icons, GetParam().icons);
-    driver.Deliver(WM_DESTROY); // frees the user-interface module
+    EXPECT_EQ(icons, dialog.icons);
+    Deliver(WM_DESTROY); // frees the user-interface module
     item.CtlID = 1400;
-    EXPECT_EQ(driver.Deliver(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item)), (Answer{0, kUntouched}));
+    EXPECT_EQ(Deliver(WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item)), (Answer{0, kUntouched}));
 }
 
 TEST_P(ColorDialogs, LockTheirControls) {
-    Driver driver(GetParam());
-    driver.context.changesAllowed = 0;
-    driver.Open();
-    std::vector<int> locks = GetParam().locksFirst, never = GetParam().locksNever;
+    context.changesAllowed = 0;
+    Open();
+    std::vector<int> locks = dialog.locksFirst, never = dialog.locksNever;
     never.insert(never.end(), {0, 1069});
-    for (size_t i = 0; i < GetParam().help.size(); i += 2)
-        if (const int id = static_cast<int>(GetParam().help[i]); !std::count(never.begin(), never.end(), id))
+    for (size_t i = 0; i < dialog.help.size(); i += 2)
+        if (const int id = static_cast<int>(dialog.help[i]); !std::count(never.begin(), never.end(), id))
             locks.push_back(id);
-    if (GetParam().id == 122 || GetParam().id == 124) // the buttons for profiles in the other order
+    if (dialog.id == 122 || dialog.id == 124) // the buttons for profiles in the other order
         std::swap(locks[locks.size() - 3], locks[locks.size() - 2]);
-    if (!GetParam().locks.empty())
-        locks = GetParam().locks;
-    std::string events;
+    if (!dialog.locks.empty())
+        locks = dialog.locks;
+    std::string disabled;
     for (const int control : locks) {
-        events += "disable " + std::to_string(control) + "\n";
-        EXPECT_TRUE(GetWindowLongW(driver.Control(control), GWL_STYLE) & WS_VISIBLE) << control;
+        disabled += "disable " + std::to_string(control) + "\n";
+        EXPECT_TRUE(GetWindowLongW(Control(control), GWL_STYLE) & WS_VISIBLE) << control;
     }
-    EXPECT_EQ(driver.Events({"disable"}), events);
+    EXPECT_EQ(Events({"disable"}), disabled);
 }
 
 TEST_P(ColorDialogs, ChangesAreKeptOrRefused) {
-    Driver driver(GetParam());
-    driver.Open();
+    Open();
     for (const Change& change : kChanges)
         for (const int32_t answer : {100, 101, 99, 0}) {
-            if (!driver.Offers(change))
+            if (!Offers(change))
                 continue;
             SCOPED_TRACE(testing::Message() << change.control << ", " << answer);
-            const RawBytes before = driver.settings;
+            const RawBytes before = settings;
             RawBytes wanted = before;
-            driver.Put(wanted, change, change.value, change.record);
-            driver.constraints = [&](uint32_t) {
-                driver.Expect(wanted);
-                return answer;
-            };
-            const int shown = driver.Shown(change.control);
+            Put(wanted, change, change.value, change.record);
+            constraints = [&](uint32_t) { return Expect(wanted), answer; };
+            const int shown = Shown(change.control);
             const bool isRefused = answer == 100 || answer == 101;
-            EXPECT_EQ(driver.Choose(change.control, change.entry), (Answer{change.result, 1}));
-            EXPECT_EQ(driver.Events({"DoConstraints", "DispHintControl"}),
-                      "DoConstraints " + std::to_string(change.control) + "\nDispHintControl "
-                          + std::to_string(GetParam().id) + "\n");
-            driver.Expect(isRefused ? before : wanted);
-            EXPECT_EQ(driver.Shown(change.control), isRefused ? shown : change.entry);
+            EXPECT_EQ(Choose(change.control, change.entry), (Answer{change.result, 1}));
+            EXPECT_EQ(Events({"DoConstraints", "DispHintControl"}), "DoConstraints " + std::to_string(change.control)
+                                                                        + "\nDispHintControl "
+                                                                        + std::to_string(dialog.id) + "\n");
+            Expect(isRefused ? before : wanted);
+            EXPECT_EQ(Shown(change.control), isRefused ? shown : change.entry);
         }
 }
 
 TEST_P(FollowingGraphics, TakeWhatIsChosen) {
-    Driver driver(GetParam());
-    memcpy(driver.FindItem("Graph_AdobeRGB1998") + 48, L"mark", 10); // names come from the table of graphics
-    driver.Open();
-    RawBytes wanted = driver.settings;
+    memcpy(FindItem("Graph_AdobeRGB1998") + 48, L"mark", 10); // names come from the table of graphics
+    Open();
+    RawBytes wanted = settings;
     for (const auto& [button, answer] : {std::pair(kText, 100), {kText, 0}, {kImages, 101}, {kImages, 99}}) {
         SCOPED_TRACE(testing::Message() << button << ", " << answer);
         const uint8_t before = wanted.bytes[2165];
-        driver.Derive(wanted, button == kImages);
-        driver.constraints = [&, answer = answer](uint32_t) {
-            driver.Expect(wanted); // with the derived settings
+        Derive(wanted, button == kImages, button == kImages ? Profile(L"mark", L"", 0) : kScanner);
+        constraints = [&, answer = answer](uint32_t) {
+            Expect(wanted); // with the derived settings
             return answer;
         };
-        driver.Send(button == kImages ? kText : kImages, BM_SETCHECK, BST_UNCHECKED);
-        EXPECT_EQ(driver.Choose(button, 1), (Answer{1, 1}));
-        EXPECT_EQ(driver.Events({"DoConstraints"}), "DoConstraints " + std::to_string(button) + "\n");
+        Send(button == kImages ? kText : kImages, BM_SETCHECK, BST_UNCHECKED);
+        EXPECT_EQ(Choose(button, 1), (Answer{1, 1}));
+        EXPECT_EQ(Events({"DoConstraints"}), "DoConstraints " + std::to_string(button) + "\n");
         if (answer >= 100) // refused: restores the choice, not what was derived
             wanted.U8(2165, before);
-        driver.Expect(wanted);
-        EXPECT_EQ(driver.Shown(kImages), wanted.bytes[2165]);
-        EXPECT_EQ(driver.Shown(kText), 1 - wanted.bytes[2165]);
+        Expect(wanted);
+        EXPECT_EQ(Shown(kImages), wanted.bytes[2165]);
+        EXPECT_EQ(Shown(kText), 1 - wanted.bytes[2165]);
     }
 }
 
 TEST_P(ColorDialogs, DefaultsCopyTheirFieldsOnly) {
     const std::set<size_t> fourBytes = {2153, 2157, 2161}, oneByte = {2165, 3534};
     const std::set<size_t> records = {2168, 2338, 2520, 2688, 2856, 3030, 3198, 3366};
-    Driver driver(GetParam());
     const RawBytes defaults = OtherSettings();
-    driver.storedDefaults = defaults.bytes;
-    driver.Open();
-    SetFocus(driver.Control(1354));
-    driver.constraints = [](uint32_t) { return 100; }; // defaults are not refused
-    driver.events.clear();
-    EXPECT_EQ(driver.Command(IDC_DEFAULTS), (Answer{0, 1}));
-    RawBytes wanted = OfferedSettings(GetParam());
-    for (const size_t at : GetParam().defaults)
+    storedDefaults = defaults.bytes;
+    Open();
+    SetFocus(Control(1354));
+    constraints = [](uint32_t) { return 100; }; // defaults are not refused
+    events.clear();
+    EXPECT_EQ(Command(IDC_DEFAULTS), (Answer{0, 1}));
+    RawBytes wanted = OfferedSettings(dialog);
+    for (const size_t at : dialog.defaults)
         memcpy(&wanted.bytes[at], &defaults.bytes[at],
                fourBytes.count(at) ? 4
                : oneByte.count(at) ? 1
                : records.count(at) ? kProfileSize
                                    : 2);
-    driver.Expect(wanted);
-    EXPECT_EQ(driver.Events({"focus", "DoConstraints", "DispHintControl", "fill", "show"}),
-              "focus 1032\n" + driver.Check() + driver.Shows());
-    EXPECT_EQ(driver.Shown(kText), driver.Has(kImages));
-    driver.events.clear();
-    driver.Command(IDC_DEFAULTS);
-    EXPECT_EQ(driver.Events({"focus"}), "") << "it has the focus already";
+    Expect(wanted);
+    EXPECT_EQ(Events({"focus", "DoConstraints", "DispHintControl", "fill", "show"}),
+              "focus 1032\n" + Check() + Shows());
+    EXPECT_EQ(Shown(kText), Has(kImages));
+    events.clear();
+    Command(IDC_DEFAULTS);
+    EXPECT_EQ(Events({"focus"}), "") << "it has the focus already";
 }
 
 TEST_P(ColorDialogs, ChoicesThatAreNotOfferedBecomeTheFirst) {
-    Driver driver(GetParam());
-    driver.destinations.push_back(kPressB);
+    destinations.Append(kPressB);
     for (const Stored& row : kStored) {
-        if (row.dialog != GetParam().id)
+        if (row.dialog != dialog.id)
             continue;
         SCOPED_TRACE(testing::Message() << row.list << ", value " << row.value << ", row " << &row - kStored);
-        driver.settings = OfferedSettings(GetParam()).U16(row.field, row.value);
+        settings = OfferedSettings(dialog).U16(row.field, row.value);
         if (row.name != nullptr)
-            driver.settings.Wide(row.record + 82, row.name).U16(row.record + 82 + 2 * wcslen(row.name), 0);
-        const RawBytes stored = driver.settings;
+            settings.Wide(row.record + 82, row.name).U16(row.record + 82 + 2 * wcslen(row.name), 0);
+        const RawBytes stored = settings;
         RawBytes wanted = stored;
         wanted.U16(row.field, row.becomes);
         if (row.text != nullptr)
             PutRecord(wanted, row.record, Profile(row.text, L"", 0));
-        driver.events.clear();
-        driver.Open();
-        EXPECT_EQ(driver.Shown(row.list), row.selection);
-        driver.Expect(wanted);
-        EXPECT_EQ(Differences(driver.saveArea.bytes.data(), stored), "");
-        EXPECT_EQ(driver.Events({"DoConstraints"}), "DoConstraints 0\n");
-        driver.Close();
+        events.clear();
+        Open();
+        EXPECT_EQ(Shown(row.list), row.selection);
+        Expect(wanted);
+        EXPECT_EQ(Differences(saveArea.bytes.data(), stored), "");
+        EXPECT_EQ(Events({"DoConstraints"}), "DoConstraints 0\n");
+        Close();
     }
 }
 
 TEST_P(ColorDialogs, CancelRestoresTheSettingsAtOpening) {
-    Driver driver(GetParam());
-    driver.settings.U8(2153, 9).U8(3534, 2);
-    const RawBytes opening = driver.settings;
-    driver.Open();
-    EXPECT_EQ(driver.Shown(1354), -1) << "an unknown item selects nothing";
-    EXPECT_EQ(driver.Shown(kBox), driver.Has(kBox)) << "any value but 0";
-    for (uint8_t& byte : driver.settings.bytes)
+    settings.U8(2153, 9).U8(3534, 2);
+    const RawBytes opening = settings;
+    Open();
+    EXPECT_EQ(Shown(1354), -1) << "an unknown item selects nothing";
+    EXPECT_EQ(Shown(kBox), Has(kBox)) << "any value but 0";
+    for (uint8_t& byte : settings.bytes)
         byte ^= 0xFF;
-    EXPECT_EQ(driver.Command(IDCANCEL), (Answer{1, 1}));
-    EXPECT_EQ(driver.events.back(), "EndDialog 2");
-    driver.Expect(opening);
+    EXPECT_EQ(Command(IDCANCEL), (Answer{1, 1}));
+    EXPECT_EQ(events.back(), "EndDialog 2");
+    Expect(opening);
 }
 
 // OK stores what the controls show, whether or not a change was reported.
 TEST_P(ColorDialogs, OkStoresWhatIsShown) {
-    Driver driver(GetParam());
-    driver.Open();
-    RawBytes wanted = driver.settings;
+    Open();
+    RawBytes wanted = settings;
     for (const Change& change : kChanges)
-        if (driver.Offers(change)) {
-            driver.Send(change.control, change.control == kBox ? UINT{BM_SETCHECK} : CB_SETCURSEL,
-                        static_cast<WPARAM>(change.entry));
-            driver.Put(wanted, change, change.value, change.record);
+        if (Offers(change)) {
+            Send(change.control, change.control == kBox ? UINT{BM_SETCHECK} : CB_SETCURSEL,
+                 static_cast<WPARAM>(change.entry));
+            Put(wanted, change, change.value, change.record);
         }
-    if (driver.Has(kImages)) { // as text now is
-        driver.Send(kImages, BM_SETCHECK, BST_UNCHECKED);
-        wanted.U8(2165, 0).U8(2161, 0).U8(2163, 1).U8(2162, 2);
-        if (driver.Has(1509))
-            wanted.U16(2518, GetParam().listsProfiles ? 256 : 0);
-        if (GetParam().listsProfiles)
-            PutRecord(wanted, 2856, kCamera);
+    if (Has(kImages)) { // as text now is
+        Send(kImages, BM_SETCHECK, BST_UNCHECKED);
+        Derive(wanted, false, kCamera);
     }
-    driver.events.clear();
-    driver.Command(IDOK);
-    driver.Expect(wanted);
-    EXPECT_EQ(driver.Events({"DoConstraints", "DispHintControl", "EndDialog"}), "EndDialog 1\n");
+    events.clear();
+    Command(IDOK);
+    Expect(wanted);
+    EXPECT_EQ(Events({"DoConstraints", "DispHintControl", "EndDialog"}), "EndDialog 1\n");
     std::string order, last, stored;
-    for (const std::string& event : driver.events)
+    for (const std::string& event : events)
         if (event.rfind("read ", 0) == 0 && event != std::exchange(last, event))
             order += event + "\n";
-    for (const int control : GetParam().controls)
+    for (const int control : dialog.controls)
         stored += "read " + std::to_string(control) + "\n"
                   + (control != kImages ? ""
-                     : driver.Has(1509) ? "read 1509\nread 1353\nread 1334\nread 1330\n"
+                     : Has(1509)        ? "read 1509\nread 1353\nread 1334\nread 1330\n"
                                         : "read 1353\nread 1334\nread 1330\n");
     EXPECT_EQ(order, stored);
 }
 
 // No selection is item data -1; for destinations and simulations it is the first entry.
 TEST_P(ColorDialogs, OkWithoutSelections) {
-    Driver driver(GetParam());
-    driver.Open();
-    RawBytes wanted = driver.settings;
+    Open();
+    RawBytes wanted = settings;
     for (const Change& change : kChanges)
-        if (driver.Has(change.control) && change.control != kBox) {
-            driver.Send(change.control, CB_SETCURSEL, static_cast<WPARAM>(-1));
-            driver.Put(wanted, change, change.result == 0 ? 0 : 0xFFFF, kNone);
+        if (Has(change.control) && change.control != kBox) {
+            Send(change.control, CB_SETCURSEL, static_cast<WPARAM>(-1));
+            Put(wanted, change, change.result == 0 ? 0 : 0xFFFF, kNone);
         }
-    if (driver.Has(kImages)) {
-        wanted.U8(2161, 255).U8(2162, 255).U8(2163, driver.Has(1335) ? 255 : 0);
-        if (driver.Has(1504))
-            wanted.U16(2518, 0xFFFF);
-        if (GetParam().listsProfiles)
-            PutRecord(wanted, 2856, kNone);
-    }
-    driver.Command(IDOK);
-    driver.Expect(wanted);
+    if (Has(kImages))
+        Derive(wanted, true, kNone);
+    Command(IDOK);
+    Expect(wanted);
 }
 
 TEST_P(ColorDialogs, ShortRgbListsHaveTwoItems) {
-    Driver driver(GetParam());
-    driver.context.shortRgbLists = 1;
-    driver.Open();
+    context.shortRgbLists = 1;
+    Open();
     for (const int list : {1504, 1509, 1513})
-        EXPECT_EQ(driver.Entries(list), driver.Has(list) ? "Device RGB=0|sRGB=1" : "");
+        EXPECT_EQ(Entries(list), Has(list) ? "Device RGB=0|sRGB=1" : "");
 }
 
 TEST_P(ColorDialogs, LeaveNothingBehind) {
-    Driver driver(GetParam());
-    driver.usesOwnCallbacks = true;
+    usesOwnCallbacks = true;
     std::optional<LiveObjects> before;
     const int rounds = Rounds(20, 200);
     for (int i = 0; i < rounds; ++i) {
-        driver.Open();
-        ShowWindow(driver.window, i % 20 < 4 ? SW_SHOWNOACTIVATE : SW_HIDE); // showing takes long
-        UpdateWindow(driver.window);
-        driver.Choose(kText, 1);
-        driver.Choose(1524, 0);
-        driver.Choose(kBox, 1); // refused, with a hint and a stop sign
-        driver.Command(IDC_DEFAULTS);
-        driver.Close();
+        Open();
+        ShowWindow(window, i % 20 < 4 ? SW_SHOWNOACTIVATE : SW_HIDE); // showing takes long
+        UpdateWindow(window);
+        Choose(kText, 1);
+        Choose(1524, 0);
+        Choose(kBox, 1); // refused, with a hint and a stop sign
+        Command(IDC_DEFAULTS);
+        Close();
         if (i == 3)
             before = CountLiveObjects();
     }
     EXPECT_EQ(CountLiveObjects(), *before);
-    EXPECT_EQ(driver.uiLoads, rounds);
-    EXPECT_EQ(driver.uiFrees, rounds);
+    EXPECT_EQ(uiLoads, rounds);
+    EXPECT_EQ(uiFrees, rounds);
     EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
 }
 

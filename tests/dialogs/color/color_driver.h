@@ -43,14 +43,16 @@ inline const ColorDialogCase kColorDialogs[] = {
      {1504, 1354, 1335, 1599, 1332, 1509, 1353, 1334, 1592, 1330, 1513, 1516, 1519, 1584, 1522, 1524, kBox, 1627},
      {2514, 2688, 2153, 3026, 3198, 2516, 2520, 2157, 3024, 3030, 2518, 2856, 2161, 3028, 3366, 2166, 2168, 3534, 3536},
      {HELP_IMAGES, HELP_IMAGE_GRAY, 1597, 6860, 1599, 6860, HELP_IMAGE_HALFTONE, HELP_TEXT, 1589, 6865, 1592, 6865,
-      HELP_TEXT_HALFTONE, 1473, 6730, 1511, 6740, 1513, 6740, 1514, 6750, 1516, 6750, 1517, 6760, 1519, 6760, 1582, 6870,
-      1584, 6870, 1520, 6770, 1522, 6770, HELP_SIMULATION, HELP_BUTTONS, HELP_END},
-     {1400, 1401, 1402, 1403, 1482, 1503, 1505, 1508, 1510, 1512, 1515, 1518, 1521, 1527, 1529, 1530, 1587, 1594, 1601, 1629},
+      HELP_TEXT_HALFTONE, 1473, 6730, 1511, 6740, 1513, 6740, 1514, 6750, 1516, 6750, 1517, 6760, 1519, 6760, 1582,
+      6870, 1584, 6870, 1520, 6770, 1522, 6770, HELP_SIMULATION, HELP_BUTTONS, HELP_END},
+     {1400, 1401, 1402, 1403, 1482, 1503, 1505, 1508, 1510, 1512, 1515, 1518, 1521, 1527, 1529, 1530, 1587, 1594,
+      1601, 1629},
      {}, {}},
     {"Simulation", 124, L"", 6630, true,
      {1504, 1354, 1332, 1509, 1353, 1334, 1330, kImages, 1524, kBox, 1627},
      {2514, 2688, 2153, 2516, 2520, 2157, 2165, 2166, 2168, 3534, 3536},
-     {HELP_IMAGES, HELP_IMAGE_HALFTONE, HELP_TEXT, HELP_TEXT_HALFTONE, HELP_GRAPHICS, HELP_SIMULATION, HELP_BUTTONS, HELP_END},
+     {HELP_IMAGES, HELP_IMAGE_HALFTONE, HELP_TEXT, HELP_TEXT_HALFTONE, HELP_GRAPHICS, HELP_SIMULATION, HELP_BUTTONS,
+      HELP_END},
      {1400, 1401, 1402, 1482, 1503, 1505, 1508, 1510, 1527, 1529, 1530, 1629}, {}, {}},
     {"CommonDestination", 122, L"", 6610, true,
      {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, kImages, 1524, kBox, 1627, 1525},
@@ -60,10 +62,11 @@ inline const ColorDialogCase kColorDialogs[] = {
      {1400, 1401, 1402, 1403, 1482, 1486, 1503, 1505, 1508, 1510, 1527, 1529, 1530, 1629}, {}, {1507}},
     {"SingleSource", 125, L"", 6620, false,
      {1634, 1354, 1332, 1353, 1334, 1330, kImages}, {2512, 2153, 2157, 2165},
-     {1501, 6640, 1468, 6660, 1354, 6660, HELP_IMAGE_HALFTONE, 1506, 6680, 1465, 6700, 1353, 6700, 1466, 6710, 1334, 6710,
-      HELP_TEXT_HALFTONE, HELP_GRAPHICS, HELP_END},
+     {1501, 6640, 1468, 6660, 1354, 6660, HELP_IMAGE_HALFTONE, 1506, 6680, 1465, 6700, 1353, 6700, 1466, 6710, 1334,
+      6710, HELP_TEXT_HALFTONE, HELP_GRAPHICS, HELP_END},
      {1400, 1401, 1402, 1505, 1510, 1636}, {1632, 1634}, {}},
-    {"BasicA", 123, L"type2", 6621, false, BASIC_COLUMNS, {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, 1477, 1475, 1032}},
+    {"BasicA", 123, L"type2", 6621, false, BASIC_COLUMNS, {1504, 1354, 1335, 1332, 1509, 1353, 1334, 1330, 1477, 1475,
+      1032}},
     {"BasicB", 123, L"type3", 6600, false, BASIC_COLUMNS},
 };
 
@@ -92,7 +95,8 @@ inline RawBytes& PutRecord(RawBytes& settings, size_t offset, const RawBytes& re
     return settings;
 }
 
-// All choices are offered; graphics follow images. Profiles are found by name, so only the names of their records are set.
+// All choices are offered; graphics follow images. Profiles are found by name, so only the names of their records
+// are set.
 inline RawBytes OfferedSettings(const ColorDialogCase& dialog) {
     return Pattern(1)
         .U16(2512, 1).U16(2514, 128).U8(2153, 1).U8(2155, 1).U16(3026, 0).U8(2154, 2)
@@ -113,9 +117,9 @@ inline RawBytes OtherSettings() {
 struct ColorDriver : DialogDriver {
     explicit ColorDriver(const ColorDialogCase& wanted = kColorDialogs[0])
         : DialogDriver(wanted.id, wanted.model), dialog(wanted) {
-        rgbSources = {kCamera, kScanner};
-        simulations = {kSimA, kSimB};
-        destinations = {kPressA, kPressB};
+        rgbSources.Append(kCamera).Append(kScanner);
+        simulations.Append(kSimA).Append(kSimB);
+        destinations.Append(kPressA).Append(kPressB);
         settings = OfferedSettings(dialog);
     }
 

@@ -15,12 +15,10 @@ struct DialogDrawing : ColorDriver, Pictures {
     }
 
     // Draws it on a cleared canvas.
-    Answer Draw(DRAWITEMSTRUCT item, bool isAsked = true) {
+    Answer Draw(DRAWITEMSTRUCT item, bool hasHandledFlag = true) {
         Clear();
         item.hDC = got.dc;
-        int32_t handled = kUntouched;
-        return DeliverTo(dialogId, window, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item),
-                         isAsked ? &handled : nullptr);
+        return DeliverTo(dialogId, window, WM_DRAWITEM, item.CtlID, reinterpret_cast<LPARAM>(&item), hasHandledFlag);
     }
 };
 struct Drawing : testing::Test, DialogDrawing {};
@@ -147,7 +145,7 @@ TEST_F(Drawing, FocusRectangle) {
 TEST_F(Drawing, EntriesAreDrawnOnlyWithAHandledFlag) {
     for (const int control : dialog.controls) {
         const bool isList = control != kBox;
-        EXPECT_EQ(Draw(Item(control, 0, ODA_DRAWENTIRE, 0), false).result, isList);
+        EXPECT_EQ(Draw(Item(control, 0, ODA_DRAWENTIRE, 0), false).first, isList);
         EXPECT_TRUE(SamePicture(got, wanted)) << control;
         EXPECT_EQ(Draw(Item(control, 0, ODA_DRAWENTIRE, 0)), (Answer{isList, isList ? 1 : kUntouched}));
         EXPECT_EQ(IsSamePicture(got, wanted), !isList) << control;
