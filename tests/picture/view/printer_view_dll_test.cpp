@@ -46,30 +46,25 @@ void ForEachChoice(const std::function<void(const Choice&)>& use) {
 TEST_F(PrinterView, EveryCombinationIsDrawnInOrder) {
     ViewRecords records(UnitFeatures());
     std::map<std::vector<UINT>, Choice> pictures;
-    int wrong = 0;
     {
         GdiRecorder recorder(module.handle);
         Canvas nowhere(1, 1);
         ForEachChoice([&](const Choice& choice) {
+            if (HasFailure())
+                return; // the first one is enough
             recorder.Fail("", GdiRecorder::kEvery);
             records.Choose(choice);
             records.Draw(module, nowhere.dc, {0, 0, 1, 1});
             const std::vector<UINT> wanted = WantedIds(choice);
-            if (recorder.ids != wanted && wrong++ < 5)
-                ADD_FAILURE() << testing::PrintToString(recorder.ids) << ", wanted " << testing::PrintToString(wanted)
-                              << ": unit " << choice.outputUnit << ", " << choice.slot << ", flags " << choice.flags;
+            EXPECT_EQ(recorder.ids, wanted) << choice.outputUnit << ", " << choice.slot << ", flags " << choice.flags;
             pictures.emplace(wanted, choice);
         });
     }
-    ASSERT_EQ(wrong, 0);
-    EXPECT_EQ(pictures.size(), 57u * 7 * 4); // units with their highlights, sources, input unit and disk
+    ASSERT_EQ(pictures.size(), 57u * 7 * 4); // units with their highlights, sources, input unit and disk
     for (const auto& [ids, choice] : pictures) {
         records.Choose(choice);
-        const testing::AssertionResult result = IsAsWanted(records, ids);
-        if (!result && wrong++ < 5)
-            ADD_FAILURE() << testing::PrintToString(ids) << ": " << result.message();
+        ASSERT_TRUE(IsAsWanted(records, ids)) << testing::PrintToString(ids);
     }
-    EXPECT_EQ(wrong, 0);
 }
 
 TEST_F(PrinterView, RectanglesOfAnySizeAndPositionAreFilled) {
@@ -99,7 +94,7 @@ TEST_F(PrinterView, CaptionNamesTheSelectedMachine) {
     const Choice choice = {2, 0, 1, 0, 0, 0, true, "InTray2", 1 << 5};
     const Feature three = {"OpMachine", {"A", "B", "C"}, {L"QUORVANE R880 & Co", full, L""}};
     const Feature alone = {"OpMachine", {"A"}, {L"Alone"}}, empty = {"OpMachine", {}, {}};
-    const Feature two = {"opmachine", {"A", "B"}, {L"A", L"Two"}}, longer = {"OpMachines", {"A", "B"}, {L"A", L"B"}};
+    const Feature two = {"opmachine", {"A", "B"}, {L"A", L"Two"}};
     const struct {
         std::vector<Feature> machines; // after the option features
         int32_t selected;
@@ -113,9 +108,7 @@ TEST_F(PrinterView, CaptionNamesTheSelectedMachine) {
         {{two}, 1, L"Two"},
         {{alone}, 0, {}},
         {{empty}, 0, {}},
-        {{longer}, 0, {}},
         {{two, three}, 1, L"Two"},
-        {{alone, three}, 0, {}},
     };
     for (const auto& c : kCases) {
         ViewRecords records(UnitFeatures(c.machines));
