@@ -18,7 +18,6 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesFolder) {
         // only the library in the module's folder is loaded, never one by its bare name
         {L"C:\\driver\\TELMAR_D.DLL", L"C:\\driver\\TELMAR_S.DLL", true},
         {L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_D.DLL", L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_S.DLL", true},
-        {L"\\\\server\\x64\\3\\TELMAR_D.DLL", L"\\\\server\\x64\\3\\TELMAR_S.DLL", true},
         {L"C:\\TELMAR_D.DLL", L"C:\\TELMAR_S.DLL", true},
         {L"C:\\a\\TELMAR_D.DLL", L"C:\\TELMAR_S.DLL", false},
         {L"C:\\a\\TELMAR_D.DLL", L"TELMAR_S.DLL", false},

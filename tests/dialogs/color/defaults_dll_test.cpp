@@ -47,7 +47,7 @@ TEST_F(Defaults, BuiltInOnesHaveThePaperAndUnitsOfTheRegion) {
     } cases[] = {
         {L"1", L"1", true, true},    {L"81", L"0", false, false}, {L"2", L"0", true, false},
         {L"", L"1", false, true},    {L"1", L"", true, false},    {L"12", L"11", false, false},
-        {L"02", L"01", true, false}, {L"21", L"2", false, false}, {L"0", L"1", false, true},
+        {L"02", L"01", true, false}, {L"21", L"2", false, false},
     };
     Open();
     for (const auto& row : cases) {
