@@ -66,9 +66,9 @@ const Stored kStored[] = {
     {128, 1599, 3026, 1,      3198, L"PRESS B", 1,      nullptr,       2}, // the first of two
     {128, 1584, 3028, 0xFFFF, 3366, L"pReSs A", 0xFFFF, nullptr,       1},
     {128, 1524, 2166, 5,      2168, L"Sim A",   5,      nullptr,       5},
-    {128, 1524, 2166, 6,      2168, L"Sim A",   0,      L"",           0},
     {128, 1524, 2166, 128,    2168, L"sim a",   128,    nullptr,       6},
     {128, 1524, 2166, 128,    2168, L"Sim AB",  0,      L"",           0},
+    {128, 1524, 2166, 129,    2168, L"Sim B",   0,      L"",           0}, // item data, but not a stored value
     {128, 1627, 3536, 258,    0,    nullptr,    0,      nullptr,       0},
     {122, 1525, 2336, 1,      2338, L"Press C", 0,      L"",           0},
     {125, 1634, 2512, 5,      0,    nullptr,    0,      nullptr,       0},
