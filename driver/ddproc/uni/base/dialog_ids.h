@@ -1,6 +1,6 @@
 // Identifiers of the model's dialogs, their controls and the icons that they share with the user-interface
-// module. They are published: the templates, the text tables, the help file and the user-interface module
-// rely on the numbers. Preprocessor only, so that resource scripts can include this header, too.
+// module. They are fixed: the templates, the text tables, the help file and the user-interface module rely on
+// the numbers. Preprocessor only, so that resource scripts can include this header, too.
 #ifndef BASE_DIALOG_IDS_H
 #define BASE_DIALOG_IDS_H
 
