@@ -58,18 +58,4 @@ TEST_F(PrinterAddress, FromTheRegistryWhenTheTransceiverRefuses) {
     EXPECT_EQ(needed, 9u);
 }
 
-TEST_F(PrinterAddress, LeavesNoBlockAndNoHandle) {
-    const Queue queue(kQueue, L"LUMORA_1");
-    const Monitor lpr(L"LPR Port", L"LUMORA_1", L"Server Name", L"10.4.4.4");
-    const auto heldAfter = [&](int calls) {
-        for (; calls > 0; --calls)
-            EXPECT_EQ(Ask(nullptr, 9), "10.4.4.4");
-        return CountHoldings();
-    };
-    const Holdings before = heldAfter(3);
-    const Holdings after = heldAfter(100);
-    EXPECT_EQ(after.heapBlocks, before.heapBlocks);
-    EXPECT_EQ(after.handles, before.handles);
-}
-
 } // namespace

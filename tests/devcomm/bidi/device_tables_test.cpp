@@ -5,7 +5,7 @@
 #include "devcomm/bidi/scripted_bdc_host.h"
 
 #include <gtest/gtest.h>
-#include <utility>
+#include <tuple>
 
 using namespace scripted_bdc;
 
@@ -34,45 +34,35 @@ RawBytes Items(const std::vector<RawBytes>& each) {
 }
 
 TEST_F(BdcAnswers, ModelTestIsExact) {
-    const std::string lower = "quorvane lumora r880";
-    const struct {
-        std::string longName;
-        std::string shortName;
-        int32_t model;
-    } cases[] = {
-        {kModel, kModel, 1},
-        {kModel + '\0' + "rest", kModel + '\0' + "rest", 1},
-        {lower, kModel, 0},
-        {kModel, lower, 0},
-        {kModel, "", 0},
-        {"", kModel, 0},
-        {kModel + "0", kModel, 0},
-        {kModel, kModel + " ", 0},
-        {kModel + std::string(236, 'x'), kModel, 0}, // fields without terminator
-        {kModel, kModel + std::string(44, 'x'), 0},
+    const std::string lower = "quorvane lumora r880", full(236, 'x'); // a field without terminator
+    const std::tuple<std::string, std::string, bool> cases[] = {
+        // long and short name
+        // clang-format off
+        {kModel, kModel, true}, {kModel + '\0' + "rest", kModel + '\0' + "rest", true}, {lower, kModel, false},
+        {kModel, lower, false}, {kModel, "", false}, {"", kModel, false}, {kModel + "0", kModel, false},
+        {kModel, kModel + " ", false}, {kModel + full, kModel, false}, {kModel, kModel + full.substr(192), false},
+        // clang-format on
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.longName + " | " + c.shortName);
-        script.device.name.octets = RawBytes(324).Text(4, c.longName).Text(260, c.shortName);
+    for (const auto& [longName, shortName, isModel] : cases) {
+        SCOPED_TRACE(longName + " | " + shortName);
+        script.device.name.octets = RawBytes(324).Text(4, longName).Text(260, shortName);
         int32_t model = 77;
         EXPECT_EQ(DDProc_IsCommunicateDevice(kAgent, &model), TRUE);
-        EXPECT_EQ(model, c.model);
-        EXPECT_EQ(Option("OpMachine"), c.model == 1 ? "OpMachine1" : "refused");
-        EXPECT_EQ(Tray("InTray9"), c.model == 1 ? kUnknownTray : "refused");
+        EXPECT_EQ(model, isModel);
+        EXPECT_EQ(Option("OpMachine"), isModel ? "OpMachine1" : "refused");
+        EXPECT_EQ(Tray("InTray9"), isModel ? kUnknownTray : "refused");
         EXPECT_EQ(win32::Count().libraryReferences, 0);
     }
 }
 
 TEST_F(BdcAnswers, HardDisk) {
-    const std::pair<std::vector<RawBytes>, const char*> cases[] = {
-        {{MemoryItem(3)}, "EnaOpHDD"},
-        {{MemoryItem(1), MemoryItem(3), MemoryItem(4)}, "EnaOpHDD"},
-        {{MemoryItem(2), MemoryItem(0x10003)}, "DisOpHDD"},
-        {{MemoryItem(3), MemoryItem(3)}, "DisOpHDD"},
-    };
-    for (const auto& [items, answer] : cases) {
-        script.device.memory.items = Items(items);
-        EXPECT_EQ(Option("OpHDD"), answer) << items.size();
+    const std::pair<std::vector<uint32_t>, const char*> cases[] = {
+        {{3}, "EnaOpHDD"}, {{1, 3, 4}, "EnaOpHDD"}, {{2, 0x10003}, "DisOpHDD"}, {{3, 3}, "DisOpHDD"}};
+    for (const auto& [kinds, answer] : cases) {
+        script.device.memory.items = RawBytes(0);
+        for (const uint32_t kind : kinds)
+            script.device.memory.items.Append(MemoryItem(kind));
+        EXPECT_EQ(Option("OpHDD"), answer) << kinds.size();
     }
 }
 
@@ -82,12 +72,9 @@ TEST_F(BdcAnswers, Options) {
                    fax = OptionItem(1000, "Bdc_Function_Fax");
     const std::string unterminated = "QA-110" + std::string(58, '0');
     // clang-format off
-    const struct {
-        std::string key;
-        std::vector<RawBytes> options;
-        std::vector<uint32_t> finisherFlags;
-        const char* item;
-    } cases[] = {
+    using Options = std::vector<RawBytes>;
+    const std::tuple<std::string, Options, std::vector<uint32_t>, const char*> cases[] = {
+        // key, options and finisher flags of the device, item
         {"OpInTrayUnit", {a}, {}, "OpInTrayUnit1"}, {"OpInTrayUnit", {b, c, d, e, f, fax}, {0x70}, "DisOpInTrayUnit"},
         {"OpOutTrayUnit", {b, d}, {}, "OpOutTrayUnit2"}, {"OpOutTrayUnit", {b}, {0x24}, "OpOutTrayUnit1"},
         {"OpOutTrayUnit", {a, c, e, f, fax}, {0x70}, "DisOpOutTrayUnit"}, {"OpPunchKit", {c}, {0x70}, "OpPunchKit3"},
@@ -108,12 +95,12 @@ TEST_F(BdcAnswers, Options) {
         {"OpMachine" + std::string(23, 'x'), {}, {}, ""},
     };
     // clang-format on
-    for (const auto& each : cases) {
-        script.device.options.items = Items(each.options);
+    for (const auto& [key, options, finisherFlags, item] : cases) {
+        script.device.options.items = Items(options);
         script.device.finishers.items = RawBytes(0);
-        for (const uint32_t flags : each.finisherFlags)
+        for (const uint32_t flags : finisherFlags)
             script.device.finishers.items.Append(FinisherItem(flags));
-        EXPECT_EQ(Option(each.key), each.item) << each.key << ", case " << &each - cases;
+        EXPECT_EQ(Option(key), item) << key << ", " << options.size() << " options";
     }
 }
 
