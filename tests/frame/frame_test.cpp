@@ -4,6 +4,7 @@
 #include "win32_control.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -11,10 +12,8 @@ namespace {
 const auto kInstance = reinterpret_cast<HINSTANCE>(uintptr_t{0x10000});
 
 TEST(Frame, ResourceModuleIsLoadedFromTheModulesFolder) {
-    const struct {
-        const wchar_t *module, *sibling;
-        bool loads;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, bool> cases[] = {
+        // module, sibling, whether it is loaded:
         // only the library in the module's folder is loaded, never one by its bare name
         {L"C:\\driver\\TELMAR_D.DLL", L"C:\\driver\\TELMAR_S.DLL", true},
         {L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_D.DLL", L"C:\\Dr\u00FCcker\\\u4E2D\\TELMAR_S.DLL", true},
@@ -22,21 +21,20 @@ TEST(Frame, ResourceModuleIsLoadedFromTheModulesFolder) {
         {L"C:\\a\\TELMAR_D.DLL", L"C:\\TELMAR_S.DLL", false},
         {L"C:\\a\\TELMAR_D.DLL", L"TELMAR_S.DLL", false},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
+    for (const auto& [module, sibling, loads] : cases) {
         win32::Reset();
-        win32::SetModuleFileName(c.module);
-        win32::RegisterLibrary(c.sibling);
+        win32::SetModuleFileName(module);
+        win32::RegisterLibrary(sibling);
         EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_ATTACH, nullptr), TRUE);
         EXPECT_EQ(ModuleInstance(), kInstance);
-        EXPECT_EQ(ResourceModule() != nullptr, c.loads);
+        EXPECT_EQ(ResourceModule() != nullptr, loads);
         const HMODULE loaded = ResourceModule();
         constexpr DWORD kOtherReasons[] = {DLL_THREAD_ATTACH, DLL_THREAD_DETACH, 17};
         for (const DWORD reason : kOtherReasons) {
             EXPECT_EQ(DllMain(nullptr, reason, nullptr), TRUE);
             EXPECT_EQ(ResourceModule(), loaded);
             EXPECT_EQ(ModuleInstance(), kInstance);
-            EXPECT_EQ(win32::Count().libraryReferences, c.loads ? 1 : 0);
+            EXPECT_EQ(win32::Count().libraryReferences, loads ? 1 : 0);
         }
         EXPECT_EQ(DllMain(kInstance, DLL_PROCESS_DETACH, nullptr), TRUE);
         EXPECT_EQ(ResourceModule(), nullptr);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <tuple>
 #include <winspool.h>
 
 namespace {
@@ -111,13 +112,8 @@ void ArrangeTransceiver(const Bytes& reply = Terminated(L"10.0.0.1"), DWORD stat
 
 TEST(PrinterAddress, FromTheRecord) {
     ArrangeTransceiver(); // which is not asked
-    const struct {
-        unsigned flag;
-        Bytes address;
-        UINT codePage;
-        DWORD bufferSize;
-        std::string expected;
-    } cases[] = {
+    const std::tuple<unsigned, Bytes, UINT, DWORD, std::string> cases[] = {
+        // flag, address, code page, size of the buffer, outcome
         // clang-format off
         {1, Terminated(L"192.168.10.2"), kLatin, 13, "yes 192.168.10.2"},
         {0x80, Terminated(L"192.168.10.2"), kLatin, 12, "no -, needs 13"},
@@ -127,10 +123,9 @@ TEST(PrinterAddress, FromTheRecord) {
         {1, Terminated(L"pr\u00FC"), kUtf8, 4, "no -, needs 5"},
         // clang-format on
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
-        win32::SetAnsiCodePage(c.codePage);
-        EXPECT_EQ(Ask(Record(c.flag, c.address), c.bufferSize), c.expected);
+    for (const auto& [flag, address, codePage, bufferSize, outcome] : cases) {
+        win32::SetAnsiCodePage(codePage);
+        EXPECT_EQ(Ask(Record(flag, address), bufferSize), outcome) << flag << ", " << bufferSize;
     }
     EXPECT_EQ(CallsOf("OpenPrinterW").size(), 0u);
     for (const unsigned conversion : {1u, 2u}) {
@@ -182,33 +177,26 @@ TEST(PrinterAddress, ATransceiversAnswerNeedsNoRegistry) {
 }
 
 TEST(PrinterAddress, TheSystemsVersionNamesTheTransceiver) {
-    const struct {
-        DWORD platformId, major;
-        std::string opened; // last
-    } cases[] = {
+    const std::tuple<DWORD, DWORD, std::string> cases[] = {
+        // platform, major version, the last printer that is opened
         // clang-format off
         {2, 10, "OpenPrinterW ,XcvPort IP_1 1"}, {2, 5, "OpenPrinterW ,XcvPort IP_1 1"},
         {2, 4, "OpenPrinterW (local) 1"}, {1, 5, "OpenPrinterW Lumora 0"},
         // clang-format on
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
+    for (const auto& [platform, major, opened] : cases) {
         ArrangeTransceiver();
         win32::RegisterTransceiver(nullptr, Terminated(L"10.0.0.1"));
-        win32::SetVersion(c.platformId, c.major);
-        EXPECT_EQ(Ask(kAskQueue), c.platformId == 2 ? kFromTransceiver : kFromRegistry);
-        EXPECT_EQ(CallsOf("OpenPrinterW").back(), c.opened);
+        win32::SetVersion(platform, major);
+        EXPECT_EQ(Ask(kAskQueue), platform == 2 ? kFromTransceiver : kFromRegistry) << platform << "." << major;
+        EXPECT_EQ(CallsOf("OpenPrinterW").back(), opened);
     }
 }
 
 // What a transceiver replies and what the registry holds are taken in the same way.
 TEST(PrinterAddress, TextsOfAnyShape) {
-    const struct {
-        Bytes octets;
-        UINT codePage;
-        DWORD bufferSize;
-        std::string expected;
-    } cases[] = {
+    const std::tuple<Bytes, UINT, DWORD, std::string> cases[] = {
+        // text, code page, size of the buffer, outcome
         // clang-format off
         {Terminated(L"10.0.0.3"), kLatin, 8, NoRoom(9)}, {Terminated(L"10.0.0.3"), kLatin, kNoBuffer, NoRoom(9)},
         {Octets(L"10.0.0.3"), kLatin, 9, Stored("10.0.0.3")}, // no terminator
@@ -218,15 +206,14 @@ TEST(PrinterAddress, TextsOfAnyShape) {
         {Xs(512), kLatin, 257, Stored(std::string(256, 'x'))}, {Xs(511), kLatin, 300, Stored(std::string(255, 'x'))},
         // clang-format on
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
-        ArrangeTransceiver(c.octets);
-        win32::SetAnsiCodePage(c.codePage);
-        EXPECT_EQ(Ask(kAskQueue, c.bufferSize), c.expected);
+    for (const auto& [text, codePage, bufferSize, outcome] : cases) {
+        ArrangeTransceiver(text);
+        win32::SetAnsiCodePage(codePage);
+        EXPECT_EQ(Ask(kAskQueue, bufferSize), outcome);
         Arrange();
-        win32::SetAnsiCodePage(c.codePage);
-        win32::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", c.octets);
-        EXPECT_EQ(Ask(kAskQueue, c.bufferSize), c.expected);
+        win32::SetAnsiCodePage(codePage);
+        win32::SetRegistryValue(MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress", text);
+        EXPECT_EQ(Ask(kAskQueue, bufferSize), outcome);
     }
 }
 
@@ -251,9 +238,8 @@ TEST(PrinterAddress, NoReplyLeadsToTheRegistryAndNoValueToTheNextMonitor) {
 }
 
 TEST(PrinterAddress, EveryPortMonitorInItsOrder) {
-    constexpr struct {
-        const wchar_t *key, *value;
-    } kMonitors[] = {
+    constexpr std::pair<const wchar_t*, const wchar_t*> kMonitors[] = {
+        // key, value
         {MONITORS L"Standard TCP/IP Port\\Ports\\IP_1", L"IPAddress"},
         {MONITORS L"Tarn Port\\Ports\\IP_1", L"IPAddress"},
         {MONITORS L"Vesper Port\\Ports\\IP_1", L"IPAddress"},
@@ -268,12 +254,12 @@ TEST(PrinterAddress, EveryPortMonitorInItsOrder) {
         win32::LetReleasesSetLastError(kReleases);
         win32::RegisterQueue({L"Lumora", L"IP_1"});
         for (unsigned i = 1; i <= 7; ++i) {
-            const auto& monitor = kMonitors[i - 1];
+            const auto& [key, value] = kMonitors[i - 1];
             const BYTE digit = static_cast<BYTE>('0' + i);
             if (i % 2 == 0)
-                win32::SetRegistryValue(monitor.key, L"HostName", Terminated(L"other"));
+                win32::SetRegistryValue(key, L"HostName", Terminated(L"other"));
             if (i >= first)
-                win32::SetRegistryValue(monitor.key, monitor.value, {digit, 0});
+                win32::SetRegistryValue(key, value, {digit, 0});
         }
         // The transceiver, which can't be opened, is the last that leaves an error.
         EXPECT_EQ(Ask(kAskQueue), first < 8 ? Stored(std::to_string(first)) : Refused(1801));
@@ -296,10 +282,7 @@ TEST(PrinterAddress, LongPortNames) {
 }
 
 TEST(PrinterAddress, QueuesThatLackSomething) {
-    const struct {
-        win32::Queue queue;
-        std::string expected;
-    } cases[] = {
+    const std::pair<win32::Queue, std::string> cases[] = {
         {{L"Other", L"IP_1"}, Refused(1801)},
         {{L"Lumora", nullptr}, Refused(122)},       // which the question for the size has left
         {{L"Lumora", L""}, Refused(1801)},          // by the print server: the name is asked as it is
@@ -308,10 +291,9 @@ TEST(PrinterAddress, QueuesThatLackSomething) {
         {{L"Lumora", L"IP_1", 144}, kFromRegistry}, // no terminator
         {{L"Lumora", L"IP_10", 145}, kFromRegistry},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
-        Arrange(c.queue);
-        EXPECT_EQ(Ask(kAskQueue), c.expected);
+    for (const auto& [queue, outcome] : cases) {
+        Arrange(queue);
+        EXPECT_EQ(Ask(kAskQueue), outcome);
     }
 }
 

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <gtest/gtest.h>
+#include <tuple>
 
 using namespace scripted_bdc;
 
@@ -159,17 +160,14 @@ TEST_F(BdcStatus, OrderAndArgumentsOfTheFill) {
 
 // Version, communication and name are all that it takes to know whether a device answers.
 TEST_F(BdcStatus, IsCommunicateDeviceAsksInOrderUntilOneFails) {
-    const struct {
-        Answer& answer;
-        bool oneFails;
-    } calls[] = {{script.version, false}, {script.device.communication, true}, {script.device.name, true}};
+    Answer* const calls[] = {&script.version, &script.device.communication, &script.device.name};
     const Words all = Fill();
     for (size_t i = 0; i < 3; ++i)
         for (const int32_t status : {INT32_MIN, -1, 0, 1, 2}) {
             SCOPED_TRACE(all[i] + ", status " + std::to_string(status));
-            const bool fails = status < 0 || (status == 1 && calls[i].oneFails);
+            const bool fails = status < 0 || (status == 1 && i > 0);
             script.calls.clear();
-            calls[i].answer.status = status;
+            calls[i]->status = status;
             int32_t model = 77;
             EXPECT_EQ(DDProc_IsCommunicateDevice(kAgent, &model), fails ? FALSE : TRUE);
             EXPECT_EQ(model, fails ? 0 : 1);
@@ -177,7 +175,7 @@ TEST_F(BdcStatus, IsCommunicateDeviceAsksInOrderUntilOneFails) {
             EXPECT_EQ(DDProc_IsCommunicateDevice(kAgent, nullptr), fails ? FALSE : TRUE);
             EXPECT_EQ(win32::Count().libraryReferences, 0);
             EXPECT_EQ(Option("OpMachine"), fails && i == 2 ? "refused" : "OpMachine1");
-            calls[i].answer.status = 0;
+            calls[i]->status = 0;
         }
 }
 
@@ -187,14 +185,9 @@ TEST_F(BdcStatus, EachFailureLeavesItsPartEmptyAndStopsNothing) {
     BdcList BdcDeviceContext::*const filled[] = {&BdcDeviceContext::firmware,    &BdcDeviceContext::memory,
                                                  &BdcDeviceContext::options,     &BdcDeviceContext::inputTrays,
                                                  &BdcDeviceContext::outputTrays, &BdcDeviceContext::finishers};
-    const struct {
-        int32_t firstStatus;
-        std::optional<uint32_t> firstCount;
-        int32_t status;
-        std::optional<uint32_t> count;
-        uint32_t fetched;
-        long callsSaved;
-    } cases[] = {
+    using Count = std::optional<uint32_t>;
+    const std::tuple<int32_t, Count, int32_t, Count, uint32_t, size_t> cases[] = {
+        // status and count of the first call, of the second; items fetched, calls saved
         // clang-format off
         {1, {}, 0, {}, 2, 0}, {2, {}, 2, {}, 2, 0}, {-1, {}, 0, {}, 0, 1}, // the first call may answer 1
         {0, 0, 0, {}, 0, 1}, {0, {}, 1, {}, 0, 0}, {0, {}, -1, {}, 0, 0}, {0, 1, 0, {}, 1, 0},
@@ -203,24 +196,24 @@ TEST_F(BdcStatus, EachFailureLeavesItsPartEmptyAndStopsNothing) {
         // clang-format on
     };
     for (size_t i = 0; i < 6; ++i)
-        for (const auto& c : cases) {
-            SCOPED_TRACE("list " + std::to_string(i) + ", case " + std::to_string(&c - cases));
+        for (const auto& [firstStatus, firstCount, status, count, fetched, callsSaved] : cases) {
+            SCOPED_TRACE(testing::Message() << "list " << i << ", statuses " << firstStatus << ", " << status);
             script = {};
             ListAnswer& list = script.device.*lists[i];
             list.items.bytes.assign(2 * list.itemSize, 0x5A);
-            list.firstStatus = c.firstStatus;
-            list.firstCount = c.firstCount;
-            list.status = c.status;
-            list.count = c.count;
+            list.firstStatus = firstStatus;
+            list.firstCount = firstCount;
+            list.status = status;
+            list.count = count;
             const Context context = Filled();
             ASSERT_NE(context, nullptr);
             const BdcList& got = (*context).*filled[i];
-            ASSERT_EQ(got.items != nullptr, c.fetched > 0);
-            list.items.bytes.resize(c.fetched * list.itemSize);
-            EXPECT_EQ(c.fetched > 0 ? Differences(got.items, list.items) : "", "");
-            EXPECT_EQ(script.calls.size(), Fill().size() - static_cast<size_t>(c.callsSaved));
+            ASSERT_EQ(got.items != nullptr, fetched > 0);
+            list.items.bytes.resize(fetched * list.itemSize);
+            EXPECT_EQ(fetched > 0 ? Differences(got.items, list.items) : "", "");
+            EXPECT_EQ(script.calls.size(), Fill().size() - callsSaved);
             for (size_t other = 0; other < 6; ++other)
-                EXPECT_EQ(((*context).*filled[other]).count, other == i ? c.fetched : 1u);
+                EXPECT_EQ(((*context).*filled[other]).count, other == i ? fetched : 1u);
             EXPECT_EQ(context->lastState, kStateAfter);
         }
 }
