@@ -145,11 +145,9 @@ TEST(PrinterQueries, AnyAnswerIsAccess) {
 TEST(PrinterQueries, ObjectsMatchByTheirKindOfComparison) {
     const std::string x255(255, 'x');
     const Answer none = Failing(kRequestError);
-    const struct {
-        int32_t kind;
-        const char* expected;
-        std::vector<Answer> matching, others;
-    } cases[] = {
+    using Answers = std::vector<Answer>;
+    const std::tuple<int32_t, const char*, Answers, Answers> cases[] = {
+        // kind, expected text, answers that match, others
         // clang-format off
         {0, "5", {kNull, Number(6), kNull.With(0, 7)},
          {Number(5).With(2, 0), Number(5).With(0x100, 0), Number(5).With(0x10000, 0),
@@ -171,28 +169,28 @@ TEST(PrinterQueries, ObjectsMatchByTheirKindOfComparison) {
         {3, "1..3", {}, {Oid({1, 3}), Oid({1, 0, 3})}}, {3, "1.3x", {}, {Oid({1, 3})}},
         {3, "1.-3", {}, {Oid({1, 3}), Oid({1, static_cast<UINT>(-3)})}},
         {3, "1.4294967295", {Oid({1, UINT_MAX})}, {}}, {3, "1.18446744073709551617", {}, {Oid({1, 1})}},
+        {3, "1.4294967297", {}, {Oid({1, 1})}},
         {4, "640", {}, {Number(640)}}, {-1, "640", {}, {Number(640)}}, {256, "", {}, {kNull}},
         // clang-format on
     };
-    const auto expectMatch = [](ModelCheckInfo& check, const Answer& answer, BOOL matches) {
-        ScriptedDevice device;
-        device.answers[kMemory] = device.answers[kHardDisk] = answer;
-        for (const std::string& object : {kMemory, kHardDisk}) { // a reply in another list, and one in place
-            CopyText(check.oid, object.c_str());
-            EXPECT_EQ(CheckModel(check, kAgent), matches);
-        }
-        EXPECT_EQ(device.asked, Texts({kMemory, kHardDisk}));
-        EXPECT_EQ(device.sessions, Texts(2, "192.0.2.7 tovask 2000 3"));
-    };
-    for (const auto& c : cases) {
-        ModelCheckInfo check = {1, {}, c.kind, {}};
-        CopyText(check.expected, c.expected);
-        for (const auto* answers : {&c.matching, &c.others})
-            for (const Answer& answer : *answers) {
-                SCOPED_TRACE(std::to_string(c.kind) + " " + c.expected + " "
-                             + std::to_string(&answer - answers->data()));
-                expectMatch(check, answer, answers == &c.matching);
+    const auto expect = [](ModelCheckInfo& check, const Answers& answers, BOOL matches) {
+        for (const Answer& answer : answers) {
+            SCOPED_TRACE(testing::Message() << check.comparison << ", " << check.expected << ", type " << +answer.type);
+            ScriptedDevice device;
+            device.answers[kMemory] = device.answers[kHardDisk] = answer;
+            for (const std::string& object : {kMemory, kHardDisk}) { // a reply in another list, and one in place
+                CopyText(check.oid, object.c_str());
+                EXPECT_EQ(CheckModel(check, kAgent), matches);
             }
+            EXPECT_EQ(device.asked, Texts({kMemory, kHardDisk}));
+            EXPECT_EQ(device.sessions, Texts(2, "192.0.2.7 tovask 2000 3"));
+        }
+    };
+    for (const auto& [kind, expected, matching, others] : cases) {
+        ModelCheckInfo check = {1, {}, kind, {}};
+        CopyText(check.expected, expected);
+        expect(check, matching, TRUE);
+        expect(check, others, FALSE);
     }
 }
 

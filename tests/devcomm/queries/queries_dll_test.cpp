@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace {
@@ -96,12 +97,8 @@ TEST_F(Query, NetSnmpAgent) {
 // A query without a usable answer fails, with the reason as the last error; nothing crashes or hangs. Other
 // faults change nothing.
 TEST_F(Query, Faults) {
-    const struct {
-        const char* agent;
-        bool reached;
-        const char* tray;
-        DWORD lastError; // of a profile request; 0: it succeeds
-    } cases[] = {
+    const std::tuple<const char*, bool, const char*, DWORD> cases[] = {
+        // agent, whether it is reached, option, last error of a profile request; 0: it succeeds
         {"127.0.161.10", false, "", kNoAnswer},      // unresponsive
         {"127.0.161.11", true, "EnaOpInTray1", 0},   // answers the third attempt
         {"127.0.161.12", true, "EnaOpInTray1", 0},   // three answers to other requests first
@@ -114,12 +111,12 @@ TEST_F(Query, Faults) {
         {"127.0.161.19", true, "EnaOpInTray1", 0},   // Counter where INTEGER is due
         {"127.0.161.20", true, "EnaOpInTray1", 0},   // everything twice
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.agent);
-        EXPECT_EQ(EXPORT(MIB_IsAccessOK)(c.agent) != FALSE, c.reached);
-        EXPECT_EQ(Options(c.agent, {"OpInTray1", "OpManualFeed"}), Words({c.tray, "EnaOpManualFeed"}));
-        TelmarProfileInfo* profiles = EXPORT(MIB_ProfileRequest)(c.agent);
-        EXPECT_TRUE(c.lastError == 0 ? profiles != nullptr : profiles == nullptr && GetLastError() == c.lastError);
+    for (const auto& [agent, isReached, tray, lastError] : cases) {
+        SCOPED_TRACE(agent);
+        EXPECT_EQ(EXPORT(MIB_IsAccessOK)(agent) != FALSE, isReached);
+        EXPECT_EQ(Options(agent, {"OpInTray1", "OpManualFeed"}), Words({tray, "EnaOpManualFeed"}));
+        TelmarProfileInfo* profiles = EXPORT(MIB_ProfileRequest)(agent);
+        EXPECT_TRUE(lastError == 0 ? profiles != nullptr : profiles == nullptr && GetLastError() == lastError);
         EXPORT(MIB_FreeProfileInfo)(profiles);
     }
     EXPECT_EQ(Options("127.0.161.19", {"OpMemory"}), Words({"512MB"})) << "of any type of number";

@@ -4,15 +4,12 @@
 #include "simprinter/recording.h"
 
 #include <gtest/gtest.h>
+#include <tuple>
 
 namespace {
 
-// One object's value, as each format writes it.
-const struct {
-    const char* snmprec; // after the name
-    const char* walk;
-    Value value;
-} kValues[] = {
+// Values in the text of each format, without the name, and as they are read.
+const std::tuple<const char*, const char*, Value> kValues[] = {
     {"2|-7", "INTEGER: -7", NumberValue(-7)},
     {"2|2147483647", "INTEGER: 2147483647", NumberValue(2147483647)},
     {"2|3", "INTEGER: idle(3)", NumberValue(3)},
@@ -43,9 +40,10 @@ TEST(Recording, BothFormatsGiveTheSameValues) {
     ObjectMap expected;
     for (size_t i = std::size(kValues); i-- > 0;) { // in reverse: the objects are sorted
         const std::string name = "1.3.6.1." + std::to_string(i) + ".0";
-        snmprec += name + '|' + kValues[i].snmprec + '\n';
-        walk += '.' + name + " = " + kValues[i].walk + '\n';
-        expected[{1, 3, 6, 1, static_cast<uint32_t>(i), 0}] = kValues[i].value;
+        const auto& [recorded, walked, value] = kValues[i];
+        snmprec += name + '|' + recorded + '\n';
+        walk += '.' + name + " = " + walked + '\n';
+        expected[{1, 3, 6, 1, static_cast<uint32_t>(i), 0}] = value;
     }
     for (const char c : snmprec)
         crlf += c == '\n' ? "\r\n" : std::string(1, c);
@@ -89,7 +87,7 @@ TEST(Recording, EveryFindingHasItsLine) {
 TEST(Recording, WalkOfAReplayedWalkIsTheSame) {
     std::string snmprec;
     for (size_t i = 0; i < std::size(kValues); ++i)
-        snmprec += "1.3.6.1.9." + std::to_string(i) + ".0|" + kValues[i].snmprec + '\n';
+        snmprec += "1.3.6.1.9." + std::to_string(i) + ".0|" + std::get<0>(kValues[i]) + '\n';
     const TemporaryFolder folder;
     const RunningPrinter first("--replay " + folder.File("one.snmprec", snmprec));
     const CommandResult walk = first.Ask("snmpwalk", ".1");
