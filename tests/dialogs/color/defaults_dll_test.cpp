@@ -41,27 +41,25 @@ TEST_F(Defaults, StoredOnesAreUsedAtTheirFullLengthOnly) {
 }
 
 TEST_F(Defaults, BuiltInOnesHaveThePaperAndUnitsOfTheRegion) {
-    const struct {
-        const wchar_t *country, *measure;
-        bool isLetter, isInches;
-    } cases[] = {
+    const std::tuple<const wchar_t*, const wchar_t*, bool, bool> kRegions[] = {
+        // country, measure; letter, inches
         {L"1", L"1", true, true},    {L"81", L"0", false, false}, {L"2", L"0", true, false},
         {L"", L"1", false, true},    {L"1", L"", true, false},    {L"12", L"11", false, false},
         {L"02", L"01", true, false}, {L"21", L"2", false, false},
     };
     Open();
-    for (const auto& row : cases) {
-        SCOPED_TRACE(testing::Message() << "row " << &row - cases);
-        country = row.country;
-        measure = row.measure;
+    for (const auto& [countryCode, measureCode, isLetter, isInches] : kRegions) {
+        country = countryCode;
+        measure = measureCode;
+        SCOPED_TRACE(testing::PrintToString(country + L", " + measure));
         Command(IDC_DEFAULTS);
-        const std::vector<int> wanted = row.isLetter ? std::vector{1, 2159, 2794, 43, 43, 43, 43, 1}
-                                                     : std::vector{9, 2100, 2970, 43, 43, 43, 43, 9};
+        const std::vector<int> wanted =
+            isLetter ? std::vector{1, 2159, 2794, 43, 43, 43, 43, 1} : std::vector{9, 2100, 2970, 43, 43, 43, 43, 9};
         std::vector<int> got;
         for (const size_t offset : {66, 68, 70, 72, 74, 76, 78, 96})
             got.push_back(NumberAt<uint16_t>(scratch.bytes.data(), offset));
         EXPECT_EQ(got, wanted);
-        EXPECT_EQ(NumberAt<uint32_t>(scratch.bytes.data(), 116), row.isInches ? 0x01010101u : 0u);
+        EXPECT_EQ(NumberAt<uint32_t>(scratch.bytes.data(), 116), isInches ? 0x01010101u : 0u);
     }
 }
 

@@ -32,19 +32,16 @@ TEST_F(FullDialog, DestinationsWithoutTheAutomaticOne) {
 
 TEST_F(FullDialog, ListsEndWhereMemoryRunsOut) {
     Open();
-    const struct {
-        int allocation, entry; // that fails
-        std::string rgbSources, destinations;
-    } cases[] = {{3, 0, kRgb, "Automatic=0"},
-                 {4, 0, kRgb, "Automatic=0|Press A Built in=128"},
-                 {0, 3, "Device RGB=0|sRGB=1", kDestinations},
-                 {0, 17, kBuiltInRgb, kDestinations}};
-    for (const auto& row : cases) {
-        failingAllocation = row.allocation;
-        failingEntry = row.entry;
+    for (const auto& [allocation, entry, sources, outputs] : // the one that fails; what is listed
+         {std::tuple(3, 0, kRgb, std::string("Automatic=0")),
+          {4, 0, kRgb, "Automatic=0|Press A Built in=128"},
+          {0, 3, "Device RGB=0|sRGB=1", kDestinations},
+          {0, 17, kBuiltInRgb, kDestinations}}) {
+        failingAllocation = allocation;
+        failingEntry = entry;
         Deliver(WM_USER + 100);
-        EXPECT_EQ(Entries(1504), row.rgbSources);
-        EXPECT_EQ(Entries(1599), row.destinations);
+        EXPECT_EQ(Entries(1504), sources);
+        EXPECT_EQ(Entries(1599), outputs);
         EXPECT_EQ(Entries(1509), kRgb);
     }
 }
@@ -67,18 +64,16 @@ TEST_F(FullDialog, TextsThatFillTheirFieldsStayInThem) {
 
 // The printer can lose profiles while the lists show them. Nothing beyond the end of a list is read.
 TEST_F(FullDialog, ProfilesThatAreGoneAreNotRead) {
-    const struct {
-        int list, entry;
-        size_t field, record;
-    } cases[] = {{1504, 17, 2514, 2688}, {1599, 2, 3026, 3198}, {1592, 2, 3024, 3030}, {1524, 7, 2166, 2168}};
+    constexpr int kCases[][4] = {
+        {1504, 17, 2514, 2688}, {1599, 2, 3026, 3198}, {1592, 2, 3024, 3030}, {1524, 7, 2166, 2168}};
     Open();
     lists.rgbSources.count = lists.destinations.count = lists.simulations.count = 1;
     RawBytes wanted = settings;
-    for (const auto& row : cases) {
-        Choose(row.list, row.entry);
-        const uint16_t value = NumberAt<uint16_t>(settings.bytes.data(), row.field);
+    for (const auto& [list, entry, field, record] : kCases) {
+        Choose(list, entry);
+        const uint16_t value = NumberAt<uint16_t>(settings.bytes.data(), field);
         EXPECT_NE(value, 128) << "the value of a profile without its record";
-        PutRecord(wanted.U16(row.field, value), row.record, kNone);
+        PutRecord(wanted.U16(field, value), record, kNone);
     }
     Expect(wanted);
     context.profiles = nullptr;
@@ -101,11 +96,7 @@ TEST_F(FullDialog, AnswersWithoutAContext) {
     EXPECT_EQ(initAnswer, (Answer{0, 1}));
     EXPECT_EQ(Entries(1524), kSimuItems);
     EXPECT_TRUE(IsWindowEnabled(Control(1354)));
-    const struct {
-        UINT message;
-        WPARAM wParam;
-        Answer answer;
-    } cases[] = {
+    const std::tuple<UINT, WPARAM, Answer> cases[] = {
         {WM_COMMAND, Chosen(1504), {1, 1}}, {WM_COMMAND, Chosen(1592), {0, 1}},
         {WM_COMMAND, Chosen(1524), {0, 1}}, {WM_COMMAND, kBox, {0, 1}},
         {WM_COMMAND, 1032, {0, 1}},         {WM_COMMAND, 1393, {1, kUntouched}},
@@ -113,9 +104,9 @@ TEST_F(FullDialog, AnswersWithoutAContext) {
         {WM_USER + 100, 0, {1, 1}},         {WM_ACTIVATE, WA_ACTIVE, {0, kUntouched}},
         {WM_CLOSE, 0, {0, kUntouched}},     {WM_DESTROY, 0, {0, 1}},
     };
-    for (const auto& row : cases) {
-        EXPECT_EQ(Deliver(row.message, row.wParam), row.answer) << row.message;
-        EXPECT_EQ(DeliverTo(128, window, row.message, row.wParam, 0, false), (Answer{row.answer.first, kUntouched}));
+    for (const auto& [message, wParam, answer] : cases) {
+        EXPECT_EQ(Deliver(message, wParam), answer) << message;
+        EXPECT_EQ(DeliverTo(128, window, message, wParam, 0, false), (Answer{answer.first, kUntouched}));
     }
     Expect(OfferedSettings(dialog));
     EXPECT_EQ(uiFrees, 1) << "freed once";

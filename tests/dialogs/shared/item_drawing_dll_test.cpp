@@ -24,10 +24,8 @@ struct DialogDrawing : ColorDriver, Pictures {
 struct Drawing : testing::Test, DialogDrawing {};
 
 TEST_F(Drawing, BackgroundAndTextByState) {
-    const struct {
-        UINT type, state;
-        int background, text;
-    } cases[] = {
+    const std::tuple<UINT, UINT, int, int> kCases[] = {
+        // type, state; background, text
         {ODT_COMBOBOX, 0, COLOR_WINDOW, COLOR_WINDOWTEXT},
         {ODT_COMBOBOX, ODS_SELECTED, COLOR_HIGHLIGHT, COLOR_HIGHLIGHTTEXT},
         {ODT_COMBOBOX, ODS_DISABLED, COLOR_BTNFACE, COLOR_GRAYTEXT},
@@ -41,16 +39,16 @@ TEST_F(Drawing, BackgroundAndTextByState) {
     for (const int color : {COLOR_WINDOW, COLOR_HIGHLIGHT, COLOR_BTNFACE, COLOR_INACTIVECAPTION})
         colors.insert(GetSysColor(color));
     ASSERT_EQ(colors.size(), 4u);
-    for (const auto& row : cases)
+    for (const auto& [type, state, background, textColor] : kCases)
         for (const UINT edit : {0u, UINT{ODS_COMBOBOXEDIT}})
             for (const UINT action : {ODA_DRAWENTIRE, ODA_SELECT, ODA_SELECT | ODA_FOCUS, ODA_FOCUS}) {
-                SCOPED_TRACE(testing::Message() << row.type << " " << row.state << " " << edit << " " << action);
-                DRAWITEMSTRUCT item = Item(1353, 2, action, row.state | edit);
-                item.CtlType = row.type;
+                SCOPED_TRACE(testing::Message() << type << " " << state << " " << edit << " " << action);
+                DRAWITEMSTRUCT item = Item(1353, 2, action, state | edit);
+                item.CtlType = type;
                 EXPECT_EQ(Draw(item), (Answer{1, 1}));
                 if (action != ODA_FOCUS) {
-                    WantBackground(row.background);
-                    WantText(L"Proof", edit != 0 ? 0 : 20, row.text);
+                    WantBackground(background);
+                    WantText(L"Proof", edit != 0 ? 0 : 20, textColor);
                 }
                 if ((action & ODA_FOCUS) != 0)
                     WantFocus();
@@ -59,25 +57,23 @@ TEST_F(Drawing, BackgroundAndTextByState) {
 }
 
 TEST_F(Drawing, TextFollowsTheItemData) {
-    const struct {
-        int list;
-        LONG_PTR data;
-        std::wstring text;
-    } cases[] = {{1504, 1, L"sRGB"},
-                 {1509, 256, L"Camera Hard disk"},
-                 {1513, 257, L"Scanner (Office) Memory"},
-                 {1504, 258, L""},
-                 {1504, -1, L""},
-                 {1524, 5, L"DIC"},
-                 {1584, 129, L"Press B (Coated) Built in, hard disk"},
-                 {1524, 129, L"Sim B (Q) "},
-                 {1524, 6, L""},
-                 {1354, 128, L""}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(testing::Message() << row.list << ", data " << row.data);
-        Draw(Item(row.list, static_cast<ULONG_PTR>(row.data), ODA_DRAWENTIRE, 0));
+    const std::tuple<int, LONG_PTR, std::wstring> kCases[] = {
+        {1504, 1, L"sRGB"},
+        {1509, 256, L"Camera Hard disk"},
+        {1513, 257, L"Scanner (Office) Memory"},
+        {1504, 258, L""},
+        {1504, -1, L""},
+        {1524, 5, L"DIC"},
+        {1524, 129, L"Sim B (Q) "},
+        {1524, 6, L""},
+        {1584, 129, L"Press B (Coated) Built in, hard disk"},
+        {1354, 128, L""},
+    };
+    for (const auto& [list, data, text] : kCases) {
+        SCOPED_TRACE(testing::Message() << list << ", data " << data);
+        Draw(Item(list, static_cast<ULONG_PTR>(data), ODA_DRAWENTIRE, 0));
         WantBackground(COLOR_WINDOW);
-        WantText(row.text, 20, COLOR_WINDOWTEXT);
+        WantText(text, 20, COLOR_WINDOWTEXT);
         EXPECT_TRUE(SamePicture(got, wanted));
     }
     failingAllocation = 1;
