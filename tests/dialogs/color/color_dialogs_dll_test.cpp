@@ -47,16 +47,8 @@ const OfferedList kLists[] = {
 };
 
 // A stored choice -> what it becomes when the dialog opens, and which entry shows it.
-struct Stored {
-    uint32_t dialog;
-    int list, field, value;
-    uint16_t record;
-    const wchar_t* name; // of the profile in the record
-    uint16_t becomes;
-    const wchar_t* text; // in the record afterwards; null: the record stays
-    int selection;
-};
-const Stored kStored[] = {
+const std::tuple<uint32_t, int, int, int, uint16_t, const wchar_t*, uint16_t, const wchar_t*, int> kStored[] = {
+    // dialog, list, field, value, record of a profile, its name; the value and the record (null: it stays), the entry
     {128, 1504, 2514, 258,    2688, L"Scanner", 0,      L"Device RGB", 0},
     {128, 1509, 2516, 0xFFFF, 2520, L"Camera",  0,      L"Device RGB", 0},
     {128, 1513, 2518, 0x8100, 2856, L"Camera",  0,      L"Device RGB", 0}, // negative
@@ -285,21 +277,21 @@ TEST_P(ColorDialogs, DefaultsCopyTheirFieldsOnly) {
 
 TEST_P(ColorDialogs, ChoicesThatAreNotOfferedBecomeTheFirst) {
     destinations.Append(kPressB);
-    for (const Stored& row : kStored) {
-        if (row.dialog != dialog.id)
+    for (const auto& [id, list, field, value, record, name, becomes, text, selection] : kStored) {
+        if (id != dialog.id)
             continue;
-        SCOPED_TRACE(testing::Message() << row.list << ", value " << row.value << ", row " << &row - kStored);
-        settings = OfferedSettings(dialog).U16(row.field, row.value);
-        if (row.name != nullptr)
-            settings.Wide(row.record + 82, row.name).U16(row.record + 82 + 2 * wcslen(row.name), 0);
+        SCOPED_TRACE(testing::Message() << list << ", value " << value);
+        settings = OfferedSettings(dialog).U16(field, value);
+        if (name != nullptr)
+            settings.Wide(record + 82, name).U16(record + 82 + 2 * wcslen(name), 0);
         const RawBytes stored = settings;
         RawBytes wanted = stored;
-        wanted.U16(row.field, row.becomes);
-        if (row.text != nullptr)
-            PutRecord(wanted, row.record, Profile(row.text, L"", 0));
+        wanted.U16(field, becomes);
+        if (text != nullptr)
+            PutRecord(wanted, record, Profile(text, L"", 0));
         events.clear();
         Open();
-        EXPECT_EQ(Shown(row.list), row.selection);
+        EXPECT_EQ(Shown(list), selection);
         Expect(wanted);
         EXPECT_EQ(Differences(saveArea.bytes.data(), stored), "");
         EXPECT_EQ(Events({"DoConstraints"}), "DoConstraints 0\n");
@@ -378,14 +370,14 @@ TEST_P(ColorDialogs, LeaveNothingBehind) {
     const int rounds = Rounds(20, 200);
     for (int i = 0; i < rounds; ++i) {
         Open();
-        ShowWindow(window, i % 20 < 4 ? SW_SHOWNOACTIVATE : SW_HIDE); // showing takes long
+        ShowWindow(window, i % 10 < 2 ? SW_SHOWNOACTIVATE : SW_HIDE); // showing takes long
         UpdateWindow(window);
         Choose(kText, 1);
         Choose(1524, 0);
         Choose(kBox, 1); // refused, with a hint and a stop sign
         Command(IDC_DEFAULTS);
         Close();
-        if (i == 3)
+        if (i == 1)
             before = CountLiveObjects();
     }
     EXPECT_EQ(CountLiveObjects(), *before);
