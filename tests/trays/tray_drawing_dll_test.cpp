@@ -55,21 +55,17 @@ struct RowDrawing : testing::Test, Trays, Pictures {
 
 TEST_F(RowDrawing, ColorsTextsAndIcons) {
     const COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT), face = GetSysColor(COLOR_BTNFACE);
-    const struct {
-        int row;
-        UINT state;
-        COLORREF background;
-        int text, icon;
-    } cases[] = {
+    const std::tuple<int, UINT, COLORREF, int, int> kCases[] = {
+        // row, state; background, text, icon
         {0, 0, 0xC0FFC0, COLOR_WINDOWTEXT, 0},      {1, 0, 0xC0FFC0, COLOR_WINDOWTEXT, 1},
         {2, 0, 0xC0FFC0, COLOR_WINDOWTEXT, 1},      {0, ODS_SELECTED, highlight, COLOR_HIGHLIGHTTEXT, 0},
         {1, ODS_DISABLED, face, COLOR_GRAYTEXT, 1}, {1, ODS_DISABLED | ODS_SELECTED, face, COLOR_GRAYTEXT, 1},
     };
     List(LVM_SETTEXTBKCOLOR, 0, 0xC0FFC0);
-    for (const auto& row : cases) {
-        SCOPED_TRACE(&row - cases);
-        Draw(row.row, row.state);
-        WantRow(row.row, row.background, row.text, row.icon);
+    for (const auto& [row, state, background, textColor, icon] : kCases) {
+        SCOPED_TRACE(testing::Message() << row << ", state " << state);
+        Draw(row, state);
+        WantRow(row, background, textColor, icon);
         EXPECT_TRUE(SamePicture(got, wanted));
     }
     for (const COLORREF none : {COLORREF{CLR_NONE}, COLORREF{CLR_DEFAULT}, COLORREF{0x01000000}}) {

@@ -57,10 +57,7 @@ struct Caller {
 
 TEST(Capabilities, BinsFollowTheInstalledOptions) {
     const std::vector<uint16_t> all = {257, 258, 259, 4}, no2 = {257, 259, 4};
-    const struct {
-        const char* features;
-        std::vector<uint16_t> bins;
-    } cases[] = {
+    const std::pair<const char*, std::vector<uint16_t>> cases[] = {
         {"", all},
         {"Paper:0:A4 OpInTray2:1:DisOpInTray2,EnaOpInTray2", all},
         {"Paper:1:A4,A3 OpInTray2:0:DisOpInTray2,EnaOpInTray2", no2},
@@ -72,13 +69,13 @@ TEST(Capabilities, BinsFollowTheInstalledOptions) {
         {"OpInTray2:1:EnaOpInTray2", no2},                       // names no item
         {"OpInTray2:-1:EnaOpInTray2", no2},
     };
-    for (const auto& c : cases) {
-        const Caller caller(c.features);
-        std::vector<uint16_t> bins(c.bins.size() + 2, 0xEEEE), expected = c.bins;
+    for (const auto& [features, wanted] : cases) {
+        const Caller caller(features);
+        std::vector<uint16_t> bins(wanted.size() + 2, 0xEEEE), expected = wanted;
         expected.resize(bins.size(), 0xEEEE);
         for (const Answer& answer : {caller.Ask(6, bins.data()), caller.Ask(6), caller.Ask(12)})
-            EXPECT_EQ(answer, Answer(TRUE, c.bins.size())) << c.features;
-        EXPECT_EQ(bins, expected) << c.features;
+            EXPECT_EQ(answer, Answer(TRUE, wanted.size())) << features;
+        EXPECT_EQ(bins, expected) << features;
     }
 }
 
