@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <map>
+#include <set>
+#include <tuple>
 
 namespace {
 
@@ -29,22 +31,21 @@ void Write(HDC dc, POINT place, const std::wstring& caption, bool hasNoFont, int
     DeleteObject(font);
 }
 
+// The first row with the output unit and any of its flags decides.
+// clang-format off
+const std::tuple<std::set<int>, uint32_t, UINT> kOutputHighlights[] = {
+    {{3},       1 << 2,          145}, {{3},       1 << 1,          141}, // 143 on a printer's body
+    {{0, 1, 2}, 1 << 6,          159}, {{0, 1, 2}, 1 << 7,          161},
+    {{0, 1, 2}, 1 << 8,          163}, {{0, 1, 2}, 1 << 9,          165},
+    {{0, 1, 2}, 1 << 1 | 1 << 4, 151}, {{0, 1, 2}, 1 << 3,          155},
+    {{1},       1 << 2 | 1 << 5, 155}, {{2},       1 << 2 | 1 << 5, 153},
+};
+// clang-format on
+
 UINT OutputHighlight(const Choice& choice) {
-    const auto flag = [&](int n) { return (choice.flags >> n & 1) != 0; };
-    const int unit = choice.outputUnit;
-    if (unit == 4)
-        return 0;
-    if (unit == 3)
-        return flag(2) ? 145 : !flag(1) ? 0 : choice.printerBody == 1 ? 143 : 141;
-    for (int bin = 6; bin <= 9; ++bin)
-        if (flag(bin))
-            return 159 + 2 * static_cast<UINT>(bin - 6);
-    if (flag(1) || flag(4))
-        return 151;
-    if (flag(3))
-        return 155;
-    if (flag(2) || flag(5))
-        return unit == 1 ? 155 : unit == 2 ? 153 : 0;
+    for (const auto& [units, flags, bitmap] : kOutputHighlights)
+        if (units.count(choice.outputUnit) != 0 && (choice.flags & flags) != 0)
+            return bitmap == 141 && choice.printerBody == 1 ? 143 : bitmap;
     return 0;
 }
 
@@ -83,14 +84,12 @@ void ViewRecords::Choose(const Choice& choice) {
 
 std::vector<Feature> UnitFeatures(const std::vector<Feature>& more) {
     std::vector<Feature> list = {
-        {"OpBody", {"OpBodyCopier", "OpBodyPrinter"}, {}},
-        {"OpInTrayUnit", {"DisOpInTrayUnit", "OpInTrayUnit1", "OpInTrayUnit2"}, {}},
-        {"OpOutTrayUnit",
-         {"DisOpOutTrayUnit", "OpOutTrayUnit1", "OpOutTrayUnit2", "OpOutTrayUnit3", "OpOutTrayUnit4"},
-         {}},
-        {"OpHDD", {"DisOpHDD", "EnaOpHDD"}, {}},
-        {"OpMailBinKit", {"DisOpMailBinKit", "EnaOpMailBinKit"}, {}},
-        {"OpSaddleKit", {"DisSaddleKit", "EnaSaddleKit"}, {}},
+        {"OpBody", {"OpBodyCopier", "OpBodyPrinter"}},
+        {"OpInTrayUnit", {"DisOpInTrayUnit", "OpInTrayUnit1", "OpInTrayUnit2"}},
+        {"OpOutTrayUnit", {"DisOpOutTrayUnit", "OpOutTrayUnit1", "OpOutTrayUnit2", "OpOutTrayUnit3", "OpOutTrayUnit4"}},
+        {"OpHDD", {"DisOpHDD", "EnaOpHDD"}},
+        {"OpMailBinKit", {"DisOpMailBinKit", "EnaOpMailBinKit"}},
+        {"OpSaddleKit", {"DisSaddleKit", "EnaSaddleKit"}},
     };
     list.insert(list.end(), more.begin(), more.end());
     return list;

@@ -13,7 +13,7 @@
 struct Feature {
     std::string key;
     std::vector<std::string> items;
-    std::vector<std::wstring> names;
+    std::vector<std::wstring> names = {};
 };
 
 // The installed options and the paper path.
