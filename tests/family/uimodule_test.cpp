@@ -11,11 +11,8 @@
 
 namespace {
 
-constexpr uint16_t kRgbList = IDC_IMAGE_RGB_SOURCE, kSimulation = IDC_SIMULATION, kPaper = IDC_MATCH_PAPER_COLOR,
-                   kSimulationGray = IDC_SIMULATION_GRAY;
-constexpr uint16_t kIcons[][2] = {{IDC_SIMULATION_ICON, kSimulation},
-                                  {IDC_MATCH_PAPER_COLOR_ICON, kPaper},
-                                  {IDC_SIMULATION_GRAY_ICON, kSimulationGray}};
+constexpr uint16_t kRgbList = 1504, kSimulation = 1524, kPaper = 1526, kSimulationGray = 1627;
+constexpr uint16_t kIcons[][2] = {{1482, kSimulation}, {1527, kPaper}, {1629, kSimulationGray}};
 
 #define FUNCTION(name) Function<decltype(&(name))>(#name)
 
