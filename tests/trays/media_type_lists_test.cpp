@@ -21,13 +21,11 @@ void AddTexts(PrmImage& image, const std::string& entry, const std::string& keys
     image.Items(entry, items);
 }
 
-// The positions of the device table's lists and their records: name, room for it, record size.
-const struct {
-    const char* entry;
-    size_t position, recordSize, displayRoom;
-} kLists[] = {{"MediaTypeList_Size", 390, 1004, 48}, {"MediaTypeList_Orient", 0, 0, 0},
-              {"MediaTypeList_Type", 574, 240, 32},  {"MediaTypeList_Weight", 598, 240, 32},
-              {"MediaTypeList_Color", 606, 240, 32}, {"MediaTypeList_Hole", 674, 240, 32}};
+// The lists' entries; in the device table their position (0: none), record size and room for the name.
+const std::tuple<std::string, size_t, size_t, size_t> kLists[] = {
+    {"MediaTypeList_Size", 390, 1004, 48},  {"MediaTypeList_Orient", 0, 0, 0},     {"MediaTypeList_Type", 574, 240, 32},
+    {"MediaTypeList_Weight", 598, 240, 32}, {"MediaTypeList_Color", 606, 240, 32}, {"MediaTypeList_Hole", 674, 240, 32},
+};
 
 // With and without records of the device table, the second with key and name unterminated, and with and
 // without texts of the file.
@@ -38,30 +36,29 @@ TEST_F(MediaTypeListsTest, ListHasRecordsThenTexts) {
             PrmImage image;
             std::vector<RawBytes> lists, expected;
             lists.reserve(std::size(kLists)); // the table points into them
-            for (const auto& list : kLists) {
-                const std::string entry = list.entry;
+            for (const auto& [entry, position, recordSize, displayRoom] : kLists) {
                 RawBytes wanted(0);
-                if (records && list.position != 0) {
-                    RawBytes from(3 * list.recordSize);
+                if (records && position != 0) {
+                    RawBytes from(3 * recordSize);
                     from.Text(4, entry).U32(36, 0x10001).U32(40, 9).U16(44, 9).U16(46, 9).Wide(48, L"A4");
-                    from.Text(list.recordSize + 4, std::string(32, 'k')).U32(list.recordSize + 36, 7);
-                    from.Wide(list.recordSize + 48, Repeated(L'x', list.displayRoom).data());
-                    from.U16(list.recordSize + 48 + 2 * list.displayRoom, L'y');
+                    from.Text(recordSize + 4, std::string(32, 'k')).U32(recordSize + 36, 7);
+                    from.Wide(recordSize + 48, Repeated(L'x', displayRoom).data());
+                    from.U16(recordSize + 48 + 2 * displayRoom, L'y');
                     lists.push_back(from);
-                    table.Pointer(list.position, lists.back().bytes.data());
+                    table.Pointer(position, lists.back().bytes.data());
                     wanted.Append(ListRecord(entry, 0x10001, L"A4"));
-                    const size_t length = list.displayRoom == 48 ? 47 : 32;
+                    const size_t length = displayRoom == 48 ? 47 : 32;
                     wanted.Append(ListRecord(std::string(31, 'k'), 7, Repeated(L'x', length).data()));
                 }
                 const std::string unknown = entry + "_Unknown";
-                if (texts && list.position == 0) {
+                if (texts && position == 0) {
                     AddTexts(image, entry, unknown + " mediatypelist_LANDSCAPE MediaTypeList_Portrait", L"T");
                     wanted.Append(ListRecord("MediaTypeList_Portrait", 1, L"T"));
                     wanted.Append(ListRecord("MediaTypeList_Landscape", 2, L"T"));
                 } else if (texts) {
                     AddTexts(image, entry, "Other " + unknown, Repeated(L'T', 60).data());
                 }
-                const auto name = Repeated(L'T', list.position == 0 ? 1 : 47);
+                const auto name = Repeated(L'T', position == 0 ? 1 : 47);
                 if (texts)
                     wanted.Append(ListRecord(unknown, 0xFFFFFFFF, name.data()));
                 expected.push_back(wanted.Append(RawBytes(144)));
@@ -69,7 +66,7 @@ TEST_F(MediaTypeListsTest, ListHasRecordsThenTexts) {
             MediaTypeLists* built = BuildMediaTypeLists(OpenedImage(image).file, AsTable(table));
             ASSERT_NE(built, nullptr);
             for (size_t i = 0; i < std::size(kLists); ++i)
-                EXPECT_EQ(Differences(built->lists[i], expected[i]), "") << kLists[i].entry << records << texts;
+                EXPECT_EQ(Differences(built->lists[i], expected[i]), "") << std::get<0>(kLists[i]) << records << texts;
             FreeMediaTypeLists(built);
         }
 }
@@ -106,25 +103,21 @@ TEST_F(MediaTypeListsTest, ItemTexts) {
     --image.At<PrmEntryInfo>(entry + 52).itemCount;
     image.Entry("NoItems", {}, image.At<PrmEntry>(entry).firstItem);
     const OpenedImage opened(image);
-    const struct {
-        const char *entry, *key;
-        size_t capacity;
-        const wchar_t* text; // null: there is none
-    } cases[] = {
+    const std::tuple<const char*, const char*, size_t, const wchar_t*> kCases[] = {
+        // entry, key, room; the text, or null: there is none
         {"List", "Key", 8, L"Text"},         {"LIST", "kEY", 8, L"Text"},          {"List", "Key", 5, L"Text"},
         {"List", "Key", 4, L"Tex"},          {"List", "Key", 1, nullptr},          {"List", "Ke", 8, nullptr},
         {"List", "Empty", 8, nullptr},       {"List", "Beyond", 8, nullptr},       {"NoItems", "Key", 8, nullptr},
         {"Missing", "Key", 8, nullptr},      {nullptr, "Key", 8, nullptr},         {"List", nullptr, 8, nullptr},
         {"List", key127.c_str(), 8, L"127"}, {"List", key128.c_str(), 8, nullptr},
     };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(&c - cases);
+    for (const auto& [list, key, capacity, wanted] : kCases) {
+        SCOPED_TRACE(testing::PrintToString(list) + testing::PrintToString(key) + std::to_string(capacity));
         RawBytes got = RawBytes(18).U8(0, 0x5A, 18), expected = got;
-        EXPECT_EQ(
-            PrmGetItemText(*opened.file, c.entry, c.key, reinterpret_cast<wchar_t*>(got.bytes.data()), c.capacity),
-            c.text != nullptr);
-        if (c.entry != nullptr && c.key != nullptr) // the whole buffer is cleared, nothing beyond it
-            expected.U8(0, 0, 2 * c.capacity).Wide(0, c.text != nullptr ? c.text : L"");
+        EXPECT_EQ(PrmGetItemText(*opened.file, list, key, reinterpret_cast<wchar_t*>(got.bytes.data()), capacity),
+                  wanted != nullptr);
+        if (list != nullptr && key != nullptr) // the whole buffer is cleared, nothing beyond it
+            expected.U8(0, 0, 2 * capacity).Wide(0, wanted != nullptr ? wanted : L"");
         EXPECT_EQ(Differences(got.bytes.data(), expected), "");
     }
     EXPECT_FALSE(PrmGetItemText(*opened.file, "List", "Key", nullptr, 8));
