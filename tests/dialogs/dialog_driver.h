@@ -71,6 +71,11 @@ struct DialogDriver {
 
     // The events of these kinds (their first words) in order, a line each.
     std::string Events(const std::set<std::string>& kinds) const;
+    // A check of the settings after a change of this control (0: of all), and the hint of this dialog.
+    static std::string Check(int control, uint32_t id) {
+        return "DoConstraints " + std::to_string(control) + "\nDispHintControl " + std::to_string(id) + "\n";
+    }
+    std::string Checks() const { return Events({"DoConstraints", "DispHintControl"}); }
     // The module's own item record with this key, to be changed by raw offset; null when there is none.
     uint8_t* FindItem(const std::string& key) const;
 

@@ -39,11 +39,9 @@ TEST_P(TrayDialogs, AreRunByTheButtonWhichReportsOk) {
         Close();
     }
     const int loads = uiLoads;
-    for (const auto& [message, wParam] : {std::pair(UINT{WM_COMMAND}, WPARAM{1846}),
-                                          {WM_COMMAND, MAKEWPARAM(1847, 1)},
-                                          {WM_COMMAND, 1847 | WPARAM{1} << 32},
-                                          {WM_NOTIFY, 1847}})
-        EXPECT_EQ(DeliverTo(156, page, message, wParam), (Answer{0, kUntouched}));
+    for (const WPARAM command : {WPARAM{1846}, WPARAM{MAKEWPARAM(1847, 1)}, 1847 | WPARAM{1} << 32})
+        EXPECT_EQ(DeliverTo(156, page, WM_COMMAND, command), (Answer{0, kUntouched}));
+    EXPECT_EQ(DeliverTo(156, page, WM_NOTIFY, 1847), (Answer{0, kUntouched}));
     PressButton(false);
     EXPECT_EQ(uiLoads, loads);
     endCode = 1;
@@ -99,8 +97,7 @@ TEST_P(TrayDialogs, ChangesAreKeptOrRefused) {
                 constraints = [&](uint32_t) { return ExpectRecords(chosen), answer; };
                 const bool isRefused = answer == 100 || answer == 101;
                 EXPECT_EQ(Choose(attribute, attribute.chosen), 1);
-                EXPECT_EQ(Events({"DoConstraints", "DispHintControl"}),
-                          "DoConstraints " + std::to_string(attribute.box) + "\nDispHintControl 156\n");
+                EXPECT_EQ(Checks(), Check(attribute.box, 156));
                 ExpectRecords(isRefused ? before : chosen);
                 EXPECT_EQ(Shown(attribute.box), isRefused ? shown : attribute.chosen);
                 EXPECT_EQ(Row(), row);
@@ -160,7 +157,7 @@ TEST_P(TrayDialogs, AnswerTheirOwnMessagesOnly) {
     Deliver(WM_ACTIVATE, MAKEWPARAM(WA_INACTIVE, 1));
     EXPECT_EQ(Events(kNoted), "");
     Deliver(WM_ACTIVATE, WA_ACTIVE);
-    EXPECT_EQ(Events({"DoConstraints", "DispHintControl"}), "DoConstraints 0\nDispHintControl 155\n");
+    EXPECT_EQ(Checks(), Check(0, 155));
     EXPECT_EQ(Shown(1860), 1);
 
     events.clear();
@@ -197,31 +194,30 @@ TEST_P(TrayDialogs, AnswerTheirOwnMessagesOnly) {
 TEST(TrayList, ColumnsFollowTheModel) {
     const std::wstring titles[] = {L"Paper source", L"Paper size",   L"Orientation", L"Paper type",
                                    L"Paper weight", L"Paper colour", L"Holes"};
-    const struct {
-        const wchar_t* model;
-        std::vector<int> columns;
-        bool takesRest;
-    } cases[] = {{L"", {0, 1, 2, 3, 4, 5, 6}, true},
-                 {L"type2", {0, 1, 2, 3, 5, 6}, true},
-                 {L"type3", {0, 1, 2, 3}, true},
-                 {L"plain_paper", {0, 1, 2, 3}, false}};
-    for (const auto& row : cases) {
-        Trays dialog(row.model);
+    const std::tuple<const wchar_t*, std::vector<int>, bool> kModels[] = {
+        // whether the last column takes the rest
+        {L"", {0, 1, 2, 3, 4, 5, 6}, true},
+        {L"type2", {0, 1, 2, 3, 5, 6}, true},
+        {L"type3", {0, 1, 2, 3}, true},
+        {L"plain_paper", {0, 1, 2, 3}, false},
+    };
+    for (const auto& [model, columns, takesRest] : kModels) {
+        Trays dialog(model);
         dialog.PressButton();
         EXPECT_EQ(GetWindowLongW(dialog.Header(), GWL_STYLE) & HDS_BUTTONS, 0);
-        const auto margin = static_cast<int>(SendMessageW(dialog.Header(), HDM_GETBITMAPMARGIN, 0, 0));
+        const LRESULT margin = SendMessageW(dialog.Header(), HDM_GETBITMAPMARGIN, 0, 0);
         RECT client = {};
         GetClientRect(dialog.Control(kList), &client);
-        ASSERT_EQ(dialog.ColumnCount(), static_cast<int>(row.columns.size()));
+        ASSERT_EQ(dialog.ColumnCount(), static_cast<int>(columns.size()));
         int left = 0;
-        for (size_t i = 0; i < row.columns.size(); ++i) {
+        for (size_t i = 0; i < columns.size(); ++i) {
             wchar_t title[99] = L"";
             LVCOLUMNW column = {LVCF_TEXT | LVCF_WIDTH | LVCF_FMT, 0, 0, title, 99, 0, 0, 0, 0, 0, 0};
             dialog.List(LVM_GETCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
-            EXPECT_EQ(title, titles[row.columns[i]]);
+            EXPECT_EQ(title, titles[columns[i]]);
             EXPECT_EQ(column.fmt & LVCFMT_JUSTIFYMASK, LVCFMT_LEFT);
-            const auto text = static_cast<int>(dialog.List(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title)));
-            const bool isRest = row.takesRest && i + 1 == row.columns.size();
+            const LRESULT text = dialog.List(LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title));
+            const bool isRest = takesRest && i + 1 == columns.size();
             EXPECT_EQ(column.cx, isRest ? client.right - left : text + 2 * margin + 20) << i;
             left += column.cx;
         }
@@ -260,7 +256,7 @@ TEST_F(TrayDialog, ValuesWithoutAnEntryShowNothing) {
     const RawBytes before = records;
     Choose(kAttributes[1], -1); // stores nothing but does the rest
     ExpectRecords(before);
-    EXPECT_EQ(Events({"DoConstraints", "DispHintControl"}), "DoConstraints 1862\nDispHintControl 156\n");
+    EXPECT_EQ(Checks(), Check(1862, 156));
 }
 
 TEST_F(TrayDialog, WorksWithoutCallbacksAndRecords) {

@@ -51,14 +51,11 @@ inline RawBytes TrayRecords() {
 
 // The records once the trays are listed.
 inline RawBytes Keyed(RawBytes records) {
+    constexpr std::pair<const char*, unsigned> kSources[] = {{"InTray1", 257},   {"InTray2", 258}, {"InTray3", 259},
+                                                             {"InTray4", 260},   {"InTray5", 261}, {"InTrayLCT", 1000},
+                                                             {"InTrayManual", 4}};
     size_t at = 0;
-    for (const auto& [key, bin] : {std::pair("InTray1", 257u),
-                                   {"InTray2", 258u},
-                                   {"InTray3", 259u},
-                                   {"InTray4", 260u},
-                                   {"InTray5", 261u},
-                                   {"InTrayLCT", 1000u},
-                                   {"InTrayManual", 4u}}) {
+    for (const auto& [key, bin] : kSources) {
         records.Text(at, key).U8(at + strlen(key), 0).U32(at + 32, bin);
         at += kTraySize;
     }

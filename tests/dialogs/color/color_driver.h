@@ -135,7 +135,7 @@ struct ColorDriver : DialogDriver {
     }
     std::string Fills() const { return InOrder("fill", false); }
     std::string Shows() const { return InOrder("show", true); }
-    std::string Check() const { return "DoConstraints 0\nDispHintControl " + std::to_string(dialog.id) + "\n"; }
+    std::string Check(int control = 0) const { return DialogDriver::Check(control, dialog.id); }
 
     const ColorDialogCase& dialog;
 };
