@@ -195,11 +195,9 @@ RawBytes Pattern(unsigned seed) {
 std::unique_ptr<TemporaryFolder> MakeFolder(const std::wstring& model) {
     if (model.empty())
         return nullptr;
-    auto folder = std::make_unique<TemporaryFolder>(L"lumora_" + model);
-    for (const wchar_t* name : {L"TELMAR_D.DLL", L"TELMAR_S.DLL", L"TELMAR_U.DLL"})
-        folder->Add(name, name);
-    folder->Add((L"models/" + model + L".prm").c_str(), L"TELMAR_D.PRM");
-    return folder;
+    const std::vector<std::string> files = {"TELMAR_D.DLL", "TELMAR_S.DLL", "TELMAR_U.DLL",
+                                            "TELMAR_D.PRM=models/" + Narrow(model.c_str()) + ".prm"};
+    return std::make_unique<TemporaryFolder>(L"lumora_" + model, files);
 }
 
 DialogDriver::DialogDriver(uint32_t identifier, const std::wstring& model)

@@ -14,14 +14,13 @@ constexpr wchar_t kSibling[] = L"TELMAR_S.DLL";
 
 TEST(Loading, ResourceLibraryIsLoadedFromTheModulesFolderAndFreedWithIt) {
     for (const wchar_t* name : {L"lumora ascii", L"lumora \u00FC\u0416\u30C6\u30B9\u30C8\U0001F5A8"}) {
-        const TemporaryFolder folder(name);
-        folder.Add(L"TELMAR_D.DLL", L"TELMAR_D.DLL");
+        const TemporaryFolder folder(name, {"TELMAR_D.DLL", "TELMAR_S.DLL=frame_sibling.dll"});
         ASSERT_TRUE(fs::exists(ProductFolder() / kSibling)) << "where a bare name is found";
-        const fs::path sibling = folder.Add(L"frame_sibling.dll", kSibling);
         {
             const LoadedModule module(folder.path);
             ASSERT_FALSE(LoadedPath(kSibling).empty());
-            EXPECT_TRUE(fs::equivalent(LoadedPath(kSibling), sibling)) << LoadedPath(kSibling).u8string();
+            EXPECT_TRUE(fs::equivalent(LoadedPath(kSibling), folder.path / kSibling))
+                << LoadedPath(kSibling).u8string();
         }
         EXPECT_EQ(LoadedPath(kSibling), fs::path());
     }
@@ -57,10 +56,11 @@ TEST_F(ParameterFile, IsClosedAfterLoadingAndLeavesNothingBehind) {
     const uintmax_t complete = fs::file_size(ProductFolder() / kParameterFile);
     std::map<uintmax_t, size_t> heldBlocks; // by size of the file
     for (const uintmax_t size : {kMissing, uintmax_t{0}, uintmax_t{100}, complete / 2, complete}) {
-        const TemporaryFolder folder(L"lumora_parameters");
-        folder.Add(L"TELMAR_D.DLL", L"TELMAR_D.DLL");
-        const fs::path file = size == kMissing ? fs::path() : folder.Add(kParameterFile, kParameterFile);
-        if (size != kMissing)
+        const TemporaryFolder folder(L"lumora_parameters", {"TELMAR_D.DLL", "TELMAR_D.PRM"});
+        const fs::path file = folder.path / kParameterFile;
+        if (size == kMissing)
+            fs::remove(file);
+        else
             fs::resize_file(file, size);
         { const LoadedModule first(folder.path); }
         const Holdings before = CountHoldings();

@@ -28,21 +28,18 @@ LoadedModule::LoadedModule(const fs::path& folder) : handle(LoadLibraryW((folder
     EXPECT_NE(handle, nullptr) << "last error " << GetLastError();
 }
 
-TemporaryFolder::TemporaryFolder(const std::wstring& name)
+TemporaryFolder::TemporaryFolder(const std::wstring& name, const std::vector<std::string>& files)
     : path(fs::temp_directory_path() / (name + std::to_wstring(GetCurrentProcessId()))) {
-    fs::remove_all(path); // of a run that was broken off
+    fs::remove_all(path); // of an interrupted run
     fs::create_directory(path);
+    for (const std::string& file : files) // without '=' the source is the name
+        fs::copy_file(ProductFolder() / file.substr(file.find('=') + 1), path / file.substr(0, file.find('=')));
 }
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code error;
     fs::remove_all(path, error);
     EXPECT_FALSE(error) << error.message();
-}
-
-fs::path TemporaryFolder::Add(const wchar_t* builtFile, const wchar_t* name) const {
-    fs::copy_file(ProductFolder() / builtFile, path / name);
-    return path / name;
 }
 
 Holdings CountHoldings() {

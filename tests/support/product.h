@@ -4,6 +4,8 @@
 #define SUPPORT_PRODUCT_H
 
 #include <filesystem>
+#include <string>
+#include <vector>
 #include <windows.h>
 
 // Folder of the running test program, where the build puts the product.
@@ -27,17 +29,15 @@ struct LoadedModule {
     HMODULE handle;
 };
 
-// A folder of the test's own, removed at the end.
+// A folder of the test's own with copies of built files, each given as "NAME" or "NAME=SOURCE". It is removed at the
+// end; programs that run at the same time have folders of their own.
 struct TemporaryFolder {
-    explicit TemporaryFolder(const std::wstring& name);
+    explicit TemporaryFolder(const std::wstring& name, const std::vector<std::string>& files = {});
     ~TemporaryFolder();
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    // Copies the built file here under this name and returns the copy's path.
-    std::filesystem::path Add(const wchar_t* builtFile, const wchar_t* name) const;
-
-    std::filesystem::path path;
+    const std::filesystem::path path;
 };
 
 // What the process has at present.

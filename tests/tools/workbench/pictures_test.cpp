@@ -67,7 +67,7 @@ TEST(WorkbenchPictures, ViewAppliesReportedOptionsOfEitherTransport) {
     const Folder noLibrary(L"workbench_without_library", {"workbench.exe", "TELMAR_D.DLL", "TELMAR_D.PRM"});
     const std::string plain = pictures.Make(L"view");
     const std::tuple<fs::path, const char*, const char*, const char*> cases[] = {
-        {ProgramFolder(), "bidirectional library", "OpOutTrayUnit1", "EnaOpInTray3"},
+        {ProductFolder(), "bidirectional library", "OpOutTrayUnit1", "EnaOpInTray3"},
         {noLibrary.path, "SNMP", "EnaOpInTray3", "OpOutTrayUnit1"}};
     for (const auto& [folder, transport, reported, notReported] : cases) {
         const Result result = RunWorkbench(L"view --json --from 127.0.162.1" + pictures.Out(L"view.png"), folder);

@@ -11,7 +11,7 @@ namespace {
 // system starts meanwhile may inherit the handle and keep it open.
 HANDLE CreateOutputFile() {
     wchar_t name[MAX_PATH] = L"";
-    GetTempFileNameW(ProgramFolder().c_str(), L"out", 0, name);
+    GetTempFileNameW(ProductFolder().c_str(), L"out", 0, name);
     SECURITY_ATTRIBUTES inheritable = {sizeof(inheritable), nullptr, TRUE};
     return CreateFileW(name, GENERIC_READ | GENERIC_WRITE | DELETE,
                        FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inheritable, CREATE_ALWAYS,
@@ -29,26 +29,6 @@ std::string TakeOutput(HANDLE file) {
 }
 
 } // namespace
-
-fs::path ProgramFolder() {
-    wchar_t path[MAX_PATH];
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    return fs::path(path).parent_path();
-}
-
-Folder::Folder(const wchar_t* name, const std::vector<std::string>& files)
-    : path(ProgramFolder() / (name + std::to_wstring(GetCurrentProcessId()))) {
-    std::error_code isInUse;
-    fs::remove_all(path, isInUse);
-    fs::create_directory(path);
-    for (const std::string& file : files) // without '=' the source is the name
-        fs::copy_file(ProgramFolder() / file.substr(file.find('=') + 1), path / file.substr(0, file.find('=')));
-}
-
-Folder::~Folder() {
-    std::error_code isInUse;
-    fs::remove_all(path, isInUse);
-}
 
 std::string Contents(const fs::path& path) {
     std::ifstream file(path, std::ios::binary);
