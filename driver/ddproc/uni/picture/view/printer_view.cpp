@@ -90,6 +90,7 @@ void WINAPI DrawPrinterView(HDC target, const RECT* rectangle, const PrinterView
         MemoryContext memory(target);
         if (memory.handle != nullptr && canvas != nullptr && memory.Select(canvas)) {
             DrawAll(memory.handle, target, *rectangle, size, *request);
+            // By contract to the target's origin, wherever the rectangle is.
             BitBlt(target, 0, 0, size.cx, size.cy, memory.handle, 0, 0, SRCCOPY);
         } else {
             DrawAll(target, target, *rectangle, size, *request);
