@@ -23,8 +23,8 @@ std::unique_ptr<ItemRecord[]> ReadItems(const PrmFile& file, const PrmItems& fro
         PrmReadRecord(file, PrmItemOffset(file, from, i), item);
         items[i].head.size = sizeof(ItemRecord);
         items[i].head.icon = kItemIcon;
-        PrmReadKey(file, item.head.key, items[i].head.key);
-        PrmReadDisplay(file, item.head.display, items[i].display);
+        PrmReadString(file, item.head.key, items[i].head.key);
+        PrmReadWideString(file, item.head.display, items[i].display);
     }
     return items;
 }

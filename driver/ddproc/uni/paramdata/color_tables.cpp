@@ -126,9 +126,8 @@ void Clear(const TableDescription& table) {
 
 // The descriptor of the item at this position.
 PrmItemHead ReadHead(const PrmFile& file, const PrmItems& items, uint32_t position) {
-    PrmItemDescriptor descriptor = {};
-    PrmReadRecord(file, PrmItemOffset(file, items, position), descriptor);
-    return descriptor.head;
+    PrmItemDescriptor buffer;
+    return PrmRecordAt(file, PrmItemOffset(file, items, position), buffer).head;
 }
 
 void Fill(const PrmFile& file, const PrmItems& items, const TableDescription& table) {
@@ -137,8 +136,8 @@ void Fill(const PrmFile& file, const PrmItems& items, const TableDescription& ta
         const PrmItemHead head = ReadHead(file, items, i);
         ItemRecord& item = table.items[i];
         item = Item("", i);
-        PrmReadKey(file, head.key, item.head.key);
-        PrmReadDisplay(file, head.display, item.display);
+        PrmReadString(file, head.key, item.head.key);
+        PrmReadWideString(file, head.display, item.display);
         if (table.values != nullptr)
             item.head.value = ValueOf(table.values, table.column, item.head.key);
         if (table.shortItems != nullptr && i < kShortCapacity)
@@ -152,14 +151,13 @@ void TakeKnownItems(const PrmFile& file, const PrmItems& items, const ItemRecord
     Clear(table);
     for (uint32_t i = 0; i < items.count && i < table.capacity; ++i) {
         const PrmItemHead head = ReadHead(file, items, i);
-        PrmText key = {};
-        PrmReadString(file, head.key, key);
-        const ItemRecord* item = FindByKey(known, key);
+        PrmText key;
+        const ItemRecord* item = FindByKey(known, PrmKeyAt(file, head, key));
         if (item == nullptr)
             return;
         table.items[i] = Item(item->head.key, item->head.value);
         if (head.display != 0)
-            PrmReadDisplay(file, head.display, table.items[i].display);
+            PrmReadWideString(file, head.display, table.items[i].display);
         else
             CopyText(table.items[i].display, item->display);
     }

@@ -39,9 +39,9 @@ bool ApplyControlTexts(const PrmFile& file, const char* entry, ControlTextRecord
     PrmItems items;
     if (!PrmFindItems(file, entry, items))
         return false;
-    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
+    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const char* key) {
         if (ControlTextRecord* row = FindByKey(table, key))
-            PrmReadDisplay(file, item.display, row->display);
+            PrmReadWideString(file, item.display, row->display);
         return true;
     });
     return true;

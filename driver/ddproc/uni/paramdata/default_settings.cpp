@@ -161,7 +161,7 @@ const TextItemRecord* FindDefaultLocation(const PrmFile& file, const char* entry
 template <size_t Capacity>
 void CopyDisplay(const PrmFile& file, uint32_t offset, wchar_t (&to)[Capacity]) {
     memset(to, 0, sizeof(to));
-    PrmReadDisplay(file, offset, to);
+    PrmReadWideString(file, offset, to);
 }
 
 void StoreWatermark(const PrmFile& file, const DeviceTable& table, const PrmWatermark& from,
@@ -182,34 +182,32 @@ void StoreWatermark(const PrmFile& file, const DeviceTable& table, const PrmWate
 template <typename Record, typename Found>
 void ForEachDefaultItem(const PrmFile& file, const char* entry, Found found) {
     PrmItems items;
-    Record record;
-    if (!ReadDefault(file, entry, record) || !PrmFindItems(file, entry, items))
+    Record buffer;
+    PrmText defaultBuffer, keyBuffer;
+    if (!ReadDefault(file, entry, buffer) || !PrmFindItems(file, entry, items))
         return;
-    PrmText defaultKey = {};
-    PrmReadString(file, record.head.key, defaultKey);
+    const char* defaultKey = PrmKeyAt(file, buffer.head, defaultBuffer);
     for (uint32_t i = 0; i < items.count; ++i) {
-        record = {};
-        PrmReadRecord(file, PrmItemOffset(file, items, i), record);
-        PrmText key = {};
-        PrmReadString(file, record.head.key, key);
+        const Record& record = PrmRecordAt(file, PrmItemOffset(file, items, i), buffer);
+        const char* key = PrmKeyAt(file, record.head, keyBuffer);
         if (SameText(key, defaultKey) && !found(record, key, i))
             return;
     }
 }
 
 void ApplyWatermark(const PrmFile& file, const DeviceTable& table, OemDevmode& settings) {
-    ForEachDefaultItem<PrmWatermark>(
-        file, "Watermark", [&](const PrmWatermark& watermark, const PrmText& key, uint32_t position) {
-            settings.watermark = static_cast<uint16_t>(position);
-            if (!SameText(key, "WM_None"))
-                StoreWatermark(file, table, watermark, settings);
-            return true; // a later item with the same key overwrites it
-        });
+    ForEachDefaultItem<PrmWatermark>(file, "Watermark",
+                                     [&](const PrmWatermark& watermark, const char* key, uint32_t position) {
+                                         settings.watermark = static_cast<uint16_t>(position);
+                                         if (!SameText(key, "WM_None"))
+                                             StoreWatermark(file, table, watermark, settings);
+                                         return true; // a later item with the same key overwrites it
+                                     });
 }
 
 void ApplyResolution(const PrmFile& file, OemDevmode& settings) {
     ForEachDefaultItem<PrmResolution>(
-        file, "Resolution", [&](const PrmResolution& resolution, const PrmText& key, uint32_t position) {
+        file, "Resolution", [&](const PrmResolution& resolution, const char* key, uint32_t position) {
             settings.resolution = static_cast<uint8_t>(position);
             for (size_t i = 0; i < 3; ++i)
                 settings.resolutionValues[i] = static_cast<uint16_t>(resolution.values[i]);

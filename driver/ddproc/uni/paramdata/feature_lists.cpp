@@ -19,7 +19,7 @@ struct Item {
 
 // Fills what all lists have: key, value, icon.
 void FillHead(const PrmFile& file, const PrmItemHead& from, uint32_t value, ItemHead& to) {
-    PrmReadKey(file, from.key, to.key);
+    PrmReadString(file, from.key, to.key);
     to.value = value;
     to.icon = kItemIcon;
 }
@@ -28,7 +28,7 @@ void FillHead(const PrmFile& file, const PrmItemHead& from, uint32_t value, Item
 template <typename FileRecord, typename Record>
 void Fill(const Item& item, const FileRecord& from, Record& to) {
     FillHead(item.file, from.head, from.value, to.head);
-    PrmReadDisplay(item.file, from.head.display, to.display);
+    PrmReadWideString(item.file, from.head.display, to.display);
     CopyText(to.text, from.text);
 }
 
@@ -36,7 +36,7 @@ void Fill(const Item& item, const FileRecord& from, Record& to) {
 void Fill(const Item& item, const PrmMediaItem& from, InputSlotRecord& to) {
     if (from.extra != 0) {
         FillHead(item.file, from.head, from.value, to.head);
-        PrmReadDisplay(item.file, from.head.display, to.display);
+        PrmReadWideString(item.file, from.head.display, to.display);
     }
     CopyText(to.text, from.text);
 }
@@ -49,33 +49,32 @@ void Fill(const Item& item, const PrmMediaItem& from, CollateRecord& to) {
 }
 
 void Fill(const Item& item, const PrmResolution& from, ResolutionRecord& to) {
-    PrmText key = {};
-    PrmReadString(item.file, from.head.key, key);
+    PrmText key;
     FillHead(item.file, from.head, item.position, to.head);
-    PrmReadDisplay(item.file, from.head.display, to.display);
+    PrmReadWideString(item.file, from.head.display, to.display);
     for (size_t i = 0; i < 3; ++i)
         to.values[i] = static_cast<uint16_t>(from.values[i]);
-    to.number = ResolutionNumber(key);
+    to.number = ResolutionNumber(PrmKeyAt(item.file, from.head, key));
 }
 
 void Fill(const Item& item, const PrmTabPaper& from, TabPaperRecord& to) {
     FillHead(item.file, from.head, from.value, to.head);
-    PrmReadDisplay(item.file, from.head.display, to.display);
+    PrmReadWideString(item.file, from.head.display, to.display);
     memcpy(to.values, from.values, sizeof(to.values));
 }
 
 void Fill(const Item& item, const PrmItemDescriptor& from, ItemRecord& to) {
     FillHead(item.file, from.head, 0, to.head);
-    PrmReadDisplay(item.file, from.head.display, to.display);
+    PrmReadWideString(item.file, from.head.display, to.display);
     TraySelectionValue(item.feature, to.head.key, to.head.value);
 }
 
 // Fills the display names, which both kinds of paper size have twice.
 template <typename FileRecord, typename Record>
 void FillDisplayPairs(const PrmFile& file, const FileRecord& from, Record& to) {
-    PrmReadDisplay(file, from.head.display, to.display);
+    PrmReadWideString(file, from.head.display, to.display);
     CopyText(to.displayAgain, to.display);
-    PrmReadDisplay(file, from.secondDisplay, to.secondDisplay);
+    PrmReadWideString(file, from.secondDisplay, to.secondDisplay);
     CopyText(to.secondDisplayAgain, to.secondDisplay);
 }
 
@@ -128,9 +127,8 @@ void Fill(const Item& item, const PrmPaper& from, PaperSizeRecord& to) {
 // Reads the file record at the offset and fills the list record from it.
 template <typename FileRecord, typename Record>
 void ReadItem(const Item& item, uint32_t offset, void* record) {
-    FileRecord from = {};
-    PrmReadRecord(item.file, offset, from);
-    Fill(item, from, *static_cast<Record*>(record));
+    FileRecord buffer;
+    Fill(item, PrmRecordAt(item.file, offset, buffer), *static_cast<Record*>(record));
 }
 
 // How a list is built.
@@ -226,7 +224,7 @@ void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* featu
     }
 }
 
-uint16_t ResolutionNumber(const PrmText& key) {
+uint16_t ResolutionNumber(const char* key) {
     constexpr size_t kNumberAt = 5;
     return TextLength(key) > kNumberAt ? static_cast<uint16_t>(PrmParseFirstNumber(key + kNumberAt))
                                        : uint16_t{0};

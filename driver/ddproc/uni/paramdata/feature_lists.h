@@ -22,7 +22,7 @@ void BuildLists(PrmFile& file, DeviceTable& table, ListStage stage);
 void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* feature, uint32_t featureBit);
 
 // The number after the fifth character of a resolution's key; 0 for a shorter key.
-uint16_t ResolutionNumber(const PrmText& key);
+uint16_t ResolutionNumber(const char* key);
 
 // Releases every list of the table, also the tray rows.
 void FreeLists(DeviceTable& table);

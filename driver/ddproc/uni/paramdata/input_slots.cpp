@@ -35,11 +35,11 @@ void UpdateInputSlots(const PrmFile& file) {
     if (!PrmFindItems(file, "ALL_InTray", items))
         return;
     for (uint32_t i = 0; i < items.count; ++i) {
-        PrmMediaItem item = {};
-        PrmReadRecord(file, PrmItemOffset(file, items, i), item);
-        PrmText key = {};
-        PrmReadString(file, item.head.key, key);
-        if (TraySourceRecord* slot = FindByKey<TraySourceRecord>(inputSlots, key)) {
+        PrmMediaItem buffer;
+        PrmText keyBuffer;
+        const PrmMediaItem& item = PrmRecordAt(file, PrmItemOffset(file, items, i), buffer);
+        if (TraySourceRecord* slot =
+                FindByKey<TraySourceRecord>(inputSlots, PrmKeyAt(file, item.head, keyBuffer))) {
             CopyText(slot->text, item.text);
             slot->bin = static_cast<uint16_t>(item.value);
         }

@@ -24,11 +24,20 @@ void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     if (header.rowCount > file.size / sizeof(PrmTableRow))
         return;
     for (uint32_t i = 0; i < header.rowCount; ++i) {
-        PrmTableRow row = {};
-        PrmReadRecord(file, header.firstRow + uint64_t{sizeof(row)} * i, row);
-        visit(row);
+        PrmTableRow buffer;
+        visit(PrmRecordAt(file, header.firstRow + uint64_t{sizeof(buffer)} * i, buffer));
     }
 }
+
+// The hashes of the names in kFeatureSwitches.
+struct SwitchHashes {
+    constexpr SwitchHashes() {
+        for (size_t i = 0; i < kFeatureSwitchCount; ++i)
+            of[i] = TextHash(kFeatureSwitches[i].name);
+    }
+    uint32_t of[kFeatureSwitchCount] = {};
+};
+constexpr SwitchHashes kSwitchHashes;
 
 // The number n of a value "TYPEn", from 1 to kMaxSwitchType and without leading zeros; 1 for any other value.
 uint32_t SwitchType(const char* value) {
@@ -103,9 +112,10 @@ void BuildFeatureSwitches(const PrmFile& file, DeviceTable& table) {
     ForEachRow(file, "FeatureSetting", [&](const PrmTableRow& row) {
         char value[kValueCapacity];
         CopyText(value, row.value);
+        const uint32_t hash = TextHash(row.name);
         for (size_t i = 0; i < kFeatureSwitchCount; ++i) {
             const FeatureSwitchRow& feature = kFeatureSwitches[i];
-            if (SameText(row.name, feature.name))
+            if (hash == kSwitchHashes.of[i] && SameText(row.name, feature.name))
                 table.switches[i] = feature.enablingValue != nullptr ? SameText(value, feature.enablingValue)
                                                                      : SwitchType(value);
         }

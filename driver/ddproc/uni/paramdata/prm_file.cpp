@@ -36,15 +36,31 @@ void LoadImage(PrmFile& file) {
     if (size == INVALID_FILE_SIZE)
         return;
     file.size = size;
-    auto* image = static_cast<uint8_t*>(GlobalAlloc(GPTR, size));
+    auto* image = static_cast<uint8_t*>(GlobalAlloc(GMEM_FIXED, size));
     if (image == nullptr)
         return;
     uint32_t delivered = 0;
-    if (ReadFully(file.handle, image, size, delivered))
+    if (ReadFully(file.handle, image, size, delivered)) {
+        memset(image + delivered, 0, size - delivered); // of a file that has become shorter
         file.image = image;
-    else
+    } else {
         GlobalFree(image);
+    }
     SetFilePointer(file.handle, 0, nullptr, FILE_BEGIN);
+}
+
+// Whether the image has all these bytes.
+bool IsInImage(const PrmFile& file, uint64_t offset, uint32_t count) {
+    return file.image != nullptr && offset <= file.size && count <= file.size - offset;
+}
+
+// The entry at the offset; null unless the file has all of it.
+const PrmEntry* EntryAt(const PrmFile& file, uint32_t offset, PrmEntry& buffer) {
+    if (IsInImage(file, offset, sizeof(PrmEntry)))
+        return reinterpret_cast<const PrmEntry*>(file.image + offset);
+    uint32_t delivered = 0;
+    const bool isRead = PrmRead(file, &buffer, sizeof(buffer), offset, delivered);
+    return isRead && delivered == sizeof(buffer) ? &buffer : nullptr;
 }
 
 } // namespace
@@ -104,6 +120,14 @@ bool PrmRead(const PrmFile& file, void* to, uint32_t count, uint64_t offset, uin
     return ReadFully(file.handle, to, count, delivered);
 }
 
+const void* PrmBytesAt(const PrmFile& file, void* buffer, uint32_t count, uint64_t offset) {
+    if (IsInImage(file, offset, count))
+        return file.image + offset;
+    memset(buffer, 0, count);
+    uint32_t delivered = 0;
+    return PrmRead(file, buffer, count, offset, delivered) ? buffer : nullptr;
+}
+
 uint32_t PrmFindEntry(const PrmFile& file, const char* name) {
     PrmHeader header = {};
     uint32_t delivered = 0;
@@ -111,16 +135,18 @@ uint32_t PrmFindEntry(const PrmFile& file, const char* name) {
 
     // The chain may lead anywhere, also backwards; a file of this size holds no more entries than this.
     const uint32_t maxEntries = file.size / sizeof(PrmEntry);
+    const char initial = FoldCase(name[0]);
     uint32_t offset = kPrmFirstEntry;
     for (uint32_t i = 0; i < maxEntries; ++i) {
-        PrmEntry entry;
-        if (!PrmRead(file, &entry, sizeof(entry), offset, delivered) || delivered < sizeof(entry))
+        PrmEntry buffer;
+        const PrmEntry* entry = EntryAt(file, offset, buffer);
+        if (entry == nullptr)
             return 0;
-        if (SameText(entry.name, name))
+        if (FoldCase(entry->name[0]) == initial && SameText(entry->name, name)) // most differ at once
             return offset < header.chainEnd ? offset : 0;
-        if (entry.next >= header.chainEnd)
+        if (entry->next >= header.chainEnd)
             return 0;
-        offset = entry.next;
+        offset = entry->next;
     }
     return 0;
 }

@@ -34,6 +34,10 @@ void PrmClose(PrmFile* file);
 // failed. Offsets are 64 bits wide so that sums of file values can't wrap.
 bool PrmRead(const PrmFile& file, void* to, uint32_t count, uint64_t offset, uint32_t& delivered);
 
+// The `count` bytes at the offset, without a copy where the image has them all. Otherwise what can be read is
+// in `buffer`, followed by zeros. Null when a read failed.
+const void* PrmBytesAt(const PrmFile& file, void* buffer, uint32_t count, uint64_t offset);
+
 // Offset of the entry with this name (ASCII case ignored); 0 when there is none.
 uint32_t PrmFindEntry(const PrmFile& file, const char* name);
 

@@ -5,30 +5,18 @@
 
 #include <cstring>
 
-namespace {
-
-// Reads what there is of `count` bytes. False only when the read failed: nothing is read beyond the end.
-bool ReadBytes(const PrmFile& file, uint64_t offset, void* to, uint32_t count) {
-    uint32_t delivered = 0;
-    return PrmRead(file, to, count, offset, delivered);
+const char* PrmTextAt(const PrmFile& file, uint64_t offset, PrmText& buffer) {
+    const auto* text = static_cast<const char*>(PrmBytesAt(file, buffer, sizeof(buffer), offset));
+    return text != nullptr && memchr(text, 0, sizeof(buffer)) != nullptr ? text : nullptr;
 }
 
-} // namespace
-
-bool PrmReadString(const PrmFile& file, uint64_t offset, PrmText& to) {
-    PrmText text = {}; // bytes beyond the end of the file are 0
-    if (!ReadBytes(file, offset, text, sizeof(text)) || TextLength(text) > kPrmMaxTextBytes)
-        return false;
-    CopyText(to, text);
-    return true;
-}
-
-bool PrmReadWideString(const PrmFile& file, uint64_t offset, PrmWideText& to) {
-    PrmWideText text = {};
-    if (!ReadBytes(file, offset, text, kPrmMaxTextChars * sizeof(text[0])) || text[0] == 0)
-        return false;
-    CopyText(to, text);
-    return true;
+const wchar_t* PrmWideTextAt(const PrmFile& file, uint64_t offset, PrmWideText& buffer) {
+    constexpr uint32_t kMaxBytes = kPrmMaxTextChars * sizeof(wchar_t);
+    const void* text = PrmBytesAt(file, buffer, kMaxBytes, offset);
+    if (text != nullptr && reinterpret_cast<uintptr_t>(text) % alignof(wchar_t) != 0)
+        text = memcpy(buffer, text, kMaxBytes);
+    const auto* characters = static_cast<const wchar_t*>(text);
+    return characters != nullptr && characters[0] != 0 ? characters : nullptr;
 }
 
 bool PrmReadRange(const PrmFile& file, uint64_t offset, uint32_t (&values)[3]) {
@@ -92,7 +80,7 @@ bool PrmGetItemText(const PrmFile& file, const char* entry, const char* itemKey,
     PrmItems items;
     if (!PrmFindItems(file, entry, items))
         return false;
-    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
+    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const char* key) {
         constexpr size_t kMaxKeyBytes = 127;
         if (TextLength(key) > kMaxKeyBytes || !SameText(key, itemKey))
             return true;

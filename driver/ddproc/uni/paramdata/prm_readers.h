@@ -17,26 +17,46 @@ bool PrmReadRecord(const PrmFile& file, uint64_t offset, Record& record) {
     return PrmRead(file, &record, sizeof(Record), offset, delivered) && delivered > 0;
 }
 
-// Reads a text up to its terminator or the end of the file. False, with `to` unchanged, when a read fails or
-// the text is longer than kPrmMaxTextBytes.
-bool PrmReadString(const PrmFile& file, uint64_t offset, PrmText& to);
+// A record of the file, without a copy where the file is in memory. Otherwise it is read into `buffer`; bytes
+// that the file lacks are 0.
+template <typename Record>
+const Record& PrmRecordAt(const PrmFile& file, uint64_t offset, Record& buffer) {
+    static_assert(alignof(Record) == 1);
+    const void* record = PrmBytesAt(file, &buffer, sizeof(buffer), offset);
+    return record != nullptr ? *static_cast<const Record*>(record) : buffer;
+}
 
-// Reads a text up to its terminator, at most kPrmMaxTextChars characters. False, with `to` unchanged, when it
+// A text up to its terminator or the end of the file, without a copy where the file is in memory. Otherwise
+// it is read into `buffer`. Null when a read fails or the text is longer than kPrmMaxTextBytes.
+const char* PrmTextAt(const PrmFile& file, uint64_t offset, PrmText& buffer);
+
+// The key of an item; empty when it can't be read.
+inline const char* PrmKeyAt(const PrmFile& file, const PrmItemHead& item, PrmText& buffer) {
+    const char* key = PrmTextAt(file, item.key, buffer);
+    return key != nullptr ? key : "";
+}
+
+// As PrmTextAt, for at most kPrmMaxTextChars characters: a longer text has no terminator. Null when the text
 // is empty or a read fails.
-bool PrmReadWideString(const PrmFile& file, uint64_t offset, PrmWideText& to);
+const wchar_t* PrmWideTextAt(const PrmFile& file, uint64_t offset, PrmWideText& buffer);
 
-// The same into a field, cut to fit. The field is unchanged when the text can't be read.
+// Read a text into a field, cut to fit. False, with the field unchanged, when there is none.
 template <size_t Capacity>
-void PrmReadKey(const PrmFile& file, uint64_t offset, char (&key)[Capacity]) {
-    PrmText text;
-    if (PrmReadString(file, offset, text))
-        CopyText(key, text);
+bool PrmReadString(const PrmFile& file, uint64_t offset, char (&to)[Capacity]) {
+    PrmText buffer;
+    const char* text = PrmTextAt(file, offset, buffer);
+    if (text != nullptr)
+        CopyText(to, text);
+    return text != nullptr;
 }
 template <size_t Capacity>
-void PrmReadDisplay(const PrmFile& file, uint64_t offset, wchar_t (&display)[Capacity]) {
-    PrmWideText text;
-    if (PrmReadWideString(file, offset, text))
-        CopyText(display, text);
+bool PrmReadWideString(const PrmFile& file, uint64_t offset, wchar_t (&to)[Capacity]) {
+    static_assert(Capacity <= kPrmMaxTextChars + 1); // nothing is read behind the longest text
+    PrmWideText buffer;
+    const wchar_t* text = PrmWideTextAt(file, offset, buffer);
+    if (text != nullptr)
+        CopyText(to, text);
+    return text != nullptr;
 }
 
 // Reads the three values of a numeric block: [0] range A, [1] range B, [2] the default. False, with the
@@ -74,11 +94,10 @@ void PrmForEachInChain(const PrmFile& file, const PrmItems& items, Visit visit) 
     const uint32_t maxSteps = file.size / sizeof(PrmItemDescriptor);
     uint32_t offset = items.firstItem;
     for (uint32_t step = 0; step < items.count && step < maxSteps; ++step) {
-        PrmItemDescriptor item = {};
-        PrmReadRecord(file, offset, item);
-        PrmText key = {};
-        PrmReadString(file, item.head.key, key);
-        if (!visit(item.head, key))
+        PrmItemDescriptor buffer;
+        const PrmItemDescriptor& item = PrmRecordAt(file, offset, buffer);
+        PrmText keyBuffer;
+        if (!visit(item.head, PrmKeyAt(file, item.head, keyBuffer)))
             return;
         offset = item.next;
     }

@@ -12,7 +12,7 @@ namespace {
 constexpr uint32_t kMaxNamedRows = 64;
 
 // Whether the text ends in the ending and is longer.
-bool EndsIn(const PrmText& text, const char (&ending)[32]) {
+bool EndsIn(const char* text, const char (&ending)[32]) {
     const size_t length = TextLength(text);
     const size_t endingLength = TextLength(ending);
     return endingLength < length && SameCharacters(text + length - endingLength, ending, endingLength);
@@ -38,12 +38,12 @@ void BuildTrayRows(PrmFile& file, DeviceTable& table) {
     rows[count].head.size = sizeof(TrayRowRecord);
 
     const uint32_t named = count < kMaxNamedRows ? count : kMaxNamedRows;
-    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const PrmText& key) {
+    PrmForEachInChain(file, items, [&](const PrmItemHead& item, const char* key) {
         for (TrayRowRecord* row = rows; row < rows + named; ++row) {
             if (!EndsIn(key, row->head.key))
                 continue;
             CopyText(row->head.key, key);
-            PrmReadDisplay(file, item.display, row->display);
+            PrmReadWideString(file, item.display, row->display);
             break;
         }
         return true;
