@@ -129,7 +129,8 @@ TEST_F(DefaultsTest, DefaultRecordGivesItsValue) {
     };
     for (const auto& [entry, width, positions] : cases) {
         PrmImage image;
-        image.Entry(entry, {}, 0, image.Put(RawBytes(156).U8(0, 0xAB, 156).U32(12, kValue)));
+        const uint32_t record = image.Put(RawBytes(156).U8(0, 0xAB, 156).U32(12, kValue));
+        image.At<PrmEntryInfo>(image.Entry(entry, {}, 0, record) + 52).itemCount = 0xFFFFFFFF; // not used
         Writes writes;
         for (const size_t position : positions)
             writes.push_back({position, width, kValue});
@@ -296,13 +297,15 @@ TEST_F(DefaultsTest, ResolutionIsTheFirstItemWithTheDefaultKey) {
     const auto second = [](uint32_t number) {
         return Writes{{2136, 1, 1}, {2138, 2, 21}, {2140, 2, 22}, {2142, 2, 23}, {2144, 2, number}};
     };
-    const std::tuple<const char*, const char*, Writes> cases[] = {
-        {"Res2_1200x600", "res2_1200X600", second(1200)},
-        {"600x1x42", "600x1x42", second(42)},
-        {"Res_2", "Res_", {}},
-        {"", "", second(0)},
+    constexpr uint32_t kTooMany = 0x80000000; // than the file can hold
+    const std::tuple<const char*, const char*, uint32_t, Writes> cases[] = {
+        {"Res2_1200x600", "res2_1200X600", 3, second(1200)},
+        {"600x1x42", "600x1x42", 3, second(42)},
+        {"600x1x42", "600x1x42", kTooMany, {}},
+        {"Res_2", "Res_", 3, {}},
+        {"", "", 3, second(0)},
     };
-    for (const auto& [secondKey, defaultKey, writes] : cases) {
+    for (const auto& [secondKey, defaultKey, count, writes] : cases) {
         PrmImage image;
         std::vector<uint32_t> offsets;
         for (const char* key : {"Res_1", secondKey, secondKey}) {
@@ -310,7 +313,8 @@ TEST_F(DefaultsTest, ResolutionIsTheFirstItemWithTheDefaultKey) {
             const RawBytes record = RawBytes(32).U32(12, 77).U32(16, 77).U32(20, 0x10001 + i).U32(24, 2 + i);
             offsets.push_back(image.Put(RawBytes(record).U32(0, image.Text(key)).U32(28, 3 + i)));
         }
-        image.Entry("Resolution", offsets, 0, image.Put(RawBytes(32).U32(0, image.Text(defaultKey))));
+        const uint32_t record = image.Put(RawBytes(32).U32(0, image.Text(defaultKey)));
+        image.At<PrmEntryInfo>(image.Entry("Resolution", offsets, 0, record) + 52).itemCount = count;
         EXPECT_EQ(Compare(image, writes), "") << secondKey << " " << defaultKey;
     }
 }

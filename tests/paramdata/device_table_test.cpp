@@ -100,7 +100,7 @@ TEST_F(DeviceTableTest, MachineInformation) {
     EXPECT_EQ(Differences(NumberAt<void*>(machines, 28 + 20), RawBytes(32)), "");
 }
 
-TEST_F(DeviceTableTest, EntryWithAnImpossibleCountCountsAsMissing) {
+TEST_F(DeviceTableTest, ImpossibleCountLosesOnlyWhatItCounts) {
     for (const uint32_t count : {0xFFFFFFFFu, 0x80000000u, 0x10000000u}) {
         PrmImage image;
         const uint32_t switches = image.Table("FeatureSetting", "Staple=Enable");
@@ -109,11 +109,15 @@ TEST_F(DeviceTableTest, EntryWithAnImpossibleCountCountsAsMissing) {
         const uint32_t staples = image.Items<PrmTextItem>("Staple", {image.WithText("A", L"", 1, "")});
         image.At<PrmEntryInfo>(staples + 52).itemCount = count;
         image.Entry("MachineInfo", {image.Put(RawBytes(24).Text(0, "M").U32(16, count))});
-        image.Range("Copies", 1, 2, 3); // what follows is built
+        for (const uint32_t entry : {image.Range("Copies", 1, 2, 3), image.Table("PaperSizeFigure", "FigureType=MFP"),
+                                     image.Entry("Country", {image.Put(RawBytes(8).U32(0, 49))})})
+            image.At<PrmEntryInfo>(entry + 52).itemCount = count; // not used
         BuiltTable built(image);
         EXPECT_EQ(built.List(682), nullptr) << count;
         EXPECT_EQ(NumberAt<uint32_t>(built.table, 4 * 29), 0u) << count;
         EXPECT_EQ(NumberAt<uint16_t>(built.table, 340), 2) << count;
+        EXPECT_EQ(NumberAt<uint32_t>(built.table, 386), 1u) << count;
+        EXPECT_EQ(NumberAt<uint32_t>(built.table, 626), 49u) << count;
         ASSERT_NE(built.List(378), nullptr) << count;
         EXPECT_EQ(NumberAt<void*>(built.List(378), 20), nullptr) << count;
     }

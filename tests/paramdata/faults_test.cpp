@@ -61,6 +61,10 @@ TEST_F(FaultsTest, ResultsAreTheSameWithoutImageAndWithSmallReads) {
         EXPECT_EQ(Transcript(*file, image.Size()), expected) << what;
         win32::SetFileFaults({});
     }
+    win32::SetFileFaults({0, 0, false, false, 60});
+    OpenedImage cut(image);
+    EXPECT_EQ(cut.file->size, image.Size() + 60);
+    EXPECT_EQ(Differences(cut.file->image + image.Size(), RawBytes(60)), "") << "zeros instead of the missing bytes";
     win32::FailAllocations(1);
     EXPECT_EQ(OpenedImage(image).file, nullptr) << "no memory for the handle";
 }

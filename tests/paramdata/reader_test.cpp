@@ -57,13 +57,18 @@ TEST(Reader, EntryChainEndsAtItsBoundOrAfterTheMaximumOfSteps) {
     }
 }
 
-TEST(Reader, SmallestFilesAndNoFile) {
+TEST(Reader, SmallestAndLargestFilesAndNoFile) {
     for (const uint32_t size : {0u, 7u, 8u, 59u, 60u}) {
         PrmImage cut;
         cut.bytes.resize(size);
         OpenedImage file(cut);
         ASSERT_NE(file.file, nullptr) << size;
         EXPECT_EQ(PrmFindEntry(*file, "First"), size == 60 ? 8u : 0u) << size;
+    }
+    PrmImage large;
+    for (const uint32_t excess : {0u, 1u}) { // nothing is read from a file of more than 8 MiB
+        large.bytes.resize((8 << 20) + excess);
+        EXPECT_EQ(OpenedImage(large).file != nullptr, excess == 0);
     }
     EXPECT_EQ(PrmOpenW(L"no_such_folder/no_such_file.prm"), nullptr);
     const TemporaryFile disk(PrmImage().bytes);
@@ -161,7 +166,7 @@ TEST(Reader, StringValueMustFitWithItsTerminator) {
     PrmImage image;
     const std::string c126(126, 'a'), c290(290, 'b');
     image.StringValue("Empty", "");
-    image.StringValue("Short", "A4");
+    image.At<PrmEntryInfo>(image.StringValue("Short", "A4") + 52).itemCount = 0xFFFFFFFF; // not used
     image.StringValue("C126", c126);
     image.StringValue("C127", c126 + "a");
     image.StringValue("C290", c290);

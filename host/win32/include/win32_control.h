@@ -41,6 +41,7 @@ struct FileFaults {
     DWORD mostPerRead = 0;    // bytes that one read delivers at most; 0: no limit
     bool sizeFails = false;
     bool seekFails = false;
+    DWORD missing = 0; // bytes by which a file is shorter than its size, as when it has been cut meanwhile
 };
 void SetFileFaults(const FileFaults& ordered);
 

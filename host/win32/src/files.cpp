@@ -86,7 +86,7 @@ DWORD WINAPI GetFileSize(HANDLE file, DWORD* sizeHigh) {
     if (sizeHigh != nullptr)
         *sizeHigh = static_cast<DWORD>(status.st_size >> 32);
     SetLastError(0);
-    return static_cast<DWORD>(status.st_size);
+    return static_cast<DWORD>(status.st_size) + faults.missing;
 }
 
 BOOL WINAPI CloseHandle(HANDLE file) {

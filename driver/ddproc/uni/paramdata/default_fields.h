@@ -10,7 +10,7 @@
 template <typename Record>
 bool ReadDefault(const PrmFile& file, const char* entry, Record& record) {
     PrmItems items;
-    if (!PrmFindItems(file, entry, items) || items.defaultRecord == 0)
+    if (!PrmFindEntryInfo(file, entry, items) || items.defaultRecord == 0)
         return false;
     record = {};
     return PrmReadRecord(file, items.defaultRecord, record);

@@ -86,7 +86,7 @@ void FreeMachineInfo(const DeviceTable& table) {
 
 void BuildCountry(const PrmFile& file, DeviceTable& table) {
     PrmItems items;
-    if (!PrmFindItems(file, "Country", items))
+    if (!PrmFindEntryInfo(file, "Country", items))
         return;
     PrmCountry country = {};
     PrmReadRecord(file, PrmItemOffset(file, items, 0), country);

@@ -17,7 +17,7 @@ constexpr size_t kValueCapacity = sizeof(PrmTableRow::value) + 1;
 template <typename Visit>
 void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
     PrmItems items;
-    if (!PrmFindItems(file, entry, items))
+    if (!PrmFindEntryInfo(file, entry, items))
         return;
     PrmTableHeader header = {};
     PrmReadRecord(file, PrmItemOffset(file, items, 0), header);

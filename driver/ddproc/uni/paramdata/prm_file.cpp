@@ -8,8 +8,9 @@
 
 namespace {
 
-// Assumed size of a file whose size can't be queried.
-constexpr uint32_t kUnknownSize = 16u << 20;
+// Largest file that is loaded, about 100 times the file of a model. It limits how long a load takes, which
+// happens under the loader's lock: well below a second whatever the file contains.
+constexpr uint32_t kMaxFileBytes = 8u << 20;
 
 // A list in memory is at most 9 times as large as its items in the file: 144 bytes from 16.
 constexpr uint64_t kAllowanceFactor = 16;
@@ -32,16 +33,12 @@ bool ReadFully(HANDLE handle, void* to, uint32_t count, uint32_t& delivered) {
 
 // Loads the whole file. On any failure there is no image.
 void LoadImage(PrmFile& file) {
-    const DWORD size = GetFileSize(file.handle, nullptr);
-    if (size == INVALID_FILE_SIZE)
-        return;
-    file.size = size;
-    auto* image = static_cast<uint8_t*>(GlobalAlloc(GMEM_FIXED, size));
+    auto* image = static_cast<uint8_t*>(GlobalAlloc(GMEM_FIXED, file.size));
     if (image == nullptr)
         return;
     uint32_t delivered = 0;
-    if (ReadFully(file.handle, image, size, delivered)) {
-        memset(image + delivered, 0, size - delivered); // of a file that has become shorter
+    if (ReadFully(file.handle, image, file.size, delivered)) {
+        memset(image + delivered, 0, file.size - delivered); // of a file that has become shorter
         file.image = image;
     } else {
         GlobalFree(image);
@@ -83,8 +80,15 @@ PrmFile* PrmOpen(const void* path, uint32_t wideName) {
         GlobalFree(file);
         return nullptr;
     }
-    file->size = kUnknownSize;
-    LoadImage(*file);
+    const DWORD size = GetFileSize(file->handle, nullptr);
+    const bool isSizeKnown = size != INVALID_FILE_SIZE;
+    if (isSizeKnown && size > kMaxFileBytes) {
+        PrmClose(file);
+        return nullptr;
+    }
+    file->size = isSizeKnown ? size : kMaxFileBytes;
+    if (isSizeKnown)
+        LoadImage(*file);
     file->allowance = kAllowanceFactor * file->size + kAllowanceBase;
     return file;
 }

@@ -18,12 +18,12 @@ struct PrmFile {
     };
     uint32_t wideName;  // 1: opened by widePath, 0: by narrowPath
     uint8_t* image;     // the whole file in a global-heap block; null: reads go to the file
-    uint32_t size;      // of the file, in bytes
+    uint32_t size;      // of the file, in bytes; its limit when the size is unknown
     uint64_t allowance; // bytes that may still be allocated for what the file announces
 };
 
 // Opens the file and loads it into memory; where that fails, reads go to the file. `path` is UTF-16 when
-// `wideName` is 1, 8-bit when it is 0. Null when the file can't be opened.
+// `wideName` is 1, 8-bit when it is 0. Null when the file can't be opened or is larger than any model's.
 PrmFile* PrmOpen(const void* path, uint32_t wideName);
 PrmFile* PrmOpenW(const wchar_t* path);
 

@@ -34,7 +34,7 @@ bool PrmReadRange(const PrmFile& file, uint64_t offset, uint32_t (&values)[3]) {
 bool PrmReadStringValue(const PrmFile& file, const char* name, char* to, size_t capacity) {
     memset(to, 0, capacity);
     PrmItems items;
-    if (!PrmFindItems(file, name, items))
+    if (!PrmFindEntryInfo(file, name, items))
         return false;
     PrmItemDescriptor record = {};
     PrmReadRecord(file, items.defaultRecord, record);
@@ -47,22 +47,24 @@ bool PrmReadStringValue(const PrmFile& file, const char* name, char* to, size_t 
     return true;
 }
 
-bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items) {
+bool PrmFindEntryInfo(const PrmFile& file, const char* name, PrmItems& items) {
     const uint32_t offset = PrmFindEntry(file, name);
     PrmEntry entry = {};
     if (offset == 0 || !PrmReadRecord(file, offset, entry))
         return false;
     PrmEntryInfo info = {};
     PrmReadRecord(file, offset + uint64_t{sizeof(PrmEntry)}, info);
-    if (info.itemCount > file.size / sizeof(uint32_t))
-        return false;
     items = {offset, entry.firstItem, info.itemCount, info.defaultRecord, info.itemOffsets};
     return true;
 }
 
+bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items) {
+    return PrmFindEntryInfo(file, name, items) && items.count <= file.size / sizeof(uint32_t);
+}
+
 bool PrmReadEntryRange(const PrmFile& file, const char* name, uint32_t (&values)[3]) {
     PrmItems items;
-    return PrmFindItems(file, name, items)
+    return PrmFindEntryInfo(file, name, items)
            && PrmReadRange(file, items.entry + uint64_t{sizeof(PrmEntry) + sizeof(PrmEntryInfo)}, values);
 }
 

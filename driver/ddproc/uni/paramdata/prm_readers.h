@@ -67,7 +67,7 @@ bool PrmReadRange(const PrmFile& file, uint64_t offset, uint32_t (&values)[3]);
 // the key has capacity - 1 bytes or more. A key that can't be read is empty, and the result true.
 bool PrmReadStringValue(const PrmFile& file, const char* name, char* to, size_t capacity);
 
-// Where the items of an entry are.
+// What an entry says of its items. Nothing of it is checked.
 struct PrmItems {
     uint32_t entry;     // offset of the entry
     uint32_t firstItem; // start of the item chain
@@ -76,8 +76,10 @@ struct PrmItems {
     uint32_t offsets; // array of `count` item offsets
 };
 
-// Finds an entry and reads where its items are. False when it is missing. An entry that announces more items
-// than the file can hold counts as missing.
+// Finds an entry, for its range, its default or its first item. False when it is missing.
+bool PrmFindEntryInfo(const PrmFile& file, const char* name, PrmItems& items);
+
+// Finds an entry for all of its items. False also when it announces more items than the file can hold.
 bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items);
 
 // The range of an entry, as PrmReadRange. False also when the entry is missing.
