@@ -4,6 +4,7 @@
 #include "common/choices.h"
 #include "common/files.h"
 #include "common/text.h"
+#include "paramdata/prm_layout.h"
 #include "prmc/diff.h"
 #include "prmc/prm_parser.h"
 #include "prmc/prm_writer.h"
@@ -62,6 +63,10 @@ ExitCode Build(const std::string& source, const std::string& target) {
     if (findings.HasErrors())
         return kErrors;
     const std::vector<uint8_t> bytes = WritePrm(model);
+    if (bytes.size() > kPrmMaxFileBytes)
+        throw std::runtime_error("'" + source + "' has too many items: its file would have "
+                                 + std::to_string(bytes.size()) + " bytes, and the driver reads at most "
+                                 + std::to_string(kPrmMaxFileBytes));
     WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
     return kDone;
 }

@@ -8,10 +8,6 @@
 
 namespace {
 
-// Largest file that is loaded, about 100 times the file of a model. It limits how long a load takes, which
-// happens under the loader's lock: well below a second whatever the file contains.
-constexpr uint32_t kMaxFileBytes = 8u << 20;
-
 // A list in memory is at most 9 times as large as its items in the file: 144 bytes from 16.
 constexpr uint64_t kAllowanceFactor = 16;
 constexpr uint64_t kAllowanceBase = 4096;
@@ -82,11 +78,11 @@ PrmFile* PrmOpen(const void* path, uint32_t wideName) {
     }
     const DWORD size = GetFileSize(file->handle, nullptr);
     const bool isSizeKnown = size != INVALID_FILE_SIZE;
-    if (isSizeKnown && size > kMaxFileBytes) {
+    if (isSizeKnown && size > kPrmMaxFileBytes) {
         PrmClose(file);
         return nullptr;
     }
-    file->size = isSizeKnown ? size : kMaxFileBytes;
+    file->size = isSizeKnown ? size : kPrmMaxFileBytes;
     if (isSizeKnown)
         LoadImage(*file);
     file->allowance = kAllowanceFactor * file->size + kAllowanceBase;

@@ -11,6 +11,10 @@
 #include <cstddef>
 #include <cstdint>
 
+// Largest file that is read, some 100 times the file of a model. It limits how long a load takes, which
+// happens under the loader's lock: below a second whatever the file contains.
+constexpr uint32_t kPrmMaxFileBytes = 8u << 20;
+
 constexpr uint32_t kPrmFirstEntry = 8;   // offset of the first entry, directly after the header
 constexpr size_t kPrmMaxTextBytes = 290; // longest 8-bit text that is read, without its terminator
 constexpr size_t kPrmMaxTextChars = 291; // longest UTF-16 text that is read, without its terminator
