@@ -13,9 +13,11 @@ HANDLE CreateOutputFile() {
     wchar_t name[MAX_PATH] = L"";
     GetTempFileNameW(ProductFolder().c_str(), L"out", 0, name);
     SECURITY_ATTRIBUTES inheritable = {sizeof(inheritable), nullptr, TRUE};
-    return CreateFileW(name, GENERIC_READ | GENERIC_WRITE | DELETE,
-                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inheritable, CREATE_ALWAYS,
-                       FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    HANDLE file =
+        CreateFileW(name, GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    &inheritable, CREATE_ALWAYS, FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+    EXPECT_NE(file, INVALID_HANDLE_VALUE) << name << ": system error " << GetLastError();
+    return file;
 }
 
 // Returns the contents and closes the file.
@@ -55,7 +57,9 @@ Result RunWorkbench(const std::wstring& arguments, const fs::path& folder) {
     const BOOL isStarted =
         CreateProcessW((folder / "workbench.exe").c_str(), line.data(), nullptr, nullptr, TRUE,
                        EXTENDED_STARTUPINFO_PRESENT, nullptr, folder.c_str(), &start.StartupInfo, &process);
+    const DWORD failure = GetLastError();
     DeleteProcThreadAttributeList(start.lpAttributeList);
+    EXPECT_TRUE(isStarted) << line << ": system error " << failure;
     if (isStarted) {
         WaitForSingleObject(process.hProcess, INFINITE);
         GetExitCodeProcess(process.hProcess, &exitCode);
