@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <set>
-#include <stdexcept>
 
 namespace {
 
@@ -14,30 +13,51 @@ constexpr size_t kInfoHeaderSize = 40;
 constexpr size_t kTableEntrySize = 4;
 constexpr uint32_t kPixelsPerMeter = 3780; // 96 per inch
 
+struct Depth {
+    int bitsPerPixel;
+    size_t maxColors;
+};
+// In ascending order. Not compressed: the system does not document that it loads such bitmaps as sections.
+constexpr Depth kDepths[] = {{1, 2}, {4, 16}, {8, 256}};
+constexpr int kTrueColor = 24; // without a colour table
+
+int BitsFor(size_t colors) {
+    for (const Depth& depth : kDepths)
+        if (colors <= depth.maxColors)
+            return depth.bitsPerPixel;
+    return kTrueColor;
+}
+
+// The entries in use, except that the table of 8-bit bitmaps is always a full one, by contract.
+size_t TableSize(int bitsPerPixel, size_t colors) {
+    return bitsPerPixel == kTrueColor ? 0 : bitsPerPixel == 8 ? 256 : colors;
+}
+
 void PutColor(std::string& file, const Rgb& color) {
     for (const uint8_t channel : {color.b, color.g, color.r})
         file += static_cast<char>(channel);
 }
 
-// One row without padding.
+// One row without padding to 4 bytes. The leftmost pixel of a byte is in its highest bits.
 std::string Row(const Picture& picture, int y, int bitsPerPixel, const std::vector<Rgb>& table) {
     std::string row;
-    int pending = 0; // upper half of a byte with two pixels
+    unsigned byte = 0;
+    int free = 8; // bits of the byte
     for (int x = 0; x < picture.width; ++x) {
         const Rgb& pixel = picture.At(x, y);
-        if (bitsPerPixel == 24) {
+        if (bitsPerPixel == kTrueColor) {
             PutColor(row, pixel);
             continue;
         }
-        const auto index =
-            static_cast<int>(std::lower_bound(table.begin(), table.end(), pixel) - table.begin());
-        if (bitsPerPixel == 8 || x % 2 == 1)
-            row += static_cast<char>(bitsPerPixel == 8 ? index : pending | index);
-        else
-            pending = index << 4;
+        const auto index = std::lower_bound(table.begin(), table.end(), pixel) - table.begin();
+        free -= bitsPerPixel;
+        byte |= static_cast<unsigned>(index) << free;
+        if (free == 0 || x + 1 == picture.width) {
+            row += static_cast<char>(byte);
+            byte = 0;
+            free = 8;
+        }
     }
-    if (bitsPerPixel == 4 && picture.width % 2 == 1)
-        row += static_cast<char>(pending);
     return row;
 }
 
@@ -48,11 +68,11 @@ std::vector<Rgb> ColorsOf(const Picture& picture) {
     return {colors.begin(), colors.end()};
 }
 
-std::string BitmapFile(const Picture& picture, int bitsPerPixel, size_t tableSize) {
-    const std::vector<Rgb> table = tableSize == 0 ? std::vector<Rgb>() : ColorsOf(picture);
-    if (table.size() > tableSize)
-        throw std::runtime_error("a picture has " + std::to_string(table.size())
-                                 + " colours, but the table has only " + std::to_string(tableSize));
+std::string BitmapFile(const Picture& picture) {
+    // Ascending, so that a mask has black as 0 and white as 1, like a monochrome bitmap.
+    const std::vector<Rgb> table = ColorsOf(picture);
+    const int bitsPerPixel = BitsFor(table.size());
+    const size_t tableSize = TableSize(bitsPerPixel, table.size());
     std::string pixels;
     for (int y = picture.height - 1; y >= 0; --y) {
         pixels += Row(picture, y, bitsPerPixel, table);

@@ -6,9 +6,9 @@
 
 #include <string>
 
-// The bytes of a file with this depth: 4 or 8 bits per pixel with a colour table of `tableSize` entries, or
-// 24 without a table. Throws std::runtime_error when the picture has more colours than the table.
-std::string BitmapFile(const Picture& picture, int bitsPerPixel, size_t tableSize);
+// The bytes of a file with the lowest depth that holds the picture's colours: 1, 4 or 8 bits per pixel with a
+// colour table, or 24 without one.
+std::string BitmapFile(const Picture& picture);
 
 // The distinct colours of a picture, in ascending order.
 std::vector<Rgb> ColorsOf(const Picture& picture);

@@ -15,7 +15,6 @@ namespace {
 
 constexpr int kFrame = 200; // pixels in each direction, the same for all parts and highlights
 constexpr size_t kFrameColors = 256;
-constexpr size_t kBadgeColors = 4;
 
 std::string FileName(int id, const std::string& name) {
     return std::to_string(id) + "_" + name + ".bmp";
@@ -23,19 +22,18 @@ std::string FileName(int id, const std::string& name) {
 
 std::vector<GeneratedFile> DrawAll() {
     std::vector<GeneratedFile> files;
-    const auto add = [&files](int id, const std::string& name, const Picture& picture, int bits,
-                              size_t colors) {
-        files.push_back({FileName(id, name), BitmapFile(picture, bits, colors)});
+    const auto add = [&files](int id, const std::string& name, const Picture& picture) {
+        files.push_back({FileName(id, name), BitmapFile(picture)});
     };
     for (const Part& part : DrawParts(kFrame, kFrame, kFrameColors))
-        add(part.id, part.name, part.picture, 8, kFrameColors);
+        add(part.id, part.name, part.picture);
     for (const Highlight& highlight : DrawHighlights(kFrame, kFrame)) {
-        add(highlight.id, highlight.name, highlight.image, 8, kFrameColors);
-        add(highlight.id + 1, highlight.name + "_mask", highlight.mask, 8, kFrameColors);
+        add(highlight.id, highlight.name, highlight.image);
+        add(highlight.id + 1, highlight.name + "_mask", highlight.mask);
     }
-    add(201, "disk_missing", DrawBadge(false), 4, kBadgeColors);
-    add(202, "disk_installed", DrawBadge(true), 4, kBadgeColors);
-    add(502, "logo", DrawLogo(), 24, 0);
+    add(201, "disk_missing", DrawBadge(false));
+    add(202, "disk_installed", DrawBadge(true));
+    add(502, "logo", DrawLogo());
     return files;
 }
 

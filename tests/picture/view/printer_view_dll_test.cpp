@@ -16,6 +16,7 @@ struct PrinterView : testing::Test {
         const int width = std::max({rectangle.right, rectangle.left, 1L}) + 10;
         const int height = std::max({rectangle.bottom, rectangle.top, 1L}) + 10;
         Canvas got(width, height), wanted(width, height);
+        SetTextColor(got.dc, 0x1E5AC8), SetBkColor(got.dc, 0x8C143C); // must not colour masks of 1 bit
         records.Draw(module, got.dc, rectangle);
         DrawWanted(module.handle, wanted, rectangle, ids, caption, failure);
         return SamePicture(got, wanted);
