@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kRounds = 100;
+constexpr int kRounds = 50;
 constexpr uint32_t kDialogId = IDD_COLOR_FULL;
 
 decltype(DDProc_DlgProc)* dlgProc;
@@ -98,8 +98,7 @@ int wmain(int, wchar_t** arguments) {
         oursTimes.push_back(Measure([&] { DestroyWindow(ours.Show()); }));
         bareTimes.push_back(Measure([&] { DestroyWindow(bare.Show()); }));
     }
-    printf("%-50s %8.2f   (%.1f against %.1f ms, medians of %d)\n",
-           "open the full colour dialog : a bare one", Median(oursTimes) / Median(bareTimes),
-           Median(oursTimes) / 1000, Median(bareTimes) / 1000, kRounds);
+    PrintTimes("Dialog", oursTimes);
+    PrintTimes("BareDialog", bareTimes);
     return 0;
 }

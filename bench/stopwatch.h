@@ -1,12 +1,12 @@
-// Times of the benchmarks that run on Windows.
+// Times of the benchmarks that run on Windows, as scripts/bench reads them.
 #ifndef BENCH_STOPWATCH_H
 #define BENCH_STOPWATCH_H
 
-#include <algorithm>
+#include <cstdio>
 #include <vector>
 #include <windows.h>
 
-// The duration of the work in microseconds.
+// The duration of the work in nanoseconds.
 template <typename Work>
 double Measure(const Work& work) {
     LARGE_INTEGER start;
@@ -16,13 +16,15 @@ double Measure(const Work& work) {
     QueryPerformanceCounter(&start);
     work();
     QueryPerformanceCounter(&end);
-    return static_cast<double>(end.QuadPart - start.QuadPart) * 1e6 / static_cast<double>(frequency.QuadPart);
+    return static_cast<double>(end.QuadPart - start.QuadPart) * 1e9 / static_cast<double>(frequency.QuadPart);
 }
 
-inline double Median(std::vector<double> values) {
-    const auto middle = values.begin() + static_cast<ptrdiff_t>(values.size() / 2);
-    std::nth_element(values.begin(), middle, values.end());
-    return *middle;
+// Prints the time of each round as one line: the name, then nanoseconds.
+inline void PrintTimes(const char* name, const std::vector<double>& times) {
+    printf("%s", name);
+    for (const double time : times)
+        printf(" %.0f", time);
+    printf("\n");
 }
 
 #endif

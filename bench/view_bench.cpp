@@ -112,10 +112,8 @@ int wmain(int, wchar_t** arguments) {
             return 1;
         }
     }
-    printf("%-50s %8.2f   (%.0f against %.0f us, medians of %d)\n",
-           "draw the printer : its calls, bitmaps loaded", Median(ours) / Median(bare), Median(ours),
-           Median(bare), kRounds);
-    printf("%-50s %8.2f   (%.0f of %.0f us)\n", "  of which to load and free its bitmaps",
-           Median(loading) / Median(ours), Median(loading), Median(ours));
+    PrintTimes("Picture", ours);
+    PrintTimes("BarePicture", bare);
+    PrintTimes("PictureBitmaps", loading);
     return 0;
 }
