@@ -27,10 +27,11 @@ void SetAnswers(scripted_bdc::Script& script, const uint8_t* octets, const uint8
     for (ListAnswer* list : lists) {
         list->firstStatus = static_cast<int8_t>(next());
         list->status = static_cast<int8_t>(next());
+        list->count = next(); // with the items; the first one is that of the items, or more than there is memory for
         const size_t count = next();
         list->items = RawBytes(count % 16 * list->itemSize);
         if (count == 0xFF)
-            list->firstCount = UINT32_MAX; // more than there is memory for
+            list->firstCount = UINT32_MAX;
     }
     for (ListAnswer* list : lists)
         change(list->items);

@@ -1,9 +1,6 @@
-// Damaged binary files: each kind of damage is reported, and none crashes the parser or the YAML writer. The
-// offsets are those of the small model's file, see layout_test.cpp.
+// Damaged binary files: each kind of damage is reported. The offsets are those of the small model's file, see
+// layout_test.cpp. That none crashes the parser or the YAML writer is the fuzz target's to show.
 #include "engine_support.h"
-
-#include "prmc/diff.h"
-#include "prmc/yaml_writer.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -73,25 +70,12 @@ TEST(PrmDamage, SeparateDefaultRecordIsMatchedByKey) {
     EXPECT_EQ(model.entries.at(1).defaultItem, 0u);
 }
 
-// Cut files have errors. Any other file is parsed and dumped; without findings the dump reads back as the
-// same model.
-TEST(PrmDamage, CutAndChangedFilesDoNotCrashTheParser) {
+TEST(PrmDamage, EveryCutFileHasErrors) {
     const std::string sound = Build(kSmallModel);
-    for (size_t at = 0; at < sound.size(); ++at) {
+    for (size_t size = 0; size < sound.size(); ++size) {
         Lines messages;
-        WriteYaml(FromPrm(sound.substr(0, at), messages));
-        EXPECT_FALSE(messages.empty()) << at;
-        for (const int change : {0x01, 0x80, 0xFF, static_cast<int>(static_cast<uint8_t>(sound[at]))}) {
-            std::string bytes = sound;
-            bytes[at] = static_cast<char>(bytes[at] ^ change);
-            messages.clear();
-            const Model model = FromPrm(bytes, messages);
-            const std::string yaml = WriteYaml(model);
-            if (!messages.empty())
-                continue;
-            EXPECT_EQ(DiffModels(model, FromYaml(yaml, messages)), Lines{});
-            EXPECT_EQ(messages, Lines{});
-        }
+        FromPrm(sound.substr(0, size), messages);
+        EXPECT_FALSE(messages.empty()) << size;
     }
 }
 
