@@ -8,6 +8,7 @@
 #include "devcomm/snmp/snmp_values.h"
 #include "win32_control.h"
 
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -18,28 +19,18 @@ using SubIdentifiers = std::vector<UINT>;
 constexpr size_t kMaxSubIdentifiers = 128;
 constexpr size_t kMaxDigits = 15;
 
-// The sub-identifiers of a text; none when it is no OID.
+// The sub-identifiers of a text; none when it is no OID. An empty one is 0, but the first may be left out.
 SubIdentifiers ExpectedSubIdentifiers(const std::string& text) {
     SubIdentifiers ids;
-    bool isOpen = false;
-    std::string digits;
-    for (size_t i = 0; i <= text.size(); ++i) {
-        const char c = i < text.size() ? text[i] : '\0';
-        if (c >= '0' && c <= '9') {
-            isOpen = true;
-            digits += c;
+    std::istringstream pieces(text + '.');
+    for (std::string digits; std::getline(pieces, digits, '.');) {
+        if (digits.empty() && pieces.tellg() == 1)
             continue;
-        }
-        if ((c != '.' && c != '\0') || digits.size() > kMaxDigits)
+        const unsigned long long id = strtoull(digits.c_str(), nullptr, 10);
+        if (digits.find_first_not_of("0123456789") != std::string::npos || digits.size() > kMaxDigits || id > UINT32_MAX
+            || ids.size() == kMaxSubIdentifiers)
             return {};
-        if (isOpen) {
-            const unsigned long long id = strtoull(digits.c_str(), nullptr, 10);
-            if (id > UINT32_MAX || ids.size() == kMaxSubIdentifiers)
-                return {};
-            ids.push_back(static_cast<UINT>(id));
-        }
-        isOpen = c == '.';
-        digits.clear();
+        ids.push_back(static_cast<UINT>(id));
     }
     return ids.size() >= 2 && ids[0] < 3 && ids[1] < 40 ? ids : SubIdentifiers();
 }

@@ -12,7 +12,6 @@
 #include <string>
 #include <sys/mman.h>
 #include <unistd.h>
-#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -162,32 +161,15 @@ void CheckFixedParts(const CompiledInTables& kept) {
             "more than texts and numbers has changed");
 }
 
-// A folder for the module, made once: in it the parameter data file, which leads to a file in memory.
-struct ModuleFolder {
-    ModuleFolder() : descriptor(memfd_create("prm", MFD_CLOEXEC)) {
-        std::string name = fs::temp_directory_path() / "module_XXXXXX";
-        Require(descriptor >= 0 && mkdtemp(name.data()) != nullptr, "no folder");
-        path = name;
-        fs::create_symlink("/proc/self/fd/" + std::to_string(descriptor), path / "TELMAR_D.PRM");
-        const std::string module = path / "TELMAR_D.DLL";
-        modulePath.assign(module.begin(), module.end());
-        modulePath.push_back(0);
-    }
-    ~ModuleFolder() {
-        fs::remove_all(path);
-        close(descriptor);
-    }
-    ModuleFolder(const ModuleFolder&) = delete;
-    ModuleFolder& operator=(const ModuleFolder&) = delete;
-    void Store(const uint8_t* bytes, size_t size) const {
-        Require(ftruncate(descriptor, 0) == 0 && pwrite(descriptor, bytes, size, 0) == static_cast<ssize_t>(size),
-                "the memory file can't be written");
-    }
-
-    int descriptor;
-    fs::path path;
-    std::vector<wchar_t> modulePath;
-};
+// The parameter data file, in the folder of this name: a link to a file in memory. Its descriptor.
+constexpr wchar_t kModulePath[] = L"fuzzed_module/TELMAR_D.DLL";
+int LinkParameterFile() {
+    const int descriptor = memfd_create("prm", MFD_CLOEXEC);
+    fs::create_directory("fuzzed_module");
+    fs::remove("fuzzed_module/TELMAR_D.PRM");
+    fs::create_symlink("/proc/self/fd/" + std::to_string(descriptor), "fuzzed_module/TELMAR_D.PRM");
+    return descriptor;
+}
 
 } // namespace
 
@@ -197,11 +179,12 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     constexpr size_t kMaxPerByte = 1 + 16 + 10;
     constexpr size_t kMaxAnyway = 16384;
 
-    static const ModuleFolder folder;
-    folder.Store(octets, count);
+    static const int descriptor = LinkParameterFile();
+    Require(ftruncate(descriptor, 0) == 0 && pwrite(descriptor, octets, count, 0) == static_cast<ssize_t>(count),
+            "the file in memory can't be written");
     const CompiledInTables kept;
     win32::Reset();
-    win32::SetModuleFileName(folder.modulePath.data());
+    win32::SetModuleFileName(kModulePath);
     DllMain(nullptr, DLL_PROCESS_ATTACH, nullptr);
     Require(deviceTable != nullptr && mediaTypeLists != nullptr, "a readable file was not read");
     CheckTable(*deviceTable);
