@@ -1,0 +1,87 @@
+// Fuzz target: any bytes as the values that a printer returns to the module's queries, each with its type and length.
+// When they are used up, requests fail.
+#include "require.h"
+
+#include "devcomm/snmp/snmp_entry_points.h"
+#include "devcomm/snmp/snmp_values.h"
+#include "telmar_d.h"
+#include "win32_control.h"
+
+#include <algorithm>
+
+namespace {
+
+const uint8_t* input; // what is left of it
+const uint8_t* inputEnd;
+
+SnmpSession WINAPI Open(const char*, const char*, INT, INT) {
+    return &input;
+}
+
+BOOL WINAPI Close(SnmpSession) {
+    return TRUE;
+}
+
+// The first byte is the type, or else an error-status; the second is the length.
+INT WINAPI Request(SnmpSession, BYTE, SnmpVarBindList* list, AsnInteger32* errorStatus, AsnInteger32*) {
+    if (inputEnd - input < 2)
+        return 0;
+    AsnAny& value = list->list[0].value;
+    value.asnType = *input++;
+    const UINT length = *input++;
+    const UINT count = std::min(length, static_cast<UINT>(inputEnd - input));
+    const SnmpForm form = SnmpFormOf(value.asnType);
+    void* target = form == SnmpForm::kNumber ? &value.asnValue.number : ClientMemAlloc(count);
+    std::copy_n(input, form == SnmpForm::kNumber ? std::min(count, 4u) : count, static_cast<uint8_t*>(target));
+    input += count;
+    if (form == SnmpForm::kOctets) {
+        value.asnValue.string = {static_cast<BYTE*>(target), count, TRUE};
+    } else if (form == SnmpForm::kOid) {
+        value.asnValue.object = {count / 4, static_cast<UINT*>(target)};
+    } else if (form != SnmpForm::kNumber) {
+        ClientMemFree(target);
+        *errorStatus = value.asnType;
+        value.asnType = ASN_NULL;
+    }
+    return 1;
+}
+
+void CheckLists(const TelmarStoredResourceList* lists, size_t count) {
+    for (size_t i = 0; lists != nullptr && i < count; ++i)
+        for (int32_t entry = 0; entry < lists[i].count; ++entry) {
+            const TelmarStoredResourceEntry& texts = lists[i].entries[entry];
+            Require(texts.first[127] == 0 && texts.second[127] == 0 && texts.storage[31] == 0,
+                    "a text fills its field");
+        }
+    MIB_FreeOverlayInfo(const_cast<TelmarStoredResourceList*>(lists));
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
+    constexpr char kAgent[] = "192.0.2.7";
+    snmpEntryPoints = {ClientMemAlloc,        ClientMemFree, ClientOidFree, ClientVarBindFree,
+                       ClientVarBindListFree, Open,          Close,         Request,
+                       ClientStrToOid,        nullptr,       nullptr,       1};
+    input = octets;
+    inputEnd = octets + count;
+    switch (count > 0 ? *input++ : 0) {
+    case 0:
+        CheckLists(reinterpret_cast<TelmarStoredResourceList*>(MIB_OverlayRequest(kAgent, 0)), 1);
+        break;
+    case 1:
+        CheckLists(reinterpret_cast<TelmarStoredResourceList*>(MIB_ProfileRequest(kAgent)), TELMAR_PROFILE_SELECTORS);
+        break;
+    default:
+        MIB_IsModelOK(kAgent);
+        TelmarOptionRequestItem options[] = {{"OpMemory", ""}, {"OpHDD", ""}, {"OpInTray1", ""}, {"OpDuplex", ""}};
+        MIB_OptionRequest(kAgent, 4, options);
+        TelmarMrkSupRequestItem supplies[] = {{"Consumable2", 0, 0, 0}, {"Consumable5", 0, 0, 0}};
+        MIB_MrkSupRequest(kAgent, 2, supplies);
+        for (const TelmarMrkSupRequestItem& supply : supplies)
+            Require(supply.value >= 0 && supply.value <= 100, "no percentage");
+    }
+    const win32::Counts counts = win32::Count();
+    Require(counts.globalBlocks == 0 && counts.localBlocks == 0, "something is left over");
+    return 0;
+}
