@@ -45,8 +45,8 @@ bool ReadParameters(const Files& files) {
     DWORD count = 0;
     HANDLE file = CreateFileW(files.parameters.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
                               0, nullptr);
-    const bool isRead = file != INVALID_HANDLE_VALUE
-                        && ReadFile(file, bytes, GetFileSize(file, nullptr), &count, nullptr) != FALSE;
+    const bool isRead = file != INVALID_HANDLE_VALUE && GetFileSize(file, nullptr) <= kFileCapacity
+                        && ReadFile(file, bytes, kFileCapacity, &count, nullptr) != FALSE;
     CloseHandle(file);
     return isRead && count != 0;
 }

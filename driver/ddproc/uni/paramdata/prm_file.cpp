@@ -77,14 +77,15 @@ PrmFile* PrmOpen(const void* path, uint32_t wideName) {
         return nullptr;
     }
     const DWORD size = GetFileSize(file->handle, nullptr);
-    const bool isSizeKnown = size != INVALID_FILE_SIZE;
-    if (isSizeKnown && size > kPrmMaxFileBytes) {
+    if (size == INVALID_FILE_SIZE) {
+        file->size = kPrmMaxFileBytes;
+    } else if (size <= kPrmMaxFileBytes) {
+        file->size = size;
+        LoadImage(*file);
+    } else {
         PrmClose(file);
         return nullptr;
     }
-    file->size = isSizeKnown ? size : kPrmMaxFileBytes;
-    if (isSizeKnown)
-        LoadImage(*file);
     file->allowance = kAllowanceFactor * file->size + kAllowanceBase;
     return file;
 }
