@@ -755,8 +755,8 @@ int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPAR
 // of the system or built in, a query fails with the last error unchanged.
 //
 // A query blocks the calling thread until the printer has answered for each object. The built-in client gives
-// up an unresponsive printer after five attempts for each object; where the system's SNMP libraries are
-// installed, their limits apply.
+// up an unresponsive printer after five attempts for each object, and an answer that comes after its polls
+// counts as none; where the system's SNMP libraries are installed, their limits apply.
 
 // The tables that the queries follow. Never null.
 const TelmarModelCheckInfo* WINAPI MIB_ModelCheckInfo(void);
