@@ -1,11 +1,10 @@
 // Device capabilities of the shipped model: bin numbers and names of the paper sources whose options are
-// installed. The peer copies the same lists without any check.
+// installed.
 #include "base/records.h"
 #include "base/text.h"
 #include "paramdata/prm_file.h"
 
 #include <benchmark/benchmark.h>
-#include <cstring>
 
 namespace {
 
@@ -56,25 +55,5 @@ void Capabilities(benchmark::State& state) {
     state.counters["trays"] = answer;
 }
 BENCHMARK(Capabilities);
-
-void CopyOnly(benchmark::State& state) {
-    Model model;
-    size_t count = 0;
-    for ([[maybe_unused]] auto _ : state) {
-        count = 0;
-        for (const InputSlotRecord* tray = model.table->inputTrays; tray->head.key[0] != 0; ++tray)
-            model.bins[count++] = static_cast<WORD>(tray->head.value);
-        benchmark::ClobberMemory();
-        count = 0;
-        for (const InputSlotRecord* tray = model.table->inputTrays; tray->head.key[0] != 0; ++tray, ++count) {
-            memcpy(model.names[count], tray->display, sizeof(model.names[count]));
-            model.names[count][TELMAR_BIN_NAME_LENGTH - 1] = 0;
-        }
-        benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(2 * state.iterations());
-    state.counters["trays"] = static_cast<double>(count);
-}
-BENCHMARK(CopyOnly);
 
 } // namespace

@@ -1,13 +1,15 @@
-// Fuzz target: any bytes as the values that a printer returns to the module's queries, each with its type and length.
-// When they are used up, requests fail.
+// Fuzz target: any bytes as the values that a printer returns to the queries of the module, and of the stand-in for the
+// bidirectional library, each with its type and length. When they are used up, requests fail.
 #include "require.h"
 
+#include "bdclib/device_reader.h"
 #include "devcomm/snmp/snmp_entry_points.h"
 #include "devcomm/snmp/snmp_values.h"
 #include "telmar_d.h"
 #include "win32_control.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -48,6 +50,27 @@ void CheckLists(const TelmarStoredResourceList* lists, size_t count) {
     MIB_FreeOverlayInfo(const_cast<TelmarStoredResourceList*>(lists));
 }
 
+// All lists of the bidirectional library, into blocks of just their size.
+void ReadDevice(const char* agent) {
+    BdcDeviceRecord device = {};
+    CopyText(device.agent, agent);
+    const DeviceSession session(device);
+    uint32_t number = 0, paths = 0;
+    bool hasDuplex = false;
+    ObjectText name;
+    ReadPrinterNumber(session.connection.handle, number);
+    ReadModelName(session, name);
+    ReadMediaPaths(session, paths, hasDuplex);
+    for (const DeviceList* list :
+         {&kFirmwareList, &kMemoryList, &kOptionList, &kInputTrayList, &kOutputTrayList, &kFinisherList}) {
+        constexpr uint32_t kCapacity = 3;
+        const std::vector<uint8_t> items(kCapacity * list->itemSize);
+        uint32_t count = 0;
+        ReadList(session, *list, const_cast<uint8_t*>(items.data()), kCapacity, count);
+        Require(count <= kCapacity, "more items than there is room for");
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
@@ -63,6 +86,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
         CheckLists(reinterpret_cast<TelmarStoredResourceList*>(MIB_OverlayRequest(kAgent, 0)), 1);
     } else if (octets[0] == 1) {
         CheckLists(reinterpret_cast<TelmarStoredResourceList*>(MIB_ProfileRequest(kAgent)), TELMAR_PROFILE_SELECTORS);
+    } else if (octets[0] == 2) {
+        ReadDevice(kAgent);
     } else {
         TelmarOptionRequestItem options[] = {{"OpMemory", ""}, {"OpHDD", ""}, {"OpInTray1", ""}, {"OpDuplex", ""}};
         TelmarMrkSupRequestItem supplies[] = {{"Consumable2", 0, 0, 0}, {"Consumable5", 0, 0, 0}};

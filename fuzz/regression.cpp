@@ -56,7 +56,7 @@ void RunReplacedOctets(const Bytes& bytes) {
 // Overwrites each terminator and the bytes after it: texts that overrun a key, a name, a text, the longest read.
 void RunLongTexts(const Bytes& bytes) {
     for (size_t end = 1; end < bytes.size(); ++end)
-        for (const size_t length : {size_t{40}, size_t{130}, size_t{320}, size_t{700}}) {
+        for (const size_t length : {size_t{40}, size_t{127}, size_t{128}, size_t{129}, size_t{320}, size_t{700}}) {
             if (bytes[end] != 0 || bytes[end - 1] == 0 || end + length > bytes.size())
                 break;
             Bytes overrun(bytes);

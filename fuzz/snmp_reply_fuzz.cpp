@@ -1,5 +1,5 @@
 // Fuzz target: any bytes as the datagrams that come back for a request. Each goes through the reader
-// by itself, then all of them through one request of the built-in client. The input holds them one after the
+// by itself, then all of them through one request of the built-in client. The input has them one after the
 // other, each after two bytes with its length; the last may be cut. Run by libFuzzer and, over a fixed set
 // of inputs, by the regression test.
 #include "require.h"

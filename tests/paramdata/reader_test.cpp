@@ -2,6 +2,8 @@
 #include "base/text.h"
 #include "support/prm_image.h"
 
+#include <filesystem>
+
 namespace {
 
 TEST(Reader, FindsEntriesByFullNameInAnyCase) {
@@ -65,16 +67,37 @@ TEST(Reader, SmallestAndLargestFilesAndNoFile) {
         ASSERT_NE(file.file, nullptr) << size;
         EXPECT_EQ(PrmFindEntry(*file, "First"), size == 60 ? 8u : 0u) << size;
     }
-    PrmImage large;
-    for (const uint32_t excess : {0u, 1u}) { // nothing is read from a file of more than 8 MiB
-        large.bytes.resize((8 << 20) + excess);
-        EXPECT_EQ(OpenedImage(large).file != nullptr, excess == 0);
-    }
     EXPECT_EQ(PrmOpenW(L"no_such_folder/no_such_file.prm"), nullptr);
     const TemporaryFile disk(PrmImage().bytes);
+    constexpr uint64_t kMax = 8 << 20; // nothing is read from a larger file
+    for (const uint64_t size : {kMax, kMax + 1, (uint64_t{1} << 32) + 60}) {
+        std::filesystem::resize_file(disk.path, size);
+        PrmFile* file = PrmOpenW(disk.widePath.data());
+        EXPECT_EQ(file != nullptr, size == kMax) << size;
+        PrmClose(file);
+    }
+    std::filesystem::resize_file(disk.path, 60);
     PrmFile* byNarrowName = PrmOpen(disk.path.c_str(), 0);
     EXPECT_NE(byNarrowName, nullptr);
     PrmClose(byNarrowName);
+}
+
+TEST(Reader, ItemsAreFollowedUpToALimit) {
+    PrmImage image;
+    const uint32_t entry = image.Items("Loop", std::vector<PrmItemDescriptor>{image.Plain("K")});
+    const auto item = image.At<PrmEntry>(entry).firstItem;
+    image.At<PrmItemDescriptor>(item).next = item;
+    image.bytes.resize(1 << 20); // room for more
+    for (const uint32_t count : {65536u, 65537u}) {
+        image.At<PrmEntryInfo>(entry + 52).itemCount = count;
+        OpenedImage file(image);
+        PrmItems items;
+        EXPECT_EQ(PrmFindItems(*file, "Loop", items), count == 65536) << count;
+        ASSERT_TRUE(PrmFindEntryInfo(*file, "Loop", items));
+        uint32_t steps = 0;
+        PrmForEachInChain(*file, items, [&](const PrmItemHead&, const char*) { return ++steps != 0; });
+        EXPECT_EQ(steps, 65536u) << count;
+    }
 }
 
 TEST(Reader, ReadsEndAtTheEndOfTheFile) {

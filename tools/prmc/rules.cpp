@@ -6,6 +6,7 @@
 #include "common/choices.h"
 #include "common/text.h"
 #include "paramdata/feature_switches.h"
+#include "paramdata/prm_layout.h"
 
 #include <algorithm>
 #include <set>
@@ -159,11 +160,12 @@ void CheckTable(const Entry& entry, Findings& findings) {
 // Reports items that the driver does not use.
 void CheckTaken(const Entry& entry, Findings& findings) {
     const EntryRow& row = *entry.row;
-    if (row.maxItems > 0 && entry.records.size() > row.maxItems)
-        findings.Error(entry.records[row.maxItems].place,
-                       Quote(entry.name) + " has " + std::to_string(entry.records.size())
-                           + " items, but the driver takes at most " + std::to_string(row.maxItems)
-                           + ": remove the others");
+    const size_t most = row.maxItems > 0 ? row.maxItems : kPrmMaxElements;
+    if (entry.records.size() > most)
+        findings.Error(entry.records[most].place, Quote(entry.name) + " has "
+                                                      + std::to_string(entry.records.size())
+                                                      + " items, but the driver takes at most "
+                                                      + std::to_string(most) + ": remove the others");
     const std::vector<std::string> keys(row.keys.begin(), row.keys.end());
     for (const Record& record : entry.records) {
         const Value& key = record.values.front();

@@ -65,11 +65,10 @@ constexpr bool SameText(const TextA& a, const TextB& b) {
     return CharAt(a, i) == 0 && CharAt(b, i) == 0;
 }
 
-// A number by which different texts can be told apart without comparing them. Texts that are the same, ASCII
-// case ignored, have the same.
+// A hash of the text, ASCII case ignored: FNV-1a.
 template <typename Text>
 constexpr uint32_t TextHash(const Text& text) {
-    uint32_t hash = 2166136261; // FNV-1a
+    uint32_t hash = 2166136261;
     for (size_t i = 0; CharAt(text, i) != 0; ++i)
         hash = (hash ^ static_cast<uint8_t>(FoldCase(CharAt(text, i)))) * 16777619;
     return hash;

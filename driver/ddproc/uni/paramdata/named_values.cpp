@@ -12,7 +12,7 @@ namespace {
 // A value that fills its field has no terminator in the file.
 constexpr size_t kValueCapacity = sizeof(PrmTableRow::value) + 1;
 
-// Calls visit(row) for each row of the entry's table. A table that announces more rows than the file can hold
+// Calls visit(row) for each row of the entry's table. A table that announces more rows than are followed
 // counts as missing.
 template <typename Visit>
 void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
@@ -21,7 +21,7 @@ void ForEachRow(const PrmFile& file, const char* entry, Visit visit) {
         return;
     PrmTableHeader header = {};
     PrmReadRecord(file, PrmItemOffset(file, items, 0), header);
-    if (header.rowCount > file.size / sizeof(PrmTableRow))
+    if (header.rowCount > PrmMaxElements(file, sizeof(PrmTableRow)))
         return;
     for (uint32_t i = 0; i < header.rowCount; ++i) {
         PrmTableRow buffer;

@@ -1,5 +1,5 @@
 // Opens and reads the parameter data file. Normally the whole file is in memory; without that memory each
-// read goes to the file, with the same results.
+// read goes to the file, with the same results for any file of a model.
 #include "paramdata/prm_file.h"
 
 #include "base/text.h"
@@ -76,10 +76,11 @@ PrmFile* PrmOpen(const void* path, uint32_t wideName) {
         GlobalFree(file);
         return nullptr;
     }
-    const DWORD size = GetFileSize(file->handle, nullptr);
+    DWORD sizeHigh = 0;
+    const DWORD size = GetFileSize(file->handle, &sizeHigh);
     if (size == INVALID_FILE_SIZE) {
         file->size = kPrmMaxFileBytes;
-    } else if (size <= kPrmMaxFileBytes) {
+    } else if (sizeHigh == 0 && size <= kPrmMaxFileBytes) {
         file->size = size;
         LoadImage(*file);
     } else {
@@ -129,13 +130,18 @@ const void* PrmBytesAt(const PrmFile& file, void* buffer, uint32_t count, uint64
     return PrmRead(file, buffer, count, offset, delivered) ? buffer : nullptr;
 }
 
+uint32_t PrmMaxElements(const PrmFile& file, size_t size) {
+    const auto possible = static_cast<uint32_t>(file.size / size);
+    const uint32_t limit = file.image != nullptr ? kPrmMaxElements : kPrmMaxUnbuffered;
+    return possible < limit ? possible : limit;
+}
+
 uint32_t PrmFindEntry(const PrmFile& file, const char* name) {
     PrmHeader header = {};
     uint32_t delivered = 0;
     PrmRead(file, &header, sizeof(header), 0, delivered);
 
-    // The chain may lead anywhere, also backwards; a file of this size holds no more entries than this.
-    const uint32_t maxEntries = file.size / sizeof(PrmEntry);
+    const uint32_t maxEntries = PrmMaxElements(file, sizeof(PrmEntry)); // the chain may lead anywhere
     const char initial = FoldCase(name[0]);
     uint32_t offset = kPrmFirstEntry;
     for (uint32_t i = 0; i < maxEntries; ++i) {

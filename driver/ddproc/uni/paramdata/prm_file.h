@@ -38,6 +38,10 @@ bool PrmRead(const PrmFile& file, void* to, uint32_t count, uint64_t offset, uin
 // in `buffer`, followed by zeros. Null when a read failed.
 const void* PrmBytesAt(const PrmFile& file, void* buffer, uint32_t count, uint64_t offset);
 
+// Most elements of this many bytes each that are followed, by a count or by links: what the file can contain,
+// up to a fixed limit.
+uint32_t PrmMaxElements(const PrmFile& file, size_t size);
+
 // Offset of the entry with this name (ASCII case ignored); 0 when there is none.
 uint32_t PrmFindEntry(const PrmFile& file, const char* name);
 

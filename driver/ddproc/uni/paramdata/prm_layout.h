@@ -11,9 +11,11 @@
 #include <cstddef>
 #include <cstdint>
 
-// Largest file that is read, some 100 times the file of a model. It limits how long a load takes, which
-// happens under the loader's lock: below a second whatever the file contains.
-constexpr uint32_t kPrmMaxFileBytes = 8u << 20;
+// Limits far above those of any model. They limit how long a load takes, which happens under the loader's
+// lock, since a hostile file may lead to the same bytes again and again.
+constexpr uint32_t kPrmMaxFileBytes = 8u << 20;  // a larger file is not read
+constexpr uint32_t kPrmMaxElements = 1u << 16;   // entries, items of a list, rows of a table
+constexpr uint32_t kPrmMaxUnbuffered = 1u << 10; // the same where each read goes to the file
 
 constexpr uint32_t kPrmFirstEntry = 8;   // offset of the first entry, directly after the header
 constexpr size_t kPrmMaxTextBytes = 290; // longest 8-bit text that is read, without its terminator

@@ -59,7 +59,7 @@ bool PrmFindEntryInfo(const PrmFile& file, const char* name, PrmItems& items) {
 }
 
 bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items) {
-    return PrmFindEntryInfo(file, name, items) && items.count <= file.size / sizeof(uint32_t);
+    return PrmFindEntryInfo(file, name, items) && items.count <= PrmMaxElements(file, sizeof(uint32_t));
 }
 
 bool PrmReadEntryRange(const PrmFile& file, const char* name, uint32_t (&values)[3]) {

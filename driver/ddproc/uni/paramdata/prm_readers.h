@@ -79,7 +79,7 @@ struct PrmItems {
 // Finds an entry, for its range, its default or its first item. False when it is missing.
 bool PrmFindEntryInfo(const PrmFile& file, const char* name, PrmItems& items);
 
-// Finds an entry for all of its items. False also when it announces more items than the file can hold.
+// Finds an entry for all of its items. False also when it announces more items than PrmMaxElements.
 bool PrmFindItems(const PrmFile& file, const char* name, PrmItems& items);
 
 // The range of an entry, as PrmReadRange. False also when the entry is missing.
@@ -89,11 +89,10 @@ bool PrmReadEntryRange(const PrmFile& file, const char* name, uint32_t (&values)
 uint32_t PrmItemOffset(const PrmFile& file, const PrmItems& items, uint32_t position);
 
 // Calls visit(head, key) for each plain item of the chain until it returns false. The chain may lead anywhere
-// in the file, also backwards: the number of steps is limited by the item count and by what the file can
-// hold.
+// in the file, also backwards: the number of steps is limited by the item count and PrmMaxElements.
 template <typename Visit>
 void PrmForEachInChain(const PrmFile& file, const PrmItems& items, Visit visit) {
-    const uint32_t maxSteps = file.size / sizeof(PrmItemDescriptor);
+    const uint32_t maxSteps = PrmMaxElements(file, sizeof(PrmItemDescriptor));
     uint32_t offset = items.firstItem;
     for (uint32_t step = 0; step < items.count && step < maxSteps; ++step) {
         PrmItemDescriptor buffer;
