@@ -127,6 +127,8 @@ Model ReadDocument(const YAML::Node& root, Findings& findings) {
     std::vector<std::string> known;
     for (const EntryRow& row : KnownEntries())
         known.emplace_back(row.name);
+    if (root.IsMap() && root.size() == 0)
+        findings.Error({1, 1}, "the file has no entries");
     ForEachMember(root, "entries: NAME: ...", findings,
                   [&](const std::string& name, const YAML::Node& nameNode, const YAML::Node& valueNode) {
                       const EntryRow* row = FindEntryRow(name);

@@ -85,6 +85,7 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {"MediaTypeList_Tray: {items: {}}", "1:29: expected a list of items, each '- {...}'"},
     {"? [a]\n: b", "1:3: expected a name"},
     {"# nothing", "1:1: the file has no entries"},
+    {"{}", "1:1: the file has no entries"},
     {"Country: {value: 1}\n---\nCountry: {value: 2}",
      "2:1: a second document starts here, but a model file has only one"},
     {"# a stray comma\n,", "2:1: a second document starts here, but a model file has only one"},
