@@ -4,6 +4,7 @@
 #include "common/text.h"
 
 #include <algorithm>
+#include <tuple>
 
 std::string PlaceText(const Place& place) {
     if (place.line == 0)
@@ -21,6 +22,7 @@ bool Findings::HasErrors() const {
 
 void Findings::Sort() {
     std::stable_sort(list.begin(), list.end(), [](const Finding& a, const Finding& b) {
-        return std::pair(a.place.line, a.place.column) < std::pair(b.place.line, b.place.column);
+        return std::tuple(a.place.file, a.place.line, a.place.column)
+               < std::tuple(b.place.file, b.place.line, b.place.column);
     });
 }

@@ -2,6 +2,7 @@
 #ifndef COMMON_FINDINGS_H
 #define COMMON_FINDINGS_H
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -12,6 +13,7 @@
 struct Place {
     uint64_t line = 0;
     uint64_t column = 0;
+    size_t file = 0; // position among the files that were read; 0 is the one that was asked for
 };
 
 inline Place AtOffset(uint64_t offset) {
@@ -39,7 +41,7 @@ struct Findings {
     void Error(Place place, std::string message) { list.push_back({place, false, std::move(message)}); }
     void Note(Place place, std::string message) { list.push_back({place, true, std::move(message)}); }
     bool HasErrors() const;
-    void Sort(); // in the order of their places
+    void Sort(); // in the order of their files and places
 };
 
 #endif

@@ -6,10 +6,8 @@
 #include "common/text.h"
 #include "paramdata/prm_layout.h"
 #include "prmc/diff.h"
-#include "prmc/prm_parser.h"
+#include "prmc/model_file.h"
 #include "prmc/prm_writer.h"
-#include "prmc/rules.h"
-#include "prmc/yaml_reader.h"
 #include "prmc/yaml_writer.h"
 
 #include <CLI/CLI.hpp>
@@ -23,16 +21,6 @@ namespace {
 
 enum ExitCode { kDone = 0, kErrors = 1, kFailed = 2 };
 
-bool IsYaml(const std::string& path) {
-    const std::string extension = std::filesystem::path(path).extension().string();
-    if (EqualNoCase(extension, ".yaml") || EqualNoCase(extension, ".yml"))
-        return true;
-    if (!EqualNoCase(extension, ".prm"))
-        throw std::runtime_error("'" + path
-                                 + "' has an unknown file type: its name must end in .yaml or .PRM");
-    return false;
-}
-
 // Throws when the command takes the other kind of file.
 void ExpectForm(const std::string& path, bool wantsYaml) {
     if (IsYaml(path) != wantsYaml)
@@ -41,28 +29,19 @@ void ExpectForm(const std::string& path, bool wantsYaml) {
                                               : "a model; this command takes a binary file (.PRM)"));
 }
 
-// Reads a model or a binary file and applies the rules. The findings are sorted by place.
-Model ReadModel(const std::string& path, bool isYaml, Findings& findings) {
-    const std::string contents = ReadFile(path);
-    Model model = isYaml ? ReadYaml(contents, findings) : ParsePrm(contents, findings);
-    CheckRules(model, findings);
-    findings.Sort();
-    return model;
-}
-
-void Report(const std::string& path, const Findings& findings) {
-    for (const Finding& finding : findings.list)
-        std::cerr << path << ":" << FindingText(finding) << "\n";
+// Writes a line for each finding: FILE:PLACE: MESSAGE.
+void Report(const ModelFile& read, std::ostream& stream = std::cerr, const char* before = "") {
+    for (const Finding& finding : read.findings.list)
+        stream << before << read.files[finding.place.file] << ":" << FindingText(finding) << "\n";
 }
 
 ExitCode Build(const std::string& source, const std::string& target) {
     ExpectForm(source, true);
-    Findings findings;
-    const Model model = ReadModel(source, true, findings);
-    Report(source, findings);
-    if (findings.HasErrors())
+    const ModelFile read = ReadModelFile(source);
+    Report(read);
+    if (read.findings.HasErrors())
         return kErrors;
-    const std::vector<uint8_t> bytes = WritePrm(model);
+    const std::vector<uint8_t> bytes = WritePrm(read.model);
     if (bytes.size() > kPrmMaxFileBytes)
         throw std::runtime_error("'" + source + "' has too many items: its file would have "
                                  + std::to_string(bytes.size()) + " bytes, and the driver reads at most "
@@ -71,35 +50,32 @@ ExitCode Build(const std::string& source, const std::string& target) {
     return kDone;
 }
 
+// Prints the model as YAML; of a model that builds on another, the whole.
 ExitCode Dump(const std::string& path) {
-    ExpectForm(path, false);
-    Findings findings;
-    const Model model = ReadModel(path, false, findings);
-    if (!findings.list.empty())
-        std::cout
-            << "# Problems in the binary file; the parts that they name may be missing or changed below:\n";
-    for (const Finding& finding : findings.list)
-        std::cout << "#   " << FindingText(finding) << "\n";
-    std::cout << WriteYaml(model);
+    const ModelFile read = ReadModelFile(path);
+    if (IsYaml(path) && read.findings.HasErrors())
+        return Report(read), kErrors;
+    if (!read.findings.list.empty())
+        std::cout << "# Problems in the file; the parts that they name may be missing or changed below:\n";
+    Report(read, std::cout, "#   ");
+    std::cout << WriteYaml(read.model);
     if (!std::cout.flush())
         throw std::runtime_error("cannot write to the standard output");
-    return findings.HasErrors() ? kErrors : kDone;
+    return read.findings.HasErrors() ? kErrors : kDone;
 }
 
 ExitCode Check(const std::string& path) {
-    Findings findings;
-    ReadModel(path, IsYaml(path), findings);
-    Report(path, findings);
-    return findings.HasErrors() ? kErrors : kDone;
+    const ModelFile read = ReadModelFile(path);
+    Report(read);
+    return read.findings.HasErrors() ? kErrors : kDone;
 }
 
 Model ReadValid(const std::string& path) {
-    Findings findings;
-    Model model = ReadModel(path, IsYaml(path), findings);
-    Report(path, findings);
-    if (findings.HasErrors())
+    ModelFile read = ReadModelFile(path);
+    Report(read);
+    if (read.findings.HasErrors())
         throw std::runtime_error("'" + path + "' has errors: correct them before comparing");
-    return model;
+    return std::move(read.model);
 }
 
 ExitCode Diff(const std::string& first, const std::string& second) {
@@ -132,8 +108,9 @@ ExitCode Run(int argc, char** argv) {
     CLI::App* build = app.add_subcommand("build", "compile a model");
     build->add_option("MODEL.yaml", first, "the model")->required();
     build->add_option("-o,--output", second, "binary file to write")->required()->type_name("FILE.PRM");
-    CLI::App* dump = app.add_subcommand("dump", "print a binary file as YAML");
-    dump->add_option("FILE.PRM", first, "binary file")->required();
+    CLI::App* dump =
+        app.add_subcommand("dump", "print a file as YAML; a model with all that it takes from its base");
+    dump->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
     CLI::App* check =
         app.add_subcommand("check", "report all errors in a file; no output when there are none");
     check->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();

@@ -5,9 +5,14 @@
 
 #include "prmc/model.h"
 
+#include <functional>
 #include <string>
 
-// Returns what could be read even when there are errors, so that the rules can report theirs too.
-Model ReadYaml(const std::string& text, Findings& findings);
+// Reads the model that another one builds on: `name` as written in `base: NAME`, at `place`.
+using BaseReader = std::function<Model(const std::string& name, Place place)>;
+
+// Returns what could be read even when there are errors, so that the rules can report theirs too. Without a
+// reader, a base is an error.
+Model ReadYaml(const std::string& text, Findings& findings, const BaseReader& readBase = {});
 
 #endif
