@@ -44,6 +44,20 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
     EXPECT_EQ(ItemOf(reset, "OpOutTrayUnit"), "DisOpOutTrayUnit");
 }
 
+// The model has two trays, no options and no colour.
+TEST(WorkbenchSheet, MinimalModelIsShown) {
+    const Folder minimal(L"workbench_sheet_minimal", {"TELMAR_D.DLL", "TELMAR_D.PRM=models/minimal.prm", "TELMAR_S.DLL",
+                                                      "TELMAR_U.DLL", "TELMAR_B.DLL"});
+    const SheetFolder folder;
+    const Json tour = folder.Tour(minimal.Option());
+    EXPECT_EQ(Changes(tour), "inputTray:7:258 mediaType:257:263 ");
+    EXPECT_EQ(Pick(tour["trays"], "size"), Json({nullptr, "Letter"}));
+    const std::wstring out = L" --out \"" + (folder.path / "gallery.png").wstring() + L"\"";
+    EXPECT_EQ(RunForJson(L"gallery" + minimal.Option() + out)["picture"]["printers"], 3); // alone, from each tray
+    for (const wchar_t* dialog : {L"123", L"166"})
+        EXPECT_EQ(RunForJson(std::wstring(L"dialog ") + dialog + minimal.Option())["dialog"]["end"], "Cancel");
+}
+
 TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {
     const Folder noLibrary(L"workbench_sheet_no_library",
                            {"workbench.exe", "TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL", "TELMAR_U.DLL"});

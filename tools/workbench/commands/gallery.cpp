@@ -1,10 +1,12 @@
 // `workbench gallery`: one sheet with the module's pictures of the printer in all instructive combinations of
-// units, paper sources and output destinations, each with a caption.
+// the model's units, paper sources and output destinations, each with a caption.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/printer_scene.h"
 
+#include <algorithm>
 #include <iterator>
+#include <vector>
 
 namespace {
 
@@ -19,6 +21,7 @@ struct Row {
 };
 
 constexpr const char* kLct = "OpInTrayUnit=OpInTrayUnit1";
+constexpr const char* kNoUnit = "OpOutTrayUnit=DisOpOutTrayUnit";
 constexpr const char* kUnit1 = "OpOutTrayUnit=OpOutTrayUnit1";
 constexpr const char* kUnit2 = "OpOutTrayUnit=OpOutTrayUnit2";
 constexpr const char* kUnit3 = "OpOutTrayUnit=OpOutTrayUnit3";
@@ -27,6 +30,7 @@ constexpr const char* kBins = "OpMailBinKit=EnaOpMailBinKit";
 constexpr const char* kSaddle = "OpSaddleKit=EnaSaddleKit";
 constexpr const char* kDisk = "OpHDD=EnaOpHDD";
 constexpr const char* kPrinter = "OpBody=OpBodyPrinter";
+constexpr const char* kFirstMachine = "OpMachine=OpMachine1";
 
 // clang-format off
 
@@ -43,7 +47,7 @@ constexpr Row kRows[] = {
     {"Output unit 2, saddle kit",          {kUnit2, kSaddle}},
     {"Output unit 3",                      {kUnit3}},
     {"Output unit 4",                      {kUnit4}},
-    {"No unit, still bin 1 (flag 6)",      {}, "", 6},
+    {"No unit, still bin 1 (flag 6)",      {kNoUnit}, "", 6},
     {"Hard disk installed",                {kDisk}},
     {"Everything (unit 2)",                {kLct, kUnit2, kBins, kSaddle, kDisk}},
     {"One of several machines",            {}, "", 0, "lumora R880 Pro"},
@@ -77,20 +81,39 @@ constexpr Row kRows[] = {
 
 // The sheet, in pixels.
 constexpr LONG kAcross = 7;
-constexpr LONG kDown = (static_cast<LONG>(std::size(kRows)) + kAcross - 1) / kAcross;
 constexpr LONG kMargin = 24;
 constexpr LONG kTitleHeight = 44;
 constexpr LONG kCellGap = 10; // around a picture
 constexpr LONG kCellCaptionHeight = 26;
 constexpr SIZE kCell = {kSceneSize.cx + 2 * kCellGap, kSceneSize.cy + kCellGap + kCellCaptionHeight};
-constexpr SIZE kSheet = {kAcross * kCell.cx + 2 * kMargin + 1,
-                         kTitleHeight + kDown* kCell.cy + 2 * kMargin + 1};
 
 constexpr COLORREF kGridColor = RGB(222, 226, 230);
 constexpr COLORREF kTitleColor = RGB(33, 37, 41);
-constexpr const char* kTitle = "QUORVANE lumora R880: the printer's picture";
 
 constexpr TextStyle kTitleStyle = {26, FW_BOLD, kTitleColor, DT_LEFT | DT_TOP};
+
+// Whether the model has all that the row shows.
+bool IsOfModel(const FamilyFiles& family, const OptionFeatures& options, const Row& row) {
+    const auto isSet = [&](const char* setting) { return setting == nullptr || HasOption(options, setting); };
+    return std::all_of(std::begin(row.settings), std::end(row.settings), isSet)
+           && (row.tray[0] == 0 || FindByKey(family.table->inputTrays, row.tray) != nullptr)
+           && (row.machine == nullptr || HasOption(options, kFirstMachine));
+}
+
+std::vector<const Row*> RowsOf(const FamilyFiles& family) {
+    const OptionFeatures options = ReadOptionFeatures(family);
+    std::vector<const Row*> rows;
+    for (const Row& row : kRows)
+        if (IsOfModel(family, options, row))
+            rows.push_back(&row);
+    return rows;
+}
+
+std::string TitleOf(const FamilyFiles& family) {
+    const DeviceTable& table = *family.table;
+    const std::string name = table.machineInfoCount > 0 ? FieldText(table.machineInfo[0].name) : "";
+    return (name.empty() ? "" : name + ": ") + "the printer's picture";
+}
 
 PrinterScene SceneOf(const FamilyFiles& family, const Row& row) {
     PrinterScene scene = {ReadOptionFeatures(family), true, row.tray, {}};
@@ -120,16 +143,19 @@ void DrawCell(const FamilyFiles& family, const Row& row, HDC to, POINT at) {
 } // namespace
 
 Document DrawGallery(const FamilyFiles& family, const std::string& out) {
-    const Canvas sheet(kSheet);
-    DrawLine(sheet.context, {kMargin, kMargin, kSheet.cx - kMargin, kMargin + kTitleHeight}, kTitleStyle,
-             kTitle);
+    const std::vector<const Row*> rows = RowsOf(family);
+    const LONG down = (static_cast<LONG>(rows.size()) + kAcross - 1) / kAcross;
+    const Canvas sheet(
+        {kAcross * kCell.cx + 2 * kMargin + 1, kTitleHeight + down * kCell.cy + 2 * kMargin + 1});
+    DrawLine(sheet.context, {kMargin, kMargin, kMargin + kAcross * kCell.cx, kMargin + kTitleHeight},
+             kTitleStyle, TitleOf(family).c_str());
     POINT place = {0, 0}; // in cells
-    for (const Row& row : kRows) {
-        DrawCell(family, row, sheet.context,
+    for (const Row* row : rows) {
+        DrawCell(family, *row, sheet.context,
                  {kMargin + place.x * kCell.cx, kMargin + kTitleHeight + place.y * kCell.cy});
         place = place.x + 1 < kAcross ? POINT{place.x + 1, place.y} : POINT{0, place.y + 1};
     }
     Document picture = WritePicture(sheet, out);
-    picture["printers"] = std::size(kRows);
+    picture["printers"] = rows.size();
     return {{"files", FamilyDocument(family)}, {"picture", picture}};
 }

@@ -1,4 +1,5 @@
 // `workbench tour`: opens the property sheet, uses every page as a person would, and saves a picture of each.
+// What the model lacks is passed over.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/settings_fields.h"
 #include "workbench/property_sheet/page_driver.h"
@@ -7,6 +8,18 @@
 namespace {
 
 constexpr DWORD kMaxWait = 60000; // milliseconds, for a printer's answers
+
+// The name of an item of the list: the wanted one if it is there, else the last; empty when there is none.
+template <typename Record>
+std::string NameIn(const Record* list, const char* wanted) {
+    std::string name;
+    for (const Record& record : Listed(list)) {
+        name = FieldText(record.display);
+        if (name == wanted)
+            break;
+    }
+    return name;
+}
 
 struct Tour {
     SheetState& state;
@@ -30,24 +43,36 @@ void VisitPrinter(Tour& tour, const std::string& address) {
         driver.WaitUntil([&] { return !tour.state.isQuerying; }, kMaxWait);
     }
     tour.status = driver.Text(ID_STATUS);
-    driver.Choose(ID_OPTIONS, "Fax");
-    driver.Choose(ID_OPTION_ITEMS, "Installed");
+    if (HasOption(tour.state.options, "OpFAXUnit=EnaOpFAXKit")) {
+        driver.Choose(ID_OPTIONS, "Fax");
+        driver.Choose(ID_OPTION_ITEMS, "Installed");
+    }
     tour.SavePicture("page-printer");
 }
 
 void VisitPaper(Tour& tour) {
+    const DeviceTable& table = *tour.state.family.table;
+    const std::string tray = NameIn(table.inputTrays, "Tray 2"),
+                      type = NameIn(table.mediaTypes, "Letterhead");
     tour.driver.TurnTo(kPaperPage);
-    tour.driver.Choose(ID_SOURCE, "Tray 2");
-    tour.driver.Choose(ID_TYPE, "Letterhead");
-    tour.user.script = ParseDialogScript("choose 1844 Tray 2\nchoose 1860 A3\nok", "tour");
-    tour.driver.Click(ID_TRAY_BUTTON);
+    if (!tray.empty())
+        tour.driver.Choose(ID_SOURCE, tray);
+    if (!type.empty())
+        tour.driver.Choose(ID_TYPE, type);
+    if (TrayDialogOf(table).id != 0 && !tray.empty()) {
+        tour.user.script = ParseDialogScript(
+            "choose 1844 " + tray + "\nchoose 1860 " + NameIn(table.paperSizes, "A3") + "\nok", "tour");
+        tour.driver.Click(ID_TRAY_BUTTON);
+    }
     tour.SavePicture("page-paper");
 }
 
 void VisitQuality(Tour& tour) {
     tour.driver.TurnTo(kQualityPage);
-    tour.user.script = ParseDialogScript("choose 1354 Exact match\nok", "tour");
-    tour.driver.Click(ID_COLOR_DIALOG);
+    if (tour.state.family.table->colorDevice != 0) {
+        tour.user.script = ParseDialogScript("choose 1354 Exact match\nok", "tour");
+        tour.driver.Click(ID_COLOR_DIALOG);
+    }
     tour.SavePicture("page-quality");
 }
 

@@ -58,6 +58,25 @@ std::string KeyChoices(const Record* list) {
     return Choices(Listed(list), [](const Record& record) { return FieldText(KeyOf(record)); });
 }
 
+// The parts of "FEATURE=ITEM" and their positions in the model; -1 for what it lacks.
+struct Setting {
+    std::string featureKey;
+    std::string itemKey;
+    int32_t feature;
+    int32_t item;
+};
+
+Setting FindSetting(const OptionFeatures& options, const std::string& assignment) {
+    const size_t equals = assignment.find('=');
+    Setting setting = {assignment.substr(0, equals),
+                       equals == std::string::npos ? "" : assignment.substr(equals + 1), -1, -1};
+    setting.feature = FindPosition(options.features.data(), setting.featureKey.c_str());
+    if (setting.feature >= 0)
+        setting.item = FindPosition(options.features[static_cast<size_t>(setting.feature)].items,
+                                    setting.itemKey.c_str());
+    return setting;
+}
+
 } // namespace
 
 OptionFeatures ReadOptionFeatures(const FamilyFiles& family) {
@@ -70,21 +89,22 @@ OptionFeatures ReadOptionFeatures(const FamilyFiles& family) {
     return options;
 }
 
-void SetOption(OptionFeatures& options, const std::string& assignment) {
-    const size_t equals = assignment.find('=');
-    const std::string featureKey = assignment.substr(0, equals);
-    const std::string itemKey = equals == std::string::npos ? "" : assignment.substr(equals + 1);
+bool HasOption(const OptionFeatures& options, const std::string& assignment) {
+    return FindSetting(options, assignment).item >= 0;
+}
 
-    const FeatureRecord* features = options.features.data();
-    const int32_t feature = FindPosition(features, featureKey.c_str());
-    if (feature < 0)
-        throw Failure(kExitUsage, "no option feature '" + featureKey + "'; " + KeyChoices(features));
-    const int32_t item = FindPosition(features[feature].items, itemKey.c_str());
-    if (item < 0)
-        throw Failure(kExitUsage,
-                      featureKey + (itemKey.empty() ? " lacks its '=ITEM'" : " has no item '" + itemKey + "'")
-                          + "; " + KeyChoices(features[feature].items));
-    options.settings[static_cast<size_t>(feature)] = item;
+void SetOption(OptionFeatures& options, const std::string& assignment) {
+    const Setting setting = FindSetting(options, assignment);
+    if (setting.feature < 0)
+        throw Failure(kExitUsage, "no option feature '" + setting.featureKey + "'; "
+                                      + KeyChoices(options.features.data()));
+    const auto at = static_cast<size_t>(setting.feature);
+    if (setting.item < 0)
+        throw Failure(kExitUsage, setting.featureKey
+                                      + (setting.itemKey.empty() ? " lacks its '=ITEM'"
+                                                                 : " has no item '" + setting.itemKey + "'")
+                                      + "; " + KeyChoices(options.features[at].items));
+    options.settings[at] = setting.item;
 }
 
 void ApplyReportedOption(OptionFeatures& options, const char* featureKey, const char* itemKey) {

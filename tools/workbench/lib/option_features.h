@@ -18,7 +18,10 @@ struct OptionFeatures {
 // The features in the file, set to the file's defaults.
 OptionFeatures ReadOptionFeatures(const FamilyFiles& family);
 
-// Applies "FEATURE=ITEM" (ASCII case ignored). Throws Failure that lists what is possible.
+// Whether the model has the feature and the item of "FEATURE=ITEM" (ASCII case ignored).
+bool HasOption(const OptionFeatures& options, const std::string& assignment);
+
+// Applies "FEATURE=ITEM". Throws Failure that lists what is possible when the model lacks either.
 void SetOption(OptionFeatures& options, const std::string& assignment);
 
 // Applies what a printer reports. A feature or item that the model does not have is ignored.
