@@ -2,11 +2,13 @@
 #include "engine_support.h"
 
 #include "common/files.h"
+#include "prmc/diff.h"
 #include "prmc/model_file.h"
 #include "prmc/yaml_writer.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <regex>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -124,6 +126,15 @@ TEST_F(Base, FindingsNameTheFileAndLineThatSaidIt) {
         const std::string findings = Read(text).second;
         EXPECT_EQ(findings.substr(0, std::string(expected).size()), expected) << text;
     }
+}
+
+TEST(GermanModel, DiffersInTextsForPeopleOnly) {
+    const ModelFile english = ReadModelFile(MODEL_FILE);
+    const ModelFile german = ReadModelFile(fs::path(MODEL_FILE).replace_extension(".de.yaml").string());
+    EXPECT_TRUE(german.findings.list.empty());
+    const std::regex text("[^:]*/(name|secondName): .*|Watermark/[^:]*/text: .*");
+    for (const std::string& line : DiffModels(english.model, german.model))
+        EXPECT_TRUE(std::regex_match(line, text)) << line;
 }
 
 } // namespace

@@ -94,10 +94,12 @@ constexpr TextStyle kTitleStyle = {26, FW_BOLD, kTitleColor, DT_LEFT | DT_TOP};
 
 // Whether the model has all that the row shows.
 bool IsOfModel(const FamilyFiles& family, const OptionFeatures& options, const Row& row) {
-    const auto isSet = [&](const char* setting) { return setting == nullptr || HasOption(options, setting); };
+    const auto isSet = [&](const char* setting) {
+        return setting == nullptr || FindOption(options, setting) != nullptr;
+    };
     return std::all_of(std::begin(row.settings), std::end(row.settings), isSet)
            && (row.tray[0] == 0 || FindByKey(family.table->inputTrays, row.tray) != nullptr)
-           && (row.machine == nullptr || HasOption(options, kFirstMachine));
+           && (row.machine == nullptr || FindOption(options, kFirstMachine) != nullptr);
 }
 
 std::vector<const Row*> RowsOf(const FamilyFiles& family) {

@@ -9,16 +9,14 @@ namespace {
 
 constexpr DWORD kMaxWait = 60000; // milliseconds, for a printer's answers
 
-// The name of an item of the list: the wanted one if it is there, else the last; empty when there is none.
+// The name of the item with the key, else of the last item; empty when the list is empty.
 template <typename Record>
-std::string NameIn(const Record* list, const char* wanted) {
-    std::string name;
-    for (const Record& record : Listed(list)) {
-        name = FieldText(record.display);
-        if (name == wanted)
-            break;
-    }
-    return name;
+std::string NameIn(const Record* list, const char* key) {
+    const Rows<Record> items = Listed(list);
+    const Record* item = FindByKey(list, key);
+    if (item == nullptr && items.count > 0)
+        item = items.end() - 1;
+    return item != nullptr ? FieldText(item->display) : "";
 }
 
 struct Tour {
@@ -43,16 +41,16 @@ void VisitPrinter(Tour& tour, const std::string& address) {
         driver.WaitUntil([&] { return !tour.state.isQuerying; }, kMaxWait);
     }
     tour.status = driver.Text(ID_STATUS);
-    if (HasOption(tour.state.options, "OpFAXUnit=EnaOpFAXKit")) {
+    if (const ItemRecord* fax = FindOption(tour.state.options, "OpFAXUnit=EnaOpFAXKit")) {
         driver.Choose(ID_OPTIONS, "Fax");
-        driver.Choose(ID_OPTION_ITEMS, "Installed");
+        driver.Choose(ID_OPTION_ITEMS, FieldText(fax->display));
     }
     tour.SavePicture("page-printer");
 }
 
 void VisitPaper(Tour& tour) {
     const DeviceTable& table = *tour.state.family.table;
-    const std::string tray = NameIn(table.inputTrays, "Tray 2"),
+    const std::string tray = NameIn(table.inputTrays, "InTray2"),
                       type = NameIn(table.mediaTypes, "Letterhead");
     tour.driver.TurnTo(kPaperPage);
     if (!tray.empty())
@@ -70,7 +68,8 @@ void VisitPaper(Tour& tour) {
 void VisitQuality(Tour& tour) {
     tour.driver.TurnTo(kQualityPage);
     if (tour.state.family.table->colorDevice != 0) {
-        tour.user.script = ParseDialogScript("choose 1354 Exact match\nok", "tour");
+        tour.user.script = ParseDialogScript(
+            "choose 1354 " + NameIn(colorTables.image.colorMatches.items, "Img_Match") + "\nok", "tour");
         tour.driver.Click(ID_COLOR_DIALOG);
     }
     tour.SavePicture("page-quality");

@@ -89,8 +89,10 @@ OptionFeatures ReadOptionFeatures(const FamilyFiles& family) {
     return options;
 }
 
-bool HasOption(const OptionFeatures& options, const std::string& assignment) {
-    return FindSetting(options, assignment).item >= 0;
+const ItemRecord* FindOption(const OptionFeatures& options, const std::string& assignment) {
+    const Setting setting = FindSetting(options, assignment);
+    return setting.item < 0 ? nullptr
+                            : &options.features[static_cast<size_t>(setting.feature)].items[setting.item];
 }
 
 void SetOption(OptionFeatures& options, const std::string& assignment) {

@@ -18,8 +18,8 @@ struct OptionFeatures {
 // The features in the file, set to the file's defaults.
 OptionFeatures ReadOptionFeatures(const FamilyFiles& family);
 
-// Whether the model has the feature and the item of "FEATURE=ITEM" (ASCII case ignored).
-bool HasOption(const OptionFeatures& options, const std::string& assignment);
+// The item of "FEATURE=ITEM" (ASCII case ignored); null when the model lacks it or the feature.
+const ItemRecord* FindOption(const OptionFeatures& options, const std::string& assignment);
 
 // Applies "FEATURE=ITEM". Throws Failure that lists what is possible when the model lacks either.
 void SetOption(OptionFeatures& options, const std::string& assignment);
