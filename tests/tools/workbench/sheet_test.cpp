@@ -44,10 +44,16 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
     EXPECT_EQ(ItemOf(reset, "OpOutTrayUnit"), "DisOpOutTrayUnit");
 }
 
-// The model has two trays, no options and no colour.
+// The driver with another model of family/model or tests/models.
+struct OtherModel : Folder {
+    explicit OtherModel(const std::string& name)
+        : Folder(L"workbench_sheet_model", {"TELMAR_D.DLL", "TELMAR_D.PRM=models/" + name + ".prm", "TELMAR_S.DLL",
+                                            "TELMAR_U.DLL", "TELMAR_B.DLL"}) {}
+};
+
+// Two trays, no options, no colour.
 TEST(WorkbenchSheet, MinimalModelIsShown) {
-    const Folder minimal(L"workbench_sheet_minimal", {"TELMAR_D.DLL", "TELMAR_D.PRM=models/minimal.prm", "TELMAR_S.DLL",
-                                                      "TELMAR_U.DLL", "TELMAR_B.DLL"});
+    const OtherModel minimal("minimal");
     const SheetFolder folder;
     const Json tour = folder.Tour(minimal.Option());
     EXPECT_EQ(Changes(tour), "inputTray:7:258 mediaType:257:263 ");
@@ -56,6 +62,16 @@ TEST(WorkbenchSheet, MinimalModelIsShown) {
     EXPECT_EQ(RunForJson(L"gallery" + minimal.Option() + out)["picture"]["printers"], 3); // alone, from each tray
     for (const wchar_t* dialog : {L"123", L"166"})
         EXPECT_EQ(RunForJson(std::wstring(L"dialog ") + dialog + minimal.Option())["dialog"]["end"], "Cancel");
+}
+
+// More than 32 times the size of the shipped model.
+TEST(WorkbenchSheet, LargeModelIsShown) {
+    const OtherModel large("large");
+    EXPECT_GT(fs::file_size(large.path / "TELMAR_D.PRM"), 32 * fs::file_size(ProductFolder() / "TELMAR_D.PRM"));
+    EXPECT_EQ(RunForJson(L"describe" + large.Option())["lists"]["paperSizes"].size(), size_t{55} * 34);
+    const SheetFolder folder;
+    EXPECT_EQ(folder.Tour(large.Option())["trays"][1]["size"], "A3");
+    EXPECT_EQ(RunForJson(L"dialog 155 " + large.Option())["dialog"]["end"], "Cancel");
 }
 
 TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {
