@@ -68,7 +68,7 @@ TEST(WorkbenchSheet, MinimalModelIsShown) {
 TEST(WorkbenchSheet, LargeModelIsShown) {
     const OtherModel large("large");
     EXPECT_GT(fs::file_size(large.path / "TELMAR_D.PRM"), 32 * fs::file_size(ProductFolder() / "TELMAR_D.PRM"));
-    EXPECT_EQ(RunForJson(L"describe" + large.Option())["lists"]["paperSizes"].size(), size_t{55} * 34);
+    EXPECT_EQ(RunForJson(L"describe" + large.Option())["lists"]["PaperSize"].size(), size_t{60} * 36);
     const SheetFolder folder;
     EXPECT_EQ(folder.Tour(large.Option())["trays"][1]["size"], "A3");
     EXPECT_EQ(RunForJson(L"dialog 155 " + large.Option())["dialog"]["end"], "Cancel");
