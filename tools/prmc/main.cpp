@@ -8,6 +8,7 @@
 #include "prmc/diff.h"
 #include "prmc/prm_parser.h"
 #include "prmc/prm_writer.h"
+#include "prmc/reference.h"
 #include "prmc/rules.h"
 #include "prmc/yaml_reader.h"
 #include "prmc/yaml_writer.h"
@@ -71,6 +72,12 @@ ExitCode Build(const std::string& source, const std::string& target) {
     return kDone;
 }
 
+void Print(const std::string& text) {
+    std::cout << text;
+    if (!std::cout.flush())
+        throw std::runtime_error("cannot write to the standard output");
+}
+
 ExitCode Dump(const std::string& path) {
     ExpectForm(path, false);
     Findings findings;
@@ -80,9 +87,7 @@ ExitCode Dump(const std::string& path) {
             << "# Problems in the binary file; the parts that they name may be missing or changed below:\n";
     for (const Finding& finding : findings.list)
         std::cout << "#   " << FindingText(finding) << "\n";
-    std::cout << WriteYaml(model);
-    if (!std::cout.flush())
-        throw std::runtime_error("cannot write to the standard output");
+    Print(WriteYaml(model));
     return findings.HasErrors() ? kErrors : kDone;
 }
 
@@ -107,6 +112,35 @@ ExitCode Diff(const std::string& first, const std::string& second) {
     for (const std::string& line : lines)
         std::cout << line << "\n";
     return lines.empty() ? kDone : kErrors;
+}
+
+// The entries of these names, or all when there is no name.
+std::vector<const EntryRow*> FindEntries(const std::vector<std::string>& names) {
+    std::vector<const EntryRow*> rows;
+    std::vector<std::string> known;
+    for (const EntryRow& row : KnownEntries()) {
+        known.push_back(row.name);
+        if (names.empty())
+            rows.push_back(&row);
+    }
+    for (const std::string& name : names) {
+        rows.push_back(FindEntryRow(name));
+        if (!rows.back())
+            throw std::runtime_error("unknown entry " + Quote(name) + NearestHint(name, known)
+                                     + "\n'prmc entries' lists all.");
+    }
+    return rows;
+}
+
+ExitCode Entries(const std::vector<std::string>& names, bool isJson, bool isMarkdown) {
+    const std::vector<const EntryRow*> rows = FindEntries(names);
+    if (isJson)
+        Print(JsonReference(rows));
+    else if (isMarkdown)
+        Print(names.empty() ? MarkdownDocument() : MarkdownSections(rows));
+    else
+        Print(names.empty() ? ShortReference() : FullReference(rows));
+    return kDone;
 }
 
 // Describes the error in the command line.
@@ -140,6 +174,12 @@ ExitCode Run(int argc, char** argv) {
     CLI::App* diff = app.add_subcommand("diff", "compare two files' contents, each .yaml or .PRM");
     diff->add_option("A", first, "first file")->required();
     diff->add_option("B", second, "second file")->required();
+    CLI::App* entries = app.add_subcommand("entries", "describe the entries of a model");
+    std::vector<std::string> names;
+    bool isJson = false, isMarkdown = false;
+    entries->add_option("NAME", names, "entries to describe in full; without a name all are listed");
+    CLI::Option* json = entries->add_flag("--json", isJson, "write JSON");
+    entries->add_flag("--markdown", isMarkdown, "write Markdown")->excludes(json);
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -155,6 +195,8 @@ ExitCode Run(int argc, char** argv) {
         return Build(first, second);
     if (dump->parsed())
         return Dump(first);
+    if (entries->parsed())
+        return Entries(names, isJson, isMarkdown);
     return check->parsed() ? Check(first) : Diff(first, second);
 }
 
