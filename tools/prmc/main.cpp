@@ -5,10 +5,11 @@
 #include "common/files.h"
 #include "common/text.h"
 #include "paramdata/prm_layout.h"
+#include "prmc/commands/commands.h"
 #include "prmc/diff.h"
+#include "prmc/json_schema.h"
 #include "prmc/prm_parser.h"
 #include "prmc/prm_writer.h"
-#include "prmc/reference.h"
 #include "prmc/rules.h"
 #include "prmc/yaml_reader.h"
 #include "prmc/yaml_writer.h"
@@ -72,10 +73,11 @@ ExitCode Build(const std::string& source, const std::string& target) {
     return kDone;
 }
 
-void Print(const std::string& text) {
+ExitCode Print(const std::string& text) {
     std::cout << text;
     if (!std::cout.flush())
         throw std::runtime_error("cannot write to the standard output");
+    return kDone;
 }
 
 ExitCode Dump(const std::string& path) {
@@ -112,35 +114,6 @@ ExitCode Diff(const std::string& first, const std::string& second) {
     for (const std::string& line : lines)
         std::cout << line << "\n";
     return lines.empty() ? kDone : kErrors;
-}
-
-// The entries of these names, or all when there is no name.
-std::vector<const EntryRow*> FindEntries(const std::vector<std::string>& names) {
-    std::vector<const EntryRow*> rows;
-    std::vector<std::string> known;
-    for (const EntryRow& row : KnownEntries()) {
-        known.push_back(row.name);
-        if (names.empty())
-            rows.push_back(&row);
-    }
-    for (const std::string& name : names) {
-        rows.push_back(FindEntryRow(name));
-        if (!rows.back())
-            throw std::runtime_error("unknown entry " + Quote(name) + NearestHint(name, known)
-                                     + "\n'prmc entries' lists all.");
-    }
-    return rows;
-}
-
-ExitCode Entries(const std::vector<std::string>& names, bool isJson, bool isMarkdown) {
-    const std::vector<const EntryRow*> rows = FindEntries(names);
-    if (isJson)
-        Print(JsonReference(rows));
-    else if (isMarkdown)
-        Print(names.empty() ? MarkdownDocument() : MarkdownSections(rows));
-    else
-        Print(names.empty() ? ShortReference() : FullReference(rows));
-    return kDone;
 }
 
 // Describes the error in the command line.
@@ -180,6 +153,8 @@ ExitCode Run(int argc, char** argv) {
     entries->add_option("NAME", names, "entries to describe in full; without a name all are listed");
     CLI::Option* json = entries->add_flag("--json", isJson, "write JSON");
     entries->add_flag("--markdown", isMarkdown, "write Markdown")->excludes(json);
+    CLI::App* schema = app.add_subcommand("schema", "print a JSON Schema of the model file, for editors");
+    schema->add_flag("--json", isJson, "write JSON, as without it");
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -196,7 +171,9 @@ ExitCode Run(int argc, char** argv) {
     if (dump->parsed())
         return Dump(first);
     if (entries->parsed())
-        return Entries(names, isJson, isMarkdown);
+        return Print(DescribeEntries(names, isJson, isMarkdown));
+    if (schema->parsed())
+        return Print(ModelJsonSchema());
     return check->parsed() ? Check(first) : Diff(first, second);
 }
 

@@ -55,7 +55,7 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"diff good.PRM good.yaml", 0, "", ""},
         {"diff good.PRM other.yaml", 1, "Copies: only in the first file\n", ""},
         {"diff good.PRM bad.yaml", 2, "", "bad.yaml:1:1: "},
-        {"", 2, "", "prmc: a command is missing; possible: build, dump, check, diff, entries\n"},
+        {"", 2, "", "prmc: a command is missing; possible: build, dump, check, diff, entries, schema\n"},
         {"dmup good.PRM", 2, "", "prmc: unknown command 'dmup'; possible: build, "},
         {"dump --al good.PRM", 2, "", "prmc: unknown option '--al'"},
         {"dump good.PRM other.PRM", 2, "", "prmc: too many files: 'other.PRM'"},
