@@ -7,6 +7,7 @@
 #include "paramdata/prm_layout.h"
 #include "prmc/commands/commands.h"
 #include "prmc/diff.h"
+#include "prmc/findings_json.h"
 #include "prmc/json_schema.h"
 #include "prmc/prm_parser.h"
 #include "prmc/prm_writer.h"
@@ -52,16 +53,28 @@ Model ReadModel(const std::string& path, bool isYaml, Findings& findings) {
     return model;
 }
 
-void Report(const std::string& path, const Findings& findings) {
+ExitCode Print(const std::string& text) {
+    std::cout << text;
+    if (!std::cout.flush())
+        throw std::runtime_error("cannot write to the standard output");
+    return kDone;
+}
+
+// As JSON on the standard output, also when there are none; otherwise as lines on the standard error output.
+void Report(const std::string& path, const Findings& findings, bool isJson = false) {
+    if (isJson) {
+        Print(FindingsJson(path, findings));
+        return;
+    }
     for (const Finding& finding : findings.list)
         std::cerr << path << ":" << FindingText(finding) << "\n";
 }
 
-ExitCode Build(const std::string& source, const std::string& target) {
+ExitCode Build(const std::string& source, const std::string& target, bool isJson) {
     ExpectForm(source, true);
     Findings findings;
     const Model model = ReadModel(source, true, findings);
-    Report(source, findings);
+    Report(source, findings, isJson);
     if (findings.HasErrors())
         return kErrors;
     const std::vector<uint8_t> bytes = WritePrm(model);
@@ -70,13 +83,6 @@ ExitCode Build(const std::string& source, const std::string& target) {
                                  + std::to_string(bytes.size()) + " bytes, and the driver reads at most "
                                  + std::to_string(kPrmMaxFileBytes));
     WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
-    return kDone;
-}
-
-ExitCode Print(const std::string& text) {
-    std::cout << text;
-    if (!std::cout.flush())
-        throw std::runtime_error("cannot write to the standard output");
     return kDone;
 }
 
@@ -93,10 +99,10 @@ ExitCode Dump(const std::string& path) {
     return findings.HasErrors() ? kErrors : kDone;
 }
 
-ExitCode Check(const std::string& path) {
+ExitCode Check(const std::string& path, bool isJson) {
     Findings findings;
     ReadModel(path, IsYaml(path), findings);
-    Report(path, findings);
+    Report(path, findings, isJson);
     return findings.HasErrors() ? kErrors : kDone;
 }
 
@@ -134,8 +140,10 @@ ExitCode Run(int argc, char** argv) {
     CLI::App app{
         "Compiles a printer model's parameter data from YAML to the binary file that the driver reads.",
         "prmc"};
+    app.set_version_flag("--version", "prmc " PROJECT_VERSION);
     app.require_subcommand(1);
     std::string first, second;
+    bool isJson = false, isMarkdown = false;
     CLI::App* build = app.add_subcommand("build", "compile a model");
     build->add_option("MODEL.yaml", first, "the model")->required();
     build->add_option("-o,--output", second, "binary file to write")->required()->type_name("FILE.PRM");
@@ -144,12 +152,13 @@ ExitCode Run(int argc, char** argv) {
     CLI::App* check =
         app.add_subcommand("check", "report all errors in a file; no output when there are none");
     check->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
+    for (CLI::App* command : {build, check})
+        command->add_flag("--json", isJson, "write the errors and notes as JSON to the standard output");
     CLI::App* diff = app.add_subcommand("diff", "compare two files' contents, each .yaml or .PRM");
     diff->add_option("A", first, "first file")->required();
     diff->add_option("B", second, "second file")->required();
     CLI::App* entries = app.add_subcommand("entries", "describe the entries of a model");
     std::vector<std::string> names;
-    bool isJson = false, isMarkdown = false;
     entries->add_option("NAME", names, "entries to describe in full; without a name all are listed");
     CLI::Option* json = entries->add_flag("--json", isJson, "write JSON");
     entries->add_flag("--markdown", isMarkdown, "write Markdown")->excludes(json);
@@ -158,7 +167,7 @@ ExitCode Run(int argc, char** argv) {
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() == 0) // --help
+        if (error.get_exit_code() == 0) // --help, --version
             return app.exit(error), kDone;
         std::vector<std::string> commands;
         for (const CLI::App* command : app.get_subcommands(nullptr))
@@ -167,14 +176,14 @@ ExitCode Run(int argc, char** argv) {
                                  + "\n'prmc COMMAND --help' describes a command.");
     }
     if (build->parsed())
-        return Build(first, second);
+        return Build(first, second, isJson);
     if (dump->parsed())
         return Dump(first);
     if (entries->parsed())
         return Print(DescribeEntries(names, isJson, isMarkdown));
     if (schema->parsed())
         return Print(ModelJsonSchema());
-    return check->parsed() ? Check(first) : Diff(first, second);
+    return check->parsed() ? Check(first, isJson) : Diff(first, second);
 }
 
 } // namespace
