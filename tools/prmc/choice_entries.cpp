@@ -166,8 +166,7 @@ constexpr EntryRow kDialogTextRows[] = {
      "item.",
      nullptr, kTrayDialogKeys},
     {kMediaTypeListEntries[kMediaSize], &kPlainItem, 47, kNone, false,
-     "Additional item in the tray dialogs' list of sizes. It follows those of PaperSize and stands for what "
-     "is not known of a tray.",
+     "Item for an unknown size in the tray dialogs. It follows those of PaperSize.",
      "The list has no such item.",
      nullptr, kMediaTexts<kMediaSize>},
     {kMediaTypeListEntries[kMediaOrientation], &kPlainItem, 47, kNone, false,
@@ -175,23 +174,20 @@ constexpr EntryRow kDialogTextRows[] = {
      "The tray dialogs offer no orientations.",
      nullptr, kMediaTexts<kMediaOrientation>},
     {kMediaTypeListEntries[kMediaType], &kPlainItem, 47, kNone, false,
-     "Additional item in the tray dialogs' list of types. It follows those of MediaType and stands for what "
-     "is not known of a tray.",
+     "Item for an unknown type in the tray dialogs. It follows those of MediaType.",
      "The list has no such item.",
      nullptr, kMediaTexts<kMediaType>},
     {kMediaTypeListEntries[kMediaWeight], &kPlainItem, 47, kNone, false,
-     "Additional item in the tray dialogs' list of weights. It follows those of MediaWeight and stands for "
-     "what is not known of a tray.",
+     "Item for an unknown weight in the tray dialogs. It follows those of MediaWeight.",
      "The list has no such item.",
      nullptr, kMediaTexts<kMediaWeight>},
     {kMediaTypeListEntries[kMediaColor], &kPlainItem, 47, kNone, false,
-     "Additional item in the tray dialogs' list of colours. It follows those of MediaColor and stands for "
-     "what is not known of a tray.",
+     "Item for an unknown colour in the tray dialogs. It follows those of MediaColor.",
      "The list has no such item.",
      nullptr, kMediaTexts<kMediaColor>},
     {kMediaTypeListEntries[kMediaPrePunched], &kPlainItem, 47, kNone, false,
-     "Additional item in the tray dialogs' list of pre-punched paper. It follows those of MediaPrePunched "
-     "and stands for what is not known of a tray.",
+     "Item for paper of which it is unknown whether it is pre-punched, in the tray dialogs. It follows those "
+     "of MediaPrePunched.",
      "The list has no such item.",
      nullptr, kMediaTexts<kMediaPrePunched>},
 };

@@ -24,8 +24,7 @@ constexpr const char* kTextNote =
 constexpr const char* kSelectionNote =
     "The lists are for the generic modules. Each item has the bin number of the source that its key names.";
 constexpr const char* kOptionNote =
-    "Items and defaults are for the generic modules, which tell this module what is "
-    "installed.";
+    "Items and defaults are for the generic modules. This module learns from them what is installed.";
 
 const EntryGroup kGroups[] = {
     {"Features, ranges and facts about the device", "", kDeviceEntries},

@@ -59,6 +59,14 @@ std::string SummaryOf(const EntryRow& row) {
     return end == std::string::npos ? use : use.substr(0, end + 1);
 }
 
+std::string UseOf(const EntryRow& row) {
+    for (const EntryGroup& group : EntryGroups())
+        for (const EntryRow& member : group.entries)
+            if (std::string_view(member.name) == row.name && group.note[0] != 0)
+                return std::string(row.use) + " " + group.note;
+    return row.use;
+}
+
 std::string ExampleOf(const EntryRow& row) {
     const std::string name = row.name;
     const std::string body = ExampleItem(row);

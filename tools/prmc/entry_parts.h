@@ -10,6 +10,9 @@
 // The first sentence of what the driver does with the entry.
 std::string SummaryOf(const EntryRow& row);
 
+// What the driver does with the entry, and the note on its group.
+std::string UseOf(const EntryRow& row);
+
 // The entry as it may be in a model, without errors; ends in a line feed.
 std::string ExampleOf(const EntryRow& row);
 

@@ -70,22 +70,23 @@ SchemaJson FieldSchema(const EntryRow& row, const Field& field) {
     return {{"type", "array"}, {"items", number}, {"minItems", field.count}, {"maxItems", field.count}};
 }
 
-// The fields of a record, none of them required.
+// The fields of a record, none of them required. Null removes the record of the base.
 SchemaJson RecordSchema(const EntryRow& row) {
     SchemaJson properties = SchemaJson::object();
     for (const Field& field : row.kind->fields) {
         properties[field.name] = FieldSchema(row, field);
         properties[field.name]["description"] = field.meaning;
     }
-    return {{"type", "object"}, {"properties", properties}, {"additionalProperties", false}};
+    return {{"type", {"object", "null"}}, {"properties", properties}, {"additionalProperties", false}};
 }
 
+// What a whole record has.
 SchemaJson RequiredFields(const Kind& kind) {
     std::vector<std::string> names;
     for (const Field& field : kind.fields)
         if (field.required)
             names.push_back(field.name);
-    return Requiring(names);
+    return {{"type", "object"}, {"required", names}};
 }
 
 // The value of a row of a name/value table. Null removes the row of the base.
@@ -138,7 +139,7 @@ SchemaJson ListSchema(const EntryRow& row) {
          "new key, are a new item; null removes the item."},
         {"type", "object"},
         {"propertyNames", KeySchema(row)},
-        {"additionalProperties", {{"anyOf", {TypeOf("null"), fields}}}},
+        {"additionalProperties", fields},
     };
     return {{"properties", properties}, {"not", Requiring({"items", "change"})}};
 }
@@ -185,7 +186,7 @@ SchemaJson EntrySchema(const EntryRow& row) {
                                                         : RecordSchema(row);
     schema["type"] = {"object", "null"}; // null removes the entry of the base
     schema["additionalProperties"] = false;
-    schema["description"] = std::string(row.use) + "\nWithout it: " + row.absence;
+    schema["description"] = UseOf(row) + "\nWithout it: " + row.absence;
     schema["examples"] = SchemaJson::array({ExampleJson(row)});
     return schema;
 }

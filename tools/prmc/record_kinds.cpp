@@ -28,7 +28,7 @@ constexpr Field kDestFields[] = {
 constexpr Field kTextFields[] = {
     kKey,
     kName,
-    {"value", "The number that stands for the item in the settings and for the generic modules.",
+    {"value", "The item's number in the settings and for the generic modules.",
      T::kNumbers, true, offsetof(PrmTextItem, value)},
     {"text", "The printer's word for the item, for the generic modules.",
      T::kText, false, offsetof(PrmTextItem, text), 128},
@@ -36,7 +36,7 @@ constexpr Field kTextFields[] = {
 constexpr Field kMediaFields[] = {
     kKey,
     kName,
-    {"value", "The number that stands for the item in the settings and for the generic modules.",
+    {"value", "The item's number in the settings and for the generic modules.",
      T::kNumbers, true, offsetof(PrmMediaItem, value)},
     {"text", "The printer's word for the item, for the generic modules.",
      T::kText, false, offsetof(PrmMediaItem, text), 128},
@@ -58,7 +58,7 @@ constexpr Field kTrayFields[] = {
 constexpr Field kCollateFields[] = {
     kKey,
     kName,
-    {"value", "The number that stands for the item in the settings and for the generic modules.",
+    {"value", "The item's number in the settings and for the generic modules.",
      T::kNumbers, true, offsetof(PrmMediaItem, value)},
     {"extra", "A number for the generic modules; lumora_r880.yaml has 1 where sets may be offset.",
      T::kNumbers, false, offsetof(PrmMediaItem, extra), 1, kU32},
@@ -70,7 +70,7 @@ constexpr Field kCollateFields[] = {
 constexpr Field kOptionFields[] = {
     kKey,
     kName,
-    {"value", "The number that stands for the item in the settings and for the generic modules.",
+    {"value", "The item's number in the settings and for the generic modules.",
      T::kNumbers, true, offsetof(PrmTabPaper, value)},
 };
 constexpr Field kTabPaperFields[] = {

@@ -186,19 +186,10 @@ std::string Example(const Style& style, const std::string& yaml) {
     return "  Example:\n" + text;
 }
 
-std::string NoteOn(const EntryRow& row) {
-    for (const EntryGroup& group : EntryGroups())
-        for (const EntryRow& member : group.entries)
-            if (&member == &row || std::string(member.name) == row.name)
-                return group.note;
-    return "";
-}
-
 std::string EntryText(const EntryRow& row) {
     const Style style = {false};
     std::string text = std::string(row.name) + "\n";
-    const std::string note = NoteOn(row);
-    text += Wrapped(style, "  ", row.use + (note.empty() ? "" : " " + note));
+    text += Wrapped(style, "  ", UseOf(row));
     text += Wrapped(style, "  ", std::string("Without it: ") + row.absence) + "\n";
     text += Wrapped(style, "  ", FormText(style, row));
     text += row.kind->form == Form::kTable ? RowLines(style, TableRowsOf(row))
