@@ -284,7 +284,8 @@ std::string MarkdownDocument() {
         "entries` shows the same in a terminal. Names, keys and words are the same whatever their case. "
         "\"This module\" is the driver's module `TELMAR_D.DLL`; the generic modules of the driver read its "
         "device table and default settings.");
-    text += "\n## Contents\n\n" + Contents() + "\n## Kinds\n\n";
+    text += "\n## Contents\n\n" + Contents()
+            + "\n## Kinds\n\nFields that may be left out are 0 or empty then.\n\n";
     for (const Kind* kind : KindsInUse())
         text += KindSection(*kind) + "\n";
     for (const EntryGroup& group : EntryGroups()) {
