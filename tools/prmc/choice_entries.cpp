@@ -226,7 +226,7 @@ constexpr EntryRow kOptionRows[] = {
      "Whether the large-capacity tray is installed. It is when the key of the selected item starts with "
      "EnaOpInTray. No query reports it.",
      "The tray is always there, if InTray has it.",
-     "{key: EnaOpInTrayLCT, name: Installed}", {}, 0, kLargeTrayKeys},
+     "{key: EnaOpInTrayLCT, name: Installed}"},
     {"OpInTrayUnit", &kPlainItem, 47, kNone, true,
      "Paper input unit. The picture shows OpInTrayUnit1. The bidirectional library reports the keys below.",
      "The picture shows none.",

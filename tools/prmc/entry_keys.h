@@ -74,7 +74,6 @@ inline constexpr const char* kTray2Keys[] = {"EnaOpInTray2", "DisOpInTray2"};
 inline constexpr const char* kTray3Keys[] = {"EnaOpInTray3", "DisOpInTray3"};
 inline constexpr const char* kTray4Keys[] = {"EnaOpInTray4", "DisOpInTray4"};
 inline constexpr const char* kTray5Keys[] = {"EnaOpInTray5", "DisOpInTray5"};
-inline constexpr const char* kLargeTrayKeys[] = {"EnaOpInTrayLCT"};
 inline constexpr const char* kInUnitKeys[] = {"OpInTrayUnit1", "DisOpInTrayUnit"};
 inline constexpr const char* kOutUnitKeys[] = {
     "OpOutTrayUnit1", "OpOutTrayUnit2", "OpOutTrayUnit3", "OpOutTrayUnit4", "DisOpOutTrayUnit",

@@ -18,6 +18,17 @@ TEST(Reference, EveryExampleIsAModelOfItsEntryAlone) {
     }
 }
 
+// A description without its full stop is cut off or missing.
+TEST(Reference, EverythingIsDescribedInSentences) {
+    const auto isSentence = [](const std::string& text) { return text.size() > 1 && text.back() == '.'; };
+    for (const EntryRow& row : KnownEntries()) {
+        EXPECT_TRUE(isSentence(SummaryOf(row)) && isSentence(row.use) && isSentence(row.absence)) << row.name;
+        for (const Field& field : row.kind->fields)
+            EXPECT_TRUE(isSentence(field.meaning)) << row.kind->label << ": " << field.name;
+        EXPECT_TRUE(row.keys.count == 0 || row.specialKeys.count == 0) << row.name;
+    }
+}
+
 // Every key, row and field is in both forms that describe an entry in full.
 TEST(Reference, NothingThatTheDriverKnowsIsMissing) {
     for (const EntryRow& row : KnownEntries()) {
