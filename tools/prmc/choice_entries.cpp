@@ -63,7 +63,7 @@ constexpr EntryRow kColorRows[] = {
      "number is its position; the default's is the position of its key below, so keep that order. A default "
      "with any other key counts as the first item.",
      "The list has DeviceRGB and sRGB without names, and the settings start from the first.",
-     "{key: sRGB, name: sRGB}", {}, kMaxPageProfiles, kPageProfileKeys},
+     "{key: DeviceRGB, name: Device RGB}\n{key: sRGB, name: sRGB}", {}, kMaxPageProfiles, kPageProfileKeys},
     {"Text_RGBProf", &kPlainItem, 47, kNone, true,
      "RGB sources of text. The colour dialogs list them in the given order; only the first two where the "
      "printer's profiles are not offered. The settings start from the default.",
@@ -122,7 +122,9 @@ constexpr EntryRow kColorRows[] = {
      "A default with any other key counts as the first item. Give all six: a stored profile is found by its "
      "position after them.",
      "The list has the items below without names, and the settings start from Simu_None.",
-     "{key: Simu_None, name: None}", {}, kMaxSimulations, kSimulationKeys},
+     "{key: Simu_None, name: None}\n{key: Simu_SWOP, name: SWOP}\n{key: Simu_Euroscale, name: Euroscale}\n"
+     "{key: Simu_CommercialPress, name: Commercial press}\n{key: Simu_TOYO, name: TOYO}\n"
+     "{key: Simu_DIC, name: DIC}", {}, kMaxSimulations, kSimulationKeys},
     {"DestinationProf", &kPlainItem, 47, kNone, true,
      "Output profile of the whole page. The colour dialog with one output profile lists the item, then the "
      "printer's profiles. The settings start from the item.",

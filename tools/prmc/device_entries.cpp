@@ -30,7 +30,7 @@ constexpr EntryRow kDeviceRows[] = {
      "Turns the features of the model on. The device table has a switch for each; the rows say which of them "
      "this module reads, all others are for the generic modules.",
      "All features are off, as is a feature without a row.",
-     "ColorSetting: TYPE1\nPoster: Enable\nTrim: Disable"},
+     "BindingEdge: 4Bind\nPoster: Enable\nTrim: Disable"},
     {"Copies", &kRange, 0, kPlus16, false,
      "Number of copies. The limits are for the generic modules, through the device table; the settings start "
      "from the default.",

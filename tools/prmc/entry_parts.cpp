@@ -22,11 +22,12 @@ std::string KeyIn(const std::string& item) {
     return item.substr(at, item.find(',') - at);
 }
 
-std::string Indented(const std::string& lines) {
+// Each line with this before it.
+std::string Indented(const std::string& indent, const std::string& lines) {
     std::string text;
     for (size_t at = 0; at < lines.size();) {
         const size_t end = std::min(lines.find('\n', at), lines.size());
-        text += "  " + lines.substr(at, end - at) + "\n";
+        text += indent + lines.substr(at, end - at) + "\n";
         at = end + 1;
     }
     return text;
@@ -72,10 +73,10 @@ std::string ExampleOf(const EntryRow& row) {
     const std::string body = ExampleItem(row);
     switch (row.kind->form) {
     case Form::kList:
-        return name + ":\n" + (row.defaultNeeded ? "  default: " + KeyIn(body) + "\n" : "")
-               + "  items:\n    - " + body + "\n";
+        return name + ":\n" + (row.defaultNeeded ? "  default: " + KeyIn(body) + "\n" : "") + "  items:\n"
+               + Indented("    - ", body);
     case Form::kTable:
-        return name + ":\n" + Indented(body);
+        return name + ":\n" + Indented("  ", body);
     default:
         return name + ": " + body + "\n";
     }

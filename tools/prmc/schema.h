@@ -69,7 +69,7 @@ struct EntryRow {
     bool defaultNeeded;                 // the driver uses the default item
     const char* use;                    // what the driver does with it; the first sentence is a summary
     const char* absence;                // what the driver does without it
-    const char* example = nullptr;      // as a kind's; null: the kind's, with the first known key
+    const char* example = nullptr;      // as a kind's, or several items, a line each; null: the kind's
     Rows<const char*> keys = {};        // that the driver knows; empty: any key
     size_t maxItems = 0;                // that the driver takes; 0: any number
     Rows<const char*> specialKeys = {}; // when any key is taken: those to which the driver gives a meaning
