@@ -1,5 +1,5 @@
 // simprinter, a simulated printer on the network: command line, messages and exit codes.
-// Exit codes: 0 stopped by SIGTERM or SIGINT, or --help; 1 failure; 2 wrong usage.
+// Exit codes: 0 stopped by SIGTERM or SIGINT, --help or --version; 1 failure; 2 wrong usage.
 #include "common/files.h"
 #include "simprinter/device_reader.h"
 #include "simprinter/objects.h"
@@ -28,10 +28,11 @@ struct CommandLine {
     unsigned seed = 1;
 };
 
-// False after --help.
+// False after --help and --version.
 bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     CLI::App app{"A simulated printer on the network: answers SNMPv1 requests as a device would.",
                  "simprinter"};
+    app.set_version_flag("--version", "simprinter " PROJECT_VERSION);
     app.add_option("--address", line.server.address, "IPv4 address to listen on")->capture_default_str();
     app.add_option("--port", line.server.port, "UDP port; 0 takes a free one")
         ->check(CLI::Range(0, 65535))

@@ -208,11 +208,14 @@ std::string ParseErrorText(const CLI::App& app, const CLI::ParseError& error) {
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments) {
     CLI::App app("Shows how the QUORVANE lumora R880 driver module TELMAR_D.DLL behaves", "workbench");
     CommandLine line;
+    app.set_version_flag("--version", "workbench " PROJECT_VERSION);
     AddCommands(app, line);
     try {
         app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend())); // the last one first
     } catch (const CLI::CallForHelp&) {
         line.help = app.help();
+    } catch (const CLI::CallForVersion&) {
+        line.help = app.version() + "\n";
     } catch (const CLI::ParseError& error) {
         throw Failure(kExitUsage, ParseErrorText(app, error));
     }

@@ -10,7 +10,7 @@ struct CommandLine {
     std::string folder; // of the driver's files, UTF-8; empty: the program's folder
     bool json = false;
     std::function<Document(const FamilyFiles& family)> run;
-    std::string help; // not empty: to be shown instead of running a command
+    std::string help; // or the version; not empty: to be shown instead of running a command
 };
 
 // Parses the arguments (UTF-8, without the program's name). Throws Failure that says what is wrong and what

@@ -55,10 +55,30 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"diff good.PRM good.yaml", 0, "", ""},
         {"diff good.PRM other.yaml", 1, "Copies: only in the first file\n", ""},
         {"diff good.PRM bad.yaml", 2, "", "bad.yaml:1:1: "},
-        {"", 2, "", "prmc: a command is missing; possible: build, dump, check, diff\n"},
+        {"", 2, "", "prmc: a command is missing; possible: build, dump, check, diff, entries, schema\n"},
         {"dmup good.PRM", 2, "", "prmc: unknown command 'dmup'; possible: build, "},
         {"dump --al good.PRM", 2, "", "prmc: unknown option '--al'"},
         {"dump good.PRM other.PRM", 2, "", "prmc: too many files: 'other.PRM'"},
+        {"entries", 0, "FeatureSetting              name/value table  Turns the features", ""},
+        {"entries country", 0, "Country\n  The country. ", ""},
+        {"entries --json Copies COUNTRY", 0, "[\n  {\n    \"name\": \"Copies\",", ""},
+        {"entries --markdown Country", 0, "### Country\n\nThe country. ", ""},
+        {"entries Contry", 2, "", "prmc: unknown entry 'Contry'; did you mean 'Country'?\n"},
+        {"check --json good.yaml", 0, "[]\n", ""},
+        {"check bad.yaml --json", 1, R"([
+  {
+    "file": "bad.yaml",
+    "line": 1,
+    "column": 1,
+    "severity": "error",
+    "message": "unknown entry 'Countri'; did you mean 'Country'?"
+  }
+]
+)", ""},
+        {"check broken.PRM --json", 1, "[\n  {\n    \"file\": \"broken.PRM\",\n    \"offset\": ", ""},
+        {"build --json bad.yaml -o new.PRM", 1, "[\n  {\n    \"file\": \"bad.yaml\",", ""},
+        {"check none.yaml --json", 2, "", "prmc: cannot read 'none.yaml'"},
+        {"--version", 0, "prmc " PROJECT_VERSION "\n", ""},
         {"--help", 0, "Compiles a printer model's parameter data", ""},
     };
     // clang-format on

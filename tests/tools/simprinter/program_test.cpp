@@ -16,6 +16,7 @@ TEST(Program, ExitCodesAndMessages) {
     const RunningPrinter other;
     const std::tuple<std::string, int, std::string> cases[] = {
         {"--help", 0, "A simulated printer on the network: "},
+        {"--version", 0, "simprinter " PROJECT_VERSION "\n"},
         {"--prot 1", 2, "simprinter: "},
         {"--fault dealy=5", 2, "simprinter: fault 'dealy=5': unknown fault; possible: silence, loss, delay, "},
         {"--fault delay", 2, "simprinter: fault 'delay': write delay=MS"},

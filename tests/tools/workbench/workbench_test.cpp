@@ -85,6 +85,10 @@ TEST(Workbench, TextOutputIsAlignedUtf8) {
     EXPECT_EQ(result.output.find(" \n"), std::string::npos) << "spaces at the end of a line";
 }
 
+TEST(Workbench, VersionIsThatOfTheProject) {
+    EXPECT_EQ(RunWorkbench(L"--version").output, "workbench " PROJECT_VERSION "\n");
+}
+
 // Expected values are those of the device's description.
 TEST(Workbench, QueryReportsSnmpAnswers) {
     const Json equipped = RunForJson(L"query 127.0.162.1");

@@ -1,0 +1,28 @@
+// The commands build and check.
+#include "common/files.h"
+#include "paramdata/prm_layout.h"
+#include "prmc/commands/output.h"
+#include "prmc/prm_writer.h"
+
+#include <stdexcept>
+
+ExitCode Build(const std::string& source, const std::string& target, const CheckOptions& options) {
+    ExpectForm(source, true);
+    const ModelFile read = ReadModelFile(source);
+    Report(read, options);
+    if (read.findings.HasErrors())
+        return kErrors;
+    const std::vector<uint8_t> bytes = WritePrm(read.model);
+    if (bytes.size() > kPrmMaxFileBytes)
+        throw std::runtime_error("'" + source + "' has too many items: its file would have "
+                                 + std::to_string(bytes.size()) + " bytes, and the driver reads at most "
+                                 + std::to_string(kPrmMaxFileBytes));
+    WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
+    return kDone;
+}
+
+ExitCode Check(const std::string& path, const CheckOptions& options) {
+    const ModelFile read = ReadModelFile(path);
+    Report(read, options);
+    return read.findings.HasErrors() ? kErrors : kDone;
+}
