@@ -30,11 +30,17 @@ ExitCode Run(int argc, char** argv) {
         "prmc"};
     app.set_version_flag("--version", "prmc " PROJECT_VERSION);
     app.require_subcommand(1);
-    std::string first, second;
+    std::string first, second, report;
     bool isJson = false, isMarkdown = false;
     CLI::App* build = app.add_subcommand("build", "compile a model");
     build->add_option("MODEL.yaml", first, "the model")->required();
     build->add_option("-o,--output", second, "binary file to write")->required()->type_name("FILE.PRM");
+    CLI::App* watch = app.add_subcommand("watch", "check a model at each save, until Ctrl+C");
+    watch->add_option("MODEL.yaml", first, "the model")->required();
+    watch->add_option("-o,--output", second, "binary file to write while there is no error")
+        ->type_name("FILE.PRM");
+    watch->add_option("--report", report, "shell command to run then, such as './dev report MODEL.yaml'")
+        ->type_name("COMMAND");
     CLI::App* dump =
         app.add_subcommand("dump", "print a file as YAML; a model with all that it takes from its base");
     dump->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
@@ -66,6 +72,8 @@ ExitCode Run(int argc, char** argv) {
     }
     if (build->parsed())
         return Build(first, second, {isJson});
+    if (watch->parsed())
+        Watch(first, second, report, {isJson});
     if (dump->parsed())
         return Dump(first);
     if (entries->parsed())

@@ -65,9 +65,9 @@ Model ReadBase(ModelFile& read, Findings& findings, const std::string& path, con
 // Reads one file after its base. Its findings are appended with its number.
 Model ReadForm(ModelFile& read, const std::string& path) {
     const bool isYaml = IsYaml(path);
-    const std::string contents = ReadFile(path);
     const size_t file = read.files.size();
     read.files.push_back(path);
+    const std::string contents = ReadFile(path);
     Findings findings;
     const auto readBase = [&](const std::string& name, Place place) {
         return ReadBase(read, findings, path, name, place);

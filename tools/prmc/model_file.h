@@ -13,7 +13,7 @@ bool IsYaml(const std::string& path);
 struct ModelFile {
     Model model;
     Findings findings;              // sorted
-    std::vector<std::string> files; // that were read; a finding's place has the position in it
+    std::vector<std::string> files; // the model's and its bases'; a finding's place has the position in it
 };
 
 // Throws std::runtime_error when the file can't be read; a base that can't be read is a finding.

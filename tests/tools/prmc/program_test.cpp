@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <gtest/gtest.h>
+#include <regex>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -55,7 +56,7 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"diff good.PRM good.yaml", 0, "", ""},
         {"diff good.PRM other.yaml", 1, "Copies: only in the first file\n", ""},
         {"diff good.PRM bad.yaml", 2, "", "bad.yaml:1:1: "},
-        {"", 2, "", "prmc: a command is missing; possible: build, dump, check, diff, entries, schema\n"},
+        {"", 2, "", "prmc: a command is missing; possible: build, watch, dump, check, diff, entries, schema\n"},
         {"dmup good.PRM", 2, "", "prmc: unknown command 'dmup'; possible: build, "},
         {"dump --al good.PRM", 2, "", "prmc: unknown option '--al'"},
         {"dump good.PRM other.PRM", 2, "", "prmc: too many files: 'other.PRM'"},
@@ -104,6 +105,33 @@ TEST_F(Program, OutputIsWholeOrUntouched) {
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
     // five to start with, these two and the two outputs: no temporary is left
     EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 9);
+}
+
+// A shell saves the files one after the other, each after the previous one has been seen.
+TEST_F(Program, WatchBuildsAtEachSave) {
+    WriteFileWhole(Path("derived.yaml"), "base: good.yaml\n");
+    WriteFileWhole(Path("save.sh"),
+                   R"sh(PRMC watch derived.yaml -o new.PRM --report 'echo reported' >out.txt 2>err.txt & watch=$!
+seen() { i=0; until [ "$(grep -c "$2" "$1")" -ge "$3" ] || [ $((i += 1)) -gt 100 ]; do sleep 0.1; done;
+}
+seen out.txt reported 1
+echo 'Country: {value: x}' >>derived.yaml
+seen err.txt derived.yaml:2:18 1
+sed -i '$d' derived.yaml
+seen out.txt reported 2
+echo 'Countri: {value: 1}' >>good.yaml
+seen err.txt good.yaml:18:1 1
+kill $watch
+)sh");
+    const std::string script = std::regex_replace(ReadFile(Path("save.sh")), std::regex("PRMC"), PRMC_PROGRAM);
+    WriteFileWhole(Path("save.sh"), script);
+    EXPECT_EQ(std::system(("cd '" + folder.string() + "' && sh save.sh").c_str()), 0);
+    const std::string out = std::regex_replace(ReadFile(Path("out.txt")), std::regex("[0-9:]{8}"), "TIME");
+    EXPECT_EQ(out, "TIME written: new.PRM\nreported\nTIME errors; nothing is written\n"
+                   "TIME written: new.PRM\nreported\nTIME errors; nothing is written\n");
+    EXPECT_EQ(ReadFile(Path("err.txt")), "derived.yaml:2:18: 'value' must be a number, not 'x'\n"
+                                         "good.yaml:18:1: unknown entry 'Countri'; did you mean 'Country'?\n");
+    EXPECT_EQ(ReadFile(Path("new.PRM")), ReadFile(Path("good.PRM")));
 }
 
 } // namespace

@@ -6,18 +6,22 @@
 
 #include <stdexcept>
 
+void WriteModel(const ModelFile& read, const std::string& target) {
+    const std::vector<uint8_t> bytes = WritePrm(read.model);
+    if (bytes.size() > kPrmMaxFileBytes)
+        throw std::runtime_error("'" + read.files[0] + "' has too many items: its file would have "
+                                 + std::to_string(bytes.size()) + " bytes, and the driver reads at most "
+                                 + std::to_string(kPrmMaxFileBytes));
+    WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
+}
+
 ExitCode Build(const std::string& source, const std::string& target, const CheckOptions& options) {
     ExpectForm(source, true);
     const ModelFile read = ReadModelFile(source);
     Report(read, options);
     if (read.findings.HasErrors())
         return kErrors;
-    const std::vector<uint8_t> bytes = WritePrm(read.model);
-    if (bytes.size() > kPrmMaxFileBytes)
-        throw std::runtime_error("'" + source + "' has too many items: its file would have "
-                                 + std::to_string(bytes.size()) + " bytes, and the driver reads at most "
-                                 + std::to_string(kPrmMaxFileBytes));
-    WriteFileWhole(target, std::string(bytes.begin(), bytes.end()));
+    WriteModel(read, target);
     return kDone;
 }
 

@@ -20,6 +20,11 @@ struct CheckOptions {
 // Compiles a model; the target is written only when there is no error.
 ExitCode Build(const std::string& source, const std::string& target, const CheckOptions& options);
 
+// Checks a model now and at each change of its file, or of one that it builds on, until the program is ended.
+// While there is no error, writes the target and runs the shell command; either may be empty.
+[[noreturn]] void Watch(const std::string& source, const std::string& target, const std::string& command,
+                        const CheckOptions& options);
+
 // Reports all findings of a model or a binary file.
 ExitCode Check(const std::string& path, const CheckOptions& options);
 

@@ -13,6 +13,10 @@ void ExpectForm(const std::string& path, bool wantsYaml);
 // To the standard output. Throws std::runtime_error when it can't be written.
 void Print(const std::string& text);
 
+// Writes the binary file of a model without errors. Throws std::runtime_error when the driver would not read
+// it.
+void WriteModel(const ModelFile& read, const std::string& target);
+
 // "FILE:PLACE: MESSAGE", a line for each finding.
 std::string FindingLines(const ModelFile& read);
 
