@@ -11,16 +11,26 @@ std::string PlaceText(const Place& place) {
     return std::to_string(place.line) + (place.column == 0 ? "" : ":" + std::to_string(place.column));
 }
 
+std::string WarningMark(const Finding& finding) {
+    return finding.severity == Severity::kWarning ? "warning: " : "";
+}
+
 std::string FindingText(const Finding& finding) {
-    return PlaceText(finding.place) + ": " + (finding.isNote ? "note: " : "") + finding.message;
+    return PlaceText(finding.place) + ": " + WarningMark(finding) + finding.message;
 }
 
 bool Findings::HasErrors() const {
-    return std::any_of(list.begin(), list.end(), [](const Finding& finding) { return !finding.isNote; });
+    return std::any_of(list.begin(), list.end(),
+                       [](const Finding& finding) { return finding.severity == Severity::kError; });
 }
 
 void Findings::Sort() {
     std::stable_sort(list.begin(), list.end(), [](const Finding& a, const Finding& b) {
         return std::pair(a.place.line, a.place.column) < std::pair(b.place.line, b.place.column);
     });
+}
+
+void Findings::RaiseWarnings() {
+    for (Finding& finding : list)
+        finding.severity = Severity::kError;
 }

@@ -1,6 +1,6 @@
 // prmc, the compiler of parameter data files: command line, messages and exit codes.
-// Exit codes: 0 done, no errors, no differences; 1 errors in a file, or the files differ; 2 wrong usage, a
-// file that can't be read or written, or a comparison of files with errors.
+// Exit codes: 0 done, no differences; there may be warnings. 1 errors in a file, or the files differ. 2 wrong
+// usage, a file that can't be read or written, or a comparison of files with errors.
 #include "common/choices.h"
 #include "common/files.h"
 #include "common/text.h"
@@ -55,10 +55,12 @@ void Report(const std::string& path, const Findings& findings) {
         std::cerr << path << ":" << FindingText(finding) << "\n";
 }
 
-ExitCode Build(const std::string& source, const std::string& target) {
+ExitCode Build(const std::string& source, const std::string& target, bool isStrict) {
     ExpectForm(source, true);
     Findings findings;
     const Model model = ReadModel(source, true, findings);
+    if (isStrict)
+        findings.RaiseWarnings();
     Report(source, findings);
     if (findings.HasErrors())
         return kErrors;
@@ -86,9 +88,11 @@ ExitCode Dump(const std::string& path) {
     return findings.HasErrors() ? kErrors : kDone;
 }
 
-ExitCode Check(const std::string& path) {
+ExitCode Check(const std::string& path, bool isStrict) {
     Findings findings;
     ReadModel(path, IsYaml(path), findings);
+    if (isStrict)
+        findings.RaiseWarnings();
     Report(path, findings);
     return findings.HasErrors() ? kErrors : kDone;
 }
@@ -129,14 +133,17 @@ ExitCode Run(int argc, char** argv) {
         "prmc"};
     app.require_subcommand(1);
     std::string first, second;
+    bool isStrict = false;
     CLI::App* build = app.add_subcommand("build", "compile a model");
     build->add_option("MODEL.yaml", first, "the model")->required();
     build->add_option("-o,--output", second, "binary file to write")->required()->type_name("FILE.PRM");
+    build->add_flag("--strict", isStrict, "take warnings for errors");
     CLI::App* dump = app.add_subcommand("dump", "print a binary file as YAML");
     dump->add_option("FILE.PRM", first, "binary file")->required();
-    CLI::App* check =
-        app.add_subcommand("check", "report all errors in a file; no output when there are none");
+    CLI::App* check = app.add_subcommand(
+        "check", "report all errors and warnings of a file; no output when there are none");
     check->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
+    check->add_flag("--strict", isStrict, "take warnings for errors");
     CLI::App* diff = app.add_subcommand("diff", "compare two files' contents, each .yaml or .PRM");
     diff->add_option("A", first, "first file")->required();
     diff->add_option("B", second, "second file")->required();
@@ -152,10 +159,10 @@ ExitCode Run(int argc, char** argv) {
                                  + "\n'prmc COMMAND --help' describes a command.");
     }
     if (build->parsed())
-        return Build(first, second);
+        return Build(first, second, isStrict);
     if (dump->parsed())
         return Dump(first);
-    return check->parsed() ? Check(first) : Diff(first, second);
+    return check->parsed() ? Check(first, isStrict) : Diff(first, second);
 }
 
 } // namespace

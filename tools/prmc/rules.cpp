@@ -187,9 +187,9 @@ void CheckHiddenTrays(const Entry& entry, Findings& findings) {
     const auto off = std::find_if(entry.records.begin(), entry.records.end(), isOff);
     const auto hidden = std::find_if_not(off, entry.records.end(), isOff);
     if (hidden != entry.records.end())
-        findings.Note(off->place, Quote(ItemLabel(*off))
-                                      + " is not enabled, which hides all trays after it, such as "
-                                      + Quote(ItemLabel(*hidden)));
+        findings.Warning(off->place, Quote(ItemLabel(*off))
+                                         + " is not enabled, which hides all trays after it, such as "
+                                         + Quote(ItemLabel(*hidden)));
 }
 
 // The fields of a range are its minimum, maximum and default, in this order.

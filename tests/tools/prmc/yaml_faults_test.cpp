@@ -78,7 +78,7 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
      "1:69: 'RGBProf' has 3 items, but the driver takes at most 2: remove the others"},
     {"InTray: {default: A, items: [{key: A, name: n, value: 1, enabled: 1}, {key: B, name: n, value: 2, "
      "enabled: 0}, {key: C, name: n, value: 3, enabled: 0}, {key: D, name: n, value: 4, enabled: 1}]}",
-     "1:71: note: 'B' is not enabled, which hides all trays after it, such as 'D'"},
+     "1:71: warning: 'B' is not enabled, which hides all trays after it, such as 'D'"},
 
     // Structure, and the file as a whole
     {"MediaWeight: []", "1:14: expected a list: {default: KEY, items: [...]}"},
