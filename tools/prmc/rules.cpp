@@ -168,8 +168,8 @@ void CheckTaken(const Entry& entry, Findings& findings) {
     for (const Record& record : entry.records) {
         const Value& key = record.values.front();
         if (!keys.empty() && key.given && !Contains(keys, key.text))
-            findings.Error(key.place, Quote(key.text) + " is not an item of " + Quote(entry.name)
-                                          + NearestHint(key.text, keys));
+            findings.Error(key.place, Quote(key.text) + " is not an item of " + Quote(entry.name) + "; "
+                                          + Choices(keys) + NearestHint(key.text, keys));
     }
 }
 

@@ -17,9 +17,10 @@ void ReadNumbers(const Field& field, const YAML::Node& node, Value& value, Findi
         return;
     }
     std::vector<int64_t> numbers(count);
+    const auto read = field.limits.most == 1 ? ReadFlag : ReadNumber;
     bool good = true;
     for (size_t i = 0; i < count; ++i)
-        good = ReadNumber(field.name, count > 1 ? node[i] : node, numbers[i], findings) && good;
+        good = read(field.name, count > 1 ? node[i] : node, numbers[i], findings) && good;
     if (good)
         value.numbers = numbers;
     value.given = good;
@@ -45,10 +46,20 @@ void ReadValue(const Field& field, const YAML::Node& node, Value& value, Finding
         value.given = ReadScalar(field.name, node, value.text, findings);
 }
 
+// "fields: {FIELD: VALUE, ...}" with the fields that are needed.
+std::string ShapeOf(const Kind& kind) {
+    std::string shape;
+    for (const Field& field : kind.fields)
+        if (field.required)
+            shape += (shape.empty() ? "fields: {" : ", ") + std::string(field.name) + ": VALUE";
+    return shape + "}";
+}
+
 Record ReadRecord(const Kind& kind, const YAML::Node& node, Findings& findings) {
     Record record{PlaceOf(node), std::vector<Value>(kind.fields.count)};
     std::set<std::string> present;
-    ForEachMember(node, "fields: {FIELD: VALUE, ...}", findings,
+    bool areKnown = node.IsMap(); // otherwise a field may be missing since its name is wrong
+    ForEachMember(node, ShapeOf(kind), findings,
                   [&](const std::string& name, const YAML::Node& nameNode, const YAML::Node& valueNode) {
                       std::vector<std::string> known;
                       for (size_t i = 0; i < kind.fields.count; ++i) {
@@ -58,11 +69,12 @@ Record ReadRecord(const Kind& kind, const YAML::Node& node, Findings& findings) 
                               return ReadValue(kind.fields[i], valueNode, record.values[i], findings);
                           }
                       }
-                      findings.Error(PlaceOf(nameNode), std::string(kind.label) + " has no field "
-                                                            + Quote(name) + NearestHint(name, known));
+                      areKnown = false;
+                      findings.Error(PlaceOf(nameNode), UnknownName(std::string(kind.label) + " has no field",
+                                                                    name, valueNode, known));
                   });
     for (const Field& field : kind.fields) {
-        if (node.IsMap() && field.required && !present.count(field.name))
+        if (areKnown && field.required && !present.count(field.name))
             findings.Error(record.place,
                            Quote(field.name) + " is missing: every " + kind.label + " needs it");
     }
@@ -75,13 +87,14 @@ void ReadDefault(Entry& entry, const YAML::Node& node, Findings& findings) {
         return;
     std::vector<std::string> keys;
     for (size_t i = 0; i < entry.records.size(); ++i) {
+        if (!entry.records[i].values.front().given)
+            return; // reported; it may be the key of this item
         keys.push_back(ItemLabel(entry.records[i]));
         if (EqualNoCase(key, keys.back())) {
             entry.defaultItem = i;
             return;
         }
     }
-    entry.defaultItem = 0; // so that the rules don't report a missing default as well
     findings.Error(PlaceOf(node),
                    "default " + Quote(key) + " is not the key of any item" + NearestHint(key, keys));
 }
@@ -90,23 +103,28 @@ void ReadList(Entry& entry, const YAML::Node& node, Findings& findings) {
     const Kind& kind = *entry.row->kind;
     YAML::Node defaultKey(YAML::NodeType::Undefined);
     bool hasItems = false;
+    bool areKnown = node.IsMap();
     ForEachMember(node, "a list: {default: KEY, items: [...]}", findings,
                   [&](const std::string& name, const YAML::Node& nameNode, const YAML::Node& valueNode) {
                       if (name == "default" && kind.HasKeys()) {
                           defaultKey.reset(valueNode);
                       } else if (name != "items") {
-                          findings.Error(PlaceOf(nameNode), "a list has no field " + Quote(name)
-                                                                + NearestHint(name, {"default", "items"}));
-                      } else if (hasItems = true; !valueNode.IsSequence()) {
+                          areKnown = false;
+                          findings.Error(PlaceOf(nameNode), UnknownName("a list has no field", name,
+                                                                        valueNode, {"default", "items"}));
+                      } else if (hasItems = valueNode.IsSequence(); !hasItems && !valueNode.IsNull()) {
+                          areKnown = false;
                           findings.Error(PlaceOf(valueNode), "expected a list of items, each '- {...}'");
                       } else {
                           for (const YAML::Node& item : valueNode)
                               entry.records.push_back(ReadRecord(kind, item, findings));
                       }
                   });
-    if (node.IsMap() && !hasItems)
-        findings.Error(entry.place, "'items' is missing: " + Quote(entry.name) + " is a list");
-    if (defaultKey.IsDefined())
+    if (defaultKey.IsDefined() || !areKnown)
+        entry.defaultItem = 0; // so that the rules don't report a missing default as well
+    if (areKnown && !hasItems)
+        findings.Error(entry.place, "'items' is missing or empty: " + Quote(entry.name) + " is a list");
+    else if (defaultKey.IsDefined() && hasItems)
         ReadDefault(entry, defaultKey, findings);
 }
 
@@ -132,7 +150,7 @@ Model ReadDocument(const YAML::Node& root, Findings& findings) {
                       const EntryRow* row = FindEntryRow(name);
                       if (!row)
                           return findings.Error(PlaceOf(nameNode),
-                                                "unknown entry " + Quote(name) + NearestHint(name, known));
+                                                UnknownName("unknown entry", name, valueNode, known));
                       Entry entry{row, name, PlaceOf(nameNode), {}, {}};
                       ReadEntry(entry, valueNode, findings);
                       if (valueNode.IsMap()) // otherwise reported; nothing for the rules to check
