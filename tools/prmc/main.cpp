@@ -9,6 +9,7 @@
 #include "prmc/prm_parser.h"
 #include "prmc/prm_writer.h"
 #include "prmc/rules.h"
+#include "prmc/warnings.h"
 #include "prmc/yaml_reader.h"
 #include "prmc/yaml_writer.h"
 
@@ -50,6 +51,13 @@ Model ReadModel(const std::string& path, bool isYaml, Findings& findings) {
     return model;
 }
 
+void AddWarnings(const Model& model, bool isStrict, Findings& findings) {
+    FindWarnings(model, findings);
+    findings.Sort();
+    if (isStrict)
+        findings.RaiseWarnings();
+}
+
 void Report(const std::string& path, const Findings& findings) {
     for (const Finding& finding : findings.list)
         std::cerr << path << ":" << FindingText(finding) << "\n";
@@ -59,8 +67,7 @@ ExitCode Build(const std::string& source, const std::string& target, bool isStri
     ExpectForm(source, true);
     Findings findings;
     const Model model = ReadModel(source, true, findings);
-    if (isStrict)
-        findings.RaiseWarnings();
+    AddWarnings(model, isStrict, findings);
     Report(source, findings);
     if (findings.HasErrors())
         return kErrors;
@@ -90,9 +97,8 @@ ExitCode Dump(const std::string& path) {
 
 ExitCode Check(const std::string& path, bool isStrict) {
     Findings findings;
-    ReadModel(path, IsYaml(path), findings);
-    if (isStrict)
-        findings.RaiseWarnings();
+    const Model model = ReadModel(path, IsYaml(path), findings);
+    AddWarnings(model, isStrict, findings);
     Report(path, findings);
     return findings.HasErrors() ? kErrors : kDone;
 }

@@ -173,25 +173,6 @@ void CheckTaken(const Entry& entry, Findings& findings) {
     }
 }
 
-// A tray that is not enabled ends the driver's list.
-void CheckHiddenTrays(const Entry& entry, Findings& findings) {
-    const Rows<Field>& fields = entry.row->kind->fields;
-    const auto isFlag = [](const Field& field) { return std::string_view(field.name) == "enabled"; };
-    const auto flag =
-        static_cast<size_t>(std::find_if(fields.begin(), fields.end(), isFlag) - fields.begin());
-    if (flag == fields.count)
-        return;
-    const auto isOff = [&](const Record& tray) {
-        return tray.values[flag].given && tray.values[flag].numbers[0] == 0;
-    };
-    const auto off = std::find_if(entry.records.begin(), entry.records.end(), isOff);
-    const auto hidden = std::find_if_not(off, entry.records.end(), isOff);
-    if (hidden != entry.records.end())
-        findings.Warning(off->place, Quote(ItemLabel(*off))
-                                         + " is not enabled, which hides all trays after it, such as "
-                                         + Quote(ItemLabel(*hidden)));
-}
-
 // The fields of a range are its minimum, maximum and default, in this order.
 void CheckRange(const Entry& entry, Findings& findings) {
     for (const Record& record : entry.records) {
@@ -232,7 +213,6 @@ void CheckEntry(const Entry& entry, Findings& findings) {
         }
     }
     CheckTaken(entry, findings);
-    CheckHiddenTrays(entry, findings);
     if (kind.form == Form::kTable)
         CheckTable(entry, findings);
     if (kind.form == Form::kRange)
