@@ -4,6 +4,7 @@
 #include "common/encoding.h"
 #include "common/yaml_faults.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <yaml-cpp/eventhandler.h>
@@ -107,6 +108,31 @@ std::string NameFault(const std::string& name, const YAML::Node& value) {
     return "";
 }
 
+bool Empty(std::string& text, size_t start, size_t end) {
+    if (start == std::string::npos)
+        return false;
+    std::replace_if(
+        text.begin() + static_cast<ptrdiff_t>(start), text.begin() + static_cast<ptrdiff_t>(end),
+        [](char c) { return c != '\n'; }, ' ');
+    return true;
+}
+
+// Empties the lines of the entry with this line, so that the other entries can be read. False when there is
+// none to empty.
+bool RemoveEntry(std::string& text, uint64_t faultyLine) {
+    size_t start = std::string::npos;
+    uint64_t line = 1;
+    for (size_t at = 0; at < text.size(); ++line) {
+        const bool isEntry = std::string_view(" \t\r\n#-}]").find(text[at]) == std::string_view::npos;
+        if (isEntry && line > faultyLine)
+            return Empty(text, start, at);
+        if (isEntry)
+            start = at;
+        at = std::min(text.size(), text.find('\n', at)) + 1;
+    }
+    return Empty(text, start, text.size());
+}
+
 constexpr const char* kNumberExample = "a whole number such as 42, -42 or 0x2A";
 
 bool ReadNumberText(const std::string& name, const YAML::Node& node, const char* example, std::string& text,
@@ -121,19 +147,26 @@ bool ReadNumberText(const std::string& name, const YAML::Node& node, const char*
 
 void LoadYaml(const std::string& file, const char* what, Findings& findings,
               const std::function<void(const YAML::Node& root)>& read) {
-    const std::string text = WithoutEnds(file);
+    constexpr int kMaxFaults = 10; // of YAML itself; each costs another pass
+    std::string text = WithoutEnds(file);
     if (!CheckIsText(text, findings))
         return;
-    try {
-        if (!CheckIsSingle(text, what, findings))
-            return;
-        const YAML::Node root = YAML::Load(text);
-        if (!root.IsNull())
-            read(root);
-        else
-            findings.Error({1, 1}, "the file has no entries");
-    } catch (const YAML::Exception& fault) {
-        findings.list.push_back(ExplainYamlError(text, fault));
+    bool isParsed = false;
+    for (int faults = 0; faults < kMaxFaults && !isParsed; ++faults) {
+        try {
+            if (!CheckIsSingle(text, what, findings))
+                return;
+            const YAML::Node root = YAML::Load(text);
+            isParsed = true;
+            if (!root.IsNull())
+                read(root);
+            else if (faults == 0)
+                findings.Error({1, 1}, "the file has no entries");
+        } catch (const YAML::Exception& fault) {
+            findings.list.push_back(ExplainYamlError(text, fault));
+            if (!isParsed && !RemoveEntry(text, findings.list.back().place.line))
+                return;
+        }
     }
 }
 

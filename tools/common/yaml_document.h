@@ -12,6 +12,8 @@
 
 // Calls `read` with the document's root. Invalid YAML or UTF-8, an empty file and a second document are
 // findings; `what` names the kind of file: "model". So are the errors that yaml-cpp throws in `read`.
+// A fault in one entry, the lines up to the next that is not indented, does not hide those in others; `read`
+// then gets the other entries.
 void LoadYaml(const std::string& file, const char* what, Findings& findings,
               const std::function<void(const YAML::Node& root)>& read);
 

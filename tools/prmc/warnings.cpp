@@ -245,7 +245,7 @@ void CheckTrayNames(const Model& model, Findings& findings) {
 
 constexpr const char* kNoChoice = "there is nothing to choose from";
 constexpr const char* kNoTexts = "a list of the colour dialog shows no texts";
-constexpr const char* kNoUnknown = "the tray dialog can't show that this is not known of a tray";
+constexpr const char* kNoUnknown = "the tray dialog has no entry for trays of which this is unknown";
 
 // A list that a feature needs, with at least one item.
 const struct {

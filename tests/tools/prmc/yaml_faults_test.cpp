@@ -126,6 +126,14 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {Color("{key: W, name: &1, value: 1}"), "4:22: a text that starts with '&' needs quotes"},
     {Color("{key: W, name: !1, value: 1}"), "4:22: a text that starts with '!' needs quotes"},
 
+    // Faults in several entries
+    {"MediaColor: {\nCountry: value: 1\nCopies: {min: 1, max: 9.5, default: 1}\nMediaTyp: {}\nInTray:\n\tdefault: A",
+     "1:13: '{' is not closed: end it with '}'\n"
+     "2:15: a second ':' in the line: put a text with ':' in quotes, or a map in {}\n"
+     "3:23: 'max' must be a whole number such as 42, -42 or 0x2A, not '9.5'\n"
+     "4:1: unknown entry 'MediaTyp'; did you mean 'MediaType'?\n"
+     "6:1: the line is indented with a tab: use spaces"},
+
     // Colons, commas, dashes and indentation
     {"Country: value: 1", "1:15: a second ':' in the line: put a text with ':' in quotes, or a map in {}"},
     {Color("{key: W, name: a: b, value: 1}"),
