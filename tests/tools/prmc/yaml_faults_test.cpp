@@ -152,6 +152,8 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
      "3:3: the line does not fit those before it: indent it as its neighbours are"},
     {"MediaColor:\n  default: W\n   items: []",
      "3:4: the line does not fit those before it: indent it as its neighbours are"},
+    {"MediaColor:\n  items:\n    - key: W\n      name: |\n        6\" [\n      value: 1\n   - key: B", // any text after '|'
+     "7:4: the line does not fit those before it: indent it as its neighbours are"},
     {"MediaColor:\n\tdefault: W", "2:1: the line is indented with a tab: use spaces"},
 };
 // clang-format on
