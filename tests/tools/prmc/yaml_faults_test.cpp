@@ -113,6 +113,7 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {Color("{key: W, name: n, values: [1, 2}"), "4:33: '[' is not closed: end it with ']'"},
     {Color("{key: W, name: n, value: 1]"), "4:33: ']' does not close the '{' of line 4: write '}'"},
     {Color("{key: W, name: n, value: 1}}"), "4:34: '}' closes nothing: remove it"},
+    {"\xEF\xBB\xBF" "Country: {value: 1", "1:10: '{' is not closed: end it with '}'"},
     {"Country: {value: 1} Copies: {min: 1}", "1:21: the value ends with the bracket before this: start a new line"},
     {Color("{key: W, name: \"n, value: 1}\n    - {key: B, name: \"n\", value: 2}"),
      "4:22: the quote \" is not closed: end the text with \" on the same line"},
@@ -152,7 +153,7 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
      "3:3: the line does not fit those before it: indent it as its neighbours are"},
     {"MediaColor:\n  default: W\n   items: []",
      "3:4: the line does not fit those before it: indent it as its neighbours are"},
-    {"MediaColor:\n  items:\n    - key: W\n      name: |\n        6\" [\n      value: 1\n   - key: B", // any text after '|'
+    {"MediaColor:\n  items:\n    - key: W\n      name: |\n        \"6 [\n      value: 1\n   - key: B", // any text after '|'
      "7:4: the line does not fit those before it: indent it as its neighbours are"},
     {"MediaColor:\n\tdefault: W", "2:1: the line is indented with a tab: use spaces"},
 };
