@@ -6,6 +6,7 @@
 #include "prmc/prm_parser.h"
 #include "prmc/prm_writer.h"
 #include "prmc/rules.h"
+#include "prmc/warnings.h"
 #include "prmc/yaml_reader.h"
 #include "prmc/yaml_writer.h"
 
@@ -14,6 +15,8 @@ namespace {
 void CheckFormsOf(const Model& model, Findings findings) {
     CheckRules(model, findings);
     findings.Sort();
+    Findings warned = findings;
+    FindWarnings(model, warned);
     if (!findings.list.empty())
         return;
     const std::vector<uint8_t> bytes = WritePrm(model);

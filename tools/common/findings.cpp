@@ -12,12 +12,17 @@ std::string PlaceText(const Place& place) {
     return std::to_string(place.line) + (place.column == 0 ? "" : ":" + std::to_string(place.column));
 }
 
+std::string WarningMark(const Finding& finding) {
+    return finding.severity == Severity::kWarning ? "warning: " : "";
+}
+
 std::string FindingText(const Finding& finding) {
-    return PlaceText(finding.place) + ": " + (finding.isNote ? "note: " : "") + finding.message;
+    return PlaceText(finding.place) + ": " + WarningMark(finding) + finding.message;
 }
 
 bool Findings::HasErrors() const {
-    return std::any_of(list.begin(), list.end(), [](const Finding& finding) { return !finding.isNote; });
+    return std::any_of(list.begin(), list.end(),
+                       [](const Finding& finding) { return finding.severity == Severity::kError; });
 }
 
 void Findings::Sort() {
@@ -25,4 +30,9 @@ void Findings::Sort() {
         return std::tuple(a.place.file, a.place.line, a.place.column)
                < std::tuple(b.place.file, b.place.line, b.place.column);
     });
+}
+
+void Findings::RaiseWarnings() {
+    for (Finding& finding : list)
+        finding.severity = Severity::kError;
 }

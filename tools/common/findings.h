@@ -1,4 +1,4 @@
-// Errors and notes about an input file, each with its place.
+// Errors and warnings about an input file, each with its place.
 #ifndef COMMON_FINDINGS_H
 #define COMMON_FINDINGS_H
 
@@ -26,22 +26,35 @@ inline Place AtLine(uint64_t line) {
 // "3:7", "3" or "0x2C"
 std::string PlaceText(const Place& place);
 
+enum class Severity {
+    kError,
+    kWarning, // something is lost or has no effect, but the file is usable
+};
+
 struct Finding {
     Place place;
-    bool isNote; // something is lost or left out, but the file is usable
+    Severity severity;
     std::string message;
 };
 
-// "PLACE: MESSAGE" or "PLACE: note: MESSAGE"
+// "PLACE: MESSAGE" or "PLACE: warning: MESSAGE"
 std::string FindingText(const Finding& finding);
+
+// "warning: ", or empty for an error
+std::string WarningMark(const Finding& finding);
 
 struct Findings {
     std::vector<Finding> list;
 
-    void Error(Place place, std::string message) { list.push_back({place, false, std::move(message)}); }
-    void Note(Place place, std::string message) { list.push_back({place, true, std::move(message)}); }
+    void Error(Place place, std::string message) {
+        list.push_back({place, Severity::kError, std::move(message)});
+    }
+    void Warning(Place place, std::string message) {
+        list.push_back({place, Severity::kWarning, std::move(message)});
+    }
     bool HasErrors() const;
-    void Sort(); // in the order of their files and places
+    void Sort();          // in the order of their files and places
+    void RaiseWarnings(); // makes them errors
 };
 
 #endif

@@ -1,18 +1,22 @@
 // Loads YAML documents and reads their scalars.
 #include "common/yaml_document.h"
 
+#include "common/encoding.h"
+#include "common/yaml_faults.h"
+
+#include <algorithm>
 #include <cstdlib>
 #include <sstream>
 #include <yaml-cpp/eventhandler.h>
 
 namespace {
 
-Place PlaceOf(const YAML::Mark& mark) {
-    return {static_cast<uint64_t>(mark.line) + 1, static_cast<uint64_t>(mark.column) + 1};
-}
-
 // yaml-cpp accepts bytes that are not text, and takes some control characters for the end of the file.
 bool CheckIsText(const std::string& text, Findings& findings) {
+    if (IsUtf16(text)) {
+        findings.Error({1, 1}, kSaveAsUtf8);
+        return false;
+    }
     size_t bad = FindBadUtf8(text);
     const char* problem = "not valid UTF-8: save the file as UTF-8";
     for (size_t i = 0; i < text.size() && i < bad; ++i) {
@@ -31,15 +35,26 @@ bool CheckIsText(const std::string& text, Findings& findings) {
     return false;
 }
 
-// Records where a document starts and ignores everything else.
-struct DocumentStart final : YAML::EventHandler {
-    Place place;
+// Records where the last document starts, and reports texts that lose their beginning: YAML takes a word with
+// '&' for an anchor and one with '!' for a tag.
+struct Events final : YAML::EventHandler {
+    explicit Events(Findings& where) : findings(where) {}
 
-    void OnDocumentStart(const YAML::Mark& mark) override { place = PlaceOf(mark); }
+    Findings& findings;
+    Place start;
+
+    void OnDocumentStart(const YAML::Mark& mark) override { start = PlaceOf(mark); }
     void OnDocumentEnd() override {}
-    void OnNull(const YAML::Mark&, YAML::anchor_t) override {}
+    void OnNull(const YAML::Mark& mark, YAML::anchor_t anchor) override {
+        if (anchor != YAML::NullAnchor)
+            findings.Error(PlaceOf(mark), NeedsQuotes('&'));
+    }
     void OnAlias(const YAML::Mark&, YAML::anchor_t) override {}
-    void OnScalar(const YAML::Mark&, const std::string&, YAML::anchor_t, const std::string&) override {}
+    void OnScalar(const YAML::Mark& mark, const std::string& tag, YAML::anchor_t,
+                  const std::string&) override {
+        if (tag.size() > 1) // "?" and "!": none
+            findings.Error(PlaceOf(mark), NeedsQuotes('!'));
+    }
     void OnSequenceStart(const YAML::Mark&, const std::string&, YAML::anchor_t,
                          YAML::EmitterStyle::value) override {}
     void OnSequenceEnd() override {}
@@ -53,30 +68,105 @@ struct DocumentStart final : YAML::EventHandler {
 bool CheckIsSingle(const std::string& text, const char* what, Findings& findings) {
     std::istringstream stream(text);
     YAML::Parser parser(stream);
-    DocumentStart start;
-    if (!parser.HandleNextDocument(start) || !parser.HandleNextDocument(start))
+    Events events(findings);
+    const size_t before = findings.list.size();
+    if (!parser.HandleNextDocument(events) || findings.list.size() != before)
+        return findings.list.size() == before;
+    if (!parser.HandleNextDocument(events))
         return true;
-    findings.Error(start.place,
-                   std::string("a second document starts here, but a ") + what + " file has only one");
+    const bool isMarked = text.find("\n---") != std::string::npos || text.find("\n...") != std::string::npos;
+    findings.Error(events.start,
+                   isMarked
+                       ? std::string("a second document starts here, but a ") + what + " file has only one"
+                       : "this does not continue the lines before it: start all entries in the same column");
+    return false;
+}
+
+// The text as yaml-cpp gets it. At a line break at the end the library overlooks that a quote is not closed.
+std::string WithoutEnds(std::string_view text) {
+    text = WithoutUtf8Mark(text);
+    return std::string(text.substr(0, text.find_last_not_of(" \t\r\n") + 1));
+}
+
+// What makes a text a name by mistake; empty: nothing.
+std::string NameFault(const std::string& name, const YAML::Node& value) {
+    const auto has = [&](const char* characters) {
+        return name.find_first_of(characters) != std::string::npos;
+    };
+    if (!value.IsNull() && !has("{["))
+        return "";
+    if (name.size() > 1 && name[0] == '-')
+        return "a space is missing after '-'";
+    if (has(":"))
+        return "a space is missing after ':' in " + Quote(name);
+    if (has("="))
+        return "write NAME: VALUE, not " + Quote(name);
+    if (name.find_first_not_of("0123456789") == std::string::npos)
+        return "a number has no ',' in it: write a whole number";
+    if (has(" "))
+        return "':' is missing in " + Quote(name) + ", or a text with ',' needs quotes";
+    return "";
+}
+
+bool Empty(std::string& text, size_t start, size_t end) {
+    if (start == std::string::npos)
+        return false;
+    std::replace_if(
+        text.begin() + static_cast<ptrdiff_t>(start), text.begin() + static_cast<ptrdiff_t>(end),
+        [](char c) { return c != '\n'; }, ' ');
+    return true;
+}
+
+// Empties the lines of the entry with this line, so that the other entries can be read. False when there is
+// none to empty.
+bool RemoveEntry(std::string& text, uint64_t faultyLine) {
+    size_t start = std::string::npos;
+    uint64_t line = 1;
+    for (size_t at = 0; at < text.size(); ++line) {
+        const bool isEntry = std::string_view(" \t\r\n#-}]").find(text[at]) == std::string_view::npos;
+        if (isEntry && line > faultyLine)
+            return Empty(text, start, at);
+        if (isEntry)
+            start = at;
+        at = std::min(text.size(), text.find('\n', at)) + 1;
+    }
+    return Empty(text, start, text.size());
+}
+
+constexpr const char* kNumberExample = "a whole number such as 42, -42 or 0x2A";
+
+bool ReadNumberText(const std::string& name, const YAML::Node& node, const char* example, std::string& text,
+                    Findings& findings) {
+    if (!node.IsNull())
+        return ReadScalar(name, node, text, findings);
+    findings.Error(PlaceOf(node), Quote(name) + " has no value: write " + example);
     return false;
 }
 
 } // namespace
 
-void LoadYaml(const std::string& text, const char* what, Findings& findings,
+void LoadYaml(const std::string& file, const char* what, Findings& findings,
               const std::function<void(const YAML::Node& root)>& read) {
+    constexpr int kMaxFaults = 10; // of YAML itself; each costs another pass
+    std::string text = WithoutEnds(file);
     if (!CheckIsText(text, findings))
         return;
-    try {
-        if (!CheckIsSingle(text, what, findings))
-            return;
-        const YAML::Node root = YAML::Load(text);
-        if (!root.IsNull())
-            read(root);
-        else
-            findings.Error({1, 1}, "the file has no entries");
-    } catch (const YAML::Exception& fault) {
-        findings.Error(PlaceOf(fault.mark), fault.msg);
+    bool isParsed = false;
+    for (int faults = 0; faults < kMaxFaults && !isParsed; ++faults) {
+        try {
+            if (!CheckIsSingle(text, what, findings))
+                return;
+            const YAML::Node root = YAML::Load(text);
+            isParsed = true;
+            if (!root.IsNull())
+                read(root);
+            else if (faults == 0)
+                findings.Error({1, 1}, "the file has no entries");
+        } catch (const YAML::Exception& fault) {
+            findings.list.push_back(ExplainYamlError(text, fault));
+            if (!isParsed && !RemoveEntry(text, findings.list.back().place.line))
+                return;
+        }
     }
 }
 
@@ -89,15 +179,20 @@ bool ReadScalar(const std::string& name, const YAML::Node& node, std::string& te
         text = node.Scalar();
         return true;
     }
-    findings.Error(PlaceOf(node), node.IsNull() ? Quote(name) + " has no value; write \"\" for an empty text"
-                                                : Quote(name) + " must be a single value");
+    std::string fault = Quote(name) + " must be a single value; a text in brackets needs quotes";
+    if (node.IsNull()) {
+        fault = name.find_first_of(":=") != std::string::npos
+                    ? NameFault(name, node)
+                    : Quote(name) + " has no value; write \"\" for an empty text";
+    }
+    findings.Error(PlaceOf(node), fault);
     return false;
 }
 
 bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings) {
     constexpr size_t kMaxDigits = 15; // always fits in 64 bits; the rules check the range
     std::string text;
-    if (!ReadScalar(name, node, text, findings))
+    if (!ReadNumberText(name, node, kNumberExample, text, findings))
         return false;
     const bool isHex = text.rfind("0x", 0) == 0 || text.rfind("0X", 0) == 0;
     const bool isNegative = text.rfind('-', 0) == 0;
@@ -105,9 +200,27 @@ bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number
     const char* allowed = isHex ? "0123456789abcdefABCDEF" : "0123456789";
     if (digits.empty() || digits.size() > kMaxDigits
         || digits.find_first_not_of(allowed) != std::string::npos) {
-        findings.Error(PlaceOf(node), Quote(name) + " must be a number, not " + Quote(text));
+        findings.Error(PlaceOf(node), Quote(name) + " must be " + kNumberExample + ", not " + Quote(text));
         return false;
     }
     number = std::strtoll(digits.c_str(), nullptr, isHex ? 16 : 10) * (isNegative ? -1 : 1);
     return true;
+}
+
+bool ReadFlag(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings) {
+    constexpr const char* kFlagExample = "1 or 0, or true or false";
+    std::string text;
+    if (!ReadNumberText(name, node, kFlagExample, text, findings))
+        return false;
+    number = text == "1" || EqualNoCase(text, "true") ? 1 : 0;
+    if (number == 1 || text == "0" || EqualNoCase(text, "false"))
+        return true;
+    findings.Error(PlaceOf(node), Quote(name) + " must be " + kFlagExample + ", not " + Quote(text));
+    return false;
+}
+
+std::string UnknownName(const std::string& sentence, const std::string& name, const YAML::Node& value,
+                        const std::vector<std::string>& known) {
+    const std::string fault = NameFault(name, value);
+    return !fault.empty() ? fault : sentence + " " + Quote(name) + NearestHint(name, known);
 }

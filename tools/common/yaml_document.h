@@ -12,7 +12,9 @@
 
 // Calls `read` with the document's root. Invalid YAML or UTF-8, an empty file and a second document are
 // findings; `what` names the kind of file: "model". So are the errors that yaml-cpp throws in `read`.
-void LoadYaml(const std::string& text, const char* what, Findings& findings,
+// A fault in one entry, the lines up to the next that is not indented, does not hide those in others; `read`
+// then gets the other entries.
+void LoadYaml(const std::string& file, const char* what, Findings& findings,
               const std::function<void(const YAML::Node& root)>& read);
 
 Place PlaceOf(const YAML::Node& node);
@@ -22,6 +24,14 @@ bool ReadScalar(const std::string& name, const YAML::Node& node, std::string& te
 
 // Reads a decimal number, which may be negative, or a hexadecimal one with 0x.
 bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings);
+
+// Reads 1 or true, 0 or false.
+bool ReadFlag(const std::string& name, const YAML::Node& node, int64_t& number, Findings& findings);
+
+// "SENTENCE 'NAME'" with the nearest known name, or what makes it a name by mistake, as in "NAME:VALUE"
+// without a space.
+std::string UnknownName(const std::string& sentence, const std::string& name, const YAML::Node& value,
+                        const std::vector<std::string>& known);
 
 // Calls `use` with the name, its node and the value's node of each member. Names that are no scalar or that
 // occur again are findings.

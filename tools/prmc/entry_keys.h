@@ -52,14 +52,8 @@ constexpr auto kMediaTexts = KeysIn(kMediaTextItems, [](const MediaTextItem& ite
     return item.list == List ? item.key : "";
 });
 
-// Keys that mean something in an entry which takes any key: in the driver's colour tables, its picture, its
-// capabilities, or because it reports them of a printer.
-inline constexpr const char* kPageProfileKeys[] = {"DeviceRGB", "sRGB"};
-inline constexpr const char* kSimulationKeys[] = {
-    "Simu_None", "Simu_SWOP", "Simu_Euroscale", "Simu_CommercialPress", "Simu_TOYO", "Simu_DIC",
-};
-inline constexpr const char* kPageDestinationKeys[] = {"Dest_Auto"};
-inline constexpr const char* kSimulationGrayKeys[] = {"Simu_4Color", "Simu_BandG", "Simu_BlackOnly"};
+// Keys that mean something in an entry which takes any key: in the driver's picture, its capabilities, or
+// because it reports them of a printer. Those of the colour tables are in color_keys.h.
 inline constexpr const char* kMarkedSources[] = {
     "InTray1", "InTray2", "InTray3", "InTray4", "InTrayManual", "InTrayLCT",
 };

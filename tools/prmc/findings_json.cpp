@@ -14,7 +14,7 @@ nlohmann::ordered_json FindingJson(const std::string& file, const Finding& findi
         if (finding.place.column != 0)
             json["column"] = finding.place.column;
     }
-    json["severity"] = finding.isNote ? "note" : "error";
+    json["severity"] = finding.severity == Severity::kError ? "error" : "warning";
     json["message"] = finding.message;
     return json;
 }

@@ -31,6 +31,7 @@ ExitCode Run(int argc, char** argv) {
     app.set_version_flag("--version", "prmc " PROJECT_VERSION);
     app.require_subcommand(1);
     std::string first, second, report;
+    CheckOptions options;
     bool isJson = false, isMarkdown = false;
     CLI::App* build = app.add_subcommand("build", "compile a model");
     build->add_option("MODEL.yaml", first, "the model")->required();
@@ -44,11 +45,15 @@ ExitCode Run(int argc, char** argv) {
     CLI::App* dump =
         app.add_subcommand("dump", "print a file as YAML; a model with all that it takes from its base");
     dump->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
-    CLI::App* check =
-        app.add_subcommand("check", "report all errors in a file; no output when there are none");
+    CLI::App* check = app.add_subcommand(
+        "check", "report all errors and warnings of a file; no output when there are none");
     check->add_option("FILE", first, "model (.yaml) or binary file (.PRM)")->required();
-    for (CLI::App* command : {build, check})
-        command->add_flag("--json", isJson, "write the errors and notes as JSON to the standard output");
+    for (CLI::App* command : {build, watch, check}) {
+        CLI::Option* strict = command->add_flag("--strict", options.isStrict, "take warnings for errors");
+        command->add_flag("--no-warnings", options.isQuiet, "report errors only")->excludes(strict);
+        command->add_flag("--json", options.isJson,
+                          "write errors and warnings as JSON to the standard output");
+    }
     CLI::App* diff = app.add_subcommand("diff", "compare two files' contents, each .yaml or .PRM");
     diff->add_option("A", first, "first file")->required();
     diff->add_option("B", second, "second file")->required();
@@ -71,16 +76,16 @@ ExitCode Run(int argc, char** argv) {
                                  + "\n'prmc COMMAND --help' describes a command.");
     }
     if (build->parsed())
-        return Build(first, second, {isJson});
+        return Build(first, second, options);
     if (watch->parsed())
-        Watch(first, second, report, {isJson});
+        Watch(first, second, report, options);
     if (dump->parsed())
         return Dump(first);
     if (entries->parsed())
         return DescribeEntries(names, isJson, isMarkdown);
     if (schema->parsed())
         return PrintSchema();
-    return check->parsed() ? Check(first, {isJson}) : Diff(first, second);
+    return check->parsed() ? Check(first, options) : Diff(first, second);
 }
 
 } // namespace

@@ -21,7 +21,7 @@ public:
         if (!bytes.Claim(0, sizeof(PrmHeader), 0, "the header"))
             return model;
         if (bytes.Read32(0) != 0)
-            findings.Note({}, "the header's first word is not 0; it is lost");
+            findings.Warning({}, "the header's first word is not 0; it is lost");
         const uint64_t chainEnd = bytes.Read32(offsetof(PrmHeader, chainEnd));
         if (chainEnd > bytes.Size())
             bytes.Error(offsetof(PrmHeader, chainEnd),
@@ -49,7 +49,7 @@ private:
         const std::string name = bytes.ReadField(at, sizeof(PrmEntry::name));
         const EntryRow* row = FindEntryRow(name);
         if (!row) {
-            findings.Note(AtOffset(at), "unknown entry " + Quote(name) + " is skipped");
+            findings.Warning(AtOffset(at), "unknown entry " + Quote(name) + " is skipped");
             return;
         }
         bytes.SetEntry(name);
@@ -61,7 +61,7 @@ private:
         else
             ParseItems(at, entry);
         if (bytes.HasLoss())
-            findings.Note(AtOffset(at), Quote(name) + ": unused bytes are not 0; they are lost");
+            findings.Warning(AtOffset(at), Quote(name) + ": unused bytes are not 0; they are lost");
         if (row->kind->form == Form::kList || !entry.records.empty())
             model.entries.push_back(std::move(entry));
         bytes.SetEntry("");
@@ -139,8 +139,9 @@ private:
                     entry.defaultItem = i;
             }
             if (entry.defaultItem)
-                findings.Note(AtOffset(at),
-                              Quote(entry.name) + ": the default is a separate record; only its key is kept");
+                findings.Warning(AtOffset(at),
+                                 Quote(entry.name)
+                                     + ": the default is a separate record; only its key is kept");
             else
                 bytes.Error(linkAt, "the default record's key " + Quote(key) + " is not the key of any item");
         }

@@ -170,28 +170,9 @@ void CheckTaken(const Entry& entry, Findings& findings) {
     for (const Record& record : entry.records) {
         const Value& key = record.values.front();
         if (!keys.empty() && key.given && !Contains(keys, key.text))
-            findings.Error(key.place, Quote(key.text) + " is not an item of " + Quote(entry.name)
-                                          + NearestHint(key.text, keys));
+            findings.Error(key.place, Quote(key.text) + " is not an item of " + Quote(entry.name) + "; "
+                                          + Choices(keys) + NearestHint(key.text, keys));
     }
-}
-
-// A tray that is not enabled ends the driver's list.
-void CheckHiddenTrays(const Entry& entry, Findings& findings) {
-    const Rows<Field>& fields = entry.row->kind->fields;
-    const auto isFlag = [](const Field& field) { return std::string_view(field.name) == "enabled"; };
-    const auto flag =
-        static_cast<size_t>(std::find_if(fields.begin(), fields.end(), isFlag) - fields.begin());
-    if (flag == fields.count)
-        return;
-    const auto isOff = [&](const Record& tray) {
-        return tray.values[flag].given && tray.values[flag].numbers[0] == 0;
-    };
-    const auto off = std::find_if(entry.records.begin(), entry.records.end(), isOff);
-    const auto hidden = std::find_if_not(off, entry.records.end(), isOff);
-    if (hidden != entry.records.end())
-        findings.Note(off->place, Quote(ItemLabel(*off))
-                                      + " is not enabled, which hides all trays after it, such as "
-                                      + Quote(ItemLabel(*hidden)));
 }
 
 // The fields of a range are its minimum, maximum and default, in this order.
@@ -234,7 +215,6 @@ void CheckEntry(const Entry& entry, Findings& findings) {
         }
     }
     CheckTaken(entry, findings);
-    CheckHiddenTrays(entry, findings);
     if (kind.form == Form::kTable)
         CheckTable(entry, findings);
     if (kind.form == Form::kRange)

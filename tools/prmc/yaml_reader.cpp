@@ -33,9 +33,10 @@ void ReadNumbers(const Field& field, const YAML::Node& node, Value& value, Findi
         return;
     }
     std::vector<int64_t> numbers(count);
+    const auto read = field.limits.most == 1 ? ReadFlag : ReadNumber;
     bool good = true;
     for (size_t i = 0; i < count; ++i)
-        good = ReadNumber(field.name, count > 1 ? node[i] : node, numbers[i], findings) && good;
+        good = read(field.name, count > 1 ? node[i] : node, numbers[i], findings) && good;
     if (good)
         value.numbers = numbers;
     value.given = good;
@@ -71,12 +72,22 @@ void ReadValue(const Field& field, const YAML::Node& node, Value& value, Finding
         value.given = ReadScalar(field.name, node, value.text, findings);
 }
 
+// "fields: {FIELD: VALUE, ...}" with the fields that are needed.
+std::string ShapeOf(const Kind& kind) {
+    std::string shape;
+    for (const Field& field : kind.fields)
+        if (field.required)
+            shape += (shape.empty() ? "fields: {" : ", ") + std::string(field.name) + ": VALUE";
+    return shape + "}";
+}
+
 // Reads the fields over those of the record, which is empty or the base's.
 void ReadRecord(const Kind& kind, const YAML::Node& node, Record& record, Findings& findings) {
     record.place = PlaceOf(node);
     record.values.resize(kind.fields.count);
     std::set<std::string> present;
-    ForEachMember(node, "fields: {FIELD: VALUE, ...}", findings,
+    bool areKnown = node.IsMap(); // otherwise a field may be missing since its name is wrong
+    ForEachMember(node, ShapeOf(kind), findings,
                   [&](const std::string& name, const YAML::Node& nameNode, const YAML::Node& valueNode) {
                       std::vector<std::string> known;
                       for (size_t i = 0; i < kind.fields.count; ++i) {
@@ -86,20 +97,19 @@ void ReadRecord(const Kind& kind, const YAML::Node& node, Record& record, Findin
                               return ReadValue(kind.fields[i], valueNode, record.values[i], findings);
                           }
                       }
-                      findings.Error(PlaceOf(nameNode), std::string(kind.label) + " has no field "
-                                                            + Quote(name) + NearestHint(name, known));
+                      areKnown = false;
+                      findings.Error(PlaceOf(nameNode), UnknownName(std::string(kind.label) + " has no field",
+                                                                    name, valueNode, known));
                   });
     for (size_t i = 0; i < kind.fields.count; ++i) {
         const Field& field = kind.fields[i];
-        if (node.IsMap() && field.required && !record.values[i].given && !present.count(field.name))
+        if (areKnown && field.required && !record.values[i].given && !present.count(field.name))
             findings.Error(record.place,
                            Quote(field.name) + " is missing: every " + kind.label + " needs it");
     }
 }
 
 void ReadItems(Entry& entry, const YAML::Node& node, Findings& findings) {
-    if (!node.IsSequence())
-        return findings.Error(PlaceOf(node), "expected a list of items, each '- {...}'");
     entry.records.clear();
     for (const YAML::Node& item : node)
         ReadRecord(*entry.row->kind, item, entry.records.emplace_back(), findings);
@@ -140,45 +150,55 @@ void FindDefault(Entry& entry, const std::string& key, Place place, Findings& fi
     const size_t at = FindNamed(entry.records, key, ItemLabel);
     const bool isThere = at < entry.records.size();
     entry.defaultItem = isThere ? at : 0; // so that the rules don't report a missing default as well
-    if (!isThere)
-        findings.Error(place,
-                       "default " + Quote(key) + " is not the key of any item" + HintForKey(entry, key));
+    const auto lacksKey = [](const Record& record) { return !record.values.front().given; };
+    if (isThere || std::any_of(entry.records.begin(), entry.records.end(), lacksKey))
+        return; // a key that is missing is reported; it may be this one
+    findings.Error(place, "default " + Quote(key) + " is not the key of any item" + HintForKey(entry, key));
 }
 
 void ReadList(Entry& entry, const YAML::Node& node, bool isOfBase, Findings& findings) {
-    bool hasDefault = entry.defaultItem.has_value();
-    std::string defaultKey = hasDefault ? ItemLabel(entry.records[*entry.defaultItem]) : "";
+    std::string defaultKey = entry.defaultItem ? ItemLabel(entry.records[*entry.defaultItem]) : "";
+    bool hasDefault = entry.defaultItem.has_value(), hasItems = false, hasChanges = false;
+    bool areKnown = node.IsMap(); // otherwise what is missing may be there under a wrong name
     Place defaultPlace = entry.place;
-    std::set<std::string> present;
     const auto readMember = [&](const std::string& name, const YAML::Node& nameNode,
                                 const YAML::Node& value) {
-        present.insert(name);
         if (name == "items") {
-            ReadItems(entry, value, findings);
-        } else if (name == "default" && entry.row->kind->HasKeys()) {
-            if (ReadScalar(name, value, defaultKey, findings)) {
-                hasDefault = true;
-                defaultPlace = PlaceOf(value);
+            hasItems = value.IsSequence();
+            if (hasItems) {
+                ReadItems(entry, value, findings);
+            } else if (!value.IsNull()) {
+                areKnown = false;
+                findings.Error(PlaceOf(value), "expected a list of items, each '- {...}'");
             }
-        } else if (name == "change" && isOfBase) {
+        } else if (name == "default" && entry.row->kind->HasKeys()) {
+            hasDefault = ReadScalar(name, value, defaultKey, findings);
+            areKnown = areKnown && hasDefault;
+            defaultPlace = PlaceOf(value);
+        } else if (name == "change") {
+            hasChanges = true;
+            if (!isOfBase)
+                return findings.Error(PlaceOf(nameNode),
+                                      "there is nothing to change: no base has " + Quote(entry.name));
             ForEachMember(value, "changes: KEY: {FIELD: VALUE, ...}", findings,
                           [&](const std::string& key, const YAML::Node& keyNode, const YAML::Node& fields) {
                               ReadChange(entry, key, PlaceOf(keyNode), fields, findings);
                           });
-        } else if (name == "change") {
-            findings.Error(PlaceOf(nameNode), "there is nothing to change: no base has " + Quote(entry.name));
         } else {
-            findings.Error(PlaceOf(nameNode), "a list has no field " + Quote(name)
-                                                  + NearestHint(name, {"default", "items", "change"}));
+            areKnown = false;
+            findings.Error(PlaceOf(nameNode),
+                           UnknownName("a list has no field", name, value, {"default", "items", "change"}));
         }
     };
     ForEachMember(node, "a list: {default: KEY, items: [...]}", findings, readMember);
-    if (present.count("items") && present.count("change"))
+    if (hasItems && hasChanges)
         findings.Error(entry.place, "'items' replaces all items of the base: put the changes in it, too");
-    else if (node.IsMap() && !isOfBase && !present.count("items") && !present.count("change"))
-        findings.Error(entry.place, "'items' is missing: " + Quote(entry.name) + " is a list");
-    if (hasDefault)
+    else if (areKnown && !isOfBase && !hasItems && !hasChanges)
+        findings.Error(entry.place, "'items' is missing or empty: " + Quote(entry.name) + " is a list");
+    if (hasDefault && (hasItems || isOfBase))
         FindDefault(entry, defaultKey, defaultPlace, findings);
+    else if (hasDefault || !areKnown)
+        entry.defaultItem = 0; // so that the rules don't report a missing default as well
 }
 
 // Reads what is said of an entry over the base's, or as a new one.
@@ -221,7 +241,7 @@ Model ReadDocument(const YAML::Node& root, const BaseReader& readBase, Findings&
                       const EntryRow* row = FindEntryRow(name);
                       if (!row)
                           return findings.Error(PlaceOf(nameNode),
-                                                "unknown entry " + Quote(name) + NearestHint(name, known));
+                                                UnknownName("unknown entry", name, valueNode, known));
                       std::vector<Entry>& entries = model.entries;
                       const size_t at =
                           FindNamed(entries, name, [](const Entry& entry) { return entry.name; });

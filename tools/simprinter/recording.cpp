@@ -78,7 +78,7 @@ void Recording::Add(Place place, std::string_view name, const std::optional<Valu
     else if (!value)
         findings.Error(place, Quote(text) + " is not a value of its type");
     else if (!objects.emplace(*oid, *value).second)
-        findings.Note(place, OidText(*oid) + " occurs twice: the first value is used");
+        findings.Warning(place, OidText(*oid) + " occurs twice: the first value is used");
 }
 
 void Recording::LeaveOutCounter64(Place place) {
@@ -88,9 +88,9 @@ void Recording::LeaveOutCounter64(Place place) {
 
 void Recording::NoteWhatIsLeftOut() {
     if (counter64s != 0)
-        findings.Note(firstCounter64,
-                      "SNMPv1 has no Counter64: this object and all others of the type are left out, "
-                          + std::to_string(counter64s) + " in total");
+        findings.Warning(firstCounter64,
+                         "SNMPv1 has no Counter64: this object and all others of the type are left out, "
+                             + std::to_string(counter64s) + " in total");
 }
 
 ObjectMap ReadRecording(const std::string& text, Findings& findings) {

@@ -103,9 +103,10 @@ TEST_F(Base, FindingsNameTheFileAndLineThatSaidIt) {
         {"base: none.txt", "model.yaml:1:7: base: '"},
         {"base: [base.yaml]", "model.yaml:1:7: 'base' must be a single value"},
         {"base: loop.yaml", "loop.yaml:1:7: a model can't build on itself: 'model.yaml' builds on this file"},
-        {"base: bad.yaml\nCountry: {value: x}", "model.yaml:2:18: 'value' must be a number, not 'x'\n"
-                                                "bad.yaml:2:35: default 12 is not within 1 to 9\n"
-                                                "bad.yaml:3:1: 'items' is missing: 'MediaColor' is a list\n"},
+        {"base: bad.yaml\nCountry: {value: x}",
+         "model.yaml:2:18: 'value' must be a whole number such as 42, -42 or 0x2A, not 'x'\n"
+         "bad.yaml:2:35: default 12 is not within 1 to 9\n"
+         "bad.yaml:3:14: a list has no field 'itms'; did you mean 'items'?"},
         {"base: bad.yaml\nCopies: {max: 20, min: 15}\nMediaColor:",
          "bad.yaml:2:35: default 12 is not within 15 to 20\n"},
         {"base: base.yaml\nCopies: {min: 1000}", "model.yaml:2:15: min 1000 is above max 999"},

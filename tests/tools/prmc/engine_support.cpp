@@ -41,7 +41,7 @@ Model FromPrm(const std::string& bytes, Lines& messages) {
     Model model = ParsePrm(bytes, findings);
     CheckRules(model, findings);
     for (const Finding& finding : findings.list)
-        messages.push_back((finding.isNote ? "note: " : "") + finding.message);
+        messages.push_back(WarningMark(finding) + finding.message);
     return model;
 }
 

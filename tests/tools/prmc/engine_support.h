@@ -14,7 +14,7 @@ using Lines = std::vector<std::string>;
 // One entry of each form, as prmc dumps it. layout_test.cpp has its bytes.
 extern const char* const kSmallModel;
 
-// Reads a model and applies the rules. Appends each finding as "LINE:COLUMN: MESSAGE", notes with "note: ".
+// Reads a model and applies the rules. Appends each finding as "LINE:COLUMN: MESSAGE", warnings with "warning: ".
 Model FromYaml(const std::string& text, Lines& messages);
 
 // The same for a binary file, without the places.

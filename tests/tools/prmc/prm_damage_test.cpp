@@ -37,13 +37,13 @@ const std::tuple<size_t, std::string, const char*> kDamages[] = {
     {0x0E4, std::string("\x00\xD8", 2), "'OpInTrayUnit': the display name at 0xE4 is not valid UTF-16"},
     {0x188, std::string(32, 'x'), "'DevInfo': the text 'xxxxxxxxxxxxxxxxxxxxxxxxxxxxxxxx' has no terminator"},
     // What a model has no field for
-    {0x000, Words({1}),          "note: the header's first word is not 0; it is lost"},
-    {0x0A0, Words({1}),          "note: 'OpInTrayUnit': unused bytes are not 0; they are lost"},
-    {0x0C4, Words({1}),          "note: 'OpInTrayUnit': unused bytes are not 0; they are lost"},
-    {0x0DC, Words({1}),          "note: 'OpInTrayUnit': unused bytes are not 0; they are lost"},
-    {0x048, Words({1}),          "note: 'Copies': unused bytes are not 0; they are lost"},
-    {0x1A0, "x",              "note: 'DevInfo': unused bytes are not 0; they are lost"},
-    {0x0EC, "Kountry",        "note: unknown entry 'Kountry' is skipped"},
+    {0x000, Words({1}),          "warning: the header's first word is not 0; it is lost"},
+    {0x0A0, Words({1}),          "warning: 'OpInTrayUnit': unused bytes are not 0; they are lost"},
+    {0x0C4, Words({1}),          "warning: 'OpInTrayUnit': unused bytes are not 0; they are lost"},
+    {0x0DC, Words({1}),          "warning: 'OpInTrayUnit': unused bytes are not 0; they are lost"},
+    {0x048, Words({1}),          "warning: 'Copies': unused bytes are not 0; they are lost"},
+    {0x1A0, "x",              "warning: 'DevInfo': unused bytes are not 0; they are lost"},
+    {0x0EC, "Kountry",        "warning: unknown entry 'Kountry' is skipped"},
 };
 // clang-format on
 
@@ -66,7 +66,7 @@ TEST(PrmDamage, SeparateDefaultRecordIsMatchedByKey) {
     bytes += Words({0xE0, 0, 0xE4, 0});
     Lines messages;
     const Model model = FromPrm(bytes, messages);
-    EXPECT_EQ(messages, Lines{"note: 'OpInTrayUnit': the default is a separate record; only its key is kept"});
+    EXPECT_EQ(messages, Lines{"warning: 'OpInTrayUnit': the default is a separate record; only its key is kept"});
     EXPECT_EQ(model.entries.at(1).defaultItem, 0u);
 }
 

@@ -14,12 +14,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Runs prmc in a temporary folder with good.yaml, other.yaml, bad.yaml, good.PRM and broken.PRM.
+// Runs prmc in a temporary folder with good.yaml, other.yaml, warned.yaml, bad.yaml, good.PRM and broken.PRM.
 struct Program : testing::Test {
     Program() {
         fs::create_directory(folder);
         WriteFileWhole(Path("good.yaml"), kSmallModel);
         WriteFileWhole(Path("other.yaml"), "Country: {value: 8}\n");
+        WriteFileWhole(Path("warned.yaml"), "FeatureSetting: {Staple: Enable}\n");
         WriteFileWhole(Path("bad.yaml"), "Countri: {value: 8}\n");
         WriteFileWhole(Path("good.PRM"), Build(kSmallModel));
         WriteFileWhole(Path("broken.PRM"), Build(kSmallModel).substr(1));
@@ -52,6 +53,9 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"dump broken.PRM", 1, "# Problems in the file", ""},
         {"check good.PRM", 0, "", ""},
         {"check bad.yaml", 1, "", "bad.yaml:1:1: "},
+        {"check warned.yaml", 0, "", "warned.yaml:1:18: warning: 'Staple' is on, but 'Staple' has no items"},
+        {"check --strict warned.yaml", 1, "", "warned.yaml:1:18: 'Staple' is on"},
+        {"build warned.yaml -o warned.PRM", 0, "", "warned.yaml:1:18: warning: "},
         {"check stdout.txt", 2, "", "prmc: 'stdout.txt' has an unknown file type"},
         {"diff good.PRM good.yaml", 0, "", ""},
         {"diff good.PRM other.yaml", 1, "Copies: only in the first file\n", ""},
@@ -97,14 +101,15 @@ TEST_F(Program, OutputIsWholeOrUntouched) {
     WriteFileWhole(Path("old.PRM"), "old");
     fs::create_symlink("old.PRM", folder / "link.PRM");
     EXPECT_EQ(Run("build bad.yaml -o old.PRM"), 1);
+    EXPECT_EQ(Run("build warned.yaml --strict -o old.PRM"), 1);
     EXPECT_EQ(ReadFile(Path("old.PRM")), "old");
     EXPECT_EQ(Run("build good.yaml -o link.PRM"), 0);
     EXPECT_TRUE(fs::is_symlink(folder / "link.PRM"));
     EXPECT_EQ(ReadFile(Path("old.PRM")), ReadFile(Path("good.PRM")));
     EXPECT_EQ(Run("build good.yaml -o /dev/full"), 2);
     EXPECT_TRUE(fs::is_character_file("/dev/full"));
-    // five to start with, these two and the two outputs: no temporary is left
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 9);
+    // six to start with, these two and the two outputs: no temporary is left
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), fs::directory_iterator()), 10);
 }
 
 // A shell saves the files one after the other, each after the previous one has been seen.
@@ -129,8 +134,9 @@ kill $watch
     const std::string out = std::regex_replace(ReadFile(Path("out.txt")), std::regex("[0-9:]{8}"), "TIME");
     EXPECT_EQ(out, "TIME written: new.PRM\nreported\nTIME errors; nothing is written\n"
                    "TIME written: new.PRM\nreported\nTIME errors; nothing is written\n");
-    EXPECT_EQ(ReadFile(Path("err.txt")), "derived.yaml:2:18: 'value' must be a number, not 'x'\n"
-                                         "good.yaml:18:1: unknown entry 'Countri'; did you mean 'Country'?\n");
+    EXPECT_EQ(ReadFile(Path("err.txt")),
+              "derived.yaml:2:18: 'value' must be a whole number such as 42, -42 or 0x2A, not 'x'\n"
+              "good.yaml:18:1: unknown entry 'Countri'; did you mean 'Country'?\n");
     EXPECT_EQ(ReadFile(Path("new.PRM")), ReadFile(Path("good.PRM")));
 }
 

@@ -1,5 +1,7 @@
 // Errors in a model's YAML: each is reported at its place with a message that says what to do.
-#include "engine_support.h"
+#include "prmc/rules.h"
+#include "prmc/warnings.h"
+#include "prmc/yaml_reader.h"
 
 #include <gtest/gtest.h>
 
@@ -24,8 +26,8 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {Color("{key: W, name: n, value: 1, value: 2}"), "4:35: 'value' is given twice here"},
     {"Country: {value: 1}\ncountry: {value: 1}", "2:1: entry 'country' occurs twice: remove one"},
     {Color("{key: W, name: n, value: 1}\n    - {key: w, name: n, value: 2}"), "5:13: key 'w' occurs twice: remove one"},
-    {"MediaTypeList_Tray: {itmes: []}", "1:22: a list has no field 'itmes'; did you mean 'items'?\n"
-                                        "1:1: 'items' is missing: 'MediaTypeList_Tray' is a list"},
+    {"MediaTypeList_Tray: {itmes: []}", "1:22: a list has no field 'itmes'; did you mean 'items'?"},
+    {"MediaColor: {Default: W, items: []}", "1:14: a list has no field 'Default'; did you mean 'default'?"},
     {Color("{key: Grey, name: n, value: 1}", "Gray"),
      "2:12: default 'Gray' is not the key of any item; did you mean 'Grey'?"},
 
@@ -45,17 +47,23 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
      "4:41: text 'é' has a non-ASCII character, which only names may have"},
     {Color("{key: W, name: \"a\\0b\", value: 1}"), "4:22: name 'a\\x00b' has a NUL character, which would end it"},
     {Color("{key: W, name: , value: 1}"), "4:22: 'name' has no value; write \"\" for an empty text"},
-    {Color("{key: W, name: [a], value: 1}"), "4:22: 'name' must be a single value"},
+    {Color("{key: W, name: [a], value: 1}"), "4:22: 'name' must be a single value; a text in brackets needs quotes"},
 
     // Numbers
     {Color("{key: W, name: n, value: 65536}"), "4:32: value 65536 is out of range: write 0 to 65535"},
     {"Country: {value: 4294967296}", "1:18: value 4294967296 is out of range: write 0 to 4294967295"},
-    {"Country: {value: 1-}", "1:18: 'value' must be a number, not '1-'"},
-    {"Country: {value: 0x1234567890123456}", "1:18: 'value' must be a number, not '0x1234567890123456'"},
+    {"Country: {value: 1-}", "1:18: 'value' must be a whole number such as 42, -42 or 0x2A, not '1-'"},
+    {"Country: {value: 0x1234567890123456}", "1:18: 'value' must be a whole number such as 42, -42 or 0x2A, not '0x1234567890123456'"},
+    {"Copies: {min: 1, max: 9,5, default: 1}", "1:25: a number has no ',' in it: write a whole number"},
+    {"Copies: {min: 1, max: 9.5, default: 1}",
+     "1:23: 'max' must be a whole number such as 42, -42 or 0x2A, not '9.5'"},
+    {"Copies: {min: , max: 9, default: 1}", "1:15: 'min' has no value: write a whole number such as 42, -42 or 0x2A"},
+    {"InTray: {default: InTray1, items: [{key: InTray1, name: n, value: 1, enabled: yes}]}",
+     "1:79: 'enabled' must be 1 or 0, or true or false, not 'yes'"},
     {"ImgShiftMFP_BackH: {min: -833, max: -2, default: -1}",
      "1:26: min -833 is out of range: write -832 to 832\n1:50: default -1 is not within -833 to -2"},
-    {"Resolution: {default: R, items: [{key: R, name: n, values: [600, 600]}]}",
-     "1:60: 'values' must be 3 numbers in brackets"},
+    {"Resolution: {default: Reso_1, items: [{key: Reso_1, name: n, values: [600, 600]}]}",
+     "1:70: 'values' must be 3 numbers in brackets"},
     {"Copies: {min: 10, max: 9, default: 9}", "1:15: min 10 is above max 9"},
 
     // Feature switches and facts
@@ -73,14 +81,17 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
 
     // Items that the driver does not use
     {"Text_RGBGray: {default: Text_4Colour, items: [{key: Text_4Colour, name: n}]}",
-     "1:53: 'Text_4Colour' is not an item of 'Text_RGBGray'; did you mean 'Text_4Color'?"},
+     "1:53: 'Text_4Colour' is not an item of 'Text_RGBGray'; possible: Text_4Color, Text_BandG, Text_BlackOnly; "
+     "did you mean 'Text_4Color'?"},
+    {"MediaTypeList_Size: {items: [{key: A4, name: n}]}",
+     "1:36: 'A4' is not an item of 'MediaTypeList_Size'; possible: MediaTypeList_Size_Unknown"},
     {"RGBProf: {default: A, items: [{key: A, name: n}, {key: B, name: n}, {key: C, name: n}]}",
      "1:69: 'RGBProf' has 3 items, but the driver takes at most 2: remove the others"},
-    {"InTray: {default: A, items: [{key: A, name: n, value: 1, enabled: 1}, {key: B, name: n, value: 2, "
-     "enabled: 0}, {key: C, name: n, value: 3, enabled: 0}, {key: D, name: n, value: 4, enabled: 1}]}",
-     "1:71: note: 'B' is not enabled, which hides all trays after it, such as 'D'"},
 
     // Structure, and the file as a whole
+    {"Copies: 5", "1:9: expected fields: {min: VALUE, max: VALUE, default: VALUE}"},
+    {"MediaColor: {default: W, items: [W]}", "1:34: expected fields: {key: VALUE, name: VALUE, value: VALUE}"},
+    {"MediaColor: {default: W, items: }", "1:1: 'items' is missing or empty: 'MediaColor' is a list"},
     {"MediaWeight: []", "1:14: expected a list: {default: KEY, items: [...]}"},
     {"MediaTypeList_Tray: {items: {}}", "1:29: expected a list of items, each '- {...}'"},
     {"? [a]\n: b", "1:3: expected a name"},
@@ -88,19 +99,76 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {"{}", "1:1: the file has no entries"},
     {"Country: {value: 1}\n---\nCountry: {value: 2}",
      "2:1: a second document starts here, but a model file has only one"},
-    {"# a stray comma\n,", "2:1: a second document starts here, but a model file has only one"},
-    {"Country: value: 1", "1:15: illegal map value"},
+    {"  Country: {value: 1}\nCopies: {min: 1, max: 2, default: 1}",
+     "2:1: this does not continue the lines before it: start all entries in the same column"},
     {"Country: {value: 1}\n# \xFF", "2:3: not valid UTF-8: save the file as UTF-8"},
     {"Country: {value: 1}\x04", "1:20: control character: write it as an escape in double quotes"},
+    {std::string("C\0o\0", 4), "1:1: this file is UTF-16; save it as UTF-8"},
+    {std::string("\xFE\xFF\0C", 4), "1:1: this file is UTF-16; save it as UTF-8"},
+
+    // Brackets and quotes
+    {Color("{key: W, name: n, value: 1\n    - {key: B, name: n, value: 2}"), "4:7: '{' is not closed: end it with '}'"},
+    {Color("{key: W, name: Grey #2, value: 1}\n    - {key: B, name: n, value: 2}"),
+     "4:7: '{' is not closed: end it with '}'; the '#' after it starts a comment, unless its text is in quotes"},
+    {"MediaColor:\n  items: [\n    {key: W},\nCountry: {value: 1}", "2:10: '[' is not closed: end it with ']'"},
+    {Color("{key: W, name: n, values: [1, 2}"), "4:33: '[' is not closed: end it with ']'"},
+    {Color("{key: W, name: n, value: 1]"), "4:33: ']' does not close the '{' of line 4: write '}'"},
+    {Color("{key: W, name: n, value: 1}}"), "4:34: '}' closes nothing: remove it"},
+    {"\xEF\xBB\xBF" "Country: {value: 1", "1:10: '{' is not closed: end it with '}'"},
+    {"Country: {value: 1} Copies: {min: 1}", "1:21: the value ends with the bracket before this: start a new line"},
+    {Color("{key: W, name: \"n, value: 1}\n    - {key: B, name: \"n\", value: 2}"),
+     "4:22: the quote \" is not closed: end the text with \" on the same line"},
+    {"Country: 'x\n", "1:10: the quote ' is not closed: end the text with ' on the same line"},
+    {Color("{key: W, name: 'It's', value: 1}"),
+     "4:26: the text in quotes ends before this: write '' for a quote inside it, or ',' if another value follows"},
+    {Color("{key: W, name: \"C:\\p\", value: 1}"),
+     "4:25: unknown escape after '\\': write \\\\ for a backslash, or use single quotes"},
+    {Color("{key: W, name: @1, value: 1}"), "4:22: a text that starts with '@' needs quotes"},
+    {Color("{key: W, name: *1, value: 1}"), "4:22: a text that starts with '*' needs quotes"},
+    {Color("{key: W, name: &1, value: 1}"), "4:22: a text that starts with '&' needs quotes"},
+    {Color("{key: W, name: !1, value: 1}"), "4:22: a text that starts with '!' needs quotes"},
+
+    // Faults in several entries
+    {"MediaColor: {\nCountry: value: 1\nCopies: {min: 1, max: 9.5, default: 1}\nMediaTyp: {}\nInTray:\n\tdefault: A",
+     "1:13: '{' is not closed: end it with '}'\n"
+     "2:15: a second ':' in the line: put a text with ':' in quotes, or a map in {}\n"
+     "3:23: 'max' must be a whole number such as 42, -42 or 0x2A, not '9.5'\n"
+     "4:1: unknown entry 'MediaTyp'; did you mean 'MediaType'?\n"
+     "6:1: the line is indented with a tab: use spaces"},
+
+    // Colons, commas, dashes and indentation
+    {"Country: value: 1", "1:15: a second ':' in the line: put a text with ':' in quotes, or a map in {}"},
+    {Color("{key: W, name: a: b, value: 1}"),
+     "4:23: a second ':' in the value: put a text with ':' in quotes, or write ',' before the next name"},
+    {Color("{key: W, name: White, or grey, value: 1}"),
+     "4:29: ':' is missing in 'or grey', or a text with ',' needs quotes"},
+    {"Country: {value = 1}", "1:11: write NAME: VALUE, not 'value = 1'"},
+    {"Country: {value:1}", "1:11: a space is missing after ':' in 'value:1'"},
+    {"FeatureSetting: {Poster:Enable}", "1:31: a space is missing after ':' in 'Poster:Enable'"},
+    {"MediaColor:\n  default:W\n  items: []", "2:11: a space is missing after ':'"},
+    {"MediaColor\n  items: []", "1:11: ':' is missing after the name"},
+    {"MediaColor:\n  default: W\n  items:\n  -{key: W}", "4:3: a space is missing after '-'"},
+    {"MediaColor:\n  items: - {key: W}",
+     "2:10: '-' cannot be here: start a line with it, indented as the other items of the list"},
+    {"MediaColor:\n  - default: W\n  items: []",
+     "3:3: the line does not fit those before it: indent it as its neighbours are"},
+    {"MediaColor:\n  default: W\n   items: []",
+     "3:4: the line does not fit those before it: indent it as its neighbours are"},
+    {"MediaColor:\n  items:\n    - key: W\n      name: |\n        \"6 [\n      value: 1\n   - key: B", // any text after '|'
+     "7:4: the line does not fit those before it: indent it as its neighbours are"},
+    {"MediaColor:\n\tdefault: W", "2:1: the line is indented with a tab: use spaces"},
 };
 // clang-format on
 
 std::string FindingsOf(const std::string& yaml) {
-    Lines messages;
-    FromYaml(yaml, messages);
+    Findings findings;
+    const Model model = ReadYaml(yaml, findings);
+    CheckRules(model, findings);
+    FindWarnings(model, findings);
+    findings.Sort();
     std::string lines;
-    for (const std::string& message : messages)
-        lines += (lines.empty() ? "" : "\n") + message;
+    for (const Finding& finding : findings.list)
+        lines += (lines.empty() ? "" : "\n") + FindingText(finding);
     return lines;
 }
 
@@ -118,12 +186,18 @@ TEST(YamlFaults, LimitsAreAccepted) {
         "FeatureSetting: {poster: enable, Chapter: Disable, ColorSetting: type255, BindingEdge: 4bind}",
         Color("{key: W, name: n, value: 1}", "w"),
         "DevInfo: {PrintRateUnit: ppm, PDLType: 6/03, MachineEncryption: other}",
-        "InTray: {default: A, items: [{key: A, name: n, value: 1, enabled: 1}, {key: B, name: n, value: 2, "
-        "enabled: 0}]}",
+        "InTray: {default: InTray1, items: [{key: InTray1, name: n, value: 1, enabled: 1}, {key: InTray2, name: n, "
+        "value: 2, enabled: 0}]}",
         "MediaTypeList_Tray: {items: []}",
+        "InTray: {default: InTray1, items: [{key: InTray1, name: n, value: 1, enabled: true}]}",
+        "\xEF\xBB\xBF"
+        "Country: {value: 1}\r\n",
     };
-    for (const std::string& model : models)
-        EXPECT_EQ(FindingsOf(model), "") << model;
+    for (const std::string& model : models) {
+        Lines messages;
+        FromYaml(model, messages);
+        EXPECT_EQ(messages, Lines{}) << model;
+    }
 }
 
 } // namespace

@@ -61,9 +61,9 @@ TEST(Recording, EveryFindingHasItsLine) {
     const std::string good = "1.3.1.0|2|1\n", goodWalk = ".1.3.1.0 = INTEGER: 1\n";
     const std::pair<std::string, const char*> cases[] = {
         {goodWalk + ".1.3.1.0 = No more variables left in this MIB View (It is past the end of the MIB tree)\n", ""},
-        {goodWalk + ".1.3.1.0 = INTEGER: 2\n", "2: note: .1.3.1.0 occurs twice: the first value is used\n"},
+        {goodWalk + ".1.3.1.0 = INTEGER: 2\n", "2: warning: .1.3.1.0 occurs twice: the first value is used\n"},
         {goodWalk + ".1.3.2 = Counter64: 1\n.1.3.3 = Counter64: 3\n",
-         "2: note: SNMPv1 has no Counter64: this object and all others of the type are left out, 2 in total\n"},
+         "2: warning: SNMPv1 has no Counter64: this object and all others of the type are left out, 2 in total\n"},
         {"1: INTEGER: 3\n" + goodWalk, "1: expected '.1.3.6... = TYPE: VALUE', not '1: INTEGER: 3'\n"},
         {good + "1.3.2.0|3|1\n", "2: unknown tag '3'; possible: 2, 4, 4x, 5, 6, 64, 64x, 65, 66, 67, 68, 68x, 71\n"},
         {good + "# text\n1.3.2.0|2|2147483648\n", "3: '2147483648' is not a value of its type\n"},

@@ -1,6 +1,7 @@
 // `workbench dialog` as a process, on a screen: what scripts change, what the report shows and what is
 // refused. Expected values are those of the model file and of the dialogs' rules.
 #include "tools/workbench/workbench_run.h"
+#include "workbench/lib/json_form.h"
 #include "workbench/lib/picture.h"
 
 #include <algorithm>
@@ -120,6 +121,39 @@ TEST(WorkbenchDialog, TrayChangesAreReportedAfterOk) {
     EXPECT_EQ(locked["dialog"]["disabled"], Json({1844, 1860, 1862, 1003, 1086, 1091, 1094}));
 }
 
+TEST(WorkbenchDialog, JsonFaultsAreExplainedAtTheirPlace) {
+    const std::pair<std::string, std::string> faults[] = {
+        {"{\"a\": [\n  {\"b\": 1\n]}", "2:3: '{' is not closed: end it with '}'"},
+        {"[1, 2\n}", "2:1: '}' does not close the '[' at 1:1"},
+        {"{\"a\": 1}}", "1:9: nothing may follow the end of the value: remove it"},
+        {"{\"a\": 1,\n}", "1:8: ',' before a closing bracket: remove it"},
+        {"[\n {\"a\": 1}\n {\"b\": 2}]", "3:2: ',' is missing before this"},
+        {"{\"a\" 1}", "1:6: ':' is missing before this"},
+        {"[1,,2]", "1:4: a value is missing before this"},
+        {"{a: 1}", "1:2: a name has double quotes: write \"NAME\": VALUE"},
+        {"{\"a\": 1,5}", "1:9: expected a name in double quotes; a number has no ',' in it"},
+        {"{'a': 1}", "1:2: texts have double quotes: write \" instead of '"},
+        {"[True]", "1:2: 'True' needs double quotes; only numbers, true, false and null have none"},
+        {"[\"x]", "1:2: the text is not closed: end it with \" on the same line"},
+        {"// c\n[]", "1:1: JSON has no comments: remove it"},
+        {"[\"C:\\p\"]", "1:6: unknown escape: write \\\\ for a backslash"},
+        {"[\"\t\"]", "1:3: a control character in a text: write an escape such as \\t or \\u0007"},
+        {"[\"\\u12g4\"]", "1:7: no character: write \\u and its 4 hexadecimal digits"},
+        {"[1.]", "1:4: no number: write 12, -1.5 or 1e3"},
+        {"[\"\xFF\"]", "1:3: not UTF-8: save the file as UTF-8"},
+        {"", "1:1: the file is empty"},
+        {std::string("[\0", 2), " this file is UTF-16; save it as UTF-8"},
+    };
+    for (const auto& [text, wanted] : faults) {
+        try {
+            ParseJson(text, "F");
+            ADD_FAILURE() << text;
+        } catch (const Failure& failure) {
+            EXPECT_EQ(failure.what(), "F:" + wanted) << text;
+        }
+    }
+}
+
 TEST(WorkbenchDialog, FailureSaysWhatIsWrongAndWhere) {
     const DialogFolder folder;
     const std::string longName = R"({"simulations": [{"name": ")" + std::string(41, 'x') + "\"}]}";
@@ -135,7 +169,7 @@ TEST(WorkbenchDialog, FailureSaysWhatIsWrongAndWhere) {
         {"--profiles", longName, 1, "wrong: simulations\\[0\\].name: .*41 .* 40\n"},
         {"--profiles", R"({"rgbSources": [{"name": ""}]})", 1, "wrong: rgbSources\\[0\\]: lacks its name"},
         {"--profiles", R"({"cmyk": []})", 1, "'cmyk'; possible: rgbSources, simulations, destinations"},
-        {"--profiles", "{", 1, "wrong: not JSON; see line 1, column 2\n"},
+        {"--profiles", "{", 1, "wrong:1:1: '\\{' is not closed: end it with '\\}'\n"},
         {"--profiles", R"({"rgbSources": 1e999})", 1, "wrong: .*a number is too large\n"},
         {"--profiles", std::string(100000, '[') + std::string(100000, ']'), 1, "wrong: values .* levels deep"},
     };

@@ -17,7 +17,7 @@ void WriteModel(const ModelFile& read, const std::string& target) {
 
 ExitCode Build(const std::string& source, const std::string& target, const CheckOptions& options) {
     ExpectForm(source, true);
-    const ModelFile read = ReadModelFile(source);
+    const ModelFile read = ReadForCheck(source, options);
     Report(read, options);
     if (read.findings.HasErrors())
         return kErrors;
@@ -26,7 +26,7 @@ ExitCode Build(const std::string& source, const std::string& target, const Check
 }
 
 ExitCode Check(const std::string& path, const CheckOptions& options) {
-    const ModelFile read = ReadModelFile(path);
+    const ModelFile read = ReadForCheck(path, options);
     Report(read, options);
     return read.findings.HasErrors() ? kErrors : kDone;
 }

@@ -13,8 +13,9 @@ enum ExitCode {
 };
 
 struct CheckOptions {
-    bool isJson =
-        false; // findings as JSON on the standard output, else as lines on the standard error output
+    bool isStrict = false; // warnings are errors
+    bool isQuiet = false;  // no warnings
+    bool isJson = false;   // findings as JSON on the standard output; else lines on the standard error output
 };
 
 // Compiles a model; the target is written only when there is no error.

@@ -2,6 +2,7 @@
 #include "prmc/commands/output.h"
 
 #include "prmc/findings_json.h"
+#include "prmc/warnings.h"
 
 #include <iostream>
 #include <stdexcept>
@@ -11,6 +12,16 @@ void ExpectForm(const std::string& path, bool wantsYaml) {
         throw std::runtime_error("'" + path + "' is "
                                  + (wantsYaml ? "a binary file; this command takes a model (.yaml)"
                                               : "a model; this command takes a binary file (.PRM)"));
+}
+
+ModelFile ReadForCheck(const std::string& path, const CheckOptions& options) {
+    ModelFile read = ReadModelFile(path);
+    if (!options.isQuiet)
+        FindWarnings(read.model, read.findings);
+    read.findings.Sort();
+    if (options.isStrict)
+        read.findings.RaiseWarnings();
+    return read;
 }
 
 void Print(const std::string& text) {

@@ -10,6 +10,9 @@
 // Throws std::runtime_error when the file has the other form.
 void ExpectForm(const std::string& path, bool wantsYaml);
 
+// Reads a model with its errors and warnings, as the options want them.
+ModelFile ReadForCheck(const std::string& path, const CheckOptions& options);
+
 // To the standard output. Throws std::runtime_error when it can't be written.
 void Print(const std::string& text);
 

@@ -55,7 +55,7 @@ std::vector<std::string> BuildOnce(const std::string& source, const std::string&
                                    const std::string& command, const CheckOptions& options) {
     std::vector<std::string> files = {source};
     try {
-        const ModelFile read = ReadModelFile(source);
+        const ModelFile read = ReadForCheck(source, options);
         files = read.files;
         Report(read, options);
         if (read.findings.HasErrors()) {

@@ -1,7 +1,9 @@
 // Converts between documents and the values of the JSON library.
 #include "workbench/lib/json_form.h"
 
-#include <algorithm>
+#include "common/encoding.h"
+#include "workbench/lib/json_fault.h"
+
 #include <nlohmann/json.hpp>
 
 namespace {
@@ -62,6 +64,8 @@ std::string JsonForm(const Document& document, int indent) {
 }
 
 Document ParseJson(const std::string& text, const std::string& name) {
+    if (IsUtf16(text))
+        throw Failure(kExitFailed, name + ": " + kSaveAsUtf8);
     try {
         return FromJson(Json::parse(text));
     } catch (const std::length_error&) {
@@ -71,10 +75,6 @@ Document ParseJson(const std::string& text, const std::string& name) {
         throw Failure(kExitFailed, name + ": cannot be read as JSON; a number is too large");
     } catch (const Json::parse_error& error) {
         // error.byte counts from 1. The end of the text counts as a byte, too.
-        const std::string before = text.substr(0, error.byte - 1);
-        const size_t lineStart = before.rfind('\n') + 1; // npos: the first line
-        throw Failure(kExitFailed, name + ": not JSON; see line "
-                                       + std::to_string(1 + std::count(before.begin(), before.end(), '\n'))
-                                       + ", column " + std::to_string(error.byte - lineStart));
+        throw Failure(kExitFailed, name + ":" + ExplainJsonError(text, error.byte - 1));
     }
 }

@@ -74,10 +74,19 @@ inline constexpr const char* kColorModeKeys[] = {
 inline constexpr const char* kGraphicsFollowKeys[] = {"Graph_MatchText", "Graph_MatchImage"};
 inline constexpr const char* kMatchPaperKeys[] = {"MatchPaperColorOFF", "MatchPaperColorON"};
 
-// Most items of the settings that take any keys.
-constexpr size_t kMaxPageProfiles = 2;
-constexpr size_t kMaxSimulations = 6;
-constexpr size_t kMaxPageDestinations = 1;
-constexpr size_t kMaxSimulationGrays = 3;
+// The same for lists in which an item of the parameter data file has its position there as its value,
+// whatever its key. With these keys in this order, keys and values match.
+inline constexpr const char* kPageProfileKeys[] = {"DeviceRGB", "sRGB"};
+inline constexpr const char* kSimulationKeys[] = {
+    "Simu_None", "Simu_SWOP", "Simu_Euroscale", "Simu_CommercialPress", "Simu_TOYO", "Simu_DIC",
+};
+inline constexpr const char* kPageDestinationKeys[] = {"Dest_Auto"};
+inline constexpr const char* kSimulationGrayKeys[] = {"Simu_4Color", "Simu_BandG", "Simu_BlackOnly"};
+
+// Most items of these lists.
+constexpr size_t kMaxPageProfiles = sizeof(kPageProfileKeys) / sizeof(kPageProfileKeys[0]);
+constexpr size_t kMaxSimulations = sizeof(kSimulationKeys) / sizeof(kSimulationKeys[0]);
+constexpr size_t kMaxPageDestinations = sizeof(kPageDestinationKeys) / sizeof(kPageDestinationKeys[0]);
+constexpr size_t kMaxSimulationGrays = sizeof(kSimulationGrayKeys) / sizeof(kSimulationGrayKeys[0]);
 
 #endif

@@ -29,6 +29,15 @@ constexpr ItemTable<Items> FromValues(const ColorKeyRow* values, ColorKeyColumn 
     return table;
 }
 
+// An item for each key; its position is its value.
+template <size_t Items>
+constexpr ItemTable<Items> FromKeys(const char* const (&keys)[Items]) {
+    ItemTable<Items> table = {};
+    for (size_t i = 0; i < Items; ++i)
+        table.items[i] = Item(keys[i], static_cast<uint32_t>(i));
+    return table;
+}
+
 constexpr ObjectColorTables<3> CompiledIn(ColorKeyColumn column) {
     return {FromValues<2>(kProfileKeys, column),    FromValues<16>(kProfileKeys, column),
             FromValues<4>(kColorMatchKeys, column), FromValues<3>(kGrayKeys, column),
@@ -48,14 +57,9 @@ constexpr ObjectColorTables<5> CompiledInGraphics() {
 }
 
 constexpr ColorTables kCompiledIn = {
-    {{Item("DeviceRGB", 0), Item("sRGB", 1)}},
-    CompiledIn(kTextKeys),
-    CompiledIn(kImageKeys),
-    CompiledInGraphics(),
-    {{Item("Simu_None", 0), Item("Simu_SWOP", 1), Item("Simu_Euroscale", 2), Item("Simu_CommercialPress", 3),
-      Item("Simu_TOYO", 4), Item("Simu_DIC", 5)}},
-    {{Item("Dest_Auto", 0)}},
-    {{Item("Simu_4Color", 0), Item("Simu_BandG", 1), Item("Simu_BlackOnly", 2)}},
+    FromKeys(kPageProfileKeys),    CompiledIn(kTextKeys),     CompiledIn(kImageKeys),
+    CompiledInGraphics(),          FromKeys(kSimulationKeys), FromKeys(kPageDestinationKeys),
+    FromKeys(kSimulationGrayKeys),
 };
 
 // What becomes of a table whose entry the file lacks.

@@ -9,8 +9,8 @@
 #include "paramdata/feature_switches.h"
 #include "paramdata/input_slots.h"
 
-static_assert(kFeatureSwitchCount == TELMAR_SWITCH_COUNT
-              && kTraySelectionCount == TELMAR_TRAY_SELECTION_COUNT);
+static_assert(kFeatureSwitchCount == TELMAR_SWITCH_COUNT && kTraySelectionCount == TELMAR_TRAY_SELECTION_COUNT
+              && kMaxTraySettings == TELMAR_TRAY_COUNT && kMaxBinNameChars + 1 == TELMAR_BIN_NAME_LENGTH);
 
 constexpr uint16_t kItemIcon = 32515; // the system's warning icon
 

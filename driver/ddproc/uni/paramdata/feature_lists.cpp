@@ -225,9 +225,9 @@ void BuildTraySelectionList(PrmFile& file, DeviceTable* table, const char* featu
 }
 
 uint16_t ResolutionNumber(const char* key) {
-    constexpr size_t kNumberAt = 5;
-    return TextLength(key) > kNumberAt ? static_cast<uint16_t>(PrmParseFirstNumber(key + kNumberAt))
-                                       : uint16_t{0};
+    return TextLength(key) > kResolutionNumberAt
+               ? static_cast<uint16_t>(PrmParseFirstNumber(key + kResolutionNumberAt))
+               : uint16_t{0};
 }
 
 void FreeLists(DeviceTable& table) {

@@ -128,6 +128,7 @@ enum FeatureSwitch : size_t {
 };
 static_assert(kSwitchColorSetting == 11 && kSwitchDlgMediaType == 83);
 
-constexpr unsigned kMaxSwitchType = 255; // "TYPEn" is recognized from 1 to this number
+constexpr unsigned kLastTrayDialogType = 3; // "Dlg_MediaType" from TYPE1 on
+constexpr unsigned kMaxSwitchType = 255;    // "TYPEn" is recognized from 1 to this number
 
 #endif

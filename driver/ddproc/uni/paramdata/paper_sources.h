@@ -38,4 +38,7 @@ inline constexpr PaperSourceRow kPaperSources[] = {
 // clang-format on
 constexpr size_t kPaperSourceCount = sizeof(kPaperSources) / sizeof(kPaperSources[0]);
 
+constexpr size_t kMaxTraySettings = 10; // trays whose paper the settings keep
+constexpr size_t kMaxBinNameChars = 23; // of a paper source's name in the system's list
+
 #endif

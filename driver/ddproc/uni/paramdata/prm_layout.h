@@ -101,6 +101,8 @@ struct PrmResolution {
     uint32_t values[3];
 };
 static_assert(sizeof(PrmResolution) == 32 && offsetof(PrmResolution, values) == 20);
+constexpr size_t kResolutionNumberAt =
+    5; // position in the key behind which its number is, as in "Reso_600dpi"
 
 struct PrmOutputPaper {
     PrmItemHead head;

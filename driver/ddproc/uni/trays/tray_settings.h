@@ -15,7 +15,6 @@ struct TrayAttribute {
     FeatureSwitch feature;           // that must be on for controls and column; kFeatureSwitchCount: none
     uint32_t firstTypeWithoutColumn; // dialogs of this type, up to kLastTrayDialogType, have no column
 };
-constexpr uint32_t kLastTrayDialogType = 3;
 
 // By position, as in MediaTypeList.
 extern const TrayAttribute trayAttributes[kMediaTypeListCount];

@@ -6,6 +6,7 @@
 #include "base/window_services.h"
 #include "dialogs/shared/item_drawing.h"
 #include "dialogs/shared/profile_text.h"
+#include "paramdata/color_keys.h"
 
 #include <iterator>
 
@@ -13,7 +14,7 @@ namespace {
 
 constexpr LONG_PTR kFirstRgbProfile = 256; // item data of the first profile; of RGB sources
 constexpr LONG_PTR kFirstProfile = 128;    // of destinations and simulations
-constexpr LONG_PTR kSimulationItems = 6;
+constexpr LONG_PTR kSimulationItems = kMaxSimulations;
 constexpr uint32_t kProfileChosen = 128; // stored value of a destination or simulation profile
 
 // --- Kinds -----------------------------------------------------------------------------------------------

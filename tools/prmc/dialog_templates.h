@@ -1,0 +1,12 @@
+// The controls of the module's dialogs, as the resource scripts lay them out. Measures are dialog units: a
+// quarter of the average letter in width.
+#ifndef PRMC_DIALOG_TEMPLATES_H
+#define PRMC_DIALOG_TEMPLATES_H
+
+// Width of the control where it is widest; 0 when no dialog has it.
+int WidestControl(int control);
+
+// The drop-down list that the label stands above; 0 when there is none.
+int ListOfLabel(int label);
+
+#endif
