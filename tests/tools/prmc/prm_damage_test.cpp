@@ -68,6 +68,9 @@ TEST(PrmDamage, SeparateDefaultRecordIsMatchedByKey) {
     const Model model = FromPrm(bytes, messages);
     EXPECT_EQ(messages, Lines{"warning: 'OpInTrayUnit': the default is a separate record; only its key is kept"});
     EXPECT_EQ(model.entries.at(1).defaultItem, 0u);
+    messages.clear();
+    FromPrm(bytes.replace(bytes.size() - 16, 4, Words({0xE1})), messages); // behind the key, an empty text
+    EXPECT_EQ(messages.front(), "'OpInTrayUnit': the default record's key '' is not the key of any item");
 }
 
 TEST(PrmDamage, EveryCutFileHasErrors) {
