@@ -38,6 +38,19 @@ std::vector<NamedTable> TablesOf(const Document& document) {
     return tables;
 }
 
+bool HasContents(const NamedTable& table) {
+    return !table.contents.Elements().empty() || !table.contents.Fields().empty();
+}
+
+Document RowsOf(const Document& contents) {
+    if (!contents.IsObject())
+        return contents;
+    Document rows = Document::MakeList();
+    for (const Document::Field& field : contents.Fields())
+        rows.Add({{"name", Title(field.name)}, {"value", field.value}});
+    return rows;
+}
+
 std::string Title(const std::string& name) {
     if (name.empty() || !std::islower(static_cast<unsigned char>(name[0])))
         return name;

@@ -13,6 +13,12 @@ struct NamedTable {
 // The tables of a document in its order, those in an object of tables in place of it.
 std::vector<NamedTable> TablesOf(const Document& document);
 
+// Whether the table has any row.
+bool HasContents(const NamedTable& table);
+
+// The rows of a table. Names and values become rows of two fields, "name" and "value".
+Document RowsOf(const Document& contents);
+
 // "paperSizes" as "Paper sizes". Names that begin with a capital letter are the driver's and stay as they
 // are.
 std::string Title(const std::string& name);
