@@ -67,20 +67,27 @@ Document ReadFindings(const std::string& path) {
 
 } // namespace
 
+// What can be refused is read first, since gathering the contents takes seconds.
 Document MakeReport(const FamilyFiles& family, const ReportOptions& options) {
-    Document contents = GatherContents(family, options.dialogs.value_or(""));
     Document result = {{"files", FamilyDocument(family)}};
+    PageContents page;
+    std::filesystem::path folder;
+    if (options.out)
+        folder = MakeFolder(*options.out, kOutOption);
+    if (options.findings)
+        page.findings = ReadFindings(*options.findings);
+    const Document dialogs = options.dialogs ? ReadDialogs(*options.dialogs) : Document::MakeList();
+    if (options.out && options.against)
+        page.other = GatherOther(options, folder);
+    page.model = GatherContents(family, dialogs);
     if (options.contents) {
-        WriteOutputFile(std::filesystem::u8path(*options.contents), JsonForm(contents), "--contents");
+        WriteOutputFile(std::filesystem::u8path(*options.contents), JsonForm(page.model), "--contents");
         result["contents"] = {{"path", *options.contents}};
     }
     if (options.out) {
-        const std::filesystem::path folder = MakeFolder(*options.out, kOutOption);
-        const Document findings = options.findings ? ReadFindings(*options.findings) : Document();
-        const Document other = options.against ? GatherOther(options, folder) : Document();
-        const std::string page = MakePage({std::move(contents), findings, other});
-        WriteOutputFile(folder / kPageName, page, kOutOption);
-        result["report"] = {{"path", (folder / kPageName).u8string()}, {"bytes", page.size()}};
+        const std::string text = MakePage(page);
+        WriteOutputFile(folder / kPageName, text, kOutOption);
+        result["report"] = {{"path", (folder / kPageName).u8string()}, {"bytes", text.size()}};
     }
     return result;
 }

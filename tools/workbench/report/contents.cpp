@@ -160,7 +160,10 @@ std::vector<std::filesystem::path> DialogLists(const std::filesystem::path& fold
     return lists;
 }
 
-Document ReadDialogs(const std::filesystem::path& folder) {
+} // namespace
+
+Document ReadDialogs(const std::string& folderName) {
+    const auto folder = std::filesystem::u8path(folderName);
     constexpr const char* kDialogsOption = "--dialogs";
     Document rows = Document::MakeList();
     for (const std::filesystem::path& path : DialogLists(folder)) {
@@ -177,9 +180,7 @@ Document ReadDialogs(const std::filesystem::path& folder) {
     return rows;
 }
 
-} // namespace
-
-Document GatherContents(const FamilyFiles& family, const std::string& dialogs) {
+Document GatherContents(const FamilyFiles& family, const Document& dialogs) {
     const Document model = WithoutFiles(Describe(family));
     return {
         {"name", ModelName(family, model)},
@@ -191,6 +192,6 @@ Document GatherContents(const FamilyFiles& family, const std::string& dialogs) {
           {"Texts and colours", WithoutFiles(ShowTexts(family))},
           {"SNMP questions", SnmpQuestions(family)}}},
         {"printer", PrinterLooks(family)},
-        {"dialogs", dialogs.empty() ? Document::MakeList() : ReadDialogs(std::filesystem::u8path(dialogs))},
+        {"dialogs", dialogs},
     };
 }

@@ -5,13 +5,16 @@
 
 #include "workbench/lib/family_files.h"
 
-// `dialogs` is a folder (UTF-8) that `workbench dialogs` has filled, or empty. The document:
+// The dialogs in a folder (UTF-8) that `workbench dialogs` has filled: the rows of its lists, each with its
+// `picture`, PNG in base 64. Throws Failure when a list or picture cannot be read.
+Document ReadDialogs(const std::string& folder);
+
+// The document:
 //   name     of the model
 //   facts    names and values
 //   groups   documents of tables, by the titles of their sections
 //   printer  see PrinterLooks
-//   dialogs  the rows of the folder's lists, each with its `picture`, PNG in base 64
-// Throws Failure when a list or picture of the folder cannot be read.
-Document GatherContents(const FamilyFiles& family, const std::string& dialogs);
+//   dialogs  as given
+Document GatherContents(const FamilyFiles& family, const Document& dialogs);
 
 #endif

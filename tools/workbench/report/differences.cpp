@@ -112,8 +112,12 @@ void AddGroup(const std::string& group, const Document& here, const Document& th
     for (const NamedTable& table : tablesHere)
         AddTable(group + ": " + table.name, RowsOf(table.contents),
                  RowsOf(ContentsOf(tablesThere, table.name)), tables);
+    const auto isHere = [&](const NamedTable& table) {
+        return std::any_of(tablesHere.begin(), tablesHere.end(),
+                           [&](const NamedTable& own) { return own.name == table.name; });
+    };
     for (const NamedTable& table : tablesThere)
-        if (ContentsOf(tablesHere, table.name).IsNull())
+        if (!isHere(table))
             AddTable(group + ": " + table.name, {}, RowsOf(table.contents), tables);
 }
 

@@ -61,7 +61,7 @@ Document FindingRows(const Document& findings) {
 std::string DifferenceCell(const Document& value) {
     if (!value.IsObject())
         return HtmlText(CellText(value));
-    return "<ins>" + HtmlText(CellText(value["here"])) + "</ins><del>" + HtmlText(CellText(value["there"]))
+    return "<ins>" + HtmlText(CellText(value["here"])) + "</ins> <del>" + HtmlText(CellText(value["there"]))
            + "</del>";
 }
 

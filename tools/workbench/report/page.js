@@ -9,7 +9,8 @@
     name: element.querySelector("h3").textContent.toLowerCase(),
     count: element.querySelector(".count"),
     total: element.querySelector(".count").textContent,
-    rows: [...element.querySelectorAll("tbody tr")].map(row => ({row, text: row.textContent.toLowerCase()})),
+    rows: [...element.querySelectorAll("tbody tr")].map(row =>
+      ({row, text: [...row.cells].map(cell => cell.textContent).join("\t").toLowerCase()})),
   }));
   // A number is found as a whole: "tray 2" does not find 257.
   function patternOf(word) {

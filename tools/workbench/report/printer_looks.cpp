@@ -1,5 +1,5 @@
-// Finds the pictures by trial: from each picture found, every option is set to each of its items. So a
-// picture is found with the fewest changes that lead to it. Drawing one takes less than a millisecond.
+// Finds the pictures by trial: from each picture found, every option that DrawPrinterView reads is set to
+// each of its items. So a picture is found with the fewest changes that lead to it.
 #include "workbench/report/printer_looks.h"
 
 #include "workbench/lib/picture.h"
@@ -12,6 +12,15 @@
 namespace {
 
 constexpr size_t kMaxLooks = 120;
+
+// As telmar_d.h lists them.
+constexpr const char* kDrawnOptions[] = {"OpBody",       "OpInTrayUnit", "OpOutTrayUnit", "OpHDD",
+                                         "OpMailBinKit", "OpSaddleKit",  "OpMachine"};
+
+bool IsDrawn(const FeatureRecord& feature) {
+    return std::any_of(std::begin(kDrawnOptions), std::end(kDrawnOptions),
+                       [&](const char* key) { return SameText(KeyOf(feature), key); });
+}
 
 using UnitField = int32_t OptionSummary::*;
 
@@ -150,7 +159,8 @@ struct LookSearch {
         Try(ReadOptionFeatures(family));
         for (size_t i = 0; i < looks.size() && isComplete; ++i)
             for (size_t feature = 0; feature < options[i].settings.size(); ++feature)
-                TryItems(options[i], feature);
+                if (IsDrawn(options[i].features[feature]))
+                    TryItems(options[i], feature);
     }
 
     void TryItems(OptionFeatures from, size_t feature) {
