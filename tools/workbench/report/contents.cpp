@@ -118,8 +118,9 @@ Document Facts(const FamilyFiles& family, const Document& model) {
     const Document& device = model["device"];
     return {
         {"module", "TELMAR_D.DLL " + FileVersion(family.modulePath)},
-        {"parameterFile", "TELMAR_D.PRM, " + std::to_string(family.parameters->size) + " bytes, "
-                              + FileDate(family.parameterPath)},
+        {"parameterFile", "TELMAR_D.PRM, " + std::to_string(family.parameters->size) + " bytes"},
+        {"built", FileDate(family.parameterPath)},
+        {"folder", family.modulePath.parent_path().filename().u8string()},
         {"colour", device["colorDevice"]},
         {"pagesPerMinute", device["pagesPerMinute"]},
         {"features", std::to_string(std::count_if(switches.begin(), switches.end(), isOn)) + " of "

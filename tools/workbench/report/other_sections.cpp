@@ -178,8 +178,11 @@ std::string DifferenceSection(const Document& here, const Document& there, Pictu
     const auto part = [](const std::string& text, const char* none) {
         return text.empty() ? "<p class=\"none\">" + std::string(none) + "</p>\n" : text;
     };
-    return "<p class=\"lead\">“Here” is " + HtmlText(here["name"].Text()) + ", “there” is "
-           + HtmlText(there["name"].Text()) + ", the model to compare with.</p>\n" + FactsTable(here, there)
+    const auto name = [](const Document& model) {
+        return HtmlText(model["name"].Text() + " (" + model["facts"]["folder"].Text() + ")");
+    };
+    return "<p class=\"lead\">“Here” is " + name(here) + ", “there” is " + name(there)
+           + ", the model to compare with.</p>\n" + FactsTable(here, there)
            + part(tables, "The tables do not differ.")
            + part(looks, "The pictures of the printer do not differ.")
            + part(dialogs, "The dialogs do not differ.");
