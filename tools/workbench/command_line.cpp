@@ -127,6 +127,34 @@ Run SetUpDialog(CLI::App& command) {
     return [options](const FamilyFiles& family) { return UseDialog(family, *options); };
 }
 
+Run SetUpDialogs(CLI::App& command) {
+    const auto out = std::make_shared<std::string>();
+    command.add_option("--out", *out, "Folder for the pictures")->type_name("DIR")->required();
+    return [out](const FamilyFiles& family) { return PictureDialogs(family, *out); };
+}
+
+Run SetUpReport(CLI::App& command) {
+    const auto options = std::make_shared<ReportOptions>();
+    CLI::Option_group& what = *command.add_option_group("");
+    what.add_option("--out", options->out, "Folder for the page, report.html")->type_name("DIR");
+    what.add_option("--contents", options->contents, "Writes the contents of the page as JSON")
+        ->type_name("FILE");
+    what.require_option(1, 0);
+    command.add_option("--dialogs", options->dialogs, "Folder that 'workbench dialogs' has filled")
+        ->type_name("DIR");
+    command.add_option("--findings", options->findings, "What 'prmc check --json' has found (JSON)")
+        ->type_name("FILE");
+    CLI::Option* against =
+        command
+            .add_option("--against", options->against,
+                        "Compares with the model in this folder of TELMAR_D.DLL and TELMAR_D.PRM")
+            ->type_name("DIR");
+    command.add_option("--against-dialogs", options->againstDialogs, "The dialogs of that model")
+        ->type_name("DIR")
+        ->needs(against);
+    return [options](const FamilyFiles& family) { return MakeReport(family, *options); };
+}
+
 Run SetUpRun(CLI::App& command) {
     const auto file = std::make_shared<std::string>();
     command.add_option("--state", *file, "Where to keep the settings (default: a file of the user's)")
@@ -165,6 +193,8 @@ constexpr struct {
     {"gallery", "Saves a sheet of the module's pictures of the printer", WithOut<DrawGallery>},
     {"montage", "Combines pictures on one sheet", SetUpMontage},
     {"dialog", "Opens one of the model's dialogs, uses it and shows the changes", SetUpDialog},
+    {"dialogs", "Saves pictures of the model's dialogs as they open", SetUpDialogs},
+    {"report", "Writes a web page that shows the model", SetUpReport},
     {"run", "Opens the property sheet as a user of the driver sees it", SetUpRun},
     {"tour", "Opens the property sheet, uses its pages and saves a picture of each", SetUpTour},
 };

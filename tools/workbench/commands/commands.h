@@ -73,6 +73,21 @@ struct DialogOptions {
 };
 Document UseDialog(const FamilyFiles& family, const DialogOptions& options);
 
+// Writes a picture of each of the model's dialogs into the folder, ID-DPI.png, and a list of them,
+// dialogs-DPI.json, with the controls of each.
+Document PictureDialogs(const FamilyFiles& family, const std::string& out);
+
+// Writes the page of the model, FOLDER/report.html, or its contents as JSON.
+struct ReportOptions {
+    std::optional<std::string> out;
+    std::optional<std::string> contents;
+    std::optional<std::string> dialogs;
+    std::optional<std::string> findings;
+    std::optional<std::string> against;
+    std::optional<std::string> againstDialogs;
+};
+Document MakeReport(const FamilyFiles& family, const ReportOptions& options);
+
 // The property sheet, for a person. Its settings are kept in this file, or in the user's own if the name is
 // empty.
 Document RunSheet(const FamilyFiles& family, const std::string& file);

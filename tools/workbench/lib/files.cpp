@@ -64,6 +64,16 @@ std::string ReadTextFile(const std::string& path, const char* option) {
     return text.compare(0, 3, kByteOrderMark) == 0 ? text.substr(3) : text;
 }
 
+std::filesystem::path MakeFolder(const std::string& path, const char* option) {
+    const auto folder = std::filesystem::absolute(std::filesystem::u8path(path)).make_preferred();
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error)
+        throw Failure(kExitFailed, folder.u8string() + ": the folder cannot be made (" + error.message()
+                                       + "); specify another one with " + option);
+    return folder;
+}
+
 void WriteOutputFile(const std::filesystem::path& path, std::string_view bytes, const char* option) {
     NewFile file(path);
     if (!file.IsOpen() || !file.Write(bytes) || !file.Keep()) {

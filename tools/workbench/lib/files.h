@@ -12,6 +12,9 @@ std::string ReadInputFile(const std::string& path, const char* option);
 // The text of a UTF-8 file, without its byte order mark if it has one.
 std::string ReadTextFile(const std::string& path, const char* option);
 
+// The absolute path of the folder, which is made if it is missing. Throws Failure with the reason.
+std::filesystem::path MakeFolder(const std::string& path, const char* option);
+
 // Writes the bytes to a temporary file and renames it when complete, so that an existing file is kept if
 // writing fails. Throws Failure with the reason.
 void WriteOutputFile(const std::filesystem::path& path, std::string_view bytes, const char* option);

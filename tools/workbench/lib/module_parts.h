@@ -31,6 +31,9 @@
 #include "trays/tray_dialog.h"
 #include "trays/tray_settings.h"
 
+// Which installed units the printer's picture shows.
+#include "picture/capabilities/option_summary.h"
+
 // Last errors of the SNMP exports.
 #include "devcomm/snmp/snmp_errors.h"
 

@@ -4,8 +4,6 @@
 #include "workbench/lib/files.h"
 #include "workbench/lib/text.h"
 
-#include <vector>
-
 #include <objidl.h> // before gdiplus.h, which uses IStream
 
 #include <gdiplus.h>
@@ -47,33 +45,17 @@ struct ReleaseStream {
 using Stream = std::unique_ptr<IStream, ReleaseStream>;
 
 // The bytes written to a stream in memory.
-std::vector<uint8_t> Contents(IStream& stream) {
+std::string Contents(IStream& stream) {
     STATSTG facts = {};
     HGLOBAL block = nullptr;
     if (FAILED(stream.Stat(&facts, STATFLAG_NONAME)) || FAILED(GetHGlobalFromStream(&stream, &block)))
         FailToEncode("its stream", E_FAIL);
-    const auto* first = static_cast<const uint8_t*>(GlobalLock(block));
+    const auto* first = static_cast<const char*>(GlobalLock(block));
     if (first == nullptr)
         FailToEncode("its stream", E_FAIL);
-    std::vector<uint8_t> bytes(first, first + facts.cbSize.QuadPart);
+    std::string bytes(first, first + facts.cbSize.QuadPart);
     GlobalUnlock(block);
     return bytes;
-}
-
-std::vector<uint8_t> EncodePng(const Canvas& canvas) {
-    GdiFlush();
-    const GdiPlus gdiPlus;
-    IStream* created = nullptr;
-    const HRESULT result = CreateStreamOnHGlobal(nullptr, TRUE, &created);
-    if (FAILED(result))
-        FailToEncode("its stream", result);
-    const Stream stream(created);
-    // RGB without alpha: GDI leaves the fourth byte of a pixel undefined.
-    Gdiplus::Bitmap bitmap(canvas.size.cx, canvas.size.cy, canvas.size.cx * kBytesPerPixel,
-                           PixelFormat32bppRGB, static_cast<BYTE*>(canvas.pixels));
-    CheckStatus("Bitmap", bitmap.GetLastStatus());
-    CheckStatus("Bitmap::Save", bitmap.Save(stream.get(), &kPngEncoder, nullptr));
-    return Contents(*stream);
 }
 
 } // namespace
@@ -119,6 +101,22 @@ void DrawLine(HDC to, RECT place, const TextStyle& style, const char* text) {
     DeleteObject(font);
 }
 
+std::string EncodePng(const Canvas& canvas, bool hasAlpha) {
+    GdiFlush();
+    const GdiPlus gdiPlus;
+    IStream* created = nullptr;
+    const HRESULT result = CreateStreamOnHGlobal(nullptr, TRUE, &created);
+    if (FAILED(result))
+        FailToEncode("its stream", result);
+    const Stream stream(created);
+    Gdiplus::Bitmap bitmap(canvas.size.cx, canvas.size.cy, canvas.size.cx * kBytesPerPixel,
+                           hasAlpha ? PixelFormat32bppARGB : PixelFormat32bppRGB,
+                           static_cast<BYTE*>(canvas.pixels));
+    CheckStatus("Bitmap", bitmap.GetLastStatus());
+    CheckStatus("Bitmap::Save", bitmap.Save(stream.get(), &kPngEncoder, nullptr));
+    return Contents(*stream);
+}
+
 Document WritePicture(const Canvas& canvas, const std::string& path) {
     if (path.empty())
         throw Failure(kExitUsage, "--out lacks the file name of the picture; possible: FILE");
@@ -126,8 +124,7 @@ Document WritePicture(const Canvas& canvas, const std::string& path) {
     if (!std::filesystem::is_directory(file.parent_path()))
         throw Failure(kExitFailed, file.u8string() + ": there is no folder " + file.parent_path().u8string()
                                        + "; create it, or specify another file with --out");
-    const std::vector<uint8_t> png = EncodePng(canvas);
-    WriteOutputFile(file, {reinterpret_cast<const char*>(png.data()), png.size()}, "--out");
+    WriteOutputFile(file, EncodePng(canvas), "--out");
     return {{"path", file.u8string()}, {"width", canvas.size.cx}, {"height", canvas.size.cy}};
 }
 

@@ -32,6 +32,10 @@ constexpr TextStyle kCaptionStyle = {14, FW_NORMAL, RGB(73, 80, 87), DT_CENTER |
 // Draws one line of text (UTF-8) into the rectangle. A text that does not fit ends in dots.
 void DrawLine(HDC to, RECT place, const TextStyle& style, const char* text);
 
+// The picture as a PNG file. `hasAlpha`: the fourth byte of each pixel is its opacity; otherwise it is
+// ignored, since GDI leaves it undefined.
+std::string EncodePng(const Canvas& canvas, bool hasAlpha = false);
+
 // Writes the picture to this path (UTF-8) and returns path and size. An existing file is replaced only when
 // the new one is complete. Throws Failure with the reason.
 Document WritePicture(const Canvas& canvas, const std::string& path);

@@ -24,6 +24,21 @@ std::string Utf8(std::string_view text, UINT codePage) {
     return Utf8(Wide(text, codePage));
 }
 
+std::string Base64(std::string_view bytes) {
+    constexpr const char* kDigits = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+    std::string text;
+    for (size_t i = 0; i < bytes.size(); i += 3) {
+        uint32_t bits = 0;
+        for (size_t j = i; j < i + 3; ++j)
+            bits = bits << 8 | (j < bytes.size() ? static_cast<uint8_t>(bytes[j]) : 0u);
+        for (int shift = 18; shift >= 0; shift -= 6)
+            text += kDigits[bits >> shift & 63];
+    }
+    for (size_t missing = (3 - bytes.size() % 3) % 3; missing > 0; --missing)
+        text[text.size() - missing] = '=';
+    return text;
+}
+
 int ParseNumber(const std::string& text, size_t maxDigits) {
     const bool isNumber = !text.empty() && text.size() <= maxDigits
                           && text.find_first_not_of("0123456789") == std::string::npos;

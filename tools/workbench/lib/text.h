@@ -21,6 +21,9 @@ std::string FieldText(const Char (&field)[N]) {
     return Utf8(std::basic_string_view<Char>(field, TextLength(field)));
 }
 
+// The bytes in base 64, as data URIs contain them.
+std::string Base64(std::string_view bytes);
+
 // The number that the text consists of; -1 when it is anything but 1 to `maxDigits` digits.
 int ParseNumber(const std::string& text, size_t maxDigits);
 

@@ -1,18 +1,16 @@
-// Lays out tables. Empty columns are left out. A long narrow table is set in several columns side by side,
+// Lays out tables. A long narrow table is set in several columns side by side,
 // like a newspaper's. A table wider than the page is continued below, with its first column repeated and
 // without the rows that are empty there.
 #include "workbench/lib/text_form.h"
 
-#include "workbench/lib/json_form.h"
+#include "workbench/lib/table_text.h"
 
 #include <algorithm>
-#include <cctype>
 
 namespace {
 
 constexpr size_t kPageWidth = 128;
 constexpr size_t kLongTable = 24; // a table of more lines is set side by side, if it is narrow enough
-constexpr size_t kMaxNumbers = 5; // more numbers in one cell are only counted
 constexpr const char* kIndent = "  ";
 constexpr const char* kFieldGap = "  ";
 constexpr const char* kColumnGap = "     ";
@@ -30,39 +28,6 @@ std::string Padded(const std::string& text, size_t width, bool right) {
     return right ? padding + text : text + padding;
 }
 
-// "paperSizes" as "Paper sizes". Names that begin with a capital letter are the driver's and stay as they
-// are.
-std::string Title(const std::string& name) {
-    if (name.empty() || !std::islower(static_cast<unsigned char>(name[0])))
-        return name;
-    std::string title(1, static_cast<char>(std::toupper(static_cast<unsigned char>(name[0]))));
-    for (size_t i = 1; i < name.size(); ++i) {
-        const auto c = static_cast<unsigned char>(name[i]);
-        if (std::isupper(c) || std::isdigit(c))
-            title += ' ';
-        title += static_cast<char>(std::tolower(c));
-    }
-    return title;
-}
-
-std::string Cell(const Document& value) {
-    if (value.IsBool())
-        return value.Bool() ? "yes" : "no";
-    if (value.IsInteger())
-        return std::to_string(value.Integer());
-    if (value.IsText())
-        return value.Text();
-    if (value.IsNumber() || value.IsObject())
-        return JsonForm(value);
-    const Document::List& elements = value.Elements();
-    if (elements.size() > kMaxNumbers && elements[0].IsNumber())
-        return "(" + std::to_string(elements.size()) + " numbers)";
-    std::string text;
-    for (const Document& element : elements)
-        text += (text.empty() ? "" : element.IsList() ? ", " : " ") + Cell(element);
-    return text;
-}
-
 // The line without trailing blanks.
 std::string WithoutEnd(const std::string& line) {
     return line.substr(0, line.find_last_not_of(' ') + 1);
@@ -71,16 +36,12 @@ std::string WithoutEnd(const std::string& line) {
 // One column of a table: its title and its cells, padded to the same width.
 using TextColumn = std::vector<std::string>;
 
-bool IsBlank(const std::string& text) {
-    return text.find_first_not_of(' ') == std::string::npos;
-}
-
 TextColumn MakeColumn(const Document& rows, const std::string& field) {
     TextColumn column = {Title(field)};
     bool right = true; // columns of numbers are right-aligned
     for (const Document& row : rows.Elements()) {
         const Document& value = row[field];
-        column.push_back(Cell(value));
+        column.push_back(CellText(value));
         right = right && (value.IsNumber() || value.IsNull());
     }
     size_t width = 0;
@@ -93,11 +54,8 @@ TextColumn MakeColumn(const Document& rows, const std::string& field) {
 
 std::vector<TextColumn> MakeColumns(const Document& rows) {
     std::vector<TextColumn> columns;
-    for (const auto& field : rows.Elements()[0].Fields()) {
-        TextColumn column = MakeColumn(rows, field.name);
-        if (!std::all_of(column.begin() + 1, column.end(), IsBlank))
-            columns.push_back(std::move(column));
-    }
+    for (const std::string& field : ColumnsOf(rows))
+        columns.push_back(MakeColumn(rows, field));
     return columns;
 }
 
@@ -155,36 +113,27 @@ std::string Pairs(const Document& object) {
         width = std::max(width, Width(Title(field.name)));
     std::string text;
     for (const auto& field : object.Fields())
-        text += WithoutEnd(kIndent + Padded(Title(field.name), width, false) + kFieldGap + Cell(field.value))
-                + "\n";
+        text +=
+            WithoutEnd(kIndent + Padded(Title(field.name), width, false) + kFieldGap + CellText(field.value))
+            + "\n";
     return text;
 }
 
-bool IsTable(const Document::Field& field) {
-    const Document::List& rows = field.value.Elements();
-    return field.value.IsNull() || (field.value.IsList() && (rows.empty() || rows[0].IsObject()));
-}
-
-std::string Section(const std::string& name, const Document& value) {
-    if (value.IsNull())
-        return Title(name) + ": none\n\n";
-    if (value.IsList())
-        return Title(name) + " (" + std::to_string(value.Elements().size()) + ")\n" + Table(value) + "\n";
-    const Document::Object& fields = value.Fields();
-    if (!std::all_of(fields.begin(), fields.end(), IsTable))
-        return Title(name) + "\n" + Pairs(value) + "\n";
-    std::string text;
-    for (const Document::Field& table : fields)
-        text += Section(table.name, table.value);
-    return text;
+std::string Section(const NamedTable& table) {
+    if (table.contents.IsNull())
+        return table.name + ": none\n\n";
+    if (table.contents.IsList())
+        return table.name + " (" + std::to_string(table.contents.Elements().size()) + ")\n"
+               + Table(table.contents) + "\n";
+    return table.name + "\n" + Pairs(table.contents) + "\n";
 }
 
 } // namespace
 
 std::string TextForm(const Document& document) {
     std::string text;
-    for (const auto& section : document.Fields())
-        text += Section(section.name, section.value);
+    for (const NamedTable& table : TablesOf(document))
+        text += Section(table);
     text.pop_back(); // the empty line after the last section
     return text;
 }

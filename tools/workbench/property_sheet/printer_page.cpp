@@ -14,19 +14,6 @@
 
 namespace {
 
-// Names of the options for the user. Others are shown by their key.
-constexpr struct {
-    const char* key;
-    const char* name;
-} kOptionNames[] = {
-    {"OpMachine", "Machine"},          {"OpBody", "Body"},          {"OpInTrayUnit", "Paper unit"},
-    {"OpOutTrayUnit", "Finisher"},     {"OpPunchKit", "Punch kit"}, {"OpMailBinKit", "Mail bins"},
-    {"OpSaddleKit", "Saddle kit"},     {"OpFAXUnit", "Fax"},        {"OpHDD", "Hard disk"},
-    {"OpInTray1", "Tray 1"},           {"OpInTray2", "Tray 2"},     {"OpInTray3", "Tray 3"},
-    {"OpInTray4", "Tray 4"},           {"OpInTray5", "Tray 5"},     {"OpInTrayLCT", "Large-capacity tray"},
-    {"OpInTrayManual", "Manual feed"},
-};
-
 // The consumables that report a level, in the order in which they are shown.
 constexpr struct {
     const char* key;
@@ -38,13 +25,6 @@ constexpr struct {
 
 constexpr const char* kNotReported = "unknown";
 constexpr const char* kLevels[] = {kNotReported, "empty", "nearly empty", "nearly full", "full", "in order"};
-
-const char* OptionName(const char* key) {
-    for (const auto& row : kOptionNames)
-        if (SameText(row.key, key))
-            return row.name;
-    return key;
-}
 
 std::string SupplyText(const char* name, const MrkSupRequestItem& supply) {
     const auto value = static_cast<size_t>(supply.value); // a negative value becomes greater than all levels
