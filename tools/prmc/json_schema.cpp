@@ -133,13 +133,15 @@ SchemaJson ListSchema(const EntryRow& row) {
     properties["items"]["description"] = "All items of the list, in its order.";
     if (!row.kind->HasKeys())
         return {{"properties", properties}};
+    SchemaJson withKey = Requiring({row.kind->fields[0].name}); // which is before the colon
+    withKey["type"] = "object";
     properties["change"] = {
         {"description",
          "In a model with a base: items by key. The fields replace those of the base's item or, with a "
          "new key, are a new item; null removes the item."},
         {"type", "object"},
         {"propertyNames", KeySchema(row)},
-        {"additionalProperties", fields},
+        {"additionalProperties", {{"allOf", {fields, {{"not", withKey}}}}}},
     };
     return {{"properties", properties}, {"not", Requiring({"items", "change"})}};
 }
