@@ -57,7 +57,7 @@ TEST(WorkbenchSheet, MinimalModelIsShown) {
     const SheetFolder folder;
     const Json tour = folder.Tour(minimal.Option());
     EXPECT_EQ(Changes(tour), "inputTray:7:258 mediaType:257:263 ");
-    EXPECT_EQ(Pick(tour["trays"], "size"), Json({nullptr, "Letter"}));
+    EXPECT_EQ(Pick(tour["trays"], "size"), Json({"Unknown", "Letter"}));
     const std::wstring out = L" --out \"" + (folder.path / "gallery.png").wstring() + L"\"";
     EXPECT_EQ(RunForJson(L"gallery" + minimal.Option() + out)["picture"]["printers"], 3); // alone, from each tray
     for (const wchar_t* dialog : {L"123", L"166"})
