@@ -168,7 +168,7 @@ private:
                          + (open.empty() ? "" : ", or ',' if another value follows"));
     }
 
-    // A character of a text in quotes, or two that stand for one.
+    // A character of a text in quotes, or an escape.
     void QuotedCharacter(char quote) {
         if (quote == '"' && Peek() == '\\')
             Advance();

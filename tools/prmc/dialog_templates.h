@@ -6,7 +6,7 @@
 // Width of the control where it is widest; 0 when no dialog has it.
 int WidestControl(int control);
 
-// The drop-down list that the label stands above; 0 when there is none.
+// The drop-down list below the label; 0 when there is none.
 int ListOfLabel(int label);
 
 #endif

@@ -5,7 +5,7 @@
 
 namespace {
 
-// The dialogs name "MS Shell Dlg", which stands for another sans serif on each system. A class has the least
+// The dialogs name "MS Shell Dlg", which is another sans serif on each system. A class has the least
 // width that its characters have in the common ones, rounded down to half a dialog unit; the average letter
 // has 4 units by definition. What is in no class, such as a letter with an accent, counts as the narrowest.
 struct WidthClass {

@@ -8,6 +8,7 @@
 
 namespace {
 
+constexpr unsigned kEvery = kLastTrayDialogType; // tray dialog
 constexpr const char* kNoChoice = "there is nothing to choose from";
 constexpr const char* kNoTexts = "a list of the colour dialog shows no texts";
 constexpr const char* kNoUnknown = "the tray dialog has no entry for trays of which this is unknown";
@@ -17,8 +18,8 @@ constexpr struct {
     const char* feature;
     const char* list;
     const char* effect;                 // of its absence
-    const char* attribute = nullptr;    // another feature that must be on
     unsigned lastType = kMaxSwitchType; // dialogs of a higher type do without
+    const char* attribute = nullptr;    // another feature that must be on
 } kNeeds[] = {
     // clang-format off
     {"MediaTypeDetail",    "MediaType",            kNoChoice},
@@ -46,22 +47,22 @@ constexpr struct {
     {"PPS_Staple",         "PerPageListStaple",    kNoChoice},
     {"PPS_TabPaper",       "TabPaperPaperSize",    kNoChoice},
     {"Overlay",            "OvlForm_Location",     kNoChoice},
-    {"ColorProfileSource", "Prof_Location",        "the profiles of the printer are listed without their location"},
+    {"ColorProfileSource", "Prof_Location",        "profiles are listed without their location"},
     // Those of every colour dialog.
     {"ColorSetting",       "Text_RGBColorMatch",   kNoTexts},
     {"ColorSetting",       "Text_RGBGray",         kNoTexts},
     {"ColorSetting",       "Text_Halftone",        kNoTexts},
     {"ColorSetting",       "Img_RGBColorMatch",    kNoTexts},
     {"ColorSetting",       "Img_Halftone",         kNoTexts},
-    {"Dlg_MediaType",      "InTray",               "the tray dialog has no trays",                         nullptr, kLastTrayDialogType},
-    {"Dlg_MediaType",      "PaperSize",            "the tray dialog has no paper sizes to choose from",    nullptr, kLastTrayDialogType},
-    {"Dlg_MediaType",      "MediaType",            "the tray dialog has no paper types to choose from",    nullptr, kLastTrayDialogType},
-    {"Dlg_MediaType",      "MediaTypeList_Orient", "the tray dialog has no orientations to choose from",   nullptr, kLastTrayDialogType},
-    {"Dlg_MediaType",      "MediaTypeList_Size",   kNoUnknown,                                             nullptr, kLastTrayDialogType},
-    {"Dlg_MediaType",      "MediaTypeList_Type",   kNoUnknown,                                             nullptr, kLastTrayDialogType},
-    {"Dlg_MediaType",      "MediaTypeList_Weight", kNoUnknown,                                             "MediaWeight", 1},
-    {"Dlg_MediaType",      "MediaTypeList_Color",  kNoUnknown,                                             "MediaColor", 2},
-    {"Dlg_MediaType",      "MediaTypeList_Hole",   kNoUnknown,                                             "MediaPrePunched", 2},
+    {"Dlg_MediaType",      "InTray",               "the tray dialog has no trays",            kEvery},
+    {"Dlg_MediaType",      "PaperSize",            "the tray dialog offers no paper sizes",   kEvery},
+    {"Dlg_MediaType",      "MediaType",            "the tray dialog offers no paper types",   kEvery},
+    {"Dlg_MediaType",      "MediaTypeList_Orient", "the tray dialog offers no orientations",  kEvery},
+    {"Dlg_MediaType",      "MediaTypeList_Size",   kNoUnknown,                                kEvery},
+    {"Dlg_MediaType",      "MediaTypeList_Type",   kNoUnknown,                                kEvery},
+    {"Dlg_MediaType",      "MediaTypeList_Weight", kNoUnknown,                                1, "MediaWeight"},
+    {"Dlg_MediaType",      "MediaTypeList_Color",  kNoUnknown,                                2, "MediaColor"},
+    {"Dlg_MediaType",      "MediaTypeList_Hole",   kNoUnknown,                                2, "MediaPrePunched"},
     // clang-format on
 };
 

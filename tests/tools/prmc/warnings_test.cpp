@@ -26,22 +26,22 @@ const std::tuple<std::string, std::string, std::string> kChanges[] = {
      "its key: write the items in its order, Simu_None, Simu_SWOP, Simu_Euroscale, Simu_CommercialPress, Simu_TOYO, "
      "Simu_DIC\n"},
     {"    - {key: Simu_DIC,             name: DIC}\n", "",
-     "'SimulationProf' has 5 items, but the colour dialog takes the entries after the 6th for profiles of the printer: a "
-     "profile that the user chooses is lost, or another one is stored; write all items, Simu_None, Simu_SWOP, "
+     "'SimulationProf' has 5 items, but the colour dialog takes the entries after the 6th for profiles of the printer: "
+     "a profile that the user chooses is lost, or another one is stored; write all items, Simu_None, Simu_SWOP, "
      "Simu_Euroscale, Simu_CommercialPress, Simu_TOYO, Simu_DIC\n"},
     {"ColorDevice: \"TRUE\"", "ColorDevice: \"FALSE\"",
-     "'ColorSetting' is on, but for the driver this printer has no colour: omit the row, or write ColorDevice: \"TRUE\" "
-     "in 'DevInfo'\n"},
+     "'ColorSetting' is on, but for the driver this printer has no colour: omit the row, or write ColorDevice: "
+     "\"TRUE\" in 'DevInfo'\n"},
     {"Dlg_MediaType: TYPE1", "Dlg_MediaType: TYPE4",
      "'TYPE4' is no tray dialog of the driver, so that none opens: write TYPE1 to TYPE3\n"},
     // Paper sources
     {"key: InTray5,      name: Tray 5,              value", "key: InTray6,      name: Tray 5,              value",
      "'InTray6' is " + kSource
-     + "'MediaTypeList_InTray5' names no tray: a key of 'MediaTypeList_Tray' ends in the key of an item of 'InTray', as "
-       "in MediaTypeList_InTray1\n"},
+     + "'MediaTypeList_InTray5' names no tray: a key of 'MediaTypeList_Tray' ends in the key of an item of 'InTray', "
+       "as in MediaTypeList_InTray1\n"},
     {"value: 257,  enabled", "value: 300,  enabled",
-     "'InTray1' has the bin number 300, but 'FCover_Tray1' of 'FCoverTray' stores 257: give the item of 'ALL_InTray' the "
-     "same value\n"},
+     "'InTray1' has the bin number 300, but 'FCover_Tray1' of 'FCoverTray' stores 257: give the item of 'ALL_InTray' "
+     "the same value\n"},
     {"value: 261,  enabled: 1", "value: 261,  enabled: 0",
      "'InTray5' is not enabled, which hides all trays after it, such as 'InTrayLCT'\n"},
     {"value: 7,    enabled: 1", "value: 7,    enabled: 0",
@@ -49,7 +49,8 @@ const std::tuple<std::string, std::string, std::string> kChanges[] = {
      "the default 'InTrayAuto' is not listed, since it or a tray before it is not enabled: choose another default\n"},
     {"value: 4,    enabled: 1, text: MANUAL}\n",
      "value: 4,    enabled: 1}\n    - {key: PITray1, name: n, value: 1001, enabled: 1}\n"
-     "    - {key: PITray2, name: n, value: 1002, enabled: 1}\n    - {key: SAMEASBODY, name: n, value: 32767, enabled: 1}\n"
+     "    - {key: PITray2, name: n, value: 1002, enabled: 1}\n"
+     "    - {key: SAMEASBODY, name: n, value: 32767, enabled: 1}\n"
      "    - {key: InTray7, name: n, value: 1007, enabled: 1}\n",
      "'InTray7' and what follows are missing in the tray dialog: the settings keep the paper of 10 trays\n'InTray7' is "
      + kSource},
@@ -64,8 +65,8 @@ const std::tuple<std::string, std::string, std::string> kChanges[] = {
     {"key: Text_sRGB,          name: sRGB", "key: Text_sRGB, name: " + kW21, ""}, // fits
     {"key: Thick1,         name: Thick 1", "key: Thick1, name: " + kW26,
      "name '" + kW26 + "' is cut: it needs 156 dialog units or more, and what shows it has 150: shorten it\n"},
-    {"key: Reso_1200dpi", "key: Fine", "the driver takes 0 for the resolution of 'Fine': it reads the number in the key "
-     "after character 5, as in Reso_600dpi\n"},
+    {"key: Reso_1200dpi", "key: Fine",
+     "the driver takes 0 for the resolution of 'Fine': it reads the number in the key after character 5, as in Reso_600dpi\n"},
 };
 // clang-format on
 

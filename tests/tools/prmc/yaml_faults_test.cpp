@@ -1,4 +1,6 @@
 // Errors in a model's YAML: each is reported at its place with a message that says what to do.
+#include "engine_support.h"
+
 #include "prmc/rules.h"
 #include "prmc/warnings.h"
 #include "prmc/yaml_reader.h"
@@ -53,7 +55,8 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {Color("{key: W, name: n, value: 65536}"), "4:32: value 65536 is out of range: write 0 to 65535"},
     {"Country: {value: 4294967296}", "1:18: value 4294967296 is out of range: write 0 to 4294967295"},
     {"Country: {value: 1-}", "1:18: 'value' must be a whole number such as 42, -42 or 0x2A, not '1-'"},
-    {"Country: {value: 0x1234567890123456}", "1:18: 'value' must be a whole number such as 42, -42 or 0x2A, not '0x1234567890123456'"},
+    {"Country: {value: 0x1234567890123456}",
+     "1:18: 'value' must be a whole number such as 42, -42 or 0x2A, not '0x1234567890123456'"},
     {"Copies: {min: 1, max: 9,5, default: 1}", "1:25: a number has no ',' in it: write a whole number"},
     {"Copies: {min: 1, max: 9.5, default: 1}",
      "1:23: 'max' must be a whole number such as 42, -42 or 0x2A, not '9.5'"},
@@ -154,7 +157,7 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
      "3:3: the line does not fit those before it: indent it as its neighbours are"},
     {"MediaColor:\n  default: W\n   items: []",
      "3:4: the line does not fit those before it: indent it as its neighbours are"},
-    {"MediaColor:\n  items:\n    - key: W\n      name: |\n        \"6 [\n      value: 1\n   - key: B", // any text after '|'
+    {"MediaColor:\n  items:\n    - key: W\n      name: |\n        \"6 [\n      value: 1\n   - key: B", // no quote
      "7:4: the line does not fit those before it: indent it as its neighbours are"},
     {"MediaColor:\n\tdefault: W", "2:1: the line is indented with a tab: use spaces"},
 };
