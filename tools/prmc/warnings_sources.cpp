@@ -9,21 +9,26 @@
 
 namespace {
 
-void CheckSourceKeys(const Model& model, Findings& findings) {
+// False when the driver does not know a key.
+bool CheckSourceKeys(const Model& model, Findings& findings) {
+    bool areKnown = true;
     for (const char* name : {"InTray", "ALL_InTray"}) {
         for (const Record& item : EntryOf(model, name).records) {
             const Value& key = item.values.front();
             const bool isKnown =
                 std::any_of(std::begin(kPaperSources), std::end(kPaperSources),
                             [&](const PaperSourceRow& source) { return EqualNoCase(source.key, key.text); });
-            if (key.given && !isKnown)
-                findings.Warning(
-                    key.place, Quote(key.text)
-                                   + " is no paper source that the driver knows: no picture marks it, and it "
-                                     "can't be chosen for covers or single pages; "
-                                   + Choices(kPaperSources, [](const auto& source) { return source.key; }));
+            if (!key.given || isKnown)
+                continue;
+            areKnown = false;
+            findings.Warning(key.place,
+                             Quote(key.text)
+                                 + " is no paper source that the driver knows: no picture marks it, and it "
+                                   "can't be chosen for covers or single pages; "
+                                 + Choices(kPaperSources, [](const auto& source) { return source.key; }));
         }
     }
+    return areKnown;
 }
 
 const Value* FindBin(const Entry& entry, const char* key) {
@@ -118,10 +123,10 @@ void CheckTrayNames(const Model& model, Findings& findings) {
 } // namespace
 
 void CheckPaperSources(const Model& model, bool isWhole, Findings& findings) {
-    CheckSourceKeys(model, findings);
+    const bool areKnown = CheckSourceKeys(model, findings);
     CheckBins(model, findings);
     CheckHiddenTrays(model, findings);
     CheckTrayCount(model, findings);
-    if (isWhole)
+    if (isWhole && areKnown)
         CheckTrayNames(model, findings);
 }

@@ -36,9 +36,10 @@ const std::tuple<std::string, std::string, std::string> kChanges[] = {
      "'TYPE4' is no tray dialog of the driver, so that none opens: write TYPE1 to TYPE3\n"},
     // Paper sources
     {"key: InTray5,      name: Tray 5,              value", "key: InTray6,      name: Tray 5,              value",
-     "'InTray6' is " + kSource
-     + "'MediaTypeList_InTray5' names no tray: a key of 'MediaTypeList_Tray' ends in the key of an item of 'InTray', "
-       "as in MediaTypeList_InTray1\n"},
+     "'InTray6' is " + kSource},
+    {"key: MediaTypeList_InTray5,", "key: MediaTypeList_Tray5,",
+     "'MediaTypeList_Tray5' names no tray: a key of 'MediaTypeList_Tray' ends in the key of an item of 'InTray', "
+     "as in MediaTypeList_InTray1\n"},
     {"value: 257,  enabled", "value: 300,  enabled",
      "'InTray1' has the bin number 300, but 'FCover_Tray1' of 'FCoverTray' stores 257: give the item of 'ALL_InTray' "
      "the same value\n"},
@@ -66,7 +67,8 @@ const std::tuple<std::string, std::string, std::string> kChanges[] = {
     {"key: Thick1,         name: Thick 1", "key: Thick1, name: " + kW26,
      "name '" + kW26 + "' is cut: it needs 156 dialog units or more, and what shows it has 150: shorten it\n"},
     {"key: Reso_1200dpi", "key: Fine",
-     "the driver takes 0 for the resolution of 'Fine': it reads the number in the key after character 5, as in Reso_600dpi\n"},
+     "the driver takes 0 for the resolution of 'Fine': it reads the number in the key after character 5, "
+     "as in Reso_600dpi\n"},
 };
 // clang-format on
 
