@@ -1,6 +1,7 @@
 // Errors in a model's YAML: each is reported at its place with a message that says what to do.
 #include "engine_support.h"
 
+#include "common/files.h"
 #include "prmc/rules.h"
 #include "prmc/warnings.h"
 #include "prmc/yaml_reader.h"
@@ -178,6 +179,22 @@ std::string FindingsOf(const std::string& yaml) {
 TEST(YamlFaults, EveryErrorIsReportedAtItsPlace) {
     for (const auto& [yaml, findings] : kFaults)
         EXPECT_EQ(FindingsOf(yaml), findings) << yaml;
+}
+
+// In a file with hundreds of other brackets that pair.
+TEST(YamlFaults, UnclosedBracketIsReportedWhereItOpens) {
+    const std::string shipped = ReadFile(MODEL_FILE);
+    size_t line = 1, start = 0, checked = 0;
+    for (size_t end; (end = shipped.find('\n', start)) != std::string::npos; start = end + 1, ++line) {
+        const std::string text = shipped.substr(start, end - start);
+        const size_t open = text.find("- {");
+        if (line % 16 != 0 || open == std::string::npos || text.back() != '}')
+            continue;
+        ++checked;
+        const std::string place = std::to_string(line) + ":" + std::to_string(open + 3);
+        EXPECT_EQ(FindingsOf(std::string(shipped).erase(end - 1, 1)), place + ": '{' is not closed: end it with '}'");
+    }
+    EXPECT_GT(checked, 10u);
 }
 
 // Values at the limits, and other spellings, are accepted.
