@@ -118,12 +118,18 @@ TEST(WorkbenchReport, UnusableInputIsRefused) {
     };
     ExpectFailure(L"report", 2, "--out,--contents");
     ExpectFailure(out + L" --against-dialogs .", 2, "--against");
+    ExpectFailure(L"report --contents c.json --against .", 2, "--against requires --out");
     ExpectFailure(out + L" --against nowhere", 1, "nowhere.*TELMAR_D.DLL: the module cannot be loaded");
     ExpectFailure(out + L" --findings" + write("f.txt", "{}"), 1, "f.txt: not a list of findings");
-    write("dialogs-96.json", R"([{"file": "gone.png", "dpi": 96}])");
-    ExpectFailure(out + L" --dialogs \"" + folder.path.wstring() + L"\"", 1, "gone.png: cannot be read");
-    write("dialogs-96.json", R"([{"file": 1}])");
-    ExpectFailure(out + L" --dialogs \"" + folder.path.wstring() + L"\"", 1, "dialogs-96.json: not a list of 'work");
+    Json row = Json::parse(R"({"dialog": 128, "kind": "colours", "opens": true, "title": "T", "dpi": 96, "width": 8,
+                               "height": 4, "file": "gone.png"})");
+    const auto expectRefused = [&](const char* message) {
+        write("dialogs-96.json", Json({row}).dump().c_str());
+        ExpectFailure(out + L" --dialogs \"" + folder.path.wstring() + L"\"", 1, message);
+    };
+    expectRefused("gone.png: cannot be read");
+    row["dpi"] = 0; // a divisor
+    expectRefused("dialogs-96.json: not a list of 'workbench dialogs'");
     ExpectFailure(out + L" --dialogs nowhere", 1, "nowhere: cannot be read");
     EXPECT_FALSE(fs::exists(folder.path / "report.html"));
 }

@@ -161,6 +161,16 @@ std::vector<std::filesystem::path> DialogLists(const std::filesystem::path& fold
     return lists;
 }
 
+// Whether the row has all that the page shows. Other fields are ignored.
+bool IsDialogRow(const Document& row) {
+    const auto isText = [&](const char* field) { return row[field].IsText(); };
+    const auto isSize = [&](const char* field) { return row[field].IsInteger() && row[field].Integer() > 0; };
+    const std::initializer_list<const char*> texts = {"kind", "title", "file"};
+    const std::initializer_list<const char*> sizes = {"dialog", "dpi", "width", "height"};
+    return row["opens"].IsBool() && std::all_of(texts.begin(), texts.end(), isText)
+           && std::all_of(sizes.begin(), sizes.end(), isSize);
+}
+
 } // namespace
 
 Document ReadDialogs(const std::string& folderName) {
@@ -170,7 +180,7 @@ Document ReadDialogs(const std::string& folderName) {
     for (const std::filesystem::path& path : DialogLists(folder)) {
         const Document list = ParseJson(ReadTextFile(path.u8string(), kDialogsOption), path.u8string());
         for (Document row : list.Elements()) {
-            if (!row["file"].IsText() || !row["dpi"].IsInteger())
+            if (!IsDialogRow(row))
                 throw Failure(kExitFailed,
                               path.u8string() + ": not a list of 'workbench dialogs'; write it again");
             const auto picture = folder / std::filesystem::u8path(row["file"].Text()).filename();

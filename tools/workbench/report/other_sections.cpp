@@ -124,9 +124,10 @@ std::string DialogCaption(const Document& dialog) {
 std::string DialogPicture(const Document& dialog) {
     constexpr int64_t kUsualResolution = 96;
     std::string shows;
-    for (const Document& control : dialog["controls"].Elements())
-        if (control["label"].IsText() && !control["label"].Text().empty())
-            shows += (shows.empty() ? "" : ", ") + control["label"].Text();
+    for (const Document& control : dialog["controls"].Elements()) {
+        const std::string text = CellText(control["label"]) + " " + CellText(control["shows"]);
+        shows += (shows.empty() ? "" : ", ") + text.substr(0, text.find_last_not_of(' ') + 1);
+    }
     const std::string width =
         std::to_string(dialog["width"].Integer() * kUsualResolution / dialog["dpi"].Integer());
     return "<img width=\"" + width + "\" alt=\""

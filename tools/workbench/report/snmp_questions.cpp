@@ -16,7 +16,7 @@ std::string NameOf(const char* const (&names)[N], int32_t value) {
     return value >= 0 && static_cast<size_t>(value) < N ? names[value] : std::to_string(value);
 }
 
-// The numbers that a level is computed from, or a text that names an object: null when it is empty.
+// Null for an answer that needs no object.
 Document ObjectText(const std::string& oid) {
     return oid.empty() ? Document() : Document(oid);
 }
