@@ -135,12 +135,10 @@ Run SetUpDialogs(CLI::App& command) {
 
 Run SetUpReport(CLI::App& command) {
     const auto options = std::make_shared<ReportOptions>();
-    CLI::Option_group& what = *command.add_option_group("");
     CLI::Option* out =
-        what.add_option("--out", options->out, "Folder for the page, report.html")->type_name("DIR");
-    what.add_option("--contents", options->contents, "Writes the contents of the page as JSON")
+        command.add_option("--out", options->out, "Folder for the page, report.html")->type_name("DIR");
+    command.add_option("--contents", options->contents, "Writes the contents of the page as JSON")
         ->type_name("FILE");
-    what.require_option(1, 0);
     command.add_option("--dialogs", options->dialogs, "Folder that 'workbench dialogs' has filled")
         ->type_name("DIR");
     command.add_option("--findings", options->findings, "What 'prmc check --json' has found (JSON)")

@@ -116,7 +116,7 @@ TEST(WorkbenchReport, UnusableInputIsRefused) {
         std::ofstream(folder.path / name, std::ios::binary) << text;
         return L" \"" + (folder.path / name).wstring() + L"\"";
     };
-    ExpectFailure(L"report", 2, "--out,--contents");
+    ExpectFailure(L"report", 2, "--out DIR, --contents FILE");
     ExpectFailure(out + L" --against-dialogs .", 2, "--against");
     ExpectFailure(L"report --contents c.json --against .", 2, "--against requires --out");
     ExpectFailure(out + L" --against nowhere", 1, "nowhere.*TELMAR_D.DLL: the module cannot be loaded");

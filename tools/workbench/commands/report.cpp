@@ -69,6 +69,8 @@ Document ReadFindings(const std::string& path) {
 
 // What can be refused is read first, since gathering the contents takes seconds.
 Document MakeReport(const FamilyFiles& family, const ReportOptions& options) {
+    if (!options.out && !options.contents)
+        throw Failure(kExitUsage, "nothing to write; possible: --out DIR, --contents FILE");
     Document result = {{"files", FamilyDocument(family)}};
     PageContents page;
     std::filesystem::path folder;
