@@ -10,10 +10,6 @@ namespace {
 
 constexpr size_t kMaxNumbers = 5; // more numbers in one cell are only counted
 
-bool IsBlank(const std::string& text) {
-    return text.find_first_not_of(' ') == std::string::npos;
-}
-
 bool IsTable(const Document::Field& field) {
     const Document::List& rows = field.value.Elements();
     return field.value.IsNull() || (field.value.IsList() && (rows.empty() || rows[0].IsObject()));
@@ -74,6 +70,10 @@ std::vector<std::string> ColumnsOf(const Document& rows) {
             columns.push_back(field.name);
     }
     return columns;
+}
+
+bool IsBlank(const std::string& text) {
+    return text.find_first_not_of(' ') == std::string::npos;
 }
 
 std::string CellText(const Document& value) {

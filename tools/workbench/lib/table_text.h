@@ -26,6 +26,9 @@ std::string Title(const std::string& name);
 // The names of the fields that have a text in any of the rows.
 std::vector<std::string> ColumnsOf(const Document& rows);
 
+// Whether the text is empty or consists of blanks.
+bool IsBlank(const std::string& text);
+
 // The value as one line of text. Long lists of numbers are only counted.
 std::string CellText(const Document& value);
 

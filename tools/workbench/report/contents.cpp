@@ -69,9 +69,9 @@ Document OptionItems(const FamilyFiles& family) {
     Document rows = Document::MakeList();
     for (size_t i = 0; i < options.settings.size(); ++i)
         for (const ItemRecord& item : Listed(options.features[i].items)) {
-            const std::string feature = FieldText(KeyOf(options.features[i]));
-            const std::string key = FieldText(item.head.key);
-            rows.Add({{"choice", feature + "=" + key},
+            std::string choice = KeyOf(options.features[i]);
+            choice += "=" + FieldText(item.head.key);
+            rows.Add({{"choice", choice},
                       {"option", OptionName(KeyOf(options.features[i]))},
                       {"item", FieldText(item.display)},
                       {"default", &item == CurrentItem(options, i) ? Document(true) : Document()}});

@@ -60,6 +60,7 @@ std::vector<Mark> MarksOf(const DeviceTable& table) {
 }
 
 using Pixels = std::vector<uint32_t>;
+constexpr size_t kPixelCount = size_t{kSceneSize.cx} * kSceneSize.cy;
 constexpr uint32_t kOpaque = 0xFF000000;
 
 struct Overlay {
@@ -76,8 +77,8 @@ Pixels DrawPixels(const FamilyFiles& family, const PrinterScene& scene) {
     const Canvas canvas(kSceneSize);
     DrawScene(family, scene, canvas.context, kSceneSize);
     GdiFlush();
-    const auto* first = static_cast<const uint32_t*>(canvas.pixels);
-    Pixels pixels(first, first + kSceneSize.cx * kSceneSize.cy);
+    Pixels pixels(kPixelCount);
+    memcpy(pixels.data(), canvas.pixels, pixels.size() * sizeof(pixels[0]));
     for (uint32_t& pixel : pixels)
         pixel |= kOpaque; // GDI leaves this byte undefined
     return pixels;
