@@ -2,13 +2,13 @@
 // the same from either form.
 #include "require.h"
 
+#include "prmc/checks/rules.h"
+#include "prmc/checks/warnings.h"
 #include "prmc/diff.h"
-#include "prmc/prm_parser.h"
-#include "prmc/prm_writer.h"
-#include "prmc/rules.h"
-#include "prmc/warnings.h"
-#include "prmc/yaml_reader.h"
-#include "prmc/yaml_writer.h"
+#include "prmc/forms/prm_parser.h"
+#include "prmc/forms/prm_writer.h"
+#include "prmc/forms/yaml_reader.h"
+#include "prmc/forms/yaml_writer.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include "prmc/diff.h"
 
 #include "common/text.h"
-#include "prmc/yaml_writer.h"
+#include "prmc/forms/yaml_writer.h"
 
 #include <map>
 

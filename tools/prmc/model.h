@@ -4,7 +4,7 @@
 #define PRMC_MODEL_H
 
 #include "common/findings.h"
-#include "prmc/schema.h"
+#include "prmc/schema/schema.h"
 
 #include <cstdint>
 #include <optional>

@@ -3,9 +3,9 @@
 
 #include "common/files.h"
 #include "common/text.h"
-#include "prmc/prm_parser.h"
-#include "prmc/rules.h"
-#include "prmc/yaml_reader.h"
+#include "prmc/checks/rules.h"
+#include "prmc/forms/prm_parser.h"
+#include "prmc/forms/yaml_reader.h"
 
 #include <filesystem>
 #include <stdexcept>

@@ -3,8 +3,8 @@
 
 #include "common/files.h"
 #include "prmc/diff.h"
+#include "prmc/forms/yaml_writer.h"
 #include "prmc/model_file.h"
-#include "prmc/yaml_writer.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

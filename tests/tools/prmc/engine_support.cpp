@@ -1,10 +1,10 @@
 // Runs prmc's readers and writers for its tests.
 #include "engine_support.h"
 
-#include "prmc/prm_parser.h"
-#include "prmc/prm_writer.h"
-#include "prmc/rules.h"
-#include "prmc/yaml_reader.h"
+#include "prmc/checks/rules.h"
+#include "prmc/forms/prm_parser.h"
+#include "prmc/forms/prm_writer.h"
+#include "prmc/forms/yaml_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // The reference of the entries: its examples are models without errors.
 #include "engine_support.h"
 
-#include "prmc/entry_parts.h"
-#include "prmc/reference.h"
+#include "prmc/reference/entry_parts.h"
+#include "prmc/reference/reference.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "common/files.h"
 #include "common/text.h"
 #include "paramdata/feature_switches.h"
-#include "prmc/yaml_writer.h"
+#include "prmc/forms/yaml_writer.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

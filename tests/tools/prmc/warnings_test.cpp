@@ -2,8 +2,8 @@
 #include "engine_support.h"
 
 #include "common/files.h"
-#include "prmc/warnings.h"
-#include "prmc/yaml_reader.h"
+#include "prmc/checks/warnings.h"
+#include "prmc/forms/yaml_reader.h"
 
 #include <gtest/gtest.h>
 #include <set>

@@ -2,9 +2,9 @@
 #include "engine_support.h"
 
 #include "common/files.h"
-#include "prmc/rules.h"
-#include "prmc/warnings.h"
-#include "prmc/yaml_reader.h"
+#include "prmc/checks/rules.h"
+#include "prmc/checks/warnings.h"
+#include "prmc/forms/yaml_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 #include "common/files.h"
 #include "paramdata/prm_layout.h"
 #include "prmc/commands/output.h"
-#include "prmc/prm_writer.h"
+#include "prmc/forms/prm_writer.h"
 
 #include <stdexcept>
 

@@ -1,7 +1,7 @@
 // The commands dump and diff.
 #include "prmc/commands/output.h"
 #include "prmc/diff.h"
-#include "prmc/yaml_writer.h"
+#include "prmc/forms/yaml_writer.h"
 
 #include <regex>
 #include <stdexcept>

@@ -1,8 +1,8 @@
 // The commands entries and schema.
 #include "common/text.h"
 #include "prmc/commands/output.h"
-#include "prmc/json_schema.h"
-#include "prmc/reference.h"
+#include "prmc/reference/json_schema.h"
+#include "prmc/reference/reference.h"
 
 #include <stdexcept>
 

@@ -1,8 +1,8 @@
 // Reports findings, and prints.
 #include "prmc/commands/output.h"
 
+#include "prmc/checks/warnings.h"
 #include "prmc/findings_json.h"
-#include "prmc/warnings.h"
 
 #include <iostream>
 #include <stdexcept>

@@ -1,9 +1,0 @@
-// Rules on a model's contents, the same for YAML and binary files.
-#ifndef PRMC_RULES_H
-#define PRMC_RULES_H
-
-#include "prmc/model.h"
-
-void CheckRules(const Model& model, Findings& findings);
-
-#endif
