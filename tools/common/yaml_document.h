@@ -34,7 +34,8 @@ std::string UnknownName(const std::string& sentence, const std::string& name, co
                         const std::vector<std::string>& known);
 
 // Calls `use` with the name, its node and the value's node of each member. Names that are no scalar or that
-// occur again are findings.
+// occur again are findings. What `use` finds about a value that is missing has the place of the name:
+// yaml-cpp gives it that of whatever follows.
 template <typename Use>
 void ForEachMember(const YAML::Node& map, const std::string& shape, Findings& findings, const Use& use) {
     if (!map.IsMap()) {
@@ -47,8 +48,12 @@ void ForEachMember(const YAML::Node& map, const std::string& shape, Findings& fi
             findings.Error(PlaceOf(member.first), "expected a name");
         else if (!seen.insert(member.first.Scalar()).second)
             findings.Error(PlaceOf(member.first), Quote(member.first.Scalar()) + " is given twice here");
-        else
+        else {
+            const size_t before = findings.list.size();
             use(member.first.Scalar(), member.first, member.second);
+            for (size_t i = before; member.second.IsNull() && i < findings.list.size(); ++i)
+                findings.list[i].place = PlaceOf(member.first);
+        }
     }
 }
 

@@ -22,7 +22,7 @@ struct Control {
     bool isList = false;
 };
 
-constexpr int kMostControls = 80;
+constexpr int kMaxControls = 80;
 
 struct Template {
     int id;
@@ -32,7 +32,7 @@ struct Template {
     int fontSize;
     const char* font;
     int weight, italic, charset;
-    Control controls[kMostControls]; // the first one is empty
+    Control controls[kMaxControls]; // the first one is empty
 };
 
 // The words of the scripts. Numbers that say nothing about widths are 0.
@@ -78,7 +78,7 @@ int WidestControl(int control) {
 
 int ListOfLabel(int label) {
     for (const Template& dialog : kTemplates)
-        for (int i = 1; i < kMostControls; ++i)
+        for (int i = 1; i < kMaxControls; ++i)
             if (label != 0 && dialog.controls[i - 1].id == label && dialog.controls[i].isList)
                 return dialog.controls[i].id;
     return 0;

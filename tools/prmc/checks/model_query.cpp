@@ -53,3 +53,8 @@ Feature FeatureOf(const Model& model, std::string_view name) {
     }
     return {};
 }
+
+bool HasColor(const Model& model) {
+    const Pair* device = FindRow(EntryOf(model, "DevInfo"), "ColorDevice");
+    return device != nullptr && EqualNoCase(device->value, "TRUE");
+}

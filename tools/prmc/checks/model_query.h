@@ -25,4 +25,7 @@ struct Feature {
 };
 Feature FeatureOf(const Model& model, std::string_view name);
 
+// Whether the driver takes the device for one that prints in colour.
+bool HasColor(const Model& model);
+
 #endif

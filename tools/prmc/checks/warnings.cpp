@@ -67,18 +67,27 @@ constexpr struct {
 };
 
 void CheckNeeds(const Model& model, Findings& findings) {
+    const bool hasColor = HasColor(model); // otherwise the colour dialog is reported as a whole
     for (const auto& need : kNeeds) {
         const Feature feature = FeatureOf(model, need.feature);
-        const bool isUsed = feature.row != nullptr && feature.type <= need.lastType
+        const bool isUsed = feature.row != nullptr && (hasColor || need.effect != kNoTexts)
+                            && feature.type <= need.lastType
                             && (need.attribute == nullptr || FeatureOf(model, need.attribute).row != nullptr);
         if (isUsed && EntryOf(model, need.list).records.empty())
-            findings.Warning(feature.row->namePlace, Quote(need.feature) + " is on, but " + Quote(need.list)
-                                                         + " has no items: " + need.effect);
+            findings.Warning(feature.row->namePlace, "feature " + Quote(need.feature)
+                                                         + " is on, but the list " + Quote(need.list)
+                                                         + " is missing or empty: " + need.effect);
     }
 }
 
 void CheckTrayDialog(const Model& model, Findings& findings) {
     const Feature dialog = FeatureOf(model, "Dlg_MediaType");
+    const Feature button = FeatureOf(model, "PaperSourceTraySetting");
+    if (button.row != nullptr && dialog.row == nullptr)
+        findings.Warning(button.row->namePlace,
+                         "feature 'PaperSourceTraySetting' is on, but its button opens no dialog: write "
+                         "Dlg_MediaType: TYPE1 to TYPE"
+                             + std::to_string(kLastTrayDialogType) + ", too");
     if (dialog.row != nullptr && dialog.type > kLastTrayDialogType)
         findings.Warning(dialog.row->valuePlace,
                          Quote(dialog.row->value)

@@ -56,8 +56,7 @@ void CheckSimulations(const Model& model, Findings& findings) {
 
 void CheckMonochrome(const Model& model, Findings& findings) {
     const Feature dialog = FeatureOf(model, "ColorSetting");
-    const Pair* device = FindRow(EntryOf(model, "DevInfo"), "ColorDevice");
-    if (dialog.row != nullptr && (device == nullptr || !EqualNoCase(device->value, "TRUE")))
+    if (dialog.row != nullptr && !HasColor(model))
         findings.Warning(
             dialog.row->namePlace,
             "'ColorSetting' is on, but for the driver this printer has no colour: omit the row, or "

@@ -102,7 +102,7 @@ void CheckTrayCount(const Model& model, Findings& findings) {
     }
 }
 
-// The rows of the tray dialog take the names of the items whose keys end in theirs.
+// The rows of the device table take the names of the items whose keys end in theirs.
 void CheckTrayNames(const Model& model, Findings& findings) {
     const std::vector<Record>& trays = EntryOf(model, "InTray").records;
     for (const Record& item : EntryOf(model, "MediaTypeList_Tray").records) {

@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
+#include <iostream>
 #include <map>
 #include <stdexcept>
 #include <sys/wait.h>
@@ -34,43 +35,46 @@ FileState StateOf(const std::string& path) {
     return isMissing ? FileState() : state;
 }
 
-void Say(const std::string& what) {
+// A line with the time, where it does not mix with the findings.
+void Say(const std::string& what, const CheckOptions& options) {
     const std::time_t now = std::time(nullptr);
     char clock[] = "hh:mm:ss";
     std::strftime(clock, sizeof(clock), "%H:%M:%S", std::localtime(&now));
-    Print(std::string(clock) + " " + what + "\n");
+    const std::string line = std::string(clock) + " " + what + "\n";
+    if (options.isJson)
+        std::cerr << line;
+    else
+        Print(line);
 }
 
-void RunCommand(const std::string& command) {
+void RunCommand(const std::string& command, const CheckOptions& options) {
     constexpr int kInterrupted = 128 + SIGINT; // as a shell reports it
     const int status = std::system(command.c_str());
     if ((WIFSIGNALED(status) && WTERMSIG(status) == SIGINT) || WEXITSTATUS(status) == kInterrupted)
         std::raise(SIGINT); // Ctrl+C has ended only the command
     if (status != 0)
-        Say("the command failed: " + command);
+        Say("the command failed: " + command, options);
 }
 
-// Checks and builds once; the files that were read, or tried.
-std::vector<std::string> BuildOnce(const std::string& source, const std::string& target,
-                                   const std::string& command, const CheckOptions& options) {
-    std::vector<std::string> files = {source};
+// Checks and builds once. Appends the files that were read, or tried; false when there are errors.
+bool BuildOnce(const std::string& source, const std::string& target, const CheckOptions& options,
+               std::vector<std::string>& files) {
     try {
         const ModelFile read = ReadForCheck(source, options);
         files = read.files;
         Report(read, options);
         if (read.findings.HasErrors()) {
-            Say("errors; nothing is written");
-            return files;
+            Say("errors; nothing is written", options);
+            return false;
         }
         if (!target.empty())
             WriteModel(read, target);
-        Say(target.empty() ? "no errors" : "written: " + target);
-        if (!command.empty())
-            RunCommand(command);
+        Say(target.empty() ? "no errors" : "written: " + target, options);
+        return true;
     } catch (const std::runtime_error& error) {
-        Say(error.what());
+        Say(error.what(), options);
+        return false;
     }
-    return files;
 }
 
 } // namespace
@@ -78,15 +82,18 @@ std::vector<std::string> BuildOnce(const std::string& source, const std::string&
 void Watch(const std::string& source, const std::string& target, const std::string& command,
            const CheckOptions& options) {
     ExpectForm(source, true);
-    std::map<std::string, FileState> files = {{source, {}}};
+    std::map<std::string, FileState> states = {{source, {}}};
     const auto hasChanged = [](const auto& file) { return StateOf(file.first) != file.second; };
     for (;;) {
-        for (auto& [file, state] : files) // before they are read, so that a save meanwhile counts
+        for (auto& [file, state] : states) // before they are read, so that a save meanwhile counts
             state = StateOf(file);
-        for (const std::string& file : BuildOnce(source, target, command, options))
-            files.emplace(file, StateOf(file));
-        do
+        std::vector<std::string> files;
+        const bool isBuilt = BuildOnce(source, target, options, files);
+        for (const std::string& file : files)
+            states.emplace(file, StateOf(file));
+        if (isBuilt && !command.empty())
+            RunCommand(command, options);
+        while (std::none_of(states.begin(), states.end(), hasChanged))
             std::this_thread::sleep_for(kInterval);
-        while (std::none_of(files.begin(), files.end(), hasChanged));
     }
 }

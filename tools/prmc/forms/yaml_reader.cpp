@@ -54,6 +54,8 @@ void ReadPairs(const YAML::Node& node, Value& value, Findings& findings) {
                       Pair pair{name, "", PlaceOf(nameNode), PlaceOf(valueNode)};
                       if (isOfBase && valueNode.IsNull())
                           EraseAt(ofBase, at);
+                      else if (valueNode.IsNull() && !ofBase.empty())
+                          findings.Error(pair.namePlace, "the base has no row " + Quote(name) + " to remove");
                       else if (ReadScalar(name, valueNode, pair.value, findings))
                           isOfBase ? ofBase[at] = pair : added.emplace_back(pair);
                   });
@@ -191,11 +193,13 @@ void ReadList(Entry& entry, const YAML::Node& node, bool isOfBase, Findings& fin
         }
     };
     ForEachMember(node, "a list: {default: KEY, items: [...]}", findings, readMember);
-    if (hasItems && hasChanges)
+    if (hasItems && hasChanges) {
+        areKnown = false;
         findings.Error(entry.place, "'items' replaces all items of the base: put the changes in it, too");
-    else if (areKnown && !isOfBase && !hasItems && !hasChanges)
+    } else if (areKnown && !isOfBase && !hasItems && !hasChanges) {
         findings.Error(entry.place, "'items' is missing or empty: " + Quote(entry.name) + " is a list");
-    if (hasDefault && (hasItems || isOfBase))
+    }
+    if (areKnown && hasDefault && (hasItems || isOfBase))
         FindDefault(entry, defaultKey, defaultPlace, findings);
     else if (hasDefault || !areKnown)
         entry.defaultItem = 0; // so that the rules don't report a missing default as well
@@ -215,19 +219,29 @@ void ReadEntry(Entry& entry, const YAML::Node& node, bool isOfBase, Findings& fi
     ReadValue(kind.fields[0], node, record.values[0], findings);
 }
 
-Model ReadBase(const YAML::Node& name, const BaseReader& readBase, Findings& findings) {
-    std::string file;
-    if (!name.IsDefined() || !ReadScalar("base", name, file, findings))
-        return {};
-    if (readBase)
-        return readBase(file, PlaceOf(name));
-    findings.Error(PlaceOf(name), "'base' can be used in model files only");
+constexpr const char* kBase = "base";
+
+// The model that the text builds on; empty when there is none, or when it can't be read, which is reported.
+Model ReadBase(const YAML::Node& root, const BaseReader& readBase, Findings& findings) {
+    for (const auto& member : root) {
+        const YAML::Node& name = member.second;
+        if (!member.first.IsScalar() || member.first.Scalar() != kBase)
+            continue;
+        if (readBase && name.IsScalar())
+            return readBase(name.Scalar(), PlaceOf(name));
+        findings.Error(PlaceOf(member.first), name.IsScalar() ? "'base' can be used in model files only"
+                                                              : "'base' must be the name of a file");
+    }
     return {};
 }
 
 Model ReadDocument(const YAML::Node& root, const BaseReader& readBase, Findings& findings) {
-    constexpr const char* kBase = "base";
-    Model model = root.IsMap() ? ReadBase(root[kBase], readBase, findings) : Model();
+    Model model;
+    if (root.IsMap() && root[kBase]) {
+        model = ReadBase(root, readBase, findings);
+        if (model.entries.empty()) // then what the text leaves out would be reported, too
+            return model;
+    }
     std::vector<std::string> known = {kBase};
     for (const EntryRow& row : KnownEntries())
         known.emplace_back(row.name);
@@ -248,6 +262,9 @@ Model ReadDocument(const YAML::Node& root, const BaseReader& readBase, Findings&
                       const bool isOfBase = seen.insert(FoldCase(name)).second && at < entries.size();
                       if (isOfBase && valueNode.IsNull())
                           return EraseAt(entries, at);
+                      if (valueNode.IsNull())
+                          return findings.Error(PlaceOf(nameNode),
+                                                Quote(name) + " has no contents, and no base has it");
                       Entry entry = isOfBase ? entries[at] : Entry{row, name, {}, {}, {}};
                       entry.place = PlaceOf(nameNode);
                       ReadEntry(entry, valueNode, isOfBase, findings);

@@ -8,7 +8,8 @@
 #include <functional>
 #include <string>
 
-// Reads the model that another one builds on: `name` as written in `base: NAME`, at `place`.
+// Reads the model that another one builds on: `name` as written in `base: NAME`, at `place`. It has no
+// entries when it can't be read, which is reported.
 using BaseReader = std::function<Model(const std::string& name, Place place)>;
 
 // Returns what could be read even when there are errors, so that the rules can report theirs too. Without a

@@ -126,7 +126,7 @@ constexpr Field kLists[] = {
 };
 
 // Names of the values from 1 on.
-constexpr const char* kRateUnits[] = {"other", "CPS", "LPM", "IPM"};
+constexpr const char* kRateUnits[] = {"PPM or other", "CPS", "LPM", "IPM"};
 constexpr const char* kEncryptions[] = {"AES", "other"};
 
 constexpr Field kDeviceFacts[] = {
