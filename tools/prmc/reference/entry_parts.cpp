@@ -1,10 +1,12 @@
 // Derives the parts of an entry's description from the schema and the driver's tables.
 #include "prmc/reference/entry_parts.h"
 
+#include "common/color_dialogs.h"
 #include "common/text.h"
 #include "paramdata/feature_switches.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -33,6 +35,16 @@ std::string Indented(const std::string& indent, const std::string& lines) {
     return text;
 }
 
+// Which colour dialog opens, by the switch's type.
+std::string ColorDialogUse() {
+    std::string use = " The user-interface module opens one of the colour dialogs:";
+    for (size_t type = 1; type < std::size(kColorDialogsByType); ++type)
+        use += " TYPE" + std::to_string(type) + ": " + std::to_string(kColorDialogsByType[type].id) + " ("
+               + kColorDialogsByType[type].contents + ");";
+    return use + " another type, or none: " + std::to_string(kColorDialogsByType[0].id) + " ("
+           + kColorDialogsByType[0].contents + ").";
+}
+
 std::vector<TableRow> SwitchRows() {
     std::vector<TableRow> rows;
     for (const FeatureSwitchRow& feature : kFeatureSwitches) {
@@ -46,7 +58,7 @@ std::vector<TableRow> SwitchRows() {
             row.value.maxType = kMaxSwitchType;
         for (const SwitchUse& use : UsedSwitches())
             if (use.position == static_cast<size_t>(&feature - kFeatureSwitches))
-                row.meaning = use.use;
+                row.meaning = use.use + (use.position == kSwitchColorSetting ? ColorDialogUse() : "");
         rows.push_back(row);
     }
     return rows;

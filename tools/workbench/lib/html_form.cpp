@@ -75,8 +75,8 @@ std::string HtmlTable(const std::string& name, const Document& contents, const H
     const Document rows = RowsOf(contents);
     return std::string("<details class=\"data\"") + (style.isOpen ? " open" : "") + "><summary><h3>"
            + HtmlText(name) + "</h3> <span class=\"count\">" + CountText(rows.Elements().size())
-           + "</span></summary>\n<div class=\"scroll\">" + TableElement(name, rows, style)
-           + "</div></details>\n";
+           + "</span></summary>\n<div class=\"scroll\" tabindex=\"0\" role=\"group\" aria-label=\""
+           + HtmlText(name) + "\">" + TableElement(name, rows, style) + "</div></details>\n";
 }
 
 std::string HtmlForm(const Document& document) {

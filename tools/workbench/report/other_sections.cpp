@@ -77,11 +77,13 @@ std::string TableDifferenceText(const Document& tables) {
     return text;
 }
 
-// The facts of both models, whether or not they differ.
+// The facts in which the models differ.
 std::string FactsTable(const Document& here, const Document& there) {
     Document rows = Document::MakeList();
     for (const Document::Field& fact : here["facts"].Fields())
-        rows.Add({{"fact", Title(fact.name)}, {"here", fact.value}, {"there", there["facts"][fact.name]}});
+        if (CellText(fact.value) != CellText(there["facts"][fact.name]))
+            rows.Add(
+                {{"fact", Title(fact.name)}, {"here", fact.value}, {"there", there["facts"][fact.name]}});
     return HtmlTable("Facts", rows, {true});
 }
 

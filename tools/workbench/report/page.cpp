@@ -56,11 +56,12 @@ std::string AnchorOf(const std::string& title) {
     return id;
 }
 
-// A dialog has a picture for each resolution.
+// Those that the driver opens. A dialog has a picture for each resolution.
 std::string DialogCount(const Document& dialogs) {
     std::set<int64_t> numbers;
     for (const Document& dialog : dialogs.Elements())
-        numbers.insert(dialog["dialog"].Integer());
+        if (dialog["opens"].Bool())
+            numbers.insert(dialog["dialog"].Integer());
     return std::to_string(numbers.size());
 }
 
