@@ -47,7 +47,7 @@ void ForEachMember(const YAML::Node& map, const std::string& shape, Findings& fi
         if (!member.first.IsScalar())
             findings.Error(PlaceOf(member.first), "expected a name");
         else if (!seen.insert(member.first.Scalar()).second)
-            findings.Error(PlaceOf(member.first), Quote(member.first.Scalar()) + " is given twice here");
+            findings.Error(PlaceOf(member.first), Quote(member.first.Scalar()) + " occurs twice: remove one");
         else {
             const size_t before = findings.list.size();
             use(member.first.Scalar(), member.first, member.second);

@@ -14,16 +14,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
+// Without warnings.
+const std::string kGood = std::regex_replace(kSmallModel, std::regex("key: A"), "key: OpInTrayUnit1");
+
 // Runs prmc in a temporary folder with good.yaml, other.yaml, warned.yaml, bad.yaml, good.PRM and broken.PRM.
 struct Program : testing::Test {
     Program() {
         fs::create_directory(folder);
-        WriteFileWhole(Path("good.yaml"), kSmallModel);
+        WriteFileWhole(Path("good.yaml"), kGood);
         WriteFileWhole(Path("other.yaml"), "Country: {value: 8}\n");
         WriteFileWhole(Path("warned.yaml"), "FeatureSetting: {Staple: Enable}\n");
         WriteFileWhole(Path("bad.yaml"), "Countri: {value: 8}\n");
-        WriteFileWhole(Path("good.PRM"), Build(kSmallModel));
-        WriteFileWhole(Path("broken.PRM"), Build(kSmallModel).substr(1));
+        WriteFileWhole(Path("good.PRM"), Build(kGood));
+        WriteFileWhole(Path("broken.PRM"), Build(kGood).substr(1));
     }
     ~Program() override { fs::remove_all(folder); }
 

@@ -55,6 +55,16 @@ const std::tuple<std::string, std::string, std::string> kChanges[] = {
      "    - {key: InTray7, name: n, value: 1007, enabled: 1}\n",
      "'InTray7' and what follows are missing in the tray dialog: the settings keep the paper of 10 trays\n'InTray7' is "
      + kSource},
+    // Features and lists
+    {"  Dlg_MediaType: TYPE1 ", "  #",
+     "feature 'PaperSourceTraySetting' is on, but its button opens no dialog: write Dlg_MediaType: TYPE1 to TYPE3, too\n"},
+    {"default: DisOpHDD\n  items:\n    - {key: EnaOpHDD, name: Installed}\n    - {key: DisOpHDD,",
+     "default: HDD_Off\n  items:\n    - {key: HDD_On, name: Installed}\n    - {key: HDD_Off,",
+     "the driver knows no item of 'OpHDD', so that whatever is chosen has no effect; possible: EnaOpHDD, DisOpHDD\n"},
+    {"value: 258,  enabled", "value: 257,  enabled",
+     "'InTray2' has the bin number 257, but 'FCover_Tray2' of 'FCoverTray' stores 258: give the item of 'ALL_InTray' "
+     "the same value\n'InTray2' has the same value as 'InTray1', which is chosen in its place\n"},
+    {"  ColorSetting: TYPE1 ", "  ColorSetting: TYPE5 ", ""},
     // Texts
     {"name: Large-capacity tray, value: 1000, enabled", "name: Large-capacity tray 100, value: 1000, enabled", ""},
     {"name: Large-capacity tray, value: 1000, enabled", "name: Large-capacity tray 1000, value: 1000, enabled",
@@ -94,45 +104,22 @@ TEST(Warnings, ChangesOfTheShippedModel) {
 
 // The entries that a feature of the shipped model needs, and no others.
 TEST(Warnings, MissingLists) {
-    const std::set<std::string> wanted = {"MediaType",
-                                          "MediaWeight",
-                                          "MediaColor",
-                                          "MediaPrePunched",
-                                          "PaperOption1",
-                                          "PaperArrangement",
-                                          "Staple",
-                                          "HolePunch",
-                                          "Folding",
-                                          "OutputTray",
-                                          "OutputOrder",
-                                          "OHP_Interleave",
-                                          "ExcelJobCtrl",
-                                          "FCoverTray",
-                                          "BCoverTray",
-                                          "SeparatePageTray",
-                                          "OHPIntTray",
-                                          "PIFrontCover",
-                                          "PIBackCover",
-                                          "PerPageListPrintType",
-                                          "PerPageListPaperSrc",
-                                          "PerPageListStaple",
-                                          "TabPaperPaperSize",
-                                          "OvlForm_Location",
-                                          "Prof_Location",
-                                          "Text_RGBColorMatch",
-                                          "Text_RGBGray",
-                                          "Text_Halftone",
-                                          "Img_RGBColorMatch",
-                                          "Img_Halftone",
-                                          "InTray",
-                                          "PaperSize",
-                                          "MediaTypeList_Orient",
-                                          "MediaTypeList_Size",
-                                          "MediaTypeList_Type",
-                                          "MediaTypeList_Weight",
-                                          "MediaTypeList_Color",
-                                          "MediaTypeList_Hole",
-                                          "DevInfo"};
+    // clang-format off
+    const std::set<std::string> wanted = {
+        "MediaType", "MediaWeight", "MediaColor", "MediaPrePunched", "PaperOption1", "PaperArrangement", "Staple",
+        "HolePunch", "Folding", "OutputTray", "OutputOrder", "OHP_Interleave", "ExcelJobCtrl", "FCoverTray", "BCoverTray",
+        "SeparatePageTray", "OHPIntTray", "PIFrontCover", "PIBackCover", "PerPageListPrintType", "PerPageListPaperSrc",
+        "PerPageListStaple", "TabPaperPaperSize", "OvlForm_Location", "Prof_Location",
+        // of the full colour dialog
+        "Text_RGBProf", "Text_RGBColorMatch", "Text_RGBGray", "Text_Halftone", "Text_Destination",
+        "Img_RGBProf", "Img_RGBColorMatch", "Img_RGBGray", "Img_Halftone", "Img_Destination",
+        "Graph_RGBProf", "Graph_RGBColorMatch", "Graph_RGBGray", "Graph_Halftone", "Graph_Destination",
+        "SimulationProf", "Simu_CMYKGray",
+        // of the tray dialog
+        "InTray", "PaperSize", "MediaTypeList_Orient", "MediaTypeList_Size", "MediaTypeList_Type", "MediaTypeList_Weight",
+        "MediaTypeList_Color", "MediaTypeList_Hole",
+        "DevInfo"};
+    // clang-format on
     Findings findings;
     const Model shipped = ReadYaml(ReadFile(MODEL_FILE), findings);
     std::set<std::string> needed;

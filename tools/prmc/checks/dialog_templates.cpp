@@ -83,3 +83,11 @@ int ListOfLabel(int label) {
                 return dialog.controls[i].id;
     return 0;
 }
+
+bool HasControl(int dialog, int control) {
+    for (const Template& candidate : kTemplates)
+        for (const Control& each : candidate.controls)
+            if (candidate.id == dialog && each.id == control)
+                return true;
+    return false;
+}

@@ -9,4 +9,7 @@ int WidestControl(int control);
 // The drop-down list below the label; 0 when there is none.
 int ListOfLabel(int label);
 
+// Whether the dialog of this number has the control.
+bool HasControl(int dialog, int control);
+
 #endif

@@ -7,6 +7,7 @@
 
 void CheckColors(const Model& model, bool isWhole, Findings& findings);
 void CheckPaperSources(const Model& model, bool isWhole, Findings& findings);
+void CheckLists(const Model& model, bool isWhole, Findings& findings);
 void CheckTexts(const Model& model, bool isWhole, Findings& findings);
 void CheckFeatures(const Model& model, bool isWhole, Findings& findings);
 

@@ -10,7 +10,6 @@ namespace {
 
 constexpr unsigned kEvery = kLastTrayDialogType; // tray dialog
 constexpr const char* kNoChoice = "there is nothing to choose from";
-constexpr const char* kNoTexts = "a list of the colour dialog shows no texts";
 constexpr const char* kNoUnknown = "the tray dialog has no entry for trays of which this is unknown";
 
 // A list that a feature needs, with at least one item.
@@ -48,12 +47,6 @@ constexpr struct {
     {"PPS_TabPaper",       "TabPaperPaperSize",    kNoChoice},
     {"Overlay",            "OvlForm_Location",     kNoChoice},
     {"ColorProfileSource", "Prof_Location",        "profiles are listed without their location"},
-    // Those of every colour dialog.
-    {"ColorSetting",       "Text_RGBColorMatch",   kNoTexts},
-    {"ColorSetting",       "Text_RGBGray",         kNoTexts},
-    {"ColorSetting",       "Text_Halftone",        kNoTexts},
-    {"ColorSetting",       "Img_RGBColorMatch",    kNoTexts},
-    {"ColorSetting",       "Img_Halftone",         kNoTexts},
     {"Dlg_MediaType",      "InTray",               "the tray dialog has no trays",            kEvery},
     {"Dlg_MediaType",      "PaperSize",            "the tray dialog offers no paper sizes",   kEvery},
     {"Dlg_MediaType",      "MediaType",            "the tray dialog offers no paper types",   kEvery},
@@ -67,11 +60,9 @@ constexpr struct {
 };
 
 void CheckNeeds(const Model& model, Findings& findings) {
-    const bool hasColor = HasColor(model); // otherwise the colour dialog is reported as a whole
     for (const auto& need : kNeeds) {
         const Feature feature = FeatureOf(model, need.feature);
-        const bool isUsed = feature.row != nullptr && (hasColor || need.effect != kNoTexts)
-                            && feature.type <= need.lastType
+        const bool isUsed = feature.row != nullptr && feature.type <= need.lastType
                             && (need.attribute == nullptr || FeatureOf(model, need.attribute).row != nullptr);
         if (isUsed && EntryOf(model, need.list).records.empty())
             findings.Warning(feature.row->namePlace, "feature " + Quote(need.feature)
@@ -105,6 +96,6 @@ void CheckFeatures(const Model& model, bool isWhole, Findings& findings) {
 
 void FindWarnings(const Model& model, Findings& findings) {
     const bool isWhole = !findings.HasErrors();
-    for (const auto check : {CheckFeatures, CheckColors, CheckPaperSources, CheckTexts})
+    for (const auto check : {CheckFeatures, CheckColors, CheckPaperSources, CheckLists, CheckTexts})
         check(model, isWhole, findings);
 }

@@ -1,7 +1,10 @@
 // Warnings about the colour settings.
 #include "common/choices.h"
+#include "common/color_dialogs.h"
 #include "common/text.h"
 #include "paramdata/color_keys.h"
+#include "paramdata/control_text_keys.h"
+#include "prmc/checks/dialog_templates.h"
 #include "prmc/checks/model_query.h"
 #include "prmc/checks/warning_checks.h"
 
@@ -54,6 +57,24 @@ void CheckSimulations(const Model& model, Findings& findings) {
                              + InOrder(kSimulationKeys));
 }
 
+// The labels of a colour dialog have the names of the entries that fill the lists below them.
+void CheckShownLists(const Model& model, Findings& findings) {
+    const Feature feature = FeatureOf(model, "ColorSetting");
+    if (feature.row == nullptr || !HasColor(model)) // without colour the whole dialog is reported
+        return;
+    const size_t type = feature.type < std::size(kColorDialogsByType) ? feature.type : 0;
+    const auto dialog = static_cast<int>(kColorDialogsByType[type].id);
+    std::string missing;
+    for (const ControlTextRow& label : kColorDialogTexts)
+        if (ListOfLabel(label.identifiers[0]) != 0 && HasControl(dialog, label.identifiers[0])
+            && EntryOf(model, label.key).records.empty())
+            missing += (missing.empty() ? "" : ", ") + Quote(label.key);
+    if (!missing.empty())
+        findings.Warning(feature.row->namePlace,
+                         "feature 'ColorSetting' is on, but lists of its dialog, " + std::to_string(dialog)
+                             + ", are missing or empty, so that it shows no texts in them: " + missing);
+}
+
 void CheckMonochrome(const Model& model, Findings& findings) {
     const Feature dialog = FeatureOf(model, "ColorSetting");
     if (dialog.row != nullptr && !HasColor(model))
@@ -71,4 +92,5 @@ void CheckColors(const Model& model, bool isWhole, Findings& findings) {
         return;
     CheckSimulations(model, findings);
     CheckMonochrome(model, findings);
+    CheckShownLists(model, findings);
 }

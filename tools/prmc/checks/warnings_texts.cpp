@@ -96,7 +96,9 @@ void CheckResolutions(const Model& model, Findings& findings) {
 
 } // namespace
 
-void CheckTexts(const Model& model, bool /*isWhole*/, Findings& findings) {
+void CheckTexts(const Model& model, bool isWhole, Findings& findings) {
+    if (!isWhole) // a text may be an error already
+        return;
     CheckWidths(model, findings);
     CheckBinNames(model, findings);
     CheckResolutions(model, findings);

@@ -84,7 +84,9 @@ std::string ShapeOf(const Kind& kind) {
 }
 
 // Reads the fields over those of the record, which is empty or the base's.
-void ReadRecord(const Kind& kind, const YAML::Node& node, Record& record, Findings& findings) {
+void ReadRecord(const Entry& entry, const YAML::Node& node, Record& record, Findings& findings) {
+    const Kind& kind = *entry.row->kind;
+    const std::string owner = (kind.form == Form::kList ? "an item of " : "") + Quote(entry.name);
     record.place = PlaceOf(node);
     record.values.resize(kind.fields.count);
     std::set<std::string> present;
@@ -100,21 +102,20 @@ void ReadRecord(const Kind& kind, const YAML::Node& node, Record& record, Findin
                           }
                       }
                       areKnown = false;
-                      findings.Error(PlaceOf(nameNode), UnknownName(std::string(kind.label) + " has no field",
-                                                                    name, valueNode, known));
+                      findings.Error(PlaceOf(nameNode),
+                                     UnknownName(owner + " has no field", name, valueNode, known));
                   });
     for (size_t i = 0; i < kind.fields.count; ++i) {
         const Field& field = kind.fields[i];
         if (areKnown && field.required && !record.values[i].given && !present.count(field.name))
-            findings.Error(record.place,
-                           Quote(field.name) + " is missing: every " + kind.label + " needs it");
+            findings.Error(record.place, Quote(field.name) + " is missing: " + owner + " needs it");
     }
 }
 
 void ReadItems(Entry& entry, const YAML::Node& node, Findings& findings) {
     entry.records.clear();
     for (const YAML::Node& item : node)
-        ReadRecord(*entry.row->kind, item, entry.records.emplace_back(), findings);
+        ReadRecord(entry, item, entry.records.emplace_back(), findings);
 }
 
 std::string HintForKey(const Entry& entry, const std::string& key) {
@@ -135,7 +136,9 @@ void ReadChange(Entry& entry, const std::string& key, Place place, const YAML::N
     if (fields.IsNull())
         return findings.Error(place, "the base's " + Quote(entry.name) + " has no item " + Quote(key)
                                          + " to remove" + HintForKey(entry, key));
-    if (fields.IsMap() && fields[label])
+    if (!fields.IsMap())
+        return findings.Error(PlaceOf(fields), "expected the fields that change: {FIELD: VALUE, ...}");
+    if (fields[label])
         return findings.Error(PlaceOf(fields[label]), Quote(label)
                                                           + " is before the colon already, and stays "
                                                           + Quote(key) + ": remove it here");
@@ -145,7 +148,7 @@ void ReadChange(Entry& entry, const std::string& key, Place place, const YAML::N
         value.place = place;
         value.text = key;
     }
-    ReadRecord(*entry.row->kind, fields, entry.records[at], findings);
+    ReadRecord(entry, fields, entry.records[at], findings);
 }
 
 void FindDefault(Entry& entry, const std::string& key, Place place, Findings& findings) {
@@ -213,7 +216,7 @@ void ReadEntry(Entry& entry, const YAML::Node& node, bool isOfBase, Findings& fi
     entry.records.resize(1);
     Record& record = entry.records.front();
     if (kind.form == Form::kSingle || kind.form == Form::kRange)
-        return ReadRecord(kind, node, record, findings);
+        return ReadRecord(entry, node, record, findings);
     record.place = PlaceOf(node);
     record.values.resize(1);
     ReadValue(kind.fields[0], node, record.values[0], findings);
