@@ -99,7 +99,7 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {"Copies: 5", "1:9: expected fields: {min: VALUE, max: VALUE, default: VALUE}"},
     {"MediaColor: {default: W, items: [W]}", "1:34: expected fields: {key: VALUE, name: VALUE, value: VALUE}"},
     {"MediaColor: {default: W, items: }", "1:1: 'items' is missing or empty: 'MediaColor' is a list"},
-    {"MediaWeight: []", "1:14: expected a list: {default: KEY, items: [...]}"},
+    {"MediaWeight: []", "1:14: 'items:' is missing before the items of 'MediaWeight'"},
     {"MediaTypeList_Tray: {items: {}}", "1:29: expected a list of items, each '- {...}'"},
     {"? [a]\n: b", "1:3: expected a name"},
     {"# nothing", "1:1: the file has no entries"},

@@ -99,12 +99,12 @@ TEST(WorkbenchReport, RowsAreComparedByTheirFirstText) {
 
 // A paper source that only one model has does not make every picture differ.
 TEST(WorkbenchReport, PicturesAreComparedByOptionsAndMarks) {
-    const char* here = R"({"marks": ["T1", "T2"], "looks": [
+    const char* here = R"({"marks": [{"source": "T1", "name": "One"}, {"source": "T2", "name": "Two"}], "looks": [
         {"id": "", "picture": "p", "marks": [{"mark": 0, "overlay": "o"}, {"mark": 1, "overlay": "q"}]},
         {"id": "A", "picture": "p", "marks": []},
         {"id": "B", "picture": "p", "marks": [{"mark": 1, "overlay": "q"}]}]})";
     const char* there =
-        R"({"marks": ["T2"], "looks": [{"id": "", "picture": "p", "marks": [{"mark": 0, "overlay": "q"}]},
+        R"({"marks": [{"source": "T2", "name": "Zwei"}], "looks": [{"id": "", "picture": "p", "marks": [{"mark": 0, "overlay": "q"}]},
         {"id": "A", "picture": "other", "marks": []}, {"id": "B", "picture": "p", "marks": []}]})";
     EXPECT_EQ(Pick(Pick(Compared(LookDifferences, here, there)["pairs"], "here"), "id"), Json({"A", "B"}));
 }

@@ -162,6 +162,8 @@ void FindDefault(Entry& entry, const std::string& key, Place place, Findings& fi
 }
 
 void ReadList(Entry& entry, const YAML::Node& node, bool isOfBase, Findings& findings) {
+    if (node.IsSequence())
+        return findings.Error(PlaceOf(node), "'items:' is missing before the items of " + Quote(entry.name));
     std::string defaultKey = entry.defaultItem ? ItemLabel(entry.records[*entry.defaultItem]) : "";
     bool hasDefault = entry.defaultItem.has_value(), hasItems = false, hasChanges = false;
     bool areKnown = node.IsMap(); // otherwise what is missing may be there under a wrong name

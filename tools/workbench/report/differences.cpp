@@ -148,28 +148,21 @@ Document PictureDifferences(const Document& here, const Document& there, const K
     return differences;
 }
 
-// The marks as rows of a table.
-Document MarkRows(const Document& printer) {
-    Document rows = Document::MakeList();
-    for (const Document& mark : printer["marks"].Elements())
-        rows.Add({{"mark", mark}});
-    return rows;
-}
-
-bool HasMark(const Document& printer, const std::string& name) {
+bool HasMark(const Document& printer, const std::string& source) {
     const Document::List& marks = printer["marks"].Elements();
-    return std::any_of(marks.begin(), marks.end(), [&](const Document& mark) { return mark.Text() == name; });
+    return std::any_of(marks.begin(), marks.end(),
+                       [&](const Document& mark) { return mark["source"].Text() == source; });
 }
 
-// The overlays by the names of their marks, without marks that the other printer does not have.
+// The overlays by the sources that they mark, without marks that the other printer does not have.
 std::map<std::string, std::string> OverlaysOf(const Document& printer, const Document& look,
                                               const Document& otherPrinter) {
     std::map<std::string, std::string> overlays;
     for (const Document& row : look["marks"].Elements()) {
-        const std::string& name =
-            printer["marks"].Elements().at(static_cast<size_t>(row["mark"].Integer())).Text();
-        if (HasMark(otherPrinter, name))
-            overlays[name] = row["overlay"].Text();
+        const std::string& source =
+            printer["marks"].Elements().at(static_cast<size_t>(row["mark"].Integer()))["source"].Text();
+        if (HasMark(otherPrinter, source))
+            overlays[source] = row["overlay"].Text();
     }
     return overlays;
 }
@@ -178,8 +171,8 @@ std::map<std::string, std::string> OverlaysOf(const Document& printer, const Doc
 
 Document TableDifferences(const Document& here, const Document& there) {
     Document tables = Document::MakeList();
-    AddTable("Paper sources and outputs in the picture", MarkRows(here["printer"]),
-             MarkRows(there["printer"]), tables);
+    AddTable("Paper sources and outputs in the picture", here["printer"]["marks"], there["printer"]["marks"],
+             tables);
     for (const Document::Field& group : here["groups"].Fields())
         AddGroup(group.name, group.value, there["groups"][group.name], tables);
     return tables;

@@ -234,7 +234,7 @@ Document PrinterLooks(const FamilyFiles& family) {
     search.Run();
     Document marks = Document::MakeList();
     for (const Mark& mark : search.marks)
-        marks.Add(mark.name);
+        marks.Add({{"source", mark.tray.empty() ? mark.name : mark.tray}, {"name", mark.name}});
     Document looks = Document::MakeList();
     for (size_t i = 0; i < search.looks.size(); ++i)
         looks.Add(LookDocument(search, i));

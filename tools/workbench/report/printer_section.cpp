@@ -10,7 +10,7 @@
 namespace {
 
 std::string MarkName(const Document& printer, const Document& mark) {
-    return printer["marks"].Elements().at(static_cast<size_t>(mark["mark"].Integer())).Text();
+    return printer["marks"].Elements().at(static_cast<size_t>(mark["mark"].Integer()))["name"].Text();
 }
 
 std::string JoinedNames(const std::vector<std::string>& names) {
@@ -62,7 +62,7 @@ std::string MarkChoices(const Document& printer) {
     std::string text = "<fieldset class=\"choices\"><legend>Highlight in all pictures</legend>\n";
     text += Choice("none", "Nothing", true) + Choice("all", "Everything", false);
     for (const size_t mark : ShownMarks(printer))
-        text += Choice(std::to_string(mark), printer["marks"].Elements()[mark].Text(), false);
+        text += Choice(std::to_string(mark), printer["marks"].Elements()[mark]["name"].Text(), false);
     return text + "</fieldset>\n";
 }
 
