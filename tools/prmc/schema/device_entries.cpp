@@ -109,11 +109,11 @@ constexpr EntryRow kPaperRows[] = {
     {"PaperSize", &kPaper, 47, kU16, true,
      "Paper sizes. The settings start from the default: number, measures and margins; from Letter (value 1) "
      "or A4 (value 9), according to the user's region, where the list has it and the print queue stores no "
-     "settings. The tray dialogs list the sizes. A printer reports what lies in its trays by the keys that "
-     "lumora_r880.yaml has. The item UserPaper describes custom paper.",
+     "settings. The tray dialogs list the sizes. A printer reports what lies in its trays by the keys "
+     "below, except UserPaper, which describes custom paper.",
      "The list is empty, the tray dialogs offer no sizes, and the settings start from A4 with margins of 4.3 "
      "mm.",
-     nullptr, {}, 0, kCustomPaperKeys},
+     nullptr, {}, 0, kPaperKeys},
     {"OutPaperSize", &kOutputPaper, 47, kU16, true,
      "Paper sizes of the output. The settings start from the default; value 357 takes the measures of the "
      "paper size. The list is for the generic modules.",
@@ -121,8 +121,9 @@ constexpr EntryRow kPaperRows[] = {
      "A4."},
     {"MediaType", &kMediaItem, 31, kU16, true,
      "Paper types. The settings start from the default, also for each tray. The tray dialogs list the types. "
-     "A printer reports what lies in its trays by the keys that lumora_r880.yaml has.",
-     "The list is empty, the tray dialogs offer no types, and the settings start from type 257."},
+     "A printer reports what lies in its trays by the keys below.",
+     "The list is empty, the tray dialogs offer no types, and the settings start from type 257.",
+     nullptr, {}, 0, kMediaTypeKeys},
     {"InTray", &kPaperSource, 31, kU16, true,
      "Paper sources of the model. The driver reports bin numbers and names, cut to 23 characters, to the "
      "system. It leaves out sources that are not installed: those whose option, \"Op\" and the key of the "

@@ -3,6 +3,7 @@
 #define PRMC_SCHEMA_ENTRY_KEYS_H
 
 #include "base/rows.h"
+#include "devcomm/bidi/bdc_keys.h"
 #include "paramdata/color_keys.h"
 #include "paramdata/control_text_keys.h"
 #include "paramdata/media_list_keys.h"
@@ -27,6 +28,19 @@ constexpr KeyList<Count> KeysIn(const Row (&rows)[Count], const KeyOf& keyOf) {
             list.keys[list.count++] = key;
     return list;
 }
+
+// The keys of the rows, and another one.
+template <typename Row, size_t Count>
+constexpr KeyList<Count + 1> ReportedKeys(const Row (&rows)[Count], const char* another = nullptr) {
+    KeyList<Count + 1> list = {};
+    for (const Row& row : rows)
+        list.keys[list.count++] = row.key;
+    if (another != nullptr)
+        list.keys[list.count++] = another;
+    return list;
+}
+inline constexpr auto kPaperKeys = ReportedKeys(MediaSizeTable, "UserPaper");
+inline constexpr auto kMediaTypeKeys = ReportedKeys(MediaTypeTable);
 
 inline constexpr auto kSourceKeys =
     KeysIn(kPaperSources, [](const PaperSourceRow& source) { return source.key; });
@@ -57,7 +71,6 @@ constexpr auto kMediaTexts = KeysIn(kMediaTextItems, [](const MediaTextItem& ite
 inline constexpr const char* kMarkedSources[] = {
     "InTray1", "InTray2", "InTray3", "InTray4", "InTrayManual", "InTrayLCT",
 };
-inline constexpr const char* kCustomPaperKeys[] = {"UserPaper"};
 inline constexpr const char* kNoWatermarkKeys[] = {"WM_None"};
 inline constexpr const char* kOverlayPlaces[] = {"OvlForm_Memory", "OvlForm_HDD", "OvlForm_Flash"};
 inline constexpr const char* kProfilePlaces[] = {"Prof_Memory", "Prof_HDD", "Prof_Flash", "internalROM",

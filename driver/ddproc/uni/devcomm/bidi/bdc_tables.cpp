@@ -2,6 +2,7 @@
 #include "devcomm/bidi/bdc_tables.h"
 
 #include "base/text.h"
+#include "devcomm/bidi/bdc_keys.h"
 #include "devcomm/model.h"
 
 namespace {
@@ -76,11 +77,6 @@ constexpr struct OptionRule {
 
 // --- Trays and the paper in them
 
-struct CodeKey {
-    int32_t code;
-    const char* key;
-};
-
 constexpr CodeKey TrayKeyTable[] = {
     {1, "InTray1"},
     {2, "InTray2"},
@@ -88,44 +84,6 @@ constexpr CodeKey TrayKeyTable[] = {
     {4, "InTray4"},
     {5, "InTrayLCT"},
     {6, "InTrayManual"},
-};
-
-constexpr CodeKey MediaSizeTable[] = {
-    {259,  "A3"},
-    {260,  "A4"},
-    {261,  "A5"},
-    {262,  "A6"},
-    {516,  "B4_JIS"},
-    {517,  "B5_JIS"},
-    {518,  "B6"},
-    {1540, "12x18inch"},
-    {1541, "11x17inch"},
-    {1547, "8half14"},
-    {1551, "8half11"},
-    {1559, "7qtr10half"},
-    {1560, "5half8half"},
-    {2051, "8K"},
-    {2052, "16K"},
-    {773,  "B5_ISO"},
-    {1029, "EnvelopeC5"},
-    {2826, "EnvelopeDL"},
-    {3073, "EnvelopeMonarch"},
-    {3074, "Envelope10"},
-    {3587, "JpnPostcard"},
-    {3602, "4x6PostCard"},
-    {1556, "8x13"},
-    {1553, "8qtr13"},
-    {1549, "8half13"},
-    {1285, "220330mm"},
-    {1554, "8hq13qtr"},
-    {8451, "A3W"},
-    {8452, "A4W"},
-    {8453, "A5W"},
-    {8708, "B4W"},
-    {8709, "B5W"},
-    {9733, "11x17W"},
-    {9743, "8half11W"},
-    {9752, "5half8halfW"},
 };
 
 constexpr CodeKey kOrientations[] = {
@@ -137,37 +95,6 @@ constexpr CodeKey kOrientations[] = {
 constexpr CodeKey kWeights[] = {{-1, ""}};
 constexpr CodeKey kColors[]  = {{0, ""}, {15, ""}};
 constexpr CodeKey kHoles[]   = {{-1, ""}};
-
-// The first row applies whose codes, as far as its flags select them, are those of the tray.
-constexpr uint32_t kType = 1;
-constexpr uint32_t kColor = 2;
-constexpr uint32_t kSide = 4;
-constexpr struct {
-    uint32_t flags;
-    int32_t type;
-    int32_t color;
-    int32_t secondSide;
-    const char* key;
-} MediaTypeTable[] = {
-    {kType | kColor, 1,   15, 0, "Color"},
-    {kType | kSide,  1,   0,  1, "PlainPaper2nd"},
-    {kType | kColor, 1,   0,  0, "Plain"},
-    {kType,          177, 0,  0, "Special"},
-    {kType,          40,  0,  0, "Envelope"},
-    {kType,          162, 0,  0, "Letterhead"},
-    {kType,          184, 0,  0, "SingleSided"},
-    {kType | kSide,  225, 0,  1, "Thick1_2nd"},
-    {kType,          225, 0,  0, "Thick1"},
-    {kType | kSide,  226, 0,  1, "Thick2_2nd"},
-    {kType,          226, 0,  0, "Thick2"},
-    {kType | kSide,  227, 0,  1, "Thick3_2nd"},
-    {kType,          227, 0,  0, "Thick3"},
-    {kType | kSide,  228, 0,  1, "Thick4_2nd"},
-    {kType,          228, 0,  0, "Thick4"},
-    {kType,          65,  0,  0, "OHP"},
-    {kType | kSide,  234, 0,  1, "Thick1Plus_2nd"},
-    {kType,          234, 0,  0, "Thick1Plus"},
-};
 // clang-format on
 
 // The key of the first row with this code; empty when there is none.
@@ -181,9 +108,9 @@ const char* KeyForCode(const CodeKey (&table)[N], int32_t code) {
 
 const char* MediaTypeOf(const BdcInputTrayItem& tray) {
     for (const auto& row : MediaTypeTable)
-        if (((row.flags & kType) == 0 || row.type == tray.mediaType)
-            && ((row.flags & kColor) == 0 || row.color == tray.color)
-            && ((row.flags & kSide) == 0 || row.secondSide == tray.secondSide))
+        if (((row.flags & kMediaByType) == 0 || row.type == tray.mediaType)
+            && ((row.flags & kMediaByColor) == 0 || row.color == tray.color)
+            && ((row.flags & kMediaBySide) == 0 || row.secondSide == tray.secondSide))
             return row.key;
     return "";
 }
