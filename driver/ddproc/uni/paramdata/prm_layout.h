@@ -101,8 +101,7 @@ struct PrmResolution {
     uint32_t values[3];
 };
 static_assert(sizeof(PrmResolution) == 32 && offsetof(PrmResolution, values) == 20);
-constexpr size_t kResolutionNumberAt =
-    5; // position in the key behind which its number is, as in "Reso_600dpi"
+constexpr size_t kResolutionNumberAt = 5; // where the number is looked for in a key: "Reso_600dpi"
 
 struct PrmOutputPaper {
     PrmItemHead head;
