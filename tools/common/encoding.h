@@ -2,16 +2,17 @@
 #ifndef COMMON_ENCODING_H
 #define COMMON_ENCODING_H
 
+#include <cstddef>
 #include <string_view>
 
-constexpr const char* kSaveAsUtf8 = "this file is UTF-16; save it as UTF-8";
-
-// Whether the text is UTF-16: with its byte order mark, or, without one, as the zero in one of the first two
-// bytes shows. The files that these tools read start with an ASCII character.
-inline bool IsUtf16(std::string_view text) {
-    const std::string_view first = text.substr(0, 2);
-    return first == "\xFF\xFE" || first == "\xFE\xFF"
-           || (first.size() == 2 && (first[0] == 0) != (first[1] == 0));
+// What is wrong with a text in UTF-16 or UTF-32, with its byte order mark or without one; null for other
+// texts. The files that these tools read start with an ASCII character, so that the zeros around it show.
+inline const char* WideTextFault(std::string_view text) {
+    const auto isZero = [text](size_t at) { return at < text.size() && text[at] == 0; };
+    const bool hasMark = text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF";
+    if ((isZero(0) && isZero(1)) || (isZero(2) && isZero(3)))
+        return "this file is UTF-32; save it as UTF-8";
+    return hasMark || isZero(0) || isZero(1) ? "this file is UTF-16; save it as UTF-8" : nullptr;
 }
 
 // The text after the byte order mark of UTF-8, if it has one.

@@ -2,6 +2,7 @@
 #include "common/yaml_document.h"
 
 #include "common/encoding.h"
+#include "common/lookalikes.h"
 #include "common/yaml_faults.h"
 
 #include <algorithm>
@@ -13,8 +14,8 @@ namespace {
 
 // yaml-cpp accepts bytes that are not text, and takes some control characters for the end of the file.
 bool CheckIsText(const std::string& text, Findings& findings) {
-    if (IsUtf16(text)) {
-        findings.Error({1, 1}, kSaveAsUtf8);
+    if (const char* fault = WideTextFault(text)) {
+        findings.Error({1, 1}, fault);
         return false;
     }
     size_t bad = FindBadUtf8(text);
@@ -24,6 +25,9 @@ bool CheckIsText(const std::string& text, Findings& findings) {
         if ((c < 0x20 && c != '\t' && c != '\n' && c != '\r') || c == 0x7F) {
             bad = i;
             problem = "control character: write it as an escape in double quotes";
+        } else if (c == '\r' && i + 1 < text.size() && text[i + 1] != '\n') {
+            bad = i;
+            problem = "the line ends with CR alone: save the file with the line ends LF or CR LF";
         }
     }
     if (bad == std::string::npos)
@@ -200,7 +204,8 @@ bool ReadNumber(const std::string& name, const YAML::Node& node, int64_t& number
     const char* allowed = isHex ? "0123456789abcdefABCDEF" : "0123456789";
     if (digits.empty() || digits.size() > kMaxDigits
         || digits.find_first_not_of(allowed) != std::string::npos) {
-        findings.Error(PlaceOf(node), Quote(name) + " must be " + kNumberExample + ", not " + Quote(text));
+        findings.Error(PlaceOf(node), Quote(name) + " must be " + kNumberExample + ", not " + Quote(text)
+                                          + LookalikeHint(text));
         return false;
     }
     number = std::strtoll(digits.c_str(), nullptr, isHex ? 16 : 10) * (isNegative ? -1 : 1);
@@ -215,12 +220,16 @@ bool ReadFlag(const std::string& name, const YAML::Node& node, int64_t& number, 
     number = text == "1" || EqualNoCase(text, "true") ? 1 : 0;
     if (number == 1 || text == "0" || EqualNoCase(text, "false"))
         return true;
-    findings.Error(PlaceOf(node), Quote(name) + " must be " + kFlagExample + ", not " + Quote(text));
+    findings.Error(PlaceOf(node),
+                   Quote(name) + " must be " + kFlagExample + ", not " + Quote(text) + LookalikeHint(text));
     return false;
 }
 
 std::string UnknownName(const std::string& sentence, const std::string& name, const YAML::Node& value,
                         const std::vector<std::string>& known) {
+    const std::string lookalike = LookalikeHint(name);
+    if (!lookalike.empty())
+        return sentence + " " + Quote(name) + lookalike;
     const std::string fault = NameFault(name, value);
     return !fault.empty() ? fault : sentence + " " + Quote(name) + NearestHint(name, known);
 }

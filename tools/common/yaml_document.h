@@ -4,6 +4,7 @@
 #define COMMON_YAML_DOCUMENT_H
 
 #include "common/findings.h"
+#include "common/lookalikes.h"
 #include "common/text.h"
 
 #include <functional>
@@ -39,7 +40,8 @@ std::string UnknownName(const std::string& sentence, const std::string& name, co
 template <typename Use>
 void ForEachMember(const YAML::Node& map, const std::string& shape, Findings& findings, const Use& use) {
     if (!map.IsMap()) {
-        findings.Error(PlaceOf(map), "expected " + shape);
+        findings.Error(PlaceOf(map),
+                       "expected " + shape + (map.IsScalar() ? LookalikeHint(map.Scalar()) : ""));
         return;
     }
     std::set<std::string> seen;

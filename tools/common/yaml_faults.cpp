@@ -2,6 +2,7 @@
 // table of the library's messages.
 #include "common/yaml_faults.h"
 
+#include "common/lookalikes.h"
 #include "common/text.h"
 #include "common/yaml_scanner.h"
 
@@ -42,6 +43,14 @@ Finding At(Place place, const std::string& message) {
     return {place, Severity::kError, message};
 }
 
+// The number of the line before this one that is not empty; 0 when there is none.
+uint64_t LineAbove(const Spot& spot) {
+    uint64_t above = spot.place.line - 1;
+    while (above > 0 && IsEmptyLine(LineOf(spot.text, above)))
+        --above;
+    return above;
+}
+
 constexpr const char* kIndentation = "the line does not fit those before it: indent it as its neighbours are";
 
 // --- Explanations ------------------------------------------------------------------------------------------
@@ -50,9 +59,7 @@ constexpr const char* kIndentation = "the line does not fit those before it: ind
 Finding ExplainColon(const Spot& spot) {
     if (spot.before.find(": ") != std::string_view::npos)
         return At(spot.place, "a second ':' in the line: put a text with ':' in quotes, or a map in {}");
-    uint64_t above = spot.place.line - 1;
-    while (above > 0 && IsEmptyLine(LineOf(spot.text, above)))
-        --above;
+    const uint64_t above = LineAbove(spot);
     const std::string_view line = LineOf(spot.text, above);
     const size_t colon = line.find(':');
     if (above > 0 && colon == std::string_view::npos)
@@ -109,7 +116,20 @@ Finding ExplainDash(const Spot& spot) {
               "'-' cannot be here: start a line with it, indented as the other items of the list");
 }
 
+// Also an item that has lost its '-', in this line or the one above.
 Finding ExplainIndentation(const Spot& spot) {
+    constexpr const char* kNoDash = "'- ' is missing before the item";
+    const auto firstOf = [&](uint64_t line) {
+        const std::string_view text = LineOf(spot.text, line);
+        const size_t first = text.find_first_not_of(' ');
+        return std::pair(Place{line, first + 1}, first < text.size() ? text[first] : '\0');
+    };
+    const auto [place, first] = firstOf(spot.place.line);
+    if (first == '{' && place.column == spot.place.column)
+        return At(place, kNoDash);
+    if (first == '-' && spot.place.line > 1)
+        if (const auto [above, c] = firstOf(LineAbove(spot)); c == '{')
+            return At(above, kNoDash);
     return At(spot.place, kIndentation);
 }
 
@@ -181,6 +201,21 @@ const struct {
     // clang-format on
 };
 
+// A lookalike where YAML expects a sign or a value: at the start of the line or after a sign.
+std::optional<Finding> FindLookalikeSign(std::string_view text, uint64_t line) {
+    const std::string_view all = LineOf(text, line);
+    for (size_t at = FindLookalike(all); at != std::string_view::npos; at = FindLookalike(all, at + 1)) {
+        const size_t before = all.substr(0, at).find_last_not_of(' ');
+        if (before != std::string_view::npos
+            && std::string_view(":-,{[").find(all[before]) == std::string_view::npos)
+            continue;
+        const Lookalike& found = *LookalikeAt(all, at);
+        return At({line, at + 1}, std::string(found.name) + " is here: type " + found.instead
+                                      + ", or put the text in quotes");
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 Finding ExplainYamlError(std::string_view text, const YAML::Exception& error) {
@@ -190,8 +225,10 @@ Finding ExplainYamlError(std::string_view text, const YAML::Exception& error) {
         return *fault;
     const auto* row = std::find_if(std::begin(kExplanations), std::end(kExplanations),
                                    [&](const auto& known) { return error.msg.rfind(known.message, 0) == 0; });
-    if (row != std::end(kExplanations))
-        return row->explain(spot);
+    if (row != std::end(kExplanations)) {
+        const Finding explained = row->explain(spot);
+        return FindLookalikeSign(text, explained.place.line).value_or(explained);
+    }
     return At(spot.place, "this cannot be read: write NAME: VALUE, and texts with signs in quotes");
 }
 

@@ -40,8 +40,15 @@ struct Entry {
     std::optional<size_t> defaultItem; // position in `records`
 };
 
+// An entry of the base that the model removes.
+struct Removal {
+    std::string name;
+    Place place;
+};
+
 struct Model {
     std::vector<Entry> entries; // in file order
+    std::vector<Removal> removals;
 };
 
 // The item's name for messages: the text of its first field, which is the key if it has one.

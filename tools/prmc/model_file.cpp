@@ -21,6 +21,8 @@ void SetFile(Place& place, size_t file) {
 }
 
 void SetFiles(Model& model, size_t file) {
+    for (Removal& removal : model.removals)
+        SetFile(removal.place, file);
     for (Entry& entry : model.entries) {
         SetFile(entry.place, file);
         for (Record& record : entry.records) {

@@ -2,6 +2,7 @@
 #include "engine_support.h"
 
 #include "common/files.h"
+#include "prmc/checks/warnings.h"
 #include "prmc/diff.h"
 #include "prmc/forms/yaml_writer.h"
 #include "prmc/model_file.h"
@@ -138,6 +139,17 @@ TEST_F(Base, FindingsNameTheFileAndLineThatSaidIt) {
         const std::string findings = Read(text).second;
         EXPECT_EQ(std::regex_replace(findings, std::regex(folder.string()), "FOLDER"), expected) << text;
     }
+}
+
+TEST_F(Base, WarningsOfWhatIsRemovedNameTheLineThatRemovesIt) {
+    WriteFileWhole(Path("base.yaml"), "FeatureSetting: {MediaColor: Enable}\n" + std::string(kBase));
+    WriteFileWhole(Path("model.yaml"), "base: base.yaml\nMediaColor:");
+    ModelFile read = ReadModelFile(Path("model.yaml"));
+    FindWarnings(read.model, read.findings);
+    ASSERT_EQ(read.findings.list.size(), 1u);
+    EXPECT_EQ(FindingText(read.findings.list[0]), "2:1: warning: feature 'MediaColor' is on, but the list "
+                                                  "'MediaColor' is missing or empty: there is nothing to choose from");
+    EXPECT_EQ(read.findings.list[0].place.file, 0u);
 }
 
 TEST(GermanModel, DiffersInTextsForPeopleOnly) {

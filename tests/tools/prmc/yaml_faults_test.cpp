@@ -112,6 +112,10 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {"Country: {value: 1}\x04", "1:20: control character: write it as an escape in double quotes"},
     {std::string("C\0o\0", 4), "1:1: this file is UTF-16; save it as UTF-8"},
     {std::string("\xFE\xFF\0C", 4), "1:1: this file is UTF-16; save it as UTF-8"},
+    {std::string("C\0\0\0o\0\0\0", 8), "1:1: this file is UTF-32; save it as UTF-8"},
+    {std::string("\0\0\xFE\xFF\0\0\0C", 8), "1:1: this file is UTF-32; save it as UTF-8"},
+    {"Country: {value: 1}\rCopies: {max: 1}",
+     "1:20: the line ends with CR alone: save the file with the line ends LF or CR LF"},
 
     // Brackets and quotes
     {Color("{key: W, name: n, value: 1\n    - {key: B, name: n, value: 2}"), "4:7: '{' is not closed: end it with '}'"},
@@ -143,6 +147,19 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
      "4:1: unknown entry 'MediaTyp'; did you mean 'MediaType'?\n"
      "6:1: the line is indented with a tab: use spaces"},
 
+    // Characters that look like others
+    {"Country:\u00A0{value: 1}", "1:1: unknown entry 'Country:\u00A0{value'; it has a no-break space: type an ordinary space"},
+    {"MediaColor:\u3000\n  items: []", "1:12: a full-width space is here: type an ordinary space, or put the text in quotes"},
+    {Color("{key: “W”, name: “White, x”, value: 1}", "“W”"),
+     "4:13: key '“W”' has a non-ASCII character, which only names may have; it has a typographic quote: type \" or '\n"
+     "4:38: an item of 'MediaColor' has no field 'x”'; it has a typographic quote: type \" or '"},
+    {Color("{key: W, name: “a: b”, value: 1}"),
+     "4:22: a typographic quote is here: type \" or ', or put the text in quotes"},
+    {Color("{key: W, name: a – b: c, value: 1}"), // this one is part of the text
+     "4:29: a second ':' in the value: put a text with ':' in quotes, or write ',' before the next name"},
+    {"Country: {value: −5}", "1:18: 'value' must be a whole number such as 42, -42 or 0x2A, not '−5'; it has a minus sign: type '-'"},
+    {"DevInfo:\n  PrintRate： 5", "2:3: expected rows: NAME: VALUE; it has a full-width colon: type ':'"},
+
     // Colons, commas, dashes and indentation
     {"Country: value: 1", "1:15: a second ':' in the line: put a text with ':' in quotes, or a map in {}"},
     {Color("{key: W, name: a: b, value: 1}"),
@@ -157,6 +174,9 @@ const std::pair<std::string, std::string> kFaults[] = { // the findings, one a l
     {"MediaColor:\n  default: W\n  items:\n  -{key: W}", "4:3: a space is missing after '-'"},
     {"MediaColor:\n  items: - {key: W}",
      "2:10: '-' cannot be here: start a line with it, indented as the other items of the list"},
+    {"MediaColor:\n  items:\n    {key: W, name: n, value: 1}\n    # a comment\n    - {key: B, name: n, value: 2}",
+     "3:5: '- ' is missing before the item"},
+    {Color("{key: W, name: n, value: 1}\n    {key: B, name: n, value: 2}"), "5:5: '- ' is missing before the item"},
     {"MediaColor:\n  - default: W\n  items: []",
      "3:3: the line does not fit those before it: indent it as its neighbours are"},
     {"MediaColor:\n  default: W\n   items: []",

@@ -14,6 +14,15 @@ const Entry& EntryOf(const Model& model, std::string_view name) {
     return none;
 }
 
+Place PlaceOfAbsence(const Model& model, std::string_view name, Place otherwise) {
+    if (const Entry& entry = EntryOf(model, name); entry.row != nullptr)
+        return entry.place;
+    for (const Removal& removal : model.removals)
+        if (EqualNoCase(removal.name, name))
+            return removal.place;
+    return otherwise;
+}
+
 const Record* FindItem(const Entry& entry, std::string_view key) {
     for (const Record& item : entry.records)
         if (EqualNoCase(ItemLabel(item), key))

@@ -9,6 +9,10 @@
 // An entry without items when the model lacks it.
 const Entry& EntryOf(const Model& model, std::string_view name);
 
+// Where the model says that the entry has no items: the place of the empty entry or of its removal;
+// `otherwise` when it says nothing of it.
+Place PlaceOfAbsence(const Model& model, std::string_view name, Place otherwise);
+
 // The item with this key; null when there is none.
 const Record* FindItem(const Entry& entry, std::string_view key);
 

@@ -4,6 +4,7 @@
 
 #include "base/text.h"
 #include "common/choices.h"
+#include "common/lookalikes.h"
 #include "common/text.h"
 #include "paramdata/feature_switches.h"
 #include "paramdata/prm_layout.h"
@@ -29,8 +30,9 @@ void CheckBytes(const std::string& what, const std::string& text, size_t most, P
                 Findings& findings) {
     const auto isAscii = [](char c) { return c != '\0' && static_cast<unsigned char>(c) < 0x80; };
     if (!std::all_of(text.begin(), text.end(), isAscii))
-        findings.Error(place,
-                       what + " " + Quote(text) + " has a non-ASCII character, which only names may have");
+        findings.Error(place, what + " " + Quote(text)
+                                  + " has a non-ASCII character, which only names may have"
+                                  + LookalikeHint(text));
     else if (text.size() > most)
         findings.Error(place, what + " " + Quote(text) + " has " + std::to_string(text.size())
                                   + " characters, but at most " + std::to_string(most) + " fit: shorten it");

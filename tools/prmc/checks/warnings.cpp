@@ -65,9 +65,9 @@ void CheckNeeds(const Model& model, Findings& findings) {
         const bool isUsed = feature.row != nullptr && feature.type <= need.lastType
                             && (need.attribute == nullptr || FeatureOf(model, need.attribute).row != nullptr);
         if (isUsed && EntryOf(model, need.list).records.empty())
-            findings.Warning(feature.row->namePlace, "feature " + Quote(need.feature)
-                                                         + " is on, but the list " + Quote(need.list)
-                                                         + " is missing or empty: " + need.effect);
+            findings.Warning(PlaceOfAbsence(model, need.list, feature.row->namePlace),
+                             "feature " + Quote(need.feature) + " is on, but the list " + Quote(need.list)
+                                 + " is missing or empty: " + need.effect);
     }
 }
 

@@ -265,8 +265,10 @@ Model ReadDocument(const YAML::Node& root, const BaseReader& readBase, Findings&
                       const size_t at =
                           FindNamed(entries, name, [](const Entry& entry) { return entry.name; });
                       const bool isOfBase = seen.insert(FoldCase(name)).second && at < entries.size();
-                      if (isOfBase && valueNode.IsNull())
+                      if (isOfBase && valueNode.IsNull()) {
+                          model.removals.push_back({name, PlaceOf(nameNode)});
                           return EraseAt(entries, at);
+                      }
                       if (valueNode.IsNull())
                           return findings.Error(PlaceOf(nameNode),
                                                 Quote(name) + " has no contents, and no base has it");

@@ -80,6 +80,16 @@ std::string UseOf(const EntryRow& row) {
     return row.use;
 }
 
+std::string AbsenceOf(const EntryRow& row) {
+    std::string text = row.absence;
+    for (const PaperSourceRow& source : row.bins)
+        text += (&source == row.bins.begin() ? std::string(" These are ") : std::string(", ")) + source.key
+                + " " + std::to_string(source.bin);
+    if (row.bins.count > 0)
+        text += ".";
+    return text;
+}
+
 std::string ExampleOf(const EntryRow& row) {
     const std::string name = row.name;
     const std::string body = ExampleItem(row);

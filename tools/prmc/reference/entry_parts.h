@@ -13,6 +13,9 @@ std::string SummaryOf(const EntryRow& row);
 // What the driver does with the entry, and the note on its group.
 std::string UseOf(const EntryRow& row);
 
+// What the driver does without the entry.
+std::string AbsenceOf(const EntryRow& row);
+
 // The entry as it may be in a model, without errors; ends in a line feed.
 std::string ExampleOf(const EntryRow& row);
 

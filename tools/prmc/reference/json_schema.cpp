@@ -188,7 +188,7 @@ SchemaJson EntrySchema(const EntryRow& row) {
                                                         : RecordSchema(row);
     schema["type"] = {"object", "null"}; // null removes the entry of the base
     schema["additionalProperties"] = false;
-    schema["description"] = UseOf(row) + "\nWithout it: " + row.absence;
+    schema["description"] = UseOf(row) + "\nWithout it: " + AbsenceOf(row);
     schema["examples"] = SchemaJson::array({ExampleJson(row)});
     return schema;
 }

@@ -139,6 +139,18 @@ std::string RowLines(const Style& style, const std::vector<TableRow>& rows) {
 }
 
 // Form and limits in one paragraph.
+// How long the entry's names may be; empty when the kind says it.
+std::string NameLimit(const Style& style, const EntryRow& row) {
+    std::vector<std::string> names;
+    for (const Field& field : row.kind->fields)
+        if (field.type == FieldType::kName && field.count == 1)
+            names.push_back(field.name);
+    if (names.empty())
+        return "";
+    return " " + Listed(style, names, " and ") + (names.size() == 1 ? " has" : " have") + " at most "
+           + std::to_string(row.nameChars) + " characters.";
+}
+
 std::string FormText(const Style& style, const EntryRow& row) {
     const std::string kind = KindLink(style, *row.kind);
     switch (row.kind->form) {
@@ -158,8 +170,8 @@ std::string FormText(const Style& style, const EntryRow& row) {
     if (row.maxItems > 0)
         text += " The driver takes at most " + std::to_string(row.maxItems)
                 + (row.maxItems == 1 ? " item." : " items.");
-    if (style.isMarkdown && row.nameChars > 0)
-        text += " Names have at most " + std::to_string(row.nameChars) + " characters.";
+    if (style.isMarkdown)
+        text += NameLimit(style, row);
     if (style.isMarkdown && row.values.AreGiven())
         text += " Values are " + Between(row.values) + ".";
     return text;
@@ -190,7 +202,7 @@ std::string EntryText(const EntryRow& row) {
     const Style style = {false};
     std::string text = std::string(row.name) + "\n";
     text += Wrapped(style, "  ", UseOf(row));
-    text += Wrapped(style, "  ", std::string("Without it: ") + row.absence) + "\n";
+    text += Wrapped(style, "  ", std::string("Without it: ") + AbsenceOf(row)) + "\n";
     text += Wrapped(style, "  ", FormText(style, row));
     text += row.kind->form == Form::kTable ? RowLines(style, TableRowsOf(row))
                                            : FieldLines(style, &row, *row.kind);
@@ -201,7 +213,7 @@ std::string EntrySection(const EntryRow& row) {
     const Style style = {true};
     std::string text = std::string("### ") + row.name + "\n\n";
     text += Wrapped(style, "", row.use) + "\n";
-    text += Wrapped(style, "", std::string("*Without it:* ") + row.absence) + "\n";
+    text += Wrapped(style, "", std::string("*Without it:* ") + AbsenceOf(row)) + "\n";
     text += Wrapped(style, "", FormText(style, row));
     if (row.kind->form == Form::kTable)
         text += "\n" + RowLines(style, TableRowsOf(row));

@@ -51,7 +51,7 @@ Json RowJson(const TableRow& row) {
 
 Json EntryJson(const EntryRow& row) {
     Json json = {{"name", row.name},          {"kind", row.kind->label}, {"form", FormName(row.kind->form)},
-                 {"summary", SummaryOf(row)}, {"use", UseOf(row)},       {"withoutIt", row.absence}};
+                 {"summary", SummaryOf(row)}, {"use", UseOf(row)},       {"withoutIt", AbsenceOf(row)}};
     if (row.kind->form == Form::kTable) {
         for (const TableRow& tableRow : TableRowsOf(row))
             json["rows"].push_back(RowJson(tableRow));

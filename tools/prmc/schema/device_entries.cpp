@@ -136,9 +136,8 @@ constexpr EntryRow kPaperRows[] = {
      "Bin numbers and words of all paper sources that tray selections can name. The driver takes value and "
      "text of the sources with the keys below and ignores other items. The default and the names are not "
      "read.",
-     "The sources keep the bin numbers that are compiled in, such as 7 for InTrayAuto, 257 for InTray1 and 4 "
-     "for InTrayManual.",
-     "{key: InTray1, name: Tray 1, value: 257, text: TRAY1}", {}, 0, kSourceKeys},
+     "The sources keep the bin numbers that are compiled in.",
+     "{key: InTray1, name: Tray 1, value: 257, text: TRAY1}", {}, 0, kSourceKeys, {}, {}, kPaperSources},
     {"MediaTypeList_Tray", &kPlainItem, 31, kNone, false,
      "Names of the trays in the device table. A key ends in the key of its tray in InTray; the rest may be "
      "any characters. They are for the generic modules: the tray dialogs show the names of InTray.",

@@ -8,6 +8,10 @@
 #include "paramdata/control_text_keys.h"
 #include "paramdata/media_list_keys.h"
 #include "paramdata/paper_sources.h"
+#include "picture/capabilities/option_keys.h"
+
+#include <iterator>
+#include <string_view>
 
 // --- Item keys. The driver ignores an item with an unknown key, or takes 0 for its value.
 
@@ -66,6 +70,25 @@ constexpr auto kMediaTexts = KeysIn(kMediaTextItems, [](const MediaTextItem& ite
     return item.list == List ? item.key : "";
 });
 
+// The items of an option that the picture shows, and then those that the bidirectional library reports.
+constexpr size_t kMaxOptionKeys = 8;
+constexpr KeyList<kMaxOptionKeys> OptionKeys(std::string_view option) {
+    KeyList<kMaxOptionKeys> list = {};
+    const auto add = [&](const char* key) {
+        for (size_t i = 0; i < list.count; ++i)
+            if (std::string_view(list.keys[i]) == key)
+                return;
+        list.keys[list.count++] = key;
+    };
+    for (const SummarizedOption& shown : kSummarizedOptions)
+        for (size_t i = 0; i < kMaxOptionItems && shown.feature == option && shown.items[i] != nullptr; ++i)
+            add(shown.items[i]);
+    for (size_t i = std::size(BdcOptionRuleTable); i-- > 0;)
+        if (BdcOptionRuleTable[i].option == option)
+            add(BdcOptionRuleTable[i].item);
+    return list;
+}
+
 // Keys that mean something in an entry which takes any key: in the driver's picture, its capabilities, or
 // because it reports them of a printer. Those of the colour tables are in color_keys.h.
 inline constexpr const char* kMarkedSources[] = {
@@ -75,20 +98,18 @@ inline constexpr const char* kNoWatermarkKeys[] = {"WM_None"};
 inline constexpr const char* kOverlayPlaces[] = {"OvlForm_Memory", "OvlForm_HDD", "OvlForm_Flash"};
 inline constexpr const char* kProfilePlaces[] = {"Prof_Memory", "Prof_HDD", "Prof_Flash", "internalROM",
                                                  "internalHD"};
-inline constexpr const char* kMachineKeys[] = {"OpMachine1"};
-inline constexpr const char* kBodyKeys[] = {"OpBodyPrinter"};
+inline constexpr auto kMachineKeys = OptionKeys("OpMachine");
+inline constexpr auto kBodyKeys = OptionKeys("OpBody");
 inline constexpr const char* kTray2Keys[] = {"EnaOpInTray2", "DisOpInTray2"};
 inline constexpr const char* kTray3Keys[] = {"EnaOpInTray3", "DisOpInTray3"};
 inline constexpr const char* kTray4Keys[] = {"EnaOpInTray4", "DisOpInTray4"};
 inline constexpr const char* kTray5Keys[] = {"EnaOpInTray5", "DisOpInTray5"};
-inline constexpr const char* kInUnitKeys[] = {"OpInTrayUnit1", "DisOpInTrayUnit"};
-inline constexpr const char* kOutUnitKeys[] = {
-    "OpOutTrayUnit1", "OpOutTrayUnit2", "OpOutTrayUnit3", "OpOutTrayUnit4", "DisOpOutTrayUnit",
-};
-inline constexpr const char* kPunchKeys[] = {"OpPunchKit1", "OpPunchKit2", "OpPunchKit3", "DisOpPunchKit"};
-inline constexpr const char* kMailBinKeys[] = {"EnaOpMailBinKit", "DisOpMailBinKit"};
-inline constexpr const char* kSaddleKeys[] = {"EnaSaddleKit", "DisSaddleKit"};
-inline constexpr const char* kFaxKeys[] = {"EnaOpFAXKit", "DisOpFAXKit"};
-inline constexpr const char* kDiskKeys[] = {"EnaOpHDD", "DisOpHDD"};
+inline constexpr auto kInUnitKeys = OptionKeys("OpInTrayUnit");
+inline constexpr auto kOutUnitKeys = OptionKeys("OpOutTrayUnit");
+inline constexpr auto kPunchKeys = OptionKeys("OpPunchKit");
+inline constexpr auto kMailBinKeys = OptionKeys("OpMailBinKit");
+inline constexpr auto kSaddleKeys = OptionKeys("OpSaddleKit");
+inline constexpr auto kFaxKeys = OptionKeys("OpFAXUnit");
+inline constexpr auto kDiskKeys = OptionKeys("OpHDD");
 
 #endif

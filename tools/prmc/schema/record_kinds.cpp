@@ -45,8 +45,9 @@ constexpr Field kTrayFields[] = {
     kKey,
     kName,
     {"value",
-     "The bin number that the system and the settings use. The number that ALL_InTray gives to InTrayAuto "
-     "(7 without it) is the automatic choice, not a tray.",
+     "The bin number that the system and the settings use. Numbers below 256 are the system's, the others "
+     "the model's own. The number that ALL_InTray gives to InTrayAuto (7 without it) is the automatic choice, "
+     "not a tray.",
      T::kNumbers, true, offsetof(PrmMediaItem, value)},
     {"enabled",
      "1 or true: the source is listed. 0 or false: it ends the list, so that those after it are hidden, "
@@ -110,7 +111,9 @@ constexpr Field kPaperFields[] = {
     kName,
     {"secondName", "A longer text for the user, such as the measures.",
      T::kName, true, offsetof(PrmPaper, secondDisplay)},
-    {"value", "The system's number of the paper size if it has one; otherwise a number of the model's own.",
+    {"value",
+     "The system's number of the paper size if it has one, which is below 256; otherwise a number of the "
+     "model's own, 256 or more.",
      T::kNumbers, true, offsetof(PrmPaper, value)},
     {"width", "Width in tenths of a millimetre; of UserPaper the least.",
      T::kNumbers, true, offsetof(PrmPaper, width), 1, kU16},

@@ -6,6 +6,7 @@
 
 #include "base/rows.h"
 #include "paramdata/fact_names.h"
+#include "paramdata/paper_sources.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -75,6 +76,7 @@ struct EntryRow {
     Rows<const char*> specialKeys = {}; // when any key is taken: those to which the driver gives a meaning
     Rows<FactRow> facts = {};           // of a name/value table; empty: its rows are the feature switches
     Rows<const char*> rowMeanings = {}; // of the facts, in their order
+    Rows<PaperSourceRow> bins = {};     // of the sources that the driver knows without the entry
 };
 
 // Entries under one heading of the reference.

@@ -64,8 +64,8 @@ std::string JsonForm(const Document& document, int indent) {
 }
 
 Document ParseJson(const std::string& text, const std::string& name) {
-    if (IsUtf16(text))
-        throw Failure(kExitFailed, name + ": " + kSaveAsUtf8);
+    if (const char* fault = WideTextFault(text))
+        throw Failure(kExitFailed, name + ": " + fault);
     try {
         return FromJson(Json::parse(text));
     } catch (const std::length_error&) {

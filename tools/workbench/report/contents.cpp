@@ -86,9 +86,11 @@ Document Capabilities(const FamilyFiles& family) {
     return document;
 }
 
-// The number of a dialog; "none" for 0.
-Document DialogNumber(const ModelDialog& dialog) {
-    return dialog.id != 0 ? Document(dialog.id) : Document("none");
+// "DIALOG (SWITCH: TYPEn)"
+std::string DialogFact(const FamilyFiles& family, const ModelDialog& dialog, FeatureSwitch feature) {
+    const uint32_t type = SwitchValue(family.table.get(), feature);
+    return (dialog.id != 0 ? std::to_string(dialog.id) : "none") + " (" + kFeatureSwitches[feature].name
+           + ": " + (type != 0 ? "TYPE" + std::to_string(type) : "off") + ")";
 }
 
 // "2026-11-26 09:45 UTC".
@@ -126,8 +128,8 @@ Document Facts(const FamilyFiles& family, const Document& model) {
         {"features", std::to_string(std::count_if(switches.begin(), switches.end(), isOn)) + " of "
                          + std::to_string(switches.size()) + " on"},
         {"lists", std::to_string(lists) + " with " + std::to_string(items) + " items"},
-        {"colourDialog", DialogNumber(ColorDialogOf(*family.table))},
-        {"trayDialog", DialogNumber(TrayDialogOf(*family.table))},
+        {"colourDialog", DialogFact(family, ColorDialogOf(*family.table), kSwitchColorSetting)},
+        {"trayDialog", DialogFact(family, TrayDialogOf(*family.table), kSwitchDlgMediaType)},
     };
 }
 

@@ -138,13 +138,19 @@ std::string DialogPicture(const Document& dialog) {
            + "\" src=\"data:image/png;base64," + dialog["picture"].Text() + "\">";
 }
 
-std::string DialogSection(const Document& dialogs) {
+std::string DialogSection(const Document& model) {
+    const Document& dialogs = model["dialogs"];
     if (dialogs.Elements().empty())
         return "<p class=\"none\">No pictures of dialogs were given.</p>\n";
     const std::string others = DialogArticles(dialogs, false);
+    const std::string note =
+        model["facts"]["colour"].Bool()
+            ? ""
+            : "<p class=\"note\">This model has no colour: the user-interface module should "
+              "not offer the colour dialog.</p>\n";
     return "<p class=\"lead\">The dialogs that the driver opens for this model, as they open: nothing is changed "
            "and no printer has been queried.</p>\n"
-           + DialogArticles(dialogs, true)
+           + note + DialogArticles(dialogs, true)
            + (others.empty()
                   ? ""
                   : "<details class=\"more\"><summary>The other colour dialogs, with the lists of this "

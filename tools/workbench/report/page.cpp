@@ -75,7 +75,7 @@ std::vector<SectionText> MakeSections(const PageContents& page, PicturePool& pic
     const auto count = [](const Document& rows) { return std::to_string(rows.Elements().size()); };
     std::vector<SectionText> sections = {
         {"", "Printer", count(model["printer"]["looks"]), PrinterSection(model["printer"], pictures)},
-        {"", "Dialogs", DialogCount(model["dialogs"]), DialogSection(model["dialogs"])},
+        {"", "Dialogs", DialogCount(model["dialogs"]), DialogSection(model)},
         {"", "Model check", page.findings.IsNull() ? "" : count(page.findings), CheckSection(page.findings)},
     };
     if (!page.other.IsNull())

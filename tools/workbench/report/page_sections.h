@@ -32,7 +32,7 @@ std::string LookPicture(const Document& printer, const Document& look, PicturePo
 std::string MarkStyle(const Document& printer);
 
 std::string PrinterSection(const Document& printer, PicturePool& pictures);
-std::string DialogSection(const Document& dialogs);
+std::string DialogSection(const Document& model);
 std::string CheckSection(const Document& findings);
 std::string TableSection(const Document& group);
 std::string DifferenceSection(const Document& here, const Document& there, PicturePool& pictures);

@@ -13,13 +13,14 @@ namespace {
 
 constexpr size_t kMaxLooks = 120;
 
-// As telmar_d.h lists them.
-constexpr const char* kDrawnOptions[] = {"OpBody",       "OpInTrayUnit", "OpOutTrayUnit", "OpHDD",
-                                         "OpMailBinKit", "OpSaddleKit",  "OpMachine"};
+constexpr const char* kCaptionOption = "OpMachine"; // the picture shows its item's name
 
 bool IsDrawn(const FeatureRecord& feature) {
-    return std::any_of(std::begin(kDrawnOptions), std::end(kDrawnOptions),
-                       [&](const char* key) { return SameText(KeyOf(feature), key); });
+    const auto isFeature = [&](const SummarizedOption& option) {
+        return SameText(KeyOf(feature), option.feature);
+    };
+    return SameText(KeyOf(feature), kCaptionOption)
+           || std::any_of(std::begin(kSummarizedOptions), std::end(kSummarizedOptions), isFeature);
 }
 
 using UnitField = int32_t OptionSummary::*;

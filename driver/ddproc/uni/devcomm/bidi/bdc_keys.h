@@ -1,5 +1,5 @@
-// Codes of the bidirectional library for the paper in trays, and the driver's keys. The module's tables and
-// the compiler of parameter data files both take them from here.
+// Codes of the bidirectional library for options and the paper in trays, and the driver's keys. The module's
+// tables and the compiler of parameter data files both take them from here.
 #ifndef DEVCOMM_BIDI_BDC_KEYS_H
 #define DEVCOMM_BIDI_BDC_KEYS_H
 
@@ -79,6 +79,37 @@ inline constexpr MediaTypeRow MediaTypeTable[] = {
     {kMediaByType,                  65,  0,  0, "OHP"},
     {kMediaByType | kMediaBySide,   234, 0,  1, "Thick1Plus_2nd"},
     {kMediaByType,                  234, 0,  0, "Thick1Plus"},
+};
+
+// A word of bits for each kind of what is installed.
+enum BdcBits : uint32_t { kModelBits, kOptionBits, kFinisherBits, kMemoryBits, kMediaPathBits, kBitWords };
+
+// The first row of an option applies whose masks are each 0 or share a bit with the device.
+struct OptionRule {
+    const char* option;
+    uint32_t masks[kBitWords];
+    const char* item;
+};
+inline constexpr OptionRule BdcOptionRuleTable[] = {
+    // option          model  option finisher memory path   item
+    {"OpMachine",     {0x1,   0,     0,       0,     0},   "OpMachine1"},
+    {"OpInTrayUnit",  {0,     0x01,  0,       0,     0},   "OpInTrayUnit1"},
+    {"OpInTrayUnit",  {0,     0,     0,       0,     0},   "DisOpInTrayUnit"},
+    {"OpOutTrayUnit", {0,     0x08,  0,       0,     0},   "OpOutTrayUnit2"},
+    {"OpOutTrayUnit", {0,     0x02,  0,       0,     0},   "OpOutTrayUnit1"},
+    {"OpOutTrayUnit", {0,     0,     0,       0,     0},   "DisOpOutTrayUnit"},
+    {"OpPunchKit",    {0,     0x04,  0x4,     0,     0},   "OpPunchKit3"},
+    {"OpPunchKit",    {0,     0x04,  0x2,     0,     0},   "OpPunchKit2"},
+    {"OpPunchKit",    {0,     0x04,  0x1,     0,     0},   "OpPunchKit1"},
+    {"OpPunchKit",    {0,     0,     0,       0,     0},   "DisOpPunchKit"},
+    {"OpMailBinKit",  {0,     0x10,  0,       0,     0},   "EnaOpMailBinKit"},
+    {"OpMailBinKit",  {0,     0,     0,       0,     0},   "DisOpMailBinKit"},
+    {"OpSaddleKit",   {0,     0x20,  0,       0,     0},   "EnaSaddleKit"},
+    {"OpSaddleKit",   {0,     0,     0,       0,     0},   "DisSaddleKit"},
+    {"OpFAXUnit",     {0,     0x40,  0,       0,     0},   "EnaOpFAXKit"},
+    {"OpFAXUnit",     {0,     0,     0,       0,     0},   "DisOpFAXKit"},
+    {"OpHDD",         {0,     0,     0,       0x1,   0},   "EnaOpHDD"},
+    {"OpHDD",         {0,     0,     0,       0,     0},   "DisOpHDD"},
 };
 // clang-format on
 

@@ -2,7 +2,6 @@
 #include "devcomm/bidi/bdc_tables.h"
 
 #include "base/text.h"
-#include "devcomm/bidi/bdc_keys.h"
 #include "devcomm/model.h"
 
 namespace {
@@ -46,34 +45,6 @@ constexpr struct {
 };
 
 constexpr uint32_t kHardDisk = 3; // kind of memory
-
-// --- Rules: the first row of an option applies whose masks are each 0 or share a bit with the device.
-
-constexpr struct OptionRule {
-    const char* option;
-    uint32_t masks[kBitWords];
-    const char* item;
-} BdcOptionRuleTable[] = {
-    // option          model  option finisher memory path   item
-    {"OpMachine",     {0x1,   0,     0,       0,     0},   "OpMachine1"},
-    {"OpInTrayUnit",  {0,     0x01,  0,       0,     0},   "OpInTrayUnit1"},
-    {"OpInTrayUnit",  {0,     0,     0,       0,     0},   "DisOpInTrayUnit"},
-    {"OpOutTrayUnit", {0,     0x08,  0,       0,     0},   "OpOutTrayUnit2"},
-    {"OpOutTrayUnit", {0,     0x02,  0,       0,     0},   "OpOutTrayUnit1"},
-    {"OpOutTrayUnit", {0,     0,     0,       0,     0},   "DisOpOutTrayUnit"},
-    {"OpPunchKit",    {0,     0x04,  0x4,     0,     0},   "OpPunchKit3"},
-    {"OpPunchKit",    {0,     0x04,  0x2,     0,     0},   "OpPunchKit2"},
-    {"OpPunchKit",    {0,     0x04,  0x1,     0,     0},   "OpPunchKit1"},
-    {"OpPunchKit",    {0,     0,     0,       0,     0},   "DisOpPunchKit"},
-    {"OpMailBinKit",  {0,     0x10,  0,       0,     0},   "EnaOpMailBinKit"},
-    {"OpMailBinKit",  {0,     0,     0,       0,     0},   "DisOpMailBinKit"},
-    {"OpSaddleKit",   {0,     0x20,  0,       0,     0},   "EnaSaddleKit"},
-    {"OpSaddleKit",   {0,     0,     0,       0,     0},   "DisSaddleKit"},
-    {"OpFAXUnit",     {0,     0x40,  0,       0,     0},   "EnaOpFAXKit"},
-    {"OpFAXUnit",     {0,     0,     0,       0,     0},   "DisOpFAXKit"},
-    {"OpHDD",         {0,     0,     0,       0x1,   0},   "EnaOpHDD"},
-    {"OpHDD",         {0,     0,     0,       0,     0},   "DisOpHDD"},
-};
 
 // --- Trays and the paper in them
 

@@ -3,9 +3,9 @@
 #define DEVCOMM_BIDI_BDC_TABLES_H
 
 #include "devcomm/bidi/bdc_device.h"
+#include "devcomm/bidi/bdc_keys.h"
 
-// What is installed: a word of bits for each kind of mask in a rule.
-enum BdcBits : uint32_t { kModelBits, kOptionBits, kFinisherBits, kMemoryBits, kMediaPathBits, kBitWords };
+// What is installed.
 struct BdcDeviceBits {
     uint32_t words[kBitWords];
 };

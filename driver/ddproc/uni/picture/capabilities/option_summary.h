@@ -3,16 +3,7 @@
 #define PICTURE_CAPABILITIES_OPTION_SUMMARY_H
 
 #include "picture/capabilities/feature_table.h"
-
-// Each field is the number of the selected unit, counted from 1; 0 when there is none.
-struct OptionSummary {
-    int32_t bodyPrinter;
-    int32_t inputUnit;
-    int32_t outputUnit;
-    int32_t hardDisk;
-    int32_t mailbinKit;
-    int32_t saddleKit;
-};
+#include "picture/capabilities/option_keys.h"
 
 // Of several features with the same key the last one counts, even if it gives 0. A choice that names no item
 // gives 0. A null feature table gives all 0.
