@@ -203,9 +203,10 @@ class Report(unittest.TestCase):
         self.open("bare")
         text = self.texts("main")[0]
         for sentence in ("The model has no options that change the picture.", "No paper source or output is highlighted.",
-                         "Without contents: Machine information, PaperSize, "):
+                         "Without contents: Machine information, PaperSize, ",
+                         "This model has no colour: the user-interface module should not offer the colour dialog."):
             self.assertIn(sentence, text)
-        self.assertEqual(self.texts("dd")[-1], "none")  # the dialog for trays
+        self.assertEqual(self.texts("dd")[-2:], ["123 (ColorSetting: off)", "none (Dlg_MediaType: off)"])
 
     def test_is_readable_light_dark_and_printed(self):
         self.open("shipped")
