@@ -143,13 +143,14 @@ TEST_F(Base, FindingsNameTheFileAndLineThatSaidIt) {
 
 TEST_F(Base, WarningsOfWhatIsRemovedNameTheLineThatRemovesIt) {
     WriteFileWhole(Path("base.yaml"), "FeatureSetting: {MediaColor: Enable}\n" + std::string(kBase));
-    WriteFileWhole(Path("model.yaml"), "base: base.yaml\nMediaColor:");
+    WriteFileWhole(Path("middle.yaml"), "base: base.yaml\nMediaColor:");
+    WriteFileWhole(Path("model.yaml"), "base: middle.yaml");
     ModelFile read = ReadModelFile(Path("model.yaml"));
     FindWarnings(read.model, read.findings);
     ASSERT_EQ(read.findings.list.size(), 1u);
     EXPECT_EQ(FindingText(read.findings.list[0]), "2:1: warning: feature 'MediaColor' is on, but the list "
                                                   "'MediaColor' is missing or empty: there is nothing to choose from");
-    EXPECT_EQ(read.findings.list[0].place.file, 0u);
+    EXPECT_EQ(fs::path(read.files[read.findings.list[0].place.file]).filename(), "middle.yaml");
 }
 
 TEST(GermanModel, DiffersInTextsForPeopleOnly) {
