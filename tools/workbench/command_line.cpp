@@ -209,6 +209,11 @@ void AddCommands(CLI::App& app, CommandLine& line) {
             .add_option("--folder", line.folder,
                         "Folder of TELMAR_D.DLL and TELMAR_D.PRM (default: the program's)")
             ->type_name("DIR");
+        command
+            .add_option("--language", line.language,
+                        "Language of windows, en or de (default: the user's); other output is English")
+            ->type_name("LANGUAGE")
+            ->check(CLI::IsMember({"en", "de"}).description(""));
         command.add_flag("--json", line.json, "Writes JSON instead of text");
         command.callback([&line, run = row.setUp(command)] { line.run = run; });
     }

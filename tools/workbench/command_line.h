@@ -7,7 +7,8 @@
 #include <functional>
 
 struct CommandLine {
-    std::string folder; // of the driver's files, UTF-8; empty: the program's folder
+    std::string folder;   // of the driver's files, UTF-8; empty: the program's folder
+    std::string language; // of texts for the user, "en" or "de"; empty: the user's
     bool json = false;
     std::function<Document(const FamilyFiles& family)> run;
     std::string help; // or the version; not empty: to be shown instead of running a command

@@ -2,6 +2,7 @@
 // kExitUsage.
 #include "workbench/command_line.h"
 #include "workbench/lib/json_form.h"
+#include "workbench/lib/localized_text.h"
 #include "workbench/lib/output.h"
 #include "workbench/lib/text.h"
 #include "workbench/lib/text_form.h"
@@ -37,6 +38,7 @@ void RunProgram(int argc, wchar_t** argv) {
         Print(STD_OUTPUT_HANDLE, line.help);
         return;
     }
+    UseLanguage(line.language);
     const Document document = line.run(OpenFamilyFiles(std::filesystem::u8path(line.folder)));
     Print(STD_OUTPUT_HANDLE, line.json ? JsonForm(document, 2) + "\n" : TextForm(document));
 }

@@ -1,7 +1,9 @@
 // The Paper page: paper source, paper attributes and the paper in the trays.
+#include "workbench/lib/localized_text.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
+#include "workbench/property_sheet/text_ids.h"
 
 namespace {
 
@@ -18,13 +20,19 @@ constexpr PaperChoice kChoices[] = {
     {ID_PRE_PUNCHED, &DeviceTable::prePunchedMedia, FIELD(mediaPrePunched)},
 };
 
+constexpr UINT kTrayColumns[] = {TEXT_TRAY,   TEXT_SIZE,  TEXT_ORIENTATION, TEXT_TYPE,
+                                 TEXT_WEIGHT, TEXT_COLOR, TEXT_PRE_PUNCHED};
+
 class PaperPage : public PropertyPage {
 public:
     explicit PaperPage(SheetState& sheetState) : PropertyPage(PAGE_PAPER, sheetState) {}
 
 private:
     void Init() override {
-        SetColumns(ID_TRAYS, {"Tray", "Size", "Orientation", "Type", "Weight", "Colour", "Punched"});
+        std::vector<std::string> titles;
+        for (const UINT title : kTrayColumns)
+            titles.push_back(LocalizedText(title));
+        SetColumns(ID_TRAYS, titles);
     }
 
     void Show() override {
@@ -67,8 +75,10 @@ private:
         }
         SetEntries(ID_SOURCE, names, selected);
         const CapabilityQuestions questions(state.family, state.options);
-        SetText(ID_FINISHING, std::string("Duplex: ") + (questions.Has(DC_DUPLEX) ? "yes" : "no")
-                                  + "\nStapling: " + (questions.Has(DC_STAPLE) ? "yes" : "no"));
+        const auto answer = [&](WORD question) {
+            return LocalizedText(questions.Has(question) ? TEXT_YES : TEXT_NO);
+        };
+        SetText(ID_FINISHING, LocalizedText(TEXT_FINISHING, {answer(DC_DUPLEX), answer(DC_STAPLE)}));
     }
 
     std::string NameOfSource(const std::string& key) const {

@@ -99,7 +99,7 @@ int PropertyPage::FontHeight() const {
     return font.tmHeight;
 }
 
-void PropertyPage::SetColumns(int id, const std::vector<const char*>& titles) const {
+void PropertyPage::SetColumns(int id, const std::vector<std::string>& titles) const {
     Send(id, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     for (size_t i = 0; i < titles.size(); ++i) {
         std::wstring title = Wide(titles[i]);

@@ -1,0 +1,22 @@
+// Identifiers of the texts of the property sheet, without gaps. Also included by the resource script.
+#ifndef WORKBENCH_PROPERTY_SHEET_TEXT_IDS_H
+#define WORKBENCH_PROPERTY_SHEET_TEXT_IDS_H
+
+#define TEXT_FIRST 2000
+
+#define TEXT_YES 2000
+#define TEXT_NO  2001
+
+// Paper
+#define TEXT_TRAY        2002
+#define TEXT_SIZE        2003
+#define TEXT_ORIENTATION 2004
+#define TEXT_TYPE        2005
+#define TEXT_WEIGHT      2006
+#define TEXT_COLOR       2007
+#define TEXT_PRE_PUNCHED 2008
+#define TEXT_FINISHING   2009
+
+#define TEXT_END 2010
+
+#endif
