@@ -192,6 +192,49 @@ TEST_F(Sheet, DialogsWorkOnCopies) {
     EXPECT_TRUE(IsWindowEnabled(sheet.Window()));
 }
 
+// A key pressed together with Ctrl, through the sheet's own message loop.
+void PressWithCtrl(SheetWindow& sheet, WPARAM key) {
+    BYTE keys[256] = {};
+    keys[VK_CONTROL] = 0x80;
+    SetKeyboardState(keys);
+    PostMessageW(GetFocus(), WM_KEYDOWN, key, 1);
+    sheet.HandleMessages(0);
+    keys[VK_CONTROL] = 0;
+    SetKeyboardState(keys);
+    for (int i = 0; i < 3; ++i) // what the key has caused
+        sheet.HandleMessages(1);
+}
+
+TEST_F(Sheet, FocusMovesToThePageThatKeysTurnTo) {
+    sheet.HandleMessages(1);
+    for (const auto& [key, page] : {std::pair(VK_TAB, kPaperPage),
+                                    {VK_NEXT, kQualityPage},
+                                    {VK_NEXT, kVersionPage},
+                                    {VK_PRIOR, kQualityPage},
+                                    {VK_TAB, kVersionPage},
+                                    {VK_TAB, kPrinterPage}}) {
+        PressWithCtrl(sheet, static_cast<WPARAM>(key));
+        EXPECT_EQ(SendMessageW(sheet.Window(), PSM_HWNDTOINDEX, reinterpret_cast<WPARAM>(sheet.CurrentPage()), 0),
+                  page);
+        EXPECT_EQ(GetFocus(), GetNextDlgTabItem(sheet.CurrentPage(), nullptr, FALSE)) << "on page " << page;
+    }
+    const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet.Window(), PSM_GETTABCONTROL, 0, 0));
+    SetFocus(tabs);
+    PressWithCtrl(sheet, VK_NEXT);
+    EXPECT_EQ(GetFocus(), tabs) << "a person who walks along the tabs stays on them";
+}
+
+TEST_F(Sheet, RowIsCopied) {
+    driver.TurnTo(kPaperPage);
+    SetFocus(driver.Control(ID_TRAYS));
+    SelectEntry(driver.Control(ID_TRAYS), 1);
+    PressWithCtrl(sheet, 'C');
+    ASSERT_TRUE(OpenClipboard(nullptr));
+    const auto* text = static_cast<const wchar_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
+    EXPECT_EQ(text == nullptr ? L"" : std::wstring(text).substr(0, 23), L"Tray 2\tUnknown\tUnknown\t");
+    CloseClipboard();
+}
+
 // --- At every resolution -----------------------------------------------------------------------------------
 
 // 0 for a control without a mark in its text.

@@ -4,8 +4,15 @@
 #include "workbench/lib/dialog_run.h"
 #include "workbench/lib/output.h"
 #include "workbench/lib/text.h"
+#include "workbench/property_sheet/list_view.h"
 
 #include <commctrl.h>
+
+namespace {
+
+constexpr UINT kActivated = WM_APP + 100; // posted to a page that has become current
+
+} // namespace
 
 PROPSHEETPAGEW PropertyPage::Description() {
     PROPSHEETPAGEW page = {};
@@ -43,24 +50,36 @@ INT_PTR PropertyPage::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_COMMAND:
         OnCommand(LOWORD(wParam), HIWORD(wParam));
         return TRUE;
-    case WM_NOTIFY: {
-        const NMHDR& note = *reinterpret_cast<const NMHDR*>(lParam);
-        if (note.code == static_cast<UINT>(PSN_SETACTIVE))
-            Show();
-        else if (note.code == static_cast<UINT>(PSN_APPLY))
-            return Apply();
-        else
-            OnNotify(note);
-        return FALSE;
-    }
+    case WM_NOTIFY:
+        return AnswerNote(*reinterpret_cast<const NMHDR*>(lParam));
     case WM_DRAWITEM:
         OnDraw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+        return TRUE;
+    case kActivated:
+        TakeFocus();
         return TRUE;
     case WM_DESTROY:
         Close();
         return FALSE;
     default:
         OnMessage(message, wParam, lParam);
+        return FALSE;
+    }
+}
+
+INT_PTR PropertyPage::AnswerNote(const NMHDR& note) {
+    switch (note.code) {
+    case static_cast<UINT>(PSN_SETACTIVE):
+        Show();
+        PostMessageW(window, kActivated, 0, 0); // the page is not visible yet
+        return FALSE;
+    case static_cast<UINT>(PSN_APPLY):
+        return Apply();
+    case static_cast<UINT>(LVN_KEYDOWN):
+        CopyRowOnKey(reinterpret_cast<const NMLVKEYDOWN&>(note));
+        return FALSE;
+    default:
+        OnNotify(note);
         return FALSE;
     }
 }
@@ -76,6 +95,17 @@ INT_PTR PropertyPage::Apply() const {
     }
     SetWindowLongPtrW(window, DWLP_MSGRESULT, answer);
     return TRUE;
+}
+
+// The focus stays on the tabs if it is there. Elsewhere it would remain on the page that is now hidden.
+void PropertyPage::TakeFocus() const {
+    const HWND sheet = GetParent(window);
+    const auto tabs = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+    const HWND focus = GetFocus();
+    if (!IsWindowVisible(window) || focus == tabs || IsChild(window, focus))
+        return;
+    if (const HWND first = GetNextDlgTabItem(window, nullptr, FALSE); first != nullptr)
+        SendMessageW(sheet, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
 }
 
 void PropertyPage::Report(const std::string& failure) const {
@@ -109,6 +139,7 @@ void PropertyPage::SetColumns(int id, const std::vector<std::string>& titles) co
         column.iSubItem = static_cast<int>(i);
         Send(id, LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
     }
+    ShowCutCells(Control(id));
 }
 
 void PropertyPage::SetRows(int id, const std::vector<std::vector<std::string>>& rows) const {
@@ -121,26 +152,19 @@ void PropertyPage::SetRows(int id, const std::vector<std::vector<std::string>>& 
         for (size_t column = 0; column < rows[row].size(); ++column)
             SetCell(id, row, column, rows[row][column]);
     }
-    const auto header = reinterpret_cast<HWND>(Send(id, LVM_GETHEADER));
-    const LRESULT columns = SendMessageW(header, HDM_GETITEMCOUNT, 0, 0);
-    for (LRESULT column = 0; column < columns; ++column)
-        FitColumn(id, static_cast<WPARAM>(column));
+    FitColumns(Control(id));
     Send(id, WM_SETREDRAW, TRUE);
+    EnableList(id, !rows.empty());
 }
 
-// Makes the column as wide as its cells and its title. The automatic width is too narrow for some titles.
-void PropertyPage::FitColumn(int id, WPARAM column) const {
-    wchar_t title[64] = L"";
-    LVCOLUMNW shown = {};
-    shown.mask = LVCF_TEXT;
-    shown.pszText = title;
-    shown.cchTextMax = static_cast<int>(std::size(title));
-    Send(id, LVM_GETCOLUMNW, column, reinterpret_cast<LPARAM>(&shown));
-    Send(id, LVM_SETCOLUMNWIDTH, column, LVSCW_AUTOSIZE_USEHEADER);
-    const LRESULT needed =
-        Send(id, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(title)) + LRESULT{2} * FontHeight();
-    if (Send(id, LVM_GETCOLUMNWIDTH, column) < needed)
-        Send(id, LVM_SETCOLUMNWIDTH, column, needed);
+// With its label, the control before it. The focus does not stay on a disabled list.
+void PropertyPage::EnableList(int id, bool isEnabled) const {
+    if (!isEnabled && GetFocus() == Control(id))
+        SendMessageW(GetParent(window), WM_NEXTDLGCTL, 0, FALSE);
+    const HWND label = GetWindow(Control(id), GW_HWNDPREV);
+    if (IsOfClass(label, L"Static"))
+        EnableWindow(label, isEnabled);
+    EnableWindow(Control(id), isEnabled);
 }
 
 void PropertyPage::SetCell(int id, size_t row, size_t column, const std::string& utf8) const {
@@ -156,6 +180,7 @@ void PropertyPage::SetEntries(int id, const std::vector<std::string>& entries, i
     for (const std::string& entry : entries)
         Send(id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry).c_str()));
     Send(id, CB_SETCURSEL, static_cast<WPARAM>(selected));
+    EnableList(id, !entries.empty());
 }
 
 void PropertyPage::NoteChange() const {

@@ -46,7 +46,8 @@ protected:
     void SetRows(int id, const std::vector<std::vector<std::string>>& rows) const;
     void SetCell(int id, size_t row, size_t column, const std::string& utf8) const;
 
-    // For a combo box: its texts and the position of the selected one, -1: none.
+    // For a combo box: its texts and the position of the selected one, -1: none. Without texts it is
+    // disabled, as a list view without rows is.
     void SetEntries(int id, const std::vector<std::string>& entries, int selected) const;
 
     // Marks the state as changed and enables Apply.
@@ -62,8 +63,10 @@ protected:
 private:
     static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR Answer(UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR AnswerNote(const NMHDR& note);
     INT_PTR Apply() const;
-    void FitColumn(int id, WPARAM column) const;
+    void EnableList(int id, bool isEnabled) const;
+    void TakeFocus() const;
     void Report(const std::string& failure) const;
 };
 

@@ -17,6 +17,9 @@
 #define TEXT_PRE_PUNCHED 2008
 #define TEXT_FINISHING   2009
 
-#define TEXT_END 2010
+// Errors
+#define TEXT_CLIPBOARD_IN_USE 2010
+
+#define TEXT_END 2011
 
 #endif

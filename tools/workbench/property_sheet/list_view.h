@@ -1,0 +1,23 @@
+// What the list views of the property sheet have in common: widths of columns, tool tips for cut cells,
+// copying.
+#ifndef WORKBENCH_PROPERTY_SHEET_LIST_VIEW_H
+#define WORKBENCH_PROPERTY_SHEET_LIST_VIEW_H
+
+#include <string>
+#include <windows.h>
+
+#include <commctrl.h> // after windows.h
+
+// Makes every column as wide as its longest cell and its title. The last one gets the rest of the width.
+void FitColumns(HWND list);
+
+// From now on a tool tip shows the text of a cell that is wider than its column. It ends with the list.
+void ShowCutCells(HWND list);
+
+// Puts the selected row on the clipboard when the key is Ctrl+C; cells are separated by tabs.
+void CopyRowOnKey(const NMLVKEYDOWN& key);
+
+// Puts a text (UTF-8) on the clipboard. Throws Failure when another program keeps the clipboard.
+void PutOnClipboard(HWND owner, const std::string& utf8);
+
+#endif
