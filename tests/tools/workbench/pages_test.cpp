@@ -235,6 +235,30 @@ TEST_F(Sheet, RowIsCopied) {
     CloseClipboard();
 }
 
+TEST_F(Sheet, TipShowsCutCell) {
+    driver.TurnTo(kPaperPage);
+    const HWND list = driver.Control(ID_TRAYS);
+    RECT cell = {LVIR_BOUNDS, 2, 0, 0}; // the third column of the first row
+    SendMessageW(list, LVM_GETSUBITEMRECT, 0, reinterpret_cast<LPARAM>(&cell));
+    POINT place = {cell.left + 4, cell.top + 4};
+    const auto hover = [&](const char* tip) {
+        POINT onScreen = place;
+        ClientToScreen(list, &onScreen);
+        SetCursorPos(onScreen.x, onScreen.y);
+        driver.WaitUntil(
+            [&] {
+                SendMessageW(list, WM_MOUSEMOVE, 0, MAKELPARAM(place.x, place.y));
+                sheet.HandleMessages(10);
+                return HintOf(sheet.Window()) == tip;
+            },
+            kMaxWait);
+    };
+    SendMessageW(list, LVM_SETCOLUMNWIDTH, 2, 20);
+    hover("Unknown");
+    place.x = 4; // of the first column, which is wide enough
+    hover("");
+}
+
 // --- At every resolution -----------------------------------------------------------------------------------
 
 // 0 for a control without a mark in its text.
