@@ -6,6 +6,7 @@
 #include "workbench/lib/output.h"
 #include "workbench/lib/text.h"
 #include "workbench/lib/text_form.h"
+#include "workbench/property_sheet/text_ids.h"
 
 namespace {
 
@@ -45,7 +46,7 @@ void RunProgram(int argc, wchar_t** argv) {
 
 void ReportFailure(int argc, const char* failure) {
     if (IsStartedWithoutArguments(argc))
-        ShowWarning(failure);
+        ShowWarning(failure, LocalizedText(TEXT_PRINTER));
     else
         Print(STD_ERROR_HANDLE, std::string("workbench: ") + failure + "\n");
 }

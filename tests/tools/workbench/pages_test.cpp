@@ -167,14 +167,22 @@ TEST_F(Sheet, PageStaysResponsiveDuringQuery) {
 
 TEST_F(Sheet, SheetStaysOpenWhenSavingFails) {
     const Folder folder(L"workbench_pages");
-    state.file = folder.path / "nowhere" / "kept.json";
     Install("Fax", "Installed");
     driver.TurnTo(kVersionPage);
-    EXPECT_TRUE(driver.Press(PSBTN_OK));
-    ASSERT_EQ(user.failures.size(), 1u) << "reported once, though every page receives PSN_APPLY";
-    EXPECT_NE(user.failures[0].find("kept.json: cannot be written"), std::string::npos) << user.failures[0];
+    fs::create_directory(folder.path / "not a file");
+    for (const auto& [file, advice] : {std::pair("nowhere/kept.json", "nowhere does not exist. Create it"),
+                                       {"not a file", "you may not write to "}}) {
+        user.failures.clear();
+        state.file = folder.path / file;
+        EXPECT_TRUE(driver.Press(PSBTN_OK));
+        ASSERT_EQ(user.failures.size(), 1u) << "reported once, though every page receives PSN_APPLY";
+        EXPECT_NE(user.failures[0].find(advice), std::string::npos) << user.failures[0];
+        EXPECT_EQ(user.failures[0].find("--"), std::string::npos) << "an option: " << user.failures[0];
+        EXPECT_FALSE(state.wasSaved);
+    }
     state.file = folder.path / "kept.json";
     EXPECT_FALSE(driver.Press(PSBTN_OK));
+    EXPECT_TRUE(state.wasSaved);
 }
 
 TEST_F(Sheet, DialogsWorkOnCopies) {

@@ -33,7 +33,7 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
     EXPECT_EQ(Changes(first).find("inputTray:7:258 mediaType:257:261 image.colorMatch:1:3 "), 0u) << Changes(first);
 
     const Json second = folder.Tour();
-    EXPECT_EQ(second["printer"]["toldBy"], "");
+    EXPECT_EQ(second["printer"]["reportedBy"], "");
     EXPECT_EQ(second["printer"]["address"], "");                  // cleared by the tour
     EXPECT_EQ(ItemOf(second, "OpOutTrayUnit"), "OpOutTrayUnit1"); // reported in the first run
     EXPECT_EQ(second["trays"], first["trays"]);
@@ -47,8 +47,9 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
 // The driver with another model of family/model or tests/models.
 struct OtherModel : Folder {
     explicit OtherModel(const std::string& name)
-        : Folder(L"workbench_sheet_model", {"TELMAR_D.DLL", "TELMAR_D.PRM=models/" + name + ".prm", "TELMAR_S.DLL",
-                                            "TELMAR_U.DLL", "TELMAR_B.DLL"}) {}
+        : Folder(
+            (L"workbench_" + fs::path(name).wstring()).c_str(),
+            {"TELMAR_D.DLL", "TELMAR_D.PRM=models/" + name + ".prm", "TELMAR_S.DLL", "TELMAR_U.DLL", "TELMAR_B.DLL"}) {}
 };
 
 // Two trays, no options, no colour.
@@ -81,17 +82,46 @@ TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {
     EXPECT_EQ(Json::parse(result.output)["printer"]["status"], "Reported by 127.0.162.1 (SNMP).");
 }
 
-TEST(WorkbenchSheet, UnfitPartsOfTheStateFileAreIgnored) {
+// A text that differs is no other model.
+TEST(WorkbenchSheet, SettingsAreKeptForTheirModelOnly) {
+    const OtherModel minimal("minimal");
+    const OtherModel german("lumora_r880.de");
     const SheetFolder folder;
-    const auto keep = [&](const std::string& text) { std::ofstream(folder.path / "kept.json") << text; };
-    keep(R"({"address": 7, "options": {"OpFAXUnit": "NoSuch", "Other": "x"}, "settings": "zz", "trays": "00"})");
-    const Json fitting = folder.Tour();
-    EXPECT_EQ(ItemOf(fitting, "OpHDD"), "DisOpHDD");
-    EXPECT_EQ(fitting["settings"]["trouble"], "");
-    keep("{");
-    const std::string warning = folder.Tour()["settings"]["trouble"];
-    EXPECT_NE(warning.find("kept.json: does not contain settings"), std::string::npos) << warning;
-    EXPECT_EQ(Contents(folder.path / "kept.json.damaged"), "{");
+    const fs::path file = folder.path / "kept.json";
+    EXPECT_EQ(folder.Tour(L" --from 127.0.162.1")["settings"]["keptIn"], file.u8string());
+    const std::string kept = Contents(file);
+    const auto tour = [&](const OtherModel& model) {
+        const Json report = folder.Tour(model.Option());
+        return std::pair(report["settings"]["warning"].get<std::string>(), Changes(report));
+    };
+    const auto [warning, changes] = tour(minimal);
+    EXPECT_NE(warning.find("belong to another model: lumora R880."), std::string::npos) << warning;
+    EXPECT_EQ(changes, "inputTray:7:258 mediaType:257:263 "); // of this tour
+
+    Json old = Json::parse(kept); // as an older version has saved it
+    old.erase("model");
+    std::ofstream(file) << old;
+    EXPECT_NE(tour(minimal).first.find("another model: not known."), std::string::npos);
+    for (const std::string& text : {old.dump(), kept}) {
+        std::ofstream(file) << text;
+        EXPECT_EQ(tour(german).first, "");
+        EXPECT_EQ(Json::parse(Contents(file))["options"]["OpOutTrayUnit"], "OpOutTrayUnit1") << "reported at first";
+    }
+}
+
+TEST(WorkbenchSheet, DamagedStateFileIsReportedOnceAndKeptAside) {
+    const SheetFolder folder;
+    const fs::path file = folder.path / "kept.json";
+    for (const char* text : {"{", "[]", R"({"address": 7})", R"({"options": {"OpFAXUnit": 1}})", R"({"trays": "00"})",
+                             R"({"address": "192.0.2.1", "settings": "zz"})"}) {
+        std::ofstream(file) << text;
+        const Json report = folder.Tour();
+        const std::string warning = report["settings"]["warning"];
+        EXPECT_NE(warning.find("are damaged, "), std::string::npos) << text << ": " << warning;
+        EXPECT_EQ(Contents(folder.path / "kept.json.damaged"), text);
+        EXPECT_EQ(ItemOf(report, "OpHDD"), "DisOpHDD");
+    }
+    EXPECT_EQ(folder.Tour()["settings"]["warning"], "");
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // `workbench gallery`: one sheet with the module's pictures of the printer in all instructive combinations of
 // the model's units, paper sources and output destinations, each with a caption.
 #include "workbench/commands/commands.h"
+#include "workbench/lib/model_name.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/printer_scene.h"
 
@@ -112,8 +113,7 @@ std::vector<const Row*> RowsOf(const FamilyFiles& family) {
 }
 
 std::string TitleOf(const FamilyFiles& family) {
-    const DeviceTable& table = *family.table;
-    const std::string name = table.machineInfoCount > 0 ? FieldText(table.machineInfo[0].name) : "";
+    const std::string name = ModelName(family);
     return (name.empty() ? "" : name + ": ") + "the printer's picture";
 }
 

@@ -100,11 +100,13 @@ Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
     tour.driver.Press(PSBTN_OK);
     if (!user.failures.empty())
         throw Failure(kExitFailed, user.failures.front());
-    return {
-        {"pictures", tour.pictures},
-        {"settings", {{"keptIn", options.state}, {"trouble", warning}}},
-        {"printer", {{"address", state.address}, {"toldBy", state.report.address}, {"status", tour.status}}},
-        {"options", OptionsDocument(state.options)},
-        {"changes", SettingsChanges(defaultSettings, state.settings)},
-        {"trays", PapersDocument(state.papers)}};
+    Document settings = SavingDocument(state);
+    settings["warning"] = warning;
+    return {{"pictures", tour.pictures},
+            {"settings", settings},
+            {"printer",
+             {{"address", state.address}, {"reportedBy", state.report.address}, {"status", tour.status}}},
+            {"options", OptionsDocument(state.options)},
+            {"changes", SettingsChanges(defaultSettings, state.settings)},
+            {"trays", PapersDocument(state.papers)}};
 }

@@ -74,11 +74,13 @@ std::filesystem::path MakeFolder(const std::string& path, const char* option) {
     return folder;
 }
 
-void WriteOutputFile(const std::filesystem::path& path, std::string_view bytes, const char* option) {
+DWORD TryWriteFile(const std::filesystem::path& path, std::string_view bytes) {
     NewFile file(path);
-    if (!file.IsOpen() || !file.Write(bytes) || !file.Keep()) {
-        const std::string reason = ErrorText(GetLastError());
-        throw Failure(kExitFailed, path.u8string() + ": cannot be written (" + reason
+    return file.IsOpen() && file.Write(bytes) && file.Keep() ? ERROR_SUCCESS : GetLastError();
+}
+
+void WriteOutputFile(const std::filesystem::path& path, std::string_view bytes, const char* option) {
+    if (const DWORD error = TryWriteFile(path, bytes); error != ERROR_SUCCESS)
+        throw Failure(kExitFailed, path.u8string() + ": cannot be written (" + ErrorText(error)
                                        + "); free some space, or specify another file with " + option);
-    }
 }

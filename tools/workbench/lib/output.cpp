@@ -17,6 +17,6 @@ void Print(DWORD where, std::string_view utf8) {
         utf8.remove_prefix(written);
 }
 
-void ShowWarning(const std::string& utf8, HWND owner) {
-    MessageBoxW(owner, Wide(utf8).c_str(), L"lumora R880", MB_OK | MB_ICONWARNING);
+void ShowWarning(const std::string& utf8, const std::string& caption, HWND owner) {
+    MessageBoxW(owner, Wide(utf8).c_str(), Wide(caption).c_str(), MB_OK | MB_ICONWARNING);
 }

@@ -10,7 +10,7 @@
 // byte. Line ends stay as they are.
 void Print(DWORD where, std::string_view utf8);
 
-// Shows a message box, for a program that was started without a console. Returns when it is closed.
-void ShowWarning(const std::string& utf8, HWND owner = nullptr);
+// Shows a message box with this caption. Returns when it is closed.
+void ShowWarning(const std::string& utf8, const std::string& caption, HWND owner = nullptr);
 
 #endif

@@ -112,7 +112,7 @@ void PropertyPage::Report(const std::string& failure) const {
     if (state.user != nullptr)
         state.user->failures.push_back(failure);
     else
-        ShowWarning(failure, GetParent(window));
+        ShowWarning(failure, TextOf(GetParent(window)), GetParent(window));
 }
 
 void PropertyPage::SetText(int id, const std::string& utf8) const {

@@ -4,7 +4,11 @@
 
 #include "workbench/lib/files.h"
 #include "workbench/lib/json_form.h"
+#include "workbench/lib/localized_text.h"
+#include "workbench/lib/model_name.h"
 #include "workbench/lib/text.h"
+#include "workbench/property_sheet/model_digest.h"
+#include "workbench/property_sheet/text_ids.h"
 
 #include <algorithm>
 
@@ -12,7 +16,6 @@ namespace {
 
 constexpr const wchar_t* kFolderName = L"lumora workbench";
 constexpr const wchar_t* kFileName = L"property_sheet.json";
-constexpr const char* kOption = "--state";
 constexpr const char* kNotQueried = "Not queried yet. The picture shows the options selected above.";
 
 std::string Hex(const void* record, size_t size) {
@@ -25,29 +28,85 @@ std::string Hex(const void* record, size_t size) {
     return text;
 }
 
-// Leaves the record unchanged if the text is not a record of this size.
-void LoadHex(const Document& text, void* record, size_t size) {
-    const std::string digits = text.IsText() ? text.Text() : "";
+// The following leave the destination unchanged when the file lacks the value, and return false when it has
+// another type or size.
+bool LoadHex(const Document& from, void* record, size_t size) {
+    if (from.IsNull())
+        return true;
+    const std::string digits = from.IsText() ? from.Text() : "";
     if (digits.size() != 2 * size || digits.find_first_not_of("0123456789abcdef") != std::string::npos)
-        return;
+        return false;
     for (size_t i = 0; i < size; ++i)
         static_cast<uint8_t*>(record)[i] =
             static_cast<uint8_t>(std::stoi(digits.substr(2 * i, 2), nullptr, 16));
+    return true;
 }
 
-void LoadText(const Document& from, std::string& text) {
+bool LoadText(const Document& from, std::string& text) {
     if (from.IsText())
         text = from.Text();
+    return from.IsText() || from.IsNull();
 }
 
-void LoadFields(const Document& kept, SheetState& state) {
-    LoadHex(kept["settings"], &state.settings, sizeof(state.settings));
-    LoadHex(kept["trays"], state.papers.data(), sizeof(state.papers));
-    LoadText(kept["address"], state.address);
-    LoadText(kept["toldBy"], state.reportedBy);
-    for (const auto& option : kept["options"].Fields())
+bool LoadOptions(const Document& from, OptionFeatures& options) {
+    for (const auto& option : from.Fields()) {
         if (option.value.IsText())
-            ApplyReportedOption(state.options, option.name.c_str(), option.value.Text().c_str());
+            ApplyReportedOption(options, option.name.c_str(), option.value.Text().c_str());
+        else if (!option.value.IsNull()) // as for an option without a default
+            return false;
+    }
+    return from.IsObject() || from.IsNull();
+}
+
+// False when the file is not what SaveState writes.
+bool LoadFields(const Document& kept, SheetState& state) {
+    return kept.IsObject() && LoadHex(kept["settings"], &state.settings, sizeof(state.settings))
+           && LoadHex(kept["trays"], state.papers.data(), sizeof(state.papers))
+           && LoadText(kept["address"], state.address)
+           && LoadText(kept["toldBy"], state.reportedBy) // of older versions
+           && LoadText(kept["reportedBy"], state.reportedBy) && LoadOptions(kept["options"], state.options);
+}
+
+// Whether the file is of the sheet's model. Older versions did not keep the model: then the trays must be the
+// same.
+bool IsOfModel(const Document& kept, const SheetState& state) {
+    const Document& digest = kept["model"]["digest"];
+    if (digest.IsText())
+        return digest.Text() == ModelDigest(state.family);
+    TrayPapers trays = state.papers;
+    LoadHex(kept["trays"], trays.data(), sizeof(trays));
+    const auto isSame = [](const TrayPaperSetting& a, const TrayPaperSetting& b) {
+        return SameText(a.key, b.key) && a.bin == b.bin;
+    };
+    return std::equal(trays.begin(), trays.end(), state.papers.begin(), isSame);
+}
+
+// Renames the state's file, whose contents are of no use. Returns the warning for the user.
+std::string PutAside(SheetState& state) {
+    ResetState(state);
+    std::filesystem::path aside = state.file;
+    aside += L".damaged";
+    std::error_code isInUse;
+    std::filesystem::rename(state.file, aside, isInUse);
+    if (isInUse)
+        throw Failure(kExitFailed, LocalizedText(TEXT_DAMAGED_IN_USE, {state.file.u8string()}));
+    return LocalizedText(TEXT_DAMAGED, {aside.u8string()});
+}
+
+std::string SaveErrorText(const std::filesystem::path& file, DWORD error) {
+    switch (error) {
+    case ERROR_PATH_NOT_FOUND:
+        return LocalizedText(TEXT_SAVE_NO_FOLDER, {file.parent_path().u8string()});
+    case ERROR_DISK_FULL:
+    case ERROR_HANDLE_DISK_FULL:
+        return LocalizedText(TEXT_SAVE_NO_SPACE);
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_WRITE_PROTECT:
+        return LocalizedText(TEXT_SAVE_NOT_ALLOWED, {file.u8string()});
+    default:
+        return LocalizedText(TEXT_SAVE_FAILED, {file.u8string(), ErrorText(error)});
+    }
 }
 
 // The printer's first text is the profile's name; the second is a file name.
@@ -80,36 +139,50 @@ void ResetState(SheetState& state) {
 std::string LoadState(SheetState& state) {
     if (!std::filesystem::exists(state.file))
         return {};
-    const std::string text = ReadTextFile(state.file.u8string(), kOption);
+    std::string text;
     try {
-        LoadFields(ParseJson(text, state.file.u8string()), state);
-        return {};
-    } catch (const Failure&) { // renamed below
+        text = ReadTextFile(state.file.u8string(), "");
+    } catch (const Failure&) {
+        throw Failure(kExitFailed, LocalizedText(TEXT_UNREADABLE, {state.file.u8string()}));
     }
-    std::filesystem::path aside = state.file;
-    aside += L".damaged";
-    std::error_code isInUse;
-    std::filesystem::rename(state.file, aside, isInUse);
-    if (isInUse)
-        throw Failure(kExitFailed, state.file.u8string()
-                                       + ": does not contain settings of the sheet; delete it, or "
-                                         "specify another file with "
-                                       + kOption);
-    return state.file.u8string()
-           + ": does not contain settings of the sheet; the model's defaults are used. The file was renamed "
-           + aside.u8string();
+    Document kept;
+    try {
+        kept = ParseJson(text, "");
+    } catch (const Failure&) {
+        return PutAside(state);
+    }
+    const bool isOfModel = IsOfModel(kept, state);
+    if (!LoadFields(kept, state))
+        return PutAside(state);
+    state.saved = kept;
+    if (isOfModel)
+        return {};
+    ResetState(state);
+    const Document& name = kept["model"]["name"];
+    return LocalizedText(TEXT_OTHER_MODEL, {name.IsText() ? name.Text() : LocalizedText(TEXT_UNKNOWN_MODEL),
+                                            ModelName(state.family), state.file.u8string()});
 }
 
 void SaveState(SheetState& state) {
     if (state.file.empty() || !state.hasChanges)
         return;
-    Document kept = {{"address", state.address}, {"toldBy", state.reportedBy}};
+    Document kept = {{"model", {{"name", ModelName(state.family)}, {"digest", ModelDigest(state.family)}}},
+                     {"address", state.address},
+                     {"reportedBy", state.reportedBy}};
     for (const Document& row : OptionsDocument(state.options).Elements())
         kept["options"][row["feature"].Text()] = row["item"];
     kept["trays"] = Hex(state.papers.data(), sizeof(state.papers));
     kept["settings"] = Hex(&state.settings, sizeof(state.settings));
-    WriteOutputFile(state.file, JsonForm(kept, 1) + "\n", kOption);
+    if (const DWORD error = TryWriteFile(state.file, JsonForm(kept, 1) + "\n"); error != ERROR_SUCCESS)
+        throw Failure(kExitFailed, SaveErrorText(state.file, error));
+    state.saved = kept;
     state.hasChanges = false;
+    state.wasSaved = true;
+}
+
+Document SavingDocument(const SheetState& state) {
+    return {{"saved", state.wasSaved},
+            {"keptIn", state.wasSaved ? Document(state.file.u8string()) : Document()}};
 }
 
 std::filesystem::path StateFile() {

@@ -46,19 +46,26 @@ struct SheetState {
     std::string status;  // of the query, as shown to the user
     bool isQuerying = false;
     bool hasChanges = false;    // that are not saved yet
+    bool wasSaved = false;      // since the sheet has been opened
     std::filesystem::path file; // where the state is kept; empty: nowhere
+    Document saved;             // what the file contains
     SheetUser* user = nullptr;  // null: a person
 };
 
 // Resets everything that is kept to the model's defaults.
 void ResetState(SheetState& state);
 
-// Loads the state's file if it exists. What is missing in it or does not fit the model stays as it is. A file
-// of another kind is renamed; the result is then a warning for the user, otherwise it is empty.
+// Loads the state's file if it exists. What is missing in it stays as it is. Nothing is taken from the file
+// of another model, or from a damaged one, which is renamed; the result is then a warning for the user,
+// otherwise it is empty. Throws Failure when the file cannot be read or renamed.
 std::string LoadState(SheetState& state);
 
-// Saves the state if it has changed. Throws Failure when the file cannot be written.
+// Saves the state if it has changed. Throws Failure that says what the user can do when the file cannot be
+// written.
 void SaveState(SheetState& state);
+
+// Whether the state has been saved, and where.
+Document SavingDocument(const SheetState& state);
 
 // The user's own file, by default. Creates its folder.
 std::filesystem::path StateFile();

@@ -1,6 +1,9 @@
 // Creates the property sheet and runs its message loop.
 #include "workbench/property_sheet/sheet_window.h"
 
+#include "workbench/lib/model_name.h"
+#include "workbench/lib/text.h"
+
 #include <commctrl.h>
 
 namespace {
@@ -20,7 +23,8 @@ SheetWindow::SheetWindow(SheetState& state) {
     PROPSHEETHEADERW header = {};
     header.dwSize = sizeof(header);
     header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS;
-    header.pszCaption = L"QUORVANE lumora R880";
+    const std::wstring name = Wide(ModelName(state.family));
+    header.pszCaption = name.c_str();
     header.nPages = static_cast<UINT>(descriptions.size());
     header.ppsp = descriptions.data();
     window = reinterpret_cast<HWND>(PropertySheetW(&header));

@@ -19,7 +19,17 @@
 
 // Errors
 #define TEXT_CLIPBOARD_IN_USE 2010
+#define TEXT_OTHER_MODEL      2011
+#define TEXT_UNKNOWN_MODEL    2012
+#define TEXT_DAMAGED          2013
+#define TEXT_DAMAGED_IN_USE   2014
+#define TEXT_UNREADABLE       2015
+#define TEXT_SAVE_NO_FOLDER   2016
+#define TEXT_SAVE_NO_SPACE    2017
+#define TEXT_SAVE_NOT_ALLOWED 2018
+#define TEXT_SAVE_FAILED      2019
+#define TEXT_PRINTER          2020
 
-#define TEXT_END 2011
+#define TEXT_END 2021
 
 #endif

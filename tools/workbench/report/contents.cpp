@@ -6,6 +6,7 @@
 #include "workbench/lib/files.h"
 #include "workbench/lib/json_form.h"
 #include "workbench/lib/model_dialogs.h"
+#include "workbench/lib/model_name.h"
 #include "workbench/lib/text.h"
 #include "workbench/report/printer_looks.h"
 #include "workbench/report/snmp_questions.h"
@@ -133,17 +134,6 @@ Document Facts(const FamilyFiles& family, const Document& model) {
     };
 }
 
-// The first machine's name, from the machine information or else from the machines to choose from.
-std::string ModelName(const FamilyFiles& family, const Document& model) {
-    for (const Document& machine : model["machineInformation"].Elements())
-        return machine["name"].Text();
-    const OptionFeatures options = ReadOptionFeatures(family);
-    for (const Document& row : OptionsDocument(options).Elements())
-        if (row["feature"].Text() == "OpMachine" && row["name"].IsText())
-            return row["name"].Text();
-    return "Model without a name";
-}
-
 // By their names: the lists of the lower resolutions first.
 std::vector<std::filesystem::path> DialogLists(const std::filesystem::path& folder) {
     std::vector<std::filesystem::path> lists;
@@ -195,8 +185,9 @@ Document ReadDialogs(const std::string& folderName) {
 
 Document GatherContents(const FamilyFiles& family, const Document& dialogs) {
     const Document model = WithoutFiles(Describe(family));
+    const std::string name = ModelName(family);
     return {
-        {"name", ModelName(family, model)},
+        {"name", name.empty() ? "Model without a name" : name},
         {"facts", Facts(family, model)},
         {"groups",
          {{"Features and lists", model},

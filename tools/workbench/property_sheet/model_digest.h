@@ -1,0 +1,11 @@
+// Tells models apart by what kept settings refer to.
+#ifndef WORKBENCH_PROPERTY_SHEET_MODEL_DIGEST_H
+#define WORKBENCH_PROPERTY_SHEET_MODEL_DIGEST_H
+
+#include "workbench/lib/family_files.h"
+
+// A number, as hexadecimal digits, from the keys and values of all lists of the model. Texts and the order of
+// the lists' items have no part in it, so settings survive a corrected or translated text.
+std::string ModelDigest(const FamilyFiles& family);
+
+#endif
