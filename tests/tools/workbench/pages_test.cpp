@@ -187,7 +187,6 @@ TEST_F(Sheet, SheetStaysOpenWhenSavingFails) {
 
 TEST_F(Sheet, DialogsWorkOnCopies) {
     driver.TurnTo(kQualityPage);
-    EXPECT_EQ(driver.Text(ID_VARIANT), "Colour dialog of this model: 128");
     user.script = ParseDialogScript("choose 1354 Exact match\ncancel", "test");
     driver.Click(ID_COLOR_DIALOG);
     EXPECT_FALSE(state.hasChanges);
@@ -195,9 +194,52 @@ TEST_F(Sheet, DialogsWorkOnCopies) {
     driver.Click(ID_COLOR_DIALOG);
     EXPECT_TRUE(state.hasChanges);
     EXPECT_EQ(state.settings.image.colorMatch, 3);
-    driver.Click(ID_DEFAULTS);
-    EXPECT_TRUE(EntriesOf(driver.Control(ID_CHANGED)).empty());
     EXPECT_TRUE(IsWindowEnabled(sheet.Window()));
+}
+
+// The rows of a list view on the current page, with all cells.
+std::vector<std::string> RowsOn(const SheetWindow& sheet, int list) {
+    std::vector<std::string> rows;
+    for (const Document& entry : ViewDialog(sheet.CurrentPage()).entries.Elements())
+        if (entry["list"].Integer() == list)
+            rows.push_back(entry["text"].Text());
+    return rows;
+}
+
+// OK of the colour dialog also writes records of profiles, which are no changes to a person.
+TEST_F(Sheet, QualityPageListsWhatThePersonChanged) {
+    driver.TurnTo(kPaperPage);
+    driver.Choose(ID_SOURCE, "Tray 2");
+    driver.TurnTo(kQualityPage);
+    EXPECT_FALSE(IsWindowEnabled(driver.Control(ID_CHANGED)));
+    user.script =
+        ParseDialogScript("choose 1354 Exact match\nchoose 1504 CIE RGB\nchoose 1524 SWOP\nclick 1526\nok", "test");
+    driver.Click(ID_COLOR_DIALOG);
+    std::vector<std::string> rows = {"Images, RGB source | sRGB | CIE RGB",
+                                     "Images, Colour matching | Photographic | Exact match",
+                                     "Press simulation | None | SWOP", "Match the colour of the paper | no | yes"};
+    EXPECT_EQ(RowsOn(sheet, ID_CHANGED), rows);
+    driver.Click(ID_DETAILS);
+    for (const auto& [row, numbers] :
+         {std::pair(0, "1 \u2192 130"), {1, "1 \u2192 3"}, {2, "0 \u2192 1"}, {3, "0 \u2192 1"}})
+        rows[static_cast<size_t>(row)] += std::string(" | ") + numbers;
+    EXPECT_EQ(RowsOn(sheet, ID_CHANGED), rows);
+    driver.Click(ID_DEFAULTS);
+    EXPECT_TRUE(RowsOn(sheet, ID_CHANGED).empty());
+    EXPECT_EQ(memcmp(&state.settings.imageRgbProfile, &defaultSettings.imageRgbProfile, sizeof(ProfileEntry)), 0);
+    EXPECT_EQ(state.settings.inputTray, 258) << "belongs to another page";
+}
+
+TEST_F(Sheet, MonoModelHasNoColorDialog) {
+    driver.TurnTo(kQualityPage);
+    EXPECT_TRUE(IsWindowVisible(driver.Control(ID_COLOR_DIALOG)));
+    EXPECT_FALSE(IsWindowVisible(driver.Control(ID_BLACK_ONLY)));
+    const auto color = std::exchange(Family().table->colorDevice, 0);
+    SheetWindow mono(state);
+    SendMessageW(mono.Window(), PSM_SETCURSEL, kQualityPage, 0);
+    Family().table->colorDevice = color;
+    EXPECT_FALSE(IsWindowVisible(GetDlgItem(mono.CurrentPage(), ID_COLOR_DIALOG)));
+    EXPECT_TRUE(IsWindowVisible(GetDlgItem(mono.CurrentPage(), ID_BLACK_ONLY)));
 }
 
 // A key pressed together with Ctrl, through the sheet's own message loop.

@@ -57,6 +57,7 @@ TEST(WorkbenchSheet, MinimalModelIsShown) {
     const OtherModel minimal("minimal");
     const SheetFolder folder;
     const Json tour = folder.Tour(minimal.Option());
+    EXPECT_EQ(tour["sheet"]["title"], "Two trays");
     EXPECT_EQ(Changes(tour), "inputTray:7:258 mediaType:257:263 ");
     EXPECT_EQ(Pick(tour["trays"], "size"), Json({"Unknown", "Letter"}));
     const std::wstring out = L" --out \"" + (folder.path / "gallery.png").wstring() + L"\"";

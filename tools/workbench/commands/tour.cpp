@@ -92,6 +92,7 @@ Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
     state.file = std::filesystem::u8path(options.state);
     const std::string warning = LoadState(state);
     SheetWindow sheet(state);
+    const std::string title = TextOf(sheet.Window());
     Tour tour = {state, user, PageDriver(sheet), std::filesystem::u8path(options.out)};
     VisitPrinter(tour, options.from);
     VisitPaper(tour);
@@ -103,6 +104,7 @@ Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
     Document settings = SavingDocument(state);
     settings["warning"] = warning;
     return {{"pictures", tour.pictures},
+            {"sheet", {{"title", title}}},
             {"settings", settings},
             {"printer",
              {{"address", state.address}, {"reportedBy", state.report.address}, {"status", tour.status}}},

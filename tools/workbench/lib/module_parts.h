@@ -26,7 +26,7 @@
 
 // Facts about the dialogs, their controls and the settings that they edit.
 #include "base/dialog_ids.h"
-#include "dialogs/color/color_dialog.h"
+#include "dialogs/color/color_descriptions.h"
 #include "paramdata/devmode_fields.h"
 #include "trays/tray_dialog.h"
 #include "trays/tray_settings.h"

@@ -112,6 +112,8 @@ void FitColumns(HWND list) {
 }
 
 void ShowCutCells(HWND list) {
+    if (GetPropW(list, kTipProperty) != nullptr)
+        return;
     const HWND tip =
         CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
                         0, 0, 0, list, nullptr, nullptr, nullptr);

@@ -31,9 +31,10 @@
 #define ID_TRAY_BUTTON 1028
 
 #define ID_COLOR_DIALOG 1031
-#define ID_VARIANT      1032
+#define ID_BLACK_ONLY   1032
 #define ID_CHANGED      1033
 #define ID_DEFAULTS     1034
+#define ID_DETAILS      1035
 
 #define ID_LOGO  1041
 #define ID_FILES 1042

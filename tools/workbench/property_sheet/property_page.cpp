@@ -131,6 +131,7 @@ int PropertyPage::FontHeight() const {
 
 void PropertyPage::SetColumns(int id, const std::vector<std::string>& titles) const {
     Send(id, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    while (Send(id, LVM_DELETECOLUMN, 0) != 0) {}
     for (size_t i = 0; i < titles.size(); ++i) {
         std::wstring title = Wide(titles[i]);
         LVCOLUMNW column = {};

@@ -41,7 +41,7 @@ protected:
 
     int FontHeight() const; // pixels
 
-    // For a list view: its columns, to be set once; its rows, with a text for each column.
+    // For a list view: its columns, then its rows, with a text for each column.
     void SetColumns(int id, const std::vector<std::string>& titles) const;
     void SetRows(int id, const std::vector<std::vector<std::string>>& rows) const;
     void SetCell(int id, size_t row, size_t column, const std::string& utf8) const;

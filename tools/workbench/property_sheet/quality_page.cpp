@@ -1,29 +1,38 @@
-// The Quality page: the model's colour dialog, and the settings that differ from the defaults.
-#include "workbench/lib/json_form.h"
-#include "workbench/lib/settings_fields.h"
+// The Quality page: the model's colour dialog, and the colour settings that differ from the defaults.
+#include "workbench/lib/localized_text.h"
+#include "workbench/property_sheet/color_settings.h"
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
+#include "workbench/property_sheet/text_ids.h"
 
 namespace {
-
-std::string Shown(const Document& value) {
-    return value.IsText() ? value.Text() : JsonForm(value);
-}
 
 class QualityPage : public PropertyPage {
 public:
     explicit QualityPage(SheetState& sheetState) : PropertyPage(PAGE_QUALITY, sheetState) {}
 
 private:
-    void Init() override { SetColumns(ID_CHANGED, {"Setting", "Default", "Now"}); }
+    void Init() override {
+        const bool isColor = state.family.table->colorDevice != 0;
+        ShowWindow(Control(ID_COLOR_DIALOG), isColor ? SW_SHOW : SW_HIDE);
+        ShowWindow(Control(ID_BLACK_ONLY), isColor ? SW_HIDE : SW_SHOW);
+    }
 
     void Show() override {
-        SetText(ID_VARIANT,
-                "Colour dialog of this model: " + std::to_string(ColorDialogOf(*state.family.table).id));
+        const bool withNumbers = Send(ID_DETAILS, BM_GETCHECK) == BST_CHECKED;
+        std::vector<std::string> titles = {LocalizedText(TEXT_SETTING), LocalizedText(TEXT_DEFAULT),
+                                           LocalizedText(TEXT_NOW)};
+        if (withNumbers)
+            titles.push_back(LocalizedText(TEXT_NUMBERS));
+        SetColumns(ID_CHANGED, titles);
         std::vector<std::vector<std::string>> rows;
-        for (const Document& change : SettingsChanges(defaultSettings, state.settings).Elements())
-            rows.push_back({Shown(change["name"]), Shown(change["before"]), Shown(change["after"])});
+        for (const ChangedColorSetting& change : ChangedColorSettings(state.family, state.settings)) {
+            rows.push_back({change.name, change.before, change.after});
+            if (withNumbers)
+                rows.back().push_back(change.numbers);
+        }
         SetRows(ID_CHANGED, rows);
+        EnableWindow(Control(ID_DETAILS), !rows.empty());
         EnableWindow(Control(ID_DEFAULTS), !rows.empty());
     }
 
@@ -32,10 +41,11 @@ private:
             return;
         if (control == ID_COLOR_DIALOG) {
             RunModelDialog(ColorDialogOf(*state.family.table));
+        } else if (control == ID_DETAILS) {
+            Show();
         } else if (control == ID_DEFAULTS) {
             SetFocus(Control(ID_COLOR_DIALOG)); // the focus must not stay on a disabled button
-            state.settings = defaultSettings;
-            OfferedSources(state);
+            ResetColorSettings(state.settings);
             NoteChange();
             Show();
         }

@@ -17,6 +17,26 @@
 #define TEXT_PRE_PUNCHED 2008
 #define TEXT_FINISHING   2009
 
+// Quality
+#define TEXT_SETTING           2021
+#define TEXT_DEFAULT           2022
+#define TEXT_NOW               2023
+#define TEXT_NUMBERS           2024
+#define TEXT_FROM_TO           2025
+#define TEXT_SETTING_OF        2026
+#define TEXT_IMAGES            2027
+#define TEXT_TEXT              2028
+#define TEXT_GRAPHICS          2029
+#define TEXT_RGB_SOURCE        2030
+#define TEXT_COLOR_MATCHING    2031
+#define TEXT_GRAYS             2032
+#define TEXT_OUTPUT_PROFILE    2033
+#define TEXT_HALFTONE          2034
+#define TEXT_SIMULATION        2035
+#define TEXT_MATCH_PAPER_COLOR 2036
+#define TEXT_SAME_AS_IMAGES    2037
+#define TEXT_SAME_AS_TEXT      2038
+
 // Errors
 #define TEXT_CLIPBOARD_IN_USE 2010
 #define TEXT_OTHER_MODEL      2011
@@ -30,6 +50,6 @@
 #define TEXT_SAVE_FAILED      2019
 #define TEXT_PRINTER          2020
 
-#define TEXT_END 2021
+#define TEXT_END 2039
 
 #endif
