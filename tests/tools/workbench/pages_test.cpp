@@ -2,11 +2,13 @@
 // user, to a printer's answers and to failures.
 #include "tools/workbench/workbench_run.h"
 #include "workbench/lib/dialog_view.h"
+#include "workbench/lib/localized_text.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
 
+#include <regex>
 #include <set>
 
 #include <commctrl.h>
@@ -242,6 +244,39 @@ TEST_F(Sheet, MonoModelHasNoColorDialog) {
     EXPECT_TRUE(IsWindowVisible(GetDlgItem(mono.CurrentPage(), ID_BLACK_ONLY)));
 }
 
+std::wstring Clipboard() {
+    EXPECT_TRUE(OpenClipboard(nullptr));
+    const auto* text = static_cast<const wchar_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
+    std::wstring copy = text != nullptr ? text : L"";
+    CloseClipboard();
+    return copy;
+}
+
+TEST_F(Sheet, VersionPageListsAndCopiesTheFiles) {
+    SetThreadLocale(MAKELCID(kGerman, SORT_DEFAULT));
+    driver.TurnTo(kVersionPage);
+    driver.Click(ID_COPY);
+    SetThreadLocale(LOCALE_USER_DEFAULT);
+    std::string size = std::to_string(fs::file_size(ProductFolder() / "TELMAR_D.PRM"));
+    size.insert(size.size() - 3, ".");
+    EXPECT_TRUE(std::regex_search(Utf8(Clipboard()),
+                                  std::regex("\nTELMAR_D.PRM\t\t\\d\\d\\.\\d\\d\\.\\d{4}\t" + size + "\r\n")))
+        << Utf8(Clipboard());
+}
+
+TEST_F(Sheet, ResetAsksFirst) {
+    driver.TurnTo(kPrinterPage);
+    driver.SetText(ID_ADDRESS, "192.0.2.1");
+    driver.TurnTo(kVersionPage);
+    user.confirms = false;
+    driver.Click(ID_RESET);
+    EXPECT_EQ(state.address, "192.0.2.1");
+    user.confirms = true;
+    driver.Click(ID_RESET);
+    EXPECT_EQ(state.address, "");
+    EXPECT_EQ(user.questions.size(), 2u);
+}
+
 // A key pressed together with Ctrl, through the sheet's own message loop.
 void PressWithCtrl(SheetWindow& sheet, WPARAM key) {
     BYTE keys[256] = {};
@@ -279,10 +314,7 @@ TEST_F(Sheet, RowIsCopied) {
     SetFocus(driver.Control(ID_TRAYS));
     SelectEntry(driver.Control(ID_TRAYS), 1);
     PressWithCtrl(sheet, 'C');
-    ASSERT_TRUE(OpenClipboard(nullptr));
-    const auto* text = static_cast<const wchar_t*>(GlobalLock(GetClipboardData(CF_UNICODETEXT)));
-    EXPECT_EQ(text == nullptr ? L"" : std::wstring(text).substr(0, 23), L"Tray 2\tUnknown\tUnknown\t");
-    CloseClipboard();
+    EXPECT_EQ(Clipboard().substr(0, 23), L"Tray 2\tUnknown\tUnknown\t");
 }
 
 TEST_F(Sheet, TipShowsCutCell) {

@@ -39,5 +39,6 @@
 #define ID_LOGO  1041
 #define ID_FILES 1042
 #define ID_RESET 1043
+#define ID_COPY  1044
 
 #endif

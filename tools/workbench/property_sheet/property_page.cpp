@@ -184,6 +184,16 @@ void PropertyPage::SetEntries(int id, const std::vector<std::string>& entries, i
     EnableList(id, !entries.empty());
 }
 
+bool PropertyPage::Confirm(const std::string& question) const {
+    const HWND sheet = GetParent(window);
+    if (state.user == nullptr)
+        return MessageBoxW(sheet, Wide(question).c_str(), Wide(TextOf(sheet)).c_str(),
+                           MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2)
+               == IDYES;
+    state.user->questions.push_back(question);
+    return state.user->confirms;
+}
+
 void PropertyPage::NoteChange() const {
     state.hasChanges = true;
     SendMessageW(GetParent(window), PSM_CHANGED, reinterpret_cast<WPARAM>(window), 0);

@@ -50,6 +50,9 @@ protected:
     // disabled, as a list view without rows is.
     void SetEntries(int id, const std::vector<std::string>& entries, int selected) const;
 
+    // Asks the person a question; false: no.
+    bool Confirm(const std::string& question) const;
+
     // Marks the state as changed and enables Apply.
     void NoteChange() const;
 

@@ -25,8 +25,10 @@ struct DeviceReport {
 
 // A program that uses the sheet instead of a person.
 struct SheetUser {
-    DialogScript script;               // for the next dialog that is opened
-    std::vector<std::string> failures; // that a person would see in a message box
+    DialogScript script;                // for the next dialog that is opened
+    std::vector<std::string> failures;  // that a person would see in a message box
+    std::vector<std::string> questions; // that a person would be asked
+    bool confirms = true;               // the answer to them
 };
 
 struct SheetState {

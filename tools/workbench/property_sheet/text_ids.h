@@ -37,6 +37,14 @@
 #define TEXT_SAME_AS_IMAGES    2037
 #define TEXT_SAME_AS_TEXT      2038
 
+// Version
+#define TEXT_FILE      2039
+#define TEXT_VERSION   2040
+#define TEXT_DATE      2041
+#define TEXT_BYTES     2042
+#define TEXT_MISSING   2043
+#define TEXT_ASK_RESET 2044
+
 // Errors
 #define TEXT_CLIPBOARD_IN_USE 2010
 #define TEXT_OTHER_MODEL      2011
@@ -50,6 +58,6 @@
 #define TEXT_SAVE_FAILED      2019
 #define TEXT_PRINTER          2020
 
-#define TEXT_END 2039
+#define TEXT_END 2045
 
 #endif
