@@ -1,8 +1,12 @@
 // `workbench tour` as a process, on a screen and with simulated printers: the program uses the property
 // sheet, the tests check the report.
 #include "tools/workbench/workbench_run.h"
+#include "workbench/property_sheet/page_ids.h"
+#include "workbench/property_sheet/property_page.h"
 
 #include <fstream>
+#include <functional>
+#include <thread>
 
 namespace {
 
@@ -108,6 +112,60 @@ TEST(WorkbenchSheet, SettingsAreKeptForTheirModelOnly) {
         EXPECT_EQ(tour(german).first, "");
         EXPECT_EQ(Json::parse(Contents(file))["options"]["OpOutTrayUnit"], "OpOutTrayUnit1") << "reported at first";
     }
+}
+
+// Runs the sheet for a person, who uses its window and presses a button. Returns the report.
+Json RunForPerson(const fs::path& file, int button, const std::function<void(HWND sheet)>& use) {
+    Json report;
+    std::thread program([&] { report = RunForJson(L"run --state \"" + file.wstring() + L"\""); });
+    HWND sheet = nullptr;
+    for (int waits = 0; sheet == nullptr && waits < 600; ++waits) {
+        Sleep(50);
+        sheet = FindWindowW(L"#32770", L"lumora R880");
+    }
+    EXPECT_NE(sheet, nullptr) << "the sheet has not opened";
+    use(sheet);
+    PostMessageW(sheet, WM_COMMAND, static_cast<WPARAM>(button), 0);
+    program.join();
+    return report["settings"];
+}
+
+POINT CornerOf(HWND window) {
+    RECT frame = {};
+    GetWindowRect(window, &frame);
+    return {frame.left, frame.top};
+}
+
+TEST(WorkbenchSheet, PlaceIsKeptAndSettingsOnlyAfterOk) {
+    const SheetFolder folder;
+    const fs::path file = folder.path / "kept.json";
+    const auto change = [](HWND sheet) {
+        SendMessageW(sheet, PSM_SETCURSEL, kPaperPage, 0);
+        const auto page = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETCURRENTPAGEHWND, 0, 0));
+        SendDlgItemMessageW(page, ID_SOURCE, CB_SETCURSEL, 2, 0);
+        SendMessageW(page, WM_COMMAND, MAKEWPARAM(ID_SOURCE, CBN_SELCHANGE), 0);
+    };
+    const Json cancelled = RunForPerson(file, IDCANCEL, [&](HWND sheet) {
+        RECT frame = {};
+        GetWindowRect(sheet, &frame);
+        EXPECT_EQ(frame.left + frame.right, GetSystemMetrics(SM_CXSCREEN)) << "not in the middle";
+        SetWindowPos(sheet, nullptr, 310, 205, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        change(sheet);
+    });
+    EXPECT_EQ(cancelled, Json({{"saved", false}, {"keptIn", nullptr}}));
+    EXPECT_EQ(Json::parse(Contents(file)), Json({{"place", {{"x", 310}, {"y", 205}}}}));
+
+    const Json saved = RunForPerson(file, IDOK, [&](HWND sheet) {
+        EXPECT_EQ(CornerOf(sheet).x, 310);
+        EXPECT_EQ(CornerOf(sheet).y, 205);
+        SetWindowPos(sheet, nullptr, 5000, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        change(sheet);
+    });
+    EXPECT_EQ(saved, Json({{"saved", true}, {"keptIn", file.u8string()}}));
+    EXPECT_TRUE(Json::parse(Contents(file))["settings"].is_string());
+
+    RunForPerson(file, IDCANCEL, [](HWND sheet) { EXPECT_LT(CornerOf(sheet).x, GetSystemMetrics(SM_CXSCREEN)); });
+    EXPECT_TRUE(Json::parse(Contents(file))["settings"].is_string()) << "lost by saving the place";
 }
 
 TEST(WorkbenchSheet, DamagedStateFileIsReportedOnceAndKeptAside) {

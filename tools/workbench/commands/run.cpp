@@ -12,5 +12,6 @@ Document RunSheet(const FamilyFiles& family, const std::string& file) {
         ShowWarning(warning, ModelName(family));
     SheetWindow sheet(state);
     while (sheet.HandleMessages()) {}
+    SavePlace(state, sheet.Place());
     return {{"settings", SavingDocument(state)}};
 }

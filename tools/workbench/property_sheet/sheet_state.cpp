@@ -48,6 +48,15 @@ bool LoadText(const Document& from, std::string& text) {
     return from.IsText() || from.IsNull();
 }
 
+bool LoadPlace(const Document& from, std::optional<POINT>& place) {
+    if (from.IsNull())
+        return true;
+    if (!from["x"].IsInteger() || !from["y"].IsInteger())
+        return false;
+    place = POINT{static_cast<LONG>(from["x"].Integer()), static_cast<LONG>(from["y"].Integer())};
+    return true;
+}
+
 bool LoadOptions(const Document& from, OptionFeatures& options) {
     for (const auto& option : from.Fields()) {
         if (option.value.IsText())
@@ -64,7 +73,8 @@ bool LoadFields(const Document& kept, SheetState& state) {
            && LoadHex(kept["trays"], state.papers.data(), sizeof(state.papers))
            && LoadText(kept["address"], state.address)
            && LoadText(kept["toldBy"], state.reportedBy) // of older versions
-           && LoadText(kept["reportedBy"], state.reportedBy) && LoadOptions(kept["options"], state.options);
+           && LoadText(kept["reportedBy"], state.reportedBy) && LoadOptions(kept["options"], state.options)
+           && LoadPlace(kept["place"], state.place);
 }
 
 // Whether the file is of the sheet's model. Older versions did not keep the model: then the trays must be the
@@ -173,11 +183,19 @@ void SaveState(SheetState& state) {
         kept["options"][row["feature"].Text()] = row["item"];
     kept["trays"] = Hex(state.papers.data(), sizeof(state.papers));
     kept["settings"] = Hex(&state.settings, sizeof(state.settings));
+    kept["place"] = state.saved["place"];
     if (const DWORD error = TryWriteFile(state.file, JsonForm(kept, 1) + "\n"); error != ERROR_SUCCESS)
         throw Failure(kExitFailed, SaveErrorText(state.file, error));
     state.saved = kept;
     state.hasChanges = false;
     state.wasSaved = true;
+}
+
+void SavePlace(SheetState& state, POINT place) {
+    if (state.file.empty())
+        return;
+    state.saved["place"] = {{"x", place.x}, {"y", place.y}};
+    TryWriteFile(state.file, JsonForm(state.saved, 1) + "\n");
 }
 
 Document SavingDocument(const SheetState& state) {

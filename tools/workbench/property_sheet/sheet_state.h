@@ -10,6 +10,8 @@
 #include "workbench/lib/profile_file.h"
 #include "workbench/lib/tray_papers.h"
 
+#include <optional>
+
 // The results of querying a printer, as far as the query has succeeded.
 struct DeviceReport {
     std::string address;   // of the printer
@@ -43,6 +45,7 @@ struct SheetState {
     std::string address;    // of the printer
     std::string reportedBy; // address of the printer that reported options and papers; empty: none
     TrayPapers papers;
+    std::optional<POINT> place; // of the sheet's window on the screen, in pixels
 
     DeviceReport report; // of the last query; its address is empty when that has failed
     std::string status;  // of the query, as shown to the user
@@ -65,6 +68,9 @@ std::string LoadState(SheetState& state);
 // Saves the state if it has changed. Throws Failure that says what the user can do when the file cannot be
 // written.
 void SaveState(SheetState& state);
+
+// Saves where the window is, and nothing else. It does not matter if that fails.
+void SavePlace(SheetState& state, POINT place);
 
 // Whether the state has been saved, and where.
 Document SavingDocument(const SheetState& state);

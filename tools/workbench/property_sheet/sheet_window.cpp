@@ -4,12 +4,40 @@
 #include "workbench/lib/model_name.h"
 #include "workbench/lib/text.h"
 
+#include <algorithm>
+
 #include <commctrl.h>
 
 namespace {
 
 constexpr std::unique_ptr<PropertyPage> (*kPages[])(SheetState& state) = {MakePrinterPage, MakePaperPage,
                                                                           MakeQualityPage, MakeVersionPage};
+
+// The place of the sheet that is being opened, for MoveSheet; null: none.
+const std::optional<POINT>* nextPlace;
+
+// Before the sheet is shown. Wherever it was, it is completely on a monitor, next to the task bar.
+int CALLBACK MoveSheet(HWND sheet, UINT message, LPARAM /*lParam*/) {
+    if (message != PSCB_INITIALIZED)
+        return 0;
+    POINT place = {};
+    GetCursorPos(&place);
+    if (nextPlace->has_value())
+        place = **nextPlace;
+    MONITORINFO monitor = {};
+    monitor.cbSize = sizeof(monitor);
+    GetMonitorInfoW(MonitorFromPoint(place, MONITOR_DEFAULTTONEAREST), &monitor);
+    const RECT& area = monitor.rcWork;
+    RECT frame = {};
+    GetWindowRect(sheet, &frame);
+    const SIZE size = {frame.right - frame.left, frame.bottom - frame.top};
+    if (!nextPlace->has_value())
+        place = {(area.left + area.right - size.cx) / 2, (area.top + area.bottom - size.cy) / 2};
+    place.x = std::max(area.left, std::min(place.x, area.right - size.cx));
+    place.y = std::max(area.top, std::min(place.y, area.bottom - size.cy));
+    SetWindowPos(sheet, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    return 0;
+}
 
 } // namespace
 
@@ -22,7 +50,9 @@ SheetWindow::SheetWindow(SheetState& state) {
     }
     PROPSHEETHEADERW header = {};
     header.dwSize = sizeof(header);
-    header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS;
+    header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS | PSH_USECALLBACK;
+    header.pfnCallback = MoveSheet;
+    nextPlace = &state.place;
     const std::wstring name = Wide(ModelName(state.family));
     header.pszCaption = name.c_str();
     header.nPages = static_cast<UINT>(descriptions.size());
@@ -38,6 +68,12 @@ SheetWindow::~SheetWindow() {
 
 HWND SheetWindow::CurrentPage() const {
     return reinterpret_cast<HWND>(SendMessageW(window, PSM_GETCURRENTPAGEHWND, 0, 0));
+}
+
+POINT SheetWindow::Place() const {
+    RECT frame = {};
+    GetWindowRect(window, &frame);
+    return {frame.left, frame.top};
 }
 
 bool SheetWindow::HandleMessages(DWORD maxWait) {

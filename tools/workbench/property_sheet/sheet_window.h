@@ -4,7 +4,8 @@
 
 #include "workbench/property_sheet/property_page.h"
 
-// An open sheet. The destructor destroys the window, then the pages.
+// An open sheet, where it was last time: the first time in the middle of the monitor with the mouse. The
+// destructor destroys the window, then the pages.
 class SheetWindow {
 public:
     // Throws Failure when there is no display.
@@ -15,6 +16,7 @@ public:
 
     HWND Window() const { return window; }
     HWND CurrentPage() const;
+    POINT Place() const; // the window's corner on the screen
 
     // Waits for messages, at most this many milliseconds, and handles them. False when OK or Cancel has
     // closed the sheet.
