@@ -7,6 +7,7 @@
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
+#include "workbench/property_sheet/text_ids.h"
 
 #include <regex>
 #include <set>
@@ -341,6 +342,49 @@ TEST_F(Sheet, TipShowsCutCell) {
     hover("");
 }
 
+// --- Languages ---------------------------------------------------------------------------------------------
+
+// The texts of the sheet's buttons and of all pages as they open.
+std::vector<std::string> TextsIn(const char* language, HINSTANCE templates) {
+    UseLanguage(language);
+    SheetState state(Family(), templates);
+    SheetWindow sheet(state);
+    std::vector<std::string> texts;
+    for (int page = kPrinterPage; page <= kVersionPage; ++page) {
+        SendMessageW(sheet.Window(), PSM_SETCURSEL, static_cast<WPARAM>(page), 0);
+        for (HWND parent : {sheet.Window(), sheet.CurrentPage()})
+            for (HWND control : ControlsOf(parent))
+                if (IsOfClass(control, L"Static") || IsOfClass(control, L"Button"))
+                    texts.push_back(TextOf(control));
+    }
+    UseLanguage("en");
+    return texts;
+}
+
+std::multiset<char> PlacesIn(const std::string& text) {
+    std::multiset<char> places;
+    for (size_t at = text.find('{'); at != std::string::npos; at = text.find('{', at + 1))
+        places.insert(text.at(at + 1));
+    return places;
+}
+
+TEST_F(Sheet, BothLanguagesAreComplete) {
+    const std::set<std::string> alike = {"", "OK", "Help", "De&tails", "Version", "Text", "{1}, {2}", "{1} \u2192 {2}"};
+    const std::vector<std::string> english = TextsIn("en", templates.get());
+    const std::vector<std::string> german = TextsIn("de", templates.get());
+    ASSERT_EQ(english.size(), german.size());
+    for (size_t i = 0; i < english.size(); ++i)
+        EXPECT_EQ(english[i] == german[i], alike.count(english[i]) != 0) << english[i] << " / " << german[i];
+    for (UINT id = TEXT_FIRST; id < TEXT_END; ++id) {
+        const std::string text = TextIn(kEnglish, id);
+        const std::string translated = TextIn(kGerman, id);
+        EXPECT_TRUE(!text.empty() && !translated.empty()) << id;
+        EXPECT_EQ(text == translated, alike.count(text) != 0) << text << " / " << translated;
+        EXPECT_EQ(PlacesIn(text), PlacesIn(translated)) << text << " / " << translated;
+    }
+    EXPECT_EQ(LocalizedText(TEXT_SETTING_OF, {"{2}", "b"}), "{2}, b") << "arguments are not patterns";
+}
+
 // --- At every resolution -----------------------------------------------------------------------------------
 
 // 0 for a control without a mark in its text.
@@ -367,8 +411,16 @@ RECT TextSize(HWND control, const std::string& text, LONG width) {
     return needed;
 }
 
-struct SheetLayout : Sheet, testing::WithParamInterface<int> {
-    SheetLayout() { driver.TurnTo(static_cast<SheetPage>(GetParam())); }
+// A page and a language.
+using PageParameters = testing::WithParamInterface<std::tuple<int, const char*>>;
+
+struct ParameterLanguage {
+    ParameterLanguage() { UseLanguage(std::get<1>(PageParameters::GetParam())); }
+    ~ParameterLanguage() { UseLanguage("en"); }
+};
+
+struct SheetLayout : ParameterLanguage, Sheet, PageParameters {
+    SheetLayout() { driver.TurnTo(static_cast<SheetPage>(std::get<0>(GetParam()))); }
 };
 
 TEST_P(SheetLayout, EveryControlHasAUniqueAccessKey) {
@@ -404,11 +456,12 @@ TEST_P(SheetLayout, ControlsFitWithoutOverlap) {
         if (!IsOfClass(control, L"Static") && !IsOfClass(control, L"Button"))
             continue;
         const RECT needed = TextSize(control, TextOf(control), place.right - place.left);
-        EXPECT_LE(needed.right, place.right - place.left);
+        const LONG edge = IsOfClass(control, L"Button") ? TextSize(control, "x", 100).right : 0; // left and right
+        EXPECT_LE(needed.right + 2 * edge, place.right - place.left);
         EXPECT_LE(needed.bottom, place.bottom - place.top + 1);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, SheetLayout, testing::Range(0, 4));
+INSTANTIATE_TEST_SUITE_P(Pages, SheetLayout, testing::Combine(testing::Range(0, 4), testing::Values("en", "de")));
 
 } // namespace

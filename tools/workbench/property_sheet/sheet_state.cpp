@@ -16,7 +16,6 @@ namespace {
 
 constexpr const wchar_t* kFolderName = L"lumora workbench";
 constexpr const wchar_t* kFileName = L"property_sheet.json";
-constexpr const char* kNotQueried = "Not queried yet. The picture shows the options selected above.";
 
 std::string Hex(const void* record, size_t size) {
     constexpr const char* kDigits = "0123456789abcdef";
@@ -143,7 +142,7 @@ void ResetState(SheetState& state) {
     state.reportedBy.clear();
     state.papers = UnknownPapers(state.family);
     state.report = {};
-    state.status = kNotQueried;
+    state.status = LocalizedText(TEXT_NOT_QUERIED);
 }
 
 std::string LoadState(SheetState& state) {

@@ -1,8 +1,10 @@
 // Creates the property sheet and runs its message loop.
 #include "workbench/property_sheet/sheet_window.h"
 
+#include "workbench/lib/localized_text.h"
 #include "workbench/lib/model_name.h"
 #include "workbench/lib/text.h"
+#include "workbench/property_sheet/text_ids.h"
 
 #include <algorithm>
 
@@ -13,17 +15,16 @@ namespace {
 constexpr std::unique_ptr<PropertyPage> (*kPages[])(SheetState& state) = {MakePrinterPage, MakePaperPage,
                                                                           MakeQualityPage, MakeVersionPage};
 
-// The place of the sheet that is being opened, for MoveSheet; null: none.
+constexpr int kApplyButton = 0x3021; // of all property sheets
+
+// The last place of the sheet that is being opened, for PrepareSheet.
 const std::optional<POINT>* nextPlace;
 
-// Before the sheet is shown. Wherever it was, it is completely on a monitor, next to the task bar.
-int CALLBACK MoveSheet(HWND sheet, UINT message, LPARAM /*lParam*/) {
-    if (message != PSCB_INITIALIZED)
-        return 0;
+// Wherever it was, the sheet is completely on a monitor, next to the task bar.
+void MoveSheet(HWND sheet, const std::optional<POINT>& lastPlace) {
     POINT place = {};
     GetCursorPos(&place);
-    if (nextPlace->has_value())
-        place = **nextPlace;
+    place = lastPlace.value_or(place);
     MONITORINFO monitor = {};
     monitor.cbSize = sizeof(monitor);
     GetMonitorInfoW(MonitorFromPoint(place, MONITOR_DEFAULTTONEAREST), &monitor);
@@ -31,11 +32,20 @@ int CALLBACK MoveSheet(HWND sheet, UINT message, LPARAM /*lParam*/) {
     RECT frame = {};
     GetWindowRect(sheet, &frame);
     const SIZE size = {frame.right - frame.left, frame.bottom - frame.top};
-    if (!nextPlace->has_value())
+    if (!lastPlace.has_value())
         place = {(area.left + area.right - size.cx) / 2, (area.top + area.bottom - size.cy) / 2};
     place.x = std::max(area.left, std::min(place.x, area.right - size.cx));
     place.y = std::max(area.top, std::min(place.y, area.bottom - size.cy));
     SetWindowPos(sheet, nullptr, place.x, place.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Before the sheet is shown. The system has its buttons in its own languages only.
+int CALLBACK PrepareSheet(HWND sheet, UINT message, LPARAM /*lParam*/) {
+    if (message != PSCB_INITIALIZED)
+        return 0;
+    for (const auto& [button, text] : {std::pair(IDCANCEL, TEXT_CANCEL), {kApplyButton, TEXT_APPLY}})
+        SetDlgItemTextW(sheet, button, Wide(LocalizedText(text)).c_str());
+    MoveSheet(sheet, *nextPlace);
     return 0;
 }
 
@@ -51,7 +61,7 @@ SheetWindow::SheetWindow(SheetState& state) {
     PROPSHEETHEADERW header = {};
     header.dwSize = sizeof(header);
     header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS | PSH_USECALLBACK;
-    header.pfnCallback = MoveSheet;
+    header.pfnCallback = PrepareSheet;
     nextPlace = &state.place;
     const std::wstring name = Wide(ModelName(state.family));
     header.pszCaption = name.c_str();

@@ -58,6 +58,12 @@
 #define TEXT_SAVE_FAILED      2019
 #define TEXT_PRINTER          2020
 
-#define TEXT_END 2045
+// The sheet
+#define TEXT_CANCEL 2045
+#define TEXT_APPLY  2046
+
+#define TEXT_NOT_QUERIED 2047
+
+#define TEXT_END 2048
 
 #endif
