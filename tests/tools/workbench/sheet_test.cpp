@@ -78,6 +78,9 @@ TEST(WorkbenchSheet, LargeModelIsShown) {
     const SheetFolder folder;
     EXPECT_EQ(folder.Tour(large.Option())["trays"][1]["size"], "A3");
     EXPECT_EQ(RunForJson(L"dialog 155 " + large.Option())["dialog"]["end"], "Cancel");
+
+    const OtherModel longNames("plain_paper"); // longer than the names of bins may be
+    EXPECT_EQ(folder.Tour(longNames.Option())["trays"][2]["size"], "A3");
 }
 
 TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {

@@ -9,14 +9,30 @@ namespace {
 
 constexpr DWORD kMaxWait = 60000; // milliseconds, for a printer's answers
 
-// The name of the item with the key, else of the last item; empty when the list is empty.
+// The item with the key, else the last item; null when the list is empty.
 template <typename Record>
-std::string NameIn(const Record* list, const char* key) {
+const Record* ItemIn(const Record* list, const char* key) {
     const Rows<Record> items = Listed(list);
     const Record* item = FindByKey(list, key);
-    if (item == nullptr && items.count > 0)
-        item = items.end() - 1;
+    return item != nullptr || items.count == 0 ? item : items.end() - 1;
+}
+
+template <typename Record>
+std::string NameIn(const Record* list, const char* key) {
+    const Record* item = ItemIn(list, key);
     return item != nullptr ? FieldText(item->display) : "";
+}
+
+// The position of the tray with this bin in the tray dialog and the list of papers; the last one if it is
+// beyond.
+size_t TrayPosition(const TrayPapers& papers, uint32_t bin) {
+    size_t last = 0;
+    for (size_t i = 0; i < papers.size() && papers[i].key[0] != 0; ++i) {
+        if (papers[i].bin == bin)
+            return i;
+        last = i;
+    }
+    return last;
 }
 
 struct Tour {
@@ -42,7 +58,7 @@ void VisitPrinter(Tour& tour, const std::string& address) {
     }
     tour.status = driver.Text(ID_STATUS);
     if (const ItemRecord* fax = FindOption(tour.state.options, "OpFAXUnit=EnaOpFAXKit")) {
-        driver.Choose(ID_OPTIONS, "Fax");
+        driver.Choose(ID_OPTIONS, OptionName("OpFAXUnit"));
         driver.Choose(ID_OPTION_ITEMS, FieldText(fax->display));
     }
     tour.SavePicture("page-printer");
@@ -50,16 +66,22 @@ void VisitPrinter(Tour& tour, const std::string& address) {
 
 void VisitPaper(Tour& tour) {
     const DeviceTable& table = *tour.state.family.table;
-    const std::string tray = NameIn(table.inputTrays, "InTray2"),
-                      type = NameIn(table.mediaTypes, "Letterhead");
+    const InputSlotRecord* tray = ItemIn(table.inputTrays, "InTray2");
+    const CompactItemRecord* type = ItemIn(table.mediaTypes, "Letterhead");
     tour.driver.TurnTo(kPaperPage);
-    if (!tray.empty())
-        tour.driver.Choose(ID_SOURCE, tray);
-    if (!type.empty())
-        tour.driver.Choose(ID_TYPE, type);
-    if (TrayDialogOf(table).id != 0 && !tray.empty()) {
-        tour.user.script = ParseDialogScript(
-            "choose 1844 " + tray + "\nchoose 1860 " + NameIn(table.paperSizes, "A3") + "\nok", "tour");
+    if (tray != nullptr) { // the page shows names that may be cut
+        const std::vector<PaperSource> sources = OfferedSources(tour.state);
+        for (size_t i = 0; i < sources.size(); ++i)
+            if (sources[i].bin == tray->head.value)
+                tour.driver.ChooseAt(ID_SOURCE, i);
+    }
+    if (type != nullptr)
+        tour.driver.ChooseAt(ID_TYPE, static_cast<size_t>(type - table.mediaTypes));
+    if (TrayDialogOf(table).id != 0 && tray != nullptr) {
+        const size_t row = TrayPosition(tour.state.papers, tray->head.value);
+        tour.user.script = ParseDialogScript("choose 1844 #" + std::to_string(row) + "\nchoose 1860 "
+                                                 + NameIn(table.paperSizes, "A3") + "\nok",
+                                             "tour");
         tour.driver.Click(ID_TRAY_BUTTON);
     }
     tour.SavePicture("page-paper");

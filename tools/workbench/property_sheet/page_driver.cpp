@@ -20,7 +20,11 @@ void PageDriver::Choose(int list, const std::string& wanted) const {
     const auto found = std::find(entries.begin(), entries.end(), wanted);
     if (found == entries.end())
         throw Failure(kExitFailed, "the page has no '" + wanted + "' in list " + std::to_string(list));
-    SelectEntry(Control(list), static_cast<WPARAM>(found - entries.begin()));
+    ChooseAt(list, static_cast<size_t>(found - entries.begin()));
+}
+
+void PageDriver::ChooseAt(int list, size_t position) const {
+    SelectEntry(Control(list), position);
     SendMessageW(sheet.CurrentPage(), WM_COMMAND, MAKEWPARAM(list, CBN_SELCHANGE),
                  reinterpret_cast<LPARAM>(Control(list)));
 }

@@ -22,6 +22,9 @@ public:
     // Selects the first entry or row with this text. Throws Failure when there is none.
     void Choose(int list, const std::string& wanted) const;
 
+    // Selects the entry or row at this position.
+    void ChooseAt(int list, size_t position) const;
+
     // Presses a button of the sheet: PSBTN_OK, PSBTN_APPLYNOW, PSBTN_CANCEL. False when the sheet has closed.
     bool Press(int button) const;
 

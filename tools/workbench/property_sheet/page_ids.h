@@ -3,6 +3,8 @@
 #ifndef WORKBENCH_PROPERTY_SHEET_PAGE_IDS_H
 #define WORKBENCH_PROPERTY_SHEET_PAGE_IDS_H
 
+#define PROGRAM_ICON 1 // the system shows the one with the lowest number
+
 #define PAGE_PRINTER 101
 #define PAGE_PAPER   102
 #define PAGE_QUALITY 103

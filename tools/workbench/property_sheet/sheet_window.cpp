@@ -4,6 +4,7 @@
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/model_name.h"
 #include "workbench/lib/text.h"
+#include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/text_ids.h"
 
 #include <algorithm>
@@ -60,7 +61,9 @@ SheetWindow::SheetWindow(SheetState& state) {
     }
     PROPSHEETHEADERW header = {};
     header.dwSize = sizeof(header);
-    header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS | PSH_USECALLBACK;
+    header.dwFlags = PSH_PROPSHEETPAGE | PSH_MODELESS | PSH_USECALLBACK | PSH_USEICONID;
+    header.hInstance = GetModuleHandleW(nullptr);
+    header.pszIcon = MAKEINTRESOURCEW(PROGRAM_ICON);
     header.pfnCallback = PrepareSheet;
     nextPlace = &state.place;
     const std::wstring name = Wide(ModelName(state.family));
