@@ -7,6 +7,7 @@
 #include "workbench/lib/model_dialogs.h"
 #include "workbench/lib/printer_scene.h"
 
+#include <algorithm>
 #include <CLI/CLI.hpp>
 #include <memory>
 
@@ -200,6 +201,13 @@ constexpr struct {
     {"tour", "Opens the property sheet, uses its pages and saves a picture of each", SetUpTour},
 };
 
+// What is wrong with the name of a language; empty: nothing.
+std::string LanguageFault(const std::string& name) {
+    const std::vector<std::string> names = {"en", "de"};
+    const bool isKnown = std::find(names.begin(), names.end(), name) != names.end();
+    return isKnown ? "" : "there is no language '" + name + "'; " + Choices(names);
+}
+
 void AddCommands(CLI::App& app, CommandLine& line) {
     app.require_subcommand(1);
     app.get_formatter()->label("SUBCOMMAND", "COMMAND");
@@ -213,7 +221,7 @@ void AddCommands(CLI::App& app, CommandLine& line) {
             .add_option("--language", line.language,
                         "Language of windows, en or de (default: the user's); other output is English")
             ->type_name("LANGUAGE")
-            ->check(CLI::IsMember({"en", "de"}).description(""));
+            ->check(CLI::Validator(LanguageFault, ""));
         command.add_flag("--json", line.json, "Writes JSON instead of text");
         command.callback([&line, run = row.setUp(command)] { line.run = run; });
     }

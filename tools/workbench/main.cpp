@@ -33,6 +33,17 @@ std::vector<std::string> Arguments(int argc, wchar_t** argv) {
     return arguments;
 }
 
+// A person who started the program from the desktop can't use what the failure says of options and builds.
+FamilyFiles OpenFiles(int argc, const std::string& folder) {
+    try {
+        return OpenFamilyFiles(std::filesystem::u8path(folder));
+    } catch (const Failure&) {
+        if (!IsStartedWithoutArguments(argc))
+            throw;
+        throw Failure(kExitFailed, LocalizedText(TEXT_CANNOT_START, {ProgramFolder().u8string()}));
+    }
+}
+
 void RunProgram(int argc, wchar_t** argv) {
     const CommandLine line = ReadCommandLine(Arguments(argc, argv));
     if (!line.help.empty()) {
@@ -40,7 +51,7 @@ void RunProgram(int argc, wchar_t** argv) {
         return;
     }
     UseLanguage(line.language);
-    const Document document = line.run(OpenFamilyFiles(std::filesystem::u8path(line.folder)));
+    const Document document = line.run(OpenFiles(argc, line.folder));
     Print(STD_OUTPUT_HANDLE, line.json ? JsonForm(document, 2) + "\n" : TextForm(document));
 }
 

@@ -293,6 +293,7 @@ void PressWithCtrl(SheetWindow& sheet, WPARAM key) {
 
 TEST_F(Sheet, FocusMovesToThePageThatKeysTurnTo) {
     sheet.HandleMessages(1);
+    EXPECT_EQ(GetFocus(), GetNextDlgTabItem(sheet.CurrentPage(), nullptr, FALSE)) << "when the sheet opens";
     for (const auto& [key, page] : {std::pair(VK_TAB, kPaperPage),
                                     {VK_NEXT, kQualityPage},
                                     {VK_NEXT, kVersionPage},

@@ -149,7 +149,8 @@ TEST(Workbench, FailureSaysWhatIsWrongAndWhatIsPossible) {
     const Folder foreign(L"workbench_foreign", {"TELMAR_D.DLL=TELMAR_S.DLL", "TELMAR_D.PRM"});
     const Queue withoutAddress(L"Workbench test", L"WORKBENCH_1");
     ExpectFailure(L"foo", 2, "no command 'foo'.*possible: .*describe, capabilities");
-    ExpectFailure(L"describe --color", 2, "describe has no option '--color'.*--folder, --json");
+    ExpectFailure(L"describe --color", 2, "describe has no option '--color'.*--folder, --language, --json");
+    ExpectFailure(L"describe --language fr", 2, "no language 'fr'; possible: en, de");
     ExpectFailure(L"query", 2, "ADDRESS is required");
     ExpectFailure(L"capabilities --set OpTray3=Yes", 2, "'OpTray3'.*OpOutTrayUnit.*OpInTray3");
     ExpectFailure(L"capabilities --set OpInTray3=Yes", 2, "OpInTray3.*'Yes'.*EnaOpInTray3, DisOpInTray3");

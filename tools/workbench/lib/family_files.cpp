@@ -11,12 +11,6 @@ constexpr const wchar_t* kModuleName = L"TELMAR_D.DLL";
 constexpr const wchar_t* kParameterName = L"TELMAR_D.PRM";
 constexpr const char* kOtherFolder = "; put it there, or specify its folder with --folder";
 
-std::filesystem::path ProgramFolder() {
-    std::wstring path(32768, L'\0'); // the longest path of Windows
-    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
-    return std::filesystem::path(path).parent_path();
-}
-
 // Call it before anything else sets the last error.
 [[noreturn]] void FailToOpen(const std::filesystem::path& path, const char* what) {
     const std::string reason = ErrorText(GetLastError());
@@ -24,6 +18,12 @@ std::filesystem::path ProgramFolder() {
 }
 
 } // namespace
+
+std::filesystem::path ProgramFolder() {
+    std::wstring path(32768, L'\0'); // the longest path of Windows
+    path.resize(GetModuleFileNameW(nullptr, path.data(), static_cast<DWORD>(path.size())));
+    return std::filesystem::path(path).parent_path();
+}
 
 FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
     FamilyFiles family;

@@ -25,6 +25,9 @@ struct FamilyFiles {
     std::unique_ptr<DeviceTable, Release> table; // also owns the media type lists
 };
 
+// The folder of the program's own file.
+std::filesystem::path ProgramFolder();
+
 // Opens the files of this folder, or of the program's own folder when the path is empty. Call it once: it
 // also fills the default settings, texts and lists of the process. Throws Failure when a file is missing or
 // unusable.

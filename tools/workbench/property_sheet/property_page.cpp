@@ -2,15 +2,37 @@
 #include "workbench/property_sheet/property_page.h"
 
 #include "workbench/lib/dialog_run.h"
+#include "workbench/lib/localized_text.h"
 #include "workbench/lib/output.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/list_view.h"
+#include "workbench/property_sheet/text_ids.h"
+
+#include <algorithm>
 
 #include <commctrl.h>
 
 namespace {
 
 constexpr UINT kActivated = WM_APP + 100; // posted to a page that has become current
+
+// Makes the list of a combo box as wide as its longest entry, but not narrower than the box.
+void WidenDropDown(HWND comboBox, const std::vector<std::string>& entries) {
+    const HDC dc = GetDC(comboBox);
+    const HGDIOBJ before =
+        SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(comboBox, WM_GETFONT, 0, 0)));
+    int width = 0;
+    for (const std::string& entry : entries) {
+        const std::wstring text = Wide(entry);
+        SIZE size = {};
+        GetTextExtentPoint32W(dc, text.c_str(), static_cast<int>(text.size()), &size);
+        width = std::max(width, static_cast<int>(size.cx));
+    }
+    SelectObject(dc, before);
+    ReleaseDC(comboBox, dc);
+    const int edges = 2 * GetSystemMetrics(SM_CXEDGE) + GetSystemMetrics(SM_CXVSCROLL);
+    SendMessageW(comboBox, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width + edges), 0);
+}
 
 } // namespace
 
@@ -182,6 +204,7 @@ void PropertyPage::SetEntries(int id, const std::vector<std::string>& entries, i
         Send(id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry).c_str()));
     Send(id, CB_SETCURSEL, static_cast<WPARAM>(selected));
     EnableList(id, !entries.empty());
+    WidenDropDown(Control(id), entries);
 }
 
 bool PropertyPage::Confirm(const std::string& question) const {
@@ -207,8 +230,15 @@ void PropertyPage::RunModelDialog(const ModelDialog& dialog) {
     DialogScript noScript;
     const bool isByPerson = state.user == nullptr;
     HWND sheet = GetParent(window);
-    const DialogEnd end = RunDialog(state.family, state.templates, dialog, areas.context,
-                                    {isByPerson ? noScript : state.user->script, isByPerson, "", sheet});
+    DialogEnd end = {};
+    try {
+        end = RunDialog(state.family, state.templates, dialog, areas.context,
+                        {isByPerson ? noScript : state.user->script, isByPerson, "", sheet});
+    } catch (const Failure&) {
+        if (!isByPerson)
+            throw; // the reason is for developers
+        throw Failure(kExitFailed, LocalizedText(TEXT_DIALOG_FAILED));
+    }
     SetActiveWindow(sheet);
     if (end.code != IDOK)
         return;

@@ -64,6 +64,9 @@
 
 #define TEXT_NOT_QUERIED 2047
 
-#define TEXT_END 2048
+#define TEXT_DIALOG_FAILED 2048
+#define TEXT_CANNOT_START  2049
+
+#define TEXT_END 2050
 
 #endif
