@@ -101,6 +101,7 @@ TEST_P(TrayDialogs, ChangesAreKeptOrRefused) {
                 ExpectRecords(isRefused ? before : chosen);
                 EXPECT_EQ(Shown(attribute.box), isRefused ? shown : attribute.chosen);
                 EXPECT_EQ(Row(), row);
+                EXPECT_EQ(List(LVM_GETNEXTITEM, ~WPARAM{0}, LVNI_FOCUSED), row) << "where the arrow keys go on";
                 EXPECT_LT(row, List(LVM_GETTOPINDEX) + List(LVM_GETCOUNTPERPAGE));
                 records = before;
             }

@@ -267,7 +267,7 @@ int SelectedTrayRow(HWND dialog) {
 
 void SelectTrayRow(HWND dialog, int row) {
     LVITEMW item = {};
-    item.state = item.stateMask = LVIS_SELECTED;
+    item.state = item.stateMask = LVIS_SELECTED | LVIS_FOCUSED; // the arrow keys go on from here
     Send(ListOf(dialog), LVM_SETITEMSTATE, static_cast<WPARAM>(row), &item);
 }
 
