@@ -1,61 +1,169 @@
-// The table of refused combinations of settings, and its checks.
+// The tables of refused combinations of settings, and their checks.
 #include "uimodule/constraints.h"
 
 #include "base/dialog_ids.h"
 #include "base/text.h"
+#include "base/window_services.h"
+#include "dialogs/shared/dialog_context.h"
+#include "paramdata/devmode_fields.h"
+#include "uimodule/library_texts.h"
+#include "uimodule/resource_ids.h"
 
 namespace {
 
-constexpr uint16_t kNoSimulation = 0;
-constexpr uint16_t kFourColorGray = 0; // the treatment that leaves colours unchanged
+// --- Colours
+// -------------------------------------------------------------------------------------------------
 
-bool IsPaperMatchedAlone(const OemDevmode& settings) {
-    return settings.matchPaperColor != 0 && settings.simulation == kNoSimulation;
-}
+enum class Is : uint8_t { kEqual, kNotEqual };
 
-bool IsGrayTreatedAlone(const OemDevmode& settings) {
-    return settings.simulationGray != kFourColorGray && settings.simulation == kNoSimulation;
-}
+struct Condition {
+    DevmodeField field;
+    Is is;
+    uint32_t value;
+};
 
-bool IsSimulatedInBlack(const OemDevmode& settings) {
-    return settings.mono != 0 && settings.simulation != kNoSimulation;
-}
+// Values of the settings.
+constexpr uint32_t kDeviceRgb = 0;
+constexpr uint32_t kAutomatic = 0;    // destination
+constexpr uint32_t kPhotographic = 1; // colour matching
+constexpr uint32_t kExactMatch = 3;
+constexpr uint32_t kBlackToner = 2; // blacks and greys
+constexpr uint32_t kFourColors = 0;
+constexpr uint32_t kFinest = 0; // halftone
+constexpr uint32_t kNoPress = 0;
 
-// A combination is refused at either of its controls: at the choice that needs the other, and at the one that
-// is needed. The first row of a control that is broken counts.
+// A combination that is refused, when both conditions are met, at a choice of either control. It concerns the
+// dialogs that have both.
+struct ColorRule {
+    uint16_t controls[2]; // 0: none
+    uint16_t subject;     // the text in front of the hint; 0: none
+    uint16_t hint;
+    Condition conditions[2];
+};
+
 // clang-format off
-constexpr Constraint kConstraints[] = {
-    {IDC_MATCH_PAPER_COLOR, TELMAR_CHANGE_REFUSED,      IsPaperMatchedAlone, L"The colour of the paper can be matched only while a press is simulated."},
-    {IDC_SIMULATION_GRAY,   TELMAR_CHANGE_REFUSED,      IsGrayTreatedAlone,  L"Blacks and greys of a press can be chosen only while a press is simulated."},
-    {IDC_SIMULATION,        TELMAR_CHANGE_REFUSED,      IsSimulatedInBlack,  L"This printer prints black only. No press can be simulated."},
-    {IDC_SIMULATION,        TELMAR_CHANGE_REFUSED_ALSO, IsPaperMatchedAlone, L"A press is needed while the colour of the paper is matched."},
-    {IDC_SIMULATION,        TELMAR_CHANGE_REFUSED_ALSO, IsGrayTreatedAlone,  L"A press is needed while its blacks and greys are not printed in four colours."},
+#define OF_OBJECT(NAME, object, subject) \
+    {{IDC_##NAME##_COLOR_MATCH, IDC_##NAME##_RGB_SOURCE},  subject, HINT_EXACT_MATCH,  {{FIELD(object.colorMatch),    Is::kEqual,    kExactMatch},   {FIELD(object##RgbSource), Is::kEqual, kDeviceRgb}}}, \
+    {{IDC_##NAME##_COLOR_MATCH, IDC_##NAME##_HALFTONE},    subject, HINT_PHOTOGRAPHIC, {{FIELD(object.colorMatch),    Is::kEqual,    kPhotographic}, {FIELD(object.halftone),   Is::kEqual, kFinest}}}, \
+    {{IDC_##NAME##_DESTINATION, IDC_##NAME##_GRAY},        subject, HINT_BLACK_TONER,  {{FIELD(object##Destination),  Is::kNotEqual, kAutomatic},    {FIELD(object.gray),       Is::kEqual, kBlackToner}}}, \
+    {{IDC_##NAME##_DESTINATION},                           subject, HINT_MONO_PROFILE, {{FIELD(object##Destination),  Is::kNotEqual, kAutomatic},    {FIELD(mono),              Is::kNotEqual, 0}}}
+
+// No rule refuses the default settings.
+constexpr ColorRule kColorRules[] = {
+    OF_OBJECT(IMAGE,    image,    TEXT_IMAGES),
+    OF_OBJECT(TEXT,     text,     TEXT_TEXT),
+    OF_OBJECT(GRAPHICS, graphics, TEXT_GRAPHICS),
+    // The RGB source and the destination of the page
+    {{IDC_IMAGE_COLOR_MATCH, IDC_PAGE_RGB_SOURCE}, TEXT_IMAGES, HINT_EXACT_MATCH,     {{FIELD(image.colorMatch), Is::kEqual,    kExactMatch}, {FIELD(rgbSource),  Is::kEqual,    kDeviceRgb}}},
+    {{IDC_TEXT_COLOR_MATCH,  IDC_PAGE_RGB_SOURCE}, TEXT_TEXT,   HINT_EXACT_MATCH,     {{FIELD(text.colorMatch),  Is::kEqual,    kExactMatch}, {FIELD(rgbSource),  Is::kEqual,    kDeviceRgb}}},
+    {{IDC_PAGE_DESTINATION,  IDC_IMAGE_GRAY},      TEXT_IMAGES, HINT_BLACK_TONER,     {{FIELD(destination),      Is::kNotEqual, kAutomatic},  {FIELD(image.gray), Is::kEqual,    kBlackToner}}},
+    {{IDC_PAGE_DESTINATION},                       0,           HINT_MONO_PROFILE,    {{FIELD(destination),      Is::kNotEqual, kAutomatic},  {FIELD(mono),       Is::kNotEqual, 0}}},
+    // The simulation of a press
+    {{IDC_MATCH_PAPER_COLOR, IDC_SIMULATION},      0,           HINT_PAPER_COLOR,     {{FIELD(matchPaperColor),  Is::kNotEqual, 0},           {FIELD(simulation), Is::kEqual,    kNoPress}}},
+    {{IDC_SIMULATION_GRAY,   IDC_SIMULATION},      0,           HINT_PRESS_GRAYS,     {{FIELD(simulationGray),   Is::kNotEqual, kFourColors}, {FIELD(simulation), Is::kEqual,    kNoPress}}},
+    {{IDC_SIMULATION},                             0,           HINT_MONO_SIMULATION, {{FIELD(simulation),       Is::kNotEqual, kNoPress},    {FIELD(mono),       Is::kNotEqual, 0}}},
+};
+#undef OF_OBJECT
+// clang-format on
+
+bool IsBroken(const ColorRule& rule, const DialogChoices& choices) {
+    const OemDevmode* settings = GetDialogSettings(choices.context);
+    if (settings == nullptr)
+        return false;
+    for (const Condition& condition : rule.conditions) {
+        const bool isEqual = Load(*settings, condition.field) == condition.value;
+        if (isEqual != (condition.is == Is::kEqual))
+            return false;
+    }
+    return true;
+}
+
+// --- Paper in trays
+// ------------------------------------------------------------------------------------------
+
+// A combination of entries that are chosen for the selected tray. A key is the beginning of an item's key.
+struct TrayRule {
+    uint16_t controls[2];
+    uint16_t subject;
+    uint16_t hint;
+    const char* keys[2]; // of the controls' items
+};
+
+// clang-format off
+constexpr TrayRule kTrayRules[] = {
+    {{IDC_TRAY_TYPE, IDC_TRAY_PRE_PUNCHED}, 0, HINT_ENVELOPE_HOLES, {"Envelope", "PP_On"}},
+    {{IDC_TRAY_TYPE, IDC_TRAY_PRE_PUNCHED}, 0, HINT_FILM_HOLES,     {"OHP",      "PP_On"}},
+    {{IDC_TRAY_TYPE, IDC_TRAY_WEIGHT},      0, HINT_THICK_PAPER,    {"Thick",    "MW_60_90"}},
+    {{IDC_TRAY_TYPE, IDC_TRAY_WEIGHT},      0, HINT_PLAIN_PAPER,    {"Plain",    "MW_158_209"}},
+    {{IDC_TRAY_TYPE, IDC_TRAY_WEIGHT},      0, HINT_PLAIN_PAPER,    {"Plain",    "MW_2"}}, // 210 and more
 };
 // clang-format on
 
-bool IsFirstOfItsKind(const Constraint& constraint, HWND dialog) {
-    for (const Constraint* before = kConstraints; before != &constraint; ++before)
-        if (before->isBroken == constraint.isBroken && GetDlgItem(dialog, before->control) != nullptr)
+// Whether the list's chosen item has a key that begins so. The item data of a tray dialog's lists are items.
+bool IsChosen(HWND dialog, uint16_t list, const char* key) {
+    const LRESULT selected = SendToControl(dialog, list, CB_GETCURSEL);
+    if (selected < 0)
+        return false;
+    const LRESULT data = SendToControl(dialog, list, CB_GETITEMDATA, static_cast<WPARAM>(selected));
+    const auto* item = reinterpret_cast<const ItemRecord*>(data);
+    return item != nullptr && data != CB_ERR && TextLength(item->head.key) >= TextLength(key)
+           && SameCharacters(item->head.key, key, TextLength(key));
+}
+
+bool IsBroken(const TrayRule& rule, const DialogChoices& choices) {
+    for (size_t i = 0; i < 2; ++i)
+        if (!IsChosen(choices.dialog, rule.controls[i], rule.keys[i]))
             return false;
     return true;
 }
 
-} // namespace
+// --- All rules
+// -----------------------------------------------------------------------------------------------
 
-const Constraint* FindBroken(const OemDevmode& settings, uint32_t control) {
-    for (const Constraint& constraint : kConstraints)
-        if (constraint.control == control && constraint.isBroken(settings))
-            return &constraint;
-    return nullptr;
+bool HasControls(HWND dialog, const uint16_t (&controls)[2]) {
+    for (const uint16_t control : controls)
+        if (control != 0 && GetDlgItem(dialog, control) == nullptr)
+            return false;
+    return true;
 }
 
-void DescribeConflicts(HintText& text, const OemDevmode& settings, HWND dialog) {
-    for (const Constraint& constraint : kConstraints) {
-        if (GetDlgItem(dialog, constraint.control) == nullptr || !constraint.isBroken(settings)
-            || !IsFirstOfItsKind(constraint, dialog))
-            continue;
-        if (text[0] != 0)
-            AppendText(text, L"\r\n");
-        AppendText(text, constraint.hint);
-    }
+// Calls `use` for each rule that the choices break.
+template <typename Use>
+void ForEachBroken(const DialogChoices& choices, const Use& use) {
+    for (const ColorRule& rule : kColorRules)
+        if (HasControls(choices.dialog, rule.controls) && IsBroken(rule, choices))
+            use(rule);
+    for (const TrayRule& rule : kTrayRules)
+        if (HasControls(choices.dialog, rule.controls) && IsBroken(rule, choices))
+            use(rule);
+}
+
+template <typename Rule>
+void AddHint(HintText& hint, const Rule& rule) {
+    if (hint[0] != 0)
+        AppendText(hint, L"\r\n");
+    if (rule.subject != 0)
+        AppendText(hint, TextOf(rule.subject).text);
+    AppendText(hint, TextOf(rule.hint).text);
+}
+
+} // namespace
+
+int32_t CheckChoice(const DialogChoices& choices, uint32_t control, HintText& hint) {
+    hint[0] = 0;
+    int32_t answer = 0;
+    ForEachBroken(choices, [&](const auto& rule) {
+        const bool isFirst = rule.controls[0] == control;
+        if (control == 0 || (!isFirst && rule.controls[1] != control))
+            return;
+        if (answer == 0)
+            answer = isFirst ? TELMAR_CHANGE_REFUSED : TELMAR_CHANGE_REFUSED_ALSO;
+        AddHint(hint, rule);
+    });
+    return answer;
+}
+
+void DescribeConflicts(const DialogChoices& choices, HintText& hint) {
+    hint[0] = 0;
+    ForEachBroken(choices, [&](const auto& rule) { AddHint(hint, rule); });
 }

@@ -1,4 +1,4 @@
-// Which combinations of settings are refused, and the hint that the user sees.
+// Which combinations of settings are refused, and the hints that the user sees.
 #ifndef UIMODULE_CONSTRAINTS_H
 #define UIMODULE_CONSTRAINTS_H
 
@@ -6,20 +6,20 @@
 
 #include <windows.h>
 
-// A choice of this control is refused when it leaves the settings broken.
-struct Constraint {
-    uint16_t control;
-    int32_t answer; // of DoConstraints
-    bool (*isBroken)(const OemDevmode& settings);
-    const wchar_t* hint;
+// What a dialog edits. A null context has no settings.
+struct DialogChoices {
+    HWND dialog;
+    const DialogContext* context;
 };
 
-// The first constraint of the control that the settings violate; null when there is none.
-const Constraint* FindBroken(const OemDevmode& settings, uint32_t control);
+// One line for each combination. Further ones are cut off.
+using HintText = wchar_t[1024];
 
-using HintText = wchar_t[512];
+// Checks the choice of a control, which the dialog shows and its settings contain. Returns the answer of
+// DoConstraints: 0, or, with the reasons in `hint`, that the choice is refused.
+int32_t CheckChoice(const DialogChoices& choices, uint32_t control, HintText& hint);
 
-// Appends one line for each combination that the settings violate and whose control the dialog has.
-void DescribeConflicts(HintText& text, const OemDevmode& settings, HWND dialog);
+// The reasons why the choices of a dialog do not go together; empty when they do.
+void DescribeConflicts(const DialogChoices& choices, HintText& hint);
 
 #endif

@@ -1,8 +1,8 @@
-// Replaces the texts of a dialog and fits its lists to them.
+// Replaces the texts of a dialog.
 #include "uimodule/dialog_texts.h"
 
 #include "base/keyed_list.h"
-#include "base/window_services.h"
+#include "uimodule/window_parts.h"
 
 namespace {
 
@@ -48,13 +48,6 @@ size_t WordsEnd(const Text& text) {
     while (end > 0 && (text[end - 1] == L':' || text[end - 1] == L'.'))
         --end;
     return end;
-}
-
-// Whether the window is of this class and its style, under the mask, has this value.
-bool IsKind(HWND window, const wchar_t* name, LONG_PTR mask, LONG_PTR style) {
-    wchar_t className[16] = L"";
-    GetClassNameW(window, className, sizeof(className) / sizeof(className[0]));
-    return lstrcmpiW(className, name) == 0 && (GetWindowLongPtrW(window, GWL_STYLE) & mask) == style;
 }
 
 bool HasAccessKeys(HWND control) {
@@ -106,18 +99,5 @@ void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel) {
         if (HasAccessKeys(control))
             KeepAccessKey(text, control);
         SetWindowTextW(control, text);
-    }
-}
-
-void FitListEntries(HWND dialog) {
-    constexpr LONG kMargins = 2;                             // pixels above and below a text
-    constexpr WPARAM parts[] = {0, static_cast<WPARAM>(-1)}; // entries, edit field
-    for (HWND at = GetWindow(dialog, GW_CHILD); at != nullptr; at = GetWindow(at, GW_HWNDNEXT)) {
-        if (!IsKind(at, L"ComboBox", CBS_OWNERDRAWFIXED, CBS_OWNERDRAWFIXED))
-            continue;
-        const LONG height = FontHeight(at) + kMargins;
-        for (const WPARAM part : parts)
-            if (SendMessageW(at, CB_GETITEMHEIGHT, part, 0) < height)
-                SendMessageW(at, CB_SETITEMHEIGHT, part, height);
     }
 }

@@ -1,4 +1,4 @@
-// Replaces a dialog's texts by those of the parameter data file, and fits its lists to them.
+// Replaces a dialog's texts by those of the parameter data file.
 #ifndef UIMODULE_DIALOG_TEXTS_H
 #define UIMODULE_DIALOG_TEXTS_H
 
@@ -9,9 +9,5 @@
 // Sets the texts of the dialog's controls from a table and, for the table of a model's dialog (isModel), the
 // title. uimodule/exports.h explains the rows.
 void ReplaceTexts(HWND dialog, const ControlTextRecord* texts, bool isModel);
-
-// Makes the entries of the owner-drawn lists at least as high as their font needs. The model's dialogs ask
-// for a fixed height, which is too small on screens of high resolution.
-void FitListEntries(HWND dialog);
 
 #endif

@@ -2,15 +2,19 @@
 #include "uimodule/exports.h"
 
 #include "base/text.h"
-#include "dialogs/shared/dialog_context.h"
 #include "uimodule/constraints.h"
 #include "uimodule/dialog_texts.h"
+#include "uimodule/dialog_window.h"
 #include "uimodule/hint_window.h"
+#include "uimodule/library_texts.h"
+#include "uimodule/list_fit.h"
+#include "uimodule/placement.h"
+#include "uimodule/profile_windows.h"
 #include "uimodule/stop_icons.h"
 
-namespace {
+HINSTANCE library;
 
-HINSTANCE instance;
+namespace {
 
 // The dialog that is open.
 struct OpenDialog {
@@ -18,40 +22,32 @@ struct OpenDialog {
     HWND hintWindow;
     StopIcons icons;
     uint32_t refusedControl;
-    const wchar_t* refusedHint; // null: no choice is refused
+    HintText refusal; // why; empty: no choice is refused
 };
 OpenDialog open;
 
 // The state of this dialog. It is reset when another dialog was open before.
 OpenDialog& StateOf(HWND dialog) {
     if (open.window != dialog)
-        open = {dialog, nullptr, {}, 0, nullptr};
+        open = {dialog, nullptr, {}, 0, {}};
     return open;
 }
 
-const OemDevmode* SettingsOf(HWND dialog) {
-    return GetDialogSettings(reinterpret_cast<const DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER)));
-}
-
-// Checks a control's choice and returns the answer of DoConstraints. `hint` is null unless it is refused.
-int32_t Check(HWND dialog, uint32_t control, const wchar_t*& hint) {
-    const OemDevmode* settings = SettingsOf(dialog);
-    const Constraint* broken = settings != nullptr ? FindBroken(*settings, control) : nullptr;
-    hint = broken != nullptr ? broken->hint : nullptr;
-    return broken != nullptr ? broken->answer : 0;
+DialogChoices ChoicesOf(HWND dialog) {
+    return {dialog, reinterpret_cast<const DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER))};
 }
 
 bool IsMarked(const OpenDialog& dialog, uint32_t control) {
-    const OemDevmode* settings = SettingsOf(dialog.window);
-    return (dialog.refusedHint != nullptr && dialog.refusedControl == control)
-           || (settings != nullptr && FindBroken(*settings, control) != nullptr);
+    HintText reasons = {};
+    return (dialog.refusal[0] != 0 && dialog.refusedControl == control)
+           || CheckChoice(ChoicesOf(dialog.window), control, reasons) != 0;
 }
 
 } // namespace
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE library, DWORD reason, void* /*reserved*/) {
+extern "C" BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, void* /*reserved*/) {
     if (reason == DLL_PROCESS_ATTACH)
-        instance = library;
+        library = instance;
     return TRUE;
 }
 
@@ -63,12 +59,16 @@ void WINAPI ReplaceDlgDispStringCmnItem(HWND dialog, const ControlTextRecord* te
 
 void WINAPI ReplaceDlgDispString(HWND dialog, const ControlTextRecord* texts) {
     ReplaceTexts(dialog, texts, true);
+    PlaceCheckBoxIcon(dialog);
 }
 
 HWND WINAPI CreateToolWnd(HWND dialog) {
     if (dialog == nullptr)
         return nullptr;
-    open = {dialog, CreateHintWindow(dialog), {}, 0, nullptr};
+    PlaceOverOwner(dialog);
+    AttachToDialog(dialog);
+    MeasureTrayRows(dialog);
+    open = {dialog, CreateHintWindow(dialog), {}, 0, {}};
     return open.hintWindow;
 }
 
@@ -84,7 +84,7 @@ int32_t WINAPI DoConstraints(const void* /*reserved1*/, HWND dialog, HWND /*hint
         return 0;
     OpenDialog& state = StateOf(dialog);
     state.refusedControl = control;
-    return Check(dialog, control, state.refusedHint);
+    return CheckChoice(ChoicesOf(dialog), control, state.refusal);
 }
 
 void WINAPI DispHintControl(HWND dialog, DialogContext* context, uint16_t /*dialogId*/) {
@@ -92,18 +92,17 @@ void WINAPI DispHintControl(HWND dialog, DialogContext* context, uint16_t /*dial
         return;
     const OpenDialog& state = StateOf(dialog);
     HintText hint = {};
-    const OemDevmode* settings = GetDialogSettings(context);
-    if (state.refusedHint != nullptr)
-        CopyText(hint, state.refusedHint);
-    else if (settings != nullptr)
-        DescribeConflicts(hint, *settings, dialog);
+    if (state.refusal[0] != 0)
+        CopyText(hint, state.refusal);
+    else
+        DescribeConflicts({dialog, context}, hint);
     ShowHint(state.hintWindow, dialog, hint);
     for (size_t i = 0; i < state.icons.count; ++i)
         InvalidateRect(GetDlgItem(dialog, state.icons.controls[i]), nullptr, TRUE);
 }
 
 int32_t WINAPI IsInstalledDLManager() {
-    return 0;
+    return IsDownloadManagerInstalled() ? 1 : 0;
 }
 
 void WINAPI ReqDrawStopInfoIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item,
@@ -120,5 +119,5 @@ INT_PTR WINAPI MyDialogBox(HINSTANCE resources, HWND owner, uint32_t templateId,
 }
 
 HINSTANCE WINAPI GetImgResInst() {
-    return instance;
+    return library;
 }

@@ -2,16 +2,14 @@
 // and no window procedure of the library may be running then.
 #include "uimodule/hint_window.h"
 
+#include "uimodule/window_parts.h"
+
 #include <commctrl.h>
 
 namespace {
 
 constexpr UINT_PTR kFollowTimer = 0x4849; // of the hint window; the tool tip's own timers have small numbers
 constexpr UINT kFollowInterval = 50;      // milliseconds
-
-LONG Smaller(LONG a, LONG b) {
-    return a < b ? a : b;
-}
 
 // The only tool is the dialog itself, at a position that is set.
 TTTOOLINFOW Tool(HWND dialog, wchar_t* text) {
@@ -31,15 +29,11 @@ LRESULT SendTool(HWND hintWindow, UINT message, WPARAM wParam, const TTTOOLINFOW
 // one is only above its dialog.
 void CALLBACK Follow(HWND hintWindow, UINT /*message*/, UINT_PTR /*timer*/, DWORD /*time*/) {
     HWND dialog = GetWindow(hintWindow, GW_OWNER);
-    RECT below = {};
-    RECT frame = {};
-    GetWindowRect(dialog, &below);
-    GetWindowRect(hintWindow, &frame);
-    MONITORINFO monitor = {};
-    monitor.cbSize = sizeof(monitor);
-    GetMonitorInfoW(MonitorFromWindow(dialog, MONITOR_DEFAULTTONEAREST), &monitor);
-    const LONG x = Smaller(below.left, monitor.rcWork.right - (frame.right - frame.left));
-    const LONG y = Smaller(below.bottom, monitor.rcWork.bottom - (frame.bottom - frame.top));
+    const RECT below = FrameOf(dialog);
+    const RECT frame = FrameOf(hintWindow);
+    const RECT screen = WorkAreaOf(dialog);
+    const LONG x = Smaller(below.left, screen.right - (frame.right - frame.left));
+    const LONG y = Smaller(below.bottom, screen.bottom - (frame.bottom - frame.top));
     if (x != frame.left || y != frame.top)
         SetWindowPos(hintWindow, HWND_NOTOPMOST, x, y, 0, 0, SWP_NOSIZE | SWP_NOACTIVATE);
 }
@@ -68,8 +62,7 @@ void ShowHint(HWND hintWindow, HWND dialog, const wchar_t* text) {
         SendTool(hintWindow, TTM_UPDATETIPTEXTW, 0, Tool(dialog, const_cast<wchar_t*>(text)));
         return;
     }
-    RECT frame = {};
-    GetWindowRect(dialog, &frame);
+    const RECT frame = FrameOf(dialog);
     SendMessageW(hintWindow, TTM_SETMAXTIPWIDTH, 0, frame.right - frame.left);
     SendMessageW(hintWindow, TTM_TRACKPOSITION, 0, MAKELPARAM(frame.left, frame.bottom));
     const TTTOOLINFOW tool = Tool(dialog, const_cast<wchar_t*>(text));

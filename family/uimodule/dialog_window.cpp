@@ -1,0 +1,120 @@
+// The procedure in front of a dialog's own.
+#include "uimodule/dialog_window.h"
+
+#include "base/dialog_ids.h"
+#include "base/records.h"
+#include "uimodule/help.h"
+#include "uimodule/list_fit.h"
+#include "uimodule/profile_windows.h"
+#include "uimodule/text_window.h"
+
+#include <windowsx.h>
+
+namespace {
+
+constexpr const wchar_t* kProcedure = L"TELMAR_U procedure"; // window property: the dialog's own procedure
+
+HHOOK destroyHook;
+int attachedDialogs;
+
+const DialogContext* ContextOf(HWND dialog) {
+    return reinterpret_cast<const DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER));
+}
+
+WNDPROC ProcedureOf(HWND dialog) {
+    return reinterpret_cast<WNDPROC>(GetPropW(dialog, kProcedure));
+}
+
+// Commands that the module does not need. False for all others.
+bool TakeCommand(HWND dialog, WPARAM command) {
+    switch (command) {
+    case IDHELP:
+        ShowHelp(dialog);
+        return true;
+    case IDC_MANAGE_PROFILES:
+        ShowProfiles(dialog, ContextOf(dialog));
+        return true;
+    case IDC_DOWNLOAD_MANAGER:
+        ShowDownloadManager(dialog);
+        return true;
+    default:
+        return false;
+    }
+}
+
+// The module answers with a fixed height.
+bool TakeMeasureItem(HWND dialog, MEASUREITEMSTRUCT& item) {
+    if (item.CtlID != IDC_TRAY_LIST)
+        return false;
+    item.itemHeight = TrayRowHeight(GetDlgItem(dialog, IDC_TRAY_LIST));
+    return true;
+}
+
+bool TakeHelp(HWND dialog, const HELPINFO& info) {
+    ShowHelpOn(dialog, info.iContextType == HELPINFO_WINDOW ? static_cast<HWND>(info.hItemHandle) : nullptr);
+    return true;
+}
+
+bool TakeContextMenu(HWND dialog, WPARAM window, LPARAM point) {
+    OfferHelpOn(dialog, reinterpret_cast<HWND>(window), {GET_X_LPARAM(point), GET_Y_LPARAM(point)});
+    return true;
+}
+
+bool TakeMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_COMMAND:
+        return TakeCommand(dialog, wParam);
+    case WM_MEASUREITEM:
+        return TakeMeasureItem(dialog, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+    case WM_HELP:
+        return TakeHelp(dialog, *reinterpret_cast<const HELPINFO*>(lParam));
+    case WM_CONTEXTMENU:
+        return TakeContextMenu(dialog, wParam, lParam);
+    default:
+        return false;
+    }
+}
+
+LRESULT CALLBACK FrontProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (TakeMessage(dialog, message, wParam, lParam))
+        return TRUE;
+    if (message == WM_COMMAND && HIWORD(wParam) == CBN_DROPDOWN)
+        FitDroppedWidth(reinterpret_cast<HWND>(lParam));
+    const LRESULT result = CallWindowProcW(ProcedureOf(dialog), dialog, message, wParam, lParam);
+    const bool isPaperChosen = message == WM_COMMAND && HIWORD(wParam) == CBN_SELENDOK;
+    if ((message == WM_SHOWWINDOW && wParam != FALSE) || isPaperChosen)
+        FitTrayColumns(dialog); // the module has filled the list
+    return result;
+}
+
+void Detach(HWND dialog) {
+    CloseTextWindow();
+    SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ProcedureOf(dialog)));
+    RemovePropW(dialog, kProcedure);
+    if (--attachedDialogs == 0)
+        UnhookWindowsHookEx(destroyHook);
+}
+
+// Runs before the window gets WM_DESTROY.
+LRESULT CALLBACK WatchDestruction(int code, WPARAM wParam, LPARAM lParam) {
+    HWND window = code == HCBT_DESTROYWND ? reinterpret_cast<HWND>(wParam) : nullptr;
+    if (window != nullptr && ProcedureOf(window) != nullptr) {
+        Detach(window);
+        return 0;
+    }
+    return CallNextHookEx(destroyHook, code, wParam, lParam);
+}
+
+} // namespace
+
+void AttachToDialog(HWND dialog) {
+    if (ProcedureOf(dialog) != nullptr)
+        return;
+    if (attachedDialogs == 0)
+        destroyHook = SetWindowsHookExW(WH_CBT, WatchDestruction, nullptr, GetCurrentThreadId());
+    if (destroyHook == nullptr
+        || !SetPropW(dialog, kProcedure, reinterpret_cast<HANDLE>(GetWindowLongPtrW(dialog, GWLP_WNDPROC))))
+        return;
+    ++attachedDialogs;
+    SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FrontProcedure));
+}

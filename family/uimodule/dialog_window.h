@@ -1,0 +1,13 @@
+// Takes messages of a model's dialog before the module does: those that the module leaves to the
+// user-interface module, help, and those that fit the lists.
+#ifndef UIMODULE_DIALOG_WINDOW_H
+#define UIMODULE_DIALOG_WINDOW_H
+
+#include <windows.h>
+
+// Replaces the dialog's procedure until the dialog is destroyed. Calling it again changes nothing. The dialog
+// frees this library while it is being destroyed, so a hook puts the procedure back before that and closes
+// the library's own window.
+void AttachToDialog(HWND dialog);
+
+#endif
