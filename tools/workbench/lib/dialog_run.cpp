@@ -2,15 +2,21 @@
 // that each action finds the dialog completely updated and painted after the previous one.
 #include "workbench/lib/dialog_run.h"
 
+#include "workbench/lib/output.h"
 #include "workbench/lib/text.h"
 
+#include <atomic>
 #include <exception>
+#include <optional>
+#include <thread>
 #include <utility>
 
 namespace {
 
 constexpr UINT kActionInterval = 30; // milliseconds
 constexpr const wchar_t* kDialogClass = L"#32770";
+
+class TimeLimit;
 
 struct DialogRun {
     const ModelDialog& dialog;
@@ -24,6 +30,7 @@ struct DialogRun {
     WNDPROC originalProcedure = nullptr; // of a dialog that the module has opened
     DialogView atEnd = {};
     std::exception_ptr failure = nullptr;
+    TimeLimit* limit = nullptr; // null: none
 };
 DialogRun* running; // null: none
 
@@ -55,14 +62,75 @@ bool Try(DialogRun& run, const Step& step) {
     }
 }
 
+// --- The time limit --------------------------------------------------------------------------------------
+
+// Ends the process when a script's action takes too long. The dialog's thread may then wait in a call that
+// nothing can end.
+class TimeLimit {
+public:
+    explicit TimeLimit(const DialogScript& watched)
+        : actions(watched.actions), seconds(watched.timeLimit),
+          next(CreateEventW(nullptr, FALSE, FALSE, nullptr)), thread([this] { Watch(); }) {}
+    TimeLimit(const TimeLimit&) = delete;
+    TimeLimit& operator=(const TimeLimit&) = delete;
+    ~TimeLimit() {
+        isOver = true;
+        SetEvent(next);
+        thread.join();
+        CloseHandle(next);
+    }
+
+    // The script's next action begins.
+    void Restart(const DialogScript& script) {
+        seconds = script.timeLimit;
+        begun = script.next + 1;
+        SetEvent(next);
+    }
+
+private:
+    void Watch() const {
+        while (!isOver)
+            if (WaitForSingleObject(next, static_cast<DWORD>(seconds) * 1000) == WAIT_TIMEOUT)
+                EndProcess();
+    }
+
+    [[noreturn]] void EndProcess() const {
+        const std::string place = begun == 0                ? "before the first action"
+                                  : begun <= actions.size() ? actions[begun - 1].place
+                                                            : "after the last action";
+        Print(STD_ERROR_HANDLE, "workbench: " + place + ": the dialog has not responded for "
+                                    + std::to_string(seconds)
+                                    + " s; it may wait for a window of the system or of another program\n");
+        TerminateProcess(GetCurrentProcess(), kExitFailed);
+        std::abort();
+    }
+
+    const std::vector<ScriptAction>& actions;
+    std::atomic<int> seconds;
+    std::atomic<size_t> begun = 0; // actions
+    const HANDLE next;
+    std::atomic<bool> isOver = false;
+    std::thread thread; // the last member: it uses the others
+};
+
+// --- The script ------------------------------------------------------------------------------------------
+
+// Cancels the dialog without a click, which would move the focus in the last picture.
+void Cancel(const DialogRun& run) {
+    SendMessageW(run.window, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(GetDlgItem(run.window, IDCANCEL)));
+}
+
 void Act(DialogRun& run) {
     RecordHint(run);
+    if (run.limit != nullptr)
+        run.limit->Restart(run.use.script);
     if (run.use.script.next < run.use.script.actions.size()) {
         RunNextAction(run.use.script, run.window);
     } else if (!run.use.waitsForPerson) {
         if (std::exchange(run.isCancelled, true))
             throw Failure(kExitFailed, "the dialog does not close on Cancel: this is an error in the module");
-        PressButton(run.window, IDCANCEL);
+        Cancel(run);
     }
 }
 
@@ -174,10 +242,14 @@ DialogEnd RunDialog(const FamilyFiles& family, HINSTANCE templates, const ModelD
                     DialogContext& context, const DialogUse& use) {
     DialogRun run = {dialog, use, templates, EXPORT(family, DDProc_DlgProc)};
     running = &run;
+    std::optional<TimeLimit> limit;
+    if (!use.waitsForPerson)
+        run.limit = &limit.emplace(use.script);
     const UINT_PTR timer = SetTimer(nullptr, 0, kActionInterval, OnTimer);
     const INT_PTR code = dialog.isForTrays ? RunByButton(run, context) : RunByTemplate(run, context);
     const DWORD error = GetLastError();
     KillTimer(nullptr, timer);
+    limit.reset();
     running = nullptr;
     if (run.failure != nullptr)
         std::rethrow_exception(run.failure);

@@ -38,7 +38,9 @@ struct DialogUse {
 };
 
 // Opens the dialog and uses it; one at a time. Throws Failure when the dialog cannot be opened or the script
-// cannot be completed.
+// cannot be completed. When an action takes longer than the script's time limit, for example because the
+// system waits for an answer in a window of its own, the process ends with a message. A person has no time
+// limit.
 DialogEnd RunDialog(const FamilyFiles& family, HINSTANCE templates, const ModelDialog& dialog,
                     DialogContext& context, const DialogUse& use);
 

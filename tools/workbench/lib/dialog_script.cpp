@@ -129,9 +129,16 @@ void Refresh(DialogScript& /*script*/, HWND dialog, const std::string& /*argumen
     SendMessageW(dialog, TELMAR_WM_REFRESH, 0, 0);
 }
 
+void SetTimeLimit(DialogScript& script, HWND /*dialog*/, const std::string& argument) {
+    const int seconds = Number(argument);
+    if (seconds < 1)
+        Refuse("there is no time limit '" + argument + "'", "possible: a number of seconds from 1 on");
+    script.timeLimit = seconds;
+}
+
 template <int kButton>
 void Press(DialogScript& /*script*/, HWND dialog, const std::string& /*argument*/) {
-    PressButton(dialog, kButton);
+    SendMessageW(FindControl(dialog, std::to_string(kButton), false), BM_CLICK, 0, 0);
 }
 
 constexpr ScriptVerb kVerbs[] = {
@@ -140,6 +147,7 @@ constexpr ScriptVerb kVerbs[] = {
     {"key", "NAME", "presses a key, such as tab, space, down, enter", PressKey},
     {"picture", "FILE.png", "saves a picture of the dialog", TakeOnePicture},
     {"refresh", "", "notifies the dialog that the settings have changed", Refresh},
+    {"limit", "SECONDS", "sets the time that each further action may take, 30 at first", SetTimeLimit},
     {"defaults", "", "clicks Defaults", Press<IDC_DEFAULTS>},
     {"ok", "", "clicks OK, which closes the dialog", Press<IDOK>},
     {"cancel", "", "clicks Cancel, which closes the dialog", Press<IDCANCEL>},
@@ -197,10 +205,6 @@ void RunNextAction(DialogScript& script, HWND dialog) {
     script.done.Add(
         {{"line", action.line}, {"action", action.verb->name}, {"on", action.argument}, {"hint", nullptr}});
     At(action.place, [&] { action.verb->run(script, dialog, action.argument); });
-}
-
-void PressButton(HWND dialog, int button) {
-    SendMessageW(FindControl(dialog, std::to_string(button), false), BM_CLICK, 0, 0);
 }
 
 std::string ScriptHelp() {

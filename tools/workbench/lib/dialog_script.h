@@ -22,6 +22,7 @@ struct DialogScript {
     size_t next = 0;                          // the first action that has not run yet
     Document done = Document::MakeList();     // a row for each action that has run
     Document pictures = Document::MakeList(); // that the actions have taken
+    int timeLimit = 30;                       // seconds that an action may take
 };
 
 // Parses the lines of a script; `name` names it in messages. Throws Failure with the line and what is
@@ -34,9 +35,6 @@ DialogScript ReadDialogScript(const std::string& path);
 // Runs the next action on the dialog, which must be visible. Keys are posted: they take effect when the
 // dialog's message loop runs again. Throws Failure with the line when the dialog does not allow the action.
 void RunNextAction(DialogScript& script, HWND dialog);
-
-// Clicks a button. Throws Failure when it is missing, hidden or disabled.
-void PressButton(HWND dialog, int button);
 
 // The list of actions, for --help.
 std::string ScriptHelp();
