@@ -1,5 +1,6 @@
-// The dialog templates of the built TELMAR_S.DLL, opened as windows: they have the controls that the dialogs
-// use, by their published numbers, with access keys and without overlaps.
+// The dialog templates of the built TELMAR_S.DLL, opened as windows in each language: they have the controls that
+// the dialogs use, by their published numbers, with access keys, texts that fit, aligned groups and no overlaps.
+// Also run at other resolutions.
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <map>
@@ -83,21 +84,35 @@ struct Control {
         }
         style = static_cast<DWORD>(bits);
         key = text.find(L'&') < text.size() ? text.at(text.find(L'&') + 1) : 0;
+        RECT needed = {};
+        const HDC dc = GetDC(window);
+        const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
+        DrawTextW(dc, text.c_str(), -1, &needed, DT_CALCRECT | DT_SINGLELINE);
+        SelectObject(dc, before);
+        ReleaseDC(window, dc);
+        textWidth = needed.right;
     }
     bool IsGroup() const { return className == L"Button" && (style & 0xF) == BS_GROUPBOX; }
+    // What the control shows next to its text: nothing, a frame, or a square to check.
+    LONG Extra() const { return className != L"Button" ? 0 : (style & 0xF) <= BS_DEFPUSHBUTTON ? 8 : 20; }
 
     DWORD style;
     RECT area; // on the screen
+    LONG textWidth;
     uint32_t id;
     std::wstring className, text;
     wchar_t key; // 0: none
 };
 
-struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<uint32_t>>> {
+using DialogControls = std::pair<const uint32_t, std::vector<uint32_t>>;
+
+struct Templates : testing::TestWithParam<std::tuple<DialogControls, LANGID>> {
     void SetUp() override {
         InitCommonControls();
+        SetThreadLocale(MAKELCID(std::get<LANGID>(GetParam()), SORT_DEFAULT));
+        SetThreadUILanguage(std::get<LANGID>(GetParam()));
         const DLGPROC ignore = [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; };
-        dialog = CreateDialogParamW(library, MAKEINTRESOURCEW(GetParam().first), nullptr, ignore, 0);
+        dialog = CreateDialogParamW(library, MAKEINTRESOURCEW(Wanted().first), nullptr, ignore, 0);
         ASSERT_NE(dialog, nullptr);
         for (HWND at = GetWindow(dialog, GW_CHILD); at != nullptr; at = GetWindow(at, GW_HWNDNEXT))
             controls.emplace_back(at);
@@ -106,6 +121,7 @@ struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<
         DestroyWindow(dialog);
         FreeLibrary(library);
     }
+    static const DialogControls& Wanted() { return std::get<0>(GetParam()); }
     size_t IndexOf(uint32_t id) const {
         const auto hasId = [id](const Control& control) { return control.id == id; };
         return static_cast<size_t>(std::find_if(controls.begin(), controls.end(), hasId) - controls.begin());
@@ -115,13 +131,13 @@ struct Templates : testing::TestWithParam<std::pair<const uint32_t, std::vector<
     HWND dialog = nullptr;
     std::vector<Control> controls; // in the order of the template
 };
-INSTANTIATE_TEST_SUITE_P(, Templates, testing::ValuesIn(kDialogs));
+INSTANTIATE_TEST_SUITE_P(, Templates, testing::Combine(testing::ValuesIn(kDialogs), testing::Values(0x409, 0x407)));
 
 TEST_P(Templates, HaveTheControlsOfTheirDialogsOnly) {
     std::multiset<uint32_t> expectedIds, ids;
     for (const Control& control : controls)
         ids.insert(control.id);
-    for (const uint32_t id : GetParam().second) {
+    for (const uint32_t id : Wanted().second) {
         const auto [label, icon] = labelsAndIcons[id];
         const size_t index = IndexOf(id);
         ASSERT_LT(index, controls.size()) << id;
@@ -165,6 +181,38 @@ TEST_P(Templates, ControlsKeepTheMarginAndDoNotOverlap) {
             EXPECT_TRUE(!Meets(one->area, other->area, 0) || (one->IsGroup() && Contains(one->area, other->area)))
                 << one->id << " and " << other->id;
     }
+}
+
+TEST_P(Templates, TextsAreInTheLanguageAndFit) {
+    const std::wstring cancel = controls[IndexOf(IDCANCEL)].text;
+    EXPECT_EQ(cancel, std::get<LANGID>(GetParam()) == 0x407 ? L"Abbrechen" : L"Cancel");
+    for (const Control& control : controls) {
+        const RECT& area = control.area;
+        EXPECT_LE(control.textWidth + control.Extra(), area.right - area.left) << control.id;
+    }
+}
+
+TEST_P(Templates, EdgesOfGroupsMeetAndNoGroupHasAnEmptyRow) {
+    constexpr LONG RECT::*kEdges[] = {&RECT::left, &RECT::top, &RECT::right, &RECT::bottom};
+    RECT row = {0, 0, 0, 28}; // the distance of two lists
+    MapDialogRect(dialog, &row);
+    for (const Control& group : controls) {
+        LONG lowest = group.area.top;
+        for (const Control& other : controls) {
+            if (group.IsGroup() && other.IsGroup())
+                for (const auto edge : kEdges)
+                    EXPECT_TRUE(group.area.*edge == other.area.*edge || abs(group.area.*edge - other.area.*edge) > 3)
+                        << group.id << " and " << other.id;
+            else if (Contains(group.area, other.area))
+                lowest = std::max(lowest, other.area.bottom);
+        }
+        EXPECT_TRUE(!group.IsGroup() || group.area.bottom - lowest < row.bottom) << group.id;
+    }
+    RECT frame = {};
+    GetWindowRect(dialog, &frame);
+    const HDC dc = GetDC(nullptr);
+    EXPECT_LE((frame.bottom - frame.top) * 144 / GetDeviceCaps(dc, LOGPIXELSY), 700) << "pixels at 144 dpi";
+    ReleaseDC(nullptr, dc);
 }
 
 } // namespace
