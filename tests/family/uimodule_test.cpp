@@ -1,26 +1,36 @@
-// The built TELMAR_U.DLL on the dialog of uimodule_test.rc, called as the model's dialogs call it.
+// The built TELMAR_U.DLL on the dialog of uimodule_test.rc and on the templates of TELMAR_S.DLL, called as the
+// model's dialogs call it. The layout is also tested at other resolutions.
 #include "uimodule/exports.h"
 
 #include "base/dialog_ids.h"
 #include "base/records.h"
+#include "dialogs/shared/control_parts.h"
 #include "support/canvas.h"
+#include "uimodule/resource_ids.h"
 
+#include <commctrl.h>
+#include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 
 namespace {
 
 constexpr uint16_t kRgbList = 1504, kSimulation = 1524, kPaper = 1526, kSimulationGray = 1627;
-constexpr uint16_t kIcons[][2] = {{1482, kSimulation}, {1527, kPaper}, {1629, kSimulationGray}};
 
 #define FUNCTION(name) Function<decltype(&(name))>(#name)
 
 HMODULE freedWithDialog;
+int messagesPassed; // that the library takes: they must not reach the dialog
 
-INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM /*wParam*/, LPARAM lParam) {
+INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG && lParam == 0)
         EndDialog(dialog, 17);
+    if (message == WM_MEASUREITEM) // as the module
+        return reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 16, TRUE;
+    messagesPassed += message == WM_HELP || message == WM_CONTEXTMENU
+                      || (message == WM_COMMAND && (wParam == IDHELP || wParam == 1528 || wParam == 1393));
     if (message == WM_DESTROY && freedWithDialog != nullptr)
         FreeLibrary(freedWithDialog);
     return FALSE;
@@ -29,12 +39,13 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM /*wParam*/, L
 void Pump(DWORD milliseconds) {
     for (const DWORD start = GetTickCount(); GetTickCount() - start < milliseconds; Sleep(5))
         for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);)
-            DispatchMessageW(&message);
+            if (!IsDialogMessageW(GetDesktopWindow(), &message)) // calls the filters of a dialog's loop
+                DispatchMessageW(&message);
 }
 
 std::wstring TextOf(HWND window) {
-    wchar_t text[512] = L"";
-    GetWindowTextW(window, text, 512);
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
     return text;
 }
 
@@ -42,18 +53,35 @@ std::wstring TextOf(HWND window) {
 struct UiModule : testing::Test {
     UiModule() : library(LoadLibraryW(L"TELMAR_U.DLL")) {
         context.settings = settings.get();
-        dialog = CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(155), nullptr, DialogProcedure,
+        StopIconRecord* icon = icons->records;
+        for (const ControlParts& parts : kControlParts)
+            if (parts.icon != 0) {
+                icon->iconControl = parts.icon;
+                (icon++)->control = parts.control;
+            }
+        Open(GetModuleHandleW(nullptr), 155);
+    }
+    void Open(HINSTANCE templates, int id, HWND owner = nullptr) {
+        DestroyWindow(dialog);
+        dialog = CreateDialogParamW(templates, MAKEINTRESOURCEW(id), owner, DialogProcedure,
                                     reinterpret_cast<LPARAM>(&context));
         SetWindowLongPtrW(dialog, DWLP_USER, reinterpret_cast<LONG_PTR>(&context));
-        for (size_t i = 0; i < std::size(kIcons); ++i) {
-            icons->records[i].iconControl = kIcons[i][0];
-            icons->records[i].control = kIcons[i][1];
-        }
         hintWindow = FUNCTION(CreateToolWnd)(dialog);
         FUNCTION(StoreStopIconRect)(dialog, icons.get());
     }
+    // A model's dialog, with the model's defaults.
+    void OpenModel(int id, HWND owner = nullptr) {
+        *settings = {};
+        settings->image = {1, 2, 0, {}};
+        settings->text = {0, 0, 2, {}};
+        settings->graphics = {0, 1, 1, {}};
+        settings->imageRgbSource = settings->textRgbSource = settings->graphicsRgbSource = 1;
+        settings->rgbSource = 1;
+        Open(modelTemplates, id, owner);
+    }
     ~UiModule() override {
         DestroyWindow(dialog);
+        FreeLibrary(modelTemplates);
         if (std::exchange(freedWithDialog, nullptr) == nullptr)
             FreeLibrary(library);
     }
@@ -73,11 +101,25 @@ struct UiModule : testing::Test {
     }
 
     // The controls that have a stop sign next to them.
+    std::set<uint32_t> StoppedControls() const {
+        std::set<uint32_t> controls;
+        for (const StopIconRecord& icon : icons->records)
+            if (icon.iconControl != 0 && IsStopDrawn(icon.iconControl))
+                controls.insert(icon.control);
+        return controls;
+    }
     std::string Stops() const {
         std::string controls;
-        for (const auto& icon : kIcons)
-            controls += IsStopDrawn(icon[0]) ? " " + std::to_string(icon[1]) : "";
+        for (const uint32_t control : StoppedControls())
+            controls += " " + std::to_string(control);
         return controls;
+    }
+
+    // The text of the library's window; "-" when it is not open.
+    std::wstring WindowText() const {
+        const HWND window = FindWindowW(L"#32770", nullptr);
+        const HWND found = window != nullptr && GetDlgItem(window, IDC_TEXT) != nullptr ? window : nullptr;
+        return found != nullptr && IsWindowVisible(found) ? TextOf(GetDlgItem(found, IDC_TEXT)) : L"-";
     }
 
     // Draws an icon into a square of a larger bitmap: outside nothing changes, inside it is red or not.
@@ -96,6 +138,7 @@ struct UiModule : testing::Test {
     }
 
     HMODULE library;
+    HMODULE modelTemplates = LoadLibraryW(L"TELMAR_S.DLL");
     HWND dialog = nullptr;
     HWND hintWindow = nullptr;
     std::unique_ptr<OemDevmode> settings = std::make_unique<OemDevmode>();
@@ -179,15 +222,16 @@ TEST_F(UiModule, ShowsConflictsOfTheSettingsOnce) {
     EXPECT_EQ(std::count(hint.begin(), hint.end(), L'\n'), 1) << "two conflicts, a line each";
     EXPECT_EQ(Stops(), " 1524 1526 1627");
     settings->simulation = 1;
-    ValidateRect(Control(kIcons[0][0]), nullptr);
+    ValidateRect(Control(1482), nullptr);
     EXPECT_EQ(HintAfter(kSimulation), L"-");
-    EXPECT_TRUE(GetUpdateRect(Control(kIcons[0][0]), nullptr, FALSE)) << "icons must be redrawn";
+    EXPECT_TRUE(GetUpdateRect(Control(1482), nullptr, FALSE)) << "icons must be redrawn";
     EXPECT_EQ(Stops(), "");
 }
 
 TEST_F(UiModule, KeepsTheHintBelowItsDialogUntilItEnds) {
     settings->matchPaperColor = 1;
     HintAfter(kPaper, 100);
+    SendMessageW(dialog, WM_COMMAND, IDHELP, 0); // the library's window ends with the dialog, too
     SetWindowPos(dialog, nullptr, 150, 120, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
     Pump(300);
     RECT hint = {}, frame = {};
@@ -217,6 +261,258 @@ TEST_F(UiModule, RunsDialogsAndHasTheIcons) {
         }
         EXPECT_EQ(std::pair(width, height), id == IDI_PORTRAIT ? std::pair(10, 14) : std::pair(14, 10));
     }
+}
+
+// --- On the model's templates --------------------------------------------------------------------------------
+
+struct Refused {
+    int dialog;
+    std::function<void(OemDevmode&)> change; // of the defaults
+    uint16_t needs, needed;                  // a choice of either is refused; 0: none
+    const wchar_t* hint;
+};
+
+// clang-format off
+#define SET(...) [](OemDevmode& s) { __VA_ARGS__; }
+#define OBJECT(name, Name, matches, rgbs, halftones, grays, destinations, dialog) \
+    {dialog, SET(s.name.colorMatch = 3, s.name##RgbSource = 0), matches, rgbs, Name L": To match colours exactly"}, \
+    {dialog, SET(s.name.colorMatch = 1, s.name.halftone = 0), matches, halftones, Name L": To print photographic"}, \
+    {128, SET(s.name##Destination = 128, s.name.gray = 2), destinations, grays, Name L": To use an output profile"}, \
+    {128, SET(s.name##Destination = 128, s.name.gray = 1, s.mono = 1), destinations, 0, Name L": This printer prints"}
+const Refused kRefused[] = {
+    OBJECT(image,    L"Images",   1354, 1504, 1332, 1335, 1599, 122),
+    OBJECT(text,     L"Text",     1353, 1509, 1330, 1334, 1592, 123),
+    OBJECT(graphics, L"Graphics", 1516, 1513, 1522, 1519, 1584, 128),
+    {125, SET(s.image.colorMatch = 3, s.rgbSource = 0), 1354, 1634, L"Images: To match colours exactly"},
+    {125, SET(s.text.colorMatch = 3, s.rgbSource = 0),  1353, 1634, L"Text: To match colours exactly"},
+    {122, SET(s.destination = 128, s.image.gray = 2),   1525, 1335, L"Images: To use an output profile"},
+    {122, SET(s.destination = 128, s.mono = 1),         1525, 0,    L"This printer prints in black"},
+    {124, SET(s.matchPaperColor = 1),                   1526, 1524, L"To match the colour of the paper"},
+    {124, SET(s.simulationGray = 2),                    1627, 1524, L"To set the blacks and greys"},
+    {128, SET(s.simulation = 3, s.mono = 1),            1524, 0,    L"This printer prints in black"},
+};
+// clang-format on
+
+TEST_F(UiModule, RefusesCombinationsAtEitherChoice) {
+    std::set<uint32_t> stopped;
+    for (const Refused& row : kRefused) {
+        SCOPED_TRACE(testing::Message() << row.dialog << ' ' << row.needs);
+        OpenModel(row.dialog);
+        row.change(*settings);
+        EXPECT_EQ(HintAfter(0).find(row.hint), 0u) << testing::PrintToString(HintAfter(0));
+        std::set<uint32_t> wanted = {row.needs, row.needed};
+        wanted.erase(0);
+        EXPECT_EQ(StoppedControls(), wanted);
+        stopped.insert(wanted.begin(), wanted.end());
+        HintAfter(row.needs, 100);
+        if (row.needed != 0)
+            HintAfter(row.needed, 101);
+        HintAfter(1069, 0);
+    }
+    EXPECT_EQ(stopped.size(), 20) << "all but the two buttons for profiles";
+    for (const int id : {122, 123, 124, 125, 128}) {
+        OpenModel(id);
+        EXPECT_EQ(HintAfter(0), L"-") << "the defaults, in dialog " << id;
+        settings->imageRgbSource = 0; // dialog 125 has the page's source instead
+        settings->image.colorMatch = 3;
+        EXPECT_EQ(HintAfter(0) == L"-", id == 125);
+    }
+}
+
+TEST_F(UiModule, RefusesPaperThatDoesNotExist) {
+    OpenModel(155);
+    std::map<int, ItemRecord> items;
+    const auto choose = [&](int list, const char* key) {
+        strcpy(items[list].head.key, key);
+        SendDlgItemMessageW(dialog, list, CB_RESETCONTENT, 0, 0);
+        SendDlgItemMessageW(dialog, list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"entry"));
+        SendDlgItemMessageW(dialog, list, CB_SETITEMDATA, 0, reinterpret_cast<LPARAM>(&items[list]));
+        SendDlgItemMessageW(dialog, list, CB_SETCURSEL, 0, 0);
+    };
+    const std::tuple<const char*, const char*, const char*, const wchar_t*> cases[] = {
+        {"Envelope", "MW_60_90", "PP_On", L"Envelopes"},
+        {"OHP", "MW_60_90", "PP_On", L"Transparencies"},
+        {"Thick1Plus", "MW_60_90", "PP_Off", L"Thick"},
+        {"Plain", "MW_158_209", "PP_Off", L"Plain"},
+        {"PlainPaper2nd", "MW_257_300", "PP_On", L"Plain"},
+        {"Plain", "MW_60_90", "PP_On", L"-"},
+        {"Thick4", "MW_257_300", "PP_On", L"-"},
+        {"Envelope", "MW_60_90", "PP_Off", L"-"},
+    };
+    for (const auto& [type, weight, holes, hint] : cases) {
+        choose(1003, type);
+        choose(1086, weight);
+        choose(1094, holes);
+        EXPECT_EQ(HintAfter(0).find(hint), 0u) << type << weight << holes;
+        HintAfter(1003, hint[0] == L'-' ? 0 : 100);
+    }
+    HintAfter(1860, 0);
+}
+
+TEST_F(UiModule, ExplainsTheDialogAndStaysOutOfItsWay) {
+    OpenModel(124);
+    ShowWindow(dialog, SW_SHOW);
+    messagesPassed = 0;
+    SendMessageW(dialog, WM_COMMAND, IDHELP, 0);
+    std::wstring help = WindowText();
+    for (const wchar_t* part : {L"RGB source: ", L"Halftone: ", L"Press to simulate: ", L"Defaults: "})
+        EXPECT_NE(help.find(part), std::wstring::npos) << testing::PrintToString(part);
+    EXPECT_EQ(help.find(L"Output profile: "), std::wstring::npos) << "this dialog has none";
+    EXPECT_TRUE(IsWindowEnabled(dialog));
+    PostMessageW(GetFocus(), WM_KEYDOWN, VK_ESCAPE, 1);
+    Pump(100);
+    EXPECT_EQ(WindowText(), L"-");
+    HELPINFO info = {sizeof(info), HELPINFO_WINDOW, 1502, Control(1502), 0, {}}; // the label of a list
+    SendMessageW(dialog, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+    help = WindowText();
+    EXPECT_EQ(help.find(L"RGB source: "), 0u);
+    EXPECT_EQ(help.find(L"\r\n"), std::wstring::npos) << "the text on this control only";
+    EXPECT_EQ(messagesPassed, 0);
+    OpenModel(155);
+    SendMessageW(dialog, WM_COMMAND, IDHELP, 0);
+    EXPECT_NE(WindowText().find(L"Weight: "), std::wstring::npos);
+}
+
+TEST_F(UiModule, ShowsTheProfilesAndTheDownloadManager) {
+    const ProfileEntry entries[] = {{
+                                        L"coated",
+                                        L"Offset",
+                                        4,
+                                    },
+                                    {L"", L"Newspaper", 77}};
+    ProfileLists lists = {};
+    lists.simulations = {entries, 2};
+    OpenModel(128);
+    messagesPassed = 0;
+    for (const bool hasLists : {true, false}) {
+        context.profiles = hasLists ? &lists : nullptr;
+        SendMessageW(dialog, WM_COMMAND, 1528, 0);
+        EXPECT_EQ(WindowText(),
+                  std::wstring(L"RGB sources\r\n    none\r\nPress simulations\r\n")
+                      + (hasLists ? L"    Offset (coated): hard disk\r\n    Newspaper: unknown place" : L"    none")
+                      + L"\r\nOutput profiles\r\n    none");
+    }
+    for (const wchar_t* value : {L"0", L"10", L"1"}) {
+        SetEnvironmentVariableW(L"LUMORA_DOWNLOAD_MANAGER", value);
+        EXPECT_EQ(FUNCTION(IsInstalledDLManager)(), value == std::wstring(L"1"));
+    }
+    SetEnvironmentVariableW(L"LUMORA_DOWNLOAD_MANAGER", nullptr);
+    EXPECT_EQ(FUNCTION(IsInstalledDLManager)(), 0);
+    SendMessageW(dialog, WM_COMMAND, 1393, 0);
+    EXPECT_EQ(WindowText().find(L"The Download Manager is installed"), 0u);
+    EXPECT_EQ(messagesPassed, 0);
+}
+
+TEST_F(UiModule, HasAllTextsInBothLanguages) {
+    const auto texts = [this](WORD block, LANGID language) { // which of the block's 16 texts are there
+        const HRSRC found = FindResourceExW(library, RT_STRING, MAKEINTRESOURCEW(block), language);
+        const auto* at =
+            found != nullptr ? static_cast<const wchar_t*>(LockResource(LoadResource(library, found))) : L"";
+        std::string present;
+        for (int i = 0; found != nullptr && i < 16; at += 1 + *at, ++i)
+            present += *at != 0 ? 'x' : '.';
+        return present;
+    };
+    for (WORD block = TEXT_IMAGES / 16 + 1; block <= DOWNLOAD_MANAGER_TEXT / 16 + 1; ++block)
+        EXPECT_EQ(texts(block, 0x409), texts(block, 0x407)) << block;
+    SetThreadLocale(MAKELCID(0x407, SORT_DEFAULT));
+    SetThreadUILanguage(0x407);
+    OpenModel(128);
+    settings->matchPaperColor = 1;
+    EXPECT_EQ(HintAfter(0), L"Wählen Sie ein Druckverfahren, um die Papierfarbe nachzubilden.");
+    SetThreadLocale(MAKELCID(0x409, SORT_DEFAULT));
+    SetThreadUILanguage(0x409);
+}
+
+// --- Also at other resolutions -------------------------------------------------------------------------------
+
+using UiModuleLayout = UiModule;
+
+SIZE Needed(HWND control, const wchar_t* text) {
+    RECT needed = {};
+    const HDC dc = GetDC(control);
+    const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    DrawTextW(dc, text, -1, &needed, DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
+    SelectObject(dc, before);
+    ReleaseDC(control, dc);
+    return {needed.right, needed.bottom};
+}
+
+RECT FrameOf(HWND window) {
+    RECT frame = {};
+    GetWindowRect(window, &frame);
+    return frame;
+}
+
+TEST_F(UiModuleLayout, TrayRowsAndColumnsAreLargeEnough) {
+    OpenModel(155);
+    HWND list = Control(1844);
+    for (int i = 0; i < 7; ++i) { // narrow, as the module's titles make them
+        wchar_t title[] = L"Title";
+        LVCOLUMNW column = {LVCF_TEXT | LVCF_WIDTH, 0, 30, title, 0, i, 0, 0, 0, 0, 0};
+        SendMessageW(list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&column));
+    }
+    wchar_t name[] = L"A tray with a very long name";
+    LVITEMW item = {};
+    item.mask = LVIF_TEXT;
+    item.pszText = name;
+    SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    ShowWindow(dialog, SW_SHOW);
+    RECT row = {}, client = {};
+    SendMessageW(list, LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+    EXPECT_GE(row.bottom - row.top, Needed(list, name).cy + 2);
+    EXPECT_GE(SendMessageW(list, LVM_GETCOLUMNWIDTH, 0, 0), Needed(list, name).cx);
+    LRESULT all = 0;
+    for (WPARAM i = 0; i < 7; ++i)
+        all += SendMessageW(list, LVM_GETCOLUMNWIDTH, i, 0);
+    GetClientRect(list, &client);
+    EXPECT_EQ(all, client.right);
+}
+
+TEST_F(UiModuleLayout, OpenListsAreAsWideAsTheirLongestEntry) {
+    OpenModel(128);
+    ShowWindow(dialog, SW_SHOW);
+    const std::wstring name = std::wstring(40, L'W') + L" (1)";
+    SendDlgItemMessageW(dialog, 1504, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+    SendDlgItemMessageW(dialog, 1504, CB_SHOWDROPDOWN, TRUE, 0);
+    COMBOBOXINFO info = {sizeof(info), {}, {}, 0, nullptr, nullptr, nullptr};
+    GetComboBoxInfo(Control(1504), &info);
+    RECT entries = {};
+    GetClientRect(info.hwndList, &entries);
+    EXPECT_GE(entries.right, Needed(Control(1504), name.c_str()).cx + 20) << "the module leaves room for an icon";
+}
+
+TEST_F(UiModuleLayout, StopSignOfACheckBoxIsNextToItsText) {
+    for (const int id : {122, 124, 128})
+        for (const wchar_t* text : {L"Paper", L"A text that is much too long for the place that the box has"}) {
+            OpenModel(id);
+            const LONG end = FrameOf(Control(1527)).right;
+            ControlTextRecord rows[] = {{{1526}, {}, "Box"}, {}};
+            wcsncpy(rows[0].display, text, std::size(rows[0].display) - 1);
+            FUNCTION(ReplaceDlgDispString)(dialog, rows);
+            const RECT box = FrameOf(Control(1526)), icon = FrameOf(Control(1527));
+            const LONG square = box.bottom - box.top;
+            const LONG needed = Needed(Control(1526), TextOf(Control(1526)).c_str()).cx + square;
+            EXPECT_LE(icon.left, box.left + needed + square) << "not far off";
+            EXPECT_TRUE(icon.left >= box.left + needed || end - icon.right < square) << "not over the text";
+            EXPECT_TRUE(icon.left >= box.right && icon.right <= end) << id;
+        }
+}
+
+TEST_F(UiModuleLayout, DialogsOpenOverTheirOwner) {
+    const HWND owner =
+        CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, 700, 500, 40, 30, nullptr, nullptr, nullptr, nullptr);
+    const HWND between =
+        CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 0, 0, owner, nullptr, nullptr, nullptr); // invisible
+    const auto middle = [](const RECT& frame) { return std::pair(frame.left + frame.right, frame.top + frame.bottom); };
+    OpenModel(123, between);
+    const auto [x, y] = middle(FrameOf(dialog));
+    EXPECT_LE(abs(x - 1440) + abs(y - 1030), 2);
+    SetWindowPos(owner, nullptr, -300, -300, 0, 0, SWP_NOSIZE);
+    OpenModel(123, between);
+    EXPECT_EQ(std::pair(FrameOf(dialog).left, FrameOf(dialog).top), std::pair(0L, 0L)) << "within the screen";
+    DestroyWindow(dialog);
+    DestroyWindow(owner);
 }
 
 } // namespace

@@ -89,6 +89,8 @@ TEST(WorkbenchDialog, PictureIncludesHintBelow) {
     const int bottom = report["pictures"][0]["height"]; // of the dialog alone
     EXPECT_EQ(report["pictures"][1]["width"], report["pictures"][0]["width"]);
     EXPECT_GT(report["pictures"][1]["height"], bottom);
+    folder.Run("picture " + path + "/c.png", L"--out \"" + folder.path.wstring() + L"/d.png\"");
+    EXPECT_TRUE(Contents(folder.path / "c.png") == Contents(folder.path / "d.png")) << "focus as it opens";
     const auto refused = ReadPicture(path + "/b.png");
     EXPECT_NE(GetPixel(refused->context, 3, bottom + 3), RGB(0, 0, 0)) << "no hint below the dialog";
     const auto* pixels = static_cast<const DWORD*>(refused->pixels);
@@ -119,6 +121,15 @@ TEST(WorkbenchDialog, TrayChangesAreReportedAfterOk) {
     }
     const Json locked = RunForJson(L"dialog 155 --locked");
     EXPECT_EQ(locked["dialog"]["disabled"], Json({1844, 1860, 1862, 1003, 1086, 1091, 1094}));
+}
+
+TEST(WorkbenchDialog, HelpDoesNotStopAScript) {
+    const DialogFolder folder;
+    const Json report = folder.Run("click 9\nchoose 1354 Vivid\nclick 1528\nok");
+    EXPECT_EQ(Changes(report).substr(0, 20), "image.colorMatch:1:0");
+    const Folder alone(L"workbench_system_help", {"TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL"}); // WinHelp blocks
+    ExpectFailure(L"dialog 128" + alone.Option() + L" --script" + folder.Write("s.txt", "limit 2\nclick 9\nok"), 1,
+                  "s.txt:2: the dialog has not responded for 2 s");
 }
 
 TEST(WorkbenchDialog, JsonFaultsAreExplainedAtTheirPlace) {
@@ -162,6 +173,7 @@ TEST(WorkbenchDialog, FailureSaysWhatIsWrongAndWhere) {
         {"--script", "\nchose 1504 #0", 2, "wrong:2: .*'chose'; possible: choose LIST .*, cancel"},
         {"--script", "choose 1999 #0", 2, "wrong:1: .*no list '1999'; possible: 1504, .*1627\n"},
         {"--script", "choose 1524 #6", 2, "wrong:1: list 1524 .*'#6'; possible: None, SWOP, .*DIC\n"},
+        {"--script", "limit 0", 2, "wrong:1: there is no time limit '0'"},
         {"--script", "cancel\nok", 2, "wrong:2: the dialog was closed before"},
         {"--locked --script", "click 1526", 2, "wrong:1: control 1526 is disabled"},
         {"--script", "picture nowhere/a.png", 1, "wrong:1: .*there is no folder .*nowhere"},
