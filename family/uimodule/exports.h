@@ -21,29 +21,33 @@ extern "C" {
 // first occurrence of its letter, otherwise appended as " (&X)", in front of a closing colon or "...".
 // Nothing is appended to the text of a group box. Texts are cut to their fields. The dialog's identifier and
 // the context are not used. The first callback also makes the entries of owner-drawn lists as high as their
-// font needs.
+// font needs, the second moves the stop icon of the check box to the end of its text.
 TelmarReplaceDlgDispStringCmnItem ReplaceDlgDispStringCmnItem;
 TelmarReplaceDlgDispString ReplaceDlgDispString;
 
 // Creates the hint window. The dialog owns and destroys it. It is hidden until there is a hint, stays below
 // the dialog or within the screen, and never takes the focus. Its window text is the hint. Null when it
 // cannot be created.
+// Also places the dialog over its owner and, until it is destroyed, takes messages before the dialog does:
+// help, the buttons for profiles and the height of tray rows. Lists are fitted to their texts: the tray list
+// when the dialog is shown and after each choice, a drop-down list when it opens.
 TelmarCreateToolWnd CreateToolWnd;
 
 // Notes which of the table's icon controls the dialog has.
 TelmarStoreStopIconRect StoreStopIconRect;
 
-// Checks a control's choice, which is already in the settings of the dialog's context, against the rows of
-// uimodule/constraints.cpp. 100 and 101 refuse it, 0 keeps it. A refused choice stays marked until the next
-// call. Control 0 refuses nothing. The hint window is known from CreateToolWnd; the argument is not used,
-// since a tray dialog passes that of a colour dialog.
+// Checks a control's choice, which is already in the settings of the dialog's context or, of a tray, in its
+// lists, against the rows of uimodule/constraints.cpp. 100 and 101 refuse it, 0 keeps it. A refused choice
+// stays marked until the next call. Control 0 refuses nothing. The hint window is known from CreateToolWnd;
+// the argument is not used, since a tray dialog passes that of a colour dialog.
 TelmarDoConstraints DoConstraints;
 
-// Shows the hints in the hint window, or hides it when there are none, and redraws the stop icons. The hint
-// is that of the refused choice, otherwise of all conflicts in the settings whose controls the dialog has.
+// Shows the hints in the hint window, or hides it when there are none, and redraws the stop icons. They are
+// all reasons why the last choice was refused, otherwise all conflicts of settings whose controls the dialog
+// has.
 TelmarDispHintControl DispHintControl;
 
-// 0: not installed.
+// 1 when the environment variable LUMORA_DOWNLOAD_MANAGER is 1, otherwise 0: not installed.
 TelmarIsInstalledDLManager IsInstalledDLManager;
 
 // Draws a stop sign when the choice of the icon's control is refused or in conflict, otherwise only the
