@@ -6,7 +6,6 @@
 #include "uimodule/help.h"
 #include "uimodule/list_fit.h"
 #include "uimodule/profile_windows.h"
-#include "uimodule/text_window.h"
 
 #include <windowsx.h>
 
@@ -88,7 +87,6 @@ LRESULT CALLBACK FrontProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM
 }
 
 void Detach(HWND dialog) {
-    CloseTextWindow();
     SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ProcedureOf(dialog)));
     RemovePropW(dialog, kProcedure);
     if (--attachedDialogs == 0)

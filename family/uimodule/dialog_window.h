@@ -6,8 +6,8 @@
 #include <windows.h>
 
 // Replaces the dialog's procedure until the dialog is destroyed. Calling it again changes nothing. The dialog
-// frees this library while it is being destroyed, so a hook puts the procedure back before that and closes
-// the library's own window.
+// frees this library while it handles WM_DESTROY, so a hook puts the procedure back before that. Windows that
+// the dialog owns have ended by then, too.
 void AttachToDialog(HWND dialog);
 
 #endif

@@ -36,7 +36,7 @@ LONG TitleWidth(HWND list, int column) {
     SendMessageW(list, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&record));
     HWND header = reinterpret_cast<HWND>(SendMessageW(list, LVM_GETHEADER, 0, 0));
     const auto margin = static_cast<LONG>(SendMessageW(header, HDM_GETBITMAPMARGIN, 0, 0));
-    return StringWidth(list, title) + 4 * margin;
+    return StringWidth(list, title) + 2 * margin + FontHeight(list);
 }
 
 LONG CellWidth(HWND list, int row, int column) {
@@ -47,7 +47,8 @@ LONG CellWidth(HWND list, int row, int column) {
     record.cchTextMax = kTextCapacity;
     SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&record));
     const LONG inset = LOWORD(GetDialogBaseUnits()) / 4; // where the module begins a cell's text
-    return StringWidth(list, text) + 4 * inset + (column == kOrientationColumn ? kIconHeight : 0);
+    return StringWidth(list, text) + 2 * inset + FontHeight(list)
+           + (column == kOrientationColumn ? kIconHeight : 0);
 }
 
 ColumnWidths MeasureColumns(HWND list) {

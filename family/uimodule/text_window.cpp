@@ -46,7 +46,7 @@ INT_PTR CALLBACK TextProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
 
 HWND OpenTextWindow(HWND dialog, const wchar_t* title) {
     if (open != nullptr && GetWindow(open, GW_OWNER) != dialog)
-        CloseTextWindow();
+        DestroyWindow(open);
     if (open == nullptr) {
         open = CreateDialogParamW(library, MAKEINTRESOURCEW(IDD_TEXT_WINDOW), dialog, TextProcedure, 0);
         if (open == nullptr)
@@ -78,9 +78,4 @@ void ShowTextWindow(HWND textWindow) {
     SetFocus(edit);
     SendMessageW(edit, EM_SETSEL, 0, 0);
     SendMessageW(edit, EM_SCROLLCARET, 0, 0);
-}
-
-void CloseTextWindow() {
-    if (open != nullptr)
-        DestroyWindow(open);
 }

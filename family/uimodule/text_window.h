@@ -13,7 +13,4 @@ void AppendParagraph(HWND textWindow, const wchar_t* text);
 // Shows the window, from its first line, and gives it the focus.
 void ShowTextWindow(HWND textWindow);
 
-// Closes the window if it is open.
-void CloseTextWindow();
-
 #endif
