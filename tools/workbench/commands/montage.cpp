@@ -1,5 +1,5 @@
-// `workbench montage`: one sheet of several pictures, each with its file name below. Pictures of the same
-// width are placed in one column, in the order of the command line.
+// `workbench montage`: one sheet of several pictures, each with its file name below, in columns in the order
+// of the command line.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/picture.h"
 
@@ -10,9 +10,10 @@ namespace {
 // In pixels.
 constexpr LONG kGap = 24; // around pictures
 constexpr LONG kCaptionHeight = 22;
+constexpr LONG kMaxHeight = 2200; // of a column
 
 struct Column {
-    LONG width;
+    LONG width; // of its widest picture
     LONG left;
     LONG bottom; // of the pictures placed so far
 };
@@ -23,14 +24,12 @@ struct Placed {
     POINT at;
 };
 
-// The column for pictures of this width, added on the right if there is none yet.
-Column& ColumnFor(std::vector<Column>& columns, LONG width) {
-    const auto found = std::find_if(columns.begin(), columns.end(),
-                                    [width](const Column& column) { return column.width == width; });
-    if (found != columns.end())
-        return *found;
-    const LONG left = columns.empty() ? kGap : columns.back().left + columns.back().width + kGap;
-    columns.push_back({width, left, kGap});
+// The last column or, when it has no room for a picture of this height, a new one to its right.
+Column& ColumnFor(std::vector<Column>& columns, LONG height) {
+    if (columns.empty())
+        columns.push_back({0, kGap, kGap});
+    else if (columns.back().bottom + height > kMaxHeight)
+        columns.push_back({0, columns.back().left + columns.back().width + kGap, kGap});
     return columns.back();
 }
 
@@ -38,9 +37,11 @@ std::vector<Placed> Place(const std::vector<std::string>& paths, std::vector<Col
     std::vector<Placed> pictures;
     for (const std::string& path : paths) {
         std::unique_ptr<Canvas> picture = ReadPicture(path);
-        Column& column = ColumnFor(columns, picture->size.cx);
+        const LONG height = picture->size.cy + kCaptionHeight + kGap;
+        Column& column = ColumnFor(columns, height);
         const POINT at = {column.left, column.bottom};
-        column.bottom += picture->size.cy + kCaptionHeight + kGap;
+        column.bottom += height;
+        column.width = std::max(column.width, picture->size.cx);
         pictures.push_back({std::filesystem::u8path(path).stem().u8string(), std::move(picture), at});
     }
     return pictures;
