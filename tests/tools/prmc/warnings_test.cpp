@@ -70,12 +70,12 @@ const std::tuple<std::string, std::string, std::string> kChanges[] = {
     {"name: Large-capacity tray, value: 1000, enabled", "name: Large-capacity tray 1000, value: 1000, enabled",
      "name 'Large-capacity tray 1000' is cut after 23 characters in the system's list of paper sources: shorten it\n"},
     {"key: Text_RGBColorMatch,  name: \"Colour matching:\"", "key: Text_RGBColorMatch, name: " + kW21,
-     "name '" + kW21 + "' is cut: it needs 126 dialog units or more, and what shows it has 123: shorten it\n"},
+     "name '" + kW21 + "' is cut: it needs 126 dialog units or more, and what shows it has 124: shorten it\n"},
     {"key: Text_sRGB,          name: sRGB", "key: Text_sRGB, name: " + kW23,
      "name '" + kW23 + "' is cut: it needs 138 dialog units or more, and what shows it has 136: shorten it\n"},
     {"key: Text_sRGB,          name: sRGB", "key: Text_sRGB, name: " + kW21, ""}, // fits
     {"key: Thick1,         name: Thick 1", "key: Thick1, name: " + kW26,
-     "name '" + kW26 + "' is cut: it needs 156 dialog units or more, and what shows it has 150: shorten it\n"},
+     "name '" + kW26 + "' is cut: it needs 156 dialog units or more, and what shows it has 152: shorten it\n"},
     {"key: Reso_1200dpi", "key: Fine",
      "the driver takes 0 for the resolution of 'Fine': it reads the number in the key after character 5, "
      "as in Reso_600dpi\n"},
