@@ -2,11 +2,12 @@
 #include "uimodule/dialog_window.h"
 
 #include "base/dialog_ids.h"
-#include "base/records.h"
+#include "uimodule/exports.h"
 #include "uimodule/help.h"
 #include "uimodule/list_fit.h"
 #include "uimodule/profile_windows.h"
 
+#include <commctrl.h>
 #include <windowsx.h>
 
 namespace {
@@ -15,6 +16,7 @@ constexpr const wchar_t* kProcedure = L"TELMAR_U procedure"; // window property:
 
 HHOOK destroyHook;
 int attachedDialogs;
+bool isPaperChosen; // the module handles a choice, and selects the tray once more
 
 const DialogContext* ContextOf(HWND dialog) {
     return reinterpret_cast<const DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER));
@@ -74,15 +76,33 @@ bool TakeMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
+// The module checks the settings when the paper of a tray has changed, not when another tray is selected.
+void CheckSelectedTray(HWND dialog) {
+    auto* context = reinterpret_cast<DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER));
+    DoConstraints(nullptr, dialog, nullptr, 0, -1, nullptr);
+    DispHintControl(dialog, context, IDD_TRAYS_6_ATTRIBUTES);
+}
+
+bool IsTraySelected(UINT message, LPARAM lParam) {
+    const auto* change = reinterpret_cast<const NMLISTVIEW*>(lParam);
+    return message == WM_NOTIFY && change->hdr.code == LVN_ITEMCHANGED && change->hdr.idFrom == IDC_TRAY_LIST
+           && (change->uNewState & LVIS_SELECTED) != 0;
+}
+
 LRESULT CALLBACK FrontProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (TakeMessage(dialog, message, wParam, lParam))
         return TRUE;
-    if (message == WM_COMMAND && HIWORD(wParam) == CBN_DROPDOWN)
+    const UINT notification = message == WM_COMMAND ? HIWORD(wParam) : 0;
+    if (notification == CBN_DROPDOWN)
         FitDroppedWidth(reinterpret_cast<HWND>(lParam));
+    const bool wasPaperChosen = isPaperChosen;
+    isPaperChosen = wasPaperChosen || notification == CBN_SELENDOK;
     const LRESULT result = CallWindowProcW(ProcedureOf(dialog), dialog, message, wParam, lParam);
-    const bool isPaperChosen = message == WM_COMMAND && HIWORD(wParam) == CBN_SELENDOK;
-    if ((message == WM_SHOWWINDOW && wParam != FALSE) || isPaperChosen)
+    isPaperChosen = wasPaperChosen;
+    if ((message == WM_SHOWWINDOW && wParam != FALSE) || notification == CBN_SELENDOK)
         FitTrayColumns(dialog); // the module has filled the list
+    if (IsTraySelected(message, lParam) && !isPaperChosen)
+        CheckSelectedTray(dialog);
     return result;
 }
 

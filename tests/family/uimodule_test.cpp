@@ -347,6 +347,16 @@ TEST_F(UiModule, RefusesPaperThatDoesNotExist) {
         HintAfter(1003, hint[0] == L'-' ? 0 : 100);
     }
     HintAfter(1860, 0);
+
+    choose(1094, "PP_On"); // as the module does when a tray is selected
+    wchar_t name[] = L"Tray";
+    LVITEMW item = {};
+    item.mask = LVIF_TEXT | LVIF_STATE;
+    item.pszText = name;
+    SendDlgItemMessageW(dialog, 1844, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    item.state = item.stateMask = LVIS_SELECTED;
+    SendDlgItemMessageW(dialog, 1844, LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&item));
+    EXPECT_EQ(TextOf(hintWindow).find(L"Envelopes"), 0u) << "of the tray that is selected now";
 }
 
 TEST_F(UiModule, ExplainsTheDialogAndStaysOutOfItsWay) {
@@ -420,6 +430,9 @@ TEST_F(UiModule, HasAllTextsInBothLanguages) {
     OpenModel(128);
     settings->matchPaperColor = 1;
     EXPECT_EQ(HintAfter(0), L"Wählen Sie ein Druckverfahren, um die Papierfarbe nachzubilden.");
+    SetThreadLocale(MAKELCID(0x411, SORT_DEFAULT)); // Japanese: neither
+    SetThreadUILanguage(0x411);
+    EXPECT_EQ(HintAfter(0), L"To match the colour of the paper, choose a press to simulate.");
     SetThreadLocale(MAKELCID(0x409, SORT_DEFAULT));
     SetThreadUILanguage(0x409);
 }

@@ -123,6 +123,17 @@ TEST(WorkbenchDialog, TrayChangesAreReportedAfterOk) {
     EXPECT_EQ(locked["dialog"]["disabled"], Json({1844, 1860, 1862, 1003, 1086, 1091, 1094}));
 }
 
+TEST(WorkbenchDialog, RefusedPaperIsUndoneAndExplainedUntilAnotherTrayIsSelected) {
+    const DialogFolder folder;
+    const Json report =
+        RunForJson(L"dialog 155 --script"
+                   + folder.Write("s.txt", "choose 1094 Pre-punched\nchoose 1003 Envelope\nchoose 1844 Tray 2\nok"));
+    const Json hints = Pick(report["actions"], "hint");
+    EXPECT_TRUE(hints[0].is_null() && hints[2].is_null()) << hints;
+    EXPECT_EQ(hints[1].get<std::string>().find("Envelopes have no holes."), 0);
+    EXPECT_EQ(Pick(report["changes"], "attribute"), Json({"hole"}));
+}
+
 TEST(WorkbenchDialog, HelpDoesNotStopAScript) {
     const DialogFolder folder;
     const Json report = folder.Run("click 9\nchoose 1354 Vivid\nclick 1528\nok");
