@@ -157,7 +157,7 @@ BOOL CALLBACK FindOpened(HWND window, LPARAM /*parameter*/) {
     return FALSE;
 }
 
-// Stands in for the property sheet, the parent of the page with the button.
+// Replaces the property sheet, the parent of the page with the button.
 LRESULT CALLBACK SheetProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == TELMAR_WM_TRAYS_CHANGED)
         running->isPageNotified = true;
