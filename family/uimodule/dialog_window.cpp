@@ -5,6 +5,7 @@
 #include "uimodule/exports.h"
 #include "uimodule/help.h"
 #include "uimodule/list_fit.h"
+#include "uimodule/list_tips.h"
 #include "uimodule/profile_windows.h"
 
 #include <commctrl.h>
@@ -61,12 +62,21 @@ bool TakeContextMenu(HWND dialog, WPARAM window, LPARAM point) {
     return true;
 }
 
+bool TakeNotification(NMHDR& notification) {
+    if (notification.code != TTN_GETDISPINFOW)
+        return false;
+    DescribeCutText(reinterpret_cast<NMTTDISPINFOW&>(notification));
+    return true;
+}
+
 bool TakeMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_COMMAND:
         return TakeCommand(dialog, wParam);
     case WM_MEASUREITEM:
         return TakeMeasureItem(dialog, *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam));
+    case WM_NOTIFY:
+        return TakeNotification(*reinterpret_cast<NMHDR*>(lParam));
     case WM_HELP:
         return TakeHelp(dialog, *reinterpret_cast<const HELPINFO*>(lParam));
     case WM_CONTEXTMENU:
@@ -126,13 +136,16 @@ LRESULT CALLBACK WatchDestruction(int code, WPARAM wParam, LPARAM lParam) {
 } // namespace
 
 void AttachToDialog(HWND dialog) {
-    if (ProcedureOf(dialog) != nullptr)
+    const auto procedure = reinterpret_cast<HANDLE>(GetWindowLongPtrW(dialog, GWLP_WNDPROC));
+    if (ProcedureOf(dialog) != nullptr || !SetPropW(dialog, kProcedure, procedure))
         return;
     if (attachedDialogs == 0)
         destroyHook = SetWindowsHookExW(WH_CBT, WatchDestruction, nullptr, GetCurrentThreadId());
-    if (destroyHook == nullptr
-        || !SetPropW(dialog, kProcedure, reinterpret_cast<HANDLE>(GetWindowLongPtrW(dialog, GWLP_WNDPROC))))
+    if (destroyHook == nullptr) {
+        RemovePropW(dialog, kProcedure);
         return;
+    }
     ++attachedDialogs;
+    AddListTips(dialog);
     SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(FrontProcedure));
 }

@@ -30,7 +30,8 @@ TelmarReplaceDlgDispString ReplaceDlgDispString;
 // cannot be created.
 // Also places the dialog over its owner and, until it is destroyed, takes messages before the dialog does:
 // help, the buttons for profiles and the height of tray rows. Lists are fitted to their texts: the tray list
-// when the dialog is shown and after each choice, a drop-down list when it opens.
+// when the dialog is shown and after each choice, a drop-down list when it opens. A chosen text that is cut
+// is in the list's tool tip.
 TelmarCreateToolWnd CreateToolWnd;
 
 // Notes which of the table's icon controls the dialog has.

@@ -378,9 +378,16 @@ TEST_F(UiModule, ExplainsTheDialogAndStaysOutOfItsWay) {
     EXPECT_EQ(help.find(L"RGB source: "), 0u);
     EXPECT_EQ(help.find(L"\r\n"), std::wstring::npos) << "the text on this control only";
     EXPECT_EQ(messagesPassed, 0);
-    OpenModel(155);
-    SendMessageW(dialog, WM_COMMAND, IDHELP, 0);
-    EXPECT_NE(WindowText().find(L"Weight: "), std::wstring::npos);
+    for (const int id : {122, 123, 124, 125, 128, 155, 165, 166}) { // every control has a text of its own
+        OpenModel(id);
+        for (HWND at = GetWindow(dialog, GW_CHILD); at != nullptr; at = GetWindow(at, GW_HWNDNEXT)) {
+            if ((GetWindowLongW(at, GWL_STYLE) & WS_TABSTOP) == 0 || GetDlgCtrlID(at) == IDHELP)
+                continue;
+            info.hItemHandle = at;
+            SendMessageW(dialog, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+            EXPECT_EQ(WindowText().find(L"\r\n"), std::wstring::npos) << id << ' ' << GetDlgCtrlID(at);
+        }
+    }
 }
 
 TEST_F(UiModule, ShowsTheProfilesAndTheDownloadManager) {
@@ -493,6 +500,20 @@ TEST_F(UiModuleLayout, OpenListsAreAsWideAsTheirLongestEntry) {
     RECT entries = {};
     GetClientRect(info.hwndList, &entries);
     EXPECT_GE(entries.right, Needed(Control(1504), name.c_str()).cx + 20) << "the module leaves room for an icon";
+}
+
+TEST_F(UiModuleLayout, CutChoiceIsInAToolTip) {
+    OpenModel(128);
+    const std::wstring name(40, L'W');
+    for (const wchar_t* entry : {L"short", name.c_str()})
+        SendDlgItemMessageW(dialog, 1504, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(entry));
+    for (WPARAM i = 0; i < 2; ++i) {
+        SendDlgItemMessageW(dialog, 1504, CB_SETCURSEL, i, 0);
+        NMTTDISPINFOW tip = {};
+        tip.hdr = {nullptr, reinterpret_cast<UINT_PTR>(Control(1504)), static_cast<UINT>(TTN_GETDISPINFOW)};
+        SendMessageW(dialog, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&tip));
+        EXPECT_EQ(tip.lpszText, i == 0 ? std::wstring() : name);
+    }
 }
 
 TEST_F(UiModuleLayout, StopSignOfACheckBoxIsNextToItsText) {

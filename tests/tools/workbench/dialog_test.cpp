@@ -136,8 +136,13 @@ TEST(WorkbenchDialog, RefusedPaperIsUndoneAndExplainedUntilAnotherTrayIsSelected
 
 TEST(WorkbenchDialog, HelpDoesNotStopAScript) {
     const DialogFolder folder;
-    const Json report = folder.Run("click 9\nchoose 1354 Vivid\nclick 1528\nok");
+    const std::string picture = "picture " + folder.path.u8string() + "/p.png\n";
+    const Json report = folder.Run("click 9\nchoose 1354 Vivid\n" + picture + "key f1\n" + picture + "key escape\n"
+                                   + picture + "click 1528\nok");
     EXPECT_EQ(Changes(report).substr(0, 20), "image.colorMatch:1:0");
+    const Json widths = Pick(report["pictures"], "width"); // with what is open next to the dialog
+    EXPECT_EQ(widths[0], widths[1]);
+    EXPECT_LT(widths[2], widths[1]);
     const Folder alone(L"workbench_system_help", {"TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL"}); // WinHelp blocks
     ExpectFailure(L"dialog 128" + alone.Option() + L" --script" + folder.Write("s.txt", "limit 2\nclick 9\nok"), 1,
                   "s.txt:2: the dialog has not responded for 2 s");

@@ -28,7 +28,7 @@ constexpr struct {
     {"tab", VK_TAB},      {"space", VK_SPACE}, {"enter", VK_RETURN},  {"escape", VK_ESCAPE},
     {"up", VK_UP},        {"down", VK_DOWN},   {"left", VK_LEFT},     {"right", VK_RIGHT},
     {"home", VK_HOME},    {"end", VK_END},     {"page-up", VK_PRIOR}, {"page-down", VK_NEXT},
-    {"drop-down", VK_F4},
+    {"drop-down", VK_F4}, {"f1", VK_F1},
 };
 
 std::string Trimmed(const std::string& text) {
@@ -117,7 +117,10 @@ void PressKey(DialogScript& /*script*/, HWND /*dialog*/, const std::string& argu
     if (focus == nullptr)
         throw Failure(kExitFailed, "no control has the keyboard focus; keep the dialog in the foreground");
     const UINT scanCode = MapVirtualKeyW(static_cast<UINT>(row->key), MAPVK_VK_TO_VSC);
+    constexpr UINT kHelpKey = 0x4D; // WM_KEYF1, which the system adds to a key of the keyboard
     PostMessageW(focus, WM_KEYDOWN, row->key, static_cast<LPARAM>(1 | scanCode << 16));
+    if (row->key == VK_F1)
+        PostMessageW(focus, kHelpKey, 0, 0);
     PostMessageW(focus, WM_KEYUP, row->key, static_cast<LPARAM>(0xC0000001 | scanCode << 16));
 }
 
