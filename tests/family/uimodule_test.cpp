@@ -9,6 +9,7 @@
 #include "uimodule/resource_ids.h"
 
 #include <commctrl.h>
+#include <cstring>
 #include <functional>
 #include <map>
 #include <memory>

@@ -6,6 +6,7 @@
 #include "workbench/lib/text.h"
 
 #include <atomic>
+#include <cstdlib>
 #include <exception>
 #include <optional>
 #include <thread>
