@@ -227,6 +227,10 @@ TEST_F(Sheet, QualityPageListsWhatThePersonChanged) {
          {std::pair(0, "1 \u2192 130"), {1, "1 \u2192 3"}, {2, "0 \u2192 1"}, {3, "0 \u2192 1"}})
         rows[static_cast<size_t>(row)] += std::string(" | ") + numbers;
     EXPECT_EQ(RowsOn(sheet, ID_CHANGED), rows);
+    state.settings.simulation = 128; // a profile of the printer
+    CopyText(state.settings.simulationProfile.name, L"House offset");
+    driver.Click(ID_DETAILS);
+    EXPECT_EQ(RowsOn(sheet, ID_CHANGED)[2], "Press simulation | None | House offset");
     driver.Click(ID_DEFAULTS);
     EXPECT_TRUE(RowsOn(sheet, ID_CHANGED).empty());
     EXPECT_EQ(memcmp(&state.settings.imageRgbProfile, &defaultSettings.imageRgbProfile, sizeof(ProfileEntry)), 0);

@@ -1,5 +1,5 @@
 // `workbench tour`: opens the property sheet, uses every page as a person would, and saves a picture of each.
-// What the model lacks is passed over.
+// Skips what the model lacks.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/settings_fields.h"
 #include "workbench/property_sheet/page_driver.h"

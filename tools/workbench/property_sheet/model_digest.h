@@ -1,4 +1,4 @@
-// Tells models apart by what kept settings refer to.
+// The identity of a model, as far as kept settings refer to it.
 #ifndef WORKBENCH_PROPERTY_SHEET_MODEL_DIGEST_H
 #define WORKBENCH_PROPERTY_SHEET_MODEL_DIGEST_H
 

@@ -37,7 +37,7 @@ std::string DateText(const FILETIME& time) {
     return Utf8(text);
 }
 
-// The parameter data file has no version of its own; its date tells two of them apart.
+// The parameter data file has no version of its own; its date distinguishes two of them.
 std::vector<std::string> FileRow(const std::filesystem::path& path) {
     WIN32_FILE_ATTRIBUTE_DATA facts = {};
     const std::string name = path.filename().u8string();
@@ -86,8 +86,16 @@ private:
         SetViewportOrgEx(item.hDC, -origin.x, -origin.y, nullptr);
         SendMessageW(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(item.hDC), 0);
         SetViewportOrgEx(item.hDC, 0, 0, nullptr);
+        // The module draws in pixels of 96 dots per inch.
+        const int dpi = GetDeviceCaps(item.hDC, LOGPIXELSX);
+        const auto logical = [dpi](LONG pixels) { return MulDiv(pixels, 96, dpi); };
+        SetMapMode(item.hDC, MM_ANISOTROPIC);
+        SetWindowExtEx(item.hDC, 96, 96, nullptr);
+        SetViewportExtEx(item.hDC, dpi, dpi, nullptr);
+        SetStretchBltMode(item.hDC, HALFTONE);
         EXPORT(state.family, DrawLogoVersionTab)
-        (item.hDC, nullptr, item.rcItem.right / 2, item.rcItem.bottom / 2);
+        (item.hDC, nullptr, logical(item.rcItem.right / 2), logical(item.rcItem.bottom / 2));
+        SetMapMode(item.hDC, MM_TEXT);
     }
 
     static std::vector<std::string> Titles() {
