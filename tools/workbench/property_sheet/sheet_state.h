@@ -69,7 +69,7 @@ std::string LoadState(SheetState& state);
 // written.
 void SaveState(SheetState& state);
 
-// Saves where the window is, and nothing else. It does not matter if that fails.
+// Saves where the window is, and nothing else. A failure is ignored.
 void SavePlace(SheetState& state, POINT place);
 
 // Whether the state has been saved, and where.
