@@ -2,6 +2,7 @@
 // Skips what the model lacks.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/settings_fields.h"
+#include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
 
