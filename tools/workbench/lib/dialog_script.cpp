@@ -31,11 +31,6 @@ constexpr struct {
     {"drop-down", VK_F4}, {"f1", VK_F1},
 };
 
-std::string Trimmed(const std::string& text) {
-    const size_t first = std::min(text.find_first_not_of(kBlanks), text.size());
-    return text.substr(first, text.find_last_not_of(kBlanks) + 1 - first);
-}
-
 // The line up to a '#' at its beginning or with a blank on either side.
 std::string WithoutComment(const std::string& line) {
     const std::string padded = " " + line + " ";

@@ -1,7 +1,34 @@
 // Text conversion by the system's code pages, numbers and error messages.
 #include "workbench/lib/text.h"
 
-#include <system_error>
+#include <iterator>
+
+namespace {
+
+bool IsValidUtf8(std::string_view bytes) {
+    return bytes.empty()
+           || MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), static_cast<int>(bytes.size()),
+                                  nullptr, 0)
+                  != 0;
+}
+
+bool IsAscii(std::string_view bytes) {
+    for (const char byte : bytes)
+        if (static_cast<uint8_t>(byte) > 0x7F)
+            return false;
+    return true;
+}
+
+// Without the last character when its bytes are incomplete.
+std::string_view WithoutCutCharacter(std::string_view utf8) {
+    constexpr size_t kMaxMissing = 3; // bytes of the longest incomplete character
+    for (size_t size = utf8.size(); size > 0 && utf8.size() - size < kMaxMissing; --size)
+        if ((static_cast<uint8_t>(utf8[size - 1]) & 0xC0) == 0xC0)
+            return utf8.substr(0, size - 1);
+    return utf8;
+}
+
+} // namespace
 
 std::wstring Wide(std::string_view text, UINT codePage) {
     const int bytes = static_cast<int>(text.size());
@@ -22,6 +49,34 @@ std::string Utf8(std::wstring_view text) {
 
 std::string Utf8(std::string_view text, UINT codePage) {
     return Utf8(Wide(text, codePage));
+}
+
+std::string PrinterText(std::string_view bytes) {
+    if (IsValidUtf8(bytes))
+        return std::string(bytes);
+    // A single letter with an accent at the end of a text in a code page looks like a cut character, too. So
+    // only a text that has other such characters counts as UTF-8.
+    const std::string_view whole = WithoutCutCharacter(bytes);
+    const bool isCutUtf8 = !IsAscii(whole) && IsValidUtf8(whole);
+    return isCutUtf8 ? std::string(whole) : Utf8(bytes, CP_ACP);
+}
+
+std::optional<std::string> ToCodePage(const std::string& utf8) {
+    if (GetACP() == CP_UTF8)
+        return IsValidUtf8(utf8) ? std::optional(utf8) : std::nullopt;
+    const std::wstring wide = Wide(utf8);
+    std::string text(wide.size() * 2, '\0'); // no code page has characters of more bytes per unit
+    BOOL hasDefault = FALSE;
+    text.resize(static_cast<size_t>(
+        WideCharToMultiByte(CP_ACP, WC_NO_BEST_FIT_CHARS, wide.data(), static_cast<int>(wide.size()),
+                            text.data(), static_cast<int>(text.size()), nullptr, &hasDefault)));
+    return hasDefault || text.empty() != wide.empty() ? std::nullopt : std::optional(text);
+}
+
+std::string Trimmed(const std::string& text) {
+    constexpr const char* kSpaces = " \t\r\n";
+    const size_t first = text.find_first_not_of(kSpaces);
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(kSpaces) - first + 1);
 }
 
 std::string Base64(std::string_view bytes) {
@@ -46,5 +101,11 @@ int ParseNumber(const std::string& text, size_t maxDigits) {
 }
 
 std::string ErrorText(DWORD error) {
-    return "error " + std::to_string(error) + ", " + std::system_category().message(static_cast<int>(error));
+    constexpr DWORD kFlags =
+        FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS | FORMAT_MESSAGE_MAX_WIDTH_MASK;
+    wchar_t text[512] = L"";
+    const DWORD length =
+        FormatMessageW(kFlags, nullptr, error, 0, text, static_cast<DWORD>(std::size(text)), nullptr);
+    const std::string message = Trimmed(Utf8(std::wstring_view(text, length)));
+    return "error " + std::to_string(error) + (message.empty() ? "" : ", " + message);
 }

@@ -4,6 +4,7 @@
 
 #include "workbench/lib/module_parts.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -21,13 +22,30 @@ std::string FieldText(const Char (&field)[N]) {
     return Utf8(std::basic_string_view<Char>(field, TextLength(field)));
 }
 
+// A text that a printer has sent. Printers use either UTF-8 or an 8-bit code page and do not say which: valid
+// UTF-8 is taken as that, anything else as the system's code page. Long texts arrive cut, so an incomplete
+// character at the end of UTF-8 is dropped.
+std::string PrinterText(std::string_view bytes);
+
+// The same for a field of a record.
+template <size_t N>
+std::string PrinterText(const char (&field)[N]) {
+    return PrinterText(std::string_view(field, TextLength(field)));
+}
+
+// In the system's code page; none when the text has a character that the code page lacks.
+std::optional<std::string> ToCodePage(const std::string& utf8);
+
+// Without spaces, tabs and line breaks at both ends.
+std::string Trimmed(const std::string& text);
+
 // The bytes in base 64, as data URIs contain them.
 std::string Base64(std::string_view bytes);
 
 // The number that the text consists of; -1 when it is anything but 1 to `maxDigits` digits.
 int ParseNumber(const std::string& text, size_t maxDigits);
 
-// A last-error value with the system's message.
+// A last-error value with the system's message, on one line.
 std::string ErrorText(DWORD error);
 
 #endif
