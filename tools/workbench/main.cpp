@@ -6,6 +6,7 @@
 #include "workbench/lib/output.h"
 #include "workbench/lib/text.h"
 #include "workbench/lib/text_form.h"
+#include "workbench/property_sheet/device_job.h"
 #include "workbench/property_sheet/text_ids.h"
 
 namespace {
@@ -62,9 +63,7 @@ void ReportFailure(int argc, const char* failure) {
         Print(STD_ERROR_HANDLE, std::string("workbench: ") + failure + "\n");
 }
 
-} // namespace
-
-int wmain(int argc, wchar_t** argv) {
+int RunAndReport(int argc, wchar_t** argv) {
     try {
         RunProgram(argc, argv);
         return 0;
@@ -75,4 +74,12 @@ int wmain(int argc, wchar_t** argv) {
         ReportFailure(argc, error.what());
         return kExitFailed;
     }
+}
+
+} // namespace
+
+int wmain(int argc, wchar_t** argv) {
+    const int exitCode = RunAndReport(argc, argv);
+    EndProcessIfJobIsRunning(exitCode);
+    return exitCode;
 }

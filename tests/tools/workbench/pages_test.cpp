@@ -1,5 +1,4 @@
-// The property sheet in this process, on a screen and with simulated printers: how its pages react to the
-// user, to a printer's answers and to failures.
+// The property sheet in this process, on a screen: how its pages react to the user and to failures.
 #include "tools/workbench/workbench_run.h"
 #include "workbench/lib/dialog_view.h"
 #include "workbench/lib/localized_text.h"
@@ -16,8 +15,6 @@
 
 namespace {
 
-using namespace std::string_literals;
-
 constexpr DWORD kMaxWait = 60000; // milliseconds
 
 const FamilyFiles& Family() {
@@ -25,43 +22,14 @@ const FamilyFiles& Family() {
     return family;
 }
 
-// The lines of a list box.
-std::vector<std::string> Lines(HWND list) {
-    std::vector<std::string> lines(static_cast<size_t>(SendMessageW(list, LB_GETCOUNT, 0, 0)));
-    for (size_t i = 0; i < lines.size(); ++i) {
-        char text[256] = "";
-        SendMessageA(list, LB_GETTEXT, i, reinterpret_cast<LPARAM>(text));
-        lines[i] = text;
-    }
-    return lines;
-}
-
 struct Sheet : testing::Test {
     Sheet() { state.user = &user; }
-
-    // Queries a printer and returns the status.
-    std::string Query(const std::string& address) {
-        driver.TurnTo(kPrinterPage);
-        driver.SetText(ID_ADDRESS, address);
-        driver.Click(ID_QUERY);
-        driver.WaitUntil([&] { return !state.isQuerying; }, kMaxWait);
-        return driver.Text(ID_STATUS);
-    }
 
     void Install(const char* option, const char* item) {
         driver.TurnTo(kPrinterPage);
         driver.Choose(ID_OPTIONS, option);
         driver.Choose(ID_OPTION_ITEMS, item);
     }
-
-    std::string ItemOf(const std::string& feature) const {
-        for (const Document& row : OptionsDocument(state.options).Elements())
-            if (row["feature"].Text() == feature)
-                return row["item"].Text();
-        return "none";
-    }
-
-    std::string PaperType(size_t tray) const { return PapersDocument(state.papers).Elements().at(tray)["type"].Text(); }
 
     // The pixels of a part of a control, as on the screen.
     std::string Pixels(int id, RECT place) const {
@@ -112,60 +80,6 @@ TEST_F(Sheet, RemovedPaperSourceIsDeselected) {
     EXPECT_EQ(state.settings.inputTray, first);
     driver.TurnTo(kPaperPage);
     EXPECT_EQ(SelectionOf(driver.Control(ID_SOURCE)), 0);
-}
-
-TEST_F(Sheet, QueryResultsAreShown) {
-    driver.TurnTo(kPaperPage);
-    EXPECT_EQ(EntriesOf(driver.Control(ID_TRAYS)).size(), 7u); // of the model, still unknown
-    EXPECT_EQ(Query(""), "Not queried yet. The picture shows the options selected above.");
-    EXPECT_EQ(user.failures.size(), 1u) << "a missing address is an error";
-    EXPECT_EQ(Query("127.0.162.1"), "Reported by 127.0.162.1 (bidirectional library).");
-    const HWND supplies = driver.Control(ID_SUPPLIES);
-    EXPECT_EQ(Lines(supplies).at(1), "Magenta toner: 67 %");
-    EXPECT_EQ(Lines(supplies).at(4), "Waste toner box: in order");
-    RECT row = {};
-    SendMessageW(supplies, LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
-    EXPECT_EQ(Pixels(ID_SUPPLIES, {row.left + 8, row.top + 6, row.left + 9, row.top + 7}).substr(0, 3), "\xFF\xFF\0"s)
-        << "the bar is not cyan";
-    EXPECT_EQ(Lines(driver.Control(ID_STORED)).at(0), "Overlay: Company letterhead");
-    EXPECT_EQ(PaperType(3), "Thick 1");
-    EXPECT_EQ(ItemOf("OpOutTrayUnit"), "OpOutTrayUnit1");
-
-    EXPECT_EQ(Query("127.0.162.5"), "Reported by 127.0.162.5 (bidirectional library). Not available: overlays.");
-    EXPECT_EQ(Lines(supplies).size(), 5u);
-    EXPECT_EQ(Lines(driver.Control(ID_STORED)).at(0), "RGB profile: sRGB");
-
-    // Nothing remains after another printer was queried.
-    Install("Tray 3", "Installed");
-    EXPECT_EQ(Query("127.0.162.2"), "Reported by 127.0.162.2 (bidirectional library).");
-    EXPECT_EQ(Lines(supplies).at(1), "Magenta toner: 4 %");
-    EXPECT_EQ(ItemOf("OpInTray3"), "DisOpInTray3") << "not reported by either printer";
-    EXPECT_EQ(PaperType(3), "Unknown"); // there is no such tray
-    EXPECT_NE(Query("127.0.162.9").find("does not respond"), std::string::npos);
-    EXPECT_TRUE(Lines(supplies).empty());
-    driver.TurnTo(kPaperPage);
-    driver.TurnTo(kPrinterPage);
-    EXPECT_NE(driver.Text(ID_STATUS).find("does not respond"), std::string::npos) << "not kept by the page";
-}
-
-TEST_F(Sheet, PageStaysResponsiveDuringQuery) {
-    driver.SetText(ID_ADDRESS, "127.0.162.4");
-    const DWORD start = GetTickCount();
-    driver.Click(ID_QUERY);
-    Install("Fax", "Installed");
-    EXPECT_LT(GetTickCount() - start, 1000u) << "waits for the printer";
-    EXPECT_TRUE(state.isQuerying);
-    EXPECT_EQ(driver.Text(ID_QUERY), TEXT_STOP);
-    EXPECT_EQ(driver.Text(ID_STATUS), "Requesting options...");
-
-    driver.Click(ID_QUERY);
-    EXPECT_EQ(driver.Text(ID_QUERY), TEXT_QUERY);
-    EXPECT_EQ(driver.Text(ID_STATUS), "Stopped.");
-    EXPECT_EQ(Query("127.0.162.1").find("Reported by 127.0.162.1 "), 0u) << "waits for the previous printer";
-
-    driver.SetText(ID_ADDRESS, "127.0.162.4");
-    driver.Click(ID_QUERY); // the sheet is closed during the query
-    EXPECT_FALSE(driver.Press(PSBTN_CANCEL));
 }
 
 TEST_F(Sheet, SheetStaysOpenWhenSavingFails) {

@@ -38,7 +38,7 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
 
     const Json second = folder.Tour();
     EXPECT_EQ(second["printer"]["reportedBy"], "");
-    EXPECT_EQ(second["printer"]["address"], "");                  // cleared by the tour
+    EXPECT_EQ(second["printer"]["address"], "127.0.162.1");
     EXPECT_EQ(ItemOf(second, "OpOutTrayUnit"), "OpOutTrayUnit1"); // reported in the first run
     EXPECT_EQ(second["trays"], first["trays"]);
     EXPECT_EQ(Changes(second), Changes(first));

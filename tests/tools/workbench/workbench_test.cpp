@@ -2,6 +2,7 @@
 // shipped model file.
 #include "support/print_queue.h"
 #include "tools/workbench/workbench_run.h"
+#include "workbench/lib/text.h"
 
 #include <algorithm>
 
@@ -110,15 +111,41 @@ TEST(Workbench, StatusReportsLibraryAnswers) {
         "orientation": "MediaTypeList_Landscape", "level": 120, "weight": null, "color": null, "hole": null})"));
 }
 
-TEST(Workbench, StatusSaysWhichCheckFailed) {
-    const auto checks = [](const wchar_t* address) {
-        const Json status = RunForJson(std::wstring(L"status ") + address);
-        const Json& printer = status["printer"];
-        return Json({printer["libraryUsable"], printer["reached"], printer["thisModel"], status["trays"].size()});
-    };
-    EXPECT_EQ(checks(L"127.0.162.1"), Json({true, true, true, 6}));
-    EXPECT_EQ(checks(L"127.0.162.3"), Json({true, true, false, 0}));
-    EXPECT_EQ(checks(L"127.0.162.9"), Json({true, false, nullptr, 0}));
+// The same sentences and exit codes whatever the command and the transport.
+TEST(Workbench, QueriesSayWhyTheyFail) {
+    const std::wstring view = L"view --out view.png --from ", dialog = L"dialog 155 --from ";
+    ExpectFailure(L"query 127.0.162.6", 1, "answer from 127.0.162.6 is damaged. Check");
+    ExpectFailure(dialog + L"127.0.162.6", 1, "answer from 127.0.162.6 is damaged. Check");
+    ExpectFailure(L"query 127.0.162.7", 1, "127.0.162.7 .*SNMP error status 5.*Restart");
+    ExpectFailure(L"query 127.0.162.8", 1, "127.0.162.8 is not a printer. Check");
+    ExpectFailure(view + L"127.0.162.8", 1, "127.0.162.8 is not a printer. Check");
+    ExpectFailure(L"query 127.0.162.9", 1, "127.0.162.9 is on.*turn on SNMP");
+    ExpectFailure(L"status 127.0.162.9", 1, "127.0.162.9 is on.*turn on SNMP");
+    ExpectFailure(L"query 127.0.162.10", 1, "127.0.162.10 does not answer.*community tovask");
+    ExpectFailure(L"query 127.0.162.11", 1, "127.0.162.11 .*other requests only");
+    ExpectFailure(L"status 127.0.162.3", 1, "127.0.162.3 is of another model.*QUORVANE lumora R880");
+    ExpectFailure(L"status no.such.host", 1, "no.such.host: there is no device.*spelling");
+    ExpectFailure(view + L"::1", 2, "::1 leads to an IPv6 address");
+    ExpectFailure(L"query \u6771\u4EAC.local", 2, "\u6771\u4EAC.local: a host name can't have all");
+    ExpectFailure(L"query \" \"", 2, "address is missing");
+    EXPECT_EQ(RunForJson(L"query \" 127.0.162.12 \"")["printer"]["address"], "127.0.162.12");
+}
+
+TEST(Workbench, TextsOfThePrinterAreDecodedAsUtf8) {
+    const Json overlays = RunForJson(L"query 127.0.162.12")["overlays"]["overlays0"];
+    EXPECT_EQ(Pick(overlays, "first"), Json({"B\u00FCro M\u00FCller \u6771\u4EAC"}));
+}
+
+// Bytes that are not UTF-8 are in the code page, also where a letter at the end looks like the start of a character.
+TEST(Workbench, PrinterTextIsUtf8OrInTheCodePage) {
+    ASSERT_EQ(GetACP(), 1252u);
+    EXPECT_EQ(PrinterText("M\xFCller, Caf\xE9"), "M\u00FCller, Caf\u00E9");
+    EXPECT_EQ(PrinterText("Caf\xE9"), "Caf\u00E9");
+    EXPECT_EQ(PrinterText("M\u00FCller"), "M\u00FCller");
+    EXPECT_EQ(PrinterText("\u6771\u4EAC\xE6\x9D"), "\u6771\u4EAC") << "the printer's text was cut";
+    EXPECT_EQ(ToCodePage("M\u00FCller"), "M\xFCller");
+    EXPECT_EQ(ToCodePage("\u0100"), std::nullopt) << "not turned into A";
+    EXPECT_EQ(ErrorText(ERROR_FILE_NOT_FOUND).find_first_of("\r\n"), std::string::npos);
 }
 
 // The library is looked for in the program's folder first, so the program runs in other folders here.
@@ -129,11 +156,9 @@ TEST(Workbench, StatusSaysWhereLibraryIsLookedFor) {
     const Folder complete(L"Dr\u00FCcker \u30D7\u30EA\u30F3\u30BF", // a folder may have any name
                           {"TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_B.DLL"});
     for (const Folder* folder : {&missing, &incomplete}) {
-        const Json printer = Json::parse(RunWorkbench(L"status 127.0.162.1 --json", folder->path).output)["printer"];
-        EXPECT_EQ(printer["libraryUsable"], false);
-        EXPECT_EQ(printer["reached"], nullptr);
-        const std::string hint = printer["hint"];
-        EXPECT_NE(hint.find((folder->path / "TELMAR_B.DLL").u8string()), std::string::npos) << hint;
+        const Result result = RunWorkbench(L"status 127.0.162.1", folder->path);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_NE(result.errors.find((folder->path / "TELMAR_B.DLL").u8string()), std::string::npos) << result.errors;
     }
     EXPECT_EQ(RunForJson(L"describe" + complete.Option())["files"]["module"],
               (complete.path / "TELMAR_D.DLL").u8string());
@@ -162,7 +187,6 @@ TEST(Workbench, FailureSaysWhatIsWrongAndWhatIsPossible) {
     ExpectFailure(L"describe" + moduleOnly.Option(), 1, "module_only.*TELMAR_D.PRM.*--folder");
     ExpectFailure(L"describe" + damaged.Option(), 1, "TELMAR_D.PRM.*damaged.*prmc check");
     ExpectFailure(L"capabilities" + foreign.Option(), 1, "TELMAR_D.DLL.*DDProc_DeviceCapabilities");
-    ExpectFailure(L"query 127.0.162.9", 1, "127.0.162.9: .*does not answer SNMP requests; check the address");
 }
 
 } // namespace

@@ -23,10 +23,10 @@ Document ShowTexts(const FamilyFiles& family);
 Document AskCapabilities(const FamilyFiles& family, const std::vector<std::string>& assignments);
 
 // What a printer answers to SNMP requests: options, supplies, overlays and colour profiles.
-Document AskBySnmp(const FamilyFiles& family, const std::string& agent);
+Document AskBySnmp(const FamilyFiles& family, const std::string& address);
 
 // What a printer answers through the bidirectional library: options and input trays.
-Document AskByLibrary(const FamilyFiles& family, const std::string& agent);
+Document AskByLibrary(const FamilyFiles& family, const std::string& address);
 
 // The network address that the module finds for a print queue or in a settings record; one of the two is
 // given.

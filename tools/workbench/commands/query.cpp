@@ -12,9 +12,14 @@ constexpr Field kSupplyFields[] = {
     {"value", Show<&MrkSupRequestItem::value>},
 };
 
+template <auto kField>
+Document ShowPrinterText(const void* record) {
+    return PrinterText(static_cast<const StoredResourceEntry*>(record)->*kField);
+}
+
 constexpr Field kEntryFields[] = {
-    {"first", Show<&StoredResourceEntry::first>},
-    {"second", Show<&StoredResourceEntry::second>},
+    {"first", ShowPrinterText<&StoredResourceEntry::first>},
+    {"second", ShowPrinterText<&StoredResourceEntry::second>},
     {"storage", Show<&StoredResourceEntry::storage>},
 };
 
@@ -30,16 +35,16 @@ Document SuppliesDocument(const Supplies& supplies) {
     return rows;
 }
 
-Document Overlays(const FamilyFiles& family, const std::string& agent) {
+Document Overlays(const Printer& printer) {
     Document lists;
     for (const int32_t storage : {0, 1})
         lists["overlays" + std::to_string(storage)] =
-            RowsDocument(AskOverlays(family, agent, storage), kEntryFields);
+            RowsDocument(AskOverlays(printer, storage), kEntryFields);
     return lists;
 }
 
-Document Profiles(const FamilyFiles& family, const std::string& agent) {
-    const StoredProfiles profiles = AskProfiles(family, agent);
+Document Profiles(const Printer& printer) {
+    const StoredProfiles profiles = AskProfiles(printer);
     Document lists;
     for (size_t i = 0; i < profiles.size(); ++i)
         lists["profiles" + std::to_string(i)] = RowsDocument(profiles[i], kEntryFields);
@@ -48,13 +53,15 @@ Document Profiles(const FamilyFiles& family, const std::string& agent) {
 
 } // namespace
 
-Document AskBySnmp(const FamilyFiles& family, const std::string& agent) {
-    CheckSnmpAccess(family, agent);
+Document AskBySnmp(const FamilyFiles& family, const std::string& address) {
+    const Printer printer = PrinterAt(family, address);
+    CheckPrinter(printer, Transport::kSnmp);
+    const auto keys = OptionKeys(family, Transport::kSnmp);
     return {
-        {"printer", {{"address", agent}}},
-        {"options", OptionAnswersDocument(AskOptionsBySnmp(family, agent))},
-        {"supplies", SuppliesDocument(AskSupplies(family, agent))},
-        {"overlays", Overlays(family, agent)},
-        {"profiles", Profiles(family, agent)},
+        {"printer", {{"address", printer.address}}},
+        {"options", OptionAnswersDocument(AskOptions(printer, Transport::kSnmp, keys))},
+        {"supplies", SuppliesDocument(AskSupplies(printer, SupplyNames(family)))},
+        {"overlays", Overlays(printer)},
+        {"profiles", Profiles(printer)},
     };
 }

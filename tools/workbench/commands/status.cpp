@@ -1,5 +1,5 @@
-// `workbench status`: queries a printer through the bidirectional library by the module's exports: whether
-// the library is usable, the device responds and is of this model, its options, its input trays.
+// `workbench status`: queries a printer through the bidirectional library by the module's exports: its
+// options and its input trays.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/printer_queries.h"
 #include "workbench/lib/record_fields.h"
@@ -26,23 +26,13 @@ constexpr Field kTrayFields[] = {
 
 } // namespace
 
-// What was not checked because a previous check failed is null.
-Document AskByLibrary(const FamilyFiles& family, const std::string& agent) {
-    const LibraryAccess access = CheckLibraryAccess(family, agent);
-    Document document;
-    document["printer"] = {
-        {"address", agent},
-        {"libraryUsable", access.isUsable},
-        {"reached", access.isUsable ? Document(access.isReached) : Document()},
-        {"thisModel", access.isReached ? Document(access.isThisModel) : Document()},
+Document AskByLibrary(const FamilyFiles& family, const std::string& address) {
+    const Printer printer = PrinterAt(family, address);
+    CheckPrinter(printer, Transport::kLibrary);
+    const auto keys = OptionKeys(family, Transport::kLibrary);
+    return {
+        {"printer", {{"address", printer.address}}},
+        {"options", OptionAnswersDocument(AskOptions(printer, Transport::kLibrary, keys))},
+        {"trays", RowsDocument(AskTraysByLibrary(printer), kTrayFields)},
     };
-    if (!access.isThisModel)
-        document["printer"]["hint"] = AccessHint(family, access);
-    document["options"] = nullptr;
-    document["trays"] = nullptr;
-    if (access.isThisModel) {
-        document["options"] = OptionAnswersDocument(AskOptionsByLibrary(family, agent));
-        document["trays"] = RowsDocument(AskTraysByLibrary(family, agent), kTrayFields);
-    }
-    return document;
 }

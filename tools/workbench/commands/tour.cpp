@@ -52,10 +52,12 @@ struct Tour {
 void VisitPrinter(Tour& tour, const std::string& address) {
     const PageDriver& driver = tour.driver;
     driver.TurnTo(kPrinterPage);
-    driver.SetText(ID_ADDRESS, address);
     if (!address.empty()) {
+        driver.SetText(ID_ADDRESS, address);
         driver.Click(ID_QUERY);
         driver.WaitUntil([&] { return !tour.state.isQuerying; }, kMaxWait);
+        if (tour.state.failure)
+            throw PrinterFailure(*tour.state.failure);
     }
     tour.status = driver.Text(ID_STATUS);
     if (const ItemRecord* fax = FindOption(tour.state.options, "OpFAXUnit=EnaOpFAXKit")) {

@@ -47,11 +47,11 @@ std::string FindTray(const DeviceTable& table, const std::string& wanted) {
 }
 
 // Applies the options that the printer reports. Returns its address and the transport.
-Document ApplyOptionsFrom(const FamilyFiles& family, const std::string& agent, OptionFeatures& options) {
-    const DeviceOptions device = AskDeviceOptions(family, agent);
+Document ApplyOptionsFrom(const FamilyFiles& family, const std::string& address, OptionFeatures& options) {
+    const DeviceOptions device = AskDeviceOptions(family, address);
     for (const OptionRequestItem& answer : device.answers)
         ApplyReportedOption(options, answer.key, answer.value);
-    return {{"address", agent}, {"transport", device.transport}};
+    return {{"address", address}, {"transport", TransportName(device.transport)}};
 }
 
 } // namespace

@@ -34,7 +34,9 @@
 // Which installed units the printer's picture shows.
 #include "picture/capabilities/option_summary.h"
 
-// Last errors of the SNMP exports.
-#include "devcomm/snmp/snmp_errors.h"
+// Building and reading SNMP messages, and what makes a printer this model.
+#include "devcomm/model.h"
+#include "devcomm/snmp/snmp_message.h"
+#include "devcomm/snmp/snmp_values.h"
 
 #endif

@@ -1,7 +1,10 @@
-// Queries a printer through the module's exports and turns refusals into messages.
+// Queries a printer through the module's exports, and finds out why a query has failed.
 #include "workbench/lib/printer_queries.h"
 
 #include "workbench/lib/record_fields.h"
+#include "workbench/lib/snmp_probe.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -18,41 +21,94 @@ constexpr Field kAnswerFields[] = {
     {"answer", Show<&OptionRequestItem::value>},
 };
 
-// Last errors of the module's SNMP client. To the system these numbers mean something else.
-constexpr struct {
-    DWORD error;
-    const char* text;
-} kRequestErrors[] = {
-    {kSnmpOtherRequests, "only replies to other requests arrived"},
-    {kSnmpBadReply, "the reply is malformed"},
-    {kSnmpNoAnswer, "no reply arrived"},
-    {kSnmpTransferFailed, "sending or receiving failed"},
-};
+// Objects that show what kind of device answers. The module reads the same tables of the Printer MIB, also
+// for device 1 only.
+constexpr const char* kAgentObject = ".1.3.6.1.2.1.1.2.0";              // sysObjectID: of every agent
+constexpr const char* kFirstTrayObject = ".1.3.6.1.2.1.43.8.2.1.2.1.1"; // prtInputType
 
-std::string RequestErrorText(DWORD error) {
-    for (const auto& row : kRequestErrors)
-        if (row.error == error)
-            return row.text;
-    return ErrorText(error);
+[[noreturn]] void Fail(Outcome outcome, const Printer& printer, const std::string& detail = {}) {
+    throw PrinterFailure(outcome, printer.address, detail);
 }
 
-// Throws Failure with the reason for the last request's failure. Call it before anything else sets the last
-// error.
-[[noreturn]] void FailRequest(const std::string& agent, const char* what) {
-    const std::string reason = RequestErrorText(GetLastError());
-    throw Failure(kExitFailed, agent + ": " + what + " (" + reason + ")");
+// Fails when there is no IPv4 address, without which the module can't send anything.
+uint32_t FindAddress(const Printer& printer) {
+    uint32_t address = 0;
+    switch (FindHost(printer.agent, address)) {
+    case HostKind::kUnknown:
+        Fail(Outcome::kUnknownHost, printer);
+    case HostKind::kIpv6:
+        Fail(Outcome::kIpv6Address, printer);
+    case HostKind::kIpv4:
+        break;
+    }
+    return address;
 }
 
-// Requests each of the keys through one of the library's exports.
-template <typename Item, size_t kKeys>
-std::vector<Item> AskLibrary(BOOL(WINAPI* ask)(const char*, DWORD, Item*), const std::string& agent,
-                             QueryKey Item::*key, const char* const (&keys)[kKeys]) {
-    std::vector<Item> items(kKeys);
-    for (size_t i = 0; i < kKeys; ++i)
-        CopyText(items[i].*key, keys[i]);
-    if (!ask(agent.c_str(), static_cast<DWORD>(kKeys), items.data()))
-        throw Failure(kExitFailed, agent + ": the device has stopped responding; try again");
+// Fails when the device answers with an error, or is no printer. The module accepts any answer to its check,
+// and takes an option that is answered by an error as not installed.
+void CheckKind(const Printer& printer, uint32_t address) {
+    const ProbeAnswer agent = ProbeObject(address, kAgentObject);
+    if (agent.end == ProbeEnd::kAnswered && agent.reply.errorStatus != 0)
+        Fail(Outcome::kErrorStatus, printer, std::to_string(agent.reply.errorStatus));
+    const ProbeAnswer tray = ProbeObject(address, kFirstTrayObject);
+    if (tray.end == ProbeEnd::kAnswered && tray.reply.errorStatus != 0)
+        Fail(Outcome::kNotAPrinter, printer);
+}
+
+// Fails with the reason why the module has reached no printer. It does not say: its last errors are those of
+// its built-in client, or of the system's libraries, or of the bidirectional library.
+[[noreturn]] void FailToReach(const Printer& printer, uint32_t address) {
+    switch (ProbeObject(address, kAgentObject).end) {
+    case ProbeEnd::kNoAnswer:
+        Fail(Outcome::kNoAnswer, printer, kCommunity);
+    case ProbeEnd::kRefused:
+        Fail(Outcome::kRefused, printer);
+    case ProbeEnd::kNotSent:
+        Fail(Outcome::kNotSent, printer);
+    case ProbeEnd::kMalformed:
+        Fail(Outcome::kMalformedAnswer, printer);
+    case ProbeEnd::kOtherRequests:
+        Fail(Outcome::kOtherRequests, printer);
+    case ProbeEnd::kAnswered:
+        break;
+    }
+    CheckKind(printer, address);
+    Fail(Outcome::kInterrupted, printer);
+}
+
+void CheckByLibrary(const Printer& printer, uint32_t address) {
+    if (TransportOf(printer.family) != Transport::kLibrary)
+        Fail(Outcome::kNoLibrary, printer,
+             (printer.family.modulePath.parent_path() / kLibraryName).u8string());
+    int32_t isThisModel = 0;
+    if (EXPORT(printer.family, DDProc_IsCommunicateDevice)(printer.agent.c_str(), &isThisModel) == FALSE)
+        FailToReach(printer, address);
+    if (isThisModel == 0)
+        Fail(Outcome::kOtherModel, printer, kModelName);
+}
+
+void CheckBySnmp(const Printer& printer, uint32_t address) {
+    if (!EXPORT(printer.family, MIB_IsAccessOK)(printer.agent.c_str()))
+        FailToReach(printer, address);
+    if (!EXPORT(printer.family, MIB_IsModelOK)(printer.agent.c_str()))
+        Fail(Outcome::kOtherModel, printer, kModelName);
+    CheckKind(printer, address);
+}
+
+// Items with these keys.
+template <typename Item>
+std::vector<Item> ItemsFor(const std::vector<std::string>& keys, QueryKey Item::*key) {
+    std::vector<Item> items(keys.size());
+    for (size_t i = 0; i < keys.size(); ++i)
+        CopyText(items[i].*key, keys[i].c_str());
     return items;
+}
+
+// Fills the items by one of the exports.
+template <typename Item>
+void Ask(BOOL(WINAPI* ask)(const char*, DWORD, Item*), const Printer& printer, std::vector<Item>& items) {
+    if (!ask(printer.agent.c_str(), static_cast<DWORD>(items.size()), items.data()))
+        Fail(Outcome::kInterrupted, printer);
 }
 
 StoredResources Copied(const StoredResourceList& list) {
@@ -61,99 +117,94 @@ StoredResources Copied(const StoredResourceList& list) {
 
 } // namespace
 
-LibraryAccess CheckLibraryAccess(const FamilyFiles& family, const std::string& agent) {
-    LibraryAccess access = {};
-    int32_t model = 0;
-    access.isUsable = EXPORT(family, DDProc_IsEnableBdcLib)() != FALSE;
-    access.isReached =
-        access.isUsable && EXPORT(family, DDProc_IsCommunicateDevice)(agent.c_str(), &model) != FALSE;
-    access.isThisModel = model != 0;
-    return access;
+Printer PrinterAt(const FamilyFiles& family, const std::string& address) {
+    Printer printer = {family, Trimmed(address), {}};
+    if (printer.address.empty())
+        Fail(Outcome::kNoAddress, printer);
+    const std::optional<std::string> agent = ToCodePage(printer.address);
+    if (!agent)
+        Fail(Outcome::kUnfitAddress, printer);
+    printer.agent = *agent;
+    return printer;
 }
 
-std::string AccessHint(const FamilyFiles& family, const LibraryAccess& access) {
-    const std::filesystem::path path = family.modulePath.parent_path() / kLibraryName;
-    if (!access.isUsable)
-        return std::string(kLibraryName)
-               + " is missing, or lacks a function or a system library. It is loaded from the folders where "
-                 "Windows looks for libraries, the program's folder first, and then from "
-               + path.u8string() + ": put a complete one there, or use 'workbench query'";
-    if (!access.isReached)
-        return "the device does not respond: check the address, and that the printer is on";
-    if (!access.isThisModel)
-        return "the device is of another model: specify one of this model";
-    return {};
+Transport TransportOf(const FamilyFiles& family) {
+    return EXPORT(family, DDProc_IsEnableBdcLib)() != FALSE ? Transport::kLibrary : Transport::kSnmp;
 }
 
-void CheckSnmpAccess(const FamilyFiles& family, const std::string& agent) {
-    if (!EXPORT(family, MIB_IsAccessOK)(agent.c_str()))
-        FailRequest(
-            agent,
-            "the printer does not answer SNMP requests; check the address, that the printer is on, and "
-            "that it accepts the community tovask");
-    if (!EXPORT(family, MIB_IsModelOK)(agent.c_str()))
-        throw Failure(kExitFailed, agent + ": the device is of another model");
+const char* TransportName(Transport transport) {
+    return transport == Transport::kLibrary ? "bidirectional library" : "SNMP";
 }
 
-OptionAnswers AskOptionsByLibrary(const FamilyFiles& family, const std::string& agent) {
-    return AskLibrary(EXPORT(family, DDProc_OptionRequest), agent, &OptionRequestItem::key, kLibraryOptions);
+void CheckPrinter(const Printer& printer, Transport transport) {
+    const uint32_t address = FindAddress(printer);
+    transport == Transport::kLibrary ? CheckByLibrary(printer, address) : CheckBySnmp(printer, address);
 }
 
-OptionAnswers AskOptionsBySnmp(const FamilyFiles& family, const std::string& agent) {
+std::vector<std::string> OptionKeys(const FamilyFiles& family, Transport transport) {
+    if (transport == Transport::kLibrary)
+        return {std::begin(kLibraryOptions), std::end(kLibraryOptions)};
     const OptionReqInfo& table = *EXPORT(family, MIB_OptionReqInfo)();
-    OptionAnswers items(static_cast<size_t>(table.count));
-    for (size_t i = 0; i < items.size(); ++i)
-        CopyText(items[i].key, table.options[i].key);
-    if (!EXPORT(family, MIB_OptionRequest)(agent.c_str(), static_cast<DWORD>(items.size()), items.data()))
-        FailRequest(agent, "the request for its options failed");
+    std::vector<std::string> keys;
+    for (int32_t i = 0; i < table.count; ++i)
+        keys.push_back(FieldText(table.options[i].key));
+    return keys;
+}
+
+OptionAnswers AskOptions(const Printer& printer, Transport transport, const std::vector<std::string>& keys) {
+    OptionAnswers items = ItemsFor(keys, &OptionRequestItem::key);
+    Ask(transport == Transport::kLibrary ? EXPORT(printer.family, DDProc_OptionRequest)
+                                         : EXPORT(printer.family, MIB_OptionRequest),
+        printer, items);
     return items;
 }
 
-DeviceOptions AskDeviceOptions(const FamilyFiles& family, const std::string& agent) {
-    const LibraryAccess access = CheckLibraryAccess(family, agent);
-    if (!access.isUsable) {
-        CheckSnmpAccess(family, agent);
-        return {"SNMP", AskOptionsBySnmp(family, agent)};
-    }
-    if (!access.isThisModel)
-        throw Failure(kExitFailed, agent + ": " + AccessHint(family, access));
-    return {"bidirectional library", AskOptionsByLibrary(family, agent)};
+DeviceOptions AskDeviceOptions(const FamilyFiles& family, const std::string& address) {
+    const Printer printer = PrinterAt(family, address);
+    const Transport transport = TransportOf(family);
+    CheckPrinter(printer, transport);
+    return {transport, AskOptions(printer, transport, OptionKeys(family, transport))};
 }
 
 Document OptionAnswersDocument(const OptionAnswers& answers) {
     return RowsDocument(answers, kAnswerFields);
 }
 
-TrayAnswers AskTraysByLibrary(const FamilyFiles& family, const std::string& agent) {
-    return AskLibrary(EXPORT(family, DDProc_InputTrayStatus), agent, &InputTrayStatusItem::tray, kTrayKeys);
+TrayAnswers AskTraysByLibrary(const Printer& printer) {
+    TrayAnswers items = ItemsFor({std::begin(kTrayKeys), std::end(kTrayKeys)}, &InputTrayStatusItem::tray);
+    Ask(EXPORT(printer.family, DDProc_InputTrayStatus), printer, items);
+    return items;
 }
 
-Supplies AskSupplies(const FamilyFiles& family, const std::string& agent) {
-    Supplies supplies;
+std::vector<std::string> SupplyNames(const FamilyFiles& family) {
+    std::vector<std::string> names;
     for (const MrkSupItem* supply = EXPORT(family, GET_MrkSupItemList)(); supply->name[0] != 0; ++supply)
-        CopyText(supplies.emplace_back().name, supply->name);
-    if (!EXPORT(family, MIB_MrkSupRequest)(agent.c_str(), static_cast<DWORD>(supplies.size()),
-                                           supplies.data()))
-        FailRequest(agent, "the request for its supplies failed");
+        names.push_back(FieldText(supply->name));
+    return names;
+}
+
+Supplies AskSupplies(const Printer& printer, const std::vector<std::string>& names) {
+    Supplies supplies = ItemsFor(names, &MrkSupRequestItem::name);
+    Ask(EXPORT(printer.family, MIB_MrkSupRequest), printer, supplies);
     return supplies;
 }
 
-StoredResources AskOverlays(const FamilyFiles& family, const std::string& agent, int32_t storage) {
-    OverlayInfo* info = EXPORT(family, MIB_OverlayRequest)(agent.c_str(), storage);
+StoredResources AskOverlays(const Printer& printer, int32_t storage) {
+    OverlayInfo* info = EXPORT(printer.family, MIB_OverlayRequest)(printer.agent.c_str(), storage);
     if (info == nullptr)
-        FailRequest(agent, "the request for its overlays failed");
+        Fail(Outcome::kInterrupted, printer);
     const StoredResources overlays = Copied(info->list);
-    EXPORT(family, MIB_FreeOverlayInfo)(info);
+    EXPORT(printer.family, MIB_FreeOverlayInfo)(info);
     return overlays;
 }
 
-StoredProfiles AskProfiles(const FamilyFiles& family, const std::string& agent) {
-    ProfileInfo* info = EXPORT(family, MIB_ProfileRequest)(agent.c_str());
+StoredProfiles AskProfiles(const Printer& printer) {
+    ProfileInfo* info = EXPORT(printer.family, MIB_ProfileRequest)(printer.agent.c_str());
     if (info == nullptr)
-        FailRequest(agent, "the request for its colour profiles failed");
+        Fail(Outcome::kInterrupted, printer);
     StoredProfiles profiles;
     for (size_t i = 0; i < profiles.size(); ++i)
         profiles[i] = Copied(info->lists[i]);
-    ModuleExport<decltype(&MIB_FreeOverlayInfo)>(family, "MIB_FreeProfileInfo")(info);
+    ModuleExport<decltype(&MIB_FreeOverlayInfo)>(printer.family, "MIB_FreeProfileInfo")(info);
     return profiles;
 }

@@ -4,6 +4,7 @@
 #define WORKBENCH_LIB_PRINTER_QUERIES_H
 
 #include "workbench/lib/family_files.h"
+#include "workbench/lib/printer_outcomes.h"
 
 #include <array>
 #include <vector>
@@ -12,48 +13,57 @@
 inline constexpr const char* kTrayKeys[] = {"InTray1", "InTray2",   "InTray3",
                                             "InTray4", "InTrayLCT", "InTrayManual"};
 
-// The printer can be queried through the library when all are true. Once one is false, the next are not
-// checked and are false, too.
-struct LibraryAccess {
-    bool isUsable;    // the library is installed and complete
-    bool isReached;   // the device responds
-    bool isThisModel; // the device is of this model
+// A printer to be queried. Only the module and its path are used of the files, which must outlive it.
+struct Printer {
+    const FamilyFiles& family;
+    std::string address; // UTF-8, without spaces around it
+    std::string agent;   // the same as the module takes it, in the system's code page
 };
-LibraryAccess CheckLibraryAccess(const FamilyFiles& family, const std::string& agent);
 
-// What the user can do about a check that failed; empty when none did.
-std::string AccessHint(const FamilyFiles& family, const LibraryAccess& access);
+// Throws PrinterFailure when the address is missing or can't be one. Asks nothing.
+Printer PrinterAt(const FamilyFiles& family, const std::string& address);
 
-// Throws Failure when the device does not answer SNMP requests or is of another model.
-void CheckSnmpAccess(const FamilyFiles& family, const std::string& agent);
+// The driver uses the bidirectional library if it is installed and complete, otherwise SNMP.
+enum class Transport { kLibrary, kSnmp };
+Transport TransportOf(const FamilyFiles& family);
 
-// All options that the module can request over each transport. Throw Failure when the request fails.
+// Whether the printer answers over this transport and is of this model. Throws PrinterFailure when not. By
+// SNMP another model is not recognised; a device that is no printer is.
+void CheckPrinter(const Printer& printer, Transport transport);
+
+// The following throw PrinterFailure when the query fails.
+
+// The keys of all options that the module can query over each transport.
+std::vector<std::string> OptionKeys(const FamilyFiles& family, Transport transport);
+
 using OptionAnswers = std::vector<OptionRequestItem>; // an empty value: no answer
-OptionAnswers AskOptionsByLibrary(const FamilyFiles& family, const std::string& agent);
-OptionAnswers AskOptionsBySnmp(const FamilyFiles& family, const std::string& agent);
+OptionAnswers AskOptions(const Printer& printer, Transport transport, const std::vector<std::string>& keys);
 
-// Over the library where it is usable, otherwise by SNMP, as the driver does. Throws Failure when the device
-// does not respond or is of another model.
+// Checks the printer and asks for all options, over the transport that the driver would use.
 struct DeviceOptions {
-    const char* transport; // as shown to the user
+    Transport transport;
     OptionAnswers answers;
 };
-DeviceOptions AskDeviceOptions(const FamilyFiles& family, const std::string& agent);
+DeviceOptions AskDeviceOptions(const FamilyFiles& family, const std::string& address);
+const char* TransportName(Transport transport); // English
 
 // Option and answer, row by row.
 Document OptionAnswersDocument(const OptionAnswers& answers);
 
-// The paper in each of kTrayKeys, from the library. Throws Failure when the request fails.
+// The paper in each of kTrayKeys, from the library.
 using TrayAnswers = std::vector<InputTrayStatusItem>; // an empty text: no answer
-TrayAnswers AskTraysByLibrary(const FamilyFiles& family, const std::string& agent);
+TrayAnswers AskTraysByLibrary(const Printer& printer);
 
-// By SNMP. All throw Failure when the request fails. Storages are 0 and 1.
-using Supplies = std::vector<MrkSupRequestItem>; // in the order of the module's list
+// The names of the supplies, in the order of the module's list.
+std::vector<std::string> SupplyNames(const FamilyFiles& family);
+
+// By SNMP. Storages are 0 and 1.
+using Supplies = std::vector<MrkSupRequestItem>;
 using StoredResources = std::vector<StoredResourceEntry>;
 using StoredProfiles =
     std::array<StoredResources, TELMAR_PROFILE_SELECTORS>; // RGB sources, simulations, destinations
-Supplies AskSupplies(const FamilyFiles& family, const std::string& agent);
-StoredResources AskOverlays(const FamilyFiles& family, const std::string& agent, int32_t storage);
-StoredProfiles AskProfiles(const FamilyFiles& family, const std::string& agent);
+Supplies AskSupplies(const Printer& printer, const std::vector<std::string>& names);
+StoredResources AskOverlays(const Printer& printer, int32_t storage);
+StoredProfiles AskProfiles(const Printer& printer);
 
 #endif

@@ -1,7 +1,6 @@
 // Lists the model's trays, fills in what a printer reports, and names the values.
 #include "workbench/lib/tray_papers.h"
 
-#include "workbench/lib/printer_queries.h"
 #include "workbench/lib/text.h"
 
 namespace {
@@ -50,17 +49,19 @@ TrayPapers UnknownPapers(const FamilyFiles& family) {
     return papers;
 }
 
-TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent) {
-    const LibraryAccess access = CheckLibraryAccess(family, agent);
-    if (!access.isThisModel)
-        throw Failure(kExitFailed, agent + ": " + AccessHint(family, access));
-    const TrayAnswers answers = AskTraysByLibrary(family, agent);
+TrayPapers PapersOf(const FamilyFiles& family, const TrayAnswers& answers) {
     TrayPapers papers = UnknownPapers(family);
     for (TrayPaperSetting& paper : papers)
         for (const InputTrayStatusItem& answer : answers)
             for (size_t i = 0; i < kMediaTypeListCount && SameText(answer.tray, paper.key); ++i)
                 StoreAttribute(paper, trayAttributes[i], ValueOf(i, answer.*kAttributes[i].answer));
     return papers;
+}
+
+TrayPapers AskPapers(const FamilyFiles& family, const std::string& address) {
+    const Printer printer = PrinterAt(family, address);
+    CheckPrinter(printer, Transport::kLibrary);
+    return PapersOf(family, AskTraysByLibrary(printer));
 }
 
 Document PaperChanges(const TrayPapers& before, const TrayPapers& after) {

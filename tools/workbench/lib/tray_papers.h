@@ -3,7 +3,7 @@
 #ifndef WORKBENCH_LIB_TRAY_PAPERS_H
 #define WORKBENCH_LIB_TRAY_PAPERS_H
 
-#include "workbench/lib/family_files.h"
+#include "workbench/lib/printer_queries.h"
 
 #include <array>
 
@@ -12,8 +12,11 @@ using TrayPapers = std::array<TrayPaperSetting, TELMAR_TRAY_COUNT>;
 // The model's trays in the order of the device table, with all attributes unknown.
 TrayPapers UnknownPapers(const FamilyFiles& family);
 
-// As the printer reports through the bidirectional library. Throws Failure when the request fails.
-TrayPapers AskPapers(const FamilyFiles& family, const std::string& agent);
+// As a printer has reported them. Trays that it has not reported stay unknown.
+TrayPapers PapersOf(const FamilyFiles& family, const TrayAnswers& answers);
+
+// Asks the printer through the bidirectional library. Throws PrinterFailure when the query fails.
+TrayPapers AskPapers(const FamilyFiles& family, const std::string& address);
 
 // A row for each attribute that differs: tray, attribute, names before and after, and the value after.
 Document PaperChanges(const TrayPapers& before, const TrayPapers& after);

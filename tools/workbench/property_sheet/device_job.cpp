@@ -1,80 +1,180 @@
-// Runs the queries one after the other and reports progress to the page.
+// Makes the queries one after the other and reports progress to the page.
 #include "workbench/property_sheet/device_job.h"
+
+#include "workbench/lib/text.h"
+#include "workbench/property_sheet/printer_text_ids.h"
+
+#include <atomic>
+#include <cstring>
+#include <functional>
+#include <thread>
 
 namespace {
 
-// Over the transport that the driver would use.
-void QueryOptions(const FamilyFiles& family, DeviceReport& report) {
-    DeviceOptions options = AskDeviceOptions(family, report.address);
-    report.transport = options.transport;
-    report.options = std::move(options.answers);
-}
+std::atomic<int> runningJobs{0};
 
-// Only the bidirectional library reports papers.
-void QueryPapers(const FamilyFiles& family, DeviceReport& report) {
-    if (!CheckLibraryAccess(family, report.address).isThisModel)
-        return;
-    report.papers = AskPapers(family, report.address);
-    report.hasPapers = true;
-}
-
-void QuerySupplies(const FamilyFiles& family, DeviceReport& report) {
-    report.supplies = AskSupplies(family, report.address);
-}
-
-void QueryOverlays(const FamilyFiles& family, DeviceReport& report) {
-    for (const int32_t storage : {0, 1})
-        report.overlays[storage] = AskOverlays(family, report.address, storage);
-}
-
-void QueryProfiles(const FamilyFiles& family, DeviceReport& report) {
-    report.profiles = AskProfiles(family, report.address);
-}
-
-constexpr struct {
-    const char* name;
-    void (*query)(const FamilyFiles& family, DeviceReport& report);
-} kSteps[kJobSteps] = {
-    {"options", QueryOptions},   {"papers", QueryPapers},     {"consumables", QuerySupplies},
-    {"overlays", QueryOverlays}, {"profiles", QueryProfiles},
+// Counts as a running job as long as it, or a copy, exists.
+struct RunningJob {
+    RunningJob() { ++runningJobs; }
+    RunningJob(const RunningJob& /*other*/) { ++runningJobs; }
+    ~RunningJob() { --runningJobs; }
+    RunningJob& operator=(const RunningJob&) = default;
 };
 
-} // namespace
+struct Question {
+    UINT asked; // text
+    std::function<void(const Printer& printer, DeviceReport& report)> ask;
+};
+using Questions = std::vector<Question>;
 
-const char* StepName(int step) {
-    return kSteps[step].name;
+template <typename Answers>
+void Append(Answers& to, const Answers& answers) {
+    to.insert(to.end(), answers.begin(), answers.end());
 }
 
-DeviceJob::DeviceJob(const FamilyFiles& family, std::string address, HWND pageWindow, WPARAM jobNumber)
-    : number(jobNumber), page(pageWindow) {
-    report.address = std::move(address);
-    thread = std::thread([this, &family] { Run(family); });
-}
-
-DeviceJob::~DeviceJob() {
-    Cancel();
-    thread.join();
-}
-
-// False when no further query makes sense: without its options the printer cannot be queried at all.
-bool DeviceJob::RunStep(const FamilyFiles& family, int step) {
-    try {
-        kSteps[step].query(family, report);
-        return true;
-    } catch (const std::exception& failure) {
-        if (step == 0)
-            error = failure.what();
-        else
-            report.missing += (report.missing.empty() ? "" : ", ") + std::string(StepName(step));
-        return step != 0;
+// By SNMP each option is a question. The library reads the whole device for any question, so it gets one for
+// all options.
+void AddOptions(const FamilyFiles& family, Transport transport, Questions& questions) {
+    const std::vector<std::string> keys = OptionKeys(family, transport);
+    const size_t size = transport == Transport::kLibrary ? keys.size() : 1;
+    for (size_t first = 0; first < keys.size(); first += size) {
+        const auto from = keys.begin() + static_cast<ptrdiff_t>(first);
+        const std::vector<std::string> some(from, from + static_cast<ptrdiff_t>(size));
+        questions.push_back({PRINTER_TEXT_ASK_OPTIONS, [=](const Printer& printer, DeviceReport& report) {
+                                 Append(report.options, AskOptions(printer, transport, some));
+                             }});
     }
 }
 
-void DeviceJob::Run(const FamilyFiles& family) {
-    for (int done = 0; done < kJobSteps && !isCancelled && RunStep(family, done);)
-        if (++done; !isCancelled)
-            PostMessageW(page, kJobProgress, number, done);
-    hasEnded = true;
-    if (!isCancelled)
-        PostMessageW(page, kJobEnd, number, 0);
+Questions QuestionsFor(const FamilyFiles& family, Transport transport) {
+    Questions questions;
+    AddOptions(family, transport, questions);
+    if (transport == Transport::kLibrary) // only the library reports papers
+        questions.push_back({PRINTER_TEXT_ASK_PAPERS, [](const Printer& printer, DeviceReport& report) {
+                                 report.trays = AskTraysByLibrary(printer);
+                             }});
+    for (const std::string& name : SupplyNames(family))
+        questions.push_back({PRINTER_TEXT_ASK_SUPPLIES, [=](const Printer& printer, DeviceReport& report) {
+                                 Append(report.supplies, AskSupplies(printer, {name}));
+                             }});
+    for (const int32_t storage : {0, 1})
+        questions.push_back({PRINTER_TEXT_ASK_OVERLAYS, [=](const Printer& printer, DeviceReport& report) {
+                                 report.overlays[storage] = AskOverlays(printer, storage);
+                             }});
+    questions.push_back({PRINTER_TEXT_ASK_PROFILES, [](const Printer& printer, DeviceReport& report) {
+                             report.profiles = AskProfiles(printer);
+                         }});
+    return questions;
+}
+
+LPARAM Packed(const JobProgress& progress) {
+    LPARAM packed = 0;
+    static_assert(sizeof(progress) <= sizeof(packed));
+    memcpy(&packed, &progress, sizeof(progress));
+    return packed;
+}
+
+// The module, kept loaded as long as this exists. Nothing else of the files is opened.
+FamilyFiles ModuleOf(const FamilyFiles& family) {
+    FamilyFiles files;
+    files.modulePath = family.modulePath;
+    files.module.reset(LoadLibraryW(files.modulePath.c_str()));
+    return files;
+}
+
+} // namespace
+
+struct DeviceJob::Work {
+    FamilyFiles files;
+    std::string address;
+    HWND page;
+    WPARAM number;
+    std::atomic<bool> isCancelled{false};
+    std::optional<PrinterFailure> failure;
+    DeviceReport report;
+
+    void Post(UINT message, LPARAM lParam = 0) const {
+        if (!isCancelled)
+            PostMessageW(page, message, number, lParam);
+    }
+
+    // What the printer does not answer is noted as missing. Without options it can't be queried at all.
+    void Ask(const Printer& printer, const Question& question) {
+        try {
+            question.ask(printer, report);
+        } catch (const PrinterFailure&) {
+            if (question.asked == PRINTER_TEXT_ASK_OPTIONS)
+                throw;
+            std::vector<UINT>& missing = report.missing;
+            if (missing.empty() || missing.back() != question.asked)
+                missing.push_back(question.asked);
+        }
+    }
+
+    void AskAll() {
+        const Printer printer = PrinterAt(files, address);
+        report.address = printer.address;
+        report.transport = TransportOf(files);
+        CheckPrinter(printer, report.transport);
+        const Questions questions = QuestionsFor(files, report.transport);
+        JobProgress progress = {0, static_cast<uint16_t>(questions.size()), 0};
+        for (const Question& question : questions) {
+            if (isCancelled)
+                return;
+            ++progress.question;
+            progress.asked = static_cast<uint16_t>(question.asked);
+            Post(kJobProgress, Packed(progress));
+            Ask(printer, question);
+        }
+    }
+
+    void Run() {
+        try {
+            AskAll();
+        } catch (const PrinterFailure& reason) {
+            failure = reason;
+        } catch (const std::exception&) { // of the module itself, which the commands report
+            failure.emplace(Outcome::kInterrupted, address);
+        }
+        Post(kJobEnd);
+    }
+};
+
+JobProgress ProgressOf(LPARAM posted) {
+    JobProgress progress;
+    memcpy(&progress, &posted, sizeof(progress));
+    return progress;
+}
+
+DeviceJob::DeviceJob(const FamilyFiles& family, const std::string& address, HWND page, WPARAM jobNumber)
+    : number(jobNumber), work(std::make_shared<Work>()) {
+    work->files = ModuleOf(family);
+    work->address = address;
+    work->page = page;
+    work->number = jobNumber;
+    std::thread([shared = work, counted = RunningJob()]() mutable {
+        shared->Run();
+        shared.reset();
+    }).detach();
+}
+
+DeviceJob::~DeviceJob() {
+    work->isCancelled = true;
+}
+
+const std::optional<PrinterFailure>& DeviceJob::Failure() const {
+    return work->failure;
+}
+
+DeviceReport& DeviceJob::Report() {
+    return work->report;
+}
+
+bool IsAnyJobRunning() {
+    return runningJobs != 0;
+}
+
+void EndProcessIfJobIsRunning(int exitCode) {
+    if (IsAnyJobRunning())
+        TerminateProcess(GetCurrentProcess(), static_cast<UINT>(exitCode));
 }

@@ -1,49 +1,50 @@
 // Queries a printer on a thread of its own, so that the window stays responsive: options, papers,
-// consumables, overlays, profiles.
+// consumables, overlays, profiles. The thread makes one short query after the other and looks between them
+// whether it is cancelled.
 #ifndef WORKBENCH_PROPERTY_SHEET_DEVICE_JOB_H
 #define WORKBENCH_PROPERTY_SHEET_DEVICE_JOB_H
 
 #include "workbench/property_sheet/sheet_state.h"
 
-#include <atomic>
-#include <thread>
-
-// Posted to the page; wParam is the job's number. With kJobProgress lParam is the number of completed steps.
+// Posted to the page; wParam is the job's number. With kJobProgress lParam says how far the job is.
 constexpr UINT kJobProgress = WM_APP + 1;
 constexpr UINT kJobEnd = WM_APP + 2;
 
-constexpr int kJobSteps = 5;
-const char* StepName(int step); // as shown to the user
+struct JobProgress {
+    uint16_t question; // counted from 1; 0: the printer is looked for
+    uint16_t total;
+    uint16_t asked; // text of what is asked
+};
+JobProgress ProgressOf(LPARAM posted);
 
 class DeviceJob {
 public:
-    // The family must outlive the job; the page need not. Throws when no thread can be created.
-    DeviceJob(const FamilyFiles& family, std::string address, HWND page, WPARAM number);
-    // Waits until the current query ends.
+    // Neither the files nor the page need outlive the job: the thread loads the module for itself. Throws
+    // when no thread can be created.
+    DeviceJob(const FamilyFiles& family, const std::string& address, HWND page, WPARAM number);
+    // Cancels the job. Does not wait: the thread ends after its current query.
     ~DeviceJob();
     DeviceJob(const DeviceJob&) = delete;
     DeviceJob& operator=(const DeviceJob&) = delete;
 
-    // No further query is made, and no further message posted.
-    void Cancel() { isCancelled = true; }
-    bool HasEnded() const { return hasEnded; }
-
     // After the end: why the query failed, or else its results.
-    const std::string& Error() const { return error; }
-    DeviceReport& Report() { return report; }
+    const std::optional<PrinterFailure>& Failure() const;
+    DeviceReport& Report();
 
     const WPARAM number;
 
 private:
-    void Run(const FamilyFiles& family);
-    bool RunStep(const FamilyFiles& family, int step);
-
-    const HWND page;
-    std::atomic<bool> isCancelled{false};
-    std::atomic<bool> hasEnded{false};
-    std::string error; // empty: none
-    DeviceReport report;
-    std::thread thread; // last, since it uses the others
+    struct Work;
+    std::shared_ptr<Work> work; // shared with the thread
 };
+
+// Whether the thread of any job, also of a cancelled one, still runs.
+bool IsAnyJobRunning();
+
+// To be called last. Ends the process at once if a thread still waits for its printer; an unresponsive one
+// can take minutes. Nothing is lost: settings and output are written, without buffers in the process, and the
+// system takes back memory and sockets. Returning from main instead would run the exit code of the module and
+// the runtime while the system has stopped the thread anywhere, perhaps with a lock that this code needs.
+void EndProcessIfJobIsRunning(int exitCode);
 
 #endif

@@ -9,6 +9,9 @@ void PageDriver::TurnTo(SheetPage page) const {
 
 void PageDriver::SetText(int id, const std::string& utf8) const {
     SetWindowTextW(Control(id), Wide(utf8).c_str());
+    // A combo box reports only what a person types.
+    SendMessageW(sheet.CurrentPage(), WM_COMMAND, MAKEWPARAM(id, CBN_EDITCHANGE),
+                 reinterpret_cast<LPARAM>(Control(id)));
 }
 
 void PageDriver::Click(int button) const {

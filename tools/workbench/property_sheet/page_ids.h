@@ -1,5 +1,4 @@
-// Identifiers of the property pages and their controls, and the two texts of the query button. Also included
-// by the resource script.
+// Identifiers of the property pages and their controls. Also included by the resource script.
 #ifndef WORKBENCH_PROPERTY_SHEET_PAGE_IDS_H
 #define WORKBENCH_PROPERTY_SHEET_PAGE_IDS_H
 
@@ -10,9 +9,6 @@
 #define PAGE_QUALITY 103
 #define PAGE_VERSION 104
 
-#define TEXT_QUERY "&Query Printer"
-#define TEXT_STOP  "Sto&p"
-
 #define ID_PICTURE      1001
 #define ID_OPTIONS      1002
 #define ID_OPTION_ITEMS 1003
@@ -22,6 +18,7 @@
 #define ID_STATUS       1007
 #define ID_SUPPLIES     1008
 #define ID_STORED       1009
+#define ID_REFRESH      1010
 
 #define ID_SOURCE      1021
 #define ID_TYPE        1022

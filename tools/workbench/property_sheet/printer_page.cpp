@@ -2,36 +2,77 @@
 // stored overlays and profiles.
 #include "workbench/property_sheet/device_job.h"
 #include "workbench/property_sheet/page_ids.h"
+#include "workbench/property_sheet/printer_text_ids.h"
 #include "workbench/property_sheet/property_page.h"
+#include "workbench/property_sheet/reported_state.h"
+#include "workbench/property_sheet/supplies.h"
+#include "workbench/property_sheet/text_ids.h"
 
+#include "workbench/lib/localized_text.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/text.h"
 
 #include <algorithm>
-#include <list>
 
 #include <commctrl.h>
 
 namespace {
 
-// The consumables that report a level, in the order in which they are shown.
+constexpr UINT_PTR kRefreshTimer = 1;
+constexpr UINT kRefreshInterval = 60000; // milliseconds
+constexpr UINT_PTR kSecondsTimer = 2;
+
+// Options have no names in the model.
 constexpr struct {
     const char* key;
-    const char* name;
-} kSupplyNames[] = {
-    {"Consumable2", "Cyan toner"},  {"Consumable3", "Magenta toner"},    {"Consumable4", "Yellow toner"},
-    {"Consumable5", "Black toner"}, {"Consumable11", "Waste toner box"},
+    UINT name;
+    const char* number; // in the name
+} kOptionTexts[] = {
+    {"OpMachine", PRINTER_TEXT_OPTION_MACHINE, ""},
+    {"OpBody", PRINTER_TEXT_OPTION_BODY, ""},
+    {"OpInTrayUnit", PRINTER_TEXT_OPTION_PAPER_UNIT, ""},
+    {"OpOutTrayUnit", PRINTER_TEXT_OPTION_FINISHER, ""},
+    {"OpPunchKit", PRINTER_TEXT_OPTION_PUNCH_KIT, ""},
+    {"OpMailBinKit", PRINTER_TEXT_OPTION_MAIL_BINS, ""},
+    {"OpSaddleKit", PRINTER_TEXT_OPTION_SADDLE_KIT, ""},
+    {"OpFAXUnit", PRINTER_TEXT_OPTION_FAX, ""},
+    {"OpHDD", PRINTER_TEXT_OPTION_HARD_DISK, ""},
+    {"OpInTray1", PRINTER_TEXT_OPTION_TRAY, "1"},
+    {"OpInTray2", PRINTER_TEXT_OPTION_TRAY, "2"},
+    {"OpInTray3", PRINTER_TEXT_OPTION_TRAY, "3"},
+    {"OpInTray4", PRINTER_TEXT_OPTION_TRAY, "4"},
+    {"OpInTray5", PRINTER_TEXT_OPTION_TRAY, "5"},
+    {"OpInTrayLCT", PRINTER_TEXT_OPTION_LARGE_TRAY, ""},
+    {"OpInTrayManual", PRINTER_TEXT_OPTION_MANUAL_FEED, ""},
 };
 
-constexpr const char* kNotReported = "unknown";
-constexpr const char* kLevels[] = {kNotReported, "empty", "nearly empty", "nearly full", "full", "in order"};
+std::string OptionText(const char* key) {
+    for (const auto& row : kOptionTexts)
+        if (SameText(row.key, key))
+            return LocalizedText(row.name, {row.number});
+    return OptionName(key);
+}
 
-std::string SupplyText(const char* name, const MrkSupRequestItem& supply) {
-    const auto value = static_cast<size_t>(supply.value); // a negative value becomes greater than all levels
-    return std::string(name) + ": "
-           + (supply.state == TELMAR_STATE_PERCENT ? std::to_string(supply.value) + " %"
-              : supply.state == TELMAR_STATE_LEVEL && value < std::size(kLevels) ? kLevels[value]
-                                                                                 : kNotReported);
+// "YYYY-MM-DD HH:MM" as the user writes it.
+std::string DateText(const std::string& text) {
+    SYSTEMTIME time = {};
+    if (sscanf(text.c_str(), "%4hu-%2hu-%2hu %2hu:%2hu", &time.wYear, &time.wMonth, &time.wDay, &time.wHour,
+               &time.wMinute)
+        != 5)
+        return text;
+    wchar_t date[64] = L"";
+    wchar_t clock[64] = L"";
+    GetDateFormatW(GetThreadLocale(), DATE_SHORTDATE, &time, nullptr, date, std::size(date));
+    GetTimeFormatW(GetThreadLocale(), TIME_NOSECONDS, &time, nullptr, clock, std::size(clock));
+    return Utf8(date) + " " + Utf8(clock);
+}
+
+// The texts, separated by commas.
+std::string ListText(const std::vector<UINT>& texts) {
+    std::string list;
+    for (const UINT text : texts)
+        list += (list.empty() ? "" : ", ") + LocalizedText(text);
+    return list;
 }
 
 class PrinterPage : public PropertyPage {
@@ -40,27 +81,33 @@ public:
 
 private:
     void Init() override {
-        SetColumns(ID_OPTIONS, {"Option", "Installed"});
-        Send(ID_PROGRESS, PBM_SETRANGE32, 0, kJobSteps);
-        Send(ID_SUPPLIES, LB_SETITEMHEIGHT, 0, FontHeight() * 5 / 4);
+        SetColumns(ID_OPTIONS, {LocalizedText(PRINTER_TEXT_OPTION), LocalizedText(PRINTER_TEXT_SETTING)});
+        SetColumns(ID_SUPPLIES, {LocalizedText(PRINTER_TEXT_SUPPLY), LocalizedText(PRINTER_TEXT_LEVEL)});
+        SetColumns(ID_STORED,
+                   {LocalizedText(PRINTER_TEXT_STORED_NAME), LocalizedText(PRINTER_TEXT_STORED_USE)});
+        for (const int list : {ID_OPTIONS, ID_STORED})
+            Send(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_LABELTIP, LVS_EX_LABELTIP);
+        ShowAddress();
+        SetRefresh(state.isRefreshed);
     }
 
     void Show() override {
-        SetText(ID_ADDRESS, state.address);
-        SetText(ID_STATUS, state.status);
+        if (CurrentAddress() != state.address)
+            ShowAddress();
+        SetText(ID_STATUS, Status());
         ShowOptions();
         ShowReport();
     }
 
     void OnCommand(UINT control, UINT notification) override {
-        if (control == ID_OPTION_ITEMS && notification == CBN_SELCHANGE) {
+        if (control == ID_OPTION_ITEMS && notification == CBN_SELCHANGE)
             ChangeOption(static_cast<size_t>(SelectedOption()));
-        } else if (control == ID_ADDRESS && notification == EN_CHANGE && Text(ID_ADDRESS) != state.address) {
-            state.address = Text(ID_ADDRESS);
-            NoteChange();
-        } else if (control == ID_QUERY && notification == BN_CLICKED) {
+        else if (control == ID_ADDRESS && (notification == CBN_EDITCHANGE || notification == CBN_SELENDOK))
+            NoteAddress(notification == CBN_SELENDOK);
+        else if (control == ID_QUERY && notification == BN_CLICKED)
             state.isQuerying ? StopQuery() : StartQuery();
-        }
+        else if (control == ID_REFRESH && notification == BN_CLICKED)
+            ChangeRefresh();
     }
 
     void OnNotify(const NMHDR& note) override {
@@ -69,21 +116,37 @@ private:
     }
 
     void OnDraw(const DRAWITEMSTRUCT& item) override {
-        item.CtlID == ID_PICTURE ? DrawPicture(item) : DrawSupply(item);
+        if (item.CtlID == ID_PICTURE)
+            DrawPicture(item);
+        else if (item.itemID < supplies.size())
+            DrawSupplyRow(item, supplies[item.itemID]);
     }
 
     void OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
+        if (message == WM_TIMER)
+            wParam == kRefreshTimer ? Refresh() : ShowProgress();
         if (job == nullptr || wParam != job->number) // of a query that was stopped
             return;
         if (message == kJobProgress)
-            ShowProgress(static_cast<int>(lParam));
+            NoteProgress(ProgressOf(lParam));
         else if (message == kJobEnd)
             EndJob();
     }
 
+    // Enter in the address asks the printer; Esc stops that. Otherwise these keys belong to the sheet, and to
+    // the list of addresses while it is dropped down.
+    bool OnKey(HWND control, WPARAM key) override {
+        const bool isAsked = key == VK_RETURN && !state.isQuerying
+                             && GetParent(control) == Control(ID_ADDRESS)
+                             && Send(ID_ADDRESS, CB_GETDROPPEDSTATE) == 0;
+        const bool isStopped = key == VK_ESCAPE && state.isQuerying;
+        if (isAsked || isStopped)
+            SendMessageW(window, WM_COMMAND, MAKEWPARAM(ID_QUERY, BN_CLICKED), 0);
+        return isAsked || isStopped;
+    }
+
     void Close() override {
         job.reset();
-        stopped.clear();
         state.isQuerying = false;
     }
 
@@ -93,16 +156,33 @@ private:
         const int selected = std::max(SelectedOption(), 0);
         std::vector<std::vector<std::string>> rows;
         for (size_t i = 0; i < state.options.settings.size(); ++i)
-            rows.push_back({OptionName(state.options.features[i].feature.head.key), NameOfItem(i)});
+            rows.push_back({OptionText(KeyOfOption(i)), SettingText(i)});
         SetRows(ID_OPTIONS, rows);
         SelectEntry(Control(ID_OPTIONS), static_cast<WPARAM>(selected));
         ShowItems();
         InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
     }
 
+    const char* KeyOfOption(size_t option) const { return state.options.features[option].feature.head.key; }
+
+    bool IsReported(size_t option) const {
+        const std::vector<std::string>& keys = state.notReported;
+        return std::find(keys.begin(), keys.end(), KeyOfOption(option)) == keys.end();
+    }
+
+    // The item of an option that the printer has not reported is only assumed.
     std::string NameOfItem(size_t option) const {
         const ItemRecord* item = CurrentItem(state.options, option);
-        return item != nullptr ? FieldText(item->display) : "";
+        return !IsReported(option) ? LocalizedText(PRINTER_TEXT_NOT_REPORTED)
+               : item != nullptr   ? FieldText(item->display)
+                                   : "";
+    }
+
+    // Marked when it has changed since the last report of the same printer.
+    std::string SettingText(size_t option) const {
+        const std::string name = NameOfItem(option);
+        const bool hasChanged = option < namesBefore.size() && namesBefore[option] != name;
+        return hasChanged ? LocalizedText(PRINTER_TEXT_WAS, {name, namesBefore[option]}) : name;
     }
 
     int SelectedOption() const { return SelectionOf(Control(ID_OPTIONS)); }
@@ -121,6 +201,8 @@ private:
 
     void ChangeOption(size_t option) {
         state.options.settings.at(option) = static_cast<int32_t>(Send(ID_OPTION_ITEMS, CB_GETCURSEL));
+        std::vector<std::string>& keys = state.notReported;
+        keys.erase(std::remove(keys.begin(), keys.end(), KeyOfOption(option)), keys.end());
         OfferedSources(state);
         SetCell(ID_OPTIONS, option, 1, NameOfItem(option));
         InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
@@ -136,54 +218,142 @@ private:
                    kSceneSize.cy, SRCCOPY);
     }
 
+    // --- The address ---------------------------------------------------------------------------------
+
+    std::string CurrentAddress() const { return Trimmed(Text(ID_ADDRESS)); }
+
+    // With the addresses of printers that have answered before.
+    void ShowAddress() const {
+        SetEntries(ID_ADDRESS, state.addresses, -1);
+        SetText(ID_ADDRESS, state.address);
+        EnableWindow(Control(ID_ADDRESS), !state.isQuerying); // also without entries
+    }
+
+    // The box still has its old text when an entry is selected.
+    void NoteAddress(bool isSelected) {
+        const LRESULT entry = Send(ID_ADDRESS, CB_GETCURSEL);
+        const std::string address =
+            isSelected && entry >= 0 ? state.addresses.at(static_cast<size_t>(entry)) : CurrentAddress();
+        if (address == state.address)
+            return;
+        state.address = address;
+        NoteChange();
+    }
+
     // --- The printer ---------------------------------------------------------------------------------
 
+    std::string Status() const {
+        if (!state.status.empty())
+            return state.status;
+        return state.reportedBy.empty()
+                   ? LocalizedText(TEXT_NOT_QUERIED)
+                   : LocalizedText(PRINTER_TEXT_REPORTED_ON, {state.reportedBy, DateText(state.reportedOn)});
+    }
+
     void StartQuery() {
-        if (state.address.empty())
-            throw Failure(kExitUsage,
-                          "The printer address is missing: enter an IPv4 address or a host name.");
-        stopped.remove_if([](const auto& other) { return other->HasEnded(); });
-        job = std::make_unique<DeviceJob>(state.family, state.address, window, ++jobNumber);
+        state.address = CurrentAddress();
+        SetText(ID_ADDRESS, state.address);
+        StartJob();
         state.isQuerying = true;
         state.report = {};
+        namesBefore.clear();
         ShowReport();
-        SetText(ID_QUERY, TEXT_STOP);
-        ShowProgress(0);
+        SetText(ID_QUERY, LocalizedText(PRINTER_TEXT_STOP));
+        hadFocus = GetParent(GetFocus()) == Control(ID_ADDRESS);
+        if (hadFocus)
+            SetFocus(Control(ID_QUERY));
+        EnableWindow(Control(ID_ADDRESS), FALSE);
+        ShowWindow(Control(ID_PROGRESS), SW_SHOW);
+        SetTimer(window, kSecondsTimer, 1000, nullptr);
+        NoteProgress({});
     }
 
-    // The thread continues until its current query ends. It is joined later, at the latest when the page
-    // closes.
+    void StartJob() { job = std::make_unique<DeviceJob>(state.family, state.address, window, ++jobNumber); }
+
     void StopQuery() {
-        job->Cancel();
-        stopped.push_back(std::move(job));
-        ShowEnd("Stopped.");
+        job.reset();
+        ForgetOtherReport(state, state.address);
+        EndQuery(LocalizedText(PRINTER_TEXT_STOPPED));
     }
 
-    void ShowProgress(int steps) {
-        Send(ID_PROGRESS, PBM_SETPOS, static_cast<WPARAM>(steps));
-        if (steps < kJobSteps)
-            ShowStatus("Requesting " + std::string(StepName(steps)) + "...");
+    void NoteProgress(const JobProgress& noted) {
+        progress = noted;
+        askedSince = GetTickCount();
+        Send(ID_PROGRESS, PBM_SETRANGE32, 0, progress.total);
+        Send(ID_PROGRESS, PBM_SETPOS, progress.question);
+        ShowProgress();
+    }
+
+    // With the seconds that a slow printer has taken: one question can be many requests.
+    void ShowProgress() {
+        if (!state.isQuerying)
+            return;
+        const std::string text =
+            progress.question == 0
+                ? LocalizedText(PRINTER_TEXT_CONNECTING, {state.address})
+                : LocalizedText(PRINTER_TEXT_ASKING,
+                                {state.address, LocalizedText(progress.asked),
+                                 std::to_string(progress.question), std::to_string(progress.total)});
+        const DWORD seconds = (GetTickCount() - askedSince) / 1000;
+        ShowStatus(seconds < 2 ? text
+                               : text + " " + LocalizedText(PRINTER_TEXT_SECONDS, {std::to_string(seconds)}));
     }
 
     void EndJob() {
         const std::unique_ptr<DeviceJob> ended = std::move(job);
-        if (!ended->Error().empty()) {
-            ShowEnd(ended->Error());
-            return;
-        }
-        const DeviceReport& report = ended->Report();
-        ShowEnd("Reported by " + report.address + " (" + report.transport + ")."
-                + (report.missing.empty() ? "" : " Not available: " + report.missing + "."));
-        ApplyReport(state, std::move(ended->Report()));
-        NoteChange();
-        Show();
+        state.failure = ended->Failure();
+        if (state.failure)
+            EndFailed(*state.failure);
+        else
+            EndAnswered(ended->Report());
     }
 
-    void ShowEnd(const std::string& status) {
-        state.isQuerying = false;
-        SetText(ID_QUERY, TEXT_QUERY);
-        Send(ID_PROGRESS, PBM_SETPOS, 0);
-        ShowStatus(status);
+    // A refresh that fails leaves what the printer has reported before.
+    void EndFailed(const PrinterFailure& failure) {
+        if (!state.isQuerying) {
+            ShowStatus(failure.sentence);
+            return;
+        }
+        ForgetOtherReport(state, state.address);
+        EndQuery(failure.sentence);
+    }
+
+    void EndAnswered(DeviceReport& report) {
+        std::string status = LocalizedText(
+            PRINTER_TEXT_REPORTED,
+            {report.address, LocalizedText(report.transport == Transport::kLibrary ? PRINTER_TEXT_BY_LIBRARY
+                                                                                   : PRINTER_TEXT_BY_SNMP)});
+        if (!report.missing.empty())
+            status += " " + LocalizedText(PRINTER_TEXT_NOT_AVAILABLE, {ListText(report.missing)});
+        RememberReport(report.address);
+        ApplyReport(state, std::move(report));
+        NoteChange();
+        EndQuery(status);
+    }
+
+    // What the next report of the same printer is compared with.
+    void RememberReport(const std::string& address) {
+        namesBefore.clear();
+        suppliesBefore.clear();
+        if (state.reportedBy != address || state.report.address.empty())
+            return;
+        for (size_t i = 0; i < state.options.settings.size(); ++i)
+            namesBefore.push_back(NameOfItem(i));
+        suppliesBefore = state.report.supplies;
+    }
+
+    void EndQuery(const std::string& status) {
+        if (state.isQuerying) {
+            state.isQuerying = false;
+            SetText(ID_QUERY, LocalizedText(PRINTER_TEXT_QUERY));
+            ShowWindow(Control(ID_PROGRESS), SW_HIDE);
+            KillTimer(window, kSecondsTimer);
+            ShowAddress();
+            if (hadFocus && GetFocus() == Control(ID_QUERY))
+                SetFocus(Control(ID_ADDRESS));
+        }
+        state.status = status;
+        Show();
     }
 
     void ShowStatus(const std::string& status) {
@@ -191,69 +361,64 @@ private:
         SetText(ID_STATUS, status);
     }
 
+    // --- Refreshing ----------------------------------------------------------------------------------
+
+    void SetRefresh(bool isOn) const {
+        Send(ID_REFRESH, BM_SETCHECK, isOn ? BST_CHECKED : BST_UNCHECKED);
+        if (isOn)
+            SetTimer(window, kRefreshTimer, kRefreshInterval, nullptr);
+        else
+            KillTimer(window, kRefreshTimer);
+    }
+
+    void ChangeRefresh() {
+        state.isRefreshed = Send(ID_REFRESH, BM_GETCHECK) == BST_CHECKED;
+        SetRefresh(state.isRefreshed);
+        NoteChange();
+    }
+
+    // Asks again, in the background, a printer that has answered; not while the address is edited.
+    void Refresh() {
+        if (job == nullptr && !state.reportedBy.empty() && state.reportedBy == CurrentAddress())
+            StartJob();
+    }
+
+    // --- What the printer has reported ---------------------------------------------------------------
+
     void ShowReport() {
-        supplies.clear();
-        Send(ID_SUPPLIES, LB_RESETCONTENT);
-        for (const auto& row : kSupplyNames)
-            for (const MrkSupRequestItem& supply : state.report.supplies)
-                if (SameText(supply.name, row.key))
-                    supplies.push_back({row.name, supply});
+        supplies = ShownSupplies(state.report.supplies, suppliesBefore);
+        std::vector<std::vector<std::string>> rows;
         for (const ShownSupply& supply : supplies)
-            Send(ID_SUPPLIES, LB_ADDSTRING, 0,
-                 reinterpret_cast<LPARAM>(Wide(SupplyText(supply.name, supply.answer)).c_str()));
+            rows.push_back({supply.name, supply.level});
+        SetRows(ID_SUPPLIES, rows);
+        const int needed = SupplyLevelWidth(Control(ID_SUPPLIES), FontHeight(), supplies);
+        if (Send(ID_SUPPLIES, LVM_GETCOLUMNWIDTH, 1) < needed)
+            Send(ID_SUPPLIES, LVM_SETCOLUMNWIDTH, 1, needed);
 
-        Send(ID_STORED, LB_RESETCONTENT);
+        rows.clear();
         for (const StoredResources& overlays : state.report.overlays)
-            AddStored("Overlay", overlays);
-        constexpr const char* kUses[TELMAR_PROFILE_SELECTORS] = {"RGB profile", "Simulation profile",
-                                                                 "Output profile"};
+            AddStored(PRINTER_TEXT_OVERLAY, overlays, rows);
+        constexpr UINT kUses[TELMAR_PROFILE_SELECTORS] = {
+            PRINTER_TEXT_RGB_PROFILE, PRINTER_TEXT_SIMULATION_PROFILE, PRINTER_TEXT_OUTPUT_PROFILE};
         for (size_t i = 0; i < TELMAR_PROFILE_SELECTORS; ++i)
-            AddStored(kUses[i], state.report.profiles[i]);
+            AddStored(kUses[i], state.report.profiles[i], rows);
+        SetRows(ID_STORED, rows);
     }
 
-    void AddStored(const std::string& use, const StoredResources& stored) {
+    static void AddStored(UINT use, const StoredResources& stored,
+                          std::vector<std::vector<std::string>>& rows) {
         for (const StoredResourceEntry& entry : stored)
-            Send(ID_STORED, LB_ADDSTRING, 0,
-                 reinterpret_cast<LPARAM>(Wide(use + ": " + Utf8(entry.first)).c_str()));
+            rows.push_back({PrinterText(entry.first), LocalizedText(use)});
     }
 
-    // A bar that shows the level, and the text.
-    void DrawSupply(const DRAWITEMSTRUCT& item) const {
-        const bool isSelected = (item.itemState & ODS_SELECTED) != 0;
-        FillRect(item.hDC, &item.rcItem, GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
-        if (item.itemID >= supplies.size())
-            return;
-        const auto& [name, supply] = supplies[item.itemID];
-        RECT place = item.rcItem;
-        InflateRect(&place, -3, -2);
-        RECT bar = place;
-        bar.right = bar.left + (place.right - place.left) * 2 / 5;
-        place.left = bar.right + 6;
-        FillRect(item.hDC, &bar, GetSysColorBrush(COLOR_BTNFACE));
-        if (supply.state == TELMAR_STATE_PERCENT) {
-            RECT full = bar;
-            full.right = bar.left + MulDiv(bar.right - bar.left, supply.value, 100);
-            SetDCBrushColor(item.hDC, supply.color);
-            FillRect(item.hDC, &full, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
-        }
-        FrameRect(item.hDC, &bar, GetSysColorBrush(COLOR_BTNSHADOW));
-        SetBkMode(item.hDC, TRANSPARENT);
-        SetTextColor(item.hDC, GetSysColor(isSelected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-        DrawTextW(item.hDC, Wide(SupplyText(name, supply)).c_str(), -1, &place,
-                  DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
-        if ((item.itemState & ODS_FOCUS) != 0)
-            DrawFocusRect(item.hDC, &item.rcItem);
-    }
-
-    struct ShownSupply {
-        const char* name;
-        MrkSupRequestItem answer;
-    };
-
-    std::vector<ShownSupply> supplies;             // by position in the list
-    std::unique_ptr<DeviceJob> job;                // null: no query is running
-    std::list<std::unique_ptr<DeviceJob>> stopped; // not joined yet
+    std::vector<ShownSupply> supplies;    // by row
+    Supplies suppliesBefore;              // of the last report but one; empty: of another printer
+    std::vector<std::string> namesBefore; // of the options' items, likewise
+    std::unique_ptr<DeviceJob> job;       // null: no query is running
     WPARAM jobNumber = 0;
+    JobProgress progress = {};
+    DWORD askedSince = 0;  // tick count
+    bool hadFocus = false; // the address, when the query was started
 };
 
 } // namespace

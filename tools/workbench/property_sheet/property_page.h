@@ -23,6 +23,10 @@ public:
     // For the sheet. The page must not move in memory after this call.
     PROPSHEETPAGEW Description();
 
+    // Whether the page, current or not, has handled a key message to a control of the sheet. Then nothing
+    // else does.
+    bool TakesKey(HWND control, WPARAM key) { return window != nullptr && OnKey(control, key); }
+
 protected:
     virtual void Init() {}   // once, when the window is created
     virtual void Show() = 0; // shows the state, each time the page becomes current
@@ -30,6 +34,8 @@ protected:
     virtual void OnNotify(const NMHDR& /*note*/) {}
     virtual void OnDraw(const DRAWITEMSTRUCT& /*item*/) {}
     virtual void OnMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {}
+    // Before the sheet. True when the page has handled the key.
+    virtual bool OnKey(HWND /*control*/, WPARAM /*key*/) { return false; }
     virtual void Close() {} // before the window is destroyed
 
     HWND Control(int id) const { return GetDlgItem(window, id); }

@@ -1,6 +1,6 @@
 // Loads, saves and updates the state of the property sheet. The file is JSON with records as hexadecimal
 // digits.
-#include "workbench/property_sheet/sheet_state.h"
+#include "workbench/property_sheet/reported_state.h"
 
 #include "workbench/lib/files.h"
 #include "workbench/lib/json_form.h"
@@ -73,7 +73,7 @@ bool LoadFields(const Document& kept, SheetState& state) {
            && LoadText(kept["address"], state.address)
            && LoadText(kept["toldBy"], state.reportedBy) // of older versions
            && LoadText(kept["reportedBy"], state.reportedBy) && LoadOptions(kept["options"], state.options)
-           && LoadPlace(kept["place"], state.place);
+           && LoadPlace(kept["place"], state.place) && LoadReported(kept["printer"], state);
 }
 
 // Whether the file is of the sheet's model. Older versions did not keep the model: then the trays must be the
@@ -121,7 +121,7 @@ std::string SaveErrorText(const std::filesystem::path& file, DWORD error) {
 // The printer's first text is the profile's name; the second is a file name.
 ProfileEntry EntryOf(const SheetState& state, const StoredResourceEntry& stored) {
     ProfileEntry entry = {};
-    CopyText(entry.name, Wide(stored.first, CP_ACP).c_str());
+    CopyText(entry.name, Wide(PrinterText(stored.first)).c_str());
     const TextItemRecord* location = FindByKey(state.family.table->profileLocations, stored.storage);
     if (location != nullptr)
         entry.location = location->head.value;
@@ -140,9 +140,11 @@ void ResetState(SheetState& state) {
     state.options = ReadOptionFeatures(state.family);
     state.address.clear();
     state.reportedBy.clear();
+    state.reportedOn.clear();
+    state.notReported.clear();
     state.papers = UnknownPapers(state.family);
     state.report = {};
-    state.status = LocalizedText(TEXT_NOT_QUERIED);
+    state.status.clear();
 }
 
 std::string LoadState(SheetState& state) {
@@ -180,6 +182,7 @@ void SaveState(SheetState& state) {
                      {"reportedBy", state.reportedBy}};
     for (const Document& row : OptionsDocument(state.options).Elements())
         kept["options"][row["feature"].Text()] = row["item"];
+    kept["printer"] = ReportedDocument(state);
     kept["trays"] = Hex(state.papers.data(), sizeof(state.papers));
     kept["settings"] = Hex(&state.settings, sizeof(state.settings));
     kept["place"] = state.saved["place"];
@@ -209,20 +212,6 @@ std::filesystem::path StateFile() {
     std::error_code error; // ignored: saving the file will report it
     std::filesystem::create_directories(own, error);
     return own / kFileName;
-}
-
-void ApplyReport(SheetState& state, DeviceReport report) {
-    if (state.reportedBy != report.address)
-        state.options = ReadOptionFeatures(state.family);
-    for (const OptionRequestItem& answer : report.options)
-        ApplyReportedOption(state.options, answer.key, answer.value);
-    if (report.hasPapers)
-        state.papers = report.papers;
-    else if (state.reportedBy != report.address)
-        state.papers = UnknownPapers(state.family);
-    state.reportedBy = report.address;
-    state.report = std::move(report);
-    OfferedSources(state);
 }
 
 std::vector<PaperSource> OfferedSources(SheetState& state) {

@@ -14,12 +14,11 @@
 
 // The results of querying a printer, as far as the query has succeeded.
 struct DeviceReport {
-    std::string address;   // of the printer
-    std::string transport; // as shown to the user
-    std::string missing;   // what could not be queried, as shown to the user; empty: nothing
+    std::string address; // of the printer
+    Transport transport = Transport::kSnmp;
+    std::vector<UINT> missing; // texts of what could not be queried
     OptionAnswers options;
-    TrayPapers papers;
-    bool hasPapers = false;
+    TrayAnswers trays; // empty: not reported
     Supplies supplies;
     StoredResources overlays[2]; // by storage
     StoredProfiles profiles;
@@ -44,11 +43,16 @@ struct SheetState {
     OptionFeatures options;
     std::string address;    // of the printer
     std::string reportedBy; // address of the printer that reported options and papers; empty: none
+    std::string reportedOn; // date and time of that, local: YYYY-MM-DD HH:MM
+    std::vector<std::string> notReported; // keys of the options that it has not reported
+    std::vector<std::string> addresses;   // of printers that have answered, the last one first
+    bool isRefreshed = false;             // queries the printer again every minute
     TrayPapers papers;
     std::optional<POINT> place; // of the sheet's window on the screen, in pixels
 
-    DeviceReport report; // of the last query; its address is empty when that has failed
-    std::string status;  // of the query, as shown to the user
+    DeviceReport report;                   // of the last query; its address is empty when that has failed
+    std::string status;                    // of the query, as shown to the user; empty: no query yet
+    std::optional<PrinterFailure> failure; // of the last query; none: it was answered
     bool isQuerying = false;
     bool hasChanges = false;    // that are not saved yet
     bool wasSaved = false;      // since the sheet has been opened
@@ -77,9 +81,6 @@ Document SavingDocument(const SheetState& state);
 
 // The user's own file, by default. Creates its folder.
 std::filesystem::path StateFile();
-
-// Applies the results of a query. What the printer did not report stays if it comes from the same printer.
-void ApplyReport(SheetState& state, DeviceReport report);
 
 // The paper sources that the module offers with the installed options. If the current one is not among them,
 // the first becomes the current one.

@@ -89,11 +89,18 @@ POINT SheetWindow::Place() const {
     return {frame.left, frame.top};
 }
 
+bool SheetWindow::IsKeyOfPage(const MSG& message) const {
+    return message.message == WM_KEYDOWN && IsChild(window, message.hwnd)
+           && std::any_of(pages.begin(), pages.end(),
+                          [&](const auto& page) { return page->TakesKey(message.hwnd, message.wParam); });
+}
+
 bool SheetWindow::HandleMessages(DWORD maxWait) {
     MsgWaitForMultipleObjectsEx(0, nullptr, maxWait, QS_ALLINPUT, MWMO_INPUTAVAILABLE);
     MSG message;
     while (CurrentPage() != nullptr && PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-        if (SendMessageW(window, PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(&message)) == 0) {
+        if (!IsKeyOfPage(message)
+            && SendMessageW(window, PSM_ISDIALOGMESSAGE, 0, reinterpret_cast<LPARAM>(&message)) == 0) {
             TranslateMessage(&message);
             DispatchMessageW(&message);
         }

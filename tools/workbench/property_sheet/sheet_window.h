@@ -23,6 +23,8 @@ public:
     bool HandleMessages(DWORD maxWait = INFINITE);
 
 private:
+    bool IsKeyOfPage(const MSG& message) const;
+
     std::vector<std::unique_ptr<PropertyPage>> pages;
     HWND window = nullptr;
 };

@@ -1,0 +1,263 @@
+// The Printer page in this process, on a screen and with simulated printers: keys, the course of a query, what it
+// shows afterwards and what is kept.
+#include "tools/workbench/workbench_run.h"
+#include "workbench/lib/localized_text.h"
+#include "workbench/lib/picture.h"
+#include "workbench/lib/text.h"
+#include "workbench/property_sheet/device_job.h"
+#include "workbench/property_sheet/page_driver.h"
+#include "workbench/property_sheet/page_ids.h"
+
+#include <commctrl.h>
+
+namespace {
+
+constexpr DWORD kPrinterWait = 60000; // milliseconds
+
+const FamilyFiles& PrinterFamily() {
+    static const FamilyFiles family = OpenFamilyFiles({});
+    return family;
+}
+
+using Cells = std::vector<std::string>;
+
+// The rows of a list view, with " | " between their cells.
+Cells RowsOf(HWND list) {
+    Cells rows(static_cast<size_t>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0)));
+    for (size_t i = 0; i < rows.size(); ++i)
+        for (int column = 0; column < 2; ++column) {
+            wchar_t text[256] = L"";
+            LVITEMW item = {};
+            item.iSubItem = column;
+            item.pszText = text;
+            item.cchTextMax = static_cast<int>(std::size(text));
+            SendMessageW(list, LVM_GETITEMTEXTW, i, reinterpret_cast<LPARAM>(&item));
+            rows[i] += (column == 0 ? "" : " | ") + Utf8(text);
+        }
+    return rows;
+}
+
+struct PrinterSheet : testing::Test {
+    PrinterSheet() { state.user = &user; }
+    ~PrinterSheet() override {
+        while (IsAnyJobRunning()) // stopped ones, which would go on in the next test
+            Sleep(10);
+    }
+
+    void Start(const std::string& address) const {
+        driver.SetText(ID_ADDRESS, address);
+        driver.Click(ID_QUERY);
+    }
+
+    // Queries a printer and returns the status.
+    std::string Query(const std::string& address) const {
+        Start(address);
+        driver.WaitUntil([&] { return !state.isQuerying; }, kPrinterWait);
+        return driver.Text(ID_STATUS);
+    }
+
+    // A key message to the control with the focus.
+    void Press(WPARAM key) {
+        PostMessageW(GetFocus(), WM_KEYDOWN, key, 0);
+        PostMessageW(GetFocus(), WM_KEYUP, key, 0xC0000000);
+        sheet.HandleMessages(0);
+    }
+
+    bool IsOpen() const { return sheet.CurrentPage() != nullptr; }
+    HWND AddressEdit() const { return GetWindow(driver.Control(ID_ADDRESS), GW_CHILD); }
+    Cells Supplies() const { return RowsOf(driver.Control(ID_SUPPLIES)); }
+    Cells Stored() const { return RowsOf(driver.Control(ID_STORED)); }
+
+    // The setting of an option as shown.
+    std::string Setting(const std::string& option) const {
+        for (const std::string& row : RowsOf(driver.Control(ID_OPTIONS)))
+            if (row.find(option + " | ") == 0)
+                return row.substr(option.size() + 3);
+        return "no such option";
+    }
+
+    const Library templates = OpenTemplates(PrinterFamily());
+    SheetState state{PrinterFamily(), templates.get()};
+    SheetUser user;
+    SheetWindow sheet{state};
+    const PageDriver driver{sheet};
+};
+
+TEST_F(PrinterSheet, EnterQueriesAndEscStops) {
+    sheet.HandleMessages(1); // the page takes the focus
+    SetFocus(AddressEdit());
+    driver.SetText(ID_ADDRESS, " \t127.0.162.1 ");
+    Press(VK_RETURN);
+    ASSERT_TRUE(IsOpen()) << "Enter has pressed OK";
+    EXPECT_TRUE(state.isQuerying);
+    EXPECT_EQ(driver.Text(ID_ADDRESS), "127.0.162.1");
+    EXPECT_FALSE(IsWindowEnabled(driver.Control(ID_ADDRESS)));
+    driver.WaitUntil([&] { return !state.isQuerying; }, kPrinterWait);
+    EXPECT_EQ(driver.Text(ID_STATUS), "Reported by 127.0.162.1 (bidirectional library).");
+    EXPECT_EQ(GetFocus(), AddressEdit());
+
+    driver.SetText(ID_ADDRESS, "127.0.162.4");
+    Press(VK_RETURN);
+    driver.TurnTo(kPaperPage); // the key works on every page
+    sheet.HandleMessages(1);
+    SetFocus(driver.Control(ID_SOURCE));
+    Press(VK_ESCAPE);
+    ASSERT_TRUE(IsOpen()) << "Esc has pressed Cancel";
+    driver.TurnTo(kPrinterPage);
+    EXPECT_EQ(driver.Text(ID_STATUS), "Stopped.");
+    sheet.HandleMessages(1);
+    SetFocus(AddressEdit());
+    Press(VK_ESCAPE);
+    EXPECT_FALSE(IsOpen());
+}
+
+TEST_F(PrinterSheet, SlowPrinterIsAskedInTheBackground) {
+    Start("127.0.162.4");
+    EXPECT_EQ(driver.Text(ID_STATUS), "Looking for 127.0.162.4...");
+    EXPECT_EQ(driver.Text(ID_QUERY), "Sto&p");
+    driver.WaitUntil([&] { return driver.Text(ID_STATUS).find("for papers (2 of ") != std::string::npos; },
+                     kPrinterWait);
+    EXPECT_EQ(SendMessageW(driver.Control(ID_PROGRESS), PBM_GETPOS, 0, 0), 2);
+    EXPECT_TRUE(IsWindowVisible(driver.Control(ID_PROGRESS)));
+    driver.Click(ID_QUERY);
+    EXPECT_EQ(driver.Text(ID_STATUS), "Stopped.");
+    EXPECT_EQ(Query("127.0.162.1").find("Reported by 127.0.162.1 "), 0u) << "waits for the printer before";
+
+    Start("127.0.162.4"); // the sheet is closed during the query
+    EXPECT_FALSE(driver.Press(PSBTN_CANCEL));
+    EXPECT_TRUE(IsAnyJobRunning()) << "closing has waited for the printer";
+}
+
+TEST_F(PrinterSheet, ReportIsShownWithTheMostUrgentFirst) {
+    EXPECT_EQ(driver.Text(ID_STATUS), "Not queried yet. The picture shows the options selected above.");
+    EXPECT_EQ(Query("127.0.162.1"), "Reported by 127.0.162.1 (bidirectional library).");
+    EXPECT_EQ(Supplies()[1], "Magenta toner | 67 %");
+    EXPECT_EQ(Supplies()[4], "Waste toner box | in order");
+    EXPECT_EQ(Stored()[0], "Company letterhead | Overlay");
+    EXPECT_EQ(Setting("Finisher"), "Finisher QB-220");
+    EXPECT_EQ(PapersDocument(state.papers).Elements()[3]["type"].Text(), "Thick 1");
+
+    EXPECT_EQ(Query("127.0.162.5"), "Reported by 127.0.162.5 (bidirectional library). Not available: overlays.");
+    EXPECT_EQ(Stored()[0], "sRGB | RGB profile");
+
+    EXPECT_EQ(Query("127.0.162.2"), "Reported by 127.0.162.2 (bidirectional library).");
+    EXPECT_EQ(Supplies(), Cells({"Yellow toner | 0 %, empty", "Cyan toner | 9 %, low", "Magenta toner | 4 %, low",
+                                 "Waste toner box | nearly full", "Black toner | 12 %"}));
+    EXPECT_EQ(Query("127.0.162.12"), "Reported by 127.0.162.12 (bidirectional library).");
+    EXPECT_EQ(Stored()[0], "B\u00FCro M\u00FCller \u6771\u4EAC | Overlay");
+    EXPECT_TRUE(user.failures.empty());
+}
+
+// What the printer has not reported is not shown as missing, and nothing of one printer as of another.
+TEST_F(PrinterSheet, OptionsAreShownWithTheirOrigin) {
+    EXPECT_EQ(Setting("Tray 3"), "Not installed") << "the model's default";
+    Query("127.0.162.1");
+    EXPECT_EQ(Setting("Tray 3"), "Not reported");
+    driver.Choose(ID_OPTIONS, "Tray 3");
+    driver.Choose(ID_OPTION_ITEMS, "Installed");
+    EXPECT_EQ(Setting("Tray 3"), "Installed");
+    EXPECT_NE(Query("127.0.162.9").find("turn on SNMP"), std::string::npos);
+    EXPECT_EQ(Setting("Finisher"), "Not reported");
+    EXPECT_EQ(Setting("Tray 3"), "Not reported");
+    EXPECT_TRUE(Supplies().empty());
+    EXPECT_EQ(PapersDocument(state.papers).Elements()[3]["type"].Text(), "Unknown");
+    driver.TurnTo(kPaperPage);
+    driver.TurnTo(kPrinterPage);
+    EXPECT_NE(driver.Text(ID_STATUS).find("turn on SNMP"), std::string::npos) << "not kept by the page";
+    EXPECT_NE(Query("").find("address is missing"), std::string::npos);
+}
+
+TEST_F(PrinterSheet, TourFailsAsTheCommandsDo) {
+    ExpectFailure(L"tour --out . --from 127.0.162.7", 1, "127.0.162.7 .*SNMP error status 5.*Restart");
+}
+
+TEST_F(PrinterSheet, AddressesAndTheReportAreKept) {
+    const Folder folder(L"workbench_printer_page");
+    state.file = folder.path / "kept.json";
+    for (const char* address : {"127.0.162.1", "127.0.162.9", "127.0.162.2", "127.0.162.1"})
+        Query(address);
+    driver.Click(ID_REFRESH);
+    EXPECT_FALSE(driver.Press(PSBTN_OK));
+
+    SheetState kept(PrinterFamily(), templates.get());
+    kept.file = state.file;
+    kept.user = &user;
+    EXPECT_EQ(LoadState(kept), "");
+    SheetWindow next(kept);
+    const PageDriver nextDriver(next);
+    EXPECT_EQ(EntriesOf(nextDriver.Control(ID_ADDRESS)), Cells({"127.0.162.1", "127.0.162.2"}))
+        << "only those that answer";
+    EXPECT_EQ(nextDriver.Text(ID_ADDRESS), "127.0.162.1");
+    EXPECT_EQ(nextDriver.Text(ID_STATUS).find("Reported by 127.0.162.1 on "), 0u) << nextDriver.Text(ID_STATUS);
+    EXPECT_EQ(SendMessageW(nextDriver.Control(ID_REFRESH), BM_GETCHECK, 0, 0), BST_CHECKED);
+    nextDriver.Choose(ID_ADDRESS, "127.0.162.2");
+    SendMessageW(next.CurrentPage(), WM_COMMAND, MAKEWPARAM(ID_ADDRESS, CBN_SELENDOK), 0);
+    EXPECT_EQ(kept.address, "127.0.162.2");
+}
+
+TEST_F(PrinterSheet, RefreshMarksWhatHasChanged) {
+    Query("127.0.162.1");
+    for (MrkSupRequestItem& supply : state.report.supplies)
+        supply.value = supply.value == 67 ? 70 : supply.value; // as if it had been so before
+    SetOption(state.options, "OpFAXUnit=DisOpFAXKit");
+    SendMessageW(sheet.CurrentPage(), WM_TIMER, 1, 0);
+    EXPECT_FALSE(state.isQuerying) << "the page stays usable";
+    driver.WaitUntil([&] { return Setting("Fax") != "Installed"; }, kPrinterWait);
+    EXPECT_EQ(Setting("Fax"), "Installed (was Not installed)");
+    EXPECT_EQ(Setting("Hard disk"), "Installed");
+    EXPECT_EQ(Supplies()[1], "Magenta toner | 67 % (was 70 %)");
+    driver.SetText(ID_ADDRESS, "127.0.162.2"); // not of the printer that is edited
+    SendMessageW(sheet.CurrentPage(), WM_TIMER, 1, 0);
+    EXPECT_FALSE(IsAnyJobRunning());
+}
+
+// As in high contrast: black toner on a black window.
+TEST_F(PrinterSheet, BarOfBlackTonerIsSeenOnBlack) {
+    const INT parts[] = {COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_BTNFACE};
+    const COLORREF before[] = {GetSysColor(parts[0]), GetSysColor(parts[1]), GetSysColor(parts[2])};
+    const COLORREF dark[] = {RGB(0, 0, 0), RGB(255, 255, 255), RGB(0, 0, 0)};
+    SetSysColors(3, parts, dark);
+    Query("127.0.162.1");
+    ASSERT_EQ(Supplies()[3], "Black toner | 92 %");
+    const HWND list = driver.Control(ID_SUPPLIES);
+    RECT row = {LVIR_BOUNDS, 0, 0, 0};
+    SendMessageW(list, LVM_GETITEMRECT, 3, reinterpret_cast<LPARAM>(&row));
+    UpdateWindow(list);
+    const HDC dc = GetDC(list);
+    int edges = 0; // from black to white and back, along the middle of the bar
+    const auto left = row.left + static_cast<LONG>(SendMessageW(list, LVM_GETCOLUMNWIDTH, 0, 0));
+    for (LONG x = left; x < left + 50; ++x)
+        edges += GetPixel(dc, x, (row.top + row.bottom) / 2) == RGB(255, 255, 255) ? 1 : 0;
+    ReleaseDC(list, dc);
+    SetSysColors(3, parts, before);
+    EXPECT_GE(edges, 2) << "one at the start, one where the toner ends";
+}
+
+// --- At every resolution -----------------------------------------------------------------------------------
+
+struct PrinterSheetLayout : PrinterSheet {};
+
+// In both languages, with a long address.
+TEST_F(PrinterSheetLayout, EveryOutcomeFitsBelowTheAddress) {
+    const HWND status = driver.Control(ID_STATUS);
+    RECT place = {};
+    GetClientRect(status, &place);
+    const HDC dc = GetDC(status);
+    SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(status, WM_GETFONT, 0, 0)));
+    for (const char* language : {"de", "en"}) {
+        UseLanguage(language);
+        for (auto i = static_cast<int>(Outcome::kNoAddress); i <= static_cast<int>(Outcome::kOtherModel); ++i) {
+            if (static_cast<Outcome>(i) == Outcome::kNoLibrary) // for commands only
+                continue;
+            const std::string text =
+                PrinterFailure(static_cast<Outcome>(i), "printer-2.office.example", "QUORVANE lumora R880").sentence;
+            RECT needed = {0, 0, place.right, 0};
+            DrawTextW(dc, Wide(text).c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+            EXPECT_LE(needed.bottom, place.bottom + 1) << text;
+            EXPECT_EQ(text.find("  "), std::string::npos) << "a part is missing: " << text;
+        }
+    }
+    ReleaseDC(status, dc);
+}
+
+} // namespace

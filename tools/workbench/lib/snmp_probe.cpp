@@ -1,0 +1,146 @@
+// Sends SNMP requests and reads the replies.
+#include "workbench/lib/snmp_probe.h"
+
+#include "workbench/lib/module_parts.h"
+#include "workbench/lib/text.h"
+
+#include <cstring>
+
+#include <winsock2.h>
+
+#include <ws2tcpip.h> // after winsock2.h
+
+namespace {
+
+constexpr u_short kSnmpPort = 161;
+constexpr int kProbeSends = 2;
+constexpr DWORD kProbeWait = 500; // milliseconds, for each datagram
+constexpr int kMaxOthers = 5;     // answers to other requests
+
+// A UDP socket that is connected to an agent, so that refusals are reported.
+struct ProbeSocket {
+    explicit ProbeSocket(uint32_t address) {
+        sockaddr_in agent = {};
+        agent.sin_family = AF_INET;
+        agent.sin_port = htons(kSnmpPort);
+        agent.sin_addr.s_addr = address;
+        isReady = connect(handle, reinterpret_cast<const sockaddr*>(&agent), sizeof(agent)) == 0
+                  && setsockopt(handle, SOL_SOCKET, SO_RCVTIMEO, reinterpret_cast<const char*>(&kProbeWait),
+                                sizeof(kProbeWait))
+                         == 0;
+    }
+    ~ProbeSocket() { closesocket(handle); }
+    ProbeSocket(const ProbeSocket&) = delete;
+    ProbeSocket& operator=(const ProbeSocket&) = delete;
+
+    const SOCKET handle = socket(AF_INET, SOCK_DGRAM, 0);
+    bool isReady;
+};
+
+// Some systems report a refusal when the next datagram is sent.
+bool IsRefusal(int error) {
+    return error == WSAECONNRESET || error == WSAECONNREFUSED;
+}
+
+ProbeEnd EndOf(int error) {
+    return error == WSAETIMEDOUT ? ProbeEnd::kNoAnswer
+           : IsRefusal(error)    ? ProbeEnd::kRefused
+                                 : ProbeEnd::kNotSent;
+}
+
+// Receives until the answer to this request arrives, or nothing does in time.
+ProbeAnswer ReceiveAnswer(SOCKET handle, uint32_t requestId) {
+    for (int others = 0; others < kMaxOthers; ++others) {
+        char datagram[4096];
+        const int size = recv(handle, datagram, sizeof(datagram), 0);
+        if (size < 0)
+            return {EndOf(WSAGetLastError()), {}};
+        const std::optional<SnmpReplyText> reply = ReadSnmpReply({datagram, static_cast<size_t>(size)});
+        if (!reply)
+            return {ProbeEnd::kMalformed, {}};
+        if (reply->requestId == requestId)
+            return {ProbeEnd::kAnswered, *reply};
+    }
+    return {ProbeEnd::kOtherRequests, {}};
+}
+
+// The first address of this family; none when the host has no such address.
+bool HasAddress(const std::string& host, int family, sockaddr_storage& address) {
+    addrinfo wanted = {};
+    wanted.ai_family = family;
+    addrinfo* found = nullptr;
+    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0 || found == nullptr)
+        return false;
+    memcpy(&address, found->ai_addr, found->ai_addrlen);
+    freeaddrinfo(found);
+    return true;
+}
+
+} // namespace
+
+SocketsStart::SocketsStart() {
+    WSADATA granted;
+    WSAStartup(MAKEWORD(2, 2), &granted);
+}
+
+SocketsStart::~SocketsStart() {
+    WSACleanup();
+}
+
+HostKind FindHost(const std::string& host, uint32_t& address) {
+    const SocketsStart sockets;
+    address = inet_addr(host.c_str()); // first, as the module does
+    if (address != INADDR_NONE)
+        return HostKind::kIpv4;
+    sockaddr_storage found = {};
+    if (HasAddress(host, AF_INET, found)) {
+        address = reinterpret_cast<const sockaddr_in&>(found).sin_addr.s_addr;
+        return HostKind::kIpv4;
+    }
+    return HasAddress(host, AF_INET6, found) ? HostKind::kIpv6 : HostKind::kUnknown;
+}
+
+std::string SnmpRequest(const char* oid, uint32_t requestId, bool isForNext) {
+    SnmpVarBind object = {};
+    object.value.asnType = ASN_NULL;
+    if (!ClientStrToOid(oid, &object.name))
+        return {};
+    BerBuffer message = SnmpBuildRequest(isForNext ? SNMP_PDU_GETNEXT : SNMP_PDU_GET, kCommunity, requestId,
+                                         SnmpVarBindList{&object, 1});
+    const std::string datagram(reinterpret_cast<const char*>(message.octets), message.count);
+    BerFree(message);
+    ClientOidFree(&object.name);
+    return datagram;
+}
+
+std::optional<SnmpReplyText> ReadSnmpReply(std::string_view datagram) {
+    SnmpReply reply;
+    SnmpResult result;
+    SnmpReplyText answer = {};
+    AsnInteger32 errorStatus = 0;
+    if (!SnmpReadReply(reinterpret_cast<const uint8_t*>(datagram.data()), datagram.size(), reply)
+        || !SnmpReadResult(reply, &errorStatus, nullptr, result))
+        return std::nullopt;
+    answer.requestId = static_cast<uint32_t>(reply.requestId);
+    answer.errorStatus = errorStatus;
+    if (result.valueType == ASN_OCTETSTRING)
+        answer.text = PrinterText({reinterpret_cast<const char*>(result.value.at),
+                                   static_cast<size_t>(result.value.end - result.value.at)});
+    return answer;
+}
+
+ProbeAnswer ProbeObject(uint32_t address, const char* oid) {
+    const SocketsStart sockets;
+    const ProbeSocket socket(address);
+    const uint32_t requestId = GetTickCount() & INT32_MAX; // unlike those of the last probes
+    const std::string request = SnmpRequest(oid, requestId);
+    ProbeAnswer answer = {ProbeEnd::kNotSent, {}};
+    for (int sends = 0; sends < kProbeSends && socket.isReady; ++sends) {
+        if (send(socket.handle, request.data(), static_cast<int>(request.size()), 0) < 0)
+            return {EndOf(WSAGetLastError()), {}};
+        answer = ReceiveAnswer(socket.handle, requestId);
+        if (answer.end != ProbeEnd::kNoAnswer)
+            break;
+    }
+    return answer;
+}

@@ -1,0 +1,55 @@
+// The workbench's own SNMP requests: one object at a time, over Windows Sockets. They find out why the
+// module's queries of a printer fail, and look for printers; printers are queried through the module only.
+// The messages are built and read by the module's code.
+#ifndef WORKBENCH_LIB_SNMP_PROBE_H
+#define WORKBENCH_LIB_SNMP_PROBE_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Windows Sockets, started as long as the object exists.
+struct SocketsStart {
+    SocketsStart();
+    ~SocketsStart();
+    SocketsStart(const SocketsStart&) = delete;
+    SocketsStart& operator=(const SocketsStart&) = delete;
+};
+
+enum class HostKind { kIpv4, kIpv6, kUnknown };
+
+// Looks up an address or a host name in the system's code page. `address` (in network order) is set for
+// kIpv4; kIpv6 means that the host has no other. Waits for the name service.
+HostKind FindHost(const std::string& host, uint32_t& address);
+
+// A request for one object (or the next one), as a datagram. Empty when the OID is not one.
+std::string SnmpRequest(const char* oid, uint32_t requestId, bool isForNext = false);
+
+struct SnmpReplyText {
+    uint32_t requestId;
+    int32_t errorStatus; // 0: the object exists
+    std::string text;    // its value, decoded; empty for numbers and other values
+};
+
+// None when the datagram is not a well-formed reply.
+std::optional<SnmpReplyText> ReadSnmpReply(std::string_view datagram);
+
+enum class ProbeEnd {
+    kAnswered,
+    kNoAnswer,
+    kRefused,       // there is a host, but no program listens
+    kNotSent,       // there is no way to the host
+    kMalformed,     // the answer is not an SNMP reply
+    kOtherRequests, // only answers to other requests have arrived
+};
+struct ProbeAnswer {
+    ProbeEnd end;
+    SnmpReplyText reply; // for kAnswered
+};
+
+// Requests the object from the agent at this address (in network order). Sends twice and waits about a
+// second at most.
+ProbeAnswer ProbeObject(uint32_t address, const char* oid);
+
+#endif

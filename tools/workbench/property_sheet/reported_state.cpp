@@ -1,0 +1,105 @@
+// Applies, keeps and forgets reports.
+#include "workbench/property_sheet/reported_state.h"
+
+#include "workbench/lib/text.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr size_t kMaxAddresses = 10; // that are offered again
+
+std::string LocalTime() {
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    char text[32];
+    snprintf(text, sizeof(text), "%04u-%02u-%02u %02u:%02u", now.wYear, now.wMonth, now.wDay, now.wHour,
+             now.wMinute);
+    return text;
+}
+
+void KeepAddress(SheetState& state, const std::string& address) {
+    std::vector<std::string>& kept = state.addresses;
+    kept.erase(std::remove(kept.begin(), kept.end(), address), kept.end());
+    kept.insert(kept.begin(), address);
+    kept.resize(std::min(kept.size(), kMaxAddresses));
+}
+
+std::vector<std::string> KeysOf(const OptionFeatures& options) {
+    std::vector<std::string> keys;
+    for (size_t i = 0; i < options.settings.size(); ++i)
+        keys.push_back(FieldText(options.features[i].feature.head.key));
+    return keys;
+}
+
+// Of the options and papers, before a printer has reported them.
+void UseDefaults(SheetState& state) {
+    state.options = ReadOptionFeatures(state.family);
+    state.papers = UnknownPapers(state.family);
+    state.reportedBy.clear();
+    state.reportedOn.clear();
+    state.notReported = KeysOf(state.options);
+    state.report = {};
+}
+
+Document ListOf(const std::vector<std::string>& texts) {
+    Document list = Document::MakeList();
+    for (const std::string& text : texts)
+        list.Add(text);
+    return list;
+}
+
+bool LoadList(const Document& from, std::vector<std::string>& texts) {
+    texts.clear();
+    for (const Document& element : from.Elements()) {
+        if (!element.IsText())
+            return false;
+        texts.push_back(element.Text());
+    }
+    return from.IsList() || from.IsNull();
+}
+
+} // namespace
+
+void ApplyReport(SheetState& state, DeviceReport report) {
+    if (state.reportedBy != report.address)
+        UseDefaults(state);
+    state.notReported = KeysOf(state.options);
+    for (const OptionRequestItem& answer : report.options) {
+        if (answer.value[0] == 0)
+            continue;
+        ApplyReportedOption(state.options, answer.key, answer.value);
+        std::vector<std::string>& keys = state.notReported;
+        keys.erase(std::remove(keys.begin(), keys.end(), FieldText(answer.key)), keys.end());
+    }
+    if (!report.trays.empty())
+        state.papers = PapersOf(state.family, report.trays);
+    state.reportedBy = report.address;
+    state.reportedOn = LocalTime();
+    KeepAddress(state, report.address);
+    state.report = std::move(report);
+    OfferedSources(state);
+}
+
+void ForgetOtherReport(SheetState& state, const std::string& address) {
+    if (!state.reportedBy.empty() && state.reportedBy != address)
+        UseDefaults(state);
+}
+
+Document ReportedDocument(const SheetState& state) {
+    return {{"reportedOn", state.reportedOn},
+            {"notReported", ListOf(state.notReported)},
+            {"addresses", ListOf(state.addresses)},
+            {"refresh", state.isRefreshed}};
+}
+
+bool LoadReported(const Document& kept, SheetState& state) {
+    const Document& date = kept["reportedOn"];
+    const Document& refresh = kept["refresh"];
+    if ((!date.IsText() && !date.IsNull()) || (!refresh.IsBool() && !refresh.IsNull()))
+        return false;
+    state.reportedOn = date.IsText() ? date.Text() : "";
+    state.isRefreshed = refresh.IsBool() && refresh.Bool();
+    return (kept.IsObject() || kept.IsNull()) && LoadList(kept["notReported"], state.notReported)
+           && LoadList(kept["addresses"], state.addresses);
+}
