@@ -234,7 +234,7 @@ TEST_F(Sheet, RowIsCopied) {
     SetFocus(driver.Control(ID_TRAYS));
     SelectEntry(driver.Control(ID_TRAYS), 1);
     PressWithCtrl(sheet, 'C');
-    EXPECT_EQ(Clipboard().substr(0, 23), L"Tray 2\tUnknown\tUnknown\t");
+    EXPECT_EQ(Clipboard().substr(0, 24), L"Tray 2\t\tUnknown\tUnknown\t");
 }
 
 TEST_F(Sheet, TipShowsCutCell) {

@@ -148,6 +148,18 @@ TEST_F(PrinterSheet, ReportIsShownWithTheMostUrgentFirst) {
     EXPECT_TRUE(user.failures.empty());
 }
 
+TEST_F(PrinterSheet, InstalledTraysAreListedWithTheirLevels) {
+    Query("127.0.162.2");
+    driver.TurnTo(kPaperPage);
+    EXPECT_EQ(RowsOf(driver.Control(ID_TRAYS)), Cells({"Tray 1 | 35 sheets", "Tray 2 | empty", "Manual feed | empty"}));
+    driver.TurnTo(kPrinterPage);
+    Query("127.0.162.1");
+    driver.TurnTo(kPaperPage);
+    const Cells trays = RowsOf(driver.Control(ID_TRAYS));
+    EXPECT_EQ(trays[2], "Tray 3 | 120 sheets") << "reported, though no option says that it is installed";
+    EXPECT_EQ(trays[4], "Large-capacity tray | 2100 sheets");
+}
+
 // What the printer has not reported is not shown as missing, and nothing of one printer as of another.
 TEST_F(PrinterSheet, OptionsAreShownWithTheirOrigin) {
     EXPECT_EQ(Setting("Tray 3"), "Not installed") << "the model's default";

@@ -2,6 +2,7 @@
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_ids.h"
+#include "workbench/property_sheet/printer_text_ids.h"
 #include "workbench/property_sheet/property_page.h"
 #include "workbench/property_sheet/text_ids.h"
 
@@ -20,8 +21,32 @@ constexpr PaperChoice kChoices[] = {
     {ID_PRE_PUNCHED, &DeviceTable::prePunchedMedia, FIELD(mediaPrePunched)},
 };
 
-constexpr UINT kTrayColumns[] = {TEXT_TRAY,   TEXT_SIZE,  TEXT_ORIENTATION, TEXT_TYPE,
-                                 TEXT_WEIGHT, TEXT_COLOR, TEXT_PRE_PUNCHED};
+constexpr UINT kTrayColumns[] = {TEXT_TRAY, PRINTER_TEXT_LEVEL, TEXT_SIZE,  TEXT_ORIENTATION,
+                                 TEXT_TYPE, TEXT_WEIGHT,        TEXT_COLOR, TEXT_PRE_PUNCHED};
+
+// The size of a tray that the printer lacks.
+constexpr const char* kUnknownSizeKey = "MediaTypeList_Size_Unknown";
+
+// Levels that are not a number of sheets: those of the Printer MIB in 16 bits.
+constexpr int32_t kSomeSheets = 0xFFFD;
+constexpr int32_t kUnknownSheets = 0xFFFE;
+
+std::string LevelText(int32_t sheets) {
+    if (sheets >= kUnknownSheets)
+        return "";
+    return LocalizedText(sheets == 0             ? PRINTER_TEXT_TRAY_EMPTY
+                         : sheets == kSomeSheets ? PRINTER_TEXT_TRAY_NOT_EMPTY
+                                                 : PRINTER_TEXT_TRAY_SHEETS,
+                         {std::to_string(sheets)});
+}
+
+// The printer's answer for a tray that it has; null when it has not reported one.
+const InputTrayStatusItem* FindReported(const TrayAnswers& answers, const char* tray) {
+    for (const InputTrayStatusItem& answer : answers)
+        if (SameText(answer.tray, tray) && !SameText(answer.mediaSize, kUnknownSizeKey))
+            return &answer;
+    return nullptr;
+}
 
 class PaperPage : public PropertyPage {
 public:
@@ -40,16 +65,32 @@ private:
         ShowSources();
         for (const PaperChoice& choice : kChoices)
             ShowChoice(choice);
+        ShowTrays();
+    }
+
+    // Those that are installed, as far as the options or the printer's answers say so.
+    void ShowTrays() const {
         std::vector<std::vector<std::string>> rows;
         for (const Document& paper : PapersDocument(state.papers).Elements()) {
-            std::vector<std::string> row;
+            const std::string& key = paper["tray"].Text();
+            const InputTrayStatusItem* reported = FindReported(state.report.trays, key.c_str());
+            if (reported == nullptr && !IsOffered(paper["bin"].Integer()))
+                continue;
+            std::vector<std::string> row = {NameOfSource(key),
+                                            reported != nullptr ? LevelText(reported->level) : ""};
             for (const auto& cell : paper.Fields())
-                if (cell.name != "bin")
+                if (cell.name != "bin" && cell.name != "tray")
                     row.push_back(cell.value.IsText() ? cell.value.Text() : "");
-            row[0] = NameOfSource(row[0]);
             rows.push_back(row);
         }
         SetRows(ID_TRAYS, rows);
+    }
+
+    bool IsOffered(int64_t bin) const {
+        for (const PaperSource& source : sources)
+            if (source.bin == bin)
+                return true;
+        return false;
     }
 
     void OnCommand(UINT control, UINT notification) override {
