@@ -7,6 +7,9 @@
 #include "workbench/property_sheet/device_job.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
+#include "workbench/property_sheet/printer_text_ids.h"
+
+#include <algorithm>
 
 #include <commctrl.h>
 
@@ -36,6 +39,8 @@ Cells RowsOf(HWND list) {
         }
     return rows;
 }
+
+Cells searched; // the rows of the last search
 
 struct PrinterSheet : testing::Test {
     PrinterSheet() { state.user = &user; }
@@ -223,6 +228,29 @@ TEST_F(PrinterSheet, RefreshMarksWhatHasChanged) {
     EXPECT_FALSE(IsAnyJobRunning());
 }
 
+// Lets a search find what it can, then chooses the printer in the last row: Down to the end, Enter.
+void CALLBACK UseSearch(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD /*time*/) {
+    const HWND dialog = GetActiveWindow(), list = GetDlgItem(dialog, ID_FOUND);
+    if (list == nullptr || SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) < 3)
+        return;
+    KillTimer(nullptr, timer);
+    searched = RowsOf(list);
+    SetFocus(list);
+    for (const WPARAM key : {VK_END, VK_RETURN})
+        PostMessageW(list, WM_KEYDOWN, key, 0);
+}
+
+TEST_F(PrinterSheet, SearchListsPrintersOnly) {
+    SetEnvironmentVariableW(L"LUMORA_SEARCH", L"127.0.162.8 127.0.162.1 127.0.162.9 127.0.162.2 127.0.162.12");
+    SetTimer(nullptr, 0, 50, UseSearch);
+    driver.Click(ID_FIND); // returns when the dialog has closed
+    std::sort(searched.begin(), searched.end());
+    EXPECT_EQ(searched, Cells({"copy-room | QUORVANE lumora R880", "corridor | QUORVANE lumora R880",
+                               "print-shop | QUORVANE lumora R880"}));
+    EXPECT_TRUE(state.isQuerying) << "the chosen printer is not asked";
+    EXPECT_EQ(state.address.find("127.0.162."), 0u);
+}
+
 // As in high contrast: black toner on a black window.
 TEST_F(PrinterSheet, BarOfBlackTonerIsSeenOnBlack) {
     const INT parts[] = {COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_BTNFACE};
@@ -250,24 +278,28 @@ TEST_F(PrinterSheet, BarOfBlackTonerIsSeenOnBlack) {
 struct PrinterSheetLayout : PrinterSheet {};
 
 // In both languages, with a long address.
-TEST_F(PrinterSheetLayout, EveryOutcomeFitsBelowTheAddress) {
+TEST_F(PrinterSheetLayout, EverySentenceFits) {
     const HWND status = driver.Control(ID_STATUS);
-    RECT place = {};
-    GetClientRect(status, &place);
+    RECT below = {}, ofSearch = {0, 0, 246, 16}; // ID_FOUND_STATUS, in the same font
+    GetClientRect(status, &below);
+    MapDialogRect(sheet.CurrentPage(), &ofSearch);
     const HDC dc = GetDC(status);
     SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(status, WM_GETFONT, 0, 0)));
+    const auto expectFit = [&](const RECT& place, const std::string& text) {
+        RECT needed = {0, 0, place.right, 0};
+        DrawTextW(dc, Wide(text).c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
+        EXPECT_LE(needed.bottom, place.bottom + 1) << text;
+        EXPECT_FALSE(text.empty() || text.front() == ' ' || text.back() == ' ') << "a part is missing: " << text;
+    };
     for (const char* language : {"de", "en"}) {
         UseLanguage(language);
-        for (auto i = static_cast<int>(Outcome::kNoAddress); i <= static_cast<int>(Outcome::kOtherModel); ++i) {
-            if (static_cast<Outcome>(i) == Outcome::kNoLibrary) // for commands only
-                continue;
-            const std::string text =
-                PrinterFailure(static_cast<Outcome>(i), "printer-2.office.example", "QUORVANE lumora R880").sentence;
-            RECT needed = {0, 0, place.right, 0};
-            DrawTextW(dc, Wide(text).c_str(), -1, &needed, DT_CALCRECT | DT_WORDBREAK | DT_NOPREFIX);
-            EXPECT_LE(needed.bottom, place.bottom + 1) << text;
-            EXPECT_EQ(text.find("  "), std::string::npos) << "a part is missing: " << text;
-        }
+        for (auto i = static_cast<int>(Outcome::kNoAddress); i <= static_cast<int>(Outcome::kOtherModel); ++i)
+            if (static_cast<Outcome>(i) != Outcome::kNoLibrary) // for commands only
+                expectFit(below,
+                          PrinterFailure(static_cast<Outcome>(i), "printer-2.office.example", "QUORVANE lumora R880")
+                              .sentence);
+        for (UINT text = PRINTER_TEXT_SEARCHING; text < PRINTER_TEXT_END; ++text)
+            expectFit(ofSearch, LocalizedText(text, {"12"}));
     }
     ReleaseDC(status, dc);
 }

@@ -19,6 +19,7 @@
 #define ID_SUPPLIES     1008
 #define ID_STORED       1009
 #define ID_REFRESH      1010
+#define ID_FIND         1011
 
 #define ID_SOURCE      1021
 #define ID_TYPE        1022
@@ -39,5 +40,10 @@
 #define ID_FILES 1042
 #define ID_RESET 1043
 #define ID_COPY  1044
+
+// The dialog that looks for printers.
+#define DIALOG_SEARCH   111
+#define ID_FOUND        1101
+#define ID_FOUND_STATUS 1102
 
 #endif

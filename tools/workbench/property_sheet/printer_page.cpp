@@ -5,6 +5,7 @@
 #include "workbench/property_sheet/printer_text_ids.h"
 #include "workbench/property_sheet/property_page.h"
 #include "workbench/property_sheet/reported_state.h"
+#include "workbench/property_sheet/search_dialog.h"
 #include "workbench/property_sheet/supplies.h"
 #include "workbench/property_sheet/text_ids.h"
 
@@ -106,6 +107,8 @@ private:
             NoteAddress(notification == CBN_SELENDOK);
         else if (control == ID_QUERY && notification == BN_CLICKED)
             state.isQuerying ? StopQuery() : StartQuery();
+        else if (control == ID_FIND && notification == BN_CLICKED)
+            Find();
         else if (control == ID_REFRESH && notification == BN_CLICKED)
             ChangeRefresh();
     }
@@ -240,6 +243,14 @@ private:
         NoteChange();
     }
 
+    void Find() {
+        const std::optional<std::string> address = FindPrinter(GetParent(window));
+        if (!address)
+            return;
+        SetText(ID_ADDRESS, *address);
+        StartQuery();
+    }
+
     // --- The printer ---------------------------------------------------------------------------------
 
     std::string Status() const {
@@ -263,6 +274,7 @@ private:
         if (hadFocus)
             SetFocus(Control(ID_QUERY));
         EnableWindow(Control(ID_ADDRESS), FALSE);
+        EnableWindow(Control(ID_FIND), FALSE);
         ShowWindow(Control(ID_PROGRESS), SW_SHOW);
         SetTimer(window, kSecondsTimer, 1000, nullptr);
         NoteProgress({});
@@ -348,6 +360,7 @@ private:
             SetText(ID_QUERY, LocalizedText(PRINTER_TEXT_QUERY));
             ShowWindow(Control(ID_PROGRESS), SW_HIDE);
             KillTimer(window, kSecondsTimer);
+            EnableWindow(Control(ID_FIND), TRUE);
             ShowAddress();
             if (hadFocus && GetFocus() == Control(ID_QUERY))
                 SetFocus(Control(ID_ADDRESS));
