@@ -10,6 +10,8 @@
 #include "workbench/property_sheet/printer_text_ids.h"
 
 #include <algorithm>
+#include <set>
+#include <thread>
 
 #include <commctrl.h>
 
@@ -182,6 +184,44 @@ TEST_F(PrinterSheet, OptionsAreShownWithTheirOrigin) {
     driver.TurnTo(kPrinterPage);
     EXPECT_NE(driver.Text(ID_STATUS).find("turn on SNMP"), std::string::npos) << "not kept by the page";
     EXPECT_NE(Query("").find("address is missing"), std::string::npos);
+}
+
+BOOL CALLBACK FindOtherSheet(HWND window, LPARAM found) {
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (process == GetCurrentProcessId() || !IsWindowVisible(window) || TextOf(window) != "lumora R880")
+        return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+// The sheet as a program of its own: its thread is in the module, waiting for the printer, when the program ends.
+TEST(PrinterSheetProcess, EndsWhileItsPrinterIsAsked) {
+    Result result = {};
+    std::thread program([&] { result = RunWorkbench(L"run --language en --state nowhere.json"); });
+    HWND other = nullptr;
+    while (other == nullptr)
+        EnumWindows(FindOtherSheet, reinterpret_cast<LPARAM>(&other));
+    const auto page = reinterpret_cast<HWND>(SendMessageW(other, PSM_GETCURRENTPAGEHWND, 0, 0));
+    SetWindowTextW(GetDlgItem(page, ID_ADDRESS), L"127.0.162.4");
+    SendMessageW(page, WM_COMMAND, MAKEWPARAM(ID_QUERY, BN_CLICKED), 0);
+    while (TextOf(GetDlgItem(page, ID_STATUS)).find("Asking 127.0.162.4") != 0)
+        Sleep(10);
+    PostMessageW(other, WM_COMMAND, IDCANCEL, 0);
+    program.join();
+    EXPECT_EQ(result.exitCode, 0) << result.errors;
+}
+
+TEST(PrinterTexts, AreCompleteInBothLanguages) {
+    const std::set<std::string> alike = {"SNMP", "Option", "Finisher", "Fax", "Overlay", "Name", "{1} %", "{1} s"};
+    for (UINT id = PRINTER_TEXT_FIRST; id < PRINTER_TEXT_END; ++id) {
+        const std::string english = TextIn(kEnglish, id, {"<1>", "<2>", "<3>", "<4>"});
+        const std::string german = TextIn(kGerman, id, {"<1>", "<2>", "<3>", "<4>"});
+        EXPECT_TRUE(!english.empty() && !german.empty()) << id;
+        EXPECT_EQ(TextIn(kEnglish, id) == TextIn(kGerman, id), alike.count(TextIn(kEnglish, id)) != 0) << english;
+        for (const char* place : {"<1>", "<2>", "<3>", "<4>"})
+            EXPECT_EQ(english.find(place) == std::string::npos, german.find(place) == std::string::npos) << english;
+    }
 }
 
 TEST_F(PrinterSheet, TourFailsAsTheCommandsDo) {
