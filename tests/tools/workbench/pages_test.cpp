@@ -4,6 +4,7 @@
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/text.h"
+#include "workbench/property_sheet/list_view.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/text_ids.h"
@@ -235,6 +236,28 @@ TEST_F(Sheet, RowIsCopied) {
     SelectEntry(driver.Control(ID_TRAYS), 1);
     PressWithCtrl(sheet, 'C');
     EXPECT_EQ(Clipboard().substr(0, 24), L"Tray 2\t\tUnknown\tUnknown\t");
+}
+
+TEST_F(Sheet, LastColumnLeavesRoomForTheScrollBar) {
+    const HWND list = CreateWindowW(WC_LISTVIEWW, L"", WS_CHILD | WS_VISIBLE | LVS_REPORT, 0, 0, 300, 100,
+                                    sheet.Window(), nullptr, nullptr, nullptr);
+    const auto has = [&](LONG style) { return (GetWindowLongW(list, GWL_STYLE) & style) != 0; };
+    LVCOLUMNW column = {};
+    SendMessageW(list, LVM_INSERTCOLUMNW, 0, reinterpret_cast<LPARAM>(&column));
+    for (int rows : {1, 50}) {
+        SendMessageW(list, WM_SETREDRAW, FALSE, 0);
+        while (SendMessageW(list, LVM_GETITEMCOUNT, 0, 0) < rows) {
+            LVITEMW item = {};
+            SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+        }
+        FitColumns(list);
+        SendMessageW(list, WM_SETREDRAW, TRUE, 0);
+        UpdateWindow(list);
+        EXPECT_EQ(has(WS_VSCROLL), rows > 1);
+        EXPECT_FALSE(has(WS_HSCROLL)) << rows << " rows";
+        EXPECT_GT(SendMessageW(list, LVM_GETCOLUMNWIDTH, 0, 0), 300 - 2 * GetSystemMetrics(SM_CXVSCROLL));
+    }
+    DestroyWindow(list);
 }
 
 TEST_F(Sheet, TipShowsCutCell) {

@@ -100,6 +100,9 @@ void FitColumns(HWND list) {
     RECT client = {};
     GetClientRect(list, &client);
     LONG rest = client.right;
+    const bool isScrolled = (GetWindowLongW(list, GWL_STYLE) & WS_VSCROLL) != 0;
+    if (!isScrolled && rows > SendMessageW(list, LVM_GETCOUNTPERPAGE, 0, 0))
+        rest -= GetSystemMetrics(SM_CXVSCROLL); // the list adds it later
     for (int column = 0; column < columns; ++column) {
         int width = WidthFor(list, TitleOf(list, column));
         for (int row = 0; row < rows; ++row)
