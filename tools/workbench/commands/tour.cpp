@@ -119,6 +119,7 @@ Document TourSheet(const FamilyFiles& family, const TourOptions& options) {
     SheetWindow sheet(state);
     const std::string title = TextOf(sheet.Window());
     Tour tour = {state, user, PageDriver(sheet), std::filesystem::u8path(options.out)};
+    SendMessageW(sheet.Window(), WM_NCACTIVATE, TRUE, 0); // nothing else activates it on a hidden screen
     VisitPrinter(tour, options.from);
     VisitPaper(tour);
     VisitQuality(tour);
