@@ -51,9 +51,8 @@ TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
 // The driver with another model of family/model or tests/models.
 struct OtherModel : Folder {
     explicit OtherModel(const std::string& name)
-        : Folder(
-            (L"workbench_" + fs::path(name).wstring()).c_str(),
-            {"TELMAR_D.DLL", "TELMAR_D.PRM=models/" + name + ".prm", "TELMAR_S.DLL", "TELMAR_U.DLL", "TELMAR_B.DLL"}) {}
+        : Folder(L"workbench_" + fs::path(name).wstring(), {"TELMAR_D.DLL", "TELMAR_D.PRM=models/" + name + ".prm",
+                                                            "TELMAR_S.DLL", "TELMAR_U.DLL", "TELMAR_B.DLL"}) {}
 };
 
 // Two trays, no options, no colour.

@@ -31,7 +31,7 @@ void WidenDropDown(HWND comboBox, const std::vector<std::string>& entries) {
     SelectObject(dc, before);
     ReleaseDC(comboBox, dc);
     const int edges = 2 * GetSystemMetrics(SM_CXEDGE) + GetSystemMetrics(SM_CXVSCROLL);
-    SendMessageW(comboBox, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width + edges), 0);
+    SendMessageW(comboBox, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width) + static_cast<WPARAM>(edges), 0);
 }
 
 } // namespace
