@@ -107,12 +107,16 @@ TEST(WorkbenchSheet, SettingsAreKeptForTheirModelOnly) {
 
     Json old = Json::parse(kept); // as an older version has saved it
     old.erase("model");
+    old["toldBy"] = old["reportedBy"];
+    old.erase("reportedBy");
     std::ofstream(file) << old;
     EXPECT_NE(tour(minimal).first.find("another model: not known."), std::string::npos);
     for (const std::string& text : {old.dump(), kept}) {
         std::ofstream(file) << text;
         EXPECT_EQ(tour(german).first, "");
-        EXPECT_EQ(Json::parse(Contents(file))["options"]["OpOutTrayUnit"], "OpOutTrayUnit1") << "reported at first";
+        const Json saved = Json::parse(Contents(file));
+        EXPECT_EQ(saved["options"]["OpOutTrayUnit"], "OpOutTrayUnit1") << "reported at first";
+        EXPECT_EQ(saved["reportedBy"], "127.0.162.1");
     }
 }
 

@@ -171,7 +171,7 @@ std::string LoadState(SheetState& state) {
     ResetState(state);
     const Document& name = kept["model"]["name"];
     return LocalizedText(TEXT_OTHER_MODEL, {name.IsText() ? name.Text() : LocalizedText(TEXT_UNKNOWN_MODEL),
-                                            ModelName(state.family), state.file.u8string()});
+                                            ModelName(state.family)});
 }
 
 void SaveState(SheetState& state) {
