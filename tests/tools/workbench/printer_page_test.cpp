@@ -130,8 +130,11 @@ TEST_F(PrinterSheet, SlowPrinterIsAskedInTheBackground) {
     EXPECT_EQ(driver.Text(ID_STATUS), "Stopped.");
     EXPECT_EQ(Query("127.0.162.1").find("Reported by 127.0.162.1 "), 0u) << "waits for the printer before";
 
-    Start("127.0.162.4"); // the sheet is closed during the query
-    EXPECT_FALSE(driver.Press(PSBTN_CANCEL));
+    {
+        SheetWindow other(state);
+        PageDriver(other).SetText(ID_ADDRESS, "127.0.162.4");
+        PageDriver(other).Click(ID_QUERY);
+    }
     EXPECT_TRUE(IsAnyJobRunning()) << "closing has waited for the printer";
 }
 
@@ -200,13 +203,15 @@ TEST(PrinterSheetProcess, EndsWhileItsPrinterIsAsked) {
     Result result = {};
     std::thread program([&] { result = RunWorkbench(L"run --language en --state nowhere.json"); });
     HWND other = nullptr;
-    while (other == nullptr)
-        EnumWindows(FindOtherSheet, reinterpret_cast<LPARAM>(&other));
+    const auto waitUntil = [](const auto& condition) {
+        for (DWORD waited = 0; waited < kPrinterWait && !condition(); waited += 10)
+            Sleep(10);
+    };
+    waitUntil([&] { return EnumWindows(FindOtherSheet, reinterpret_cast<LPARAM>(&other)) == FALSE; });
     const auto page = reinterpret_cast<HWND>(SendMessageW(other, PSM_GETCURRENTPAGEHWND, 0, 0));
     SetWindowTextW(GetDlgItem(page, ID_ADDRESS), L"127.0.162.4");
     SendMessageW(page, WM_COMMAND, MAKEWPARAM(ID_QUERY, BN_CLICKED), 0);
-    while (TextOf(GetDlgItem(page, ID_STATUS)).find("Asking 127.0.162.4") != 0)
-        Sleep(10);
+    waitUntil([&] { return TextOf(GetDlgItem(page, ID_STATUS)).find("Asking 127.0.162.4") == 0; });
     PostMessageW(other, WM_COMMAND, IDCANCEL, 0);
     program.join();
     EXPECT_EQ(result.exitCode, 0) << result.errors;
@@ -263,6 +268,16 @@ TEST_F(PrinterSheet, RefreshMarksWhatHasChanged) {
     EXPECT_EQ(Setting("Fax"), "Installed (was Not installed)");
     EXPECT_EQ(Setting("Hard disk"), "Installed");
     EXPECT_EQ(Supplies()[1], "Magenta toner | 67 % (was 70 %)");
+
+    driver.Choose(ID_OPTIONS, "Tray 3");
+    driver.Choose(ID_OPTION_ITEMS, "Installed");
+    state.hasChanges = false;
+    state.reportedOn.clear();
+    SendMessageW(sheet.CurrentPage(), WM_TIMER, 1, 0);
+    driver.WaitUntil([&] { return !state.reportedOn.empty(); }, kPrinterWait);
+    EXPECT_EQ(Setting("Tray 3"), "Installed") << "chosen by the person, not reported";
+    EXPECT_EQ(Setting("Fax"), "Installed") << "has not changed again";
+    EXPECT_FALSE(state.hasChanges);
     driver.SetText(ID_ADDRESS, "127.0.162.2"); // not of the printer that is edited
     SendMessageW(sheet.CurrentPage(), WM_TIMER, 1, 0);
     EXPECT_FALSE(IsAnyJobRunning());

@@ -14,6 +14,8 @@
 #include "workbench/lib/text.h"
 
 #include <algorithm>
+#include <cstring>
+#include <map>
 
 #include <commctrl.h>
 
@@ -75,6 +77,8 @@ std::string ListText(const std::vector<UINT>& texts) {
         list += (list.empty() ? "" : ", ") + LocalizedText(text);
     return list;
 }
+
+using TableRows = std::vector<std::vector<std::string>>;
 
 class PrinterPage : public PropertyPage {
 public:
@@ -157,11 +161,11 @@ private:
 
     void ShowOptions() {
         const int selected = std::max(SelectedOption(), 0);
-        std::vector<std::vector<std::string>> rows;
+        TableRows rows;
         for (size_t i = 0; i < state.options.settings.size(); ++i)
             rows.push_back({OptionText(KeyOfOption(i)), SettingText(i)});
-        SetRows(ID_OPTIONS, rows);
-        SelectEntry(Control(ID_OPTIONS), static_cast<WPARAM>(selected));
+        if (ShowRows(ID_OPTIONS, rows))
+            SelectEntry(Control(ID_OPTIONS), static_cast<WPARAM>(selected));
         ShowItems();
         InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
     }
@@ -208,6 +212,7 @@ private:
         keys.erase(std::remove(keys.begin(), keys.end(), KeyOfOption(option)), keys.end());
         OfferedSources(state);
         SetCell(ID_OPTIONS, option, 1, NameOfItem(option));
+        shownRows[ID_OPTIONS].clear();
         InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
         NoteChange();
     }
@@ -338,8 +343,13 @@ private:
         if (!report.missing.empty())
             status += " " + LocalizedText(PRINTER_TEXT_NOT_AVAILABLE, {ListText(report.missing)});
         RememberReport(report.address);
+        const std::vector<FeatureSettings> settings = state.options.settings;
+        const TrayPapers papers = state.papers;
         ApplyReport(state, std::move(report));
-        NoteChange();
+        const bool isSame = settings == state.options.settings
+                            && memcmp(papers.data(), state.papers.data(), sizeof(papers)) == 0;
+        if (state.isQuerying || !isSame)
+            NoteChange();
         EndQuery(status);
     }
 
@@ -400,10 +410,10 @@ private:
 
     void ShowReport() {
         supplies = ShownSupplies(state.report.supplies, suppliesBefore);
-        std::vector<std::vector<std::string>> rows;
+        TableRows rows;
         for (const ShownSupply& supply : supplies)
             rows.push_back({supply.name, supply.level});
-        SetRows(ID_SUPPLIES, rows);
+        ShowRows(ID_SUPPLIES, rows);
         const int needed = SupplyLevelWidth(Control(ID_SUPPLIES), FontHeight(), supplies);
         if (Send(ID_SUPPLIES, LVM_GETCOLUMNWIDTH, 1) < needed)
             Send(ID_SUPPLIES, LVM_SETCOLUMNWIDTH, 1, needed);
@@ -415,15 +425,24 @@ private:
             PRINTER_TEXT_RGB_PROFILE, PRINTER_TEXT_SIMULATION_PROFILE, PRINTER_TEXT_OUTPUT_PROFILE};
         for (size_t i = 0; i < TELMAR_PROFILE_SELECTORS; ++i)
             AddStored(kUses[i], state.report.profiles[i], rows);
-        SetRows(ID_STORED, rows);
+        ShowRows(ID_STORED, rows);
     }
 
-    static void AddStored(UINT use, const StoredResources& stored,
-                          std::vector<std::vector<std::string>>& rows) {
+    // Leaves a list alone that shows these rows, with its place and selection. False when it was so.
+    bool ShowRows(int id, const TableRows& rows) {
+        if (rows == shownRows[id] && !rows.empty())
+            return false;
+        SetRows(id, rows);
+        shownRows[id] = rows;
+        return true;
+    }
+
+    static void AddStored(UINT use, const StoredResources& stored, TableRows& rows) {
         for (const StoredResourceEntry& entry : stored)
             rows.push_back({PrinterText(entry.first), LocalizedText(use)});
     }
 
+    std::map<int, TableRows> shownRows;   // of each list
     std::vector<ShownSupply> supplies;    // by row
     Supplies suppliesBefore;              // of the last report but one; empty: of another printer
     std::vector<std::string> namesBefore; // of the options' items, likewise

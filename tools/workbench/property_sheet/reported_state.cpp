@@ -64,7 +64,6 @@ bool LoadList(const Document& from, std::vector<std::string>& texts) {
 void ApplyReport(SheetState& state, DeviceReport report) {
     if (state.reportedBy != report.address)
         UseDefaults(state);
-    state.notReported = KeysOf(state.options);
     for (const OptionRequestItem& answer : report.options) {
         if (answer.value[0] == 0)
             continue;

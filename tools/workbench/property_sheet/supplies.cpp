@@ -63,18 +63,12 @@ const MrkSupRequestItem* FindSupply(const Supplies& supplies, const char* key) {
 
 // --- Drawing -----------------------------------------------------------------------------------------------
 
-bool IsHighContrast() {
-    HIGHCONTRASTW setting = {};
-    setting.cbSize = sizeof(setting);
-    return SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof(setting), &setting, 0) != FALSE
-           && (setting.dwFlags & HCF_HIGHCONTRASTON) != 0;
-}
-
-// In high contrast only the system's colours; the words say the same as the colours.
+// The colours are for a white window. With any other, as in high contrast, the words alone say it.
 COLORREF TextColor(Need need, bool isSelected) {
     if (isSelected)
         return GetSysColor(COLOR_HIGHLIGHTTEXT);
-    if (IsHighContrast() || need == Need::kLater || need == Need::kUnknown)
+    const bool isOnWhite = GetSysColor(COLOR_WINDOW) == RGB(255, 255, 255);
+    if (!isOnWhite || need == Need::kLater || need == Need::kUnknown)
         return GetSysColor(COLOR_WINDOWTEXT);
     return need == Need::kNow ? RGB(192, 0, 0) : RGB(148, 82, 0);
 }
