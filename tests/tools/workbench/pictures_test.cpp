@@ -106,8 +106,8 @@ TEST(WorkbenchPictures, FailureSaysWhatIsWrongAndKeepsTheFile) {
     for (const wchar_t* size : {L"0x200", L"200x4097", L"200", L"200x200x", L"200x00200"})
         ExpectFailure(L"view --size " + (size + out), 2, "--size: '.*' is not a size.*WxH.*1 to 4096");
     ExpectFailure(L"view --machine " + std::wstring(48, L'x') + out, 2, "cannot be named 'x+'.*1 to 47");
-    ExpectFailure(L"view --from 127.0.162.9" + out, 1, "127.0.162.9: the device does not respond");
-    ExpectFailure(L"view --from 127.0.162.3" + out, 1, "127.0.162.3: the device is of another model");
+    ExpectFailure(L"view --from 127.0.162.9" + out, 1, "127.0.162.9 is on, but does not accept SNMP requests");
+    ExpectFailure(L"view --from 127.0.162.3" + out, 1, "The device at 127.0.162.3 is of another model");
     ExpectFailure(L"gallery" + pictures.Out(L"nowhere\\a.png"), 1, "a.png: there is no folder .*nowhere;");
     ExpectFailure(L"logo" + pictures.Out(L"folder.png"), 1, "folder.png: cannot be written \\(error ");
     EXPECT_EQ(Contents(pictures.path / "kept.png"), "kept");

@@ -3,11 +3,11 @@
 #include "tools/workbench/workbench_run.h"
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/picture.h"
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/device_job.h"
 #include "workbench/property_sheet/page_driver.h"
 #include "workbench/property_sheet/page_ids.h"
-#include "workbench/property_sheet/printer_text_ids.h"
 
 #include <algorithm>
 #include <set>

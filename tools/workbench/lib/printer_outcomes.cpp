@@ -2,7 +2,7 @@
 #include "workbench/lib/printer_outcomes.h"
 
 #include "workbench/lib/localized_text.h"
-#include "workbench/property_sheet/printer_text_ids.h"
+#include "workbench/lib/printer_text_ids.h"
 
 #include <windows.h>
 

@@ -1,8 +1,8 @@
 // Makes the queries one after the other and reports progress to the page.
 #include "workbench/property_sheet/device_job.h"
 
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
-#include "workbench/property_sheet/printer_text_ids.h"
 
 #include <atomic>
 #include <cstring>

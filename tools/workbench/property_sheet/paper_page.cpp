@@ -1,8 +1,8 @@
 // The Paper page: paper source, paper attributes and the paper in the trays.
 #include "workbench/lib/localized_text.h"
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_ids.h"
-#include "workbench/property_sheet/printer_text_ids.h"
 #include "workbench/property_sheet/property_page.h"
 #include "workbench/property_sheet/text_ids.h"
 

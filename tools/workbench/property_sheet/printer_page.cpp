@@ -1,8 +1,8 @@
 // The Printer page: the picture of the printer, its options, and the results of querying it: consumables and
 // stored overlays and profiles.
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/property_sheet/device_job.h"
 #include "workbench/property_sheet/page_ids.h"
-#include "workbench/property_sheet/printer_text_ids.h"
 #include "workbench/property_sheet/property_page.h"
 #include "workbench/property_sheet/reported_state.h"
 #include "workbench/property_sheet/search_dialog.h"

@@ -4,9 +4,9 @@
 #include "workbench/lib/dialog_view.h"
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/printer_search.h"
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_ids.h"
-#include "workbench/property_sheet/printer_text_ids.h"
 
 #include <memory>
 

@@ -2,8 +2,8 @@
 #include "workbench/property_sheet/supplies.h"
 
 #include "workbench/lib/localized_text.h"
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
-#include "workbench/property_sheet/printer_text_ids.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Identifiers of the texts about printers: how asking one ends, and the printer page. Without gaps. Also
 // included by the resource script.
-#ifndef WORKBENCH_PROPERTY_SHEET_PRINTER_TEXT_IDS_H
-#define WORKBENCH_PROPERTY_SHEET_PRINTER_TEXT_IDS_H
+#ifndef WORKBENCH_LIB_PRINTER_TEXT_IDS_H
+#define WORKBENCH_LIB_PRINTER_TEXT_IDS_H
 
 #define PRINTER_TEXT_FIRST 2200
 
