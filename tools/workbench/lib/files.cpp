@@ -69,7 +69,8 @@ std::filesystem::path MakeFolder(const std::string& path, const char* option) {
     std::error_code error;
     std::filesystem::create_directories(folder, error);
     if (error)
-        throw Failure(kExitFailed, folder.u8string() + ": the folder cannot be made (" + error.message()
+        throw Failure(kExitFailed, folder.u8string() + ": the folder cannot be made ("
+                                       + ErrorText(static_cast<DWORD>(error.value()))
                                        + "); specify another one with " + option);
     return folder;
 }

@@ -142,7 +142,8 @@ std::vector<std::filesystem::path> DialogLists(const std::filesystem::path& fold
         if (entry.path().extension() == ".json")
             lists.push_back(entry.path());
     if (error)
-        throw Failure(kExitFailed, folder.u8string() + ": cannot be read (" + error.message()
+        throw Failure(kExitFailed, folder.u8string() + ": cannot be read ("
+                                       + ErrorText(static_cast<DWORD>(error.value()))
                                        + "); specify a folder that 'workbench dialogs' has filled");
     const auto isLess = [](const auto& a, const auto& b) {
         const std::wstring nameA = a.filename().wstring();
