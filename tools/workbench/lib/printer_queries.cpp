@@ -145,9 +145,9 @@ std::vector<std::string> OptionKeys(const FamilyFiles& family, Transport transpo
     if (transport == Transport::kLibrary)
         return {std::begin(kLibraryOptions), std::end(kLibraryOptions)};
     const OptionReqInfo& table = *EXPORT(family, MIB_OptionReqInfo)();
-    std::vector<std::string> keys;
-    for (int32_t i = 0; i < table.count; ++i)
-        keys.push_back(FieldText(table.options[i].key));
+    std::vector<std::string> keys(static_cast<size_t>(table.count));
+    for (size_t i = 0; i < keys.size(); ++i)
+        keys[i] = FieldText(table.options[i].key);
     return keys;
 }
 
