@@ -100,7 +100,7 @@ TEST_F(PrinterSheet, EnterQueriesAndEscStops) {
     EXPECT_EQ(driver.Text(ID_ADDRESS), "127.0.162.1");
     EXPECT_FALSE(IsWindowEnabled(driver.Control(ID_ADDRESS)));
     driver.WaitUntil([&] { return !state.isQuerying; }, kPrinterWait);
-    EXPECT_EQ(driver.Text(ID_STATUS), "Reported by 127.0.162.1 (bidirectional library).");
+    EXPECT_EQ(driver.Text(ID_STATUS), "Reported by 127.0.162.1.");
     EXPECT_EQ(GetFocus(), AddressEdit());
 
     driver.SetText(ID_ADDRESS, "127.0.162.4");
@@ -128,7 +128,7 @@ TEST_F(PrinterSheet, SlowPrinterIsAskedInTheBackground) {
     EXPECT_TRUE(IsWindowVisible(driver.Control(ID_PROGRESS)));
     driver.Click(ID_QUERY);
     EXPECT_EQ(driver.Text(ID_STATUS), "Stopped.");
-    EXPECT_EQ(Query("127.0.162.1").find("Reported by 127.0.162.1 "), 0u) << "waits for the printer before";
+    EXPECT_EQ(Query("127.0.162.1").find("Reported by 127.0.162.1."), 0u) << "waits for the printer before";
 
     {
         SheetWindow other(state);
@@ -140,20 +140,20 @@ TEST_F(PrinterSheet, SlowPrinterIsAskedInTheBackground) {
 
 TEST_F(PrinterSheet, ReportIsShownWithTheMostUrgentFirst) {
     EXPECT_EQ(driver.Text(ID_STATUS), "Not queried yet. The picture shows the options selected above.");
-    EXPECT_EQ(Query("127.0.162.1"), "Reported by 127.0.162.1 (bidirectional library).");
+    EXPECT_EQ(Query("127.0.162.1"), "Reported by 127.0.162.1.");
     EXPECT_EQ(Supplies()[1], "Magenta toner | 67 %");
     EXPECT_EQ(Supplies()[4], "Waste toner box | in order");
     EXPECT_EQ(Stored()[0], "Company letterhead | Overlay");
     EXPECT_EQ(Setting("Finisher"), "Finisher QB-220");
     EXPECT_EQ(PapersDocument(state.papers).Elements()[3]["type"].Text(), "Thick 1");
 
-    EXPECT_EQ(Query("127.0.162.5"), "Reported by 127.0.162.5 (bidirectional library). Not available: overlays.");
+    EXPECT_EQ(Query("127.0.162.5"), "Reported by 127.0.162.5. Not available: overlays.");
     EXPECT_EQ(Stored()[0], "sRGB | RGB profile");
 
-    EXPECT_EQ(Query("127.0.162.2"), "Reported by 127.0.162.2 (bidirectional library).");
+    EXPECT_EQ(Query("127.0.162.2"), "Reported by 127.0.162.2.");
     EXPECT_EQ(Supplies(), Cells({"Yellow toner | 0 %, empty", "Cyan toner | 9 %, low", "Magenta toner | 4 %, low",
                                  "Waste toner box | nearly full", "Black toner | 12 %"}));
-    EXPECT_EQ(Query("127.0.162.12"), "Reported by 127.0.162.12 (bidirectional library).");
+    EXPECT_EQ(Query("127.0.162.12"), "Reported by 127.0.162.12.");
     EXPECT_EQ(Stored()[0], "B\u00FCro M\u00FCller \u6771\u4EAC | Overlay");
     EXPECT_TRUE(user.failures.empty());
 }
@@ -218,7 +218,7 @@ TEST(PrinterSheetProcess, EndsWhileItsPrinterIsAsked) {
 }
 
 TEST(PrinterTexts, AreCompleteInBothLanguages) {
-    const std::set<std::string> alike = {"SNMP", "Option", "Finisher", "Fax", "Overlay", "Name", "{1} %", "{1} s"};
+    const std::set<std::string> alike = {"Option", "Finisher", "Fax", "Overlay", "Name", "{1} %", "{1} s"};
     for (UINT id = PRINTER_TEXT_FIRST; id < PRINTER_TEXT_END; ++id) {
         const std::string english = TextIn(kEnglish, id, {"<1>", "<2>", "<3>", "<4>"});
         const std::string german = TextIn(kGerman, id, {"<1>", "<2>", "<3>", "<4>"});

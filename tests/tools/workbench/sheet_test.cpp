@@ -28,7 +28,7 @@ std::string ItemOf(const Json& report, const std::string& feature) {
 TEST(WorkbenchSheet, StateIsKeptBetweenRunsAndReset) {
     const SheetFolder folder;
     const Json first = folder.Tour(L" --from 127.0.162.1");
-    EXPECT_EQ(first["printer"]["status"], "Reported by 127.0.162.1 (bidirectional library).");
+    EXPECT_EQ(first["printer"]["status"], "Reported by 127.0.162.1.");
     EXPECT_EQ(ItemOf(first, "OpFAXUnit"), "EnaOpFAXKit"); // chosen by the tour
     EXPECT_EQ(first["trays"][3]["type"], "Thick 1");
     EXPECT_EQ(first["pictures"].size(), 4);
@@ -86,7 +86,8 @@ TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {
     const Folder noLibrary(L"workbench_sheet_no_library",
                            {"workbench.exe", "TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL", "TELMAR_U.DLL"});
     const Result result = RunWorkbench(L"tour --json --from 127.0.162.1 --out .", noLibrary.path);
-    EXPECT_EQ(Json::parse(result.output)["printer"]["status"], "Reported by 127.0.162.1 (SNMP).");
+    EXPECT_EQ(Json::parse(result.output)["printer"]["status"],
+              "Reported by 127.0.162.1 over SNMP, which covers fewer options.");
 }
 
 // A text that differs is no other model.

@@ -336,10 +336,9 @@ private:
     }
 
     void EndAnswered(DeviceReport& report) {
-        std::string status = LocalizedText(
-            PRINTER_TEXT_REPORTED,
-            {report.address, LocalizedText(report.transport == Transport::kLibrary ? PRINTER_TEXT_BY_LIBRARY
-                                                                                   : PRINTER_TEXT_BY_SNMP)});
+        const UINT reported =
+            report.transport == Transport::kLibrary ? PRINTER_TEXT_REPORTED : PRINTER_TEXT_REPORTED_BY_SNMP;
+        std::string status = LocalizedText(reported, {report.address});
         if (!report.missing.empty())
             status += " " + LocalizedText(PRINTER_TEXT_NOT_AVAILABLE, {ListText(report.missing)});
         RememberReport(report.address);
