@@ -422,7 +422,7 @@ TEST_F(UiModule, ShowsTheProfilesAndTheDownloadManager) {
 }
 
 TEST_F(UiModule, HasAllTextsInBothLanguages) {
-    const auto texts = [this](WORD block, LANGID language) { // which of the block's 16 texts are there
+    const auto texts = [this](size_t block, LANGID language) { // which of the block's 16 texts are there
         const HRSRC found = FindResourceExW(library, RT_STRING, MAKEINTRESOURCEW(block), language);
         const auto* at =
             found != nullptr ? static_cast<const wchar_t*>(LockResource(LoadResource(library, found))) : L"";
@@ -431,7 +431,7 @@ TEST_F(UiModule, HasAllTextsInBothLanguages) {
             present += *at != 0 ? 'x' : '.';
         return present;
     };
-    for (WORD block = TEXT_IMAGES / 16 + 1; block <= DOWNLOAD_MANAGER_TEXT / 16 + 1; ++block)
+    for (size_t block = TEXT_IMAGES / 16 + 1; block <= DOWNLOAD_MANAGER_TEXT / 16 + 1; ++block)
         EXPECT_EQ(texts(block, 0x409), texts(block, 0x407)) << block;
     SetThreadLocale(MAKELCID(0x407, SORT_DEFAULT));
     SetThreadUILanguage(0x407);
