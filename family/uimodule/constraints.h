@@ -12,7 +12,7 @@ struct DialogChoices {
     const DialogContext* context;
 };
 
-// One line for each combination. Further ones are cut off.
+// One line for each combination; lines that find no room are left out. A tool tip shows no more characters.
 using HintText = wchar_t[1024];
 
 // Checks the choice of a control, which the dialog shows and its settings contain. Returns the answer of

@@ -18,6 +18,7 @@ constexpr const wchar_t* kProcedure = L"TELMAR_U procedure"; // window property:
 HHOOK destroyHook;
 int attachedDialogs;
 bool isPaperChosen; // the module handles a choice, and selects the tray once more
+bool isBecomingActive;
 
 const DialogContext* ContextOf(HWND dialog) {
     return reinterpret_cast<const DialogContext*>(GetWindowLongPtrW(dialog, DWLP_USER));
@@ -106,9 +107,12 @@ LRESULT CALLBACK FrontProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM
     if (notification == CBN_DROPDOWN)
         FitDroppedWidth(reinterpret_cast<HWND>(lParam));
     const bool wasPaperChosen = isPaperChosen;
+    const bool wasBecomingActive = isBecomingActive;
     isPaperChosen = wasPaperChosen || notification == CBN_SELENDOK;
+    isBecomingActive = wasBecomingActive || message == WM_ACTIVATE;
     const LRESULT result = CallWindowProcW(ProcedureOf(dialog), dialog, message, wParam, lParam);
     isPaperChosen = wasPaperChosen;
+    isBecomingActive = wasBecomingActive;
     if ((message == WM_SHOWWINDOW && wParam != FALSE) || notification == CBN_SELENDOK)
         FitTrayColumns(dialog); // the module has filled the list
     if (IsTraySelected(message, lParam) && !isPaperChosen)
@@ -134,6 +138,10 @@ LRESULT CALLBACK WatchDestruction(int code, WPARAM wParam, LPARAM lParam) {
 }
 
 } // namespace
+
+bool IsBecomingActive() {
+    return isBecomingActive;
+}
 
 void AttachToDialog(HWND dialog) {
     const auto procedure = reinterpret_cast<HANDLE>(GetWindowLongPtrW(dialog, GWLP_WNDPROC));

@@ -10,4 +10,7 @@
 // the dialog owns have ended by then, too.
 void AttachToDialog(HWND dialog);
 
+// Whether an attached dialog is handling that it has become active.
+bool IsBecomingActive();
+
 #endif

@@ -12,6 +12,8 @@
 #include "uimodule/profile_windows.h"
 #include "uimodule/stop_icons.h"
 
+#include <commctrl.h>
+
 HINSTANCE library;
 
 namespace {
@@ -65,6 +67,7 @@ void WINAPI ReplaceDlgDispString(HWND dialog, const ControlTextRecord* texts) {
 HWND WINAPI CreateToolWnd(HWND dialog) {
     if (dialog == nullptr)
         return nullptr;
+    InitCommonControls();
     PlaceOverOwner(dialog);
     AttachToDialog(dialog);
     MeasureTrayRows(dialog);
@@ -83,6 +86,8 @@ int32_t WINAPI DoConstraints(const void* /*reserved1*/, HWND dialog, HWND /*hint
     if (dialog == nullptr)
         return 0;
     OpenDialog& state = StateOf(dialog);
+    if (control == 0 && state.refusal[0] != 0 && IsBecomingActive())
+        return 0; // nothing has changed while the user was in another window
     state.refusedControl = control;
     return CheckChoice(ChoicesOf(dialog), control, state.refusal);
 }

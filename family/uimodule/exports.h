@@ -30,8 +30,8 @@ TelmarReplaceDlgDispString ReplaceDlgDispString;
 // cannot be created.
 // Also places the dialog over its owner and, until it is destroyed, takes messages before the dialog does:
 // help, the buttons for profiles and the height of tray rows. Lists are fitted to their texts: the tray list
-// when the dialog is shown and after each choice, a drop-down list when it opens. A chosen text that is cut
-// is in the list's tool tip.
+// when the dialog is shown and after each choice, a drop-down list when it opens. A chosen text or a tray's
+// cell that is cut is in the list's tool tip.
 TelmarCreateToolWnd CreateToolWnd;
 
 // Notes which of the table's icon controls the dialog has.
@@ -39,8 +39,9 @@ TelmarStoreStopIconRect StoreStopIconRect;
 
 // Checks a control's choice, which is already in the settings of the dialog's context or, of a tray, in its
 // lists, against the rows of uimodule/constraints.cpp. 100 and 101 refuse it, 0 keeps it. A refused choice
-// stays marked until the next call. Control 0 refuses nothing. The hint window is known from CreateToolWnd;
-// the argument is not used, since a tray dialog passes that of a colour dialog.
+// stays marked until the next call, other than that for all controls when the dialog becomes active. Control
+// 0 refuses nothing. The hint window is known from CreateToolWnd; the argument is not used, since a tray
+// dialog passes that of a colour dialog.
 TelmarDoConstraints DoConstraints;
 
 // Shows the hints in the hint window, or hides it when there are none, and redraws the stop icons. They are

@@ -43,7 +43,6 @@ void CALLBACK Follow(HWND hintWindow, UINT /*message*/, UINT_PTR /*timer*/, DWOR
 HWND CreateHintWindow(HWND dialog) {
     if (dialog == nullptr)
         return nullptr;
-    InitCommonControls();
     HWND hintWindow =
         CreateWindowExW(WS_EX_NOACTIVATE, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP,
                         0, 0, 0, 0, dialog, nullptr, nullptr, nullptr);

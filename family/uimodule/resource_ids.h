@@ -15,17 +15,22 @@
 #define TEXT_GRAPHICS           2002
 
 // Hints
-#define HINT_EXACT_MATCH        2010
-#define HINT_PHOTOGRAPHIC       2011
-#define HINT_BLACK_TONER        2012
-#define HINT_MONO_PROFILE       2013
-#define HINT_MONO_SIMULATION    2014
-#define HINT_PAPER_COLOR        2015
-#define HINT_PRESS_GRAYS        2016
-#define HINT_ENVELOPE_HOLES     2017
-#define HINT_FILM_HOLES         2018
-#define HINT_THICK_PAPER        2019
-#define HINT_PLAIN_PAPER        2020
+#define HINT_EXACT_SOURCE       2010
+#define HINT_DEVICE_RGB         2011
+#define HINT_EXACT_HALFTONE     2012
+#define HINT_FINEST             2013
+#define HINT_PROFILE_GRAY       2014
+#define HINT_BLACK_TONER        2015
+#define HINT_MONO_GRAY          2016
+#define HINT_MONO_PROFILE       2017
+#define HINT_MONO_SIMULATION    2018
+#define HINT_PAPER_COLOR        2019
+#define HINT_KEEP_PAPER_COLOR   2020
+#define HINT_PRESS_GRAY         2021
+#define HINT_KEEP_PRESS_GRAY    2022
+#define HINT_ENVELOPE_HOLES     2023
+#define HINT_FILM_HOLES         2024
+#define HINT_THICK_PAPER        2025
 
 // Help
 #define HELP_TITLE              2030

@@ -185,9 +185,9 @@ TEST_F(UiModule, RefusesWhatNeedsASimulation) {
         // clang-format off
         {1, 0, 0,   0, kPaper,          100}, {1, 0, 1,   0, kPaper,          0}, {0, 0, 0, 0, kPaper, 0},
         {0, 0, 0,   2, kSimulationGray, 100}, {0, 0, 128, 2, kSimulationGray, 0}, {0, 0, 0, 2, kPaper, 0},
-        {1, 0, 0,   0, kSimulation,     101}, {0, 0, 0,   1, kSimulation,   101},
+        {1, 0, 0,   0, kSimulation,     101}, {0, 0, 0,   2, kSimulation,   101},
         {0, 1, 128, 0, kSimulation,     100}, {0, 1, 0,   0, kSimulation,     0}, {1, 1, 0, 1, kRgbList, 0},
-        {1, 0, 0,   1, /*all*/ 0,         0},
+        {1, 0, 0,   2, /*all*/ 0,         0}, {0, 0, 0,   1, kSimulationGray, 0},
         // clang-format on
     };
     for (const auto& [paper, mono, simulation, gray, control, answer] : cases) {
@@ -218,7 +218,7 @@ TEST_F(UiModule, ShowsARefusedChoiceUntilTheNextOne) {
 
 TEST_F(UiModule, ShowsConflictsOfTheSettingsOnce) {
     settings->matchPaperColor = 1;
-    settings->simulationGray = 1;
+    settings->simulationGray = 2;
     const std::wstring hint = HintAfter(0);
     EXPECT_EQ(std::count(hint.begin(), hint.end(), L'\n'), 1) << "two conflicts, a line each";
     EXPECT_EQ(Stops(), " 1524 1526 1627");
@@ -269,45 +269,50 @@ TEST_F(UiModule, RunsDialogsAndHasTheIcons) {
 struct Refused {
     int dialog;
     std::function<void(OemDevmode&)> change; // of the defaults
-    uint16_t needs, needed;                  // a choice of either is refused; 0: none
-    const wchar_t* hint;
+    uint16_t controls[2];                    // a choice of either is refused; 0: none
+    std::wstring hints[2];                   // how the choice of this control can be made
 };
 
 // clang-format off
 #define SET(...) [](OemDevmode& s) { __VA_ARGS__; }
 #define OBJECT(name, Name, matches, rgbs, halftones, grays, destinations, dialog) \
-    {dialog, SET(s.name.colorMatch = 3, s.name##RgbSource = 0), matches, rgbs, Name L": To match colours exactly"}, \
-    {dialog, SET(s.name.colorMatch = 1, s.name.halftone = 0), matches, halftones, Name L": To print photographic"}, \
-    {128, SET(s.name##Destination = 128, s.name.gray = 2), destinations, grays, Name L": To use an output profile"}, \
-    {128, SET(s.name##Destination = 128, s.name.gray = 1, s.mono = 1), destinations, 0, Name L": This printer prints"}
+    {dialog, SET(s.name = {3, 1, 1, {}}, s.name##RgbSource = 0), {matches, rgbs}, {Name L"To match", Name L"To use the RGB source"}}, \
+    {dialog, SET(s.name = {3, 0, 1, {}}), {matches, halftones}, {Name L"To match", Name L"To use the halftone"}}, \
+    {128, SET(s.name##Destination = 128, s.image.gray = 1, s.mono = 1), {destinations}, {Name L"This printer prints"}}, \
+    {dialog, SET(s.image.gray = s.text.gray = s.graphics.gray = 2, s.name.gray = 0, s.mono = 1), {grays}, \
+     {Name L"This printer prints"}}
 const Refused kRefused[] = {
-    OBJECT(image,    L"Images",   1354, 1504, 1332, 1335, 1599, 122),
-    OBJECT(text,     L"Text",     1353, 1509, 1330, 1334, 1592, 123),
-    OBJECT(graphics, L"Graphics", 1516, 1513, 1522, 1519, 1584, 128),
-    {125, SET(s.image.colorMatch = 3, s.rgbSource = 0), 1354, 1634, L"Images: To match colours exactly"},
-    {125, SET(s.text.colorMatch = 3, s.rgbSource = 0),  1353, 1634, L"Text: To match colours exactly"},
-    {122, SET(s.destination = 128, s.image.gray = 2),   1525, 1335, L"Images: To use an output profile"},
-    {122, SET(s.destination = 128, s.mono = 1),         1525, 0,    L"This printer prints in black"},
-    {124, SET(s.matchPaperColor = 1),                   1526, 1524, L"To match the colour of the paper"},
-    {124, SET(s.simulationGray = 2),                    1627, 1524, L"To set the blacks and greys"},
-    {128, SET(s.simulation = 3, s.mono = 1),            1524, 0,    L"This printer prints in black"},
+    OBJECT(image,    L"Images: ",   1354, 1504, 1332, 1335, 1599, 122),
+    OBJECT(text,     L"Text: ",     1353, 1509, 1330, 1334, 1592, 123),
+    OBJECT(graphics, L"Graphics: ", 1516, 1513, 1522, 1519, 1584, 128),
+    {124, SET(s.image.gray = 2, s.text.gray = 0, s.mono = 1), {1334}, {L"Text: This printer prints"}},
+    {125, SET(s.image = {3, 1, 1, {}}, s.rgbSource = 0), {1354, 1634}, {L"Images: To match", L"Images: To use the RGB"}},
+    {125, SET(s.text = {3, 1, 1, {}}, s.rgbSource = 0),  {1353, 1634}, {L"Text: To match", L"Text: To use the RGB"}},
+    {128, SET(s.imageDestination = 128, s.image.gray = 2), {1599, 1335}, {L"Images: To use an o", L"Images: To use black"}},
+    {128, SET(s.graphicsDestination = 3, s.graphics.gray = 2), {1584, 1519}, {L"Graphics: To use an", L"Graphics: To use b"}},
+    {122, SET(s.destination = 128, s.image.gray = 2), {1525, 1335}, {L"Images: To use an output", L"Images: To use black"}},
+    {122, SET(s.destination = 128, s.mono = 1, s.image.gray = 2), {1525, 1335}, {L"Images: To use", L"Images: To use b"}},
+    {124, SET(s.matchPaperColor = 1), {1526, 1524}, {L"To match the colour of the paper", L"To simulate no press, clear"}},
+    {124, SET(s.simulationGray = 2),  {1627, 1524}, {L"To print the blacks and greys", L"To simulate no press, choose"}},
+    {128, SET(s.simulation = 3, s.mono = 1, s.image.gray = 1), {1524}, {L"This printer prints in black"}},
 };
 // clang-format on
 
 TEST_F(UiModule, RefusesCombinationsAtEitherChoice) {
     std::set<uint32_t> stopped;
     for (const Refused& row : kRefused) {
-        SCOPED_TRACE(testing::Message() << row.dialog << ' ' << row.needs);
+        SCOPED_TRACE(testing::Message() << row.dialog << ' ' << row.controls[0]);
         OpenModel(row.dialog);
         row.change(*settings);
-        EXPECT_EQ(HintAfter(0).find(row.hint), 0u) << testing::PrintToString(HintAfter(0));
-        std::set<uint32_t> wanted = {row.needs, row.needed};
+        EXPECT_EQ(HintAfter(0).find(row.hints[0]), 0u) << testing::PrintToString(HintAfter(0));
+        std::set<uint32_t> wanted(std::begin(row.controls), std::end(row.controls));
         wanted.erase(0);
         EXPECT_EQ(StoppedControls(), wanted);
         stopped.insert(wanted.begin(), wanted.end());
-        HintAfter(row.needs, 100);
-        if (row.needed != 0)
-            HintAfter(row.needed, 101);
+        for (const int i : {0, 1}) {
+            const std::wstring hint = row.controls[i] != 0 ? HintAfter(row.controls[i], 100 + i) : row.hints[i];
+            EXPECT_EQ(hint.find(row.hints[i]), 0u) << testing::PrintToString(hint);
+        }
         HintAfter(1069, 0);
     }
     EXPECT_EQ(stopped.size(), 20) << "all but the two buttons for profiles";
@@ -318,6 +323,15 @@ TEST_F(UiModule, RefusesCombinationsAtEitherChoice) {
         settings->image.colorMatch = 3;
         EXPECT_EQ(HintAfter(0) == L"-", id == 125);
     }
+    OpenModel(128); // more conflicts than have room: whole lines of them
+    *settings = {};
+    settings->image.colorMatch = settings->text.colorMatch = settings->graphics.colorMatch = 3;
+    settings->mono = 1;
+    settings->imageDestination = settings->textDestination = settings->graphicsDestination = 1;
+    settings->simulation = 1;
+    const std::wstring all = HintAfter(0);
+    EXPECT_GT(all.size(), 900);
+    EXPECT_EQ(all.back(), L'.');
 }
 
 TEST_F(UiModule, RefusesPaperThatDoesNotExist) {
@@ -331,14 +345,9 @@ TEST_F(UiModule, RefusesPaperThatDoesNotExist) {
         SendDlgItemMessageW(dialog, list, CB_SETCURSEL, 0, 0);
     };
     const std::tuple<const char*, const char*, const char*, const wchar_t*> cases[] = {
-        {"Envelope", "MW_60_90", "PP_On", L"Envelopes"},
-        {"OHP", "MW_60_90", "PP_On", L"Transparencies"},
-        {"Thick1Plus", "MW_60_90", "PP_Off", L"Thick"},
-        {"Plain", "MW_158_209", "PP_Off", L"Plain"},
-        {"PlainPaper2nd", "MW_257_300", "PP_On", L"Plain"},
-        {"Plain", "MW_60_90", "PP_On", L"-"},
-        {"Thick4", "MW_257_300", "PP_On", L"-"},
-        {"Envelope", "MW_60_90", "PP_Off", L"-"},
+        {"Envelope", "MW_60_90", "PP_On", L"Envelopes"}, {"OHP", "MW_60_90", "PP_On", L"Transparencies"},
+        {"Thick1Plus", "MW_60_90", "PP_Off", L"Thick"},  {"Plain", "MW_60_90", "PP_On", L"-"},
+        {"Thick4", "MW_257_300", "PP_On", L"-"},         {"Envelope", "MW_60_90", "PP_Off", L"-"},
     };
     for (const auto& [type, weight, holes, hint] : cases) {
         choose(1003, type);
@@ -437,7 +446,7 @@ TEST_F(UiModule, HasAllTextsInBothLanguages) {
     SetThreadUILanguage(0x407);
     OpenModel(128);
     settings->matchPaperColor = 1;
-    EXPECT_EQ(HintAfter(0), L"Wählen Sie ein Druckverfahren, um die Papierfarbe nachzubilden.");
+    EXPECT_EQ(HintAfter(0), L"Wählen Sie ein simuliertes Verfahren, um die Papierfarbe nachzubilden.");
     SetThreadLocale(MAKELCID(0x411, SORT_DEFAULT)); // Japanese: neither
     SetThreadUILanguage(0x411);
     EXPECT_EQ(HintAfter(0), L"To match the colour of the paper, choose a press to simulate.");

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <fstream>
+#include <map>
 
 namespace {
 
@@ -33,15 +34,15 @@ Json ControlRow(const Json& report, int control) {
 
 TEST(WorkbenchDialog, ScriptChangesAreReported) {
     const DialogFolder folder;
-    const Json report = folder.Run("# no press is simulated yet\r\nchoose 1627 Black and grey\r\n" // refused
-                                   "choose 1354 Exact match  # images\n  choose 1524 #6\nchoose 1627 #1\n"
-                                   "choose 1524 None\n" // refused: greys of a press are chosen
+    const Json report = folder.Run("# no press is simulated yet\r\nchoose 1627 Black toner only\r\n" // refused
+                                   "choose 1354 Exact match  # images\n  choose 1524 #6\nchoose 1627 #2\n"
+                                   "choose 1524 None\n" // refused: black toner only for a press
                                    "choose 1509 Scanner (flat)\nchoose 1584 Gloss \u00e4 Memory\nok");
     EXPECT_EQ(report["dialog"]["end"], "OK");
     // OK also writes new records of built-in RGB sources: by default these have a location and no text.
     EXPECT_EQ(Changes(report),
               "image.colorMatch:1:3 simulation:0:128 textRgbSource:1:257 graphicsDestination:0:128 "
-              "simulationGray:0:1 simulationProfile.qualifier::coated simulationProfile.name::Offset "
+              "simulationGray:0:2 simulationProfile.qualifier::coated simulationProfile.name::Offset "
               "textRgbProfile.qualifier::flat textRgbProfile.name::Scanner textRgbProfile.location:5:77 "
               "imageRgbProfile.qualifier::sRGB imageRgbProfile.location:5:0 "
               "graphicsRgbProfile.qualifier::sRGB graphicsRgbProfile.location:5:0 "
@@ -134,12 +135,51 @@ TEST(WorkbenchDialog, RefusedPaperIsUndoneAndExplainedUntilAnotherTrayIsSelected
     EXPECT_EQ(Pick(report["changes"], "attribute"), Json({"hole"}));
 }
 
+// As the arrow keys choose in a closed list: an entry that is refused is left again.
+TEST(WorkbenchDialog, EveryEntryCanBeReachedFromTheDefaults) {
+    const DialogFolder folder;
+    for (const int dialog : {122, 125, 128, 155}) { // the others have some of these lists
+        const auto run = [&](const std::string& script) {
+            return RunForJson(L"dialog " + std::to_wstring(dialog) + L" --script" + folder.Write("s.txt", script)
+                              + (dialog < 155 ? L" --profiles" + folder.Write("p.json", kProfiles) : L""));
+        };
+        std::map<int, std::vector<std::string>> lists;
+        const Json report = run("");
+        for (const Json& entry : report["entries"])
+            lists[entry["list"]].push_back(entry["text"]);
+        lists.erase(1844); // the trays
+        EXPECT_GE(lists.size(), 3);
+        std::string script;
+        std::vector<bool> isEnd; // for each line
+        const auto choose = [&](int list, size_t index, bool isLast) {
+            script += "choose " + std::to_string(list) + " #" + std::to_string(index) + "\n";
+            isEnd.push_back(isLast);
+        };
+        for (const auto& [list, texts] : lists) {
+            const auto shown = std::find(texts.begin(), texts.end(), ControlRow(report, list)["shows"]);
+            ASSERT_NE(shown, texts.end()) << list;
+            const auto start = static_cast<size_t>(shown - texts.begin());
+            for (size_t i = start + 1; i < texts.size(); ++i)
+                choose(list, i, i + 1 == texts.size() && i != start + 1);
+            for (size_t i = start; i-- > 0;)
+                choose(list, i, i == 0 && start != 1);
+            choose(list, start, false);
+        }
+        const Json walked = run(script);
+        ASSERT_EQ(walked["actions"].size(), isEnd.size());
+        for (size_t i = 0; i < isEnd.size(); ++i)
+            EXPECT_TRUE(isEnd[i] || walked["actions"][i]["hint"].is_null()) << dialog << ' ' << walked["actions"][i];
+    }
+}
+
 TEST(WorkbenchDialog, HelpDoesNotStopAScript) {
     const DialogFolder folder;
     const std::string picture = "picture " + folder.path.u8string() + "/p.png\n";
     const Json report = folder.Run("click 9\nchoose 1354 Vivid\n" + picture + "key f1\n" + picture + "key escape\n"
                                    + picture + "click 1528\nok");
     EXPECT_EQ(Changes(report).substr(0, 20), "image.colorMatch:1:0");
+    const Json refused = folder.Run("click 1526\nclick 9\nkey escape\nok"); // back from help
+    EXPECT_EQ(refused["actions"][2]["hint"], "To match the colour of the paper, choose a press to simulate.");
     const Json widths = Pick(report["pictures"], "width"); // with what is open next to the dialog
     EXPECT_EQ(widths[0], widths[1]);
     EXPECT_LT(widths[2], widths[1]);
