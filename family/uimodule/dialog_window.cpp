@@ -4,6 +4,7 @@
 #include "base/dialog_ids.h"
 #include "uimodule/exports.h"
 #include "uimodule/help.h"
+#include "uimodule/library_texts.h"
 #include "uimodule/list_fit.h"
 #include "uimodule/list_tips.h"
 #include "uimodule/profile_windows.h"
@@ -58,8 +59,17 @@ bool TakeHelp(HWND dialog, const HELPINFO& info) {
     return true;
 }
 
-bool TakeContextMenu(HWND dialog, WPARAM window, LPARAM point) {
-    OfferHelpOn(dialog, reinterpret_cast<HWND>(window), {GET_X_LPARAM(point), GET_Y_LPARAM(point)});
+bool IsOnFrame(HWND dialog, LPARAM point) {
+    return point != -1 && SendMessageW(dialog, WM_NCHITTEST, 0, point) != HTCLIENT; // -1: by the keyboard
+}
+
+// The title bar has the system's menu.
+bool TakeContextMenu(HWND dialog, WPARAM wParam, LPARAM point) {
+    HWND window = reinterpret_cast<HWND>(wParam);
+    if (window == dialog && IsOnFrame(dialog, point))
+        DefWindowProcW(dialog, WM_CONTEXTMENU, wParam, point);
+    else
+        OfferHelpOn(dialog, window, {GET_X_LPARAM(point), GET_Y_LPARAM(point)});
     return true;
 }
 
@@ -82,6 +92,9 @@ bool TakeMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
         return TakeHelp(dialog, *reinterpret_cast<const HELPINFO*>(lParam));
     case WM_CONTEXTMENU:
         return TakeContextMenu(dialog, wParam, lParam);
+    case WM_SETCURSOR:
+        FollowPointer(dialog, reinterpret_cast<HWND>(wParam), HIWORD(lParam));
+        return false;
     default:
         return false;
     }
@@ -100,7 +113,7 @@ bool IsTraySelected(UINT message, LPARAM lParam) {
            && (change->uNewState & LVIS_SELECTED) != 0;
 }
 
-LRESULT CALLBACK FrontProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT HandleMessage(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
     if (TakeMessage(dialog, message, wParam, lParam))
         return TRUE;
     const UINT notification = message == WM_COMMAND ? HIWORD(wParam) : 0;
@@ -120,6 +133,19 @@ LRESULT CALLBACK FrontProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM
     return result;
 }
 
+// A message loop below, such as that of a menu, may end the dialog, which then frees this library. A
+// reference prevents that while the library's code runs. It can't be given back when it is the last one: the
+// library then stays loaded until the process ends.
+LRESULT CALLBACK FrontProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam) {
+    HMODULE held = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS, reinterpret_cast<const wchar_t*>(library),
+                       &held);
+    const LRESULT result = HandleMessage(dialog, message, wParam, lParam);
+    if (held != nullptr && attachedDialogs > 0)
+        FreeLibrary(held);
+    return result;
+}
+
 void Detach(HWND dialog) {
     SetWindowLongPtrW(dialog, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ProcedureOf(dialog)));
     RemovePropW(dialog, kProcedure);
@@ -129,12 +155,12 @@ void Detach(HWND dialog) {
 
 // Runs before the window gets WM_DESTROY.
 LRESULT CALLBACK WatchDestruction(int code, WPARAM wParam, LPARAM lParam) {
+    const LRESULT result =
+        CallNextHookEx(destroyHook, code, wParam, lParam); // other than 0: the window stays
     HWND window = code == HCBT_DESTROYWND ? reinterpret_cast<HWND>(wParam) : nullptr;
-    if (window != nullptr && ProcedureOf(window) != nullptr) {
+    if (window != nullptr && result == 0 && ProcedureOf(window) != nullptr)
         Detach(window);
-        return 0;
-    }
-    return CallNextHookEx(destroyHook, code, wParam, lParam);
+    return result;
 }
 
 } // namespace

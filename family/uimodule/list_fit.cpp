@@ -10,9 +10,9 @@
 namespace {
 
 constexpr LONG kMargins = 2;     // pixels above and below a text
-constexpr LONG kIconRoom = 20;   // pixels in front of an entry's text, left by the module
+constexpr LONG kIconRoom = 20;   // pixels in front of the text of an entry or orientation, left by the module
 constexpr LONG kIconHeight = 16; // pixels, of the orientation
-constexpr size_t kTextCapacity = 260;
+constexpr size_t kTextCapacity = sizeof(CellText) / sizeof(wchar_t);
 constexpr int kMaxColumns = 7;
 constexpr int kOrientationColumn = 2;
 
@@ -39,16 +39,29 @@ LONG TitleWidth(HWND list, int column) {
     return StringWidth(list, title) + 2 * margin + FontHeight(list);
 }
 
-LONG CellWidth(HWND list, int row, int column) {
-    wchar_t text[kTextCapacity] = L"";
+void ReadCell(HWND list, const TrayCell& cell, CellText& text) {
+    text[0] = 0;
     LVITEMW record = {};
-    record.iSubItem = column;
+    record.iSubItem = cell.column;
     record.pszText = text;
     record.cchTextMax = kTextCapacity;
-    SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&record));
-    const LONG inset = LOWORD(GetDialogBaseUnits()) / 4; // where the module begins a cell's text
-    return StringWidth(list, text) + 2 * inset + FontHeight(list)
-           + (column == kOrientationColumn ? kIconHeight : 0);
+    SendMessageW(list, LVM_GETITEMTEXTW, static_cast<WPARAM>(cell.row), reinterpret_cast<LPARAM>(&record));
+}
+
+// What the module leaves free in front of a cell's text.
+LONG Inset() {
+    return LOWORD(GetDialogBaseUnits()) / 4;
+}
+
+// Where a cell's text ends, from the cell's left edge.
+LONG EndOfText(HWND list, int column, const CellText& text) {
+    return Inset() + StringWidth(list, text) + (column == kOrientationColumn ? kIconRoom : 0);
+}
+
+LONG CellWidth(HWND list, const TrayCell& cell) {
+    CellText text;
+    ReadCell(list, cell, text);
+    return EndOfText(list, cell.column, text) + Inset() + FontHeight(list);
 }
 
 ColumnWidths MeasureColumns(HWND list) {
@@ -61,7 +74,7 @@ ColumnWidths MeasureColumns(HWND list) {
         widths.titles[column] = TitleWidth(list, column);
         widths.wanted[column] = widths.titles[column];
         for (int row = 0; row < rows; ++row)
-            widths.wanted[column] = Larger(widths.wanted[column], CellWidth(list, row, column));
+            widths.wanted[column] = Larger(widths.wanted[column], CellWidth(list, {row, column}));
     }
     return widths;
 }
@@ -87,7 +100,7 @@ void FitDroppedWidth(HWND list) {
         wchar_t text[kTextCapacity] = L"";
         if (SendMessageW(list, CB_GETLBTEXTLEN, i, 0) < static_cast<LRESULT>(kTextCapacity))
             SendMessageW(list, CB_GETLBTEXT, i, reinterpret_cast<LPARAM>(text));
-        width = Larger(width, TextWidth(list, text));
+        width = Larger(width, TextWidth(list, text, DT_NOPREFIX));
     }
     const RECT screen = WorkAreaOf(list);
     width += kIconRoom + GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
@@ -111,6 +124,13 @@ void MeasureTrayRows(HWND dialog) {
     change.cy = frame.bottom - frame.top;
     change.flags = SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE;
     SendMessageW(list, WM_WINDOWPOSCHANGED, 0, reinterpret_cast<LPARAM>(&change));
+}
+
+bool ReadCutCell(HWND list, const TrayCell& cell, CellText& text) {
+    ReadCell(list, cell, text);
+    const auto column = static_cast<WPARAM>(cell.column);
+    const auto width = static_cast<LONG>(SendMessageW(list, LVM_GETCOLUMNWIDTH, column, 0));
+    return EndOfText(list, cell.column, text) > width;
 }
 
 void FitTrayColumns(HWND dialog) {

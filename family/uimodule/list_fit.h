@@ -17,6 +17,16 @@ UINT TrayRowHeight(HWND list);
 // Makes the tray list ask its dialog again how high a row is.
 void MeasureTrayRows(HWND dialog);
 
+using CellText = wchar_t[260];
+
+struct TrayCell {
+    int row;
+    int column;
+};
+
+// Reads a cell of the tray list. Whether its column is too narrow for it.
+bool ReadCutCell(HWND list, const TrayCell& cell, CellText& text);
+
 // Makes the first column as wide as its longest cell or its title, and the others too as far as there is
 // room. The last one takes the rest.
 void FitTrayColumns(HWND dialog);

@@ -34,12 +34,13 @@ inline RECT WorkAreaOf(HWND window) {
     return monitor.rcWork;
 }
 
-// Width of a text in the window's font, in pixels. A single '&' marks an access key and has no width.
-inline LONG TextWidth(HWND window, const wchar_t* text) {
+// Width of a text in the window's font, in pixels. A single '&' marks an access key and has no width, unless
+// the format is DT_NOPREFIX.
+inline LONG TextWidth(HWND window, const wchar_t* text, UINT format = 0) {
     const HDC dc = GetDC(window);
     const HGDIOBJ before = SelectObject(dc, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)));
     RECT area = {};
-    DrawTextW(dc, text, -1, &area, DT_CALCRECT | DT_SINGLELINE);
+    DrawTextW(dc, text, -1, &area, DT_CALCRECT | DT_SINGLELINE | format);
     SelectObject(dc, before);
     ReleaseDC(window, dc);
     return area.right - area.left;

@@ -32,6 +32,8 @@ INT_PTR CALLBACK DialogProcedure(HWND dialog, UINT message, WPARAM wParam, LPARA
         return reinterpret_cast<MEASUREITEMSTRUCT*>(lParam)->itemHeight = 16, TRUE;
     messagesPassed += message == WM_HELP || message == WM_CONTEXTMENU
                       || (message == WM_COMMAND && (wParam == IDHELP || wParam == 1528 || wParam == 1393));
+    if (message == WM_APP)
+        DestroyWindow(dialog);
     if (message == WM_DESTROY && freedWithDialog != nullptr)
         FreeLibrary(freedWithDialog);
     return FALSE;
@@ -244,6 +246,45 @@ TEST_F(UiModule, KeepsTheHintBelowItsDialogUntilItEnds) {
     EXPECT_FALSE(IsWindow(hintWindow));
     EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
     Pump(150); // a late timer would call into the freed library
+}
+
+TEST_F(UiModule, StaysLoadedWhileItHandlesTheMessageThatEndsTheDialog) {
+    static int destructions;
+    destructions = 0;
+    DestroyWindow(dialog); // its hook
+    const HHOOK earlier = SetWindowsHookExW(
+        WH_CBT, [](int code, WPARAM, LPARAM) -> LRESULT { return destructions += code == HCBT_DESTROYWND, 0; }, nullptr,
+        GetCurrentThreadId());
+    OpenModel(124);
+    freedWithDialog = library;
+    SendMessageW(dialog, WM_APP, 0, 0);
+    EXPECT_FALSE(IsWindow(dialog));
+    EXPECT_GE(destructions, 1) << "other hooks see it, too";
+    UnhookWindowsHookEx(earlier);
+    const HMODULE kept = GetModuleHandleW(L"TELMAR_U.DLL");
+    ASSERT_NE(kept, nullptr);
+    FreeLibrary(kept); // the one reference that it can't give back
+    EXPECT_EQ(GetModuleHandleW(L"TELMAR_U.DLL"), nullptr);
+}
+
+TEST_F(UiModule, TitleBarHasTheSystemMenu) {
+    OpenModel(124);
+    ShowWindow(dialog, SW_SHOW);
+    RECT frame = {};
+    GetWindowRect(dialog, &frame);
+    static int entries; // of the menu that opens
+    for (const int below : {6, 60}) {
+        entries = 0;
+        SetTimer(dialog, 1, 200, [](HWND, UINT, UINT_PTR, DWORD) {
+            const HWND window = FindWindowW(L"#32768", nullptr);
+            entries = GetMenuItemCount(reinterpret_cast<HMENU>(SendMessageW(window, MN_GETHMENU, 0, 0)));
+            EndMenu();
+        });
+        SendMessageW(dialog, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(dialog),
+                     MAKELPARAM(frame.left + 60, frame.top + below));
+        KillTimer(dialog, 1);
+        EXPECT_EQ(entries == 1, below == 60) << entries << ": only the dialog itself offers the help alone";
+    }
 }
 
 TEST_F(UiModule, RunsDialogsAndHasTheIcons) {
@@ -523,6 +564,40 @@ TEST_F(UiModuleLayout, CutChoiceIsInAToolTip) {
         tip.hdr = {nullptr, reinterpret_cast<UINT_PTR>(Control(1504)), static_cast<UINT>(TTN_GETDISPINFOW)};
         SendMessageW(dialog, WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&tip));
         EXPECT_EQ(tip.lpszText, i == 0 ? std::wstring() : name);
+    }
+}
+
+TEST_F(UiModuleLayout, CutCellBelowThePointerIsInAToolTip) {
+    OpenModel(155);
+    HWND list = Control(1844);
+    std::wstring texts[] = {L"Tray", std::wstring(20, L'W')};
+    for (int column = 0; column < 2; ++column) {
+        wchar_t title[] = L"Title";
+        LVCOLUMNW record = {LVCF_TEXT | LVCF_WIDTH, 0, 100, title, 0, column, 0, 0, 0, 0, 0};
+        SendMessageW(list, LVM_INSERTCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&record));
+        LVITEMW item = {};
+        item.mask = LVIF_TEXT;
+        item.iSubItem = column;
+        item.pszText = texts[column].data();
+        SendMessageW(list, column == 0 ? LVM_INSERTITEMW : LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    }
+    ShowWindow(dialog, SW_SHOW);
+    SendMessageW(list, LVM_SETCOLUMNWIDTH, 1, MAKELPARAM(100, 0));
+    RECT row = {};
+    SendMessageW(list, LVM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
+    const LONG first = static_cast<LONG>(SendMessageW(list, LVM_GETCOLUMNWIDTH, 0, 0));
+    for (const auto& [x, y, text] : {std::tuple(first / 2, row.top + 2, std::wstring()),
+                                     {first + 50, row.top + 2, texts[1]},
+                                     {first + 50, row.bottom + 40, std::wstring()}}) {
+        POINT at = {x, y};
+        ClientToScreen(list, &at);
+        SetCursorPos(at.x, at.y);
+        Pump(1000); // the pointer comes to rest
+        std::wstring shown;
+        for (HWND tip = nullptr; (tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
+            if (IsWindowVisible(tip))
+                shown += TextOf(tip);
+        EXPECT_EQ(shown, text);
     }
 }
 
