@@ -17,7 +17,7 @@ struct HelpText {
     uint16_t controls[kMaxControls]; // 0: none
 };
 
-// In the order of the help. A dialog's help has the texts of which it has a control.
+// In the order of the help. A dialog's help has the texts of which it shows a control.
 // clang-format off
 constexpr HelpText kHelp[] = {
     {HELP_COLORS,           {IDC_IMAGE_GROUP}},
@@ -46,9 +46,14 @@ constexpr HelpText kHelp[] = {
 };
 // clang-format on
 
-bool HasAnyControl(HWND dialog, const HelpText& row) {
+// When its dialog is.
+bool IsShown(HWND control) {
+    return control != nullptr && (GetWindowLongPtrW(control, GWL_STYLE) & WS_VISIBLE) != 0;
+}
+
+bool ShowsAnyControl(HWND dialog, const HelpText& row) {
     for (const uint16_t control : row.controls)
-        if (control != 0 && GetDlgItem(dialog, control) != nullptr)
+        if (control != 0 && IsShown(GetDlgItem(dialog, control)))
             return true;
     return false;
 }
@@ -84,7 +89,7 @@ void ShowHelp(HWND dialog) {
     HWND window = OpenHelp(dialog);
     bool isFirst = true;
     for (const HelpText& row : kHelp) {
-        if (!HasAnyControl(dialog, row))
+        if (!ShowsAnyControl(dialog, row))
             continue;
         if (!isFirst)
             AppendParagraph(window, L"");

@@ -33,6 +33,8 @@ INT_PTR CALLBACK TextProcedure(HWND window, UINT message, WPARAM wParam, LPARAM 
             return FALSE;
         DestroyWindow(window);
         return TRUE;
+    case WM_HELP: // this is the help; the owner would replace it
+        return TRUE;
     case WM_DESTROY:
         open = nullptr;
         UnhookWindowsHookEx(keyHook);

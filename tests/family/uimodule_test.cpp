@@ -428,6 +428,16 @@ TEST_F(UiModule, ExplainsTheDialogAndStaysOutOfItsWay) {
     help = WindowText();
     EXPECT_EQ(help.find(L"RGB source: "), 0u);
     EXPECT_EQ(help.find(L"\r\n"), std::wstring::npos) << "the text on this control only";
+    HWND text = GetDlgItem(FindWindowW(L"#32770", (TextOf(dialog) + L" - Help").c_str()), IDC_TEXT);
+    info.hItemHandle = text;
+    SendMessageW(text, WM_HELP, 0, reinterpret_cast<LPARAM>(&info));
+    EXPECT_EQ(WindowText(), help) << "F1 in the help keeps its text";
+    ShowWindow(Control(1504), SW_HIDE); // the first of two lists with this help
+    ShowWindow(Control(1332), SW_HIDE);
+    ShowWindow(Control(1330), SW_HIDE);
+    SendMessageW(dialog, WM_COMMAND, IDHELP, 0);
+    EXPECT_EQ(WindowText().find(L"Halftone: "), std::wstring::npos) << "hidden";
+    EXPECT_NE(WindowText().find(L"RGB source: "), std::wstring::npos);
     EXPECT_EQ(messagesPassed, 0);
     for (const int id : {122, 123, 124, 125, 128, 155, 165, 166}) { // every control has a text of its own
         OpenModel(id);
@@ -457,7 +467,7 @@ TEST_F(UiModule, ShowsTheProfilesAndTheDownloadManager) {
         SendMessageW(dialog, WM_COMMAND, 1528, 0);
         EXPECT_EQ(WindowText(),
                   std::wstring(L"RGB sources\r\n    none\r\nPress simulations\r\n")
-                      + (hasLists ? L"    Offset (coated): hard disk\r\n    Newspaper: unknown place" : L"    none")
+                      + (hasLists ? L"    Offset (coated): Hard disk\r\n    Newspaper: Unknown place" : L"    none")
                       + L"\r\nOutput profiles\r\n    none");
     }
     for (const wchar_t* value : {L"0", L"10", L"1"}) {
