@@ -300,12 +300,18 @@ void CALLBACK UseSearch(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD
 TEST_F(PrinterSheet, SearchListsPrintersOnly) {
     SetEnvironmentVariableW(L"LUMORA_SEARCH", L"127.0.162.8 127.0.162.1 127.0.162.9 127.0.162.2 127.0.162.12");
     SetTimer(nullptr, 0, 50, UseSearch);
+    SetFocus(driver.Control(ID_FIND));
     driver.Click(ID_FIND); // returns when the dialog has closed
     std::sort(searched.begin(), searched.end());
     EXPECT_EQ(searched, Cells({"copy-room | QUORVANE lumora R880", "corridor | QUORVANE lumora R880",
                                "print-shop | QUORVANE lumora R880"}));
     EXPECT_TRUE(state.isQuerying) << "the chosen printer is not asked";
     EXPECT_EQ(state.address.find("127.0.162."), 0u);
+    EXPECT_EQ(GetFocus(), driver.Control(ID_QUERY)) << "keys reach nothing";
+    PostMessageW(sheet.Window(), WM_KEYDOWN, VK_ESCAPE, 0);
+    sheet.HandleMessages(0);
+    ASSERT_TRUE(IsOpen());
+    EXPECT_FALSE(state.isQuerying);
 }
 
 // As in high contrast: black toner on a black window.

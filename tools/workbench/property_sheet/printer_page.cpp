@@ -275,14 +275,20 @@ private:
         namesBefore.clear();
         ShowReport();
         SetText(ID_QUERY, LocalizedText(PRINTER_TEXT_STOP));
-        hadFocus = GetParent(GetFocus()) == Control(ID_ADDRESS);
-        if (hadFocus)
-            SetFocus(Control(ID_QUERY));
+        FocusOnStop();
         EnableWindow(Control(ID_ADDRESS), FALSE);
         EnableWindow(Control(ID_FIND), FALSE);
         ShowWindow(Control(ID_PROGRESS), SW_SHOW);
         SetTimer(window, kSecondsTimer, 1000, nullptr);
         NoteProgress({});
+    }
+
+    // The focus must not be on a control that is disabled: then no key reaches the sheet.
+    void FocusOnStop() {
+        const HWND focus = GetFocus();
+        hadFocus = GetParent(focus) == Control(ID_ADDRESS);
+        if (hadFocus || focus == Control(ID_FIND) || !IsChild(GetParent(window), focus))
+            SetFocus(Control(ID_QUERY));
     }
 
     void StartJob() { job = std::make_unique<DeviceJob>(state.family, state.address, window, ++jobNumber); }

@@ -89,8 +89,9 @@ POINT SheetWindow::Place() const {
     return {frame.left, frame.top};
 }
 
+// The sheet itself receives keys while no control has the focus.
 bool SheetWindow::IsKeyOfPage(const MSG& message) const {
-    return message.message == WM_KEYDOWN && IsChild(window, message.hwnd)
+    return message.message == WM_KEYDOWN && (message.hwnd == window || IsChild(window, message.hwnd))
            && std::any_of(pages.begin(), pages.end(),
                           [&](const auto& page) { return page->TakesKey(message.hwnd, message.wParam); });
 }
