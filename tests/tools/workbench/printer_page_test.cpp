@@ -63,6 +63,13 @@ struct PrinterSheet : testing::Test {
         return driver.Text(ID_STATUS);
     }
 
+    // As the timer does. Returns after the answer.
+    void Refresh() {
+        state.reportedOn.clear();
+        SendMessageW(sheet.CurrentPage(), WM_TIMER, 1, 0);
+        driver.WaitUntil([&] { return !state.reportedOn.empty(); }, kPrinterWait);
+    }
+
     // A key message to the control with the focus.
     void Press(WPARAM key) {
         PostMessageW(GetFocus(), WM_KEYDOWN, key, 0);
@@ -272,9 +279,7 @@ TEST_F(PrinterSheet, RefreshMarksWhatHasChanged) {
     driver.Choose(ID_OPTIONS, "Tray 3");
     driver.Choose(ID_OPTION_ITEMS, "Installed");
     state.hasChanges = false;
-    state.reportedOn.clear();
-    SendMessageW(sheet.CurrentPage(), WM_TIMER, 1, 0);
-    driver.WaitUntil([&] { return !state.reportedOn.empty(); }, kPrinterWait);
+    Refresh();
     EXPECT_EQ(Setting("Tray 3"), "Installed") << "chosen by the person, not reported";
     EXPECT_EQ(Setting("Fax"), "Installed") << "has not changed again";
     EXPECT_FALSE(state.hasChanges);
@@ -282,6 +287,30 @@ TEST_F(PrinterSheet, RefreshMarksWhatHasChanged) {
     driver.SetText(ID_ADDRESS, "127.0.162.2"); // not of the printer that is edited
     SendMessageW(sheet.CurrentPage(), WM_TIMER, 1, 0);
     EXPECT_FALSE(IsAnyJobRunning());
+}
+
+TEST_F(PrinterSheet, ReportLeavesTheOpenListAlone) {
+    Query("127.0.162.1");
+    const HWND items = driver.Control(ID_OPTION_ITEMS), options = driver.Control(ID_OPTIONS);
+    driver.Choose(ID_OPTIONS, "Fax");
+    SetFocus(items);
+    SendMessageW(items, CB_SHOWDROPDOWN, TRUE, 0);
+    SetOption(state.options, "OpHDD=DisOpHDD"); // so that a row changes
+    Refresh();
+    EXPECT_NE(Setting("Hard disk"), "Not installed");
+    EXPECT_EQ(GetFocus(), items);
+    EXPECT_NE(SendMessageW(items, CB_GETDROPPEDSTATE, 0, 0), 0);
+    EXPECT_EQ(EntriesOf(options)[static_cast<size_t>(SelectionOf(options))], "Fax");
+}
+
+TEST_F(PrinterSheet, LabelsAreEnabledWithTheirLists) {
+    const auto isLabelEnabled = [&](int id) { return IsWindowEnabled(GetWindow(driver.Control(id), GW_HWNDPREV)); };
+    EXPECT_TRUE(isLabelEnabled(ID_ADDRESS)) << "without addresses to choose from";
+    EXPECT_TRUE(isLabelEnabled(ID_OPTION_ITEMS));
+    state.options.settings.clear(); // as of a model without options
+    driver.TurnTo(kPaperPage);
+    driver.TurnTo(kPrinterPage);
+    EXPECT_FALSE(isLabelEnabled(ID_OPTION_ITEMS));
 }
 
 // Lets a search find three printers, for 30 seconds at most, then chooses the one in the last row: End, Enter.

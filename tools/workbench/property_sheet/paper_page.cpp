@@ -69,8 +69,8 @@ private:
     }
 
     // Those that are installed, as far as the options or the printer's answers say so.
-    void ShowTrays() const {
-        std::vector<std::vector<std::string>> rows;
+    void ShowTrays() {
+        TableRows rows;
         for (const Document& paper : PapersDocument(state.papers).Elements()) {
             const std::string& key = paper["tray"].Text();
             const InputTrayStatusItem* reported = FindReported(state.report.trays, key.c_str());

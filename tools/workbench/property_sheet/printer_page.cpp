@@ -15,7 +15,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <map>
 
 #include <commctrl.h>
 
@@ -24,6 +23,7 @@ namespace {
 constexpr UINT_PTR kRefreshTimer = 1;
 constexpr UINT kRefreshInterval = 60000; // milliseconds
 constexpr UINT_PTR kSecondsTimer = 2;
+constexpr UINT kListClosed = WM_APP + 3; // the list of items, which a report may have changed meanwhile
 
 // Options have no names in the model.
 constexpr struct {
@@ -78,8 +78,6 @@ std::string ListText(const std::vector<UINT>& texts) {
     return list;
 }
 
-using TableRows = std::vector<std::vector<std::string>>;
-
 class PrinterPage : public PropertyPage {
 public:
     explicit PrinterPage(SheetState& sheetState) : PropertyPage(PAGE_PRINTER, sheetState) {}
@@ -107,6 +105,8 @@ private:
     void OnCommand(UINT control, UINT notification) override {
         if (control == ID_OPTION_ITEMS && notification == CBN_SELCHANGE)
             ChangeOption(static_cast<size_t>(SelectedOption()));
+        else if (control == ID_OPTION_ITEMS && notification == CBN_CLOSEUP)
+            PostMessageW(window, kListClosed, 0, 0); // any CBN_SELCHANGE comes first
         else if (control == ID_ADDRESS && (notification == CBN_EDITCHANGE || notification == CBN_SELENDOK))
             NoteAddress(notification == CBN_SELENDOK);
         else if (control == ID_QUERY && notification == BN_CLICKED)
@@ -130,7 +130,9 @@ private:
     }
 
     void OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override {
-        if (message == WM_TIMER)
+        if (message == kListClosed)
+            ShowItems();
+        else if (message == WM_TIMER)
             wParam == kRefreshTimer ? Refresh() : ShowProgress();
         if (job == nullptr || wParam != job->number) // of a query that was stopped
             return;
@@ -160,12 +162,12 @@ private:
     // --- Options -------------------------------------------------------------------------------------
 
     void ShowOptions() {
-        const int selected = std::max(SelectedOption(), 0);
         TableRows rows;
         for (size_t i = 0; i < state.options.settings.size(); ++i)
             rows.push_back({OptionText(KeyOfOption(i)), SettingText(i)});
-        if (ShowRows(ID_OPTIONS, rows))
-            SelectEntry(Control(ID_OPTIONS), static_cast<WPARAM>(selected));
+        SetRows(ID_OPTIONS, rows);
+        if (SelectedOption() < 0 && !rows.empty())
+            SelectEntry(Control(ID_OPTIONS), 0);
         ShowItems();
         InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
     }
@@ -197,9 +199,10 @@ private:
     // Of the selected option.
     void ShowItems() {
         const int row = SelectedOption();
-        EnableWindow(Control(ID_OPTION_ITEMS), row >= 0);
-        if (row < 0)
+        if (row < 0) {
+            EnableList(ID_OPTION_ITEMS, false);
             return;
+        }
         std::vector<std::string> entries;
         for (const ItemRecord& item : Listed(state.options.features[static_cast<size_t>(row)].items))
             entries.push_back(FieldText(item.display));
@@ -211,9 +214,7 @@ private:
         std::vector<std::string>& keys = state.notReported;
         keys.erase(std::remove(keys.begin(), keys.end(), KeyOfOption(option)), keys.end());
         OfferedSources(state);
-        SetCell(ID_OPTIONS, option, 1, NameOfItem(option));
-        shownRows[ID_OPTIONS].clear();
-        InvalidateRect(Control(ID_PICTURE), nullptr, FALSE);
+        ShowOptions();
         NoteChange();
     }
 
@@ -232,9 +233,9 @@ private:
 
     // With the addresses of printers that have answered before.
     void ShowAddress() const {
-        SetEntries(ID_ADDRESS, state.addresses, -1);
+        FillEntries(ID_ADDRESS, state.addresses, -1);
         SetText(ID_ADDRESS, state.address);
-        EnableWindow(Control(ID_ADDRESS), !state.isQuerying); // also without entries
+        EnableList(ID_ADDRESS, !state.isQuerying); // also without entries
     }
 
     // The box still has its old text when an entry is selected.
@@ -276,7 +277,7 @@ private:
         ShowReport();
         SetText(ID_QUERY, LocalizedText(PRINTER_TEXT_STOP));
         FocusOnStop();
-        EnableWindow(Control(ID_ADDRESS), FALSE);
+        EnableList(ID_ADDRESS, false);
         EnableWindow(Control(ID_FIND), FALSE);
         ShowWindow(Control(ID_PROGRESS), SW_SHOW);
         SetTimer(window, kSecondsTimer, 1000, nullptr);
@@ -418,7 +419,8 @@ private:
         TableRows rows;
         for (const ShownSupply& supply : supplies)
             rows.push_back({supply.name, supply.level});
-        ShowRows(ID_SUPPLIES, rows);
+        SetRows(ID_SUPPLIES, rows);
+        InvalidateRect(Control(ID_SUPPLIES), nullptr, FALSE); // what is drawn is more than the texts
         const int needed = SupplyLevelWidth(Control(ID_SUPPLIES), FontHeight(), supplies);
         if (Send(ID_SUPPLIES, LVM_GETCOLUMNWIDTH, 1) < needed)
             Send(ID_SUPPLIES, LVM_SETCOLUMNWIDTH, 1, needed);
@@ -430,16 +432,7 @@ private:
             PRINTER_TEXT_RGB_PROFILE, PRINTER_TEXT_SIMULATION_PROFILE, PRINTER_TEXT_OUTPUT_PROFILE};
         for (size_t i = 0; i < TELMAR_PROFILE_SELECTORS; ++i)
             AddStored(kUses[i], state.report.profiles[i], rows);
-        ShowRows(ID_STORED, rows);
-    }
-
-    // Leaves a list alone that shows these rows, with its place and selection. False when it was so.
-    bool ShowRows(int id, const TableRows& rows) {
-        if (rows == shownRows[id] && !rows.empty())
-            return false;
-        SetRows(id, rows);
-        shownRows[id] = rows;
-        return true;
+        SetRows(ID_STORED, rows);
     }
 
     static void AddStored(UINT use, const StoredResources& stored, TableRows& rows) {
@@ -447,7 +440,6 @@ private:
             rows.push_back({PrinterText(entry.first), LocalizedText(use)});
     }
 
-    std::map<int, TableRows> shownRows;   // of each list
     std::vector<ShownSupply> supplies;    // by row
     Supplies suppliesBefore;              // of the last report but one; empty: of another printer
     std::vector<std::string> namesBefore; // of the options' items, likewise

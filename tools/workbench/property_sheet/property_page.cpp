@@ -101,7 +101,8 @@ INT_PTR PropertyPage::AnswerNote(const NMHDR& note) {
         CopyRowOnKey(reinterpret_cast<const NMLVKEYDOWN&>(note));
         return FALSE;
     default:
-        OnNotify(note);
+        if (!isFilling)
+            OnNotify(note);
         return FALSE;
     }
 }
@@ -151,7 +152,9 @@ int PropertyPage::FontHeight() const {
     return font.tmHeight;
 }
 
-void PropertyPage::SetColumns(int id, const std::vector<std::string>& titles) const {
+void PropertyPage::SetColumns(int id, const std::vector<std::string>& titles) {
+    Send(id, LVM_DELETEALLITEMS); // cells refer to columns
+    shownRows.erase(id);
     Send(id, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
     while (Send(id, LVM_DELETECOLUMN, 0) != 0) {}
     for (size_t i = 0; i < titles.size(); ++i) {
@@ -165,22 +168,34 @@ void PropertyPage::SetColumns(int id, const std::vector<std::string>& titles) co
     ShowCutCells(Control(id));
 }
 
-void PropertyPage::SetRows(int id, const std::vector<std::vector<std::string>>& rows) const {
-    Send(id, WM_SETREDRAW, FALSE);
-    Send(id, LVM_DELETEALLITEMS);
-    for (size_t row = 0; row < rows.size(); ++row) {
-        LVITEMW item = {};
-        item.iItem = static_cast<int>(row);
-        Send(id, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-        for (size_t column = 0; column < rows[row].size(); ++column)
-            SetCell(id, row, column, rows[row][column]);
+void PropertyPage::SetRows(int id, const TableRows& rows) {
+    TableRows& shown = shownRows[id];
+    if (rows != shown) {
+        isFilling = true;
+        Send(id, WM_SETREDRAW, FALSE);
+        if (shown.size() != rows.size()) {
+            Send(id, LVM_DELETEALLITEMS);
+            shown.clear();
+        }
+        for (size_t row = 0; row < rows.size(); ++row) {
+            if (row == shown.size()) {
+                LVITEMW item = {};
+                item.iItem = static_cast<int>(row);
+                Send(id, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+                shown.emplace_back();
+            }
+            for (size_t column = 0; column < rows[row].size(); ++column)
+                SetCell(id, row, column, rows[row][column]);
+        }
+        shown = rows;
+        FitColumns(Control(id));
+        Send(id, WM_SETREDRAW, TRUE);
+        isFilling = false;
     }
-    FitColumns(Control(id));
-    Send(id, WM_SETREDRAW, TRUE);
     EnableList(id, !rows.empty());
 }
 
-// With its label, the control before it. The focus does not stay on a disabled list.
+// The focus does not stay on a disabled list.
 void PropertyPage::EnableList(int id, bool isEnabled) const {
     if (!isEnabled && GetFocus() == Control(id))
         SendMessageW(GetParent(window), WM_NEXTDLGCTL, 0, FALSE);
@@ -199,12 +214,22 @@ void PropertyPage::SetCell(int id, size_t row, size_t column, const std::string&
 }
 
 void PropertyPage::SetEntries(int id, const std::vector<std::string>& entries, int selected) const {
-    Send(id, CB_RESETCONTENT);
-    for (const std::string& entry : entries)
-        Send(id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry).c_str()));
-    Send(id, CB_SETCURSEL, static_cast<WPARAM>(selected));
+    FillEntries(id, entries, selected);
     EnableList(id, !entries.empty());
-    WidenDropDown(Control(id), entries);
+}
+
+void PropertyPage::FillEntries(int id, const std::vector<std::string>& entries, int selected) const {
+    const bool isSame = EntriesOf(Control(id)) == entries;
+    if (isSame && (Send(id, CB_GETDROPPEDSTATE) != 0 || SelectionOf(Control(id)) == selected))
+        return;
+    if (!isSame) {
+        Send(id, CB_SHOWDROPDOWN, FALSE);
+        Send(id, CB_RESETCONTENT);
+        for (const std::string& entry : entries)
+            Send(id, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Wide(entry).c_str()));
+        WidenDropDown(Control(id), entries);
+    }
+    Send(id, CB_SETCURSEL, static_cast<WPARAM>(selected));
 }
 
 bool PropertyPage::Confirm(const std::string& question) const {

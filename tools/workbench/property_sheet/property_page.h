@@ -7,9 +7,12 @@
 #include "workbench/lib/model_dialogs.h"
 #include "workbench/property_sheet/sheet_state.h"
 
+#include <map>
 #include <windows.h>
 
 #include <prsht.h> // after windows.h
+
+using TableRows = std::vector<std::vector<std::string>>; // cells of a list view
 
 // The sheet owns the page and outlives the page's window. Failures that the functions below throw are
 // reported to the user.
@@ -47,14 +50,20 @@ protected:
 
     int FontHeight() const; // pixels
 
-    // For a list view: its columns, then its rows, with a text for each column.
-    void SetColumns(int id, const std::vector<std::string>& titles) const;
-    void SetRows(int id, const std::vector<std::vector<std::string>>& rows) const;
-    void SetCell(int id, size_t row, size_t column, const std::string& utf8) const;
+    // For a list view: its columns, then its rows, with a text for each column. The selection stays if the
+    // number of rows does; the page receives no notifications meanwhile.
+    void SetColumns(int id, const std::vector<std::string>& titles);
+    void SetRows(int id, const TableRows& rows);
 
     // For a combo box: its texts and the position of the selected one, -1: none. Without texts it is
     // disabled, as a list view without rows is.
     void SetEntries(int id, const std::vector<std::string>& entries, int selected) const;
+
+    // The same, without enabling or disabling it. Equal entries stay, also while they are dropped down.
+    void FillEntries(int id, const std::vector<std::string>& entries, int selected) const;
+
+    // A control together with its label, the control before it.
+    void EnableList(int id, bool isEnabled) const;
 
     // Asks the person a question; false: no.
     bool Confirm(const std::string& question) const;
@@ -74,9 +83,12 @@ private:
     INT_PTR Answer(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR AnswerNote(const NMHDR& note);
     INT_PTR Apply() const;
-    void EnableList(int id, bool isEnabled) const;
+    void SetCell(int id, size_t row, size_t column, const std::string& utf8) const;
     void TakeFocus() const;
     void Report(const std::string& failure) const;
+
+    std::map<int, TableRows> shownRows; // of each list view
+    bool isFilling = false;             // a list view
 };
 
 // Positions of the pages.

@@ -25,7 +25,7 @@ private:
         if (withNumbers)
             titles.push_back(LocalizedText(TEXT_NUMBERS));
         SetColumns(ID_CHANGED, titles);
-        std::vector<std::vector<std::string>> rows;
+        TableRows rows;
         for (const ChangedColorSetting& change : ChangedColorSettings(state.family, state.settings)) {
             rows.push_back({change.name, change.before, change.after});
             if (withNumbers)

@@ -9,8 +9,6 @@
 
 namespace {
 
-using TableRows = std::vector<std::vector<std::string>>;
-
 constexpr const char* kFiles[] = {"TELMAR_D.DLL", "TELMAR_D.PRM", "TELMAR_S.DLL", "TELMAR_U.DLL",
                                   "TELMAR_B.DLL"};
 constexpr UINT kFileColumns[] = {TEXT_FILE, TEXT_VERSION, TEXT_DATE, TEXT_BYTES};
