@@ -4,6 +4,7 @@
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
+#include "workbench/property_sheet/reported_state.h"
 #include "workbench/property_sheet/text_ids.h"
 
 namespace {
@@ -24,9 +25,6 @@ constexpr PaperChoice kChoices[] = {
 constexpr UINT kTrayColumns[] = {TEXT_TRAY, PRINTER_TEXT_LEVEL, TEXT_SIZE,  TEXT_ORIENTATION,
                                  TEXT_TYPE, TEXT_WEIGHT,        TEXT_COLOR, TEXT_PRE_PUNCHED};
 
-// The size of a tray that the printer lacks.
-constexpr const char* kUnknownSizeKey = "MediaTypeList_Size_Unknown";
-
 // Levels that are not a number of sheets: those of the Printer MIB in 16 bits.
 constexpr int32_t kSomeSheets = 0xFFFD;
 constexpr int32_t kUnknownSheets = 0xFFFE;
@@ -43,7 +41,7 @@ std::string LevelText(int32_t sheets) {
 // The printer's answer for a tray that it has; null when it has not reported one.
 const InputTrayStatusItem* FindReported(const TrayAnswers& answers, const char* tray) {
     for (const InputTrayStatusItem& answer : answers)
-        if (SameText(answer.tray, tray) && !SameText(answer.mediaSize, kUnknownSizeKey))
+        if (SameText(answer.tray, tray) && IsTrayReported(answer))
             return &answer;
     return nullptr;
 }

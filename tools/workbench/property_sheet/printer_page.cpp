@@ -187,11 +187,17 @@ private:
                                    : "";
     }
 
-    // Marked when it has changed since the last report of the same printer.
+    // Marked when it has changed between two reports of the printer.
     std::string SettingText(size_t option) const {
         const std::string name = NameOfItem(option);
-        const bool hasChanged = option < namesBefore.size() && namesBefore[option] != name;
-        return hasChanged ? LocalizedText(PRINTER_TEXT_WAS, {name, namesBefore[option]}) : name;
+        for (const OptionRequestItem& before : state.report.optionsBefore) {
+            if (!SameText(before.key, KeyOfOption(option)))
+                continue;
+            const ItemRecord* item = FindOption(state.options, before.key + std::string("=") + before.value);
+            if (item != nullptr && FieldText(item->display) != name)
+                return LocalizedText(PRINTER_TEXT_WAS, {name, FieldText(item->display)});
+        }
+        return name;
     }
 
     int SelectedOption() const { return SelectionOf(Control(ID_OPTIONS)); }
@@ -213,6 +219,11 @@ private:
         state.options.settings.at(option) = static_cast<int32_t>(Send(ID_OPTION_ITEMS, CB_GETCURSEL));
         std::vector<std::string>& keys = state.notReported;
         keys.erase(std::remove(keys.begin(), keys.end(), KeyOfOption(option)), keys.end());
+        OptionAnswers& before = state.report.optionsBefore;
+        before.erase(
+            std::remove_if(before.begin(), before.end(),
+                           [&](const auto& answer) { return SameText(answer.key, KeyOfOption(option)); }),
+            before.end());
         OfferedSources(state);
         ShowOptions();
         NoteChange();
@@ -273,7 +284,6 @@ private:
         StartJob();
         state.isQuerying = true;
         state.report = {};
-        namesBefore.clear();
         ShowReport();
         SetText(ID_QUERY, LocalizedText(PRINTER_TEXT_STOP));
         FocusOnStop();
@@ -348,7 +358,6 @@ private:
         std::string status = LocalizedText(reported, {report.address});
         if (!report.missing.empty())
             status += " " + LocalizedText(PRINTER_TEXT_NOT_AVAILABLE, {ListText(report.missing)});
-        RememberReport(report.address);
         const std::vector<FeatureSettings> settings = state.options.settings;
         const TrayPapers papers = state.papers;
         ApplyReport(state, std::move(report));
@@ -357,17 +366,6 @@ private:
         if (state.isQuerying || !isSame)
             NoteChange();
         EndQuery(status);
-    }
-
-    // What the next report of the same printer is compared with.
-    void RememberReport(const std::string& address) {
-        namesBefore.clear();
-        suppliesBefore.clear();
-        if (state.reportedBy != address || state.report.address.empty())
-            return;
-        for (size_t i = 0; i < state.options.settings.size(); ++i)
-            namesBefore.push_back(NameOfItem(i));
-        suppliesBefore = state.report.supplies;
     }
 
     void EndQuery(const std::string& status) {
@@ -415,7 +413,7 @@ private:
     // --- What the printer has reported ---------------------------------------------------------------
 
     void ShowReport() {
-        supplies = ShownSupplies(state.report.supplies, suppliesBefore);
+        supplies = ShownSupplies(state.report.supplies, state.report.suppliesBefore);
         TableRows rows;
         for (const ShownSupply& supply : supplies)
             rows.push_back({supply.name, supply.level});
@@ -440,10 +438,8 @@ private:
             rows.push_back({PrinterText(entry.first), LocalizedText(use)});
     }
 
-    std::vector<ShownSupply> supplies;    // by row
-    Supplies suppliesBefore;              // of the last report but one; empty: of another printer
-    std::vector<std::string> namesBefore; // of the options' items, likewise
-    std::unique_ptr<DeviceJob> job;       // null: no query is running
+    std::vector<ShownSupply> supplies; // by row
+    std::unique_ptr<DeviceJob> job;    // null: no query is running
     WPARAM jobNumber = 0;
     JobProgress progress = {};
     DWORD askedSince = 0;  // tick count

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr size_t kMaxAddresses = 10; // that are offered again
+constexpr const char* kUnknownSizeKey = "MediaTypeList_Size_Unknown";
 
 std::string LocalTime() {
     SYSTEMTIME now;
@@ -42,6 +43,53 @@ void UseDefaults(SheetState& state) {
     state.report = {};
 }
 
+// No option that can be queried says which trays are installed.
+void AddTrayOptions(DeviceReport& report) {
+    for (const InputTrayStatusItem& tray : report.trays) {
+        if (!IsTrayReported(tray))
+            continue;
+        const std::string key = std::string("Op") + tray.tray;
+        OptionRequestItem option = {};
+        CopyText(option.key, key.c_str());
+        CopyText(option.value, ("Ena" + key).c_str());
+        report.options.push_back(option);
+    }
+}
+
+// Whether both answer the same question, and in the same way.
+bool IsOfSame(const OptionRequestItem& a, const OptionRequestItem& b) {
+    return SameText(a.key, b.key);
+}
+bool IsOfSame(const MrkSupRequestItem& a, const MrkSupRequestItem& b) {
+    return SameText(a.name, b.name);
+}
+bool IsEqual(const OptionRequestItem& a, const OptionRequestItem& b) {
+    return SameText(a.value, b.value);
+}
+bool IsEqual(const MrkSupRequestItem& a, const MrkSupRequestItem& b) {
+    return a.state == b.state && a.value == b.value;
+}
+
+// What the answers were before their last change: in the last report, or before it if they are the same.
+template <typename Answer>
+std::vector<Answer> BeforeChanges(const std::vector<Answer>& before, const std::vector<Answer>& last,
+                                  const std::vector<Answer>& now) {
+    std::vector<Answer> changed;
+    for (const Answer& answer : now) {
+        const auto isOfSame = [&](const Answer& other) { return IsOfSame(answer, other); };
+        auto found = std::find_if(last.begin(), last.end(), isOfSame);
+        if (found == last.end())
+            continue;
+        if (IsEqual(*found, answer)) {
+            found = std::find_if(before.begin(), before.end(), isOfSame);
+            if (found == before.end())
+                continue;
+        }
+        changed.push_back(*found);
+    }
+    return changed;
+}
+
 Document ListOf(const std::vector<std::string>& texts) {
     Document list = Document::MakeList();
     for (const std::string& text : texts)
@@ -61,12 +109,25 @@ bool LoadList(const Document& from, std::vector<std::string>& texts) {
 
 } // namespace
 
+bool IsTrayReported(const InputTrayStatusItem& answer) {
+    return answer.mediaSize[0] != 0 && !SameText(answer.mediaSize, kUnknownSizeKey);
+}
+
 void ApplyReport(SheetState& state, DeviceReport report) {
     if (state.reportedBy != report.address)
         UseDefaults(state);
-    for (const OptionRequestItem& answer : report.options) {
-        if (answer.value[0] == 0)
-            continue;
+    OptionAnswers& answers = report.options;
+    answers.erase(std::remove_if(answers.begin(), answers.end(),
+                                 [](const OptionRequestItem& answer) { return answer.value[0] == 0; }),
+                  answers.end());
+    AddTrayOptions(report);
+    if (state.report.address == report.address) {
+        report.optionsBefore =
+            BeforeChanges(state.report.optionsBefore, state.report.options, report.options);
+        report.suppliesBefore =
+            BeforeChanges(state.report.suppliesBefore, state.report.supplies, report.supplies);
+    }
+    for (const OptionRequestItem& answer : answers) {
         ApplyReportedOption(state.options, answer.key, answer.value);
         std::vector<std::string>& keys = state.notReported;
         keys.erase(std::remove(keys.begin(), keys.end(), FieldText(answer.key)), keys.end());

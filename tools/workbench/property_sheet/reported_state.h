@@ -5,8 +5,12 @@
 
 #include "workbench/property_sheet/sheet_state.h"
 
-// Applies the results of a query. What the printer did not report stays if it comes from the same printer.
+// Applies the results of a query. What the printer did not report stays if it comes from the same printer. A
+// tray with a size is installed.
 void ApplyReport(SheetState& state, DeviceReport report);
+
+// Whether the printer has this tray. The size of a tray that it lacks is unknown.
+bool IsTrayReported(const InputTrayStatusItem& answer);
 
 // Resets options and papers to the model's defaults when they come from another printer than the one at this
 // address, whose query has failed.

@@ -17,11 +17,15 @@ struct DeviceReport {
     std::string address; // of the printer
     Transport transport = Transport::kSnmp;
     std::vector<UINT> missing; // texts of what could not be queried
-    OptionAnswers options;
-    TrayAnswers trays; // empty: not reported
+    OptionAnswers options;     // also those that the trays imply
+    TrayAnswers trays;         // empty: not reported
     Supplies supplies;
     StoredResources overlays[2]; // by storage
     StoredProfiles profiles;
+
+    // Of the same printer, since it was last queried by the person: answers before their last change.
+    OptionAnswers optionsBefore;
+    Supplies suppliesBefore;
 };
 
 // A program that uses the sheet instead of a person.
