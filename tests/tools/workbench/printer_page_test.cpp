@@ -158,7 +158,7 @@ TEST_F(PrinterSheet, ReportIsShownWithTheMostUrgentFirst) {
     EXPECT_EQ(Stored()[0], "sRGB | RGB profile");
 
     EXPECT_EQ(Query("127.0.162.2"), "Reported by 127.0.162.2.");
-    EXPECT_EQ(Supplies(), Cells({"Yellow toner | 0 %, empty", "Cyan toner | 9 %, low", "Magenta toner | 4 %, low",
+    EXPECT_EQ(Supplies(), Cells({"Yellow toner | 0 %, empty", "Magenta toner | 4 %, low", "Cyan toner | 9 %, low",
                                  "Waste toner box | nearly full", "Black toner | 12 %"}));
     EXPECT_EQ(Query("127.0.162.12"), "Reported by 127.0.162.12.");
     EXPECT_EQ(Stored()[0], "B\u00FCro M\u00FCller \u6771\u4EAC | Overlay");

@@ -61,6 +61,13 @@ const MrkSupRequestItem* FindSupply(const Supplies& supplies, const char* key) {
     return nullptr;
 }
 
+// Sorts supplies of the same need: low ones by level, those in words last, all others as they come.
+int Urgency(const ShownSupply& supply) {
+    if (supply.need > Need::kSoon)
+        return 0;
+    return supply.answer.state == TELMAR_STATE_PERCENT ? supply.answer.value : kLowPercent;
+}
+
 // --- Drawing -----------------------------------------------------------------------------------------------
 
 // The colours are for a white window. With any other, as in high contrast, the words alone say it.
@@ -117,8 +124,9 @@ std::vector<ShownSupply> ShownSupplies(const Supplies& supplies, const Supplies&
             level.text = LocalizedText(PRINTER_TEXT_WAS, {level.text, LevelOf(*previous).text});
         shown.push_back({LocalizedText(row.name), level.text, level.need, *supply});
     }
-    std::stable_sort(shown.begin(), shown.end(),
-                     [](const ShownSupply& a, const ShownSupply& b) { return a.need < b.need; });
+    std::stable_sort(shown.begin(), shown.end(), [](const ShownSupply& a, const ShownSupply& b) {
+        return std::pair(a.need, Urgency(a)) < std::pair(b.need, Urgency(b));
+    });
     return shown;
 }
 
