@@ -42,7 +42,9 @@ Cells RowsOf(HWND list) {
     return rows;
 }
 
-Cells searched; // the rows of the last search
+// The last search.
+Cells searched; // rows
+std::string searchStatus;
 
 struct PrinterSheet : testing::Test {
     PrinterSheet() { state.user = &user; }
@@ -334,6 +336,9 @@ void CALLBACK UseSearch(HWND /*window*/, UINT /*message*/, UINT_PTR timer, DWORD
         return;
     KillTimer(nullptr, timer);
     searched = RowsOf(list);
+    SendMessageW(dialog, WM_TIMER, 1, 0);   // the time is over
+    SendMessageW(dialog, WM_APP + 1, 0, 0); // as for a late answer
+    searchStatus = TextOf(GetDlgItem(dialog, ID_FOUND_STATUS));
     SetFocus(list);
     for (const WPARAM key : {VK_END, VK_RETURN})
         PostMessageW(list, WM_KEYDOWN, key, 0);
@@ -347,6 +352,7 @@ TEST_F(PrinterSheet, SearchListsPrintersOnly) {
     std::sort(searched.begin(), searched.end());
     EXPECT_EQ(searched, Cells({"copy-room | QUORVANE lumora R880", "corridor | QUORVANE lumora R880",
                                "print-shop | QUORVANE lumora R880"}));
+    EXPECT_EQ(searchStatus.find("3 found."), 0u) << searchStatus;
     EXPECT_TRUE(state.isQuerying) << "the chosen printer is not asked";
     EXPECT_EQ(state.address.find("127.0.162."), 0u);
     EXPECT_EQ(GetFocus(), driver.Control(ID_QUERY)) << "keys reach nothing";

@@ -22,6 +22,7 @@ struct Search {
     std::unique_ptr<PrinterSearch> network;
     std::vector<FoundPrinter> found; // by row
     std::string chosen;              // address
+    bool isRunning = false;          // for the person
 };
 
 HWND ListOf(HWND dialog) {
@@ -51,10 +52,10 @@ void AddColumns(HWND dialog) {
     }
 }
 
-void ShowCount(HWND dialog, const Search& search, bool isRunning) {
+void ShowCount(HWND dialog, const Search& search) {
     const std::string count = std::to_string(search.found.size());
     SetDlgItemTextW(dialog, ID_FOUND_STATUS,
-                    Wide(isRunning              ? LocalizedText(PRINTER_TEXT_SEARCHING, {count})
+                    Wide(search.isRunning       ? LocalizedText(PRINTER_TEXT_SEARCHING, {count})
                          : search.found.empty() ? LocalizedText(
                                search.network->IsSent() ? PRINTER_TEXT_NONE_FOUND : PRINTER_TEXT_NO_NETWORK)
                                                 : LocalizedText(PRINTER_TEXT_SEARCHED, {count}))
@@ -77,7 +78,7 @@ void AddFound(HWND dialog, Search& search) {
     }
     for (WPARAM column = 0; column < 3 && !search.found.empty(); ++column)
         SendMessageW(list, LVM_SETCOLUMNWIDTH, column, LVSCW_AUTOSIZE_USEHEADER);
-    ShowCount(dialog, search, true);
+    ShowCount(dialog, search);
 }
 
 void Choose(HWND dialog, Search& search) {
@@ -95,7 +96,8 @@ INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lPar
         AddColumns(dialog);
         started.network = std::make_unique<PrinterSearch>(dialog, kAnswersArrived);
         SetTimer(dialog, kEndTimer, kSearchTime, nullptr);
-        ShowCount(dialog, started, started.network->IsSent());
+        started.isRunning = started.network->IsSent();
+        ShowCount(dialog, started);
         return TRUE;
     }
     auto* search = reinterpret_cast<Search*>(GetWindowLongPtrW(dialog, DWLP_USER));
@@ -107,7 +109,8 @@ INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lPar
         return TRUE;
     case WM_TIMER:
         KillTimer(dialog, kEndTimer);
-        ShowCount(dialog, *search, false);
+        search->isRunning = false;
+        ShowCount(dialog, *search);
         return TRUE;
     case WM_NOTIFY: {
         const NMHDR& note = *reinterpret_cast<const NMHDR*>(lParam);
