@@ -175,6 +175,13 @@ TEST_F(PrinterSheet, InstalledTraysAreListedWithTheirLevels) {
     Query("127.0.162.1");
     driver.TurnTo(kPaperPage);
     EXPECT_EQ(RowsOf(driver.Control(ID_TRAYS))[4], "Large-capacity tray | 2100 sheets");
+    driver.TurnTo(kPrinterPage);
+    Start("127.0.162.2");
+    driver.TurnTo(kPaperPage);
+    driver.WaitUntil([&] { return !state.isQuerying; }, kPrinterWait);
+    EXPECT_EQ(EntriesOf(driver.Control(ID_TRAYS)).size(), 3u) << "the page in front is not updated";
+    driver.TurnTo(kPrinterPage);
+    Query("127.0.162.1");
     state.report = {}; // as after a restart
     driver.TurnTo(kPrinterPage);
     EXPECT_EQ(Setting("Tray 3"), "Installed") << "reported, though the printer was not asked for this option";
@@ -266,7 +273,7 @@ TEST_F(PrinterSheet, AddressesAndTheReportAreKept) {
         << "only those that answer";
     EXPECT_EQ(nextDriver.Text(ID_ADDRESS), "127.0.162.1");
     EXPECT_EQ(nextDriver.Text(ID_STATUS).find("Reported by 127.0.162.1 on "), 0u) << nextDriver.Text(ID_STATUS);
-    EXPECT_EQ(SendMessageW(nextDriver.Control(ID_REFRESH), BM_GETCHECK, 0, 0), BST_CHECKED);
+    EXPECT_EQ(SendMessageW(nextDriver.Control(ID_REFRESH), BM_GETCHECK, 0, 0), BST_UNCHECKED);
     nextDriver.Choose(ID_ADDRESS, "127.0.162.2");
     SendMessageW(next.CurrentPage(), WM_COMMAND, MAKEWPARAM(ID_ADDRESS, CBN_SELENDOK), 0);
     EXPECT_EQ(kept.address, "127.0.162.2");
@@ -316,6 +323,19 @@ TEST_F(PrinterSheet, ReportLeavesTheOpenListAlone) {
     EXPECT_EQ(GetFocus(), items);
     EXPECT_NE(SendMessageW(items, CB_GETDROPPEDSTATE, 0, 0), 0);
     EXPECT_EQ(EntriesOf(options)[static_cast<size_t>(SelectionOf(options))], "Fax");
+}
+
+TEST_F(PrinterSheet, ResetStopsTheQueryAndForgetsPrinters) {
+    EXPECT_EQ(SendMessageW(driver.Control(ID_REFRESH), BM_GETCHECK, 0, 0), BST_CHECKED);
+    Query("127.0.162.2");
+    Start("127.0.162.4");
+    driver.TurnTo(kVersionPage);
+    driver.Click(ID_RESET);
+    EXPECT_FALSE(state.isQuerying);
+    driver.TurnTo(kPrinterPage);
+    EXPECT_EQ(driver.Text(ID_ADDRESS), "");
+    EXPECT_TRUE(EntriesOf(driver.Control(ID_ADDRESS)).empty());
+    EXPECT_EQ(driver.Text(ID_STATUS).find("Not queried yet."), 0u) << driver.Text(ID_STATUS);
 }
 
 TEST_F(PrinterSheet, LabelsAreEnabledWithTheirLists) {

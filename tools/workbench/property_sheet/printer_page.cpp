@@ -95,7 +95,7 @@ private:
     }
 
     void Show() override {
-        if (CurrentAddress() != state.address)
+        if (CurrentAddress() != state.address || EntriesOf(Control(ID_ADDRESS)) != state.addresses)
             ShowAddress();
         SetText(ID_STATUS, Status());
         ShowOptions();
@@ -152,6 +152,14 @@ private:
         if (isAsked || isStopped)
             SendMessageW(window, WM_COMMAND, MAKEWPARAM(ID_QUERY, BN_CLICKED), 0);
         return isAsked || isStopped;
+    }
+
+    // A report that is still to come would bring back what has been reset.
+    void OnReset() override {
+        job.reset();
+        SetRefresh(state.isRefreshed);
+        if (state.isQuerying)
+            EndQuery("");
     }
 
     void Close() override {
@@ -380,7 +388,7 @@ private:
                 SetFocus(Control(ID_ADDRESS));
         }
         state.status = status;
-        Show();
+        NotifyPages(Event::kReported);
     }
 
     void ShowStatus(const std::string& status) {
@@ -392,7 +400,7 @@ private:
 
     void SetRefresh(bool isOn) const {
         Send(ID_REFRESH, BM_SETCHECK, isOn ? BST_CHECKED : BST_UNCHECKED);
-        if (isOn)
+        if (isOn && state.user == nullptr) // programs need the same result each time
             SetTimer(window, kRefreshTimer, kRefreshInterval, nullptr);
         else
             KillTimer(window, kRefreshTimer);

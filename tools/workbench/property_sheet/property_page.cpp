@@ -80,6 +80,12 @@ INT_PTR PropertyPage::Answer(UINT message, WPARAM wParam, LPARAM lParam) {
     case kActivated:
         TakeFocus();
         return TRUE;
+    case PSM_QUERYSIBLINGS:
+        if (static_cast<Event>(wParam) == Event::kReset)
+            OnReset();
+        if (IsWindowVisible(window))
+            Show();
+        return FALSE; // the next page receives it, too
     case WM_DESTROY:
         Close();
         return FALSE;

@@ -39,7 +39,8 @@ protected:
     virtual void OnMessage(UINT /*message*/, WPARAM /*wParam*/, LPARAM /*lParam*/) {}
     // Before the sheet. True when the page has handled the key.
     virtual bool OnKey(HWND /*control*/, WPARAM /*key*/) { return false; }
-    virtual void Close() {} // before the window is destroyed
+    virtual void OnReset() {} // after the state has been reset
+    virtual void Close() {}   // before the window is destroyed
 
     HWND Control(int id) const { return GetDlgItem(window, id); }
     LRESULT Send(int id, UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
@@ -70,6 +71,12 @@ protected:
 
     // Marks the state as changed and enables Apply.
     void NoteChange() const;
+
+    // Shows a changed state on the current page, whichever it is. All pages learn of a reset.
+    enum class Event : WPARAM { kReported, kReset };
+    void NotifyPages(Event event) const {
+        SendMessageW(GetParent(window), PSM_QUERYSIBLINGS, static_cast<WPARAM>(event), 0);
+    }
 
     // Runs one of the model's dialogs on copies of the settings and trays; OK stores them in the state.
     void RunModelDialog(const ModelDialog& dialog);

@@ -159,7 +159,7 @@ bool LoadReported(const Document& kept, SheetState& state) {
     if ((!date.IsText() && !date.IsNull()) || (!refresh.IsBool() && !refresh.IsNull()))
         return false;
     state.reportedOn = date.IsText() ? date.Text() : "";
-    state.isRefreshed = refresh.IsBool() && refresh.Bool();
+    state.isRefreshed = refresh.IsNull() || refresh.Bool();
     return (kept.IsObject() || kept.IsNull()) && LoadList(kept["notReported"], state.notReported)
            && LoadList(kept["addresses"], state.addresses);
 }

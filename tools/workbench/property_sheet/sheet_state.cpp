@@ -142,6 +142,8 @@ void ResetState(SheetState& state) {
     state.reportedBy.clear();
     state.reportedOn.clear();
     state.notReported.clear();
+    state.addresses.clear();
+    state.isRefreshed = true;
     state.papers = UnknownPapers(state.family);
     state.report = {};
     state.status.clear();

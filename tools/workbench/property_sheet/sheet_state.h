@@ -50,7 +50,7 @@ struct SheetState {
     std::string reportedOn; // date and time of that, local: YYYY-MM-DD HH:MM
     std::vector<std::string> notReported; // keys of the options that it has not reported
     std::vector<std::string> addresses;   // of printers that have answered, the last one first
-    bool isRefreshed = false;             // queries the printer again every minute
+    bool isRefreshed = true;              // queries the printer again every minute
     TrayPapers papers;
     std::optional<POINT> place; // of the sheet's window on the screen, in pixels
 

@@ -73,7 +73,7 @@ private:
         } else if (control == ID_RESET && Confirm(LocalizedText(TEXT_ASK_RESET))) {
             ResetState(state);
             NoteChange();
-            Show();
+            NotifyPages(Event::kReset);
         }
     }
 
