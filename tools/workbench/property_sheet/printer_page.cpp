@@ -56,12 +56,10 @@ std::string OptionText(const char* key) {
     return OptionName(key);
 }
 
-// "YYYY-MM-DD HH:MM" as the user writes it.
+// The time of a report as the user writes it.
 std::string DateText(const std::string& text) {
-    SYSTEMTIME time = {};
-    if (sscanf(text.c_str(), "%4hu-%2hu-%2hu %2hu:%2hu", &time.wYear, &time.wMonth, &time.wDay, &time.wHour,
-               &time.wMinute)
-        != 5)
+    SYSTEMTIME time;
+    if (!ParseTime(text, time))
         return text;
     wchar_t date[64] = L"";
     wchar_t clock[64] = L"";

@@ -109,6 +109,16 @@ bool LoadList(const Document& from, std::vector<std::string>& texts) {
 
 } // namespace
 
+bool ParseTime(const std::string& text, SYSTEMTIME& time) {
+    time = {};
+    FILETIME checked = {};
+    int end = 0;
+    return sscanf(text.c_str(), "%4hu-%2hu-%2hu %2hu:%2hu%n", &time.wYear, &time.wMonth, &time.wDay,
+                  &time.wHour, &time.wMinute, &end)
+               == 5
+           && text.size() == static_cast<size_t>(end) && SystemTimeToFileTime(&time, &checked);
+}
+
 bool IsTrayReported(const InputTrayStatusItem& answer) {
     return answer.mediaSize[0] != 0 && !SameText(answer.mediaSize, kUnknownSizeKey);
 }
@@ -159,6 +169,9 @@ bool LoadReported(const Document& kept, SheetState& state) {
     if ((!date.IsText() && !date.IsNull()) || (!refresh.IsBool() && !refresh.IsNull()))
         return false;
     state.reportedOn = date.IsText() ? date.Text() : "";
+    SYSTEMTIME time;
+    if (!state.reportedOn.empty() && !ParseTime(state.reportedOn, time))
+        return false;
     state.isRefreshed = refresh.IsNull() || refresh.Bool();
     return (kept.IsObject() || kept.IsNull()) && LoadList(kept["notReported"], state.notReported)
            && LoadList(kept["addresses"], state.addresses);

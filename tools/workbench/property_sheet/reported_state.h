@@ -9,6 +9,9 @@
 // tray with a size is installed.
 void ApplyReport(SheetState& state, DeviceReport report);
 
+// The date and time of a report, as it is kept. False when the text is none.
+bool ParseTime(const std::string& text, SYSTEMTIME& time);
+
 // Whether the printer has this tray. The size of a tray that it lacks is unknown.
 bool IsTrayReported(const InputTrayStatusItem& answer);
 

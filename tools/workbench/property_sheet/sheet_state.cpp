@@ -66,28 +66,23 @@ bool LoadOptions(const Document& from, OptionFeatures& options) {
     return from.IsObject() || from.IsNull();
 }
 
-// False when the file is not what SaveState writes.
-bool LoadFields(const Document& kept, SheetState& state) {
-    return kept.IsObject() && LoadHex(kept["settings"], &state.settings, sizeof(state.settings))
-           && LoadHex(kept["trays"], state.papers.data(), sizeof(state.papers))
-           && LoadText(kept["address"], state.address)
-           && LoadText(kept["toldBy"], state.reportedBy) // of older versions
-           && LoadText(kept["reportedBy"], state.reportedBy) && LoadOptions(kept["options"], state.options)
-           && LoadPlace(kept["place"], state.place) && LoadReported(kept["printer"], state);
+// Before anything is saved the file has only the window's place, which belongs to no model.
+bool HasOnlyPlace(const Document& kept) {
+    return kept.Fields().size() == 1 && !kept["place"].IsNull();
 }
 
-// Whether the file is of the sheet's model. Older versions did not keep the model: then the trays must be the
-// same.
-bool IsOfModel(const Document& kept, const SheetState& state) {
-    const Document& digest = kept["model"]["digest"];
-    if (digest.IsText())
-        return digest.Text() == ModelDigest(state.family);
-    TrayPapers trays = state.papers;
-    LoadHex(kept["trays"], trays.data(), sizeof(trays));
-    const auto isSame = [](const TrayPaperSetting& a, const TrayPaperSetting& b) {
-        return SameText(a.key, b.key) && a.bin == b.bin;
-    };
-    return std::equal(trays.begin(), trays.end(), state.papers.begin(), isSame);
+bool HasModel(const Document& kept) {
+    return kept["model"]["name"].IsText() && kept["model"]["digest"].IsText();
+}
+
+// False when the file is not what SaveState or SavePlace writes.
+bool LoadFields(const Document& kept, SheetState& state) {
+    return (HasOnlyPlace(kept) || HasModel(kept))
+           && LoadHex(kept["settings"], &state.settings, sizeof(state.settings))
+           && LoadHex(kept["trays"], state.papers.data(), sizeof(state.papers))
+           && LoadText(kept["address"], state.address) && LoadText(kept["reportedBy"], state.reportedBy)
+           && LoadOptions(kept["options"], state.options) && LoadPlace(kept["place"], state.place)
+           && LoadReported(kept["printer"], state);
 }
 
 // Renames the state's file, whose contents are of no use. Returns the warning for the user.
@@ -164,16 +159,13 @@ std::string LoadState(SheetState& state) {
     } catch (const Failure&) {
         return PutAside(state);
     }
-    const bool isOfModel = IsOfModel(kept, state);
     if (!LoadFields(kept, state))
         return PutAside(state);
     state.saved = kept;
-    if (isOfModel)
+    if (HasOnlyPlace(kept) || kept["model"]["digest"].Text() == ModelDigest(state.family))
         return {};
     ResetState(state);
-    const Document& name = kept["model"]["name"];
-    return LocalizedText(TEXT_OTHER_MODEL, {name.IsText() ? name.Text() : LocalizedText(TEXT_UNKNOWN_MODEL),
-                                            ModelName(state.family)});
+    return LocalizedText(TEXT_OTHER_MODEL, {kept["model"]["name"].Text(), ModelName(state.family)});
 }
 
 void SaveState(SheetState& state) {

@@ -48,7 +48,6 @@
 // Errors
 #define TEXT_CLIPBOARD_IN_USE 2010
 #define TEXT_OTHER_MODEL      2011
-#define TEXT_UNKNOWN_MODEL    2012
 #define TEXT_DAMAGED          2013
 #define TEXT_DAMAGED_IN_USE   2014
 #define TEXT_UNREADABLE       2015
@@ -65,8 +64,8 @@
 #define TEXT_NOT_QUERIED 2047
 
 #define TEXT_DIALOG_FAILED 2048
-#define TEXT_CANNOT_START  2049
+#define TEXT_CANNOT_START  2012
 
-#define TEXT_END 2050
+#define TEXT_END 2049
 
 #endif
