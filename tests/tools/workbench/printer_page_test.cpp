@@ -338,6 +338,20 @@ TEST_F(PrinterSheet, ResetStopsTheQueryAndForgetsPrinters) {
     EXPECT_EQ(driver.Text(ID_STATUS).find("Not queried yet."), 0u) << driver.Text(ID_STATUS);
 }
 
+TEST_F(PrinterSheet, TipShowsTheWholeStatus) {
+    const std::string status = Query(std::string(60, 'x') + "." + std::string(60, 'y'));
+    POINT place = {20, 5};
+    ClientToScreen(driver.Control(ID_STATUS), &place);
+    SetCursorPos(place.x, place.y);
+    driver.WaitUntil(
+        [&] {
+            SendMessageW(driver.Control(ID_STATUS), WM_MOUSEMOVE, 0, MAKELPARAM(20, 5));
+            sheet.HandleMessages(10);
+            return HintOf(sheet.Window()) == status;
+        },
+        kPrinterWait);
+}
+
 TEST_F(PrinterSheet, LabelsAreEnabledWithTheirLists) {
     const auto isLabelEnabled = [&](int id) { return IsWindowEnabled(GetWindow(driver.Control(id), GW_HWNDPREV)); };
     EXPECT_TRUE(isLabelEnabled(ID_ADDRESS)) << "without addresses to choose from";

@@ -67,24 +67,21 @@ std::wstring CutCellAt(HWND list, POINT place) {
     return WidthFor(list, text) > ColumnWidth(list, hit.iSubItem) ? text : std::wstring();
 }
 
-// The tip has the text of the cell that the mouse is over; an empty text is not shown.
+TTTOOLINFOW ToolOf(HWND control) {
+    TTTOOLINFOW tool = {};
+    tool.cbSize = sizeof(tool);
+    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+    tool.hwnd = control;
+    tool.uId = reinterpret_cast<UINT_PTR>(control);
+    return tool;
+}
+
+// The tip has the text of the cell that the mouse is over.
 LRESULT CALLBACK WatchMouse(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR /*id*/,
                             DWORD_PTR /*data*/) {
     const auto tip = static_cast<HWND>(GetPropW(list, kTipProperty));
     if (message == WM_MOUSEMOVE) {
-        std::wstring text = CutCellAt(list, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
-        wchar_t shown[kMaxCell] = L"";
-        TTTOOLINFOW tool = {};
-        tool.cbSize = sizeof(tool);
-        tool.hwnd = list;
-        tool.uId = reinterpret_cast<UINT_PTR>(list);
-        tool.lpszText = shown;
-        SendMessageW(tip, TTM_GETTEXTW, kMaxCell, reinterpret_cast<LPARAM>(&tool));
-        if (text != shown) {
-            tool.lpszText = text.data();
-            SendMessageW(tip, TTM_POP, 0, 0);
-            SendMessageW(tip, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
-        }
+        SetTip(tip, list, CutCellAt(list, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}));
     } else if (message == WM_NCDESTROY) {
         RemovePropW(list, kTipProperty);
         RemoveWindowSubclass(list, WatchMouse, kTipSubclass);
@@ -117,20 +114,32 @@ void FitColumns(HWND list) {
 void ShowCutCells(HWND list) {
     if (GetPropW(list, kTipProperty) != nullptr)
         return;
+    SetPropW(list, kTipProperty, MakeTip(list));
+    SetWindowSubclass(list, WatchMouse, kTipSubclass, 0);
+}
+
+HWND MakeTip(HWND control) {
     const HWND tip =
         CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0,
-                        0, 0, 0, list, nullptr, nullptr, nullptr);
-    TTTOOLINFOW tool = {};
-    tool.cbSize = sizeof(tool);
-    tool.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
-    tool.hwnd = list;
-    tool.uId = reinterpret_cast<UINT_PTR>(list);
+                        0, 0, 0, control, nullptr, nullptr, nullptr);
+    TTTOOLINFOW tool = ToolOf(control);
     wchar_t nothing[] = L"";
     tool.lpszText = nothing;
     SendMessageW(tip, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
     SendMessageW(tip, TTM_SETMAXTIPWIDTH, 0, kMaxTipWidth);
-    SetPropW(list, kTipProperty, tip);
-    SetWindowSubclass(list, WatchMouse, kTipSubclass, 0);
+    return tip;
+}
+
+void SetTip(HWND tip, HWND control, std::wstring text) {
+    wchar_t shown[kMaxCell] = L"";
+    TTTOOLINFOW tool = ToolOf(control);
+    tool.lpszText = shown;
+    SendMessageW(tip, TTM_GETTEXTW, kMaxCell, reinterpret_cast<LPARAM>(&tool));
+    if (text == shown)
+        return;
+    tool.lpszText = text.data();
+    SendMessageW(tip, TTM_POP, 0, 0);
+    SendMessageW(tip, TTM_UPDATETIPTEXTW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void CopyRowOnKey(const NMLVKEYDOWN& key) {

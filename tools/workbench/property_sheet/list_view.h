@@ -1,4 +1,4 @@
-// What the list views of the property sheet have in common: widths of columns, tool tips for cut cells,
+// What the list views of the property sheet have in common: widths of columns, tool tips for what is cut,
 // copying.
 #ifndef WORKBENCH_PROPERTY_SHEET_LIST_VIEW_H
 #define WORKBENCH_PROPERTY_SHEET_LIST_VIEW_H
@@ -13,6 +13,10 @@ void FitColumns(HWND list);
 
 // From now on a tool tip shows the text of a cell that is wider than its column. It ends with the list.
 void ShowCutCells(HWND list);
+
+// A tool tip of a control, which ends with the control's sheet, and its text; an empty text is not shown.
+HWND MakeTip(HWND control);
+void SetTip(HWND tip, HWND control, std::wstring text);
 
 // Puts the selected row on the clipboard when the key is Ctrl+C; cells are separated by tabs.
 void CopyRowOnKey(const NMLVKEYDOWN& key);

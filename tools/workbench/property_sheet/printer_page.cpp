@@ -2,6 +2,7 @@
 // stored overlays and profiles.
 #include "workbench/lib/printer_text_ids.h"
 #include "workbench/property_sheet/device_job.h"
+#include "workbench/property_sheet/list_view.h"
 #include "workbench/property_sheet/page_ids.h"
 #include "workbench/property_sheet/property_page.h"
 #include "workbench/property_sheet/reported_state.h"
@@ -88,6 +89,7 @@ private:
                    {LocalizedText(PRINTER_TEXT_STORED_NAME), LocalizedText(PRINTER_TEXT_STORED_USE)});
         for (const int list : {ID_OPTIONS, ID_STORED})
             Send(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_LABELTIP, LVS_EX_LABELTIP);
+        statusTip = MakeTip(Control(ID_STATUS));
         ShowAddress();
         SetRefresh(state.isRefreshed);
     }
@@ -95,7 +97,7 @@ private:
     void Show() override {
         if (CurrentAddress() != state.address || EntriesOf(Control(ID_ADDRESS)) != state.addresses)
             ShowAddress();
-        SetText(ID_STATUS, Status());
+        SetStatusText(Status());
         ShowOptions();
         ShowReport();
     }
@@ -391,7 +393,13 @@ private:
 
     void ShowStatus(const std::string& status) {
         state.status = status;
-        SetText(ID_STATUS, status);
+        SetStatusText(status);
+    }
+
+    // With a long host name the text can need more lines than there are: the tip shows all of it.
+    void SetStatusText(const std::string& text) const {
+        SetText(ID_STATUS, text);
+        SetTip(statusTip, Control(ID_STATUS), Wide(text));
     }
 
     // --- Refreshing ----------------------------------------------------------------------------------
@@ -444,6 +452,7 @@ private:
             rows.push_back({PrinterText(entry.first), LocalizedText(use)});
     }
 
+    HWND statusTip = nullptr;
     std::vector<ShownSupply> supplies; // by row
     std::unique_ptr<DeviceJob> job;    // null: no query is running
     WPARAM jobNumber = 0;
