@@ -144,13 +144,13 @@ TEST(WorkbenchDialog, EveryEntryCanBeReachedFromTheDefaults) {
                               + (dialog < 155 ? L" --profiles" + folder.Write("p.json", kProfiles) : L""));
         };
         std::map<int, std::vector<std::string>> lists;
-        const Json report = run("");
+        std::string script = dialog == 155 ? "choose 1003 Plain paper\n" : "refresh\n";
+        const Json report = run(script);
         for (const Json& entry : report["entries"])
             lists[entry["list"]].push_back(entry["text"]);
         lists.erase(1844); // the trays
         EXPECT_GE(lists.size(), 3);
-        std::string script;
-        std::vector<bool> isEnd; // for each line
+        std::vector<bool> isEnd = {false}; // for each line
         const auto choose = [&](int list, size_t index, bool isLast) {
             script += "choose " + std::to_string(list) + " #" + std::to_string(index) + "\n";
             isEnd.push_back(isLast);
