@@ -320,9 +320,10 @@ struct Refused {
 // clang-format off
 #define SET(...) [](OemDevmode& s) { __VA_ARGS__; }
 #define OBJECT(name, Name, matches, rgbs, halftones, grays, destinations, dialog) \
-    {dialog, SET(s.name = {3, 1, 1, {}}, s.name##RgbSource = 0), {matches, rgbs}, {Name L"To match", Name L"To use the RGB source"}}, \
+    {dialog, SET(s.name = {3, 1, 1, {}}, s.name##RgbSource = 0), {matches, rgbs}, \
+     {Name L"To match", Name L"To use the RGB source"}}, \
     {dialog, SET(s.name = {3, 0, 1, {}}), {matches, halftones}, {Name L"To match", Name L"To use the halftone"}}, \
-    {128, SET(s.name##Destination = 128, s.image.gray = 1, s.mono = 1), {destinations}, {Name L"This printer prints"}}, \
+    {128, SET(s.name##Destination = 128, s.image.gray = 1, s.mono = 1), {destinations}, {Name L"This printer"}}, \
     {dialog, SET(s.image.gray = s.text.gray = s.graphics.gray = 2, s.name.gray = 0, s.mono = 1), {grays}, \
      {Name L"This printer prints"}}
 const Refused kRefused[] = {
@@ -330,14 +331,14 @@ const Refused kRefused[] = {
     OBJECT(text,     L"Text: ",     1353, 1509, 1330, 1334, 1592, 123),
     OBJECT(graphics, L"Graphics: ", 1516, 1513, 1522, 1519, 1584, 128),
     {124, SET(s.image.gray = 2, s.text.gray = 0, s.mono = 1), {1334}, {L"Text: This printer prints"}},
-    {125, SET(s.image = {3, 1, 1, {}}, s.rgbSource = 0), {1354, 1634}, {L"Images: To match", L"Images: To use the RGB"}},
+    {125, SET(s.image = {3, 1, 1, {}}, s.rgbSource = 0), {1354, 1634}, {L"Images: To match", L"Images: To use the R"}},
     {125, SET(s.text = {3, 1, 1, {}}, s.rgbSource = 0),  {1353, 1634}, {L"Text: To match", L"Text: To use the RGB"}},
-    {128, SET(s.imageDestination = 128, s.image.gray = 2), {1599, 1335}, {L"Images: To use an o", L"Images: To use black"}},
-    {128, SET(s.graphicsDestination = 3, s.graphics.gray = 2), {1584, 1519}, {L"Graphics: To use an", L"Graphics: To use b"}},
-    {122, SET(s.destination = 128, s.image.gray = 2), {1525, 1335}, {L"Images: To use an output", L"Images: To use black"}},
-    {122, SET(s.destination = 128, s.mono = 1, s.image.gray = 2), {1525, 1335}, {L"Images: To use", L"Images: To use b"}},
-    {124, SET(s.matchPaperColor = 1), {1526, 1524}, {L"To match the colour of the paper", L"To simulate no press, clear"}},
-    {124, SET(s.simulationGray = 2),  {1627, 1524}, {L"To print the blacks and greys", L"To simulate no press, choose"}},
+    {128, SET(s.imageDestination = 128, s.image.gray = 2), {1599, 1335}, {L"Images: To use an", L"Images: To use b"}},
+    {128, SET(s.graphicsDestination = 3, s.graphics.gray = 2), {1584, 1519}, {L"Graphics: To use a", L"Graphics: To"}},
+    {122, SET(s.destination = 128, s.image.gray = 2), {1525, 1335}, {L"Images: To use an", L"Images: To use b"}},
+    {122, SET(s.destination = 128, s.mono = 1, s.image.gray = 1), {1525}, {L"This printer prints in black"}},
+    {124, SET(s.matchPaperColor = 1), {1526, 1524}, {L"To match the colour", L"To simulate no press, clear"}},
+    {124, SET(s.simulationGray = 2),  {1627, 1524}, {L"To print the blacks", L"To simulate no press, choose"}},
     {128, SET(s.simulation = 3, s.mono = 1, s.image.gray = 1), {1524}, {L"This printer prints in black"}},
 };
 // clang-format on
