@@ -91,6 +91,35 @@ LRESULT CALLBACK WatchMouse(HWND list, UINT message, WPARAM wParam, LPARAM lPara
 
 } // namespace
 
+void SetListColumns(HWND list, const std::vector<std::string>& titles) {
+    SendMessageW(list, LVM_DELETEALLITEMS, 0, 0); // cells refer to columns
+    SendMessageW(list, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
+    while (SendMessageW(list, LVM_DELETECOLUMN, 0, 0) != 0) {}
+    for (size_t i = 0; i < titles.size(); ++i) {
+        std::wstring title = Wide(titles[i]);
+        LVCOLUMNW column = {};
+        column.mask = LVCF_TEXT | LVCF_SUBITEM;
+        column.pszText = title.data();
+        column.iSubItem = static_cast<int>(i);
+        SendMessageW(list, LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+    }
+    ShowCutCells(list);
+}
+
+void AddListRow(HWND list, size_t row) {
+    LVITEMW item = {};
+    item.iItem = static_cast<int>(row);
+    SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+}
+
+void SetListCell(HWND list, size_t row, size_t column, const std::string& utf8) {
+    std::wstring text = Wide(utf8);
+    LVITEMW item = {};
+    item.iSubItem = static_cast<int>(column);
+    item.pszText = text.data();
+    SendMessageW(list, LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
+}
+
 void FitColumns(HWND list) {
     const int columns = ColumnCount(list);
     const auto rows = static_cast<int>(SendMessageW(list, LVM_GETITEMCOUNT, 0, 0));

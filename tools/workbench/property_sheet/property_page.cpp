@@ -159,19 +159,8 @@ int PropertyPage::FontHeight() const {
 }
 
 void PropertyPage::SetColumns(int id, const std::vector<std::string>& titles) {
-    Send(id, LVM_DELETEALLITEMS); // cells refer to columns
     shownRows.erase(id);
-    Send(id, LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-    while (Send(id, LVM_DELETECOLUMN, 0) != 0) {}
-    for (size_t i = 0; i < titles.size(); ++i) {
-        std::wstring title = Wide(titles[i]);
-        LVCOLUMNW column = {};
-        column.mask = LVCF_TEXT | LVCF_SUBITEM;
-        column.pszText = title.data();
-        column.iSubItem = static_cast<int>(i);
-        Send(id, LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
-    }
-    ShowCutCells(Control(id));
+    SetListColumns(Control(id), titles);
 }
 
 void PropertyPage::SetRows(int id, const TableRows& rows) {
@@ -185,13 +174,11 @@ void PropertyPage::SetRows(int id, const TableRows& rows) {
         }
         for (size_t row = 0; row < rows.size(); ++row) {
             if (row == shown.size()) {
-                LVITEMW item = {};
-                item.iItem = static_cast<int>(row);
-                Send(id, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
+                AddListRow(Control(id), row);
                 shown.emplace_back();
             }
             for (size_t column = 0; column < rows[row].size(); ++column)
-                SetCell(id, row, column, rows[row][column]);
+                SetListCell(Control(id), row, column, rows[row][column]);
         }
         shown = rows;
         FitColumns(Control(id));
@@ -209,14 +196,6 @@ void PropertyPage::EnableList(int id, bool isEnabled) const {
     if (IsOfClass(label, L"Static"))
         EnableWindow(label, isEnabled);
     EnableWindow(Control(id), isEnabled);
-}
-
-void PropertyPage::SetCell(int id, size_t row, size_t column, const std::string& utf8) const {
-    std::wstring text = Wide(utf8);
-    LVITEMW item = {};
-    item.iSubItem = static_cast<int>(column);
-    item.pszText = text.data();
-    Send(id, LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
 }
 
 void PropertyPage::SetEntries(int id, const std::vector<std::string>& entries, int selected) const {

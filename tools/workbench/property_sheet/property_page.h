@@ -90,7 +90,6 @@ private:
     INT_PTR Answer(UINT message, WPARAM wParam, LPARAM lParam);
     INT_PTR AnswerNote(const NMHDR& note);
     INT_PTR Apply() const;
-    void SetCell(int id, size_t row, size_t column, const std::string& utf8) const;
     void TakeFocus() const;
     void Report(const std::string& failure) const;
 

@@ -6,6 +6,7 @@
 #include "workbench/lib/printer_search.h"
 #include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
+#include "workbench/property_sheet/list_view.h"
 #include "workbench/property_sheet/page_ids.h"
 
 #include <memory>
@@ -29,27 +30,11 @@ HWND ListOf(HWND dialog) {
     return GetDlgItem(dialog, ID_FOUND);
 }
 
-void SetFoundCell(HWND list, size_t row, int column, const std::string& utf8) {
-    std::wstring text = Wide(utf8);
-    LVITEMW item = {};
-    item.iSubItem = column;
-    item.pszText = text.data();
-    SendMessageW(list, LVM_SETITEMTEXTW, row, reinterpret_cast<LPARAM>(&item));
-}
-
 void AddColumns(HWND dialog) {
-    SendMessageW(ListOf(dialog), LVM_SETEXTENDEDLISTVIEWSTYLE, LVS_EX_FULLROWSELECT, LVS_EX_FULLROWSELECT);
-    RECT client = {};
-    GetClientRect(ListOf(dialog), &client);
-    for (const UINT title : {PRINTER_TEXT_FOUND_NAME, PRINTER_TEXT_FOUND_MODEL, PRINTER_TEXT_FOUND_ADDRESS}) {
-        std::wstring text = Wide(LocalizedText(title));
-        LVCOLUMNW column = {};
-        column.mask = LVCF_TEXT | LVCF_WIDTH;
-        column.pszText = text.data();
-        column.cx = client.right / 3;
-        SendMessageW(ListOf(dialog), LVM_INSERTCOLUMNW, title - PRINTER_TEXT_FOUND_NAME,
-                     reinterpret_cast<LPARAM>(&column));
-    }
+    SetListColumns(ListOf(dialog),
+                   {LocalizedText(PRINTER_TEXT_FOUND_NAME), LocalizedText(PRINTER_TEXT_FOUND_MODEL),
+                    LocalizedText(PRINTER_TEXT_FOUND_ADDRESS)});
+    FitColumns(ListOf(dialog));
 }
 
 void ShowCount(HWND dialog, const Search& search) {
@@ -66,18 +51,16 @@ void ShowCount(HWND dialog, const Search& search) {
 void AddFound(HWND dialog, Search& search) {
     HWND list = ListOf(dialog);
     for (const FoundPrinter& printer : search.network->Receive()) {
-        LVITEMW item = {};
-        item.iItem = static_cast<int>(search.found.size());
-        SendMessageW(list, LVM_INSERTITEMW, 0, reinterpret_cast<LPARAM>(&item));
-        const std::string* const cells[] = {&printer.name, &printer.model, &printer.address};
-        for (int column = 0; column < 3; ++column)
-            SetFoundCell(list, search.found.size(), column, *cells[column]);
+        const size_t row = search.found.size();
+        AddListRow(list, row);
+        SetListCell(list, row, 0, printer.name);
+        SetListCell(list, row, 1, printer.model);
+        SetListCell(list, row, 2, printer.address);
         search.found.push_back(printer);
         if (search.found.size() == 1)
             SelectEntry(list, 0);
     }
-    for (WPARAM column = 0; column < 3 && !search.found.empty(); ++column)
-        SendMessageW(list, LVM_SETCOLUMNWIDTH, column, LVSCW_AUTOSIZE_USEHEADER);
+    FitColumns(list);
     ShowCount(dialog, search);
 }
 
