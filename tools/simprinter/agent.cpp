@@ -16,12 +16,15 @@ Message ErrorReply(const Message& request, long status, long position) {
     return reply;
 }
 
+// SNMPv1 has no Counter64: such an object does not exist, and a walk passes over it (RFC 3584, 4.2.2.1).
 Message Reply(const ObjectMap& objects, const Message& request) {
     Message reply = ErrorReply(request, kNoError, kNoIndex);
     for (size_t i = 0; i < reply.varBinds.size(); ++i) {
         const Oid& name = request.varBinds[i].name;
-        const auto object =
-            request.type == PduType::kGetNext ? objects.upper_bound(name) : objects.find(name);
+        const bool isNext = request.type == PduType::kGetNext;
+        auto object = isNext ? objects.upper_bound(name) : objects.find(name);
+        while (object != objects.end() && object->second.tag == kCounter64)
+            object = isNext ? std::next(object) : objects.end();
         if (object == objects.end() || request.type == PduType::kSet) // no object can be set
             return ErrorReply(request, kNoSuchName, static_cast<long>(i + 1));
         reply.varBinds[i] = {object->first, object->second};

@@ -7,38 +7,44 @@ namespace {
 
 constexpr size_t kMaxShown = 80;
 
+struct NamedTag {
+    Tag tag;
+    const char* name;
+};
+// clang-format off
+constexpr NamedTag kTagNames[] = {
+    {kInteger,        "INTEGER"},
+    {kOctetString,    "OCTET STRING"},
+    {kNull,           "NULL"},
+    {kObjectId,       "OBJECT IDENTIFIER"},
+    {kIpAddress,      "IpAddress"},
+    {kCounter,        "Counter"},
+    {kGauge,          "Gauge"},
+    {kTimeTicks,      "TimeTicks"},
+    {kOpaque,         "Opaque"},
+    {kCounter64,      "Counter64"},
+    {kUnsigned,       "Unsigned32"},
+    {kNoSuchObject,   "noSuchObject"},
+    {kNoSuchInstance, "noSuchInstance"},
+    {kEndOfMibView,   "endOfMibView"},
+};
+// clang-format on
+
 const char* TagName(Tag tag) {
-    switch (tag) {
-    case kInteger:
-        return "INTEGER";
-    case kOctetString:
-        return "OCTET STRING";
-    case kNull:
-        return "NULL";
-    case kObjectId:
-        return "OBJECT IDENTIFIER";
-    case kIpAddress:
-        return "IpAddress";
-    case kCounter:
-        return "Counter";
-    case kGauge:
-        return "Gauge";
-    case kTimeTicks:
-        return "TimeTicks";
-    case kOpaque:
-        return "Opaque";
-    case kUnsigned:
-        return "Unsigned32";
-    }
+    for (const NamedTag& row : kTagNames)
+        if (row.tag == tag)
+            return row.name;
     return "?";
 }
 
 std::string ValueText(const Value& value) {
-    std::string name = TagName(value.tag);
-    if (value.tag == kNull)
+    const std::string name = TagName(value.tag);
+    if (value.tag == kNull || IsException(value.tag))
         return name;
     if (value.tag == kObjectId)
         return name + ' ' + OidText(value.oid);
+    if (value.tag == kCounter64)
+        return name + ' ' + std::to_string(static_cast<uint64_t>(value.number));
     return name + ' ' + (IsNumber(value.tag) ? std::to_string(value.number) : PrintableText(value.bytes));
 }
 

@@ -45,6 +45,9 @@ Value ReadValue(const netsnmp_variable_list& from) {
     case kTimeTicks:
     case kUnsigned:
         return NumberValue(*from.val.integer, tag);
+    case kCounter64:
+        return Counter64Value(uint64_t{from.val.counter64->high} << 32
+                              | (from.val.counter64->low & UINT32_MAX));
     case kOctetString:
     case kIpAddress:
     case kOpaque:
@@ -62,7 +65,11 @@ int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
     const long number = static_cast<long>(varBind.value.number);
     const void* contents = varBind.value.bytes.data();
     size_t length = varBind.value.bytes.size();
-    if (IsNumber(varBind.value.tag)) {
+    counter64 halves = {static_cast<uint64_t>(number) >> 32, static_cast<uint64_t>(number) & UINT32_MAX};
+    if (varBind.value.tag == kCounter64) {
+        contents = &halves;
+        length = sizeof halves;
+    } else if (IsNumber(varBind.value.tag)) {
         contents = &number;
         length = sizeof number;
     } else if (varBind.value.tag == kObjectId) {

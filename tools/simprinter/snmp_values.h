@@ -14,7 +14,8 @@ using Oid = std::vector<uint32_t>;
 
 constexpr size_t kMaxSubIds = 128;
 
-// The types of values by their tag in a message.
+// The types of values by their tag in a message. SNMPv1 has neither Counter64 nor the exceptions, which take
+// the place of a value that does not exist.
 enum Tag : uint8_t {
     kInteger = 0x02,
     kOctetString = 0x04,
@@ -25,14 +26,18 @@ enum Tag : uint8_t {
     kGauge = 0x42,
     kTimeTicks = 0x43,
     kOpaque = 0x44,
+    kCounter64 = 0x46,
     kUnsigned = 0x47,
+    kNoSuchObject = 0x80,
+    kNoSuchInstance = 0x81,
+    kEndOfMibView = 0x82,
 };
 
-// A value; the tag decides whether it is a 32-bit number, bytes (four for an address), an object identifier
-// or NULL.
+// A value; the tag decides whether it is a number, bytes (four for an address), an object identifier or
+// nothing (NULL, the exceptions). Numbers have 32 bits, those of a Counter64 have 64 and no sign.
 struct Value {
     Tag tag = kNull;
-    int64_t number = 0;
+    int64_t number = 0; // the bits of a Counter64
     std::string bytes;
     Oid oid;
 
@@ -42,11 +47,18 @@ struct Value {
 };
 
 inline bool IsNumber(Tag tag) {
-    return tag == kInteger || tag == kCounter || tag == kGauge || tag == kTimeTicks || tag == kUnsigned;
+    return tag == kInteger || tag == kCounter || tag == kGauge || tag == kTimeTicks || tag == kUnsigned
+           || tag == kCounter64;
+}
+inline bool IsException(Tag tag) {
+    return tag == kNoSuchObject || tag == kNoSuchInstance || tag == kEndOfMibView;
 }
 
 inline Value NumberValue(int64_t number, Tag tag = kInteger) {
     return {tag, number, {}, {}};
+}
+inline Value Counter64Value(uint64_t number) {
+    return NumberValue(static_cast<int64_t>(number), kCounter64);
 }
 inline Value TextValue(std::string bytes, Tag tag = kOctetString) {
     return {tag, 0, std::move(bytes), {}};
