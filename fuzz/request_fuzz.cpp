@@ -7,7 +7,7 @@
 #include <iterator>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
-    static const ObjectMap kObjects = ObjectsOf(PlainDevice());
+    static const auto kObjects = std::make_shared<const ObjectMap>(ObjectsOf(PlainDevice()));
     static const char* const kFaults[] = {"silence",     "duplicate", "stale=2",        "wrong-community",
                                           "truncated=9", "malformed", "error-status=5", "counter"};
     static Agent agent{{}, kObjects, {}};

@@ -1,19 +1,23 @@
-// The SNMPv1 agent: takes the bytes of a request and returns the datagrams of the answer. Uses no sockets.
+// The SNMP agent: takes the bytes of a request and returns the datagrams of the answer. Uses no sockets.
 #ifndef SIMPRINTER_AGENT_H
 #define SIMPRINTER_AGENT_H
 
 #include "simprinter/faults.h"
 #include "simprinter/message.h"
 
+#include <memory>
+
 struct AgentOptions {
     std::string community = "tovask";
-    // Bytes; a larger reply becomes tooBig. The default fits into one Ethernet frame.
+    // Bytes; a larger reply becomes tooBig, that to a GetBulkRequest shorter. The default fits into one
+    // Ethernet frame.
     size_t largestReply = 1472;
+    std::vector<const Version*> versions = {&kVersions[0], &kVersions[1]}; // that are answered
 };
 
 struct Agent {
     AgentOptions options;
-    ObjectMap objects;
+    std::shared_ptr<const ObjectMap> objects; // printers with the same recording share it
     FaultSet faults;
 };
 

@@ -36,6 +36,13 @@ constexpr Word kPunchings[] = {
     {"2-4", 0x40},
 };
 
+// The printer has one cover.
+constexpr const char* kCoverName = "Front door";
+constexpr Word kCoverWords[] = {
+    {"open",   1},
+    {"closed", 0},
+};
+
 constexpr Word kOverlayStorages[] = {
     {"memory", 3},
     {"HDD",    4},
@@ -224,6 +231,8 @@ struct Device {
     bool hasDuplex = false;
     int pages = 0;    // life count
     int punching = 0; // flags of the finishers
+    int isCoverOpen = 0;
+    bool isOnline = true;
     std::vector<const OptionKind*> options = {};
     std::vector<Tray> trays = {};
     std::vector<Supply> supplies = {};

@@ -1,4 +1,5 @@
 // Reads a device description from YAML: one table of fields for each kind of object, and one loop for all.
+// The same tables give what can be set while the printer runs.
 #include "simprinter/device_reader.h"
 
 #include "common/choices.h"
@@ -20,11 +21,17 @@ struct FieldValue {
     void Refuse(const std::string& problem) const { findings.Error(PlaceOf(node), problem); }
 };
 
+enum class Use {
+    kRequired, // in a description
+    kOptional,
+    kSettable, // optional, and can be set while the printer runs
+};
+
 // A field; `read` stores its value.
 template <typename Thing>
 struct FieldRow {
     const char* name;
-    bool isRequired;
+    Use use;
     void (*read)(const FieldValue& value, Thing& thing);
 };
 
@@ -48,7 +55,7 @@ void ReadFields(const FieldRow<Thing> (&rows)[kCount], const char* what, const Y
     for (const FieldRow<Thing>& row : rows) {
         if (const auto value = given.find(row.name); value != given.end())
             row.read({row.name, value->second, findings}, thing);
-        else if (node.IsMap() && row.isRequired)
+        else if (node.IsMap() && row.use == Use::kRequired)
             findings.Error(PlaceOf(node), Quote(row.name) + " is missing: " + what + " needs it");
     }
 }
@@ -187,56 +194,118 @@ void ReadOptions(const FieldValue& value, Device& device) {
 
 // clang-format off
 const FieldRow<Tray> kTrayFields[] = {
-    {"tray",        true,  [](const FieldValue& v, Tray& t) { ReadKind(v, kTrayKinds, UsualTray, t); }},
-    {"name",        false, [](const FieldValue& v, Tray& t) { ReadText(v, t.name); }},
-    {"size",        false, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperSizes, t.size); }},
-    {"orientation", false, [](const FieldValue& v, Tray& t) { ReadWord(v, kOrientations, t.orientation); }},
-    {"type",        false, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperTypes, t.type); }},
-    {"capacity",    false, [](const FieldValue& v, Tray& t) { ReadInt(v, 0, t.capacity); t.level = t.capacity; }},
-    {"level",       false, [](const FieldValue& v, Tray& t) { ReadWordOrNumber(v, kLevelWords, t.level); }},
+    {"tray",        Use::kRequired, [](const FieldValue& v, Tray& t) { ReadKind(v, kTrayKinds, UsualTray, t); }},
+    {"name",        Use::kSettable, [](const FieldValue& v, Tray& t) { ReadText(v, t.name); }},
+    {"size",        Use::kSettable, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperSizes, t.size); }},
+    {"orientation", Use::kSettable, [](const FieldValue& v, Tray& t) { ReadWord(v, kOrientations, t.orientation); }},
+    {"type",        Use::kSettable, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperTypes, t.type); }},
+    {"capacity",    Use::kSettable, [](const FieldValue& v, Tray& t) { ReadInt(v, 0, t.capacity); t.level = t.capacity; }},
+    {"level",       Use::kSettable, [](const FieldValue& v, Tray& t) { ReadWordOrNumber(v, kLevelWords, t.level); }},
 };
 
 const FieldRow<Supply> kSupplyFields[] = {
-    {"supply",      true,  [](const FieldValue& v, Supply& s) { ReadKind(v, kSupplyKinds, UsualSupply, s); }},
-    {"name",        false, [](const FieldValue& v, Supply& s) { ReadText(v, s.name); }},
-    {"capacity",    false, ReadSupplyCapacity},
-    {"level",       false, [](const FieldValue& v, Supply& s) { ReadWordOrNumber(v, kLevelWords, s.level); }},
+    {"supply",      Use::kRequired, [](const FieldValue& v, Supply& s) { ReadKind(v, kSupplyKinds, UsualSupply, s); }},
+    {"name",        Use::kSettable, [](const FieldValue& v, Supply& s) { ReadText(v, s.name); }},
+    {"capacity",    Use::kSettable, ReadSupplyCapacity},
+    {"level",       Use::kSettable, [](const FieldValue& v, Supply& s) { ReadWordOrNumber(v, kLevelWords, s.level); }},
 };
 
 const FieldRow<Overlay> kOverlayFields[] = {
-    {"name",        true,  [](const FieldValue& v, Overlay& o) { ReadText(v, o.name); }},
-    {"title",       false, [](const FieldValue& v, Overlay& o) { ReadText(v, o.title); }},
-    {"kind",        false, [](const FieldValue& v, Overlay& o) { ReadInt(v, INT_MIN, o.kind); }},
-    {"storage",     false, [](const FieldValue& v, Overlay& o) { ReadWordOrNumber(v, kOverlayStorages, o.storage); }},
+    {"name",        Use::kRequired, [](const FieldValue& v, Overlay& o) { ReadText(v, o.name); }},
+    {"title",       Use::kOptional, [](const FieldValue& v, Overlay& o) { ReadText(v, o.title); }},
+    {"kind",        Use::kOptional, [](const FieldValue& v, Overlay& o) { ReadInt(v, INT_MIN, o.kind); }},
+    {"storage",     Use::kOptional, [](const FieldValue& v, Overlay& o) { ReadWordOrNumber(v, kOverlayStorages, o.storage); }},
 };
 
 const FieldRow<Profile> kProfileFields[] = {
-    {"name",        true,  [](const FieldValue& v, Profile& p) { ReadText(v, p.name); }},
-    {"title",       false, [](const FieldValue& v, Profile& p) { ReadText(v, p.title); }},
-    {"class",       false, [](const FieldValue& v, Profile& p) { ReadInt(v, INT_MIN, p.colorClass); }},
-    {"storage",     false, [](const FieldValue& v, Profile& p) { ReadWordOrNumber(v, kProfileStorages, p.storage); }},
+    {"name",        Use::kRequired, [](const FieldValue& v, Profile& p) { ReadText(v, p.name); }},
+    {"title",       Use::kOptional, [](const FieldValue& v, Profile& p) { ReadText(v, p.title); }},
+    {"class",       Use::kOptional, [](const FieldValue& v, Profile& p) { ReadInt(v, INT_MIN, p.colorClass); }},
+    {"storage",     Use::kOptional, [](const FieldValue& v, Profile& p) { ReadWordOrNumber(v, kProfileStorages, p.storage); }},
 };
 
 const FieldRow<Device> kDeviceFields[] = {
-    {"name",        false, [](const FieldValue& v, Device& d) { ReadText(v, d.name); }},
-    {"model",       false, [](const FieldValue& v, Device& d) { ReadText(v, d.model); }},
-    {"serial",      false, [](const FieldValue& v, Device& d) { ReadText(v, d.serial); }},
-    {"location",    false, [](const FieldValue& v, Device& d) { ReadText(v, d.location); }},
-    {"contact",     false, [](const FieldValue& v, Device& d) { ReadText(v, d.contact); }},
-    {"memory",      false, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.memory); }},
-    {"hardDisk",    false, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.hardDisk.emplace()); }},
-    {"duplex",      false, [](const FieldValue& v, Device& d) { ReadYesOrNo(v, d.hasDuplex); }},
-    {"pages",       false, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.pages); }},
-    {"options",     false, ReadOptions},
-    {"punching",    false, [](const FieldValue& v, Device& d) { ReadWord(v, kPunchings, d.punching); }},
-    {"trays",       false, [](const FieldValue& v, Device& d) { ReadUniqueThings(v, "a tray", kTrayFields, d.trays); }},
-    {"supplies",    false, [](const FieldValue& v, Device& d) { ReadUniqueThings(v, "a supply", kSupplyFields, d.supplies); }},
-    {"overlays",    false, [](const FieldValue& v, Device& d) { ReadThings(v, "an overlay", kOverlayFields, d.overlays); }},
-    {"profiles",    false, [](const FieldValue& v, Device& d) { ReadThings(v, "a profile", kProfileFields, d.profiles); }},
+    {"name",        Use::kSettable, [](const FieldValue& v, Device& d) { ReadText(v, d.name); }},
+    {"model",       Use::kSettable, [](const FieldValue& v, Device& d) { ReadText(v, d.model); }},
+    {"serial",      Use::kSettable, [](const FieldValue& v, Device& d) { ReadText(v, d.serial); }},
+    {"location",    Use::kSettable, [](const FieldValue& v, Device& d) { ReadText(v, d.location); }},
+    {"contact",     Use::kSettable, [](const FieldValue& v, Device& d) { ReadText(v, d.contact); }},
+    {"memory",      Use::kSettable, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.memory); }},
+    {"hardDisk",    Use::kSettable, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.hardDisk.emplace()); }},
+    {"duplex",      Use::kSettable, [](const FieldValue& v, Device& d) { ReadYesOrNo(v, d.hasDuplex); }},
+    {"pages",       Use::kSettable, [](const FieldValue& v, Device& d) { ReadInt(v, 0, d.pages); }},
+    {"options",     Use::kOptional, ReadOptions},
+    {"punching",    Use::kSettable, [](const FieldValue& v, Device& d) { ReadWord(v, kPunchings, d.punching); }},
+    {"cover",       Use::kSettable, [](const FieldValue& v, Device& d) { ReadWord(v, kCoverWords, d.isCoverOpen); }},
+    {"online",      Use::kSettable, [](const FieldValue& v, Device& d) { ReadYesOrNo(v, d.isOnline); }},
+    {"trays",       Use::kOptional, [](const FieldValue& v, Device& d) { ReadUniqueThings(v, "a tray", kTrayFields, d.trays); }},
+    {"supplies",    Use::kOptional, [](const FieldValue& v, Device& d) { ReadUniqueThings(v, "a supply", kSupplyFields, d.supplies); }},
+    {"overlays",    Use::kOptional, [](const FieldValue& v, Device& d) { ReadThings(v, "an overlay", kOverlayFields, d.overlays); }},
+    {"profiles",    Use::kOptional, [](const FieldValue& v, Device& d) { ReadThings(v, "a profile", kProfileFields, d.profiles); }},
 };
 // clang-format on
 
+// --- Settings
+
+template <typename Thing, size_t kCount>
+std::vector<std::string> SettableFields(const FieldRow<Thing> (&rows)[kCount]) {
+    std::vector<std::string> names;
+    for (const FieldRow<Thing>& row : rows) {
+        if (row.use == Use::kSettable)
+            names.emplace_back(row.name);
+    }
+    return names;
+}
+
+// Sets the field whose name comes first to the value after it. Returns what is wrong, or nothing.
+template <typename Thing, size_t kCount>
+std::string SetField(const FieldRow<Thing> (&rows)[kCount], const std::string& words, Thing& thing) {
+    const size_t end = std::min(words.find(' '), words.size());
+    const std::string name = words.substr(0, end), value = words.substr(std::min(end + 1, words.size()));
+    for (const FieldRow<Thing>& row : rows) {
+        if (row.use != Use::kSettable || !EqualNoCase(row.name, name))
+            continue;
+        if (value.empty())
+            return "the value of " + Quote(name) + " is missing";
+        Findings findings;
+        Thing changed = thing;
+        row.read({row.name, YAML::Node(value), findings}, changed);
+        if (!findings.list.empty())
+            return findings.list.front().message;
+        thing = changed;
+        return "";
+    }
+    const std::vector<std::string> names = SettableFields(rows);
+    return Quote(name) + " can't be set" + NearestHint(name, names) + "; " + Choices(names);
+}
+
+template <typename Thing>
+Thing* FindThing(std::vector<Thing>& things, const std::string& word) {
+    const auto thing = std::find_if(things.begin(), things.end(),
+                                    [&](const Thing& t) { return EqualNoCase(t.kind->name.word, word); });
+    return thing == things.end() ? nullptr : &*thing;
+}
+
 } // namespace
+
+std::string SetInDevice(const std::string& words, Device& device) {
+    const size_t end = std::min(words.find(' '), words.size());
+    const std::string first = words.substr(0, end), others = words.substr(std::min(end + 1, words.size()));
+    if (Tray* const tray = FindThing(device.trays, first))
+        return SetField(kTrayFields, others, *tray);
+    if (Supply* const supply = FindThing(device.supplies, first))
+        return SetField(kSupplyFields, others, *supply);
+    std::vector<std::string> names = SettableFields(kDeviceFields);
+    if (std::any_of(names.begin(), names.end(),
+                    [&](const std::string& name) { return EqualNoCase(name, first); }))
+        return SetField(kDeviceFields, words, device);
+    for (const Tray& tray : device.trays)
+        names.emplace_back(tray.kind->name.word);
+    for (const Supply& supply : device.supplies)
+        names.emplace_back(supply.kind->name.word);
+    return "this printer has no " + Quote(first) + " to be set" + NearestHint(first, names) + "; "
+           + Choices(names);
+}
 
 Device ReadDevice(const std::string& text, Findings& findings) {
     Device device = PlainDevice();

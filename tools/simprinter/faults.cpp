@@ -203,6 +203,19 @@ Fault ParseFault(const std::string& text) {
     return fault;
 }
 
+std::string FaultText(const Fault& fault) {
+    return fault.kind->name + (fault.argument ? '=' + std::to_string(*fault.argument) : "")
+           + (fault.prefix.empty() ? "" : '@' + OidText(fault.prefix));
+}
+
+void AddFault(FaultSet& set, const Fault& fault) {
+    const auto isSame = [&](const Fault& other) {
+        return other.kind == fault.kind && other.prefix == fault.prefix;
+    };
+    set.faults.erase(std::remove_if(set.faults.begin(), set.faults.end(), isSame), set.faults.end());
+    set.faults.push_back(fault);
+}
+
 std::string FaultHelp() {
     std::string help;
     for (const FaultKind& kind : kFaultKinds) {

@@ -35,6 +35,12 @@ struct FaultSet {
 // Parses NAME[=VALUE][@OID]. Throws std::runtime_error for anything else.
 Fault ParseFault(const std::string& text);
 
+// As it is written, "delay=500@.1.3.6.1.2.1.43".
+std::string FaultText(const Fault& fault);
+
+// In place of one of the same kind and prefix.
+void AddFault(FaultSet& set, const Fault& fault);
+
 // Help text: one line for each fault.
 std::string FaultHelp();
 

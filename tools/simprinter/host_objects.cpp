@@ -48,57 +48,39 @@ struct HostDevice {
     int index;
     const char* type;
     std::string text;
+    int status; // hrDeviceStatus
 };
 constexpr Column<HostDevice> kDevice[] = {
     {1, Number<&HostDevice::index>},
     {2, [](const HostDevice& h) { return OidValueFrom(h.type); }},
     {3, Text<&HostDevice::text>},
     {4, [](const HostDevice&) { return OidValueFrom("0.0"); }}, // hrDeviceID
-    {5, Fixed<2>},                                              // hrDeviceStatus: running
+    {5, Number<&HostDevice::status>},
     {6, [](const HostDevice&) { return NumberValue(0, kCounter); }},
 };
 
-std::vector<ConceptualRow<HostDevice>> HostDevices(const Device& device) {
-    std::vector<ConceptualRow<HostDevice>> rows = {{{1}, {1, "1.3.6.1.2.1.25.3.1.5", device.model}}};
+std::vector<ConceptualRow<HostDevice>> HostDevices(const Device& device, const DeviceStatus& status) {
+    constexpr int kRunning = 2;
+    std::vector<ConceptualRow<HostDevice>> rows = {
+        {{1}, {1, "1.3.6.1.2.1.25.3.1.5", device.model, status.deviceStatus}}};
     if (device.hardDisk)
-        rows.push_back({{2}, {2, "1.3.6.1.2.1.25.3.1.6", "Hard disk"}});
+        rows.push_back({{2}, {2, "1.3.6.1.2.1.25.3.1.6", "Hard disk", kRunning}});
     return rows;
 }
 
 // --- .1.3.6.1.2.1.25.3.5.1 hrPrinterTable
-// hrPrinterDetectedErrorState: 16 bits, the first one highest.
-std::string DetectedErrors(const Device& device) {
-    constexpr int kLowPaper = 0x8000, kNoPaper = 0x4000, kLowToner = 0x2000, kNoToner = 0x1000;
-    constexpr int kInputTrayEmpty = 0x0004;
-    int bits = 0;
-    size_t empty = 0;
-    for (const Tray& tray : device.trays) {
-        if (tray.level == 0)
-            bits |= kInputTrayEmpty, ++empty;
-        else if (tray.level > 0 && tray.level <= tray.capacity / 10)
-            bits |= kLowPaper;
-    }
-    if (!device.trays.empty() && empty == device.trays.size())
-        bits |= kNoPaper;
-    for (const Supply& supply : device.supplies) {
-        if (supply.kind->type == kToner && supply.level >= 0 && supply.level <= supply.capacity / 10)
-            bits |= supply.level == 0 ? kNoToner : kLowToner;
-    }
-    return {static_cast<char>(bits >> 8), static_cast<char>(bits & 0xFF)};
-}
-
-constexpr Column<Device> kPrinter[] = {
-    {1, Fixed<3>}, // hrPrinterStatus: idle
-    {2, [](const Device& d) { return TextValue(DetectedErrors(d)); }},
+constexpr Column<DeviceStatus> kPrinter[] = {
+    {1, Number<&DeviceStatus::printerStatus>},
+    {2, Text<&DeviceStatus::detectedErrors>},
 };
 
 } // namespace
 
-void AddHostObjects(ObjectMap& to, const Device& device) {
+void AddHostObjects(ObjectMap& to, const Device& device, const DeviceStatus& status) {
     AddScalars(to, "1.3.6.1.2.1.1", kSystem, device);
     AddTable(to, "1.3.6.1.2.1.25.2.3.1", kStorage, Storages(device));
-    AddTable(to, "1.3.6.1.2.1.25.3.2.1", kDevice, HostDevices(device));
-    AddTable(to, "1.3.6.1.2.1.25.3.5.1", kPrinter, {{{1}, device}});
+    AddTable(to, "1.3.6.1.2.1.25.3.2.1", kDevice, HostDevices(device, status));
+    AddTable(to, "1.3.6.1.2.1.25.3.5.1", kPrinter, {{{1}, status}});
     to[OidFromText("1.3.6.1.2.1.25.1.1.0").value()] = NumberValue(0, kTimeTicks); // hrSystemUptime
     to[OidFromText("1.3.6.1.2.1.25.2.2.0").value()] =
         NumberValue(int64_t{device.memory} * 1024); // hrMemorySize, KB

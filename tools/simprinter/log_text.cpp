@@ -49,7 +49,25 @@ std::string ValueText(const Value& value) {
 }
 
 std::string ErrorText(long status) {
-    const char* const names[] = {"noError", "tooBig", "noSuchName", "badValue", "readOnly", "genErr"};
+    const char* const names[] = {"noError",
+                                 "tooBig",
+                                 "noSuchName",
+                                 "badValue",
+                                 "readOnly",
+                                 "genErr",
+                                 "noAccess",
+                                 "wrongType",
+                                 "wrongLength",
+                                 "wrongEncoding",
+                                 "wrongValue",
+                                 "noCreation",
+                                 "inconsistentValue",
+                                 "resourceUnavailable",
+                                 "commitFailed",
+                                 "undoFailed",
+                                 "authorizationError",
+                                 "notWritable",
+                                 "inconsistentName"};
     const bool isKnown = status >= 0 && status < static_cast<long>(std::size(names));
     return isKnown ? names[status] : "error " + std::to_string(status);
 }
@@ -65,9 +83,12 @@ std::string PrintableText(const std::string& bytes) {
 }
 
 std::string RequestText(const Message& request) {
-    const char* const types[] = {"GetRequest", "GetNextRequest", "GetResponse", "SetRequest"};
-    std::string text = '#' + std::to_string(request.requestId) + ' '
-                       + types[static_cast<int>(request.type) - static_cast<int>(PduType::kGet)];
+    std::string text = std::string(request.version->name) + " #" + std::to_string(request.requestId) + ' '
+                       + PduName(static_cast<int>(request.type));
+    if (request.type == PduType::kGetBulk) {
+        text += " (" + std::to_string(request.errorStatus) + " once, the others "
+                + std::to_string(request.errorIndex) + " times)";
+    }
     for (const VarBind& varBind : request.varBinds)
         text += ' ' + OidText(varBind.name);
     return text;

@@ -7,7 +7,7 @@
 // Quoted; anything but printable ASCII is escaped. Long texts are cut.
 std::string PrintableText(const std::string& bytes);
 
-// "#17 GetRequest .1.3.6.1.2.1.1.5.0 .1.3..."
+// "SNMPv1 #17 GetRequest .1.3.6.1.2.1.1.5.0 .1.3..."
 std::string RequestText(const Message& request);
 
 // ".1.3... INTEGER 640, .1.3... OCTET STRING 'x'", or the error.

@@ -1,4 +1,4 @@
-// Encodes and decodes SNMPv1 messages with net-snmp's functions.
+// Encodes and decodes SNMP messages with net-snmp's functions.
 #include "simprinter/message.h"
 
 #include <algorithm>
@@ -25,8 +25,46 @@ void QuietLibrary() {
     static_cast<void>(handler);
 }
 
-bool IsRequest(int command) {
-    return command == SNMP_MSG_GET || command == SNMP_MSG_GETNEXT || command == SNMP_MSG_SET;
+struct PduRow {
+    int type;
+    const char* name;
+    bool isRequest;
+};
+constexpr PduRow kPdus[] = {
+    {SNMP_MSG_GET, "GetRequest", true},
+    {SNMP_MSG_GETNEXT, "GetNextRequest", true},
+    {SNMP_MSG_GETBULK, "GetBulkRequest", true},
+    {SNMP_MSG_SET, "SetRequest", true},
+    {SNMP_MSG_RESPONSE, "response", false},
+    {SNMP_MSG_TRAP, "trap", false},
+    {SNMP_MSG_TRAP2, "trap", false},
+    {SNMP_MSG_INFORM, "inform", false},
+    {SNMP_MSG_REPORT, "report", false},
+};
+
+const PduRow* FindPdu(int type) {
+    const auto* const row =
+        std::find_if(std::begin(kPdus), std::end(kPdus), [&](const PduRow& pdu) { return pdu.type == type; });
+    return row == std::end(kPdus) ? nullptr : row;
+}
+
+const Version* FindVersion(long number) {
+    const auto* const row = std::find_if(std::begin(kVersions), std::end(kVersions),
+                                         [&](const Version& version) { return version.number == number; });
+    return row == std::end(kVersions) ? nullptr : row;
+}
+
+constexpr long kNoVersion = -1; // not read
+
+// A message of a version that is not known, or damaged before its PDU.
+std::string NoPduProblem(long version) {
+    if (version == kNoVersion)
+        return "not an SNMP message";
+    if (version == SNMP_VERSION_3)
+        return "an SNMPv3 request";
+    const Version* const known = FindVersion(version);
+    return known ? std::string("a damaged ") + known->name + " message"
+                 : "a message with the unknown SNMP version number " + std::to_string(version);
 }
 
 bool ReadOid(const oid* subIds, size_t count, Oid& to) {
@@ -34,8 +72,7 @@ bool ReadOid(const oid* subIds, size_t count, Oid& to) {
     return std::equal(to.begin(), to.end(), subIds); // false for one of more than 32 bits
 }
 
-// The value of a SetRequest, which an error returns; other requests have NULL. Types that SNMPv1 does not
-// have become NULL.
+// The value of a SetRequest, which an error returns; other requests have NULL. Unknown types become NULL.
 Value ReadValue(const netsnmp_variable_list& from) {
     const auto tag = static_cast<Tag>(from.type);
     switch (tag) {
@@ -82,24 +119,38 @@ int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
 
 } // namespace
 
-std::optional<Message> ParseRequest(const Bytes& datagram) {
+std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem) {
     QuietLibrary();
     Bytes bytes = datagram; // net-snmp's functions want them writable
     bytes.push_back(0);     // and may read one byte beyond the end
     size_t left = datagram.size();
     u_char community[SNMP_MAX_MSG_SIZE];
     size_t communityLength = sizeof community;
-    long version = -1;
-    u_char* at = snmp_comstr_parse(bytes.data(), &left, community, &communityLength, &version);
-    if (!at || version != SNMP_VERSION_1 || left == 0 || !IsRequest(*at))
+    long number = kNoVersion;
+    u_char* at = snmp_comstr_parse(bytes.data(), &left, community, &communityLength, &number);
+    const Version* const version = FindVersion(number);
+    problem = NoPduProblem(number);
+    if (!at || !version || left == 0)
         return std::nullopt;
+    const PduRow* const kind = FindPdu(*at);
+    if (!kind || !kind->isRequest || (kind->type == SNMP_MSG_GETBULK && !version->hasGetBulk)) {
+        problem =
+            "an " + (std::string(version->name) + ' ' + (kind ? kind->name : "message of an unknown type"));
+        return std::nullopt;
+    }
     const PduPointer pdu(snmp_pdu_create(*at));
+    problem = std::string("a damaged ") + version->name + ' ' + kind->name;
     if (!pdu || snmp_pdu_parse(pdu.get(), at, &left) != 0)
         return std::nullopt;
     Message message;
+    message.version = version;
     message.community.assign(reinterpret_cast<const char*>(community), communityLength);
     message.type = static_cast<PduType>(pdu->command);
     message.requestId = pdu->reqid;
+    if (message.type == PduType::kGetBulk) {
+        message.errorStatus = pdu->errstat;
+        message.errorIndex = pdu->errindex;
+    }
     for (const netsnmp_variable_list* from = pdu->variables; from; from = from->next_variable) {
         VarBind varBind;
         if (!ReadOid(from->name, from->name_length, varBind.name))
@@ -124,7 +175,7 @@ Bytes BuildMessage(const Message& message) {
     // Built from back to front in a block that grows as needed.
     u_char* block = nullptr;
     size_t size = 0, used = 0;
-    const long version = SNMP_VERSION_1;
+    const long version = message.version->number;
     const auto* community = reinterpret_cast<const u_char*>(message.community.data());
     const bool built =
         snmp_pdu_realloc_rbuild(&block, &size, &used, pdu.get()) != 0
@@ -137,4 +188,9 @@ Bytes BuildMessage(const Message& message) {
         bytes.assign(block + size - used, block + size);
     std::free(block);
     return bytes;
+}
+
+const char* PduName(int type) {
+    const PduRow* const row = FindPdu(type);
+    return row ? row->name : "?";
 }

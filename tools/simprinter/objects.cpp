@@ -1,12 +1,19 @@
 // Builds all objects of a device.
 #include "simprinter/objects.h"
 
-ObjectMap ObjectsOf(const Device& device) {
+ObjectMap ObjectsOf(const Device& device, const AlertTable& alerts) {
     ObjectMap objects;
-    AddHostObjects(objects, device);
-    AddPrinterObjects(objects, device);
+    const DeviceStatus status = StatusOf(alerts, device);
+    AddHostObjects(objects, device, status);
+    AddPrinterObjects(objects, device, alerts, status);
     AddPrivateObjects(objects, device);
     return objects;
+}
+
+ObjectMap ObjectsOf(const Device& device) {
+    AlertTable alerts;
+    UpdateAlerts(alerts, device, 0);
+    return ObjectsOf(device, alerts);
 }
 
 void SetUpTime(ObjectMap& objects, int64_t ticks) {

@@ -27,11 +27,16 @@ constexpr Column<Device> kGeneral[] = {
     {16, Text<&Device::name>},   // prtGeneralPrinterName
     {17, Text<&Device::serial>}, // prtGeneralSerialNumber
 };
+constexpr Column<DeviceStatus> kGeneralEvents[] = {
+    {18,
+     [](const DeviceStatus& s) { return NumberValue(s.criticalEvents, kCounter); }}, // prtAlertCriticalEvents
+    {19, [](const DeviceStatus& s) { return NumberValue(s.allEvents, kCounter); }},  // prtAlertAllEvents
+};
 
 // --- .1.3.6.1.2.1.43.6.1.1 prtCoverTable
 constexpr Column<Device> kCover[] = {
-    {2, [](const Device&) { return TextValue("Front door"); }}, // prtCoverDescription
-    {3, Fixed<4>},                                              // prtCoverStatus: coverClosed
+    {2, [](const Device&) { return TextValue(kCoverName); }},                     // prtCoverDescription
+    {3, [](const Device& d) { return NumberValue(d.isCoverOpen != 0 ? 3 : 4); }}, // prtCoverStatus
 };
 
 // --- .1.3.6.1.2.1.43.7.1.1 prtLocalizationTable
@@ -42,47 +47,48 @@ constexpr Column<Device> kLocalization[] = {
 };
 
 // --- .1.3.6.1.2.1.43.8.2.1 prtInputTable
+struct Input : Tray {
+    int status; // prtInputStatus
+};
 // With the long edge first, the length along the feed is the sheet's width.
-Value FeedLength(const Tray& tray) {
+Value FeedLength(const Input& tray) {
     const int length = tray.orientation == kLongEdgeFirst ? tray.size->width : tray.size->length;
     return NumberValue(length * kMicrometersInLength);
 }
-Value CrossLength(const Tray& tray) {
+Value CrossLength(const Input& tray) {
     const int length = tray.orientation == kLongEdgeFirst ? tray.size->length : tray.size->width;
     return NumberValue(length * kMicrometersInLength);
-}
-// Available and idle; an empty tray is unavailable and on request, with a non-critical alert.
-Value InputStatus(const Tray& tray) {
-    return NumberValue(tray.level == 0 ? 1 + 8 : 0);
 }
 std::string PaperText(const Tray& tray) {
     return std::string(tray.size->name.word) + ' ' + tray.type->name.word;
 }
-constexpr Column<Tray> kInput[] = {
-    {2, [](const Tray& t) { return NumberValue(t.kind->inputType); }},
-    {3, Fixed<kMicrometers>},                                         // prtInputDimUnit
-    {4, FeedLength},                                                  // prtInputMediaDimFeedDirDeclared
-    {5, CrossLength},                                                 // prtInputMediaDimXFeedDirDeclared
-    {6, FeedLength},                                                  // prtInputMediaDimFeedDirChosen
-    {7, CrossLength},                                                 // prtInputMediaDimXFeedDirChosen
-    {8, Fixed<kSheets>},                                              // prtInputCapacityUnit
-    {9, Number<&Tray::capacity>},                                     // prtInputMaxCapacity
-    {10, Number<&Tray::level>},                                       // prtInputCurrentLevel
-    {11, InputStatus},                                                // prtInputStatus
-    {12, [](const Tray& t) { return TextValue(PaperText(t)); }},      // prtInputMediaName
-    {13, Text<&Tray::name>},                                          // prtInputName
-    {18, [](const Tray& t) { return TextValue(t.kind->text); }},      // prtInputDescription
-    {19, Fixed<5>},                                                   // prtInputSecurity: notPresent
-    {20, [](const Tray& t) { return NumberValue(t.type->weight); }},  // prtInputMediaWeight
-    {21, [](const Tray& t) { return TextValue(t.type->mediaType); }}, // prtInputMediaType
+constexpr Column<Input> kInput[] = {
+    {2, [](const Input& t) { return NumberValue(t.kind->inputType); }},
+    {3, Fixed<kMicrometers>},     // prtInputDimUnit
+    {4, FeedLength},              // prtInputMediaDimFeedDirDeclared
+    {5, CrossLength},             // prtInputMediaDimXFeedDirDeclared
+    {6, FeedLength},              // prtInputMediaDimFeedDirChosen
+    {7, CrossLength},             // prtInputMediaDimXFeedDirChosen
+    {8, Fixed<kSheets>},          // prtInputCapacityUnit
+    {9, Number<&Tray::capacity>}, // prtInputMaxCapacity
+    {10, Number<&Tray::level>},   // prtInputCurrentLevel
+    {11, Number<&Input::status>},
+    {12, [](const Input& t) { return TextValue(PaperText(t)); }},      // prtInputMediaName
+    {13, Text<&Tray::name>},                                           // prtInputName
+    {18, [](const Input& t) { return TextValue(t.kind->text); }},      // prtInputDescription
+    {19, Fixed<5>},                                                    // prtInputSecurity: notPresent
+    {20, [](const Input& t) { return NumberValue(t.type->weight); }},  // prtInputMediaWeight
+    {21, [](const Input& t) { return TextValue(t.type->mediaType); }}, // prtInputMediaType
     // prtInputMediaColor
-    {22, [](const Tray& t) { return TextValue(t.type->colorCode ? "other" : "white"); }},
+    {22, [](const Input& t) { return TextValue(t.type->colorCode ? "other" : "white"); }},
 };
 
-std::vector<ConceptualRow<Tray>> Inputs(const Device& device) {
-    std::vector<ConceptualRow<Tray>> rows;
-    for (const Tray& tray : device.trays)
-        rows.push_back({{1, static_cast<uint32_t>(tray.kind->name.code)}, tray});
+std::vector<ConceptualRow<Input>> Inputs(const Device& device, const AlertTable& alerts) {
+    std::vector<ConceptualRow<Input>> rows;
+    for (const Tray& tray : device.trays) {
+        rows.push_back(
+            {{1, static_cast<uint32_t>(tray.kind->name.code)}, {tray, InputStatus(alerts, device, tray)}});
+    }
     return rows;
 }
 
@@ -137,7 +143,9 @@ constexpr Column<Device> kMarker[] = {
     {8, Fixed<3>},    // prtMarkerAddressabilityUnit: tenThousandthsOfInches
     {9, Fixed<600>},  // prtMarkerAddressabilityFeedDir
     {10, Fixed<600>}, // prtMarkerAddressabilityXFeedDir
-    {15, Fixed<0>},   // prtMarkerStatus: available and idle
+};
+constexpr Column<DeviceStatus> kMarkerStatus[] = {
+    {15, Number<&DeviceStatus::markerStatus>},
 };
 
 // --- .1.3.6.1.2.1.43.11.1.1 prtMarkerSuppliesTable
@@ -208,23 +216,47 @@ constexpr Column<Interpreter> kInterpreter[] = {
 };
 
 // --- .1.3.6.1.2.1.43.16.5.1 prtConsoleDisplayBufferTable
-constexpr Column<Device> kConsole[] = {
-    {2, [](const Device&) { return TextValue("Ready"); }},
+constexpr Column<DeviceStatus> kConsole[] = {
+    {2, Text<&DeviceStatus::display>},
 };
+
+// --- .1.3.6.1.2.1.43.18.1.1 prtAlertTable
+constexpr Column<Alert> kAlert[] = {
+    {1, Number<&Alert::index>},
+    {2, [](const Alert& a) { return NumberValue(AlertSeverity(a)); }},
+    {3, [](const Alert& a) { return NumberValue(AlertTraining(a)); }},
+    {4, [](const Alert& a) { return NumberValue(AlertGroup(a)); }},
+    {5, [](const Alert& a) { return NumberValue(a.condition.row); }}, // prtAlertGroupIndex
+    {6, Fixed<-2>},                                                   // prtAlertLocation: unknown
+    {7, [](const Alert& a) { return NumberValue(AlertCode(a)); }},
+    {8, [](const Alert& a) { return TextValue(a.condition.text); }},
+    {9, [](const Alert& a) { return NumberValue(a.time & UINT32_MAX, kTimeTicks); }},
+};
+
+std::vector<ConceptualRow<Alert>> AlertRows(const AlertTable& table) {
+    std::vector<ConceptualRow<Alert>> rows;
+    for (const Alert& alert : table.alerts)
+        rows.push_back({{1, static_cast<uint32_t>(alert.index)}, alert});
+    return rows;
+}
 
 } // namespace
 
-void AddPrinterObjects(ObjectMap& to, const Device& device) {
+void AddPrinterObjects(ObjectMap& to, const Device& device, const AlertTable& alerts,
+                       const DeviceStatus& status) {
     AddTable(to, "1.3.6.1.2.1.43.5.1.1", kGeneral, {{{1}, device}});
+    AddTable(to, "1.3.6.1.2.1.43.5.1.1", kGeneralEvents, {{{1}, status}});
     AddTable(to, "1.3.6.1.2.1.43.6.1.1", kCover, {{{1, 1}, device}});
     AddTable(to, "1.3.6.1.2.1.43.7.1.1", kLocalization, {{{1, 1}, device}});
-    AddTable(to, "1.3.6.1.2.1.43.8.2.1", kInput, Inputs(device));
+    AddTable(to, "1.3.6.1.2.1.43.8.2.1", kInput, Inputs(device, alerts));
     AddTable(to, "1.3.6.1.2.1.43.9.2.1", kOutput, Outputs(device));
     AddTable(to, "1.3.6.1.2.1.43.10.2.1", kMarker, {{{1, 1}, device}});
+    AddTable(to, "1.3.6.1.2.1.43.10.2.1", kMarkerStatus, {{{1, 1}, status}});
     AddTable(to, "1.3.6.1.2.1.43.11.1.1", kSupplies, Supplies(device, false));
     AddTable(to, "1.3.6.1.2.1.43.12.1.1", kColorant, Supplies(device, true));
     AddTable(to, "1.3.6.1.2.1.43.13.4.1", kMediaPath, MediaPaths(device));
     AddTable(to, "1.3.6.1.2.1.43.15.1.1", kInterpreter,
              {{{1, 1}, {47, "6", "PCL 6"}}, {{1, 2}, {6, "3", "PostScript 3"}}});
-    AddTable(to, "1.3.6.1.2.1.43.16.5.1", kConsole, {{{1, 1}, device}});
+    AddTable(to, "1.3.6.1.2.1.43.16.5.1", kConsole, {{{1, 1}, status}});
+    AddTable(to, "1.3.6.1.2.1.43.18.1.1", kAlert, AlertRows(alerts));
 }

@@ -1,4 +1,4 @@
-// The printer's UDP socket: passes requests to the agent and sends its answers. Single-threaded.
+// The UDP sockets of the printers, and the control lines. Single-threaded.
 #ifndef SIMPRINTER_SERVER_H
 #define SIMPRINTER_SERVER_H
 
@@ -6,16 +6,28 @@
 
 #include <functional>
 
-struct ServerOptions {
-    std::string address = "127.0.0.1"; // dotted IPv4
-    uint16_t port = 161;               // 0: any free one
-    bool logs = false;                 // one line per datagram on the standard error output
+struct Endpoint {
+    std::string address; // IPv4 or IPv6, numeric
+    uint16_t port;       // 0: any free one
 };
 
-// Opens the socket, calls `ready` with the port and serves until SIGTERM or SIGINT. Calls `refresh` before
-// each request to update the objects that change with time. Throws std::runtime_error when the socket can't
-// be opened.
-void Serve(const ServerOptions& options, Agent& agent, const std::function<void(uint16_t port)>& ready,
-           const std::function<void(ObjectMap&)>& refresh);
+// "127.0.0.1:161", "[::1]:161"
+std::string EndpointText(const Endpoint& endpoint);
+
+struct ServerHandlers {
+    // Once all sockets are open, with the ports that they have.
+    std::function<void(const std::vector<Endpoint>& opened)> ready;
+    // A datagram for the printer with this position among the endpoints.
+    std::function<Outcome(size_t printer, const Bytes& datagram)> answer;
+    // A line of the standard input, without its end. Its end, which a background process sees at once, ends
+    // nothing.
+    std::function<void(const std::string& line)> control;
+    std::function<void()> tick;
+    int tickMs = 0; // how often `tick` is called; 0: never
+};
+
+// Opens the sockets and serves until SIGTERM or SIGINT. With `logs`, a line for each datagram goes to the
+// standard error output. Throws std::runtime_error when a socket can't be opened.
+void Serve(const std::vector<Endpoint>& endpoints, bool logs, const ServerHandlers& handlers);
 
 #endif

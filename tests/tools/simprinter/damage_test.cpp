@@ -19,7 +19,7 @@ TEST(Damage, InvalidRequestsAreDropped) {
     std::vector<Bytes> requests = {
         Changed(13, 0xA4), Changed(13, 0xA5), Changed(13, 0xA2), // trap, GetBulkRequest, GetResponse
         Changed(0, 0x31), Changed(1, 0x80), Changed(1, 0x2A),    // no SEQUENCE, indefinite length, too long
-        Changed(3, 0x00), Changed(4, 0x01),                      // empty version, version 2c
+        Changed(3, 0x00), Changed(4, 0x02), Changed(4, 0x03),    // empty version, unknown one, SNMPv3
         Changed(5, 0x02), Changed(6, 0x30), Changed(12, 'c'),    // community: INTEGER, too long, wrong
         Changed(16, 0x05), Changed(25, 0x12),                    // request-id of five bytes, variables too long
         Changed(29, 0x0E), Changed(40, 0x81),                    // name too long, cut within a sub-identifier
@@ -29,7 +29,7 @@ TEST(Damage, InvalidRequestsAreDropped) {
     const Bytes whole = StorageRequest();
     for (size_t size = 0; size < whole.size(); ++size)
         requests.emplace_back(whole.begin(), whole.begin() + static_cast<ptrdiff_t>(size));
-    Agent agent{{}, ObjectsOf(PlainDevice()), {}};
+    Agent agent{{}, std::make_shared<const ObjectMap>(ObjectsOf(PlainDevice())), {}};
     for (const Bytes& request : requests) {
         const Outcome outcome = HandleDatagram(agent, request);
         EXPECT_TRUE(outcome.datagrams.empty()) << testing::PrintToString(request) << outcome.log;

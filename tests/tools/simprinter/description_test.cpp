@@ -32,12 +32,15 @@ TEST(Description, OmittedFieldsHaveTheirDefaults) {
 }
 
 TEST(Description, LevelsSetTheDetectedErrors) {
-    // lowPaper 8000, noPaper 4000, lowToner 2000, noToner 1000, inputTrayEmpty 0004
+    // lowPaper 8000, noPaper 4000, lowToner 2000, noToner 1000, doorOpen 0800, offline 0200, serviceRequested 0100,
+    // inputTrayEmpty 0004
     const std::pair<const char*, std::string> cases[] = {
         {"trays: [{tray: TRAY1, capacity: 100, level: 10}, {tray: TRAY2, level: 0}]", "\x80\x04"},
         {"trays: [{tray: TRAY1, level: 0}]", "\x40\x04"},
         {"supplies: [{supply: cyan, level: 10}, {supply: black, level: 0}]", std::string("\x30\0", 2)},
-        {"supplies: [{supply: waste, level: 0}, {supply: cyan, level: 11}]", std::string("\0\0", 2)},
+        {"supplies: [{supply: waste, level: 1}, {supply: cyan, level: 11}]", std::string("\0\0", 2)},
+        {"supplies: [{supply: waste, level: 0}]", std::string("\x01\0", 2)},
+        {"{cover: open, online: no}", std::string("\x0A\0", 2)},
     };
     for (const auto& [yaml, bits] : cases)
         EXPECT_EQ(ObjectsOf(Read(yaml)).at({1, 3, 6, 1, 2, 1, 25, 3, 5, 1, 2, 1}).bytes, bits) << yaml;

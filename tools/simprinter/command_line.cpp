@@ -1,0 +1,121 @@
+// Defines the options with CLI11.
+#include "simprinter/command_line.h"
+
+#include "common/choices.h"
+#include "common/text.h"
+
+#include <CLI/CLI.hpp>
+#include <climits>
+
+namespace {
+
+constexpr const char* kDefaultVary = "600"; // seconds
+
+// "1,2c" as rows of the table. Throws CLI::ValidationError.
+std::vector<const Version*> ReadVersions(const std::vector<std::string>& words) {
+    std::vector<const Version*> versions;
+    for (const std::string& word : words) {
+        const auto* const row = std::find_if(std::begin(kVersions), std::end(kVersions),
+                                             [&](const Version& version) { return version.word == word; });
+        if (row == std::end(kVersions))
+            throw CLI::ValidationError("--versions",
+                                       Quote(word) + " is no version; "
+                                           + Choices(kVersions, [](const Version& v) { return v.word; }));
+        versions.push_back(row);
+    }
+    return versions;
+}
+
+// The options of one printer. They are read when the returned ones are parsed.
+std::vector<CLI::Option*> AddPrinterOptions(CLI::App& app, PrinterOptions& printer) {
+    CLI::Option* const device =
+        app.add_option("--device", printer.deviceFile, "what the printer has; without it a plain one")
+            ->type_name("FILE.yaml");
+    CLI::Option* const replay = app.add_option("--replay", printer.replayFile,
+                                               "serve a recorded walk: text of 'snmpwalk', or .snmprec")
+                                    ->type_name("FILE")
+                                    ->excludes(device);
+    CLI::Option* const vary = app.add_option_function<double>(
+                                     "--vary", [&printer](double seconds) { printer.varySeconds = seconds; },
+                                     "levels change with time: the fastest tray is used up in this many")
+                                  ->type_name("[SECONDS]")
+                                  ->check(CLI::Range(0.1, 1e6))
+                                  ->expected(0, 1)
+                                  ->default_str(kDefaultVary)
+                                  ->excludes(replay);
+    return {
+        device,
+        replay,
+        vary,
+        app.add_option("--community", printer.agent.community, "requests with another one are not answered")
+            ->capture_default_str(),
+        app.add_option_function<std::vector<std::string>>(
+               "--versions", [&printer](const auto& words) { printer.agent.versions = ReadVersions(words); },
+               "of SNMP that are answered: 1, 2c or both")
+            ->type_name("LIST")
+            ->default_str("1,2c")
+            ->delimiter(',')
+            ->allow_extra_args(false),
+        app.add_option("--largest-reply", printer.agent.largestReply, "bytes; a larger reply becomes tooBig")
+            ->check(CLI::Range(484, 65507))
+            ->capture_default_str(),
+        app.add_option_function<std::vector<std::string>>(
+               "--fault",
+               [&printer](const auto& texts) {
+                   for (const std::string& text : texts)
+                       printer.faults.push_back(ParseFault(text));
+               },
+               "NAME[=VALUE][@OID]; may be repeated; see below")
+            ->type_name("TEXT")
+            ->allow_extra_args(false),
+        app.add_option("--seed", printer.seed, "selects the answers that are lost, and the speeds of --vary")
+            ->check(CLI::Range(0, INT_MAX))
+            ->capture_default_str(),
+    };
+}
+
+} // namespace
+
+bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
+    CLI::App app{"A simulated printer on the network: answers SNMP requests as a device would.",
+                 "simprinter"};
+    app.set_version_flag("--version", "simprinter " PROJECT_VERSION);
+    CLI::Option* const address =
+        app.add_option("--address", line.address, "to listen on, IPv4 or IPv6")->capture_default_str();
+    app.add_option("--port", line.port, "UDP port; 0 takes a free one")
+        ->check(CLI::Range(0, 65535))
+        ->capture_default_str();
+    CLI::Option* const list =
+        app.add_option("--list", line.listFile, "several printers: lines 'ADDRESS[-LAST] simprinter OPTIONS'")
+            ->type_name("FILE")
+            ->excludes(address);
+    for (CLI::Option* option : AddPrinterOptions(app, line.printer))
+        list->excludes(option);
+    app.add_flag("--log", line.logs, "one line per request and answer on the standard error output");
+    app.footer("Faults (with @OID only for requests below that object):\n" + FaultHelp()
+               + "\nWhile it runs it reads control lines; 'help' lists them.");
+    try {
+        app.parse(argc, argv);
+        return true;
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() != 0)
+            throw WrongUsage(std::string(error.what()) + "\n'simprinter --help' lists the options.");
+        app.exit(error);
+        return false;
+    } catch (const std::runtime_error& error) { // a fault that can't be read
+        throw WrongUsage(error.what());
+    }
+}
+
+PrinterOptions ReadPrinterOptions(const std::string& text) {
+    PrinterOptions printer;
+    CLI::App app;
+    app.set_help_flag();
+    AddPrinterOptions(app, printer);
+    try {
+        app.parse(text);
+    } catch (const std::runtime_error& error) {
+        throw WrongUsage(error.what());
+    }
+    return printer;
+}

@@ -1,0 +1,113 @@
+// Opens UDP sockets, and explains why one can't be opened.
+#include "simprinter/udp_socket.h"
+
+#include "common/text.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <netdb.h>
+#include <netinet/in.h>
+#include <stdexcept>
+#include <unistd.h>
+
+namespace {
+
+constexpr const char* kOtherLoopback = "127.255.255.254"; // unlikely to be in use
+
+std::string WhatToDo(int reason) {
+    switch (reason) {
+    case EADDRINUSE:
+        return ". Another program uses that port: stop it, or choose another one with --port (0: any free port)";
+    case EACCES:
+        return ". Ports below 1024 need root: start as root, or choose another one with --port (0: any free port)";
+    case EADDRNOTAVAIL:
+        return ". --address must be an address of this machine";
+    case EMFILE:
+        return ". Each printer needs one: simulate fewer, or raise the limit ('ulimit -n')";
+    default:
+        return "";
+    }
+}
+
+} // namespace
+
+std::string EndpointText(const Endpoint& endpoint) {
+    const bool isIpv6 = endpoint.address.find(':') != std::string::npos;
+    return (isIpv6 ? '[' + endpoint.address + ']' : endpoint.address) + ':' + std::to_string(endpoint.port);
+}
+
+SocketAddress ResolveEndpoint(const Endpoint& endpoint) {
+    addrinfo hints = {};
+    hints.ai_flags = AI_NUMERICHOST | AI_NUMERICSERV;
+    hints.ai_socktype = SOCK_DGRAM;
+    addrinfo* found = nullptr;
+    if (getaddrinfo(endpoint.address.c_str(), std::to_string(endpoint.port).c_str(), &hints, &found) != 0)
+        throw std::runtime_error(Quote(endpoint.address) + " is not an address such as 127.0.0.1 or ::1");
+    SocketAddress address;
+    std::memcpy(&address.storage, found->ai_addr, found->ai_addrlen);
+    address.length = found->ai_addrlen;
+    freeaddrinfo(found);
+    return address;
+}
+
+Endpoint EndpointOf(const SocketAddress& address) {
+    char host[NI_MAXHOST] = "", port[NI_MAXSERV] = "0";
+    getnameinfo(address.Raw(), address.length, host, sizeof host, port, sizeof port,
+                NI_NUMERICHOST | NI_NUMERICSERV);
+    return {host, static_cast<uint16_t>(std::atoi(port))};
+}
+
+UdpSocket::UdpSocket(const SocketAddress& where)
+    : descriptor(socket(where.storage.ss_family, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {
+    int reason = errno;
+    if (descriptor >= 0) {
+        const int only = 1; // "::" leaves IPv4 to "0.0.0.0"
+        if (where.storage.ss_family == AF_INET6)
+            setsockopt(descriptor, IPPROTO_IPV6, IPV6_V6ONLY, &only, sizeof only);
+        if (bind(descriptor, where.Raw(), where.length) == 0)
+            return;
+        reason = errno;
+        close(descriptor);
+    }
+    throw std::runtime_error("cannot listen on " + EndpointText(EndpointOf(where)) + ": "
+                             + std::strerror(reason) + WhatToDo(reason));
+}
+
+UdpSocket::~UdpSocket() {
+    close(descriptor);
+}
+
+SocketAddress UdpSocket::Name() const {
+    SocketAddress name;
+    getsockname(descriptor, name.Raw(), &name.length);
+    return name;
+}
+
+bool UdpSocket::Receive(Bytes& datagram, SocketAddress& from) const {
+    constexpr size_t kLargestDatagram = 65536;
+    datagram.resize(kLargestDatagram);
+    from.length = sizeof from.storage;
+    const ssize_t size = recvfrom(descriptor, datagram.data(), datagram.size(), 0, from.Raw(), &from.length);
+    datagram.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
+    return size >= 0;
+}
+
+void UdpSocket::Send(const Bytes& datagram, const SocketAddress& to) const {
+    sendto(descriptor, datagram.data(), datagram.size(), 0, to.Raw(), to.length);
+}
+
+const UdpSocket& PrinterSockets::For(Source source) {
+    Endpoint where = EndpointOf(main.Name());
+    if (source == Source::kOtherPort) {
+        where.port = 0;
+        return otherPort ? *otherPort : otherPort.emplace(ResolveEndpoint(where));
+    }
+    if (source == Source::kOtherAddress) {
+        if (main.Name().storage.ss_family == AF_INET6)
+            throw std::runtime_error("IPv6 has one loopback address");
+        where.address = kOtherLoopback;
+        return otherAddress ? *otherAddress : otherAddress.emplace(ResolveEndpoint(where));
+    }
+    return main;
+}
