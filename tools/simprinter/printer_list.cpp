@@ -4,6 +4,7 @@
 #include "common/files.h"
 #include "common/text.h"
 #include "simprinter/command_line.h"
+#include "simprinter/udp_socket.h"
 
 #include <arpa/inet.h>
 #include <sstream>
@@ -61,6 +62,7 @@ void ReadListLine(const std::string& text, size_t line, List& list) {
                                  + "; write 'ADDRESS simprinter OPTIONS' ('snmpd' lines are passed over)");
     PrinterOptions printer = ReadPrinterOptions(options);
     for (const std::string& address : AddressesOf(addresses)) {
+        ResolveEndpoint({address, 0}); // throws for a name
         const auto [earlier, isNew] = list.lines.emplace(address, line);
         if (!isNew)
             throw std::runtime_error(address + " occurs in line " + std::to_string(earlier->second)
