@@ -18,7 +18,7 @@ using Selected = std::vector<Printer*>;
     throw std::runtime_error(problem);
 }
 
-// A command gets the words after it, separated by one space, and returns what it did. It throws
+// A command gets the words after it, separated by one space, and returns what it did or shows. It throws
 // std::runtime_error before it changes anything.
 struct CommandKind {
     const char* name;
@@ -26,6 +26,13 @@ struct CommandKind {
     const char* text;
     std::string (*run)(const Selected& printers, const std::string& words, UpTime upTime);
 };
+
+// "127.0.0.1: set online no"
+std::string DoneText(const Selected& printers, const std::string& what) {
+    return (printers.size() == 1 ? printers.front()->address
+                                 : "all " + std::to_string(printers.size()) + " printers")
+           + ": " + what;
+}
 
 std::string Set(const Selected& printers, const std::string& words, UpTime upTime) {
     std::vector<Device> changed;
@@ -41,14 +48,14 @@ std::string Set(const Selected& printers, const std::string& words, UpTime upTim
         printers[i]->device = changed[i];
         NoteChange(*printers[i], upTime);
     }
-    return "set " + words;
+    return DoneText(printers, "set " + words);
 }
 
 std::string SetFault(const Selected& printers, const std::string& words, UpTime) {
     const Fault fault = ParseFault(words);
     for (Printer* printer : printers)
         AddFault(printer->agent.faults, fault);
-    return "fault " + FaultText(fault);
+    return DoneText(printers, "fault " + FaultText(fault));
 }
 
 std::string Clear(const Selected& printers, const std::string&, UpTime upTime) {
@@ -59,7 +66,7 @@ std::string Clear(const Selected& printers, const std::string&, UpTime upTime) {
         printer->device = *printer->start;
         NoteChange(*printer, upTime);
     }
-    return "as at the start";
+    return DoneText(printers, "as at the start");
 }
 
 std::string LevelText(int level, int capacity) {
