@@ -56,6 +56,16 @@ const Version* FindVersion(long number) {
 
 constexpr long kNoVersion = -1; // not read
 
+// The version of a message of which net-snmp reads nothing: an INTEGER of one byte after the header.
+long VersionOf(const Bytes& datagram) {
+    if (datagram.size() < 2 || datagram[0] != 0x30)
+        return kNoVersion;
+    const size_t header = datagram[1] < 0x80 ? 2 : 2 + (datagram[1] & 0x7Fu);
+    if (datagram.size() < header + 3 || datagram[header] != 0x02 || datagram[header + 1] != 1)
+        return kNoVersion;
+    return datagram[header + 2];
+}
+
 // A message of a version that is not known, or damaged before its PDU.
 std::string NoPduProblem(long version) {
     if (version == kNoVersion)
@@ -129,7 +139,7 @@ std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem)
     long number = kNoVersion;
     u_char* at = snmp_comstr_parse(bytes.data(), &left, community, &communityLength, &number);
     const Version* const version = FindVersion(number);
-    problem = NoPduProblem(number);
+    problem = NoPduProblem(at ? number : VersionOf(datagram));
     if (!at || !version || left == 0)
         return std::nullopt;
     const PduRow* const kind = FindPdu(*at);

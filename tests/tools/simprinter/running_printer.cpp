@@ -40,15 +40,22 @@ CommandResult RunCommand(const std::string& command) {
 RunningPrinter::RunningPrinter(const std::string& arguments)
     : output(popen(("echo $$; exec " SIMPRINTER_PROGRAM " --port 0 " + arguments).c_str(), "r")),
       client(socket(AF_INET, SOCK_DGRAM, 0)) {
-    char line[128] = "";
-    if (std::fgets(line, sizeof line, output))
-        process = std::atoi(line);
-    const std::string ready = "simprinter: ready on 127.0.0.1:";
-    if (!std::fgets(line, sizeof line, output) || std::string(line).rfind(ready, 0) != 0)
+    process = std::atoi(Line().c_str());
+    const std::string ready = "simprinter: ready on ", line = Line();
+    const size_t colon = line.rfind(':');
+    if (line.rfind(ready, 0) != 0 || colon < ready.size()) {
         ADD_FAILURE() << "simprinter " << arguments << " does not start: " << line;
+        return;
+    }
+    host = line.substr(ready.size(), colon - ready.size());
     address.sin_family = AF_INET;
-    address.sin_port = htons(static_cast<uint16_t>(std::atoi(line + ready.size())));
+    address.sin_port = htons(static_cast<uint16_t>(std::atoi(line.c_str() + colon + 1)));
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+}
+
+std::string RunningPrinter::Line() const {
+    char line[1024] = "";
+    return std::fgets(line, sizeof line, output) ? line : "";
 }
 
 RunningPrinter::~RunningPrinter() {
@@ -68,7 +75,7 @@ CommandResult RunningPrinter::Ask(const std::string& tool, const std::string& ob
     const TemporaryFolder folder;                                     // in place of the user's settings
     std::filesystem::create_directory(folder.path + "/cert_indexes"); // otherwise they report that they create it
     return RunCommand("SNMPCONFPATH=" + folder.path + " SNMP_PERSISTENT_DIR=" + folder.path + ' ' + tool + " -m '' -On "
-                      + options + " 127.0.0.1:" + Port() + ' ' + objects);
+                      + options + (host[0] == '[' ? " udp6:" : " ") + host + ':' + Port() + ' ' + objects);
 }
 
 void RunningPrinter::Send(const Bytes& request) const {

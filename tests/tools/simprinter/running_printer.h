@@ -34,13 +34,13 @@ struct Received {
     sockaddr_in from;
 };
 
-// The program on a free port of 127.0.0.1, and clients for it. Stopped with the object. The test fails when
-// it does not start.
+// The program on a free port, and clients for it. Stopped with the object. The test fails when it does not start.
 struct RunningPrinter {
     std::FILE* output; // of the program
     pid_t process = -1;
-    sockaddr_in address = {};
-    int client; // a UDP socket
+    std::string host = {};    // "127.0.0.1", "[::1]"
+    sockaddr_in address = {}; // of an IPv4 printer
+    int client;               // a UDP socket
 
     explicit RunningPrinter(const std::string& arguments = "");
     RunningPrinter(const RunningPrinter&) = delete;
@@ -53,6 +53,9 @@ struct RunningPrinter {
     // are not translated.
     CommandResult Ask(const std::string& tool, const std::string& objects,
                       const std::string& options = "-v1 -c tovask -r0 -t2") const;
+
+    // The next line that the program prints, with its end.
+    std::string Line() const;
 
     // Sends a datagram from the client socket.
     void Send(const Bytes& request) const;
