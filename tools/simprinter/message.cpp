@@ -150,8 +150,8 @@ std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem)
     }
     const PduPointer pdu(snmp_pdu_create(*at));
     problem = std::string("a damaged ") + version->name + ' ' + kind->name;
-    if (!pdu || snmp_pdu_parse(pdu.get(), at, &left) != 0)
-        return std::nullopt;
+    if (!pdu || snmp_pdu_parse(pdu.get(), at, &left) != 0 || pdu->reqid != static_cast<int32_t>(pdu->reqid))
+        return std::nullopt; // net-snmp reads numbers of more than 32 bits, too
     Message message;
     message.version = version;
     message.community.assign(reinterpret_cast<const char*>(community), communityLength);
