@@ -8,10 +8,12 @@
 #include <chrono>
 #include <csignal>
 #include <deque>
+#include <fcntl.h>
 #include <iostream>
 #include <poll.h>
 #include <stdexcept>
 #include <unistd.h>
+#include <utility>
 
 namespace {
 
@@ -60,9 +62,11 @@ void SendDue(SocketList& sockets, WaitingQueue& queue) {
     }
 }
 
-// The lines of the standard input. A job in the background must not read its terminal, and has no lines.
+// The lines of the standard input. A job in the background must not read its terminal, and has no lines. A
+// program may also start without the descriptor, which a socket then gets.
 struct ControlInput {
-    bool isOpen = isatty(STDIN_FILENO) == 0 || tcgetpgrp(STDIN_FILENO) == getpgrp();
+    bool isOpen = fcntl(STDIN_FILENO, F_GETFD) >= 0
+                  && (isatty(STDIN_FILENO) == 0 || tcgetpgrp(STDIN_FILENO) == getpgrp());
     std::string text; // without a line end so far
 
     // Reads what there is; call when the input is readable.
@@ -99,6 +103,7 @@ void Wait(std::vector<pollfd>& entries, const std::optional<Clock::time_point>& 
 } // namespace
 
 void Serve(const std::vector<Endpoint>& endpoints, bool logs, const ServerHandlers& handlers) {
+    ControlInput input;
     SocketList sockets;
     std::vector<pollfd> entries; // those of the printers, then the standard input
     std::vector<Endpoint> opened;
@@ -113,7 +118,6 @@ void Serve(const std::vector<Endpoint>& endpoints, bool logs, const ServerHandle
     handlers.ready(opened);
 
     WaitingQueue queue;
-    ControlInput input;
     Bytes datagram;
     const auto tickTime = std::chrono::milliseconds(handlers.tickMs);
     Clock::time_point nextTick = Clock::now() + tickTime;
