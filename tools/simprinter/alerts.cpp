@@ -81,7 +81,7 @@ constexpr ConditionKind kConditions[] = {
 };
 // clang-format on
 
-// The parts of a group: their number, and the row and name of each.
+// A part that conditions are looked for at: its row in the table of its group, and its name.
 struct Part {
     int row;
     std::string name;
