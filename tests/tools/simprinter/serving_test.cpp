@@ -79,6 +79,18 @@ TEST(Serving, OnlySnmpV2cHasCounter64) {
     EXPECT_EQ(ask(1, PduType::kGetNext), "-> .1.3.2.0 Counter64 1");
 }
 
+TEST(Serving, OnlySnmpV1RepeatsVariablesThatAreTooBig) {
+    const ObjectMap objects = {{{1, 3, 1, 0}, TextValue(std::string(100, 'x'))}};
+    Agent agent{{"tovask", 60}, std::make_shared<const ObjectMap>(objects), {}};
+    const Message get = {&kVersions[0], "tovask", PduType::kGet, 1, 0, 0, {{{1, 3, 1, 0}, {}}}};
+    const Message empty = {&kVersions[1], "tovask", PduType::kResponse, 1, kTooBig, 0, {}};
+    const Bytes request = BuildMessage(get);
+    EXPECT_EQ(HandleDatagram(agent, request).datagrams.at(0).bytes.size(), request.size());
+    Message other = get;
+    other.version = &kVersions[1];
+    EXPECT_EQ(HandleDatagram(agent, BuildMessage(other)).datagrams.at(0).bytes, BuildMessage(empty));
+}
+
 TEST(Serving, Ipv6IsServed) {
     if (RunCommand("grep -q '^0\\{31\\}1 ' /proc/net/if_inet6").exitCode != 0)
         GTEST_SKIP() << "this machine has no IPv6 address ::1";

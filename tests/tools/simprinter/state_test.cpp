@@ -110,6 +110,7 @@ TEST(Variation, LevelsFallAndAreReplaced) {
     std::vector<Printer> printers = StartedPrinters(options);
     std::vector<std::set<int>> levels(3);
     std::set<int> waste;
+    int refilled = 0;
     for (int second = 0; second <= 1200; ++second) {
         const Device before = printers[0].device;
         for (Printer& printer : printers)
@@ -119,6 +120,7 @@ TEST(Variation, LevelsFallAndAreReplaced) {
             EXPECT_TRUE(tray.level <= before.trays[i].level || before.trays[i].level == 0) << tray.level;
             EXPECT_EQ(tray.level, printers[1].device.trays[i].level) << "the same seed";
             levels[i].insert(tray.level);
+            refilled += tray.level > before.trays[i].level ? 1 : 0;
         }
         EXPECT_TRUE(second > 99 || printers[0].device.trays[0].level > 0) << "used up after " << second;
         waste.insert(printers[0].device.supplies[7].level);
@@ -127,6 +129,7 @@ TEST(Variation, LevelsFallAndAreReplaced) {
         EXPECT_EQ(*seen.begin(), 0);
         EXPECT_GT(seen.size(), 70u);
     }
+    EXPECT_GE(refilled, 3 * 4); // at least every 240 seconds
     EXPECT_EQ(waste, (std::set<int>{kLevelSome, 0, 1}));
     EXPECT_GT(printers[0].alerts.last, 10);
 
@@ -139,12 +142,14 @@ TEST(Variation, LevelsFallAndAreReplaced) {
     EXPECT_LE(printers[0].device.trays[0].level, 175);
     EXPECT_EQ(printers[0].device.trays[1].level, kLevelSome);
 
-    options.seed = 2;
-    std::vector<Printer> others = StartedPrinters(options);
-    AdvancePrinter(others[0], UpTime(0));
-    AdvancePrinter(others[0], UpTime(50000));
-    AdvancePrinter(printers[1], UpTime(50000));
-    EXPECT_NE(others[0].device.trays[0].level, printers[1].device.trays[0].level);
+    const auto levelLater = [&](unsigned seed) {
+        options.seed = seed;
+        Printer printer = StartedPrinters(options)[0];
+        AdvancePrinter(printer, UpTime(50000));
+        return printer.device.trays[0].level;
+    };
+    EXPECT_EQ(levelLater(1), levelLater(1));
+    EXPECT_NE(levelLater(1), levelLater(2));
 }
 
 // The columns of RFC 3805 that a client shows, with a MIB of its own.
