@@ -37,7 +37,7 @@ std::vector<CLI::Option*> AddPrinterOptions(CLI::App& app, PrinterOptions& print
                                     ->excludes(device);
     CLI::Option* const vary = app.add_option_function<double>(
                                      "--vary", [&printer](double seconds) { printer.varySeconds = seconds; },
-                                     "levels change with time: the fastest tray is used up in this many")
+                                     "levels change with time: the fastest tray is used up in SECONDS")
                                   ->type_name("[SECONDS]")
                                   ->check(CLI::Range(0.1, 1e6))
                                   ->expected(0, 1)
@@ -51,7 +51,7 @@ std::vector<CLI::Option*> AddPrinterOptions(CLI::App& app, PrinterOptions& print
             ->capture_default_str(),
         app.add_option_function<std::vector<std::string>>(
                "--versions", [&printer](const auto& words) { printer.agent.versions = ReadVersions(words); },
-               "of SNMP that are answered: 1, 2c or both")
+               "versions of SNMP that are answered: 1, 2c or both")
             ->type_name("LIST")
             ->default_str("1,2c")
             ->delimiter(',')
