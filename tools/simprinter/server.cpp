@@ -43,6 +43,13 @@ sigset_t CatchStopSignals() {
     return before;
 }
 
+// Waiting does not deliver a signal while there is always something to read: it stays pending.
+bool IsStopRequested() {
+    sigset_t pending;
+    sigpending(&pending);
+    return stopRequested != 0 || sigismember(&pending, SIGTERM) == 1 || sigismember(&pending, SIGINT) == 1;
+}
+
 struct Waiting {
     Datagram datagram;
     size_t printer;
@@ -121,7 +128,7 @@ void Serve(const std::vector<Endpoint>& endpoints, bool logs, const ServerHandle
     Bytes datagram;
     const auto tickTime = std::chrono::milliseconds(handlers.tickMs);
     Clock::time_point nextTick = Clock::now() + tickTime;
-    while (!stopRequested) {
+    while (!IsStopRequested()) {
         std::optional<Clock::time_point> until;
         if (handlers.tickMs != 0)
             until = nextTick;

@@ -96,6 +96,8 @@ TEST(Control, LinesOfTheStandardInputAreRun) {
     EXPECT_EQ(printer.Line().substr(0, 35), "simprinter: unknown command 'bogus'");
     EXPECT_EQ(printer.Ask("snmpget", name).output, name + " = INTEGER: 7\n");
 
+    const RunningPrinter busy("</dev/zero"); // always has something to read, and still stops
+
     const RunningPrinter ended("< " + folder.File("lines", "set TRAY1 level 8")); // the end of the input ends nothing
     EXPECT_EQ(ended.Line(), "127.0.0.1: set TRAY1 level 8\n");
     EXPECT_EQ(ended.Ask("snmpget", name).output, name + " = INTEGER: 8\n");
