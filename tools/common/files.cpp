@@ -46,17 +46,20 @@ void WriteAll(int descriptor, std::string_view contents, const std::string& path
 
 } // namespace
 
-std::string ReadFile(const std::string& path) {
+std::string ReadFile(const std::string& path, size_t most) {
     std::FILE* file = std::fopen(path.c_str(), "rb");
     if (!file)
         Fail("read", path, errno);
-    std::string contents(kMaxFileBytes + 1, '\0');
+    std::string contents(most + 1, '\0');
     errno = 0;
     contents.resize(std::fread(contents.data(), 1, contents.size(), file));
-    const int reason = std::ferror(file) ? errno : contents.size() > kMaxFileBytes ? EFBIG : 0;
+    const int reason = std::ferror(file) ? errno : 0;
     std::fclose(file);
     if (reason != 0)
         Fail("read", path, reason);
+    if (contents.size() > most)
+        throw std::runtime_error("cannot read '" + path + "': it has more than " + std::to_string(most)
+                                 + " bytes, the most that is read of such a file");
     return contents;
 }
 

@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-// Larger than any file these tools read; limits the cost of a wrong one.
+// Larger than nearly all files these tools read; limits the cost of a wrong one.
 constexpr size_t kMaxFileBytes = size_t{4} << 20;
 
-// Throws std::runtime_error with the file's name and the reason, also for a file above kMaxFileBytes.
-std::string ReadFile(const std::string& path);
+// Throws std::runtime_error with the file's name and the reason, also for a file of more bytes than `most`.
+std::string ReadFile(const std::string& path, size_t most = kMaxFileBytes);
 
 // The file has either all of the new contents or the old ones. A pipe or a device is written directly. Throws
 // as ReadFile does.

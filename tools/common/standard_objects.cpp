@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
+#include <utility>
 
 namespace {
 
@@ -107,6 +109,19 @@ const std::vector<std::vector<uint32_t>>& Parents() {
     return parents;
 }
 
+// The group and the row of each name.
+const std::map<std::string_view, std::pair<size_t, size_t>>& Rows() {
+    static const std::map<std::string_view, std::pair<size_t, size_t>> rows = [] {
+        std::map<std::string_view, std::pair<size_t, size_t>> all;
+        for (size_t group = 0; group < std::size(kGroups); ++group) {
+            for (size_t row = 0; row < kGroups[group].count; ++row)
+                all[kGroups[group].objects[row].name] = {group, row};
+        }
+        return all;
+    }();
+    return rows;
+}
+
 std::vector<uint32_t> WithNumber(std::vector<uint32_t> parent, const StandardObject& object) {
     parent.push_back(object.number);
     return parent;
@@ -133,15 +148,12 @@ void ForEachWord(const StandardObject& object, const Use& use) {
 } // namespace
 
 std::optional<FoundObject> FindObject(std::string_view name) {
-    for (size_t i = 0; i < std::size(kGroups); ++i) {
-        const ObjectGroup& group = kGroups[i];
-        const StandardObject* const end = group.objects + group.count;
-        const StandardObject* const object =
-            std::find_if(group.objects, end, [&](const StandardObject& o) { return name == o.name; });
-        if (object != end)
-            return FoundObject{&group, object, WithNumber(Parents()[i], *object), {}};
-    }
-    return std::nullopt;
+    const auto found = Rows().find(name);
+    if (found == Rows().end())
+        return std::nullopt;
+    const auto [group, row] = found->second;
+    const StandardObject& object = kGroups[group].objects[row];
+    return FoundObject{&kGroups[group], &object, WithNumber(Parents()[group], object), {}};
 }
 
 std::optional<FoundObject> FindObjectAt(const std::vector<uint32_t>& oid) {

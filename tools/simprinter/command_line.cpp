@@ -47,6 +47,7 @@ std::vector<CLI::Option*> AddPrinterOptions(CLI::App& app, PrinterOptions& print
         device,
         replay,
         vary,
+        app.add_flag("--strict", printer.isStrict, "refuse a file that gets warnings"),
         app.add_option("--community", printer.agent.community, "requests with another one are not answered")
             ->capture_default_str(),
         app.add_option_function<std::vector<std::string>>(

@@ -19,11 +19,14 @@ int64_t Hundredths(UpTime upTime) {
 // The contents of a file, read when it is needed first. Prints the findings; throws when any of them is an
 // error.
 template <typename Contents, typename Read>
-const Contents& ReadOnce(std::map<std::string, Contents>& all, const std::string& path, const Read& read) {
+const Contents& ReadOnce(std::map<std::string, Contents>& all, const std::string& path, const Read& read,
+                         size_t mostBytes, bool isStrict) {
     if (const auto known = all.find(path); known != all.end())
         return known->second;
     Findings findings;
-    Contents contents = read(ReadFile(path), findings);
+    Contents contents = read(ReadFile(path, mostBytes), findings);
+    if (isStrict)
+        findings.RaiseWarnings();
     findings.Sort();
     for (const Finding& finding : findings.list)
         std::cerr << path << ':' << FindingText(finding) << '\n';
@@ -33,8 +36,9 @@ const Contents& ReadOnce(std::map<std::string, Contents>& all, const std::string
 }
 
 Device DescribedDevice(const PrinterOptions& options, PrinterFiles& files) {
-    return options.deviceFile.empty() ? PlainDevice()
-                                      : ReadOnce(files.devices, options.deviceFile, ReadDevice);
+    return options.deviceFile.empty()
+               ? PlainDevice()
+               : ReadOnce(files.devices, options.deviceFile, ReadDevice, kMaxFileBytes, options.isStrict);
 }
 
 } // namespace
@@ -44,10 +48,11 @@ Printer StartPrinter(const std::string& address, const PrinterOptions& options, 
                     {},      {},      {},
                     {},      {}};
     if (!options.replayFile.empty()) {
+        const auto read = [](const std::string& text, Findings& findings) {
+            return std::make_shared<const ObjectMap>(ReadRecording(text, findings));
+        };
         printer.agent.objects =
-            ReadOnce(files.recordings, options.replayFile, [](const std::string& text, Findings& findings) {
-                return std::make_shared<const ObjectMap>(ReadRecording(text, findings));
-            });
+            ReadOnce(files.recordings, options.replayFile, read, kMaxRecordingBytes, options.isStrict);
         return printer;
     }
     printer.start = DescribedDevice(options, files);

@@ -11,6 +11,7 @@
 struct PrinterOptions {
     AgentOptions agent;
     std::string deviceFile, replayFile; // at most one; with neither it is the plain device
+    bool isStrict = false;              // warnings about the file are errors
     std::vector<Fault> faults;
     unsigned seed = 1;
     double varySeconds = 0; // in which the fastest tray is used up; 0: levels don't change

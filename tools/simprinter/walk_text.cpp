@@ -1,195 +1,195 @@
-// Reads the output of net-snmp's `snmpwalk -On`: ".1.3.6... = TYPE: VALUE". A value may continue on further
-// lines: a quoted text until a quote ends a line, any other until the next object.
-#include "simprinter/recording.h"
+// Reads the output of net-snmp's tools, a line "NAME = TYPE: VALUE" for each object. A quoted text continues
+// on further lines until a quote ends one, any other text and hexadecimal bytes until the next object.
+// Without types (options -Oq and -OQ) the table of standard objects gives them; other objects are guessed.
+#include "simprinter/walk_text.h"
 
 #include "common/text.h"
+#include "simprinter/recording.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace {
 
-std::string_view Trimmed(std::string_view text) {
-    constexpr const char* kBlanks = " \r\n";
-    const size_t first = text.find_first_not_of(kBlanks);
-    return first == std::string_view::npos ? ""
-                                           : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-// "3", "idle(3)" or "3 sheets".
-std::optional<Value> ParseNamedNumber(Tag tag, std::string_view text) {
-    text = Trimmed(text);
-    const size_t open = text.find('(');
-    if (open != std::string_view::npos && open != 0 && text.back() == ')')
-        return ParseNumber(tag, text.substr(open + 1, text.size() - open - 2));
-    return ParseNumber(tag, text.substr(0, text.find(' ')));
-}
-
-// "(100) 0:00:01.00"
-std::optional<Value> ParseTicks(Tag tag, std::string_view text) {
-    text = Trimmed(text);
-    if (text.empty() || text.front() != '(')
-        return ParseNumber(tag, text);
-    return ParseNumber(tag, text.substr(1, std::min(text.find(')'), text.size()) - 1));
-}
-
-// In quotes, with quotes and backslashes escaped; an unquoted text is taken literally.
-std::optional<Value> ParseString(Tag tag, std::string_view text) {
-    if (text.empty() || text.front() != '"')
-        return TextValue(std::string(text), tag);
-    text.remove_prefix(1);
-    if (text.empty() || text.back() != '"')
-        return std::nullopt;
-    text.remove_suffix(1);
-    std::string bytes;
-    for (size_t i = 0; i < text.size(); ++i) {
-        const bool isEscape =
-            text[i] == '\\' && i + 1 < text.size() && (text[i + 1] == '"' || text[i + 1] == '\\');
-        bytes.push_back(text[isEscape ? ++i : i]);
-    }
-    return TextValue(std::move(bytes), tag);
-}
-
-// "80 00 firstBit(0)": the names of the bits follow the bytes.
-std::optional<Value> ParseBits(Tag tag, std::string_view text) {
-    size_t end = 0;
-    const auto isHexPair = [&] {
-        const std::string_view word = text.substr(end, text.find(' ', end) - end);
-        return word.size() == 2 && word.find_first_not_of("0123456789ABCDEFabcdef") == std::string_view::npos;
-    };
-    while (end < text.size() && isHexPair())
-        end = std::min(end + 3, text.size());
-    return ParseHex(tag, text.substr(0, end));
-}
-
-std::optional<Value> ParseTrimmedOid(Tag tag, std::string_view text) {
-    return ParseOid(tag, Trimmed(text));
-}
-std::optional<Value> ParseTrimmedAddress(Tag tag, std::string_view text) {
-    return ParseIpAddress(tag, Trimmed(text));
-}
-std::optional<Value> ParseNull(Tag, std::string_view) {
-    return Value();
-}
-std::optional<Value> ParseEmpty(Tag tag, std::string_view) {
-    return TextValue("", tag);
-}
-
-// An Opaque number: the byte 9F, the kind, the size, then the number.
-template <typename Number, typename Bits>
-std::optional<Value> ParseOpaqueNumber(char kind, std::string_view text) {
-    text = Trimmed(text);
-    const std::optional<Number> number = ParseWhole<Number>(text);
-    if (!number)
-        return std::nullopt;
-    static_assert(sizeof(Number) == sizeof(Bits));
-    Bits bits;
-    std::memcpy(&bits, &*number, sizeof bits);
-    std::string bytes = {'\x9F', kind, static_cast<char>(sizeof bits)};
-    for (size_t i = sizeof bits; i-- > 0;)
-        bytes.push_back(static_cast<char>(static_cast<uint8_t>(bits >> (8 * i))));
-    return TextValue(std::move(bytes), kOpaque);
-}
-std::optional<Value> ParseFloat(Tag, std::string_view text) {
-    return ParseOpaqueNumber<float, uint32_t>('\x78', text);
-}
-std::optional<Value> ParseDouble(Tag, std::string_view text) {
-    return ParseOpaqueNumber<double, uint64_t>('\x79', text);
-}
-
-struct TypeRow {
-    const char* name; // between the equals sign and the value
-    Tag tag;
-    ParseValue parse;
-};
-// clang-format off
-constexpr TypeRow kTypes[] = {
-    {"INTEGER: ",        kInteger,     ParseNamedNumber},
-    {"STRING: ",         kOctetString, ParseString},
-    {"Hex-STRING: ",     kOctetString, ParseHex},
-    {"BITS: ",           kOctetString, ParseBits},
-    {"\"\"",             kOctetString, ParseEmpty},
-    {"NULL",             kNull,        ParseNull},
-    {"OID: ",            kObjectId,    ParseTrimmedOid},
-    {"IpAddress: ",      kIpAddress,   ParseTrimmedAddress},
-    {"Counter32: ",      kCounter,     ParseNamedNumber},
-    {"Gauge32: ",        kGauge,       ParseNamedNumber},
-    {"Timeticks: ",      kTimeTicks,   ParseTicks},
-    {"Opaque: Float: ",  kOpaque,      ParseFloat},
-    {"Opaque: Double: ", kOpaque,      ParseDouble},
-    {"OPAQUE: ",         kOpaque,      ParseHex},
-};
-// Printed in place of an object.
-constexpr const char* kNoObject[] = {"No more variables left", "No Such Object", "No Such Instance"};
-// clang-format on
-
-bool StartsWith(std::string_view text, std::string_view start) {
+bool Begins(std::string_view text, std::string_view start) {
     return text.substr(0, start.size()) == start;
 }
 
-// snmpwalk puts a remark before a value whose type differs from the MIB's.
-std::string_view WithoutRemark(std::string_view text) {
-    const size_t end = StartsWith(text, "Wrong Type (should be ") ? text.find("): ") : std::string_view::npos;
-    return end == std::string_view::npos ? text : text.substr(end + 3);
+bool IsAnyOf(const char* const* first, const char* const* last, std::string_view line) {
+    return std::any_of(first, last, [&](const char* start) { return Begins(line, start); });
 }
 
-void ReadObject(Place place, std::string_view name, std::string_view text, Recording& recording) {
-    if (std::any_of(std::begin(kNoObject), std::end(kNoObject),
-                    [&](const char* s) { return StartsWith(text, s); }))
-        return;
-    if (StartsWith(text, "Counter64: "))
-        return recording.LeaveOutCounter64(place);
-    for (const TypeRow& row : kTypes) {
-        if (StartsWith(text, row.name))
-            return recording.Add(place, name, row.parse(row.tag, text.substr(std::strlen(row.name))), text);
+// Where the recording lacks something, and what follows such a message.
+constexpr const char* kFailures[] = {"Timeout: ",  "Error: ",        "Error in packet",
+                                     "snmpwalk: ", "snmpbulkwalk: ", "No Response from"};
+constexpr const char* kRemarks[] = {"End of MIB",        " >= ",
+                                    "Reason: ",          "Failed object: ",
+                                    "MIB search path: ", "Cannot find module ",
+                                    "Did not find ",     "Created directory: ",
+                                    "Bad operator ",     "Unlinked OID ",
+                                    "Undefined ",        "Cannot adopt OID "};
+// Printed in place of a value.
+constexpr const char* kNoObject[] = {"No more variables left", "No Such Object", "No Such Instance"};
+
+// A command line with its prompt, or a prompt alone.
+bool IsPrompt(std::string_view line) {
+    const size_t last = line.find_last_not_of(' ');
+    const bool isPromptAlone = last != std::string_view::npos
+                               && std::string_view("$#>").find(line[last]) != std::string_view::npos
+                               && (last == 0 || line.find_first_of(":@") < last);
+    return isPromptAlone || line.find("snmpwalk ") != std::string_view::npos
+           || line.find("snmpbulkwalk ") != std::string_view::npos;
+}
+
+bool IsBlank(std::string_view line) {
+    return line.find_first_not_of(" \t\r") == std::string_view::npos;
+}
+
+// A line that starts an object.
+struct ObjectLine {
+    WalkName name;
+    std::string_view text; // the value's first line
+};
+
+// Whether the file has equals signs and types is known before its lines are read.
+struct Form {
+    bool hasEquals = false, hasTypes = false;
+};
+
+std::optional<ObjectLine> SplitObject(std::string_view line, bool hasEquals) {
+    ObjectLine object{ReadWalkName(line), {}};
+    std::string_view rest = line.substr(object.name.length);
+    const std::string_view separator = hasEquals ? " = " : " ";
+    if (object.name.length == 0 || (!Begins(rest, separator) && rest != " ="))
+        return std::nullopt;
+    object.text = rest.substr(std::min(separator.size(), rest.size()));
+    const bool isSure = object.name.isSure || (hasEquals && StartsWithType(object.text));
+    return isSure ? std::optional(object) : std::nullopt;
+}
+
+// Without equals signs only lines with an index are objects, so that "system down" is none.
+std::optional<ObjectLine> ObjectAt(std::string_view line, Form form) {
+    std::optional<ObjectLine> object = SplitObject(line, form.hasEquals);
+    const bool isQuick = object && !form.hasEquals;
+    if (isQuick
+        && (line.substr(0, object->name.length).find('.') == std::string_view::npos || IsBlank(object->text)))
+        return std::nullopt;
+    return object;
+}
+
+Form FormOf(const Lines& lines) {
+    Form form;
+    for (const std::string_view line : lines) {
+        if (const std::optional<ObjectLine> object = SplitObject(line, true)) {
+            form.hasEquals = true;
+            form.hasTypes = form.hasTypes || StartsWithType(object->text);
+        }
     }
-    // The only type that is printed without its name.
-    if (const std::optional<Value> number = ParseNumber(kUnsigned, text))
-        return recording.Add(place, name, number, text);
-    recording.findings.Error(place, "unknown type after the equals sign: " + Quote(text));
+    return form;
 }
 
-// Whether a quoted text is still open: it ends with an unescaped quote at the end of a line.
-bool IsOpen(std::string_view text) {
-    constexpr std::string_view kStart = "STRING: \"";
-    if (!StartsWith(text, kStart))
-        return false;
-    text.remove_prefix(kStart.size());
-    if (text.empty() || text.back() != '"')
-        return true;
-    text.remove_suffix(1);
-    const size_t lastOther = text.find_last_not_of('\\');
-    return (text.size() - (lastOther == std::string_view::npos ? 0 : lastOther + 1)) % 2 != 0;
-}
+struct WalkReader {
+    const Lines& lines;
+    Form form;
+    Recording& recording;
+    std::vector<size_t> quotes = {}; // for each line, itself or the next one that has a quote
+    size_t ignored = 0;              // lines before the first object
+    Place firstIgnored = {};
+    size_t guessed = 0;
+    Place firstGuessed = {};
+
+    bool IsRemark(std::string_view line) const {
+        return IsAnyOf(std::begin(kRemarks), std::end(kRemarks), line)
+               || IsAnyOf(std::begin(kFailures), std::end(kFailures), line) || IsPrompt(line);
+    }
+
+    void ReadOther(size_t at) {
+        const std::string_view line = lines[at];
+        if (IsAnyOf(std::begin(kFailures), std::end(kFailures), line))
+            return recording.findings.Warning(
+                AtLine(at + 1), "the walk failed here, so that objects may be missing: " + Quote(line));
+        if (IsBlank(line) || IsRemark(line))
+            return;
+        if (!recording.objects.empty())
+            return recording.LeaveOut(AtLine(at + 1), "expected 'NAME = TYPE: VALUE', not " + Quote(line));
+        if (ignored++ == 0)
+            firstIgnored = AtLine(at + 1);
+    }
+
+    void Store(Place place, const ObjectLine& object, std::string_view name, const std::string& text) {
+        if (IsAnyOf(std::begin(kNoObject), std::end(kNoObject), text))
+            return;
+        if (object.name.oid.empty())
+            return recording.LeaveOut(place, "the name " + Quote(name)
+                                                 + " is unknown or not valid: record with "
+                                                   "'snmpwalk -On'");
+        const WalkValue value = ReadWalkValue(object.name.oid, text, form.hasTypes);
+        if (!value.value) {
+            place.column = name.size() + (form.hasEquals ? 4 : 2);
+            return recording.LeaveOut(place, Quote(text) + " is not a value of its type");
+        }
+        if (value.isGuessed && guessed++ == 0)
+            firstGuessed = place;
+        recording.Add(place, object.name.oid, *value.value);
+    }
+
+    // Reads the object that starts in this line. Returns the line after it.
+    size_t ReadObject(size_t at, const ObjectLine& object) {
+        const Place place = AtLine(at + 1);
+        const std::string_view name = lines[at].substr(0, object.name.length);
+        std::string text(object.text);
+        size_t next = at + 1;
+        if (IsOpenQuote(text)) {
+            const size_t end = next < lines.size() ? quotes[next] : lines.size();
+            // All quotes inside are escaped, so that one elsewhere belongs to another object.
+            if (end == lines.size() || FindQuote(lines[end]) + 1 != lines[end].size()) {
+                recording.LeaveOut(place, "the quoted text that starts here has no end");
+                return next;
+            }
+            while (next <= end)
+                text.append("\n").append(lines[next++]);
+        } else if (MayContinue(text) && !IsAnyOf(std::begin(kNoObject), std::end(kNoObject), text)) {
+            while (next < lines.size() && !ObjectAt(lines[next], form) && !IsRemark(lines[next]))
+                text.append("\n").append(lines[next++]);
+            if (next == lines.size()
+                || !ObjectAt(lines[next], form)) // nothing shows whether blank lines belong to it
+                text.erase(text.find_last_not_of('\n') + 1);
+        }
+        Store(place, object, name, text);
+        return next;
+    }
+
+    void ReadAll() {
+        quotes.assign(lines.size(), lines.size());
+        for (size_t i = lines.size(); i-- > 0;) {
+            const bool hasQuote = FindQuote(lines[i]) != std::string_view::npos;
+            quotes[i] = hasQuote ? i : i + 1 < lines.size() ? quotes[i + 1] : lines.size();
+        }
+        for (size_t i = 0; i < lines.size();) {
+            const std::optional<ObjectLine> object = ObjectAt(lines[i], form);
+            if (!object)
+                ReadOther(i);
+            i = object ? ReadObject(i, *object) : i + 1;
+        }
+        if (ignored != 0 && !recording.objects.empty())
+            recording.findings.Warning(firstIgnored,
+                                       "this line and all others before the first object are ignored, "
+                                           + std::to_string(ignored) + " in total");
+        if (guessed != 0)
+            recording.findings.Warning(firstGuessed,
+                                       "the types are not recorded: this object and all others that are "
+                                       "not in a standard MIB are guessed, "
+                                           + std::to_string(guessed) + " in total");
+    }
+};
 
 } // namespace
 
-bool IsWalkLine(std::string_view line) {
-    const size_t end = line.find_first_not_of("0123456789.");
-    return end != 0 && StartsWith(line, ".") && end != std::string_view::npos
-           && StartsWith(line.substr(end), " = ");
+bool HasWalkLine(const Lines& lines) {
+    const Form form = FormOf(lines);
+    return std::any_of(lines.begin(), lines.end(),
+                       [&](std::string_view line) { return ObjectAt(line, form).has_value(); });
 }
 
-void ReadWalk(const std::vector<std::string_view>& lines, Recording& recording) {
-    for (size_t i = 0; i < lines.size();) {
-        const Place place = AtLine(i + 1);
-        const std::string_view line = lines[i++];
-        if (!IsWalkLine(line)) {
-            if (!Trimmed(line).empty() && line != "End of MIB")
-                recording.findings.Error(place, "expected '.1.3.6... = TYPE: VALUE', not " + Quote(line));
-            continue;
-        }
-        const size_t equals = line.find(" = ");
-        std::string text(WithoutRemark(line.substr(equals + 3)));
-        const bool isQuoted = IsOpen(text);
-        const auto goesOn = [&] {
-            return isQuoted ? IsOpen(text) : !IsWalkLine(lines[i]) && lines[i] != "End of MIB";
-        };
-        while (i < lines.size() && goesOn())
-            text.append("\n").append(lines[i++]);
-        if (isQuoted && IsOpen(text))
-            recording.findings.Error(place, "the quoted text that starts here has no end");
-        else
-            ReadObject(place, line.substr(0, equals), text, recording);
-    }
+void ReadWalk(const Lines& lines, Recording& recording) {
+    WalkReader{lines, FormOf(lines), recording}.ReadAll();
 }
