@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <memory>
 // net-snmp's headers require this order.
 // clang-format off
@@ -82,6 +83,14 @@ bool ReadOid(const oid* subIds, size_t count, Oid& to) {
     return std::equal(to.begin(), to.end(), subIds); // false for one of more than 32 bits
 }
 
+template <typename Bits, typename Number>
+Value OpaqueValue(char kind, Number number) {
+    static_assert(sizeof(Bits) == sizeof(Number));
+    Bits bits;
+    std::memcpy(&bits, &number, sizeof bits);
+    return OpaqueNumberValue(kind, bits, sizeof bits);
+}
+
 // The value of a SetRequest, which an error returns; other requests have NULL. Unknown types become NULL.
 Value ReadValue(const netsnmp_variable_list& from) {
     const auto tag = static_cast<Tag>(from.type);
@@ -101,8 +110,14 @@ Value ReadValue(const netsnmp_variable_list& from) {
         return TextValue({reinterpret_cast<const char*>(from.val.string), from.val_len}, tag);
     case kObjectId:
         return OidValue(Oid(from.val.objid, from.val.objid + from.val_len / sizeof(oid)));
+    case kNoSuchObject:
+    case kNoSuchInstance:
+    case kEndOfMibView:
+        return {tag, 0, {}, {}};
     default:
-        return {};
+        return from.type == ASN_OPAQUE_FLOAT    ? OpaqueValue<uint32_t>(kOpaqueFloat, *from.val.floatVal)
+               : from.type == ASN_OPAQUE_DOUBLE ? OpaqueValue<uint64_t>(kOpaqueDouble, *from.val.doubleVal)
+                                                : Value();
     }
 }
 
@@ -127,9 +142,8 @@ int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
            != nullptr;
 }
 
-} // namespace
-
-std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem) {
+// Nothing when the datagram is not such a message of a known version; `problem` then says what it is.
+std::optional<Message> ParseMessage(const Bytes& datagram, bool isRequest, std::string& problem) {
     QuietLibrary();
     Bytes bytes = datagram; // net-snmp's functions want them writable
     bytes.push_back(0);     // and may read one byte beyond the end
@@ -143,7 +157,7 @@ std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem)
     if (!at || !version || left == 0)
         return std::nullopt;
     const PduRow* const kind = FindPdu(*at);
-    if (!kind || !kind->isRequest || (kind->type == SNMP_MSG_GETBULK && !version->hasGetBulk)) {
+    if (!kind || kind->isRequest != isRequest || (kind->type == SNMP_MSG_GETBULK && !version->hasGetBulk)) {
         problem =
             "an " + (std::string(version->name) + ' ' + (kind ? kind->name : "message of an unknown type"));
         return std::nullopt;
@@ -157,7 +171,7 @@ std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem)
     message.community.assign(reinterpret_cast<const char*>(community), communityLength);
     message.type = static_cast<PduType>(pdu->command);
     message.requestId = pdu->reqid;
-    if (message.type == PduType::kGetBulk) {
+    if (message.type == PduType::kGetBulk || !isRequest) {
         message.errorStatus = pdu->errstat;
         message.errorIndex = pdu->errindex;
     }
@@ -169,6 +183,18 @@ std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem)
         message.varBinds.push_back(std::move(varBind));
     }
     return message;
+}
+
+} // namespace
+
+std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem) {
+    return ParseMessage(datagram, true, problem);
+}
+
+std::optional<Message> ParseReply(const Bytes& datagram) {
+    std::string problem;
+    std::optional<Message> reply = ParseMessage(datagram, false, problem);
+    return reply && reply->type == PduType::kResponse ? reply : std::nullopt;
 }
 
 Bytes BuildMessage(const Message& message) {

@@ -61,6 +61,9 @@ struct Message {
 // request".
 std::optional<Message> ParseRequest(const Bytes& datagram, std::string& problem);
 
+// A reply of a known version; nothing for any other datagram.
+std::optional<Message> ParseReply(const Bytes& datagram);
+
 // Empty when a value can't be encoded.
 Bytes BuildMessage(const Message& message);
 

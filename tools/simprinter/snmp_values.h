@@ -67,6 +67,15 @@ inline Value OidValue(Oid oid) {
     return {kObjectId, 0, {}, std::move(oid)};
 }
 
+// A number in an Opaque: the byte 9F, the kind, the size, then the number.
+inline Value OpaqueNumberValue(char kind, uint64_t bits, size_t size) {
+    std::string bytes = {'\x9F', kind, static_cast<char>(size)};
+    for (size_t i = size; i-- > 0;)
+        bytes.push_back(static_cast<char>(static_cast<uint8_t>(bits >> (8 * i))));
+    return TextValue(std::move(bytes), kOpaque);
+}
+constexpr char kOpaqueFloat = '\x78', kOpaqueDouble = '\x79';
+
 using ObjectMap = std::map<Oid, Value>;
 
 // Parses "1.3.6.1" or ".1.3.6.1": 2 to 128 sub-identifiers of 32 bits that a message can encode.

@@ -115,7 +115,6 @@ std::optional<Value> ParseEmpty(Tag tag, std::string_view) {
     return TextValue("", tag);
 }
 
-// An Opaque number: the byte 9F, the kind, the size, then the number.
 template <typename Number, typename Bits>
 std::optional<Value> ParseOpaqueNumber(char kind, std::string_view text) {
     text = Trimmed(text);
@@ -125,16 +124,13 @@ std::optional<Value> ParseOpaqueNumber(char kind, std::string_view text) {
     static_assert(sizeof(Number) == sizeof(Bits));
     Bits bits;
     std::memcpy(&bits, &*number, sizeof bits);
-    std::string bytes = {'\x9F', kind, static_cast<char>(sizeof bits)};
-    for (size_t i = sizeof bits; i-- > 0;)
-        bytes.push_back(static_cast<char>(static_cast<uint8_t>(bits >> (8 * i))));
-    return TextValue(std::move(bytes), kOpaque);
+    return OpaqueNumberValue(kind, bits, sizeof bits);
 }
 std::optional<Value> ParseFloat(Tag, std::string_view text) {
-    return ParseOpaqueNumber<float, uint32_t>('\x78', text);
+    return ParseOpaqueNumber<float, uint32_t>(kOpaqueFloat, text);
 }
 std::optional<Value> ParseDouble(Tag, std::string_view text) {
-    return ParseOpaqueNumber<double, uint64_t>('\x79', text);
+    return ParseOpaqueNumber<double, uint64_t>(kOpaqueDouble, text);
 }
 
 // Whether the text ends with a quote that is not escaped.
