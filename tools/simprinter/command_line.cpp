@@ -75,6 +75,26 @@ std::vector<CLI::Option*> AddPrinterOptions(CLI::App& app, PrinterOptions& print
     };
 }
 
+void AddRecordCommand(CLI::App& app, RecordOptions& record, std::string& version) {
+    CLI::App* const command =
+        app.add_subcommand("record", "walk a device and write its objects to an .snmprec file");
+    command->add_option("address", record.address, "of the device, or its name")->required();
+    command->add_option("-o,--output", record.file, "replaced when the walk is complete")
+        ->type_name("FILE.snmprec")
+        ->required();
+    command->add_option("--community", record.community, "that the device answers")->capture_default_str();
+    command->add_option("--port", record.port, "UDP port")
+        ->check(CLI::Range(1, 65535))
+        ->capture_default_str();
+    command->add_option("--version", version, "of SNMP; without it 2c if the device answers, else 1")
+        ->check(CLI::IsMember({kVersions[0].word, kVersions[1].word}));
+    command
+        ->add_option("--timeout", record.timeout,
+                     "seconds to wait for an answer before the request is repeated")
+        ->check(CLI::Range(0.05, 60.0))
+        ->capture_default_str();
+}
+
 } // namespace
 
 bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
@@ -95,8 +115,15 @@ bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     app.add_flag("--log", line.logs, "one line per request and answer on the standard error output");
     app.footer("Faults (with @OID only for requests below that object):\n" + FaultHelp()
                + "\nWhile it runs it reads control lines; 'help' lists them.");
+    RecordOptions record;
+    std::string version;
+    AddRecordCommand(app, record, version);
     try {
         app.parse(argc, argv);
+        if (app.got_subcommand("record")) {
+            record.version = version.empty() ? nullptr : ReadVersions({version}).front();
+            line.record = record;
+        }
         return true;
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0)

@@ -3,6 +3,7 @@
 #define SIMPRINTER_COMMAND_LINE_H
 
 #include "simprinter/printer.h"
+#include "simprinter/record.h"
 
 #include <stdexcept>
 
@@ -16,6 +17,7 @@ struct CommandLine {
     bool logs = false;
     std::string listFile; // in place of the address and the options
     PrinterOptions printer;
+    std::optional<RecordOptions> record; // the subcommand, in place of all others
 };
 
 // False after --help and --version, which are printed. Throws WrongUsage.

@@ -1,5 +1,5 @@
 // simprinter, a simulated printer on the network: messages and exit codes.
-// Exit codes: 0 stopped by SIGTERM or SIGINT, --help or --version; 1 failure; 2 wrong usage.
+// Exit codes: 0 stopped by SIGTERM or SIGINT, recorded, --help or --version; 1 failure; 2 wrong usage.
 #include "simprinter/command_line.h"
 #include "simprinter/control.h"
 #include "simprinter/printer_list.h"
@@ -63,8 +63,11 @@ void ServePrinters(const CommandLine& line) {
 
 ExitCode Run(int argc, char** argv) {
     CommandLine line;
-    if (ReadCommandLine(argc, argv, line))
-        ServePrinters(line);
+    if (!ReadCommandLine(argc, argv, line))
+        return kDone;
+    if (line.record)
+        return RecordDevice(*line.record) ? kDone : kFailed;
+    ServePrinters(line);
     return kDone;
 }
 

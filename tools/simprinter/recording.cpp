@@ -133,8 +133,7 @@ ObjectMap ReadRecording(const std::string& text, Findings& findings) {
     Recording recording(findings);
     if (findings.HasErrors())
         return {};
-    // A line of the one format is none of the other.
-    if (std::any_of(lines.begin(), lines.end(), IsSnmprecLine) && !HasWalkLine(lines))
+    if (FindSnmprecLine(lines) < FindWalkLine(lines))
         ReadSnmprec(lines, recording);
     else
         ReadWalk(lines, recording);

@@ -50,8 +50,8 @@ Lines SplitLines(std::string_view text);
 void ReadSnmprec(const Lines& lines, Recording& recording);
 void ReadWalk(const Lines& lines, Recording& recording);
 
-// Whether a line starts an object in this format.
-bool IsSnmprecLine(std::string_view line);
-bool HasWalkLine(const Lines& lines);
+// The position of the first line that starts an object in this format; lines.size() when there is none.
+size_t FindSnmprecLine(const Lines& lines);
+size_t FindWalkLine(const Lines& lines);
 
 #endif

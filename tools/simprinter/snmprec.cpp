@@ -193,9 +193,12 @@ bool IsPlainText(const std::string& bytes) {
 
 } // namespace
 
-bool IsSnmprecLine(std::string_view line) {
-    const size_t end = line.find_first_not_of("0123456789.");
-    return end != 0 && end != std::string_view::npos && line[end] == '|';
+size_t FindSnmprecLine(const Lines& lines) {
+    const auto first = std::find_if(lines.begin(), lines.end(), [](std::string_view line) {
+        const size_t end = line.find_first_not_of("0123456789.");
+        return end != 0 && end != std::string_view::npos && line[end] == '|';
+    });
+    return static_cast<size_t>(first - lines.begin());
 }
 
 void ReadSnmprec(const Lines& lines, Recording& recording) {

@@ -184,10 +184,11 @@ struct WalkReader {
 
 } // namespace
 
-bool HasWalkLine(const Lines& lines) {
+size_t FindWalkLine(const Lines& lines) {
     const Form form = FormOf(lines);
-    return std::any_of(lines.begin(), lines.end(),
-                       [&](std::string_view line) { return ObjectAt(line, form).has_value(); });
+    const auto first = std::find_if(lines.begin(), lines.end(),
+                                    [&](std::string_view line) { return ObjectAt(line, form).has_value(); });
+    return static_cast<size_t>(first - lines.begin());
 }
 
 void ReadWalk(const Lines& lines, Recording& recording) {
