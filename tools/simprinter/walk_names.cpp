@@ -66,13 +66,14 @@ bool TakeBrackets(std::string_view& text, Oid& oid) {
 struct NameReader {
     std::string_view text;
     Oid oid = {};
-    bool isKnown = true;
+    bool isKnown = true, hasLabel = false;
 
     // A label replaces what comes before it: ".iso.org.dod.internet" is the identifier of its last one.
     bool TakeLabel() {
         const std::string_view label = TakeWhile(text, IsLabelCharacter);
         const std::optional<FoundObject> found = FindObject(label);
         isKnown = found.has_value();
+        hasLabel = true;
         oid = found ? found->oid : Oid();
         return !label.empty();
     }
@@ -114,14 +115,16 @@ WalkName ReadWalkName(std::string_view line) {
         reader.text.remove_prefix(2);
     else
         reader.text = line.substr(!line.empty() && line.front() == '.' ? 1 : 0);
-    const bool isNumeric = !reader.text.empty() && IsDigit(reader.text.front());
     if (!reader.TakeParts())
         return {};
     WalkName name;
     name.length = line.size() - reader.text.size();
-    name.isSure =
-        isNumeric ? line.front() == '.' || line.substr(0, 6) == "1.3.6." : hasModule || reader.isKnown;
-    if (reader.isKnown && OidFromText(OidText(reader.oid)))
+    // Other numbers are relative to a point of the tree that is not known.
+    const bool isNumber =
+        !hasModule && !reader.hasLabel && (line.front() == '.' || line.substr(0, 6) == "1.3.6.");
+    const bool isAbsolute = reader.hasLabel || isNumber;
+    name.isSure = hasModule || isNumber || (reader.hasLabel && reader.isKnown);
+    if (isAbsolute && reader.isKnown && OidFromText(OidText(reader.oid)))
         name.oid = std::move(reader.oid);
     return name;
 }

@@ -66,12 +66,13 @@ std::optional<ObjectLine> SplitObject(std::string_view line, bool hasEquals) {
     return isSure ? std::optional(object) : std::nullopt;
 }
 
-// Without equals signs only lines with an index are objects, so that "system down" is none.
+// Without equals signs only names with an index or a module are objects, so that "system down" is none.
 std::optional<ObjectLine> ObjectAt(std::string_view line, Form form) {
     std::optional<ObjectLine> object = SplitObject(line, form.hasEquals);
-    const bool isQuick = object && !form.hasEquals;
-    if (isQuick
-        && (line.substr(0, object->name.length).find('.') == std::string_view::npos || IsBlank(object->text)))
+    if (object && !form.hasEquals
+        && line.substr(0, object->name.length).find_first_of(".:[") == std::string_view::npos
+        && (object->name.oid.empty()
+            || object->name.oid.back() != 0)) // sysUpTimeInstance has its index in the name
         return std::nullopt;
     return object;
 }
