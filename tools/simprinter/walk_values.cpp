@@ -325,7 +325,8 @@ bool MayContinue(std::string_view text) {
 WalkValue ReadWalkValue(const Oid& name, std::string_view text, bool hasTypes) {
     text = WithoutRemark(text);
     const std::optional<FoundObject> found = FindObjectAt(name);
-    const StandardObject* const object = found ? found->object : nullptr;
+    const StandardObject* const object =
+        found && found->object->syntax != Syntax::kNode ? found->object : nullptr;
     const bool isTicks = object && object->syntax == Syntax::kTimeTicks;
     if (const TypeRow* const row = TypeAt(text); row && (hasTypes || row->parse != ParseNull)) {
         const std::string_view value = text.substr(std::min(std::strlen(row->name), text.size()));
@@ -340,7 +341,7 @@ WalkValue ReadWalkValue(const Oid& name, std::string_view text, bool hasTypes) {
     if (hasTypes)
         return {ParseNumber(isTicks ? kTimeTicks : kUnsigned, text)};
     if (HasPrefix(text, "\"") && text.size() > 1)
-        return {ParseQuoted(text), !object};
+        return {ParseQuoted(text)};
     const std::optional<Value> value = object ? ParseByObject(*object, text) : std::nullopt;
     return value ? WalkValue{value} : WalkValue{Guess(text), true};
 }

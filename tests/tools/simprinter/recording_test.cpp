@@ -1,4 +1,4 @@
-// Recordings in both formats: values, errors with their lines, and a walk of a replayed walk.
+// Recordings in both formats: values, names, encodings, warnings with their lines, and a walk of a replayed walk.
 #include "running_printer.h"
 
 #include "simprinter/recording.h"
@@ -28,6 +28,15 @@ const std::tuple<const char*, const char*, Value> kValues[] = {
     {"6|0.0", "OID: .0.0", OidValue({0, 0})},
     {"64|10.0.200.255", "IpAddress: 10.0.200.255", TextValue(std::string("\x0A\0\xC8\xFF", 4), kIpAddress)},
     {"65|4294967295", "Counter32: 4294967295", NumberValue(4294967295, kCounter)},
+    {"65x|ffffffff", "Counter32: 4294967295 pages", NumberValue(4294967295, kCounter)},
+    {"70|18446744073709551615", "Counter64: 18446744073709551615", Counter64Value(UINT64_MAX)},
+    {"2x|fffffff9", "INTEGER: -7 sheets", NumberValue(-7)},
+    {"4e|a\\x00\\n\\\\", "Hex-STRING: 61 00 0A 5C                            [a..\\]",
+     TextValue(std::string("a\0\n\\", 4))},
+    {"2:numeric|rate=1,initial=5,offset=-2,max=4", "INTEGER: 3", NumberValue(3)},
+    {"66:numeric|min=10,scale=5,function=cos", "Gauge32: 15", NumberValue(15, kGauge)},
+    {"4:delay|wait=5,value=slow", "STRING: slow", TextValue("slow")},
+    {"64:writecache|hexvalue=0a000001", "IpAddress: 10.0.0.1", TextValue({"\x0A\0\0\1", 4}, kIpAddress)},
     {"66|12", "Gauge32: 12", NumberValue(12, kGauge)},
     {"67|8640000", "Timeticks: (8640000) 1 day, 0:00:00.00", NumberValue(8640000, kTimeTicks)},
     {"68x|9f78043fc00000", "Opaque: Float: 1.500000", TextValue({"\x9F\x78\4\x3F\xC0\0\0", 7}, kOpaque)},
@@ -57,30 +66,118 @@ TEST(Recording, BothFormatsGiveTheSameValues) {
     }
 }
 
-TEST(Recording, EveryFindingHasItsLine) {
-    const std::string good = "1.3.1.0|2|1\n", goodWalk = ".1.3.1.0 = INTEGER: 1\n";
-    const std::pair<std::string, const char*> cases[] = {
-        {goodWalk + ".1.3.1.0 = No more variables left in this MIB View (It is past the end of the MIB tree)\n", ""},
-        {goodWalk + ".1.3.1.0 = INTEGER: 2\n", "2: warning: .1.3.1.0 occurs twice: the first value is used\n"},
-        {goodWalk + ".1.3.2 = Counter64: 1\n.1.3.3 = Counter64: 3\n",
-         "2: warning: SNMPv1 has no Counter64: this object and all others of the type are left out, 2 in total\n"},
-        {"1: INTEGER: 3\n" + goodWalk, "1: expected '.1.3.6... = TYPE: VALUE', not '1: INTEGER: 3'\n"},
-        {good + "1.3.2.0|3|1\n", "2: unknown tag '3'; possible: 2, 4, 4x, 5, 6, 64, 64x, 65, 66, 67, 68, 68x, 71\n"},
-        {good + "# text\n1.3.2.0|2|2147483648\n", "3: '2147483648' is not a value of its type\n"},
-        {good + "1.3.2.0|64|10.0.0.256\n", "2: '10.0.0.256' is not a value of its type\n"},
-        {good + "1.3.2.0|4x|123\n", "2: '123' is not a value of its type\n"},
-        {good + "1.40.2|2|1\n", "2: '1.40.2' is not a valid object identifier\n"},
-        {goodWalk + ".1.3.2.0 = STRING: \"open\n.1.3.3.0 = INTEGER: 5\n",
-         "2: the quoted text that starts here has no end\n"},
+// What is left of a recording, in order, and the findings.
+std::string Read(const std::string& text, std::string& listed) {
+    Findings findings;
+    std::string kept;
+    for (const auto& [name, value] : ReadRecording(text, findings))
+        kept += SnmprecLine(name, value);
+    listed = Listed(findings);
+    return kept;
+}
+
+TEST(Recording, BadLinesAreWarningsAndLeftOut) {
+    const std::string good = "1.3.1.0|2|1\n", walk = ".1.3.1.0 = INTEGER: 1\n";
+    const std::pair<std::string, std::string> cases[] = {
+        {walk + ".1.3.1.0 = No more variables left in this MIB View (It is past the end of the MIB tree)\n", ""},
+        {"\n$ snmpwalk -v1 -On 10.0.0.1 .1\n" + walk + "\nEnd of MIB\nC:\\>\n", ""},
+        {walk + ".1.3.1.0 = INTEGER: 2\n", "2: warning: .1.3.1.0 occurs twice: the first value is used\n"},
+        {"1: INTEGER: 3\nx\n" + walk,
+         "1: warning: this line and all others before the first object are ignored, 2 in total\n"},
+        {walk + "Timeout: No Response from 10.0.0.1\n",
+         "2: warning: the walk failed here, so that objects may be missing: 'Timeout: No Response from 10.0.0.1'\n"},
+        {walk + "X-MIB::xName.1 = INTEGER: 5\n",
+         "2: warning: the name 'X-MIB::xName.1' is unknown or not valid: record with 'snmpwalk -On'\n"},
+        {walk + ".1.3.2 = INTEGER: x\n", "2:10: warning: 'INTEGER: x' is not a value of its type\n"},
+        {walk + ".1.3.2 = INTEGER: 5\ndoor open\n", "3: warning: expected 'NAME = TYPE: VALUE', not 'door open'\n"},
+        {good + "1.3.2.0|3|1\n",
+         "2:9: warning: unknown tag '3'; possible: 2, 4, 5, 6, 64, 65, 66, 67, 68, 70, 71, each also with x or e\n"},
+        {good + "# text\n1.3.2.0|2|2147483648\n", "3:11: warning: '2147483648' is not a value of its type\n"},
+        {good + "1.3.2.0|64|10.0.0.256\n", "2:12: warning: '10.0.0.256' is not a value of its type\n"},
+        {good + "1.3.2.0|4x|123\n", "2:12: warning: '123' is not a value of its type\n"},
+        {good + "1.3.2.0|4e|a\\q\n", "2:12: warning: 'a\\q' is not a value of its type\n"},
+        {good + "1.3.2.0|2:sql|x\n",
+         "2:15: warning: the variation 'sql' gives no first value: expected value=... or, of "
+         "'numeric', initial=...\n"},
+        {good + "1.40.2|2|1\n", "2:1: warning: '1.40.2' is not a valid object identifier\n"},
+        {good + "Total 5\n", "2: warning: expected OID|TAG|VALUE, not 'Total 5'\n"},
     };
     for (const auto& [text, wanted] : cases) {
-        Findings findings;
-        EXPECT_EQ(ReadRecording(text, findings).size(), 1u) << text;
-        EXPECT_EQ(Listed(findings), wanted) << text;
+        std::string listed, kept = Read(text, listed);
+        EXPECT_EQ(kept.substr(0, good.size()), good) << text;
+        EXPECT_EQ(listed.substr(0, wanted.size()), wanted) << text;
+        EXPECT_EQ(listed.empty(), wanted.empty()) << text << listed;
     }
-    Findings findings;
-    EXPECT_TRUE(ReadRecording("SNMPv2-MIB::sysDescr.0 = STRING: x\n", findings).empty());
-    EXPECT_TRUE(findings.HasErrors());
+    std::string many = good, listed;
+    for (int i = 0; i < 60; ++i)
+        many += "x\n";
+    Read(many, listed);
+    EXPECT_NE(listed.find("\n61: warning: this and 9 lines before it are left out, too, for such reasons\n"),
+              std::string::npos);
+    EXPECT_EQ(Read("nothing\n", listed), "");
+    EXPECT_EQ(listed,
+              "1: no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, or '1.3.6...|TAG|VALUE'\n");
+}
+
+// A quote that is missing does not swallow the objects after it.
+TEST(Recording, TextsOfSeveralLinesEndWhereTheyShould) {
+    const std::tuple<std::string, std::string, std::string> cases[] = {
+        {".1.3.1 = STRING: \"open\n.1.3.2 = INTEGER: 5\n", "1.3.2|2|5\n",
+         "1: warning: the quoted text that starts here has no end\n"},
+        {".1.3.1 = STRING: \"open\n.1.3.2 = STRING: \"b\"\n", "1.3.2|4|b\n",
+         "1: warning: the quoted text that starts here has no end\n"},
+        {".1.3.1 = STRING: one\ntwo\n\n$ \n", "1.3.1|4x|6f6e650a74776f\n", ""},
+        {".1.3.1 = STRING: one\n\n.1.3.2 = STRING:\n", "1.3.1|4x|6f6e650a\n1.3.2|4|\n", ""},
+    };
+    for (const auto& [text, kept, wanted] : cases) {
+        std::string listed;
+        EXPECT_EQ(Read(text, listed), kept) << text;
+        EXPECT_EQ(listed, wanted) << text;
+    }
+}
+
+TEST(Recording, NamesAreResolved) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"Printer-MIB::prtMarkerSuppliesLevel.1.4 = INTEGER: 7", "1.3.6.1.2.1.43.11.1.1.9.1.4|2|7\n"},
+        {"HOST-RESOURCES-MIB::hrPrinterStatus[1] = INTEGER: warmup", "1.3.6.1.2.1.25.3.5.1.1.1|2|5\n"},
+        {"Printer-MIB::prtAlertCode.1.9 = INTEGER: markerTonerEmpty", "1.3.6.1.2.1.43.18.1.1.7.1.9|2|1101\n"},
+        {"IP-MIB::ipAdEntIfIndex[10.0.0.1] = INTEGER: 2", "1.3.6.1.2.1.4.20.1.2.10.0.0.1|2|2\n"},
+        {"PRINTER-PORT-MONITOR-MIB::ppmPrinterName.1 = STRING: a", "1.3.6.1.4.1.2699.1.2.1.2.1.1.2.1|4|a\n"},
+        {"SNMPv2-SMI::enterprises.9.\"ab\".'c'.1 = INTEGER: 1", "1.3.6.1.4.1.9.2.97.98.99.1|2|1\n"},
+        {"iso.3.6.1.9.1 = OID: ccitt.0", "1.3.6.1.9.1|6|0.0\n"},
+        {"IF-MIB::ifHCInOctets.1 9000000000", "1.3.6.1.2.1.31.1.1.1.6.1|70|9000000000\n"},
+    };
+    for (const auto& [line, kept] : cases) {
+        std::string listed;
+        EXPECT_EQ(Read(line, listed), kept) << line;
+        EXPECT_EQ(listed, "") << line;
+    }
+}
+
+TEST(Recording, GuessedTypesAreReportedOnce) {
+    std::string listed;
+    const std::string text = ".1.3.6.1.9.1 5\n.1.3.6.1.9.2 \"00 1A \"\n.1.3.6.1.9.3 five\n.1.3.6.1.9.4 0:0:00:01.05\n";
+    EXPECT_EQ(Read(text, listed), "1.3.6.1.9.1|2|5\n1.3.6.1.9.2|4x|001a\n1.3.6.1.9.3|4|five\n1.3.6.1.9.4|67|105\n");
+    EXPECT_EQ(listed,
+              "1: warning: the types are not recorded: this object and all others that are not in a standard MIB are "
+              "guessed, 3 in total\n");
+}
+
+TEST(Recording, FilesOfWindowsAreRead) {
+    const std::string walk = ".1.3.1 = STRING: \"\xC3\xA9\"\r\n.1.3.2 = INTEGER: 5\r\n";
+    std::string little = "\xFF\xFE", big = "\xFE\xFF", bare, listed;
+    for (const char16_t unit : std::u16string(u".1.3.1 = STRING: \"\u00E9\"\r\n.1.3.2 = INTEGER: 5")) {
+        const char high = static_cast<char>(unit >> 8), low = static_cast<char>(unit & 255);
+        little += {low, high};
+        big += {high, low};
+        bare += {low, high};
+    }
+    for (const std::string& text : {"\xEF\xBB\xBF" + walk, little, big, bare}) {
+        EXPECT_EQ(Read(text, listed), "1.3.1|4x|c3a9\n1.3.2|2|5\n");
+        EXPECT_EQ(listed, "");
+    }
+    EXPECT_EQ(Read(std::string("\xFF\xFE\0\0.\0\0\0", 8), listed), "");
+    EXPECT_EQ(listed, "1: this file is UTF-32; save it as UTF-8\n");
 }
 
 // The first printer serves an .snmprec file to net-snmp's snmpwalk; a second one serves snmpwalk's output.
