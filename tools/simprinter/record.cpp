@@ -25,7 +25,7 @@ constexpr int kRepetitions = 20;      // of the first GetBulkRequest; halved whe
 constexpr int kTries = 7;             // for a request
 constexpr int kTriesAfterSilence = 3; // for one that follows another without an answer
 constexpr int kFirstTries = 4;        // for each version and address
-constexpr size_t kMaxObjects = 500000;
+constexpr size_t kMaxObjects = 100000;
 constexpr int kMaxSilence = 120; // seconds without any answer
 
 volatile int isStopped = 0;

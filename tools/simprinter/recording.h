@@ -6,7 +6,7 @@
 #include "common/findings.h"
 #include "simprinter/snmp_values.h"
 
-constexpr size_t kMaxRecordingBytes = size_t{32} << 20; // of a file
+constexpr size_t kMaxRecordingBytes = size_t{8} << 20; // of a file
 
 // Detects encoding and format. A line that can't be read and a second value of an object are warnings and
 // left out. It is an error when no object is left.

@@ -13,7 +13,7 @@ TEST(Program, ExitCodesAndMessages) {
     const TemporaryFolder folder;
     const std::string bad = folder.File("bad.yaml", "memroy: 5\nduplex: both\nname: a\n");
     const std::string walk = folder.File("walk.txt", ".1.3.1 = INTEGER: 1\n.1.3.2 = INTEGER: x\n");
-    const std::string large = folder.File("large.txt", std::string((size_t{32} << 20) + 1, '\n'));
+    const std::string large = folder.File("large.txt", std::string((size_t{8} << 20) + 1, '\n'));
     const RunningPrinter other;
     const std::tuple<std::string, int, std::string> cases[] = {
         {"--help", 0, "A simulated printer on the network: "},
@@ -30,7 +30,7 @@ TEST(Program, ExitCodesAndMessages) {
          bad + ":2:9: 'duplex' must be yes or no, not 'both'\nsimprinter: '" + bad + "' has errors: "},
         {"--strict --replay " + walk, 1, walk + ":2:10: 'INTEGER: x' is not a value of its type\nsimprinter: '" + walk},
         {"--replay " + large, 1,
-         "simprinter: cannot read '" + large + "': it has more than 33554432 bytes, the most that"},
+         "simprinter: cannot read '" + large + "': it has more than 8388608 bytes, the most that"},
         {"--address 192.0.2.1 --port 0", 1,
          "simprinter: cannot listen on 192.0.2.1:0: Cannot assign requested address. --address must be an address of"},
         {"--port " + other.Port(), 1,
