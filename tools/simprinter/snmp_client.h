@@ -22,7 +22,7 @@ enum class Answer {
     kReply,
     kNone,    // in time
     kClosed,  // nothing listens on the port
-    kStopped, // by a signal that `stop` tells of
+    kStopped, // `stop` was set
 };
 
 struct SnmpClient {
@@ -31,7 +31,7 @@ struct SnmpClient {
     std::string community = {};
     Milliseconds longestWait = {};      // for the answer to one datagram
     Milliseconds wait = longestWait;    // for the first one; follows the times of the answers
-    const volatile int* stop = nullptr; // nonzero ends a wait
+    const volatile int* stop = nullptr; // nonzero, set by a signal, ends a wait
     long lastRequestId = 0;
 };
 
