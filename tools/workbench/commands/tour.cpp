@@ -1,6 +1,7 @@
 // `workbench tour`: opens the property sheet, uses every page as a person would, and saves a picture of each.
 // Skips what the model lacks.
 #include "workbench/commands/commands.h"
+#include "workbench/lib/option_words.h"
 #include "workbench/lib/settings_fields.h"
 #include "workbench/lib/text.h"
 #include "workbench/property_sheet/page_driver.h"

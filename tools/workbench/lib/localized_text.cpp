@@ -49,6 +49,10 @@ std::string TextIn(LANGID language, UINT id, const std::vector<std::string>& arg
     return text;
 }
 
+LANGID UserLanguage() {
+    return chosenLanguage;
+}
+
 std::string LocalizedText(UINT id, const std::vector<std::string>& arguments) {
     return TextIn(chosenLanguage, id, arguments);
 }

@@ -18,6 +18,9 @@ void UseLanguage(const std::string& name);
 // text.
 std::string LocalizedText(UINT id, const std::vector<std::string>& arguments = {});
 
+// The language of these texts, for TextIn.
+LANGID UserLanguage();
+
 // The same in a given language. Output of commands is always English.
 std::string TextIn(LANGID language, UINT id, const std::vector<std::string>& arguments = {});
 

@@ -16,19 +16,6 @@ constexpr const char* kOptionFeatures[] = {
     "OpMailBinKit",  "OpSaddleKit", "OpFAXUnit",    "OpHDD",
 };
 
-// Names of the options for the user.
-constexpr struct {
-    const char* key;
-    const char* name;
-} kOptionNames[] = {
-    {"OpMachine", "Machine"},          {"OpBody", "Body"},          {"OpInTrayUnit", "Paper unit"},
-    {"OpOutTrayUnit", "Finisher"},     {"OpPunchKit", "Punch kit"}, {"OpMailBinKit", "Mail bins"},
-    {"OpSaddleKit", "Saddle kit"},     {"OpFAXUnit", "Fax"},        {"OpHDD", "Hard disk"},
-    {"OpInTray1", "Tray 1"},           {"OpInTray2", "Tray 2"},     {"OpInTray3", "Tray 3"},
-    {"OpInTray4", "Tray 4"},           {"OpInTray5", "Tray 5"},     {"OpInTrayLCT", "Large-capacity tray"},
-    {"OpInTrayManual", "Manual feed"},
-};
-
 std::unique_ptr<ItemRecord[]> ReadItems(const PrmFile& file, const PrmItems& from) {
     auto items = std::make_unique<ItemRecord[]>(from.count + size_t{1});
     for (uint32_t i = 0; i < from.count; ++i) {
@@ -158,13 +145,6 @@ void AddMachine(OptionFeatures& options, const std::string& name) {
 const ItemRecord* CurrentItem(const OptionFeatures& options, size_t position) {
     const int32_t item = options.settings[position];
     return item < 0 ? nullptr : &options.features[position].items[item];
-}
-
-const char* OptionName(const char* key) {
-    for (const auto& row : kOptionNames)
-        if (SameText(row.key, key))
-            return row.name;
-    return key;
 }
 
 Document OptionsDocument(const OptionFeatures& options) {

@@ -34,9 +34,6 @@ void AddMachine(OptionFeatures& options, const std::string& name);
 // The current item of the feature at this position; null when there is none.
 const ItemRecord* CurrentItem(const OptionFeatures& options, size_t position);
 
-// What an option feature is called for the user; the key itself when it has no other name.
-const char* OptionName(const char* key);
-
 // A row for each feature with its current item.
 Document OptionsDocument(const OptionFeatures& options);
 

@@ -108,6 +108,19 @@
 #define PRINTER_TEXT_NONE_FOUND    2287
 #define PRINTER_TEXT_NO_NETWORK    2288
 
-#define PRINTER_TEXT_END 2289
+// More options, and whether one is installed.
+#define PRINTER_TEXT_OPTION_MEMORY      2289
+#define PRINTER_TEXT_OPTION_DUPLEX      2290
+#define PRINTER_TEXT_OPTION_OUTPUT_TRAY 2291
+#define PRINTER_TEXT_INSTALLED          2292
+#define PRINTER_TEXT_NOT_INSTALLED      2293
+
+#define PRINTER_TEXT_LEVEL_NOT_REPORTED 2294
+
+// What a device says that it is. {1}: the name that it gives, {2}: the driver's model.
+#define PRINTER_TEXT_CALLS_ITSELF 2295
+#define PRINTER_TEXT_NO_OWN_NAME  2296
+
+#define PRINTER_TEXT_END 2297
 
 #endif

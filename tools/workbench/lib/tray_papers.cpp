@@ -1,11 +1,17 @@
 // Lists the model's trays, fills in what a printer reports, and names the values.
 #include "workbench/lib/tray_papers.h"
 
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
 
 namespace {
 
 constexpr int32_t kUnknown = -1;
+constexpr const char* kUnknownSizeKey = "MediaTypeList_Size_Unknown";
+
+// Levels that are not a number of sheets: those of the Printer MIB in 16 bits.
+constexpr int32_t kSomeSheets = 0xFFFD;
+constexpr int32_t kUnknownSheets = 0xFFFE;
 
 // By position of the attribute: its name, and where the printer's answer has it.
 constexpr struct {
@@ -62,6 +68,26 @@ TrayPapers AskPapers(const FamilyFiles& family, const std::string& address) {
     const Printer printer = PrinterAt(family, address);
     CheckPrinter(printer, Transport::kLibrary);
     return PapersOf(family, AskTraysByLibrary(printer));
+}
+
+bool IsTrayReported(const InputTrayStatusItem& answer) {
+    return answer.mediaSize[0] != 0 && !SameText(answer.mediaSize, kUnknownSizeKey);
+}
+
+std::string TrayName(const FamilyFiles& family, const char* key) {
+    const InputSlotRecord* source = FindByKey(family.table->inputTrays, key);
+    return source != nullptr ? FieldText(source->display) : key;
+}
+
+std::string TrayLevel(const InputTrayStatusItem& answer, LANGID language) {
+    const int32_t sheets = answer.level;
+    if (sheets >= kUnknownSheets)
+        return "";
+    return TextIn(language,
+                  sheets == 0             ? PRINTER_TEXT_TRAY_EMPTY
+                  : sheets == kSomeSheets ? PRINTER_TEXT_TRAY_NOT_EMPTY
+                                          : PRINTER_TEXT_TRAY_SHEETS,
+                  {std::to_string(sheets)});
 }
 
 Document PaperChanges(const TrayPapers& before, const TrayPapers& after) {

@@ -3,6 +3,7 @@
 #ifndef WORKBENCH_LIB_TRAY_PAPERS_H
 #define WORKBENCH_LIB_TRAY_PAPERS_H
 
+#include "workbench/lib/localized_text.h"
 #include "workbench/lib/printer_queries.h"
 
 #include <array>
@@ -17,6 +18,15 @@ TrayPapers PapersOf(const FamilyFiles& family, const TrayAnswers& answers);
 
 // Asks the printer through the bidirectional library. Throws PrinterFailure when the query fails.
 TrayPapers AskPapers(const FamilyFiles& family, const std::string& address);
+
+// Whether the printer has this tray. The size of a tray that it lacks is unknown.
+bool IsTrayReported(const InputTrayStatusItem& answer);
+
+// What a paper source is called in the model; the key itself when it has no other name.
+std::string TrayName(const FamilyFiles& family, const char* key);
+
+// The sheets in a tray, such as "430 sheets" or "empty". Empty when they are not known.
+std::string TrayLevel(const InputTrayStatusItem& answer, LANGID language = kEnglish);
 
 // A row for each attribute that differs: tray, attribute, names before and after, and the value after.
 Document PaperChanges(const TrayPapers& before, const TrayPapers& after);

@@ -25,19 +25,6 @@ constexpr PaperChoice kChoices[] = {
 constexpr UINT kTrayColumns[] = {TEXT_TRAY, PRINTER_TEXT_LEVEL, TEXT_SIZE,  TEXT_ORIENTATION,
                                  TEXT_TYPE, TEXT_WEIGHT,        TEXT_COLOR, TEXT_PRE_PUNCHED};
 
-// Levels that are not a number of sheets: those of the Printer MIB in 16 bits.
-constexpr int32_t kSomeSheets = 0xFFFD;
-constexpr int32_t kUnknownSheets = 0xFFFE;
-
-std::string LevelText(int32_t sheets) {
-    if (sheets >= kUnknownSheets)
-        return "";
-    return LocalizedText(sheets == 0             ? PRINTER_TEXT_TRAY_EMPTY
-                         : sheets == kSomeSheets ? PRINTER_TEXT_TRAY_NOT_EMPTY
-                                                 : PRINTER_TEXT_TRAY_SHEETS,
-                         {std::to_string(sheets)});
-}
-
 // The printer's answer for a tray that it has; null when it has not reported one.
 const InputTrayStatusItem* FindReported(const TrayAnswers& answers, const char* tray) {
     for (const InputTrayStatusItem& answer : answers)
@@ -74,8 +61,8 @@ private:
             const InputTrayStatusItem* reported = FindReported(state.report.trays, key.c_str());
             if (reported == nullptr && !IsOffered(paper["bin"].Integer()))
                 continue;
-            std::vector<std::string> row = {NameOfSource(key),
-                                            reported != nullptr ? LevelText(reported->level) : ""};
+            std::vector<std::string> row = {TrayName(state.family, key.c_str()),
+                                            reported != nullptr ? TrayLevel(*reported, UserLanguage()) : ""};
             for (const auto& cell : paper.Fields())
                 if (cell.name != "bin" && cell.name != "tray")
                     row.push_back(cell.value.IsText() ? cell.value.Text() : "");
@@ -118,11 +105,6 @@ private:
             return LocalizedText(questions.Has(question) ? TEXT_YES : TEXT_NO);
         };
         SetText(ID_FINISHING, LocalizedText(TEXT_FINISHING, {answer(DC_DUPLEX), answer(DC_STAPLE)}));
-    }
-
-    std::string NameOfSource(const std::string& key) const {
-        const InputSlotRecord* source = FindByKey(state.family.table->inputTrays, key.c_str());
-        return source != nullptr ? FieldText(source->display) : key;
     }
 
     void TakeSource() {

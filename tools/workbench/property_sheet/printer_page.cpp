@@ -11,6 +11,7 @@
 #include "workbench/property_sheet/text_ids.h"
 
 #include "workbench/lib/localized_text.h"
+#include "workbench/lib/option_words.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/text.h"
 
@@ -25,37 +26,6 @@ constexpr UINT_PTR kRefreshTimer = 1;
 constexpr UINT kRefreshInterval = 60000; // milliseconds
 constexpr UINT_PTR kSecondsTimer = 2;
 constexpr UINT kListClosed = WM_APP + 3; // the list of items, which a report may have changed meanwhile
-
-// Options have no names in the model.
-constexpr struct {
-    const char* key;
-    UINT name;
-    const char* number; // in the name
-} kOptionTexts[] = {
-    {"OpMachine", PRINTER_TEXT_OPTION_MACHINE, ""},
-    {"OpBody", PRINTER_TEXT_OPTION_BODY, ""},
-    {"OpInTrayUnit", PRINTER_TEXT_OPTION_PAPER_UNIT, ""},
-    {"OpOutTrayUnit", PRINTER_TEXT_OPTION_FINISHER, ""},
-    {"OpPunchKit", PRINTER_TEXT_OPTION_PUNCH_KIT, ""},
-    {"OpMailBinKit", PRINTER_TEXT_OPTION_MAIL_BINS, ""},
-    {"OpSaddleKit", PRINTER_TEXT_OPTION_SADDLE_KIT, ""},
-    {"OpFAXUnit", PRINTER_TEXT_OPTION_FAX, ""},
-    {"OpHDD", PRINTER_TEXT_OPTION_HARD_DISK, ""},
-    {"OpInTray1", PRINTER_TEXT_OPTION_TRAY, "1"},
-    {"OpInTray2", PRINTER_TEXT_OPTION_TRAY, "2"},
-    {"OpInTray3", PRINTER_TEXT_OPTION_TRAY, "3"},
-    {"OpInTray4", PRINTER_TEXT_OPTION_TRAY, "4"},
-    {"OpInTray5", PRINTER_TEXT_OPTION_TRAY, "5"},
-    {"OpInTrayLCT", PRINTER_TEXT_OPTION_LARGE_TRAY, ""},
-    {"OpInTrayManual", PRINTER_TEXT_OPTION_MANUAL_FEED, ""},
-};
-
-std::string OptionText(const char* key) {
-    for (const auto& row : kOptionTexts)
-        if (SameText(row.key, key))
-            return LocalizedText(row.name, {row.number});
-    return OptionName(key);
-}
 
 // The time of a report as the user writes it.
 std::string DateText(const std::string& text) {
@@ -172,7 +142,7 @@ private:
     void ShowOptions() {
         TableRows rows;
         for (size_t i = 0; i < state.options.settings.size(); ++i)
-            rows.push_back({OptionText(KeyOfOption(i)), SettingText(i)});
+            rows.push_back({OptionName(KeyOfOption(i), UserLanguage()), SettingText(i)});
         SetRows(ID_OPTIONS, rows);
         if (SelectedOption() < 0 && !rows.empty())
             SelectEntry(Control(ID_OPTIONS), 0);

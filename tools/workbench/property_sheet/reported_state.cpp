@@ -8,7 +8,6 @@
 namespace {
 
 constexpr size_t kMaxAddresses = 10; // that are offered again
-constexpr const char* kUnknownSizeKey = "MediaTypeList_Size_Unknown";
 
 std::string LocalTime() {
     SYSTEMTIME now;
@@ -117,10 +116,6 @@ bool ParseTime(const std::string& text, SYSTEMTIME& time) {
                   &time.wHour, &time.wMinute, &end)
                == 5
            && text.size() == static_cast<size_t>(end) && SystemTimeToFileTime(&time, &checked);
-}
-
-bool IsTrayReported(const InputTrayStatusItem& answer) {
-    return answer.mediaSize[0] != 0 && !SameText(answer.mediaSize, kUnknownSizeKey);
 }
 
 void ApplyReport(SheetState& state, DeviceReport report) {

@@ -12,9 +12,6 @@ void ApplyReport(SheetState& state, DeviceReport report);
 // The date and time of a report, as it is kept. False when the text is none.
 bool ParseTime(const std::string& text, SYSTEMTIME& time);
 
-// Whether the printer has this tray. The size of a tray that it lacks is unknown.
-bool IsTrayReported(const InputTrayStatusItem& answer);
-
 // Resets options and papers to the model's defaults when they come from another printer than the one at this
 // address, whose query has failed.
 void ForgetOtherReport(SheetState& state, const std::string& address);

@@ -1,8 +1,6 @@
-// Names, sorts and draws the supplies.
+// Draws the supplies in the list of the printer page.
 #include "workbench/property_sheet/supplies.h"
 
-#include "workbench/lib/localized_text.h"
-#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
 
 #include <algorithm>
@@ -10,65 +8,6 @@
 #include <commctrl.h>
 
 namespace {
-
-constexpr int kLowPercent = 10; // below this a supply is low
-
-constexpr struct {
-    const char* key;
-    UINT name;
-} kSupplyNames[] = {
-    {"Consumable2", PRINTER_TEXT_CYAN},       {"Consumable3", PRINTER_TEXT_MAGENTA},
-    {"Consumable4", PRINTER_TEXT_YELLOW},     {"Consumable5", PRINTER_TEXT_BLACK},
-    {"Consumable11", PRINTER_TEXT_WASTE_BOX},
-};
-
-constexpr struct {
-    int32_t level;
-    UINT text;
-    Need need;
-} kLevels[] = {
-    {TELMAR_LEVEL_EMPTY, PRINTER_TEXT_LEVEL_EMPTY, Need::kNow},
-    {TELMAR_LEVEL_FULL, PRINTER_TEXT_LEVEL_FULL, Need::kNow},
-    {TELMAR_LEVEL_NEARLY_EMPTY, PRINTER_TEXT_LEVEL_NEARLY_EMPTY, Need::kSoon},
-    {TELMAR_LEVEL_NEARLY_FULL, PRINTER_TEXT_LEVEL_NEARLY_FULL, Need::kSoon},
-    {TELMAR_LEVEL_IN_ORDER, PRINTER_TEXT_LEVEL_IN_ORDER, Need::kLater},
-};
-
-struct Level {
-    std::string text;
-    Need need;
-};
-
-Level LevelOf(const MrkSupRequestItem& supply) {
-    const std::string number = std::to_string(supply.value);
-    if (supply.state == TELMAR_STATE_PERCENT) {
-        if (supply.value == 0)
-            return {LocalizedText(PRINTER_TEXT_PERCENT_EMPTY, {number}), Need::kNow};
-        return supply.value < kLowPercent
-                   ? Level{LocalizedText(PRINTER_TEXT_PERCENT_LOW, {number}), Need::kSoon}
-                   : Level{LocalizedText(PRINTER_TEXT_PERCENT, {number}), Need::kLater};
-    }
-    for (const auto& row : kLevels)
-        if (supply.state == TELMAR_STATE_LEVEL && supply.value == row.level)
-            return {LocalizedText(row.text), row.need};
-    return {LocalizedText(PRINTER_TEXT_LEVEL_UNKNOWN), Need::kUnknown};
-}
-
-const MrkSupRequestItem* FindSupply(const Supplies& supplies, const char* key) {
-    for (const MrkSupRequestItem& supply : supplies)
-        if (SameText(supply.name, key))
-            return &supply;
-    return nullptr;
-}
-
-// Sorts supplies of the same need: low ones by level, those in words last, all others as they come.
-int Urgency(const ShownSupply& supply) {
-    if (supply.need > Need::kSoon)
-        return 0;
-    return supply.answer.state == TELMAR_STATE_PERCENT ? supply.answer.value : kLowPercent;
-}
-
-// --- Drawing -----------------------------------------------------------------------------------------------
 
 // The colours are for a white window. With any other, as in high contrast, the words alone say it.
 COLORREF TextColor(Need need, bool isSelected) {
@@ -111,24 +50,6 @@ void DrawBar(HDC dc, RECT bar, const MrkSupRequestItem& supply, COLORREF frame) 
 }
 
 } // namespace
-
-std::vector<ShownSupply> ShownSupplies(const Supplies& supplies, const Supplies& before) {
-    std::vector<ShownSupply> shown;
-    for (const auto& row : kSupplyNames) {
-        const MrkSupRequestItem* supply = FindSupply(supplies, row.key);
-        if (supply == nullptr)
-            continue;
-        Level level = LevelOf(*supply);
-        const MrkSupRequestItem* previous = FindSupply(before, row.key);
-        if (previous != nullptr && LevelOf(*previous).text != level.text)
-            level.text = LocalizedText(PRINTER_TEXT_WAS, {level.text, LevelOf(*previous).text});
-        shown.push_back({LocalizedText(row.name), level.text, level.need, *supply});
-    }
-    std::stable_sort(shown.begin(), shown.end(), [](const ShownSupply& a, const ShownSupply& b) {
-        return std::pair(a.need, Urgency(a)) < std::pair(b.need, Urgency(b));
-    });
-    return shown;
-}
 
 void DrawSupplyRow(const DRAWITEMSTRUCT& item, const ShownSupply& supply) {
     const bool isSelected = (item.itemState & ODS_SELECTED) != 0;

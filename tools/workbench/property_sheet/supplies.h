@@ -1,22 +1,8 @@
-// The supplies of a printer as the printer page shows them: names, levels in words, and which of them need
-// attention.
+// The supplies of a printer as the printer page draws them.
 #ifndef WORKBENCH_PROPERTY_SHEET_SUPPLIES_H
 #define WORKBENCH_PROPERTY_SHEET_SUPPLIES_H
 
-#include "workbench/lib/printer_queries.h"
-
-enum class Need { kNow, kSoon, kLater, kUnknown };
-
-struct ShownSupply {
-    std::string name;
-    std::string level;
-    Need need;
-    MrkSupRequestItem answer;
-};
-
-// Those that report a level, the most urgent first. What has changed since `before`, which may be empty, is
-// marked with its previous level.
-std::vector<ShownSupply> ShownSupplies(const Supplies& supplies, const Supplies& before);
+#include "workbench/lib/supply_words.h"
 
 // Draws the row of a list view with two columns: the name, then a bar in the supply's colour and the level.
 void DrawSupplyRow(const DRAWITEMSTRUCT& item, const ShownSupply& supply);

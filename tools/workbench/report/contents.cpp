@@ -7,6 +7,7 @@
 #include "workbench/lib/json_form.h"
 #include "workbench/lib/model_dialogs.h"
 #include "workbench/lib/model_name.h"
+#include "workbench/lib/option_words.h"
 #include "workbench/lib/text.h"
 #include "workbench/report/printer_looks.h"
 #include "workbench/report/snmp_questions.h"
@@ -36,7 +37,7 @@ std::string Joined(const Document& rows, const char* field) {
 Document CapabilityRow(const FamilyFiles& family, const char* feature, const ItemRecord& item) {
     const Document document =
         AskCapabilities(family, {std::string(feature) + "=" + FieldText(item.head.key)});
-    Document row = {{"choice", std::string(OptionName(feature)) + ": " + FieldText(item.display)}};
+    Document row = {{"choice", OptionName(feature) + ": " + FieldText(item.display)}};
     for (const Document& answer : document["answers"].Elements())
         row[answer["question"].Text()] = answer["answer"];
     row["paperSources"] = Joined(document["paperSources"], "name");

@@ -2,6 +2,7 @@
 // each of its items. So a picture is found with the fewest changes that lead to it.
 #include "workbench/report/printer_looks.h"
 
+#include "workbench/lib/option_words.h"
 #include "workbench/lib/picture.h"
 #include "workbench/lib/printer_scene.h"
 #include "workbench/lib/text.h"
