@@ -20,7 +20,7 @@ Run WithoutOptions(CLI::App& /*command*/) {
     return kCommand;
 }
 
-template <Document (*kCommand)(const FamilyFiles& family, const std::string& agent)>
+template <CommandResult (*kCommand)(const FamilyFiles& family, const std::string& agent)>
 Run WithAddress(CLI::App& command) {
     const auto agent = std::make_shared<std::string>();
     command.add_option("ADDRESS", *agent, "IPv4 address or host name of the printer")->required();

@@ -2,7 +2,7 @@
 #ifndef WORKBENCH_COMMAND_LINE_H
 #define WORKBENCH_COMMAND_LINE_H
 
-#include "workbench/lib/family_files.h"
+#include "workbench/commands/commands.h"
 
 #include <functional>
 
@@ -10,7 +10,7 @@ struct CommandLine {
     std::string folder;   // of the driver's files, UTF-8; empty: the program's folder
     std::string language; // of texts for the user, "en" or "de"; empty: the user's
     bool json = false;
-    std::function<Document(const FamilyFiles& family)> run;
+    std::function<CommandResult(const FamilyFiles& family)> run;
     std::string help; // or the version; not empty: to be shown instead of running a command
 };
 

@@ -45,15 +45,18 @@ FamilyFiles OpenFiles(int argc, const std::string& folder) {
     }
 }
 
-void RunProgram(int argc, wchar_t** argv) {
+int RunProgram(int argc, wchar_t** argv) {
     const CommandLine line = ReadCommandLine(Arguments(argc, argv));
     if (!line.help.empty()) {
         Print(STD_OUTPUT_HANDLE, line.help);
-        return;
+        return 0;
     }
     UseLanguage(line.language);
-    const Document document = line.run(OpenFiles(argc, line.folder));
-    Print(STD_OUTPUT_HANDLE, line.json ? JsonForm(document, 2) + "\n" : TextForm(document));
+    const CommandResult result = line.run(OpenFiles(argc, line.folder));
+    Print(STD_OUTPUT_HANDLE, line.json             ? JsonForm(result.document, 2) + "\n"
+                             : result.text.empty() ? TextForm(result.document)
+                                                   : result.text);
+    return result.exitCode;
 }
 
 void ReportFailure(int argc, const char* failure) {
@@ -65,8 +68,7 @@ void ReportFailure(int argc, const char* failure) {
 
 int RunAndReport(int argc, wchar_t** argv) {
     try {
-        RunProgram(argc, argv);
-        return 0;
+        return RunProgram(argc, argv);
     } catch (const Failure& failure) {
         ReportFailure(argc, failure.what());
         return failure.exitCode;

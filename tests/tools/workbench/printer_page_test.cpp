@@ -445,7 +445,7 @@ TEST_F(PrinterSheetLayout, EverySentenceFits) {
                 expectFit(below,
                           PrinterFailure(static_cast<Outcome>(i), "printer-2.office.example", "QUORVANE lumora R880")
                               .sentence);
-        for (UINT text = PRINTER_TEXT_SEARCHING; text < PRINTER_TEXT_END; ++text)
+        for (UINT text = PRINTER_TEXT_SEARCHING; text <= PRINTER_TEXT_NO_NETWORK; ++text)
             expectFit(ofSearch, LocalizedText(text, {"12"}));
     }
     ReleaseDC(status, dc);

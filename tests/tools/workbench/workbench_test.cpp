@@ -93,10 +93,12 @@ TEST(Workbench, VersionIsThatOfTheProject) {
 // Expected values are those of the device's description.
 TEST(Workbench, QueryReportsSnmpAnswers) {
     const Json equipped = RunForJson(L"query 127.0.162.1");
-    EXPECT_EQ(equipped["options"][0], Json({{"option", "OpMemory"}, {"answer", "1024MB"}}));
+    EXPECT_EQ(equipped["options"][0],
+              Json({{"option", "OpMemory"}, {"answer", "1024MB"}, {"name", "Memory"}, {"setting", "1024 MB"}}));
     EXPECT_EQ(equipped["options"].size(), 13);
     EXPECT_EQ(equipped["supplies"][2],
-              Json::parse(R"({"supply": "Consumable3", "state": 1, "value": 67, "color": "#ff00ff"})"));
+              Json::parse(R"({"supply": "Consumable3", "state": 1, "value": 67, "color": "#ff00ff",
+                  "name": "Magenta toner", "level": "67 %", "printerCallsIt": null})"));
     EXPECT_EQ(equipped["supplies"][10]["color"], nullptr) << "a level has no colour";
     EXPECT_EQ(Pick(equipped["overlays"]["overlays1"], "first"), Json({"Draft stamp"}));
     EXPECT_EQ(Pick(equipped["profiles"]["profiles0"], "storage"), Json({"internalROM", "Prof_HDD"}));
@@ -106,9 +108,15 @@ TEST(Workbench, QueryReportsSnmpAnswers) {
 TEST(Workbench, StatusReportsLibraryAnswers) {
     const Json equipped = RunForJson(L"status 127.0.162.1");
     EXPECT_EQ(equipped["options"].size(), 8);
-    EXPECT_EQ(equipped["options"][3], Json({{"option", "OpPunchKit"}, {"answer", "OpPunchKit3"}}));
+    EXPECT_EQ(equipped["options"][3], Json({{"option", "OpPunchKit"},
+                                            {"answer", "OpPunchKit3"},
+                                            {"name", "Punch kit"},
+                                            {"setting", "Punch kit QC-330, 2 and 4 holes"}}));
     EXPECT_EQ(equipped["trays"][2], Json::parse(R"({"tray": "InTray3", "size": "8half11", "type": "Letterhead",
-        "orientation": "MediaTypeList_Landscape", "level": 120, "weight": null, "color": null, "hole": null})"));
+        "orientation": "MediaTypeList_Landscape", "level": 120, "weight": null, "color": null, "hole": null,
+        "name": "Tray 3", "isInstalled": true, "levelText": "120 sheets", "sizeName": "Letter",
+        "typeName": "Letterhead", "orientationName": "Landscape", "weightName": null, "colorName": null,
+        "prePunchedName": null})"));
 }
 
 // The same sentences and exit codes whatever the command and the transport.
@@ -163,7 +171,7 @@ TEST(Workbench, StatusSaysWhereLibraryIsLookedFor) {
     EXPECT_EQ(RunForJson(L"describe" + complete.Option())["files"]["module"],
               (complete.path / "TELMAR_D.DLL").u8string());
     const Result result = RunWorkbench(L"status 127.0.162.1" + complete.Option(), missing.path);
-    EXPECT_NE(result.output.find("OpMachine1"), std::string::npos)
+    EXPECT_NE(result.output.find("QA-110"), std::string::npos)
         << "not loaded from the module's folder: " << result.output;
 }
 

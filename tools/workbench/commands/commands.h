@@ -10,6 +10,16 @@
 #include <string>
 #include <vector>
 
+// What a command answers. Most have only a document.
+struct CommandResult {
+    CommandResult(Document answers, std::string forPeople = {}, int code = 0)
+        : document(std::move(answers)), text(std::move(forPeople)), exitCode(code) {}
+
+    Document document;
+    std::string text; // instead of the document when JSON is not asked for; empty: the document as text
+    int exitCode;
+};
+
 // The device table: switches, facts, ranges and all lists of the model; and its paper sources.
 Document Describe(const FamilyFiles& family);
 
@@ -23,10 +33,10 @@ Document ShowTexts(const FamilyFiles& family);
 Document AskCapabilities(const FamilyFiles& family, const std::vector<std::string>& assignments);
 
 // What a printer answers to SNMP requests: options, supplies, overlays and colour profiles.
-Document AskBySnmp(const FamilyFiles& family, const std::string& address);
+CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address);
 
 // What a printer answers through the bidirectional library: options and input trays.
-Document AskByLibrary(const FamilyFiles& family, const std::string& address);
+CommandResult AskByLibrary(const FamilyFiles& family, const std::string& address);
 
 // The network address that the module finds for a print queue or in a settings record; one of the two is
 // given.

@@ -1,8 +1,14 @@
 // `workbench query`: queries a printer by SNMP through the module's exports: its options, supplies, overlays
-// and colour profiles, as the module's own tables list them.
+// and colour profiles. The document has the module's answers and what they mean in words; the page for people
+// has the words. What the printer says of itself is asked by the workbench's own requests.
 #include "workbench/commands/commands.h"
+#include "workbench/lib/option_words.h"
+#include "workbench/lib/printer_identity.h"
 #include "workbench/lib/printer_queries.h"
+#include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/record_fields.h"
+#include "workbench/lib/supply_words.h"
+#include "workbench/lib/text_form.h"
 
 namespace {
 
@@ -17,20 +23,49 @@ Document ShowPrinterText(const void* record) {
     return PrinterText(static_cast<const StoredResourceEntry*>(record)->*kField);
 }
 
+// Where an overlay or a profile is stored, by the module's names.
+constexpr struct {
+    const char* key;
+    const char* words;
+} kStorages[] = {
+    {"OvlForm_Memory", "memory"}, {"Prof_Memory", "memory"},       {"OvlForm_HDD", "hard disk"},
+    {"Prof_HDD", "hard disk"},    {"OvlForm_Flash", "flash"},      {"Prof_Flash", "flash"},
+    {"internalROM", "built in"},  {"internalHD", "built-in disk"},
+};
+
+Document ShowStorage(const void* record) {
+    const char* key = static_cast<const StoredResourceEntry*>(record)->storage;
+    for (const auto& row : kStorages)
+        if (SameText(row.key, key))
+            return row.words;
+    return key;
+}
+
 constexpr Field kEntryFields[] = {
     {"first", ShowPrinterText<&StoredResourceEntry::first>},
     {"second", ShowPrinterText<&StoredResourceEntry::second>},
     {"storage", Show<&StoredResourceEntry::storage>},
+    {"title", ShowPrinterText<&StoredResourceEntry::first>},
+    {"file", ShowPrinterText<&StoredResourceEntry::second>},
+    {"storedIn", ShowStorage},
 };
 
-Document SuppliesDocument(const Supplies& supplies) {
+Document TextOrNull(const std::string& text) {
+    return text.empty() ? Document() : Document(text);
+}
+
+Document SuppliesDocument(const Supplies& supplies, const PrinterIdentity& identity) {
     Document rows = RowsDocument(supplies, kSupplyFields);
     for (size_t i = 0; i < supplies.size(); ++i) {
+        Document& row = rows.Elements()[i];
         char color[8];
         snprintf(color, sizeof(color), "#%02x%02x%02x", GetRValue(supplies[i].color),
                  GetGValue(supplies[i].color), GetBValue(supplies[i].color));
-        rows.Elements()[i]["color"] =
-            supplies[i].state == TELMAR_STATE_PERCENT ? Document(color) : Document();
+        row["color"] = supplies[i].state == TELMAR_STATE_PERCENT ? Document(color) : Document();
+        const std::string name = SupplyName(supplies[i].name);
+        row["name"] = TextOrNull(name);
+        row["level"] = name.empty() ? Document() : Document(SupplyLevel(supplies[i]));
+        row["printerCallsIt"] = TextOrNull(identity.otherSupplies[i]);
     }
     return rows;
 }
@@ -51,17 +86,72 @@ Document Profiles(const Printer& printer) {
     return lists;
 }
 
+// --- The page for people -----------------------------------------------------------------------------------
+
+Document SupplyRows(const Document& supplies) {
+    Document rows = Document::MakeList();
+    for (const Document& supply : supplies.Elements())
+        if (!supply["name"].IsNull()) {
+            const Document& other = supply["printerCallsIt"];
+            rows.Add({{"supply", supply["name"]},
+                      {"level", supply["level"]},
+                      {"note", other.IsNull() ? "" : "the printer calls it '" + other.Text() + "'"}});
+        }
+    return rows;
+}
+
+// The rows of all lists. `uses` names what each list is for; empty: it is not said.
+Document StoredRows(const Document& lists, const std::vector<std::string>& uses) {
+    Document rows = Document::MakeList();
+    for (size_t i = 0; i < lists.Fields().size(); ++i)
+        for (const Document& entry : lists.Fields()[i].value.Elements())
+            rows.Add({{"title", entry["title"]},
+                      {"file", entry["file"]},
+                      {"storedIn", entry["storedIn"]},
+                      {"use", i < uses.size() ? uses[i] : ""}});
+    return rows.Elements().empty() ? Document() : rows;
+}
+
+Document PrinterFacts(const Document& printer) {
+    Document facts;
+    for (const Document::Field& field : printer.Fields())
+        if (!field.value.IsNull())
+            facts[field.name] = field.value;
+    return facts;
+}
+
+Document Page(const Document& answers) {
+    std::vector<std::string> uses;
+    for (const UINT use :
+         {PRINTER_TEXT_RGB_PROFILE, PRINTER_TEXT_SIMULATION_PROFILE, PRINTER_TEXT_OUTPUT_PROFILE})
+        uses.push_back(TextIn(kEnglish, use));
+    return {
+        {"printer", PrinterFacts(answers["printer"])},
+        {"options", OptionRows(answers["options"])},
+        {"supplies", SupplyRows(answers["supplies"])},
+        {"overlays", StoredRows(answers["overlays"], {})},
+        {"profiles", StoredRows(answers["profiles"], uses)},
+    };
+}
+
 } // namespace
 
-Document AskBySnmp(const FamilyFiles& family, const std::string& address) {
+CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address) {
     const Printer printer = PrinterAt(family, address);
     CheckPrinter(printer, Transport::kSnmp);
     const auto keys = OptionKeys(family, Transport::kSnmp);
-    return {
-        {"printer", {{"address", printer.address}}},
-        {"options", OptionAnswersDocument(AskOptions(printer, Transport::kSnmp, keys))},
-        {"supplies", SuppliesDocument(AskSupplies(printer, SupplyNames(family)))},
+    const OptionAnswers options = AskOptions(printer, Transport::kSnmp, keys);
+    const Supplies supplies = AskSupplies(printer, SupplyNames(family));
+    const PrinterIdentity identity = AskIdentity(printer);
+    const Document answers = {
+        {"printer",
+         {{"address", printer.address},
+          {"callsItself", TextOrNull(identity.name)},
+          {"warning", TextOrNull(IdentityWarning(identity))}}},
+        {"options", OptionsInWords(ReadOptionFeatures(family), options)},
+        {"supplies", SuppliesDocument(supplies, identity)},
         {"overlays", Overlays(printer)},
         {"profiles", Profiles(printer)},
     };
+    return {answers, TextForm(Page(answers))};
 }

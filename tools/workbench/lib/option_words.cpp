@@ -67,3 +67,20 @@ std::string OptionSetting(const OptionFeatures& options, const OptionRequestItem
     const size_t unit = key.find("MB");
     return unit == std::string::npos ? key : key.substr(0, unit) + " " + key.substr(unit);
 }
+
+Document OptionsInWords(const OptionFeatures& options, const OptionAnswers& answers) {
+    Document rows = OptionAnswersDocument(answers);
+    for (size_t i = 0; i < answers.size(); ++i) {
+        Document& row = rows.Elements()[i];
+        row["name"] = OptionName(answers[i].key);
+        row["setting"] = OptionSetting(options, answers[i]);
+    }
+    return rows;
+}
+
+Document OptionRows(const Document& answers) {
+    Document rows = Document::MakeList();
+    for (const Document& answer : answers.Elements())
+        rows.Add({{"option", answer["name"]}, {"setting", answer["setting"]}});
+    return rows;
+}

@@ -42,26 +42,20 @@ bool IsRefusal(int error) {
     return error == WSAECONNRESET || error == WSAECONNREFUSED;
 }
 
-ProbeEnd EndOf(int error) {
-    return error == WSAETIMEDOUT ? ProbeEnd::kNoAnswer
-           : IsRefusal(error)    ? ProbeEnd::kRefused
-                                 : ProbeEnd::kNotSent;
-}
-
 // Receives until the answer to this request arrives, or nothing does in time.
 ProbeAnswer ReceiveAnswer(SOCKET handle, uint32_t requestId) {
     for (int others = 0; others < kMaxOthers; ++others) {
         char datagram[4096];
         const int size = recv(handle, datagram, sizeof(datagram), 0);
         if (size < 0)
-            return {EndOf(WSAGetLastError()), {}};
+            return {ProbeEndOf(WSAGetLastError()), {}, {}};
         const std::optional<SnmpReplyText> reply = ReadSnmpReply({datagram, static_cast<size_t>(size)});
         if (!reply)
-            return {ProbeEnd::kMalformed, {}};
+            return {ProbeEnd::kMalformed, {}, {}};
         if (reply->requestId == requestId)
-            return {ProbeEnd::kAnswered, *reply};
+            return {ProbeEnd::kAnswered, *reply, {datagram, static_cast<size_t>(size)}};
     }
-    return {ProbeEnd::kOtherRequests, {}};
+    return {ProbeEnd::kOtherRequests, {}, {}};
 }
 
 // The first address of this family; none when the host has no such address.
@@ -129,18 +123,27 @@ std::optional<SnmpReplyText> ReadSnmpReply(std::string_view datagram) {
     return answer;
 }
 
-ProbeAnswer ProbeObject(uint32_t address, const char* oid) {
+ProbeEnd ProbeEndOf(int error) {
+    return error == WSAETIMEDOUT ? ProbeEnd::kNoAnswer
+           : IsRefusal(error)    ? ProbeEnd::kRefused
+                                 : ProbeEnd::kNotSent;
+}
+
+ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t requestId) {
     const SocketsStart sockets;
     const ProbeSocket socket(address);
-    const uint32_t requestId = GetTickCount() & INT32_MAX; // unlike those of the last probes
-    const std::string request = SnmpRequest(oid, requestId);
-    ProbeAnswer answer = {ProbeEnd::kNotSent, {}};
+    ProbeAnswer answer = {ProbeEnd::kNotSent, {}, {}};
     for (int sends = 0; sends < kProbeSends && socket.isReady; ++sends) {
         if (send(socket.handle, request.data(), static_cast<int>(request.size()), 0) < 0)
-            return {EndOf(WSAGetLastError()), {}};
+            return {ProbeEndOf(WSAGetLastError()), {}, {}};
         answer = ReceiveAnswer(socket.handle, requestId);
         if (answer.end != ProbeEnd::kNoAnswer)
             break;
     }
     return answer;
+}
+
+ProbeAnswer ProbeObject(uint32_t address, const char* oid) {
+    const uint32_t requestId = GetTickCount() & INT32_MAX; // unlike those of the last probes
+    return ProbeRequest(address, SnmpRequest(oid, requestId), requestId);
 }

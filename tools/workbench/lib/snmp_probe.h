@@ -45,11 +45,18 @@ enum class ProbeEnd {
 };
 struct ProbeAnswer {
     ProbeEnd end;
-    SnmpReplyText reply; // for kAnswered
+    SnmpReplyText reply;  // for kAnswered
+    std::string datagram; // the same as it was received
 };
 
-// Requests the object from the agent at this address (in network order). Sends twice and waits about a
-// second at most.
+// How a receive from a connected socket has ended that failed with this error of Windows Sockets.
+ProbeEnd ProbeEndOf(int error);
+
+// Sends this request to the agent at this address (in network order). Sends twice and waits about a second at
+// most.
+ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t requestId);
+
+// Requests the object from the agent at this address (in network order) in the same way.
 ProbeAnswer ProbeObject(uint32_t address, const char* oid);
 
 #endif

@@ -1,6 +1,7 @@
 // Makes the queries one after the other and reports progress to the page.
 #include "workbench/property_sheet/device_job.h"
 
+#include "workbench/lib/printer_identity.h"
 #include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/text.h"
 
@@ -126,6 +127,8 @@ struct DeviceJob::Work {
             Post(kJobProgress, Packed(progress));
             Ask(printer, question);
         }
+        if (report.transport == Transport::kSnmp && !isCancelled) // the library has checked the model
+            report.warning = IdentityWarning(AskIdentity(printer), UserLanguage());
     }
 
     void Run() {

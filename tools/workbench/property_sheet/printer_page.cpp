@@ -336,6 +336,8 @@ private:
         std::string status = LocalizedText(reported, {report.address});
         if (!report.missing.empty())
             status += " " + LocalizedText(PRINTER_TEXT_NOT_AVAILABLE, {ListText(report.missing)});
+        if (!report.warning.empty())
+            status += " " + report.warning;
         const std::vector<FeatureSettings> settings = state.options.settings;
         const TrayPapers papers = state.papers;
         ApplyReport(state, std::move(report));

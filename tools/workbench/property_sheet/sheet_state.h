@@ -17,6 +17,7 @@ struct DeviceReport {
     std::string address; // of the printer
     Transport transport = Transport::kSnmp;
     std::vector<UINT> missing; // texts of what could not be queried
+    std::string warning;       // of a device that does not say that it is of this model
     OptionAnswers options;     // also those that the trays imply
     TrayAnswers trays;         // empty: not reported
     Supplies supplies;
