@@ -34,6 +34,30 @@ Run WithOut(CLI::App& command) {
     return [out](const FamilyFiles& family) { return kCommand(family, *out); };
 }
 
+// One printer, or many.
+Run SetUpQuery(CLI::App& command) {
+    const auto address = std::make_shared<std::optional<std::string>>();
+    const auto fleet = std::make_shared<FleetOptions>();
+    CLI::Option* one = command.add_option("ADDRESS", *address, "IPv4 address or host name of the printer");
+    CLI::Option* many =
+        command
+            .add_option("--list", fleet->list,
+                        "Queries many printers: those in a file (- is the standard input), or in a range of "
+                        "addresses such as 192.168.7.0/24; a line of the file has an address and a name")
+            ->type_name("FILE|CIDR")
+            ->excludes(one);
+    command.add_option("--threads", fleet->threads, "Queries so many of the list at once (default: 16)")
+        ->type_name("N")
+        ->needs(many)
+        ->check(CLI::Range(1, 64).description(""));
+    command.add_flag("--csv", fleet->csv, "Writes the list as CSV")->needs(many);
+    return [address, fleet](const FamilyFiles& family) {
+        if (!*address && !fleet->list)
+            throw Failure(kExitUsage, "ADDRESS is required, or --list FILE|CIDR for many printers");
+        return fleet->list ? AskFleet(family, *fleet) : AskBySnmp(family, **address);
+    };
+}
+
 void AddSetOption(CLI::App& command, std::vector<std::string>& assignments) {
     command.add_option("--set", assignments, "Sets an option feature, such as OpInTray3=DisOpInTray3")
         ->type_name("FEATURE=ITEM")
@@ -184,8 +208,7 @@ constexpr struct {
     {"capabilities", "Shows the paper sources, duplex and stapling that the module reports",
      SetUpCapabilities},
     {"defaults", "Shows the default settings, field by field", WithoutOptions<ShowDefaults>},
-    {"query", "Queries a printer by SNMP for options, supplies, overlays and profiles",
-     WithAddress<AskBySnmp>},
+    {"query", "Queries a printer by SNMP for options, supplies, overlays and profiles", SetUpQuery},
     {"status", "Queries a printer through the bidirectional library for options and trays",
      WithAddress<AskByLibrary>},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", WithoutOptions<ShowTexts>},

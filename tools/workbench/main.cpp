@@ -4,9 +4,9 @@
 #include "workbench/lib/json_form.h"
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/output.h"
+#include "workbench/lib/running_jobs.h"
 #include "workbench/lib/text.h"
 #include "workbench/lib/text_form.h"
-#include "workbench/property_sheet/device_job.h"
 #include "workbench/property_sheet/text_ids.h"
 
 namespace {

@@ -35,6 +35,15 @@ Document AskCapabilities(const FamilyFiles& family, const std::vector<std::strin
 // What a printer answers to SNMP requests: options, supplies, overlays and colour profiles.
 CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address);
 
+// The same of many printers, what needs attention first.
+constexpr int kDefaultThreads = 16;
+struct FleetOptions {
+    std::optional<std::string> list; // a file, "-" for the standard input, or a range of addresses
+    int threads = kDefaultThreads;
+    bool csv = false;
+};
+CommandResult AskFleet(const FamilyFiles& family, const FleetOptions& options);
+
 // What a printer answers through the bidirectional library: options and input trays.
 CommandResult AskByLibrary(const FamilyFiles& family, const std::string& address);
 

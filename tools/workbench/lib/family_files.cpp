@@ -53,6 +53,13 @@ FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder) {
     return family;
 }
 
+FamilyFiles ModuleOf(const FamilyFiles& family) {
+    FamilyFiles files;
+    files.modulePath = family.modulePath;
+    files.module.reset(LoadLibraryW(files.modulePath.c_str()));
+    return files;
+}
+
 Library OpenTemplates(const FamilyFiles& family) {
     const auto path = family.modulePath.parent_path() / L"TELMAR_S.DLL";
     Library library(LoadLibraryW(path.c_str()));

@@ -33,6 +33,10 @@ std::filesystem::path ProgramFolder();
 // unusable.
 FamilyFiles OpenFamilyFiles(const std::filesystem::path& folder);
 
+// The module of these files, kept loaded as long as the result exists, for a thread that may outlive them.
+// Nothing else of the files is opened.
+FamilyFiles ModuleOf(const FamilyFiles& family);
+
 // TELMAR_S.DLL next to the module, with the dialog templates. Throws Failure when it cannot be loaded.
 Library OpenTemplates(const FamilyFiles& family);
 

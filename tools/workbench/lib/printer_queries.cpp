@@ -58,20 +58,9 @@ void CheckKind(const Printer& printer, uint32_t address) {
 // Fails with the reason why the module has reached no printer. It does not say: its last errors are those of
 // its built-in client, or of the system's libraries, or of the bidirectional library.
 [[noreturn]] void FailToReach(const Printer& printer, uint32_t address) {
-    switch (ProbeObject(address, kAgentObject).end) {
-    case ProbeEnd::kNoAnswer:
-        Fail(Outcome::kNoAnswer, printer, kCommunity);
-    case ProbeEnd::kRefused:
-        Fail(Outcome::kRefused, printer);
-    case ProbeEnd::kNotSent:
-        Fail(Outcome::kNotSent, printer);
-    case ProbeEnd::kMalformed:
-        Fail(Outcome::kMalformedAnswer, printer);
-    case ProbeEnd::kOtherRequests:
-        Fail(Outcome::kOtherRequests, printer);
-    case ProbeEnd::kAnswered:
-        break;
-    }
+    const ProbeEnd end = ProbeObject(address, kAgentObject).end;
+    if (end != ProbeEnd::kAnswered)
+        FailAsProbed(printer, end);
     CheckKind(printer, address);
     Fail(Outcome::kInterrupted, printer);
 }
@@ -134,6 +123,30 @@ Transport TransportOf(const FamilyFiles& family) {
 
 const char* TransportName(Transport transport) {
     return transport == Transport::kLibrary ? "bidirectional library" : "SNMP";
+}
+
+void FailAsProbed(const Printer& printer, ProbeEnd end) {
+    switch (end) {
+    case ProbeEnd::kNoAnswer:
+        Fail(Outcome::kNoAnswer, printer, kCommunity);
+    case ProbeEnd::kRefused:
+        Fail(Outcome::kRefused, printer);
+    case ProbeEnd::kNotSent:
+        Fail(Outcome::kNotSent, printer);
+    case ProbeEnd::kMalformed:
+        Fail(Outcome::kMalformedAnswer, printer);
+    case ProbeEnd::kOtherRequests:
+        Fail(Outcome::kOtherRequests, printer);
+    case ProbeEnd::kAnswered:
+        break;
+    }
+    Fail(Outcome::kInterrupted, printer);
+}
+
+void CheckAnswer(const Printer& printer) {
+    const ProbeEnd end = ProbeObject(FindAddress(printer), kAgentObject).end;
+    if (end != ProbeEnd::kAnswered)
+        FailAsProbed(printer, end);
 }
 
 void CheckPrinter(const Printer& printer, Transport transport) {

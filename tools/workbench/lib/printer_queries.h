@@ -31,6 +31,14 @@ Transport TransportOf(const FamilyFiles& family);
 // SNMP another model is not recognised; a device that is no printer is.
 void CheckPrinter(const Printer& printer, Transport transport);
 
+// Whether anything answers at the printer's address, by the workbench's own request, which waits a second at
+// most and takes no time of the processor. The module's own check polls. Throws PrinterFailure when not.
+void CheckAnswer(const Printer& printer);
+
+// Fails with what a request of the workbench has found instead of an answer.
+enum class ProbeEnd;
+[[noreturn]] void FailAsProbed(const Printer& printer, ProbeEnd end);
+
 // The following throw PrinterFailure when the query fails.
 
 // The keys of all options that the module can query over each transport.

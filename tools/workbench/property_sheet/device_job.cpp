@@ -12,16 +12,6 @@
 
 namespace {
 
-std::atomic<int> runningJobs{0};
-
-// Counts as a running job as long as it, or a copy, exists.
-struct RunningJob {
-    RunningJob() { ++runningJobs; }
-    RunningJob(const RunningJob& /*other*/) { ++runningJobs; }
-    ~RunningJob() { --runningJobs; }
-    RunningJob& operator=(const RunningJob&) = default;
-};
-
 struct Question {
     UINT asked; // text
     std::function<void(const Printer& printer, DeviceReport& report)> ask;
@@ -73,14 +63,6 @@ LPARAM Packed(const JobProgress& progress) {
     static_assert(sizeof(progress) <= sizeof(packed));
     memcpy(&packed, &progress, sizeof(progress));
     return packed;
-}
-
-// The module, kept loaded as long as this exists. Nothing else of the files is opened.
-FamilyFiles ModuleOf(const FamilyFiles& family) {
-    FamilyFiles files;
-    files.modulePath = family.modulePath;
-    files.module.reset(LoadLibraryW(files.modulePath.c_str()));
-    return files;
 }
 
 } // namespace
@@ -171,13 +153,4 @@ const std::optional<PrinterFailure>& DeviceJob::Failure() const {
 
 DeviceReport& DeviceJob::Report() {
     return work->report;
-}
-
-bool IsAnyJobRunning() {
-    return runningJobs != 0;
-}
-
-void EndProcessIfJobIsRunning(int exitCode) {
-    if (IsAnyJobRunning())
-        TerminateProcess(GetCurrentProcess(), static_cast<UINT>(exitCode));
 }

@@ -4,6 +4,7 @@
 #ifndef WORKBENCH_PROPERTY_SHEET_DEVICE_JOB_H
 #define WORKBENCH_PROPERTY_SHEET_DEVICE_JOB_H
 
+#include "workbench/lib/running_jobs.h"
 #include "workbench/property_sheet/sheet_state.h"
 
 // Posted to the page; wParam is the job's number. With kJobProgress lParam says how far the job is.
@@ -37,14 +38,5 @@ private:
     struct Work;
     std::shared_ptr<Work> work; // shared with the thread
 };
-
-// Whether the thread of any job, also of a cancelled one, still runs.
-bool IsAnyJobRunning();
-
-// To be called last. Ends the process at once if a thread still waits for its printer; an unresponsive one
-// can take minutes. Nothing is lost: settings and output are written, without buffers in the process, and the
-// system takes back memory and sockets. Returning from main instead would run the exit code of the module and
-// the runtime while the system has stopped the thread anywhere, perhaps with a lock that this code needs.
-void EndProcessIfJobIsRunning(int exitCode);
 
 #endif

@@ -1,0 +1,160 @@
+// Distributes the printers of a list over the threads and collects their states.
+#include "workbench/fleet/fleet_run.h"
+
+#include "workbench/fleet/scout.h"
+#include "workbench/lib/running_jobs.h"
+
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <winsock2.h>
+
+namespace {
+
+std::atomic<int> interrupts{0};
+
+BOOL WINAPI OnConsoleKey(DWORD key) {
+    return (key == CTRL_C_EVENT || key == CTRL_BREAK_EVENT) && NoteInterrupt() ? TRUE : FALSE;
+}
+
+} // namespace
+
+struct FleetRun::Work {
+    // A printer to be asked through the module.
+    struct Task {
+        size_t printer;
+        bool isKnownToAnswer;
+        uint32_t milliseconds; // until it has answered
+    };
+
+    FamilyFiles files;
+    std::vector<ListedPrinter> printers;
+    std::atomic<bool> isStopped{false};
+
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::deque<Task> tasks;
+    std::vector<std::optional<PrinterState>> states;
+    FleetProgress progress = {};
+
+    void Add(const Task& task) {
+        const std::lock_guard<std::mutex> lock(mutex);
+        tasks.push_back(task);
+        changed.notify_all();
+    }
+
+    void Finish(size_t printer, PrinterState state) {
+        const std::lock_guard<std::mutex> lock(mutex);
+        ++progress.done;
+        progress.needAttention += state.attention != Attention::kFine ? 1 : 0;
+        states[printer] = std::move(state);
+        changed.notify_all();
+    }
+
+    bool IsDone() const { return progress.done == printers.size(); } // under the mutex
+
+    // The next printer; none when there is nothing more to do.
+    std::optional<Task> Next() {
+        std::unique_lock<std::mutex> lock(mutex);
+        changed.wait(lock, [&] { return isStopped || IsDone() || !tasks.empty(); });
+        if (isStopped || tasks.empty())
+            return std::nullopt;
+        const Task task = tasks.front();
+        tasks.pop_front();
+        return task;
+    }
+
+    void AskPrinters() {
+        while (const std::optional<Task> task = Next()) {
+            PrinterState state = CheckListed(files, printers[task->printer], task->isKnownToAnswer);
+            state.milliseconds += task->milliseconds;
+            Finish(task->printer, std::move(state));
+        }
+    }
+
+    // Addresses are tried at once. The name service makes a thread wait, so host names are left to the
+    // threads that ask.
+    void FindThoseThatAnswer() {
+        std::vector<uint32_t> addresses;
+        std::vector<size_t> positions;
+        for (size_t i = 0; i < printers.size(); ++i) {
+            const uint32_t address = inet_addr(printers[i].address.c_str());
+            if (address == INADDR_NONE) {
+                Add({i, false, 0});
+                continue;
+            }
+            addresses.push_back(address);
+            positions.push_back(i);
+        }
+        Scout(addresses, isStopped, [&](size_t position, ProbeEnd end, uint32_t milliseconds) {
+            const size_t printer = positions[position];
+            if (end == ProbeEnd::kAnswered)
+                return Add({printer, true, milliseconds});
+            PrinterState state = UnreachedState(files, printers[printer], end);
+            state.milliseconds = milliseconds;
+            Finish(printer, std::move(state));
+        });
+    }
+
+    void Stop() {
+        const std::lock_guard<std::mutex> lock(mutex);
+        isStopped = true;
+        changed.notify_all();
+    }
+};
+
+FleetRun::FleetRun(const FamilyFiles& family, const PrinterList& list, int threads)
+    : work(std::make_shared<Work>()) {
+    work->files = ModuleOf(family);
+    work->printers = list.printers;
+    work->states.resize(list.printers.size());
+    std::thread([shared = work, counted = RunningJob()] { shared->FindThoseThatAnswer(); }).detach();
+    const int needed = std::min(threads, static_cast<int>(list.printers.size()));
+    for (int i = 0; i < needed; ++i)
+        std::thread([shared = work, counted = RunningJob()] { shared->AskPrinters(); }).detach();
+}
+
+FleetRun::~FleetRun() {
+    work->Stop();
+}
+
+bool FleetRun::WaitFor(uint32_t milliseconds) const {
+    std::unique_lock<std::mutex> lock(work->mutex);
+    return work->changed.wait_for(lock, std::chrono::milliseconds(milliseconds),
+                                  [&] { return work->IsDone(); });
+}
+
+FleetProgress FleetRun::Progress() const {
+    const std::lock_guard<std::mutex> lock(work->mutex);
+    return work->progress;
+}
+
+std::vector<PrinterState> FleetRun::States() const {
+    const std::lock_guard<std::mutex> lock(work->mutex);
+    std::vector<PrinterState> states;
+    for (const std::optional<PrinterState>& state : work->states)
+        if (state)
+            states.push_back(*state);
+    return states;
+}
+
+InterruptWatch::InterruptWatch() {
+    interrupts = 0;
+    SetConsoleCtrlHandler(OnConsoleKey, TRUE);
+}
+
+InterruptWatch::~InterruptWatch() {
+    SetConsoleCtrlHandler(OnConsoleKey, FALSE);
+}
+
+bool InterruptWatch::IsInterrupted() {
+    return interrupts > 0;
+}
+
+bool NoteInterrupt() {
+    return ++interrupts == 1;
+}

@@ -1,0 +1,46 @@
+// Asks one printer of a fleet, and judges what it needs. Options and supplies are the module's answers;
+// model, names of supplies and trays are what the printer says of itself.
+#ifndef WORKBENCH_FLEET_PRINTER_CHECK_H
+#define WORKBENCH_FLEET_PRINTER_CHECK_H
+
+#include "workbench/fleet/attention.h"
+#include "workbench/fleet/printer_list.h"
+#include "workbench/lib/printer_queries.h"
+
+enum class ProbeEnd;
+
+// A tray as the printer describes it, in the Printer MIB's numbers.
+struct TrayFill {
+    std::string name;
+    int32_t capacity; // sheets; 0 and less: unknown
+    int32_t level;    // sheets; below 0: unknown, or some
+};
+
+struct PrinterState {
+    std::string address;
+    std::string name;  // from the list
+    std::string model; // as the printer calls itself
+    bool isModel = false;
+    bool isPresent = true;    // something is at this address
+    bool hasAnswered = false; // all that the module was asked
+    Attention attention = Attention::kFine;
+    std::string state;        // in words
+    std::string trays;        // those that are empty or low
+    std::string lowestSupply; // with its level
+    std::string options;
+    std::string advice;
+    uint32_t milliseconds = 0; // from the first request on
+};
+
+// Asks a printer that is known to answer, or not known yet: a host name. Never throws PrinterFailure.
+PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, bool isKnownToAnswer);
+
+// The state of a printer that a request of the workbench has not reached.
+PrinterState UnreachedState(const FamilyFiles& family, const ListedPrinter& listed, ProbeEnd end);
+
+// Judges supplies and trays of a printer: attention, state, trays, the lowest supply and the advice.
+// `otherSupplies` as in PrinterIdentity.
+void Judge(const Supplies& supplies, const std::vector<std::string>& otherSupplies,
+           const std::vector<TrayFill>& trays, PrinterState& state);
+
+#endif
