@@ -88,6 +88,8 @@ TEST(WorkbenchSheet, PrinterIsQueriedBySnmpWithoutLibrary) {
     const Result result = RunWorkbench(L"tour --json --from 127.0.162.1 --out .", noLibrary.path);
     EXPECT_EQ(Json::parse(result.output)["printer"]["status"],
               "Reported by 127.0.162.1 over SNMP, which covers fewer options.");
+    const Result mono = RunWorkbench(L"tour --json --from 127.0.163.1 --out .", noLibrary.path);
+    EXPECT_NE(mono.output.find("fewer options. The printer calls itself 'Halden M410', not "), std::string::npos);
 }
 
 // A text that differs is no other model.

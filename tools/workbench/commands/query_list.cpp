@@ -58,7 +58,8 @@ CommandResult AskFleet(const FamilyFiles& family, const FleetOptions& options) {
     const size_t asked = answers.states.size() + unused;
     if (asked < answers.listed)
         Print(STD_ERROR_HANDLE, "workbench: interrupted; " + std::to_string(answers.listed - asked) + " of "
-                                    + std::to_string(answers.listed) + " printers were not asked\n");
+                                    + std::to_string(answers.listed)
+                                    + " printers were not asked, or not completely\n");
     bool haveAllAnswered = asked == answers.listed && !answers.states.empty();
     for (const PrinterState& state : answers.states)
         haveAllAnswered = haveAllAnswered && state.hasAnswered;

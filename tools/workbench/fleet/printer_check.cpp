@@ -58,7 +58,7 @@ std::vector<TrayFill> ReadTrays(uint32_t address, const std::vector<int>& inputs
         };
         if (!row[kInputType] || number(kInputType) == kManualFeed)
             continue;
-        const std::string name = row[kInputName] ? Trimmed(row[kInputName]->text) : "";
+        const std::string name = row[kInputName] ? row[kInputName]->text : "";
         trays.push_back({name.empty() ? "Tray " + std::to_string(inputs[i]) : name, number(kInputCapacity),
                          number(kInputLevel)});
     }
@@ -113,8 +113,8 @@ std::string OwnName(const ShownSupply& supply, const Supplies& supplies,
     return supply.name;
 }
 
-void NoteFailure(const PrinterFailure& failure, PrinterState& state) {
-    const FailureWords words = WordsOf(failure.outcome);
+void NoteFailure(Outcome outcome, PrinterState& state) {
+    const FailureWords words = WordsOf(outcome);
     state.attention = words.attention;
     state.state = words.state;
     state.advice = words.advice;
@@ -135,10 +135,9 @@ void Ask(const Printer& printer, PrinterState& state) {
     Judge(supplies, identity.otherSupplies, ReadTrays(address, Inputs(options)), state);
     if (identity.isModel)
         return;
-    const FailureWords words = WordsOf(Outcome::kOtherModel);
-    state.attention = words.attention;
-    state.state = words.state;
-    state.advice = words.advice;
+    NoteFailure(Outcome::kOtherModel, state);
+    if (state.model.empty())
+        state.state = "model not reported";
 }
 
 // Runs what asks the printer, and notes how it fails.
@@ -151,7 +150,7 @@ PrinterState StateAfter(const FamilyFiles& family, const ListedPrinter& listed,
     try {
         ask(PrinterAt(family, listed.address), state);
     } catch (const PrinterFailure& failure) {
-        NoteFailure(failure, state);
+        NoteFailure(failure.outcome, state);
     }
     state.milliseconds = GetTickCount() - start;
     return state;

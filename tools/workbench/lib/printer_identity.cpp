@@ -99,7 +99,7 @@ PrinterIdentity AskIdentity(const Printer& printer) {
 
     PrinterIdentity identity = {};
     for (size_t i = 0; i < kNameCount; ++i) {
-        const std::string text = values[i] ? Trimmed(values[i]->text) : "";
+        const std::string text = values[i] ? values[i]->text : "";
         identity.isModel = identity.isModel || NamesModel(text);
         if (identity.name.empty())
             identity.name = text;

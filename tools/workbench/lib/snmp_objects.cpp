@@ -30,7 +30,7 @@ ObjectValue ValueOf(uint8_t type, BerReader contents) {
     ObjectValue value;
     const auto size = static_cast<size_t>(contents.end - contents.at);
     if (type == ASN_OCTETSTRING)
-        value.text = PrinterText({reinterpret_cast<const char*>(contents.at), size});
+        value.text = OneLine(PrinterText({reinterpret_cast<const char*>(contents.at), size}));
     const int32_t number = type == ASN_INTEGER ? BerInteger(contents) : 0;
     if (type == ASN_INTEGER && !contents.failed)
         value.number = number;

@@ -10,7 +10,7 @@
 #include <vector>
 
 struct ObjectValue {
-    std::string text;              // decoded; empty for other types
+    std::string text;              // decoded, on one line; empty for other types
     std::optional<int32_t> number; // of an INTEGER
 };
 using ObjectValues = std::vector<std::optional<ObjectValue>>; // none: the device does not have the object

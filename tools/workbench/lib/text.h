@@ -39,6 +39,9 @@ std::optional<std::string> ToCodePage(const std::string& utf8);
 // Without spaces, tabs and line breaks at both ends.
 std::string Trimmed(const std::string& text);
 
+// The same on one line: blanks instead of line breaks and other control characters.
+std::string OneLine(std::string text);
+
 // The bytes in base 64, as data URIs contain them.
 std::string Base64(std::string_view bytes);
 
