@@ -41,8 +41,8 @@ TEST(WorkbenchFleet, SupplyLevelsAreWords) {
 
 TEST(WorkbenchFleet, QueryAndStatusAreInWords) {
     const std::string modest = RunWorkbench(L"query 127.0.162.2").output;
-    for (const char* line : {"Hard disk      Not installed", "Memory         640 MB", "Waste toner box  nearly full",
-                             "Yellow toner     0 %, empty", "Overlays: none"})
+    for (const char* line : {"Hard disk      Not installed", "Duplex unit    Not installed", "Memory         640 MB",
+                             "Waste toner box  nearly full", "Yellow toner     0 %, empty", "Overlays: none"})
         EXPECT_NE(modest.find(line), std::string::npos) << line << modest;
     EXPECT_EQ(modest.find("Warning"), std::string::npos) << "of a printer of the model";
     EXPECT_NE(
@@ -203,7 +203,7 @@ TEST(WorkbenchFleet, InterruptKeepsWhatHasCome) {
     WriteOutputFile(list, "127.0.162.4\n127.0.162.2\n", "");
     const FamilyFiles family = OpenFamilyFiles({});
     std::thread key([] {
-        Sleep(1000);
+        Sleep(2000); // milliseconds; the other one has answered
         EXPECT_TRUE(NoteInterrupt());
     });
     const CommandResult result = AskFleet(family, {list.u8string(), kDefaultThreads, false});

@@ -13,8 +13,8 @@
 
 namespace {
 
-constexpr int kFirstInput = 1;
-constexpr int kLastInput = 6;      // trays 1 to 5 and the large-capacity tray
+constexpr int kTraysWithOption = 5;
+constexpr int kLargeTray = 6;      // the large-capacity tray
 constexpr int32_t kManualFeed = 5; // prtInputType: has no stock of paper
 
 // Columns of prtInputTable.
@@ -30,17 +30,15 @@ bool IsInstalled(const OptionRequestItem& answer) {
     return FieldText(answer.value).rfind("Ena", 0) == 0;
 }
 
-// The inputs that exist: trays 1 to 5 by the options, which the module has asked the same objects for.
-std::vector<int> Inputs(const OptionAnswers& options) {
+// The inputs that exist: trays 1 to 5 by the options, for which the module has asked the same objects.
+std::vector<int> Inputs(uint32_t address, const OptionAnswers& options) {
     std::vector<int> inputs;
-    for (int input = kFirstInput; input <= kLastInput; ++input) {
-        const std::string key = "OpInTray" + std::to_string(input);
-        const auto found = std::find_if(options.begin(), options.end(), [&](const OptionRequestItem& answer) {
-            return SameText(answer.key, key.c_str());
-        });
-        if (found == options.end() || IsInstalled(*found))
-            inputs.push_back(input);
-    }
+    for (int tray = 1; tray <= kTraysWithOption; ++tray)
+        for (const OptionRequestItem& answer : options)
+            if (SameText(answer.key, ("OpInTray" + std::to_string(tray)).c_str()) && IsInstalled(answer))
+                inputs.push_back(tray);
+    if (ReadObjects(address, {kInputObjects[kInputType] + std::to_string(kLargeTray)})[0])
+        inputs.push_back(kLargeTray);
     return inputs;
 }
 
@@ -132,7 +130,7 @@ void Ask(const Printer& printer, PrinterState& state) {
     state.isModel = identity.isModel;
     state.options = OptionsText(options);
     state.hasAnswered = true;
-    Judge(supplies, identity.otherSupplies, ReadTrays(address, Inputs(options)), state);
+    Judge(supplies, identity.otherSupplies, ReadTrays(address, Inputs(address, options)), state);
     if (identity.isModel)
         return;
     NoteFailure(Outcome::kOtherModel, state);
