@@ -33,6 +33,7 @@ struct FleetRun::Work {
 
     FamilyFiles files;
     std::vector<ListedPrinter> printers;
+    bool isScan;
     std::atomic<bool> isStopped{false};
 
     std::mutex mutex;
@@ -50,7 +51,8 @@ struct FleetRun::Work {
     void Finish(size_t printer, PrinterState state) {
         const std::lock_guard<std::mutex> lock(mutex);
         ++progress.done;
-        progress.needAttention += state.attention != Attention::kFine ? 1 : 0;
+        const bool isUnused = isScan && !state.isPresent;
+        progress.needAttention += state.attention != Attention::kFine && !isUnused ? 1 : 0;
         states[printer] = std::move(state);
         changed.notify_all();
     }
@@ -111,6 +113,7 @@ FleetRun::FleetRun(const FamilyFiles& family, const PrinterList& list, int threa
     : work(std::make_shared<Work>()) {
     work->files = ModuleOf(family);
     work->printers = list.printers;
+    work->isScan = list.isScan;
     work->states.resize(list.printers.size());
     std::thread([shared = work, counted = RunningJob()] { shared->FindThoseThatAnswer(); }).detach();
     const int needed = std::min(threads, static_cast<int>(list.printers.size()));
