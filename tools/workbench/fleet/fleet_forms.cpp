@@ -37,12 +37,21 @@ Document RowOf(const PrinterState& state) {
     return row;
 }
 
+// Some devices describe themselves in several lines.
+std::string Shortened(const std::string& text) {
+    constexpr size_t kMaxBytes = 40;
+    size_t size = std::min(text.size(), kMaxBytes);
+    while (size < text.size() && (text[size] & 0xC0) == 0x80) // inside a character
+        --size;
+    return size < text.size() ? text.substr(0, size) + "..." : text;
+}
+
 // For people. The model is left out where it is the driver's, and the state where the section says it.
 Document PageRow(const PrinterState& state) {
     const bool isSaid = state.state == AttentionWord(state.attention);
     return {{"address", state.address},
             {"name", state.name},
-            {"model", state.isModel ? "" : state.model},
+            {"model", state.isModel ? "" : Shortened(state.model)},
             {"state", isSaid ? "" : state.state},
             {"emptyOrLowTrays", state.trays},
             {"lowestSupply", state.lowestSupply},

@@ -13,9 +13,9 @@
 
 namespace {
 
-constexpr int kTraysWithOption = 5;
-constexpr int kLargeTray = 6;      // the large-capacity tray
-constexpr int32_t kManualFeed = 5; // prtInputType: has no stock of paper
+constexpr int kTraysWithOption = 5; // the first inputs
+constexpr int kLargeTray = 6;       // the large-capacity tray
+constexpr int32_t kManualFeed = 5;  // prtInputType: has no stock of paper
 
 // Columns of prtInputTable.
 enum InputColumn : size_t { kInputType, kInputCapacity, kInputLevel, kInputName, kInputColumns };
@@ -72,8 +72,8 @@ std::string OptionsText(const OptionAnswers& options) {
     return std::to_string(installed) + " installed" + (missing.empty() ? "" : "; not reported: " + missing);
 }
 
-void AddPart(std::string& text, const std::string& part, const char* separator) {
-    text += (text.empty() ? "" : separator) + part;
+void AddPart(std::string& text, const std::string& part) {
+    text += (text.empty() ? "" : ", ") + part;
 }
 
 Need NeedOf(const TrayFill& tray) {
@@ -98,7 +98,7 @@ struct Needs {
             advice.clear();
         most = std::min(most, need);
         if (need == most && need < Need::kLater)
-            AddPart(advice, toDo, ", ");
+            AddPart(advice, toDo);
     }
 };
 
@@ -163,7 +163,7 @@ void Judge(const Supplies& supplies, const std::vector<std::string>& otherSuppli
         const Need need = NeedOf(tray);
         needs.Add(need, need == Need::kNow ? "load " + tray.name : "order paper for " + tray.name);
         if (need < Need::kLater)
-            AddPart(state.trays, tray.name + (need == Need::kNow ? " empty" : " low"), ", ");
+            AddPart(state.trays, tray.name + (need == Need::kNow ? " empty" : " low"));
     }
     for (const ShownSupply& supply : ShownSupplies(supplies, {}, kEnglish)) {
         if (supply.need == Need::kUnknown)

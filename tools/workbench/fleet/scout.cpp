@@ -44,8 +44,8 @@ SOCKET Connected(uint32_t address) {
     agent.sin_addr.s_addr = address;
     u_long isNonBlocking = 1;
     ioctlsocket(handle, static_cast<long>(FIONBIO), &isNonBlocking);
-    connect(handle, reinterpret_cast<const sockaddr*>(&agent),
-            sizeof(agent)); // a failure shows when it sends
+    // A failure shows when it sends.
+    static_cast<void>(connect(handle, reinterpret_cast<const sockaddr*>(&agent), sizeof(agent)));
     return handle;
 }
 
@@ -107,6 +107,7 @@ void Scout(const std::vector<uint32_t>& addresses, const std::atomic<bool>& isSt
                 finish(request, ProbeEndOf(WSAGetLastError()));
         }
         std::vector<WSAPOLLFD> polled;
+        polled.reserve(requests.size());
         for (const ScoutRequest& request : requests)
             polled.push_back({request.handle, POLLIN, 0});
         if (!polled.empty())

@@ -67,6 +67,8 @@ ObjectValues ReadSnmpValues(std::string_view datagram) {
 
 ObjectValues ReadObjects(uint32_t address, const std::vector<std::string>& oids) {
     ObjectValues values;
+    if (oids.empty())
+        return values;
     const uint32_t requestId = NextRequestId();
     const ProbeAnswer answer = ProbeRequest(address, RequestFor(oids, requestId), requestId);
     if (answer.end == ProbeEnd::kAnswered && answer.reply.errorStatus == 0)
