@@ -46,7 +46,9 @@ Run SetUpQuery(CLI::App& command) {
                         "addresses such as 192.168.7.0/24; a line of the file has an address and a name")
             ->type_name("FILE|CIDR")
             ->excludes(one);
-    command.add_option("--threads", fleet->threads, "Queries so many of the list at once (default: 16)")
+    command
+        .add_option("--threads", fleet->threads,
+                    "Queries so many of the list at once (default: " + std::to_string(kDefaultThreads) + ")")
         ->type_name("N")
         ->needs(many)
         ->check(CLI::Range(1, 64).description(""));
