@@ -184,6 +184,7 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
                       "162.11:other answers only host:unknown name 162.3:other model 162.8:not a printer "
                       "163.1:other model 162.2:empty 162.1:fine 162.5:fine 162.12:fine ");
     EXPECT_EQ(answers["printers"][8]["lowestSupply"], "Black Toner 40 %");
+    EXPECT_EQ(answers["printers"][8]["trays"], "Large-capacity tray empty");
     EXPECT_EQ(answers["printers"][9]["trays"], "Tray 1 low, Tray 2 empty");
     EXPECT_EQ(answers["printers"][10]["name"], "print shop");
     EXPECT_EQ(RunWorkbench(query + L"--csv").output.find("address,name,"), 0);
