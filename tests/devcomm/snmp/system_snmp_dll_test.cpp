@@ -2,6 +2,7 @@
 // while this program runs. Under wine only, whose prefix is the build's own, and with both loaded as native
 // libraries: ctest sets WINEDLLOVERRIDES for it.
 #include "product.h"
+#include "workbench/lib/traffic_trace.h"
 
 #include <gtest/gtest.h>
 #include <optional>
@@ -83,6 +84,24 @@ TEST(SystemSnmp, QueriesGoThroughThemAlone) {
     module.reset();
     EXPECT_EQ(LoadedPath(kMgmt), fs::path());
     EXPECT_EQ(LoadedPath(kSnmp), fs::path());
+}
+
+// The answers of the stand-ins do not contain the value that was asked for, only a number of 640.
+TEST(SystemSnmp, TraceRecordsRequestsUntilItsEnd) {
+    const SystemFile mgmt(kMgmt, L"stub_mgmtapi.dll"), snmp(kSnmp, L"stub_snmpapi.dll");
+    const LoadedModule module;
+    auto* const isAccessOk = module.Export<int WINAPI(const char*)>("MIB_IsAccessOK");
+    {
+        const TrafficTrace trace(module.handle);
+        EXPECT_NE(isAccessOk("192.0.2.7"), 0);
+        const std::vector<TracedMessage> messages = trace.Messages();
+        ASSERT_EQ(messages.size(), 2u);
+        EXPECT_TRUE(messages[0].isSent && !messages[1].isSent);
+        EXPECT_EQ(messages[0].message.object, (ObjectId{1, 3, 6, 1, 2, 1, 1, 2, 0}));
+        EXPECT_EQ(messages[1].message.valueType, 2); // INTEGER
+        EXPECT_EQ(messages[1].message.number, 640);
+    }
+    EXPECT_NE(isAccessOk("192.0.2.7"), 0); // a recording function would use the trace that no longer exists
 }
 
 } // namespace

@@ -21,9 +21,8 @@ constexpr Field kAnswerFields[] = {
     {"answer", Show<&OptionRequestItem::value>},
 };
 
-// Objects that show what kind of device answers. The module reads the same tables of the Printer MIB, also
-// for device 1 only.
-constexpr const char* kAgentObject = ".1.3.6.1.2.1.1.2.0";              // sysObjectID: of every agent
+// Shows that the device is a printer. The module reads the same table of the Printer MIB, also for device 1
+// only.
 constexpr const char* kFirstTrayObject = ".1.3.6.1.2.1.43.8.2.1.2.1.1"; // prtInputType
 
 [[noreturn]] void Fail(Outcome outcome, const Printer& printer, const std::string& detail = {}) {

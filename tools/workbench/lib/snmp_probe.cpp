@@ -94,12 +94,13 @@ HostKind FindHost(const std::string& host, uint32_t& address) {
     return HasAddress(host, AF_INET6, found) ? HostKind::kIpv6 : HostKind::kUnknown;
 }
 
-std::string SnmpRequest(const char* oid, uint32_t requestId, bool isForNext) {
+std::string SnmpRequest(const char* oid, uint32_t requestId, bool isForNext, const char* community) {
     SnmpVarBind object = {};
     object.value.asnType = ASN_NULL;
     if (!ClientStrToOid(oid, &object.name))
         return {};
-    BerBuffer message = SnmpBuildRequest(isForNext ? SNMP_PDU_GETNEXT : SNMP_PDU_GET, kCommunity, requestId,
+    BerBuffer message = SnmpBuildRequest(isForNext ? SNMP_PDU_GETNEXT : SNMP_PDU_GET,
+                                         community != nullptr ? community : kCommunity, requestId,
                                          SnmpVarBindList{&object, 1});
     const std::string datagram(reinterpret_cast<const char*>(message.octets), message.count);
     BerFree(message);

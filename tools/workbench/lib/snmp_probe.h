@@ -23,8 +23,13 @@ enum class HostKind { kIpv4, kIpv6, kUnknown };
 // kIpv4; kIpv6 means that the host has no other. Waits for the name service.
 HostKind FindHost(const std::string& host, uint32_t& address);
 
-// A request for one object (or the next one), as a datagram. Empty when the OID is not one.
-std::string SnmpRequest(const char* oid, uint32_t requestId, bool isForNext = false);
+// The object by which the module finds out whether a device answers: sysObjectID, which every agent has.
+constexpr const char* kAgentObject = ".1.3.6.1.2.1.1.2.0";
+
+// A request for one object (or the next one), as a datagram, with the module's community unless there is
+// another. Empty when the OID is not one.
+std::string SnmpRequest(const char* oid, uint32_t requestId, bool isForNext = false,
+                        const char* community = nullptr);
 
 struct SnmpReplyText {
     uint32_t requestId;
