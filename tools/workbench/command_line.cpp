@@ -53,10 +53,15 @@ Run SetUpQuery(CLI::App& command) {
         ->needs(many)
         ->check(CLI::Range(1, 64).description(""));
     command.add_flag("--csv", fleet->csv, "Writes the list as CSV")->needs(many);
-    return [address, fleet](const FamilyFiles& family) {
+    const auto traces = std::make_shared<bool>(false);
+    command.add_flag("--trace", *traces, "Shows every request and answer of the module first")
+        ->excludes(many);
+    return [=](const FamilyFiles& family) {
         if (!*address && !fleet->list)
             throw Failure(kExitUsage, "ADDRESS is required, or --list FILE|CIDR for many printers");
-        return fleet->list ? AskFleet(family, *fleet) : AskBySnmp(family, **address);
+        if (fleet->list)
+            return AskFleet(family, *fleet);
+        return (*traces ? TraceQuery : AskBySnmp)(family, **address);
     };
 }
 
@@ -211,6 +216,8 @@ constexpr struct {
      SetUpCapabilities},
     {"defaults", "Shows the default settings, field by field", WithoutOptions<ShowDefaults>},
     {"query", "Queries a printer by SNMP for options, supplies, overlays and profiles", SetUpQuery},
+    {"diagnose", "Finds out what is wrong with a printer on the network and what to do about it",
+     WithAddress<DiagnosePrinter>},
     {"status", "Queries a printer through the bidirectional library for options and trays",
      WithAddress<AskByLibrary>},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", WithoutOptions<ShowTexts>},

@@ -44,6 +44,12 @@ struct FleetOptions {
 };
 CommandResult AskFleet(const FamilyFiles& family, const FleetOptions& options);
 
+// What AskBySnmp answers, with all requests and answers of the module, also when the query fails.
+CommandResult TraceQuery(const FamilyFiles& family, const std::string& address);
+
+// What is wrong with a printer, or the way to it. Exit code kExitFailed when anything is.
+CommandResult DiagnosePrinter(const FamilyFiles& family, const std::string& address);
+
 // What a printer answers through the bidirectional library: options and input trays.
 CommandResult AskByLibrary(const FamilyFiles& family, const std::string& address);
 

@@ -1,0 +1,122 @@
+// The table of findings: for each check what the driver makes of it, and what to do.
+#include "workbench/diagnosis/findings.h"
+
+#include "workbench/diagnosis/checks.h"
+
+namespace {
+
+// What the sentence is about. kWrongDevice makes the rest of the table meaningless.
+enum class About { kWay, kTraffic, kWrongDevice, kDevice, kDriver };
+
+// clang-format off
+constexpr struct {
+    const char* kind;
+    About about;
+    std::string (*find)(const Observations& seen); // the sentence; empty: this is in order
+    const char* effect;
+    const char* action;
+} kFindings[] = {
+    {"unknownHost", About::kWay, FindUnknownHost,
+     "The driver has no address to send requests to.",
+     "Check the spelling of the name, or enter the printer's IPv4 address."},
+    {"ipv6Only", About::kWay, FindIpv6Only,
+     "The driver uses IPv4 only and reports the printer as unreachable.",
+     "Give the printer an IPv4 address, and enter it."},
+    {"noRoute", About::kWay, FindNoRoute,
+     "The driver reports the printer as unreachable.",
+     "Connect this computer to the printer's network."},
+    {"closed", About::kWay, FindClosed,
+     "The driver reports the printer as unreachable.",
+     "Turn on SNMP in the printer's network settings, and check that this is the printer's address."},
+    {"silent", About::kWay, FindSilent,
+     "The driver reports the printer as unreachable.",
+     "Check that the printer is on and has this address. If it has, turn on SNMPv1 in its network settings, allow the "
+     "community tovask to read, and open UDP port 161 in the firewalls on the way."},
+    {"otherVersion", About::kWay, FindOtherVersion,
+     "The driver uses SNMPv1 only, gets no answer and reports the printer as unreachable.",
+     "Turn on SNMPv1 in the printer's network settings."},
+    {"otherCommunity", About::kWay, FindOtherCommunity,
+     "The driver always uses the community tovask, gets no answer and reports the printer as unreachable.",
+     "Allow the community tovask to read in the printer's SNMP settings."},
+    {"otherAddress", About::kTraffic, FindOtherAddress,
+     "The driver takes answers only from the address that it has asked; to it the printer does not answer.",
+     "If the other address is the printer's, enter it; otherwise correct the address translation (NAT, VPN) on the way."},
+    {"otherPort", About::kTraffic, FindOtherPort,
+     "The driver takes answers only from port 161; to it the printer does not answer.",
+     "Correct the port translation (NAT, firewall, VPN) between this computer and the printer, or connect without it."},
+    {"cut", About::kTraffic, FindCut,
+     "The driver discards such an answer and does not ask again: the query fails.",
+     "Check the devices on the way that filter or inspect SNMP, and update the printer's firmware."},
+    {"malformed", About::kTraffic, FindMalformed,
+     "The driver discards such an answer and does not ask again: the query fails.",
+     "Check that this is the printer's address, restart the printer, and update its firmware."},
+    {"errorStatus", About::kTraffic, FindErrorStatus,
+     "The driver takes such an object as missing: options as not installed, supplies as not reported.",
+     "Restart the printer, and check which objects its SNMP settings allow the community to read."},
+    {"stale", About::kTraffic, FindStale,
+     "The driver skips such answers, at most four for each request; with more the query fails.",
+     "Restart the printer. If this goes on, look for another program or device that answers in its place."},
+    {"silentObjects", About::kTraffic, FindSilentObjects,
+     "The driver asks five times and gives up: it shows nothing of what it needs these objects for.",
+     "Check which objects the printer's SNMP settings allow to be read, and update the printer's firmware."},
+    {"loss", About::kTraffic, FindLoss,
+     "The driver asks up to five times, then options, levels or whole lists are missing.",
+     "Check cables, wireless reception and the load of the network, and query the printer again."},
+    {"lateStart", About::kTraffic, FindLateStart,
+     "The driver may give up, and report the printer as unreachable, before it answers.",
+     "Query the printer again. If this happens often, turn off the deepest sleep mode in the printer's settings."},
+    {"slow", About::kTraffic, FindSlow,
+     "The driver repeats a request within a fraction of a second, and may give up before the answer arrives.",
+     "Check the connection (wireless, VPN) and the printer's load; query it again when it is idle."},
+    {"duplicates", About::kTraffic, FindDuplicates,
+     "None: the driver uses the first answer and skips the others.",
+     "Look for a loop or a mirrored port in the network."},
+    {"changedCommunity", About::kTraffic, FindChangedCommunity,
+     "None: the driver accepts such answers.",
+     "Look for a proxy that answers for the printer, and update the printer's firmware."},
+    {"wrongType", About::kDevice, FindWrongType,
+     "The driver takes such an object as missing.",
+     "Update the printer's firmware, and check that it is of this model."},
+    {"numberType", About::kDevice, FindNumberType,
+     "None: the driver accepts all types of numbers.",
+     "Nothing for the driver. Other programs may need newer firmware in the printer."},
+    {"notAPrinter", About::kWrongDevice, FindNotAPrinter,
+     "The driver does not notice: it shows a printer without options and levels.",
+     "Enter the address of the printer."},
+    {"otherDevice", About::kDevice, FindOtherDevice,
+     "The driver asks for the trays, supplies and duplex unit of device 1 only, and finds none.",
+     "Use a print server, or firmware, that lists the printer as its first device."},
+    {"otherModel", About::kDevice, FindOtherModel,
+     "The driver does not notice: it shows the device as this model, with this model's supplies and options.",
+     "Check the address, or use the driver of the device's own model."},
+    {"otherSupplies", About::kDevice, FindOtherSupplies,
+     "The driver shows the level of one supply under the name and colour of another.",
+     "Use the driver of the device's own model; read such levels at the printer."},
+    {"unusableValues", About::kDriver, FindNoAnswers,
+     "The driver shows these as not reported.",
+     "Compare the values of the objects: memory of 128 to 1024 MB in steps of 128, and levels from 0 to the capacity."},
+    {"driverFailed", About::kDriver, FindDriverFailed,
+     "The driver shows nothing of what the failed queries are for.",
+     "Diagnose again. If the printer answers here but not to the driver, send this page with a trace of the query."},
+};
+// clang-format on
+
+} // namespace
+
+// What the driver does is not reported where the way or the traffic explains it.
+std::vector<DiagnosisFinding> FindingsOf(const Observations& seen) {
+    std::vector<DiagnosisFinding> findings;
+    bool isExplained = false;
+    for (const auto& row : kFindings) {
+        if (row.about == About::kDriver && isExplained)
+            continue;
+        const std::string sentence = row.find(seen);
+        if (sentence.empty())
+            continue;
+        findings.push_back({row.kind, sentence, row.effect, row.action});
+        if (row.about == About::kWrongDevice)
+            break;
+        isExplained = isExplained || row.about == About::kWay || row.about == About::kTraffic;
+    }
+    return findings;
+}

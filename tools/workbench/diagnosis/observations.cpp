@@ -1,0 +1,287 @@
+// Makes the observations of a diagnosis in their order. Each ends within a limit.
+#include "workbench/diagnosis/observations.h"
+
+#include "workbench/lib/printer_identity.h"
+#include "workbench/lib/text.h"
+#include "workbench/lib/time_limit.h"
+#include "workbench/lib/traffic_trace.h"
+
+#include <algorithm>
+#include <mutex>
+#include <winsock2.h>
+
+#include <ws2tcpip.h> // after winsock2.h
+
+namespace {
+
+constexpr int32_t kVersion1 = 0;
+constexpr int32_t kVersion2c = 1;
+constexpr const char* kPublicCommunity = "public"; // the usual one of new devices
+constexpr int kReachRequests = 4;
+constexpr double kLastListen = 1000; // for answers that are late
+
+// hrDeviceType of the host's devices, and its value for a printer.
+constexpr const char* kDeviceType = ".1.3.6.1.2.1.25.3.2.1.2";
+constexpr const char* kDeviceIsPrinter = ".1.3.6.1.2.1.25.3.1.5";
+constexpr int kMaxDevices = 16;        // more are not looked at
+constexpr double kDevicesLimit = 5000; // milliseconds, then no further one
+
+constexpr const char* kFirstTrayType = ".1.3.6.1.2.1.43.8.2.1.2.1.1"; // prtInputType
+
+using Stage = std::function<void(const char* stage)>;
+
+// --- The name
+
+std::vector<std::string> AddressesOf(const std::string& host) {
+    std::vector<std::string> texts;
+    addrinfo wanted = {};
+    wanted.ai_socktype = SOCK_DGRAM; // each address once
+    addrinfo* found = nullptr;
+    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0)
+        return texts;
+    for (const addrinfo* each = found; each != nullptr; each = each->ai_next) {
+        char text[NI_MAXHOST] = "";
+        if (getnameinfo(each->ai_addr, static_cast<socklen_t>(each->ai_addrlen), text, sizeof(text), nullptr,
+                        0, NI_NUMERICHOST)
+            == 0)
+            texts.emplace_back(text);
+    }
+    freeaddrinfo(found);
+    return texts;
+}
+
+HostObservation ObserveHost(const std::string& agent, const std::function<void()>& meanwhile) {
+    const auto seen = std::make_shared<HostObservation>();
+    const auto work = [seen, agent] {
+        const SocketsStart sockets;
+        seen->kind = FindHost(agent, seen->ipv4);
+        seen->addresses = AddressesOf(agent);
+    };
+    if (!EndsWithin(kNameLimit, work, meanwhile))
+        return {};
+    seen->isFound = true;
+    return *seen;
+}
+
+// --- The driver's own queries, on a thread of their own
+
+struct DriverWork {
+    FamilyFiles files; // only the module, kept loaded as long as the work goes on
+    std::string address;
+    std::mutex access; // to the observation
+    DriverObservation seen;
+};
+
+// Runs one query, and notes when it fails.
+void Query(DriverWork& work, const char* name, const std::function<void(const Printer& printer)>& ask) {
+    {
+        const std::lock_guard lock(work.access);
+        work.seen.query = name;
+    }
+    try {
+        ask(PrinterAt(work.files, work.address));
+    } catch (const Failure&) {
+        const std::lock_guard lock(work.access);
+        work.seen.failed.emplace_back(name);
+    }
+}
+
+// Asks, then keeps the answer.
+template <typename Answer>
+void Keep(DriverWork& work, Answer& to, Answer answer) {
+    const std::lock_guard lock(work.access);
+    to = std::move(answer);
+}
+
+void Reach(DriverWork& work) {
+    Query(work, "access", [&](const Printer& printer) {
+        const TrafficTrace trace(work.files.module.get());
+        const int64_t start = CounterNow();
+        const bool isReached = EXPORT(printer.family, MIB_IsAccessOK)(printer.agent.c_str()) != FALSE;
+        const double time = MillisecondsSince(start);
+        const auto messages = trace.Messages();
+        const std::lock_guard lock(work.access);
+        work.seen.isReached = isReached;
+        work.seen.reachTime = time;
+        work.seen.reachSends = static_cast<int>(std::count_if(
+            messages.begin(), messages.end(), [](const TracedMessage& message) { return message.isSent; }));
+    });
+}
+
+void AskDriver(DriverWork& work) {
+    DriverObservation& seen = work.seen;
+    Reach(work);
+    if (seen.isReached) {
+        Query(work, "options", [&](const Printer& printer) {
+            Keep(work, seen.options,
+                 AskOptions(printer, Transport::kSnmp, OptionKeys(printer.family, Transport::kSnmp)));
+        });
+        Query(work, "supplies", [&](const Printer& printer) {
+            Keep(work, seen.supplies, AskSupplies(printer, SupplyNames(printer.family)));
+        });
+        Query(work, "names of supplies", [&](const Printer& printer) {
+            Keep(work, seen.otherSupplies, AskIdentity(printer).otherSupplies);
+        });
+        Query(work, "overlays", [&](const Printer& printer) {
+            for (const int32_t storage : {0, 1})
+                Keep(work, seen.overlays[storage], AskOverlays(printer, storage));
+        });
+        Query(work, "profiles",
+              [&](const Printer& printer) { Keep(work, seen.profiles, AskProfiles(printer)); });
+    }
+    const std::lock_guard lock(work.access);
+    seen.isEnded = true;
+}
+
+DriverObservation ObserveDriver(const Printer& printer, const std::function<void()>& meanwhile) {
+    const auto work = std::make_shared<DriverWork>();
+    work->files = ModuleOf(printer.family);
+    work->address = printer.address;
+    work->seen.isAsked = true;
+    EndsWithin(
+        kDriverLimit, [work] { AskDriver(*work); }, meanwhile);
+    const std::lock_guard lock(work->access);
+    return work->seen;
+}
+
+// --- The exchange
+
+bool IsAnswered(const Exchange& exchange, size_t question) {
+    const auto& arrivals = exchange.Arrivals();
+    return std::any_of(arrivals.begin(), arrivals.end(), [&](const Arrival& arrival) {
+        return arrival.request != Arrival::kNone && exchange.Requests()[arrival.request].question == question;
+    });
+}
+
+// Asks in the driver's way, and if there is no answer in the other usual ways and once more.
+void FindAccess(Observations& seen) {
+    Exchange& exchange = *seen.exchange;
+    const ObjectId agent = OidOf(kAgentObject);
+    const size_t first = exchange.Ask(std::vector<AskedObject>(kReachRequests, {DriverAccess(), agent}));
+    for (size_t i = first; i < first + kReachRequests; ++i)
+        seen.reach.push_back(i);
+    const auto isAnswered = [&](size_t question) { return IsAnswered(exchange, question); };
+    if (std::any_of(seen.reach.begin(), seen.reach.end(), isAnswered)) {
+        seen.answered = {DriverAccess()};
+        return;
+    }
+    seen.isRefused = ProbeObject(seen.host.ipv4, kAgentObject).end == ProbeEnd::kRefused;
+    if (seen.isRefused)
+        return;
+    const std::vector<AskedObject> others = {
+        {DriverAccess(), agent},
+        {DriverAccess(), OidOf(kFirstTrayType)},
+        {{kVersion2c, kCommunity}, agent},
+        {{kVersion1, kPublicCommunity}, agent},
+        {{kVersion2c, kPublicCommunity}, agent},
+    };
+    const size_t firstOther = exchange.Ask(others);
+    for (size_t i = 0; i < others.size(); ++i)
+        if (isAnswered(firstOther + i))
+            seen.answered.push_back(others[i].access);
+}
+
+void FindPrinter(Observations& seen) {
+    const ObjectId column = OidOf(kDeviceType);
+    ObjectId next = column;
+    const double end = seen.exchange->Now() + kDevicesLimit;
+    for (int i = 0; i < kMaxDevices && seen.printerNumber == 0 && seen.exchange->Now() < end; ++i) {
+        const Arrival* answer = seen.exchange->AskOne({seen.access, next, true});
+        if (answer == nullptr)
+            return;
+        const ObjectId& object = answer->message.object;
+        seen.hasDeviceList = true;
+        if (object.size() <= column.size() || !std::equal(column.begin(), column.end(), object.begin())
+            || !HasValue(answer->message) || object <= next)
+            return;
+        if (answer->message.objectValue == OidOf(kDeviceIsPrinter))
+            seen.printerNumber = static_cast<int32_t>(object.back());
+        next = object;
+    }
+}
+
+void Describe(Observations& seen) {
+    // clang-format off
+    seen.description = {
+        {"deviceDescription", ".1.3.6.1.2.1.25.3.2.1.3",   true},  // hrDeviceDescr
+        {"printerName",       ".1.3.6.1.2.1.43.5.1.1.16",  true},  // prtGeneralPrinterName
+        {"serialNumber",      ".1.3.6.1.2.1.43.5.1.1.17",  true},  // prtGeneralSerialNumber
+        {"systemDescription", ".1.3.6.1.2.1.1.1.0",        false}, // sysDescr
+        {"systemName",        ".1.3.6.1.2.1.1.5.0",        false}, // sysName
+        {"upTime",            ".1.3.6.1.2.1.1.3.0",        false}, // sysUpTime
+    };
+    // clang-format on
+    std::vector<AskedObject> questions;
+    for (const DescriptionObject& object : seen.description) {
+        ObjectId oid = OidOf(object.oid);
+        if (object.isOfDevice)
+            oid.push_back(static_cast<uint32_t>(std::max(seen.printerNumber, 1)));
+        questions.push_back({seen.access, oid});
+    }
+    const size_t first = seen.exchange->Ask(questions);
+    for (size_t i = 0; i < seen.description.size(); ++i)
+        seen.description[i].question = first + i;
+}
+
+// A busy computer is taken for a slow printer less often when slow objects have a second chance.
+void AskSlowOnesAgain(Observations& seen) {
+    Exchange& exchange = *seen.exchange;
+    std::vector<AskedObject> questions;
+    for (size_t i = 0; i < seen.objects.size(); ++i) {
+        const Arrival* answer = AnswerTo(seen, i);
+        if (answer != nullptr && exchange.TimeOf(*answer) >= kSlow)
+            questions.push_back({seen.access, seen.objects[i].oid});
+    }
+    exchange.Ask(questions);
+}
+
+void AskObjects(Observations& seen) {
+    std::vector<AskedObject> questions;
+    for (const ModuleObject& object : seen.objects)
+        questions.push_back({seen.access, object.oid});
+    seen.firstObject = seen.exchange->Ask(questions);
+    seen.areObjectsAsked = true;
+    AskSlowOnesAgain(seen);
+}
+
+} // namespace
+
+Access DriverAccess() {
+    return {kVersion1, kCommunity};
+}
+
+Observations ObservePrinter(const Printer& printer, const Stage& stage) {
+    Observations seen;
+    seen.address = printer.address;
+    seen.objects = ModuleObjects(printer.family);
+    seen.host = ObserveHost(printer.agent, [&] { stage("name"); });
+    if (!seen.host.isFound || seen.host.kind != HostKind::kIpv4)
+        return seen;
+    seen.exchange = std::make_unique<Exchange>(seen.host.ipv4, stage);
+    seen.exchange->SetStage("access");
+    FindAccess(seen);
+    if (!seen.answered.empty()) {
+        seen.isAddressed = true;
+        seen.access = seen.answered.front();
+        seen.exchange->SetStage("description");
+        FindPrinter(seen);
+        Describe(seen);
+        seen.exchange->SetStage("objects");
+        AskObjects(seen);
+        seen.exchange->Listen(kLastListen);
+    }
+    seen.driver = ObserveDriver(printer, [&] { stage("the driver's queries"); });
+    return seen;
+}
+
+const Arrival* AnswerTo(const Observations& seen, size_t object) {
+    return seen.areObjectsAsked ? seen.exchange->AnswerTo(seen.firstObject + object) : nullptr;
+}
+
+std::string DescriptionText(const Observations& seen, const DescriptionObject& object) {
+    const Arrival* answer = object.question != SIZE_MAX ? seen.exchange->AnswerTo(object.question) : nullptr;
+    if (answer == nullptr || !HasValue(answer->message))
+        return {};
+    return IsNumberType(answer->message.valueType) ? ValueText(answer->message)
+                                                   : PrinterText(answer->message.bytes);
+}

@@ -1,0 +1,81 @@
+// What a diagnosis finds out about a printer, before it is judged: the name, the answers, the driver's own
+// results.
+#ifndef WORKBENCH_DIAGNOSIS_OBSERVATIONS_H
+#define WORKBENCH_DIAGNOSIS_OBSERVATIONS_H
+
+#include "workbench/diagnosis/exchange.h"
+#include "workbench/diagnosis/module_objects.h"
+#include "workbench/lib/printer_queries.h"
+
+#include <memory>
+
+// Limits of time in milliseconds. With what the exchange takes a diagnosis ends within kDiagnosisLimit.
+constexpr double kNameLimit = 15000;
+constexpr double kDriverLimit = 30000;
+constexpr double kDiagnosisLimit = 90000;
+
+constexpr double kSlow = 50; // milliseconds; a printer in a local network answers in a few
+
+struct HostObservation {
+    bool isFound = false; // within the limit
+    HostKind kind = HostKind::kUnknown;
+    uint32_t ipv4 = 0;                  // in network order, for HostKind::kIpv4
+    std::vector<std::string> addresses; // all, as texts
+};
+
+// What the module's queries have answered, as far as they have ended.
+struct DriverObservation {
+    bool isAsked = false;
+    bool isEnded = false; // within the limit
+    std::string query;    // the last that was started
+    bool isReached = false;
+    double reachTime = 0; // milliseconds
+    int reachSends = 0;
+    OptionAnswers options;
+    Supplies supplies;
+    StoredResources overlays[2];
+    StoredProfiles profiles;
+    std::vector<std::string>
+        otherSupplies; // what the device calls supplies that it uses otherwise; empty: as the driver
+    std::vector<std::string> failed; // queries
+};
+
+// An object that describes the device.
+struct DescriptionObject {
+    const char* label; // a key of the document
+    const char* oid;
+    bool isOfDevice; // the device's number among the host's devices follows
+    size_t question = SIZE_MAX;
+};
+
+struct Observations {
+    std::string address; // as the user has written it
+    HostObservation host;
+    bool isRefused = false; // the port is closed
+    std::unique_ptr<Exchange> exchange;
+    std::vector<size_t> reach;    // questions for kAgentObject, by the driver's access
+    std::vector<Access> answered; // ways to address the agent that it answers, the driver's first
+    bool isAddressed = false;     // it is asked the rest in this way:
+    Access access;
+    std::vector<ModuleObject> objects;
+    size_t firstObject = 0; // question of the first of them
+    bool areObjectsAsked = false;
+    int32_t printerNumber = 0;  // among the host's devices; 0: none is a printer
+    bool hasDeviceList = false; // the list of the host's devices was answered
+    std::vector<DescriptionObject> description;
+    DriverObservation driver;
+};
+
+// The driver's access: SNMPv1 with the module's community.
+Access DriverAccess();
+
+// Makes all observations. `stage` is called with what is done next, and repeatedly while it waits.
+Observations ObservePrinter(const Printer& printer, const std::function<void(const char* stage)>& stage);
+
+// The answer to an object of the module; null: none.
+const Arrival* AnswerTo(const Observations& seen, size_t object);
+
+// Text or number of a description; empty when there is none.
+std::string DescriptionText(const Observations& seen, const DescriptionObject& object);
+
+#endif
