@@ -3,7 +3,7 @@
 #include "workbench/commands/commands.h"
 #include "workbench/diagnosis/page.h"
 #include "workbench/lib/output.h"
-#include "workbench/lib/traffic_trace.h"
+#include "workbench/lib/stopwatch.h"
 
 namespace {
 

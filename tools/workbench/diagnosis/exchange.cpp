@@ -2,7 +2,7 @@
 #include "workbench/diagnosis/exchange.h"
 
 #include "workbench/lib/module_parts.h"
-#include "workbench/lib/traffic_trace.h"
+#include "workbench/lib/stopwatch.h"
 
 #include <algorithm>
 #include <winsock2.h>
@@ -155,8 +155,4 @@ const Arrival* Exchange::AnswerTo(size_t question) const {
 
 double Exchange::TimeOf(const Arrival& answer) const {
     return answer.at - requests[answer.request].at;
-}
-
-bool Exchange::IsFromAgent(const Arrival& arrival) const {
-    return arrival.address == address && arrival.port == kAskedPort;
 }

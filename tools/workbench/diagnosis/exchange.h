@@ -1,7 +1,6 @@
 // The requests of a diagnosis and everything that comes back. One unconnected socket sends them all, so that
-// answers from other ports and addresses arrive, too. Each request has a request-id of its own, far from the
-// others, so that answers to requests that nobody has made stand out. Times are milliseconds since the start
-// of the exchange.
+// answers from other ports and addresses arrive, too. Request-ids are far apart, so that answers to requests
+// that were not made are recognised. Times are milliseconds since the start of the exchange.
 #ifndef WORKBENCH_DIAGNOSIS_EXCHANGE_H
 #define WORKBENCH_DIAGNOSIS_EXCHANGE_H
 
@@ -65,9 +64,7 @@ public:
     const Arrival* AnswerTo(size_t question) const;
     // How long the answer took.
     double TimeOf(const Arrival& answer) const;
-    bool IsFromAgent(const Arrival& arrival) const; // the port and address that were asked
 
-    uint32_t Agent() const { return address; }
     bool IsSent() const { return isSent; } // false: there is no way to the address
     double Now() const;
     const std::vector<AskedObject>& Questions() const { return questions; }

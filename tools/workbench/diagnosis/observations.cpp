@@ -2,6 +2,7 @@
 #include "workbench/diagnosis/observations.h"
 
 #include "workbench/lib/printer_identity.h"
+#include "workbench/lib/stopwatch.h"
 #include "workbench/lib/text.h"
 #include "workbench/lib/time_limit.h"
 #include "workbench/lib/traffic_trace.h"
@@ -153,18 +154,28 @@ bool IsAnswered(const Exchange& exchange, size_t question) {
     });
 }
 
+// The ways of access of the questions so far that are answered, each once.
+std::vector<Access> AnsweredAccess(const Exchange& exchange) {
+    std::vector<Access> answered;
+    for (size_t i = 0; i < exchange.Questions().size(); ++i) {
+        const Access& access = exchange.Questions()[i].access;
+        const bool isKnown = std::any_of(answered.begin(), answered.end(), [&](const Access& each) {
+            return each.version == access.version && each.community == access.community;
+        });
+        if (!isKnown && IsAnswered(exchange, i))
+            answered.push_back(access);
+    }
+    return answered;
+}
+
 // Asks in the driver's way, and if there is no answer in the other usual ways and once more.
 void FindAccess(Observations& seen) {
     Exchange& exchange = *seen.exchange;
     const ObjectId agent = OidOf(kAgentObject);
-    const size_t first = exchange.Ask(std::vector<AskedObject>(kReachRequests, {DriverAccess(), agent}));
-    for (size_t i = first; i < first + kReachRequests; ++i)
-        seen.reach.push_back(i);
-    const auto isAnswered = [&](size_t question) { return IsAnswered(exchange, question); };
-    if (std::any_of(seen.reach.begin(), seen.reach.end(), isAnswered)) {
-        seen.answered = {DriverAccess()};
+    exchange.Ask(std::vector<AskedObject>(kReachRequests, {DriverAccess(), agent}));
+    seen.answered = AnsweredAccess(exchange);
+    if (!seen.answered.empty())
         return;
-    }
     seen.isRefused = ProbeObject(seen.host.ipv4, kAgentObject).end == ProbeEnd::kRefused;
     if (seen.isRefused)
         return;
@@ -175,10 +186,8 @@ void FindAccess(Observations& seen) {
         {{kVersion1, kPublicCommunity}, agent},
         {{kVersion2c, kPublicCommunity}, agent},
     };
-    const size_t firstOther = exchange.Ask(others);
-    for (size_t i = 0; i < others.size(); ++i)
-        if (isAnswered(firstOther + i))
-            seen.answered.push_back(others[i].access);
+    exchange.Ask(others);
+    seen.answered = AnsweredAccess(exchange);
 }
 
 void FindPrinter(Observations& seen) {

@@ -53,7 +53,6 @@ struct Observations {
     HostObservation host;
     bool isRefused = false; // the port is closed
     std::unique_ptr<Exchange> exchange;
-    std::vector<size_t> reach;    // questions for kAgentObject, by the driver's access
     std::vector<Access> answered; // ways to address the agent that it answers, the driver's first
     bool isAddressed = false;     // it is asked the rest in this way:
     Access access;

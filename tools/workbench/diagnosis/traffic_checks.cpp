@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double kManyPercent = 100;
+constexpr double kWhole = 100;
 
 std::string SourceText(uint32_t address) {
     in_addr shown = {};
@@ -189,8 +189,7 @@ std::string FindLoss(const Observations& seen) {
     const Samples samples = SamplesOf(seen);
     if (samples.lost <= samples.lostFirst)
         return {};
-    const double percent =
-        kManyPercent * static_cast<double>(samples.lost) / static_cast<double>(samples.requests);
+    const double percent = kWhole * static_cast<double>(samples.lost) / static_cast<double>(samples.requests);
     return "Requests or answers are lost: " + std::to_string(std::max(1, static_cast<int>(percent + 0.5)))
            + " % (" + std::to_string(samples.lost) + " of " + Times(samples.requests, "request") + ").";
 }

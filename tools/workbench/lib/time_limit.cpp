@@ -2,7 +2,7 @@
 #include "workbench/lib/time_limit.h"
 
 #include "workbench/lib/running_jobs.h"
-#include "workbench/lib/traffic_trace.h"
+#include "workbench/lib/stopwatch.h"
 
 #include <future>
 #include <memory>

@@ -1,6 +1,8 @@
 // Replaces functions that a library calls by functions that record.
 #include "workbench/lib/traffic_trace.h"
 
+#include "workbench/lib/stopwatch.h"
+
 #include <snmp.h>
 #include <winsock2.h>
 
@@ -139,18 +141,6 @@ bool Replace(void** slot, void* function) {
 
 bool UsesSystemSnmp() {
     return GetModuleHandleW(L"MGMTAPI.DLL") != nullptr && GetModuleHandleW(L"SNMPAPI.DLL") != nullptr;
-}
-
-int64_t CounterNow() {
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    return now.QuadPart;
-}
-
-double MillisecondsSince(int64_t counter) {
-    LARGE_INTEGER perSecond;
-    QueryPerformanceFrequency(&perSecond);
-    return static_cast<double>(CounterNow() - counter) * 1000 / static_cast<double>(perSecond.QuadPart);
 }
 
 TrafficTrace::TrafficTrace(HMODULE library) : start(CounterNow()) {

@@ -53,8 +53,4 @@ private:
     std::vector<TracedMessage> messages;
 };
 
-// Milliseconds since this count of the performance counter.
-int64_t CounterNow();
-double MillisecondsSince(int64_t counter);
-
 #endif
