@@ -1,6 +1,7 @@
 // Makes the observations of a diagnosis in their order. Each ends within a limit.
 #include "workbench/diagnosis/observations.h"
 
+#include "workbench/diagnosis/samples.h"
 #include "workbench/lib/printer_identity.h"
 #include "workbench/lib/stopwatch.h"
 #include "workbench/lib/text.h"
@@ -232,25 +233,24 @@ void Describe(Observations& seen) {
         seen.description[i].question = first + i;
 }
 
-// A busy computer is taken for a slow printer less often when slow objects have a second chance.
-void AskSlowOnesAgain(Observations& seen) {
-    Exchange& exchange = *seen.exchange;
+// Asks those of the module's objects for which this holds.
+void AskObjects(Observations& seen, const std::function<bool(size_t object)>& isAsked) {
     std::vector<AskedObject> questions;
-    for (size_t i = 0; i < seen.objects.size(); ++i) {
-        const Arrival* answer = AnswerTo(seen, i);
-        if (answer != nullptr && exchange.TimeOf(*answer) >= kSlow)
+    for (size_t i = 0; i < seen.objects.size(); ++i)
+        if (isAsked(i))
             questions.push_back({seen.access, seen.objects[i].oid});
-    }
-    exchange.Ask(questions);
+    seen.exchange->Ask(questions);
 }
 
-void AskObjects(Observations& seen) {
-    std::vector<AskedObject> questions;
-    for (const ModuleObject& object : seen.objects)
-        questions.push_back({seen.access, object.oid});
-    seen.firstObject = seen.exchange->Ask(questions);
+// Where answers are lost, an object without one gets as many requests again. A busy computer is taken for a
+// slow printer less often when slow objects have a second chance.
+void AskAllObjects(Observations& seen) {
+    AskObjects(seen, [](size_t) { return true; });
     seen.areObjectsAsked = true;
-    AskSlowOnesAgain(seen);
+    const Samples samples = SamplesOf(seen);
+    if (samples.lost > samples.lostFirst)
+        AskObjects(seen, [&](size_t object) { return AnswerTo(seen, object) == nullptr; });
+    AskObjects(seen, [&](size_t object) { return TimeOfObject(seen, seen.objects[object].oid) >= kSlow; });
 }
 
 } // namespace
@@ -276,7 +276,7 @@ Observations ObservePrinter(const Printer& printer, const Stage& stage) {
         FindPrinter(seen);
         Describe(seen);
         seen.exchange->SetStage("objects");
-        AskObjects(seen);
+        AskAllObjects(seen);
         seen.exchange->Listen(kLastListen);
     }
     seen.driver = ObserveDriver(printer, [&] { stage("the driver's queries"); });
@@ -284,7 +284,16 @@ Observations ObservePrinter(const Printer& printer, const Stage& stage) {
 }
 
 const Arrival* AnswerTo(const Observations& seen, size_t object) {
-    return seen.areObjectsAsked ? seen.exchange->AnswerTo(seen.firstObject + object) : nullptr;
+    if (!seen.areObjectsAsked)
+        return nullptr;
+    const std::vector<AskedObject>& questions = seen.exchange->Questions();
+    for (size_t i = 0; i < questions.size(); ++i) {
+        const bool isAboutObject = !questions[i].isForNext && questions[i].object == seen.objects[object].oid;
+        const Arrival* answer = isAboutObject ? seen.exchange->AnswerTo(i) : nullptr;
+        if (answer != nullptr)
+            return answer;
+    }
+    return nullptr;
 }
 
 std::string DescriptionText(const Observations& seen, const DescriptionObject& object) {

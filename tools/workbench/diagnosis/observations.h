@@ -57,7 +57,6 @@ struct Observations {
     bool isAddressed = false;     // it is asked the rest in this way:
     Access access;
     std::vector<ModuleObject> objects;
-    size_t firstObject = 0; // question of the first of them
     bool areObjectsAsked = false;
     int32_t printerNumber = 0;  // among the host's devices; 0: none is a printer
     bool hasDeviceList = false; // the list of the host's devices was answered

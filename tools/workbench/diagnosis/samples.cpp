@@ -24,14 +24,29 @@ std::vector<std::vector<const Arrival*>> ArrivalsByRequest(const Exchange& excha
     return arrivals;
 }
 
+// Whether a damaged arrival does not say which request it answers: then it is taken for an answer to the
+// last.
+bool HasUnknownRequests(const Exchange& exchange) {
+    return std::any_of(exchange.Arrivals().begin(), exchange.Arrivals().end(),
+                       [](const Arrival& arrival) { return !arrival.message.hasRequestId; });
+}
+
 double MedianOf(std::vector<double>& times) {
     std::sort(times.begin(), times.end());
     return times.empty() ? 0 : times[times.size() / 2];
 }
 
+bool IsOneOf(const std::vector<ObjectId>& objects, const ObjectId& oid) {
+    return std::find(objects.begin(), objects.end(), oid) != objects.end();
+}
+
 void AddOnce(std::vector<ObjectId>& objects, const ObjectId& oid) {
-    if (std::find(objects.begin(), objects.end(), oid) == objects.end())
+    if (!IsOneOf(objects, oid))
         objects.push_back(oid);
+}
+
+const ObjectId& ObjectOf(const Exchange& exchange, const SentRequest& request) {
+    return exchange.Questions()[request.question].object;
 }
 
 } // namespace
@@ -42,22 +57,25 @@ Samples SamplesOf(const Observations& seen) {
         return samples;
     const Exchange& exchange = *seen.exchange;
     const auto arrivals = ArrivalsByRequest(exchange);
-    std::vector<bool> isQuestionAnswered(exchange.Questions().size());
+    std::vector<ObjectId> answered;
     std::vector<double> times;
     for (size_t i = 0; i < arrivals.size(); ++i)
         if (!arrivals[i].empty() && IsCounted(seen, exchange.Requests()[i])) {
-            isQuestionAnswered[exchange.Requests()[i].question] = true;
+            AddOnce(answered, ObjectOf(exchange, exchange.Requests()[i]));
             times.push_back(exchange.TimeOf(*arrivals[i].front()));
             samples.duplicates += arrivals[i].size() > 1 ? 1 : 0;
         }
     samples.median = MedianOf(times);
     samples.slowest = times.empty() ? 0 : times.back();
+    const bool isCertain =
+        !HasUnknownRequests(exchange); // otherwise it is unknown what is lost or arrives twice
+    samples.duplicates = isCertain ? samples.duplicates : 0;
     const double patience = std::max(kLeastPatience, 2 * samples.slowest);
     for (size_t i = 0; i < arrivals.size(); ++i) {
         const SentRequest& request = exchange.Requests()[i];
         if (!IsCounted(seen, request))
             continue;
-        const bool isLost = arrivals[i].empty() && isQuestionAnswered[request.question]
+        const bool isLost = isCertain && arrivals[i].empty() && IsOneOf(answered, ObjectOf(exchange, request))
                             && request.at + patience < exchange.Now();
         samples.lostFirst += isLost && samples.answered == 0 ? 1 : 0;
         samples.lost += isLost ? 1 : 0;

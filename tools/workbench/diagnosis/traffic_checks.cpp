@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double kWhole = 100;
+constexpr int kHeavyLoss = 20; // percent
 
 std::string SourceText(uint32_t address) {
     in_addr shown = {};
@@ -39,6 +39,12 @@ std::string FindDamage(const Observations& seen, Damage damage, const std::strin
 template <typename Test>
 bool HasAccess(const Observations& seen, const Test& test) {
     return std::any_of(seen.answered.begin(), seen.answered.end(), test);
+}
+
+// Of the requests for objects that are answered at other times.
+int LostPercent(const Samples& samples) {
+    const size_t all = samples.lost + samples.answered;
+    return all != 0 ? static_cast<int>((100 * samples.lost + all / 2) / all) : 0;
 }
 
 } // namespace
@@ -173,9 +179,10 @@ std::string FindStale(const Observations& seen) {
                : "";
 }
 
-// Some of the module's objects have no answer, although the device answers.
+// Some of the module's objects have no answer, although the device answers. Where much is lost, that is
+// chance.
 std::string FindSilentObjects(const Observations& seen) {
-    if (!seen.areObjectsAsked)
+    if (!seen.areObjectsAsked || LostPercent(SamplesOf(seen)) >= kHeavyLoss)
         return {};
     std::vector<ObjectId> silent;
     for (const ModuleObject& object : seen.objects)
@@ -189,9 +196,9 @@ std::string FindLoss(const Observations& seen) {
     const Samples samples = SamplesOf(seen);
     if (samples.lost <= samples.lostFirst)
         return {};
-    const double percent = kWhole * static_cast<double>(samples.lost) / static_cast<double>(samples.requests);
-    return "Requests or answers are lost: " + std::to_string(std::max(1, static_cast<int>(percent + 0.5)))
-           + " % (" + std::to_string(samples.lost) + " of " + Times(samples.requests, "request") + ").";
+    const int percent = LostPercent(samples);
+    return "Requests or answers are lost: " + std::to_string(std::max(1, percent)) + " % ("
+           + std::to_string(samples.lost) + " of " + Times(samples.lost + samples.answered, "request") + ").";
 }
 
 std::string FindLateStart(const Observations& seen) {
