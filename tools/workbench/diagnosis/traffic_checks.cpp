@@ -185,10 +185,16 @@ std::string FindSilentObjects(const Observations& seen) {
     if (!seen.areObjectsAsked || LostPercent(SamplesOf(seen)) >= kHeavyLoss)
         return {};
     std::vector<ObjectId> silent;
-    for (const ModuleObject& object : seen.objects)
-        if (TimeOfObject(seen, object.oid) < 0)
-            silent.push_back(object.oid);
-    return !silent.empty() ? "The device answers, but never to requests for " + ObjectsText(silent) + "."
+    std::string uses;
+    for (const ModuleObject& object : seen.objects) {
+        if (TimeOfObject(seen, object.oid) >= 0)
+            continue;
+        silent.push_back(object.oid);
+        if (uses.find(object.use) == std::string::npos)
+            uses += (uses.empty() ? "" : ", ") + object.use;
+    }
+    return !silent.empty() ? "The device answers, but never to requests for " + ObjectsText(silent)
+                                 + ", which are needed for: " + uses + "."
                            : "";
 }
 
