@@ -1,8 +1,8 @@
 // Fuzz target: any text as the description of a device. One without errors is served.
 #include "served_walk.h"
 
-#include "simprinter/device_reader.h"
-#include "simprinter/objects.h"
+#include "simprinter/device/device_reader.h"
+#include "simprinter/device/objects.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {
     Findings findings;

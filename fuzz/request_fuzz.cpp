@@ -1,8 +1,8 @@
 // Fuzz target: any bytes as a datagram to the simulated printer. The first byte selects a fault and the largest reply.
 #include "require.h"
 
-#include "simprinter/agent.h"
-#include "simprinter/objects.h"
+#include "simprinter/agent/agent.h"
+#include "simprinter/device/objects.h"
 
 #include <algorithm>
 #include <iterator>

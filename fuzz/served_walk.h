@@ -4,7 +4,7 @@
 
 #include "require.h"
 
-#include "simprinter/agent.h"
+#include "simprinter/agent/agent.h"
 
 // Asks with SNMPv2c, from the first name on, for the next object until there is none.
 inline void RequireSameWalk(const ObjectMap& objects) {

@@ -2,7 +2,7 @@
 // library prints of it.
 #include "served_walk.h"
 
-#include "simprinter/recording.h"
+#include "simprinter/recordings/recording.h"
 
 #include <cstdlib>
 // net-snmp's headers require this order.

@@ -3,7 +3,7 @@
 #define SIMPRINTER_COMMAND_LINE_H
 
 #include "simprinter/printer.h"
-#include "simprinter/record.h"
+#include "simprinter/recordings/record.h"
 
 #include <stdexcept>
 

@@ -3,7 +3,7 @@
 
 #include "common/choices.h"
 #include "common/text.h"
-#include "simprinter/device_reader.h"
+#include "simprinter/device/device_reader.h"
 
 #include <algorithm>
 #include <sstream>

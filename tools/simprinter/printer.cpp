@@ -3,9 +3,9 @@
 
 #include "common/files.h"
 #include "common/text.h"
-#include "simprinter/device_reader.h"
-#include "simprinter/objects.h"
-#include "simprinter/recording.h"
+#include "simprinter/device/device_reader.h"
+#include "simprinter/device/objects.h"
+#include "simprinter/recordings/recording.h"
 
 #include <iostream>
 #include <stdexcept>

@@ -2,9 +2,9 @@
 #ifndef SIMPRINTER_PRINTER_H
 #define SIMPRINTER_PRINTER_H
 
-#include "simprinter/agent.h"
-#include "simprinter/alerts.h"
-#include "simprinter/variation.h"
+#include "simprinter/agent/agent.h"
+#include "simprinter/device/alerts.h"
+#include "simprinter/device/variation.h"
 
 #include <chrono>
 

@@ -2,7 +2,7 @@
 #ifndef SIMPRINTER_SERVER_H
 #define SIMPRINTER_SERVER_H
 
-#include "simprinter/agent.h"
+#include "simprinter/agent/agent.h"
 
 #include <functional>
 

@@ -1,8 +1,8 @@
 // Datagrams that are no valid request: none gets an answer, and the log names each for what it is.
 #include "running_printer.h"
 
-#include "simprinter/agent.h"
-#include "simprinter/objects.h"
+#include "simprinter/agent/agent.h"
+#include "simprinter/device/objects.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // Device descriptions: fields and their defaults, detected errors, and every kind of error with its place.
 #include "running_printer.h"
 
-#include "simprinter/device_reader.h"
-#include "simprinter/objects.h"
+#include "simprinter/device/device_reader.h"
+#include "simprinter/device/objects.h"
 
 #include <gtest/gtest.h>
 

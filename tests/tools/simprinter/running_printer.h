@@ -3,7 +3,7 @@
 #define TESTS_RUNNING_PRINTER_H
 
 #include "common/findings.h"
-#include "simprinter/message.h"
+#include "simprinter/snmp/message.h"
 
 #include <cstdio>
 #include <netinet/in.h>

@@ -1,7 +1,7 @@
 // SNMPv2c, IPv6 and lists of printers, with net-snmp's tools as clients.
 #include "running_printer.h"
 
-#include "simprinter/agent.h"
+#include "simprinter/agent/agent.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include "running_printer.h"
 
 #include "simprinter/control.h"
-#include "simprinter/objects.h"
+#include "simprinter/device/objects.h"
 
 #include <algorithm>
 #include <fstream>

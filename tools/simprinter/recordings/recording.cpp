@@ -1,0 +1,145 @@
+// Parts of both recording formats: encodings, lines, values and the objects read so far.
+#include "simprinter/recordings/recording.h"
+
+#include "common/encoding.h"
+#include "common/text.h"
+
+#include <algorithm>
+
+namespace {
+
+// The text in UTF-8 of a file in UTF-16, as editors and redirected output of Windows make it.
+std::string TextOfUtf16(std::string_view text, Findings& findings) {
+    const bool isBigEndian = text.front() == '\xFE' || text.front() == '\0';
+    std::u16string units;
+    for (size_t i = 0; i + 1 < text.size(); i += 2) {
+        const auto byte = [&](size_t at) { return static_cast<uint8_t>(text[at]); };
+        units.push_back(
+            static_cast<char16_t>(isBigEndian ? byte(i) << 8 | byte(i + 1) : byte(i + 1) << 8 | byte(i)));
+    }
+    if (!units.empty() && units.front() == u'\xFEFF')
+        units.erase(0, 1);
+    bool isWellFormed = text.size() % 2 == 0;
+    const std::string utf8 = Utf8FromUtf16(units, isWellFormed);
+    if (!isWellFormed)
+        findings.Warning(AtLine(1), "this file is damaged UTF-16: some characters are lost");
+    return utf8;
+}
+
+// Without a mark and in UTF-8 or an encoding that has ASCII in the same bytes.
+std::string PlainText(const std::string& text, Findings& findings) {
+    const char* const fault = WideTextFault(text);
+    if (!fault)
+        return std::string(WithoutUtf8Mark(text));
+    if (std::string_view(fault).find("UTF-16") != std::string_view::npos)
+        return TextOfUtf16(text, findings);
+    findings.Error(AtLine(1), fault);
+    return "";
+}
+
+} // namespace
+
+Lines SplitLines(std::string_view text) {
+    Lines lines;
+    const bool isEnded = !text.empty() && text.back() == '\n';
+    while (!text.empty()) {
+        const size_t end = text.find('\n');
+        lines.push_back(text.substr(0, end));
+        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+    }
+    const auto endsInCr = [](std::string_view line) { return !line.empty() && line.back() == '\r'; };
+    const auto last = lines.end() - (lines.empty() || isEnded ? 0 : 1);
+    if (std::all_of(lines.begin(), last, endsInCr)) {
+        for (std::string_view& line : lines)
+            line.remove_suffix(endsInCr(line) ? 1 : 0);
+    }
+    return lines;
+}
+
+std::optional<Value> ParseNumber(Tag tag, std::string_view text) {
+    if (tag == kCounter64) {
+        const std::optional<uint64_t> number = ParseWhole<uint64_t>(text);
+        return number ? std::optional(Counter64Value(*number)) : std::nullopt;
+    }
+    const std::optional<int64_t> number = ParseWhole<int64_t>(text);
+    const int64_t least = tag == kInteger ? INT32_MIN : 0;
+    const int64_t most = tag == kInteger ? INT32_MAX : int64_t{UINT32_MAX};
+    if (!number || *number < least || *number > most)
+        return std::nullopt;
+    return NumberValue(*number, tag);
+}
+
+std::optional<Value> ParseHex(Tag tag, std::string_view text) {
+    std::string bytes;
+    for (size_t i = 0; i < text.size();) {
+        if (text[i] == ' ' || text[i] == '\n' || text[i] == '\r') {
+            ++i;
+            continue;
+        }
+        const std::string_view pair = text.substr(i, 2);
+        const std::optional<uint8_t> byte = ParseWhole<uint8_t>(pair, 16);
+        if (!byte || pair.size() != 2)
+            return std::nullopt;
+        bytes.push_back(static_cast<char>(*byte));
+        i += 2;
+    }
+    if (tag == kIpAddress && bytes.size() != 4)
+        return std::nullopt;
+    return TextValue(std::move(bytes), tag);
+}
+
+std::optional<Value> ParseOid(Tag, std::string_view text) {
+    std::optional<Oid> oid = OidFromText(text);
+    if (!oid)
+        return std::nullopt;
+    return OidValue(std::move(*oid));
+}
+
+std::optional<Value> ParseIpAddress(Tag tag, std::string_view text) {
+    std::string bytes;
+    for (int i = 0; i < 4; ++i) {
+        const size_t end = i < 3 ? text.find('.') : text.size();
+        if (end == std::string_view::npos)
+            return std::nullopt;
+        const std::optional<Value> part = ParseNumber(kGauge, text.substr(0, end));
+        if (!part || part->number > 255)
+            return std::nullopt;
+        bytes.push_back(static_cast<char>(static_cast<uint8_t>(part->number)));
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return TextValue(std::move(bytes), tag);
+}
+
+void Recording::Add(Place place, const Oid& name, const Value& value) {
+    if (!objects.emplace(name, value).second)
+        LeaveOut(place, OidText(name) + " occurs twice: the first value is used");
+}
+
+void Recording::LeaveOut(Place place, const std::string& why) {
+    lastPlace = place;
+    if (leftOut++ < kMaxListed)
+        findings.Warning(place, why);
+}
+
+void Recording::CountWhatIsNotListed() {
+    if (leftOut > kMaxListed)
+        findings.Warning(lastPlace, "this and " + std::to_string(leftOut - kMaxListed - 1)
+                                        + " lines before it are left out, too, for such reasons");
+}
+
+ObjectMap ReadRecording(const std::string& text, Findings& findings) {
+    const std::string plain = PlainText(text, findings);
+    const Lines lines = SplitLines(plain);
+    Recording recording(findings);
+    if (findings.HasErrors())
+        return {};
+    if (FindSnmprecLine(lines) < FindWalkLine(lines))
+        ReadSnmprec(lines, recording);
+    else
+        ReadWalk(lines, recording);
+    recording.CountWhatIsNotListed();
+    if (recording.objects.empty())
+        findings.Error(AtLine(1), "no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, "
+                                  "or '1.3.6...|TAG|VALUE'");
+    return recording.objects;
+}

@@ -1,0 +1,57 @@
+// Recorded walks of real devices: the text that net-snmp's tools print, and .snmprec files (OID|TAG|VALUE
+// lines).
+#ifndef SIMPRINTER_RECORDING_H
+#define SIMPRINTER_RECORDING_H
+
+#include "common/findings.h"
+#include "simprinter/snmp/snmp_values.h"
+
+constexpr size_t kMaxRecordingBytes = size_t{8} << 20; // of a file
+
+// Detects encoding and format. A line that can't be read and a second value of an object are warnings and
+// left out. It is an error when no object is left.
+ObjectMap ReadRecording(const std::string& text, Findings& findings);
+
+// One line of an .snmprec file, with its line end.
+std::string SnmprecLine(const Oid& name, const Value& value);
+
+// --- For the formats' readers
+
+// The objects and findings so far.
+struct Recording {
+    explicit Recording(Findings& where) : findings(where) {}
+
+    void Add(Place place, const Oid& name, const Value& value);
+    void LeaveOut(Place place, const std::string& why); // after kMaxListed lines they are only counted
+    void CountWhatIsNotListed();                        // call after the last line
+
+    ObjectMap objects;
+    Findings& findings;
+
+private:
+    static constexpr size_t kMaxListed = 50;
+    size_t leftOut = 0;
+    Place lastPlace;
+};
+
+// Reads a value of this tag as a format writes it; nothing when it is invalid.
+using ParseValue = std::optional<Value> (*)(Tag tag, std::string_view text);
+
+std::optional<Value> ParseNumber(Tag tag, std::string_view text); // decimal; within the tag's 32 or 64 bits
+std::optional<Value> ParseHex(Tag tag, std::string_view text);    // pairs of digits, with or without blanks
+std::optional<Value> ParseOid(Tag tag, std::string_view text);    // numbers only
+std::optional<Value> ParseIpAddress(Tag tag, std::string_view text); // dotted
+
+using Lines = std::vector<std::string_view>;
+
+// The lines of a file. CR before LF is removed if every line has it.
+Lines SplitLines(std::string_view text);
+
+void ReadSnmprec(const Lines& lines, Recording& recording);
+void ReadWalk(const Lines& lines, Recording& recording);
+
+// The position of the first line that starts an object in this format; lines.size() when there is none.
+size_t FindSnmprecLine(const Lines& lines);
+size_t FindWalkLine(const Lines& lines);
+
+#endif

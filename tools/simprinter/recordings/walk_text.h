@@ -1,0 +1,39 @@
+// Parts of the reader of net-snmp's output: names of objects and values.
+#ifndef SIMPRINTER_WALK_TEXT_H
+#define SIMPRINTER_WALK_TEXT_H
+
+#include "simprinter/snmp/snmp_values.h"
+
+// An object's name at the start of a line.
+struct WalkName {
+    Oid oid;             // empty when the name is not known
+    size_t length = 0;   // characters of the line; 0 when there is no name
+    bool isSure = false; // no other text looks so
+};
+
+// Reads a name in any form that net-snmp prints: ".1.3.6.1", "iso.3.6.1", ".iso.org.dod...",
+// "MODULE::name.1", "name.1"; an index also as ".\"text\"", ".'text'" and "[1]".
+WalkName ReadWalkName(std::string_view line);
+
+// Whether the text starts with a type, such as "INTEGER: ".
+bool StartsWithType(std::string_view text);
+
+// Whether the text is a value in quotes whose end is not yet there.
+bool IsOpenQuote(std::string_view text);
+
+// The position of the first quote that is not escaped; npos when there is none.
+size_t FindQuote(std::string_view text);
+
+// Whether a value of several lines may begin with this text.
+bool MayContinue(std::string_view text);
+
+struct WalkValue {
+    std::optional<Value> value;
+    bool isGuessed = false; // its type
+};
+
+// Reads "INTEGER: idle(3)" or, without a type, "idle". An object's type and words are taken from the table of
+// standard objects when the text does not show them.
+WalkValue ReadWalkValue(const Oid& name, std::string_view text, bool hasTypes);
+
+#endif

@@ -1,0 +1,104 @@
+// Sends requests to an agent and waits for the answers.
+#include "simprinter/snmp/snmp_client.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <memory>
+#include <netdb.h>
+#include <poll.h>
+#include <stdexcept>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+
+constexpr Milliseconds kShortestWait{100};
+
+// Waits for a reply to the request with this number. Late answers to others are dropped.
+Answer WaitForReply(SnmpClient& client, long requestId, Milliseconds wait, Message& reply) {
+    const auto end = SteadyClock::now() + wait;
+    for (;;) {
+        const auto left = std::chrono::duration_cast<Milliseconds>(end - SteadyClock::now());
+        if (client.stop && *client.stop)
+            return Answer::kStopped;
+        pollfd entry = {client.socket.descriptor, POLLIN, 0};
+        const int ready = left.count() > 0 ? poll(&entry, 1, static_cast<int>(left.count())) : 0;
+        if (ready < 0) // a signal
+            continue;
+        if (ready == 0)
+            return Answer::kNone;
+        Bytes datagram(65536);
+        const ssize_t size = recv(client.socket.descriptor, datagram.data(), datagram.size(), 0);
+        if (size < 0 && errno == ECONNREFUSED)
+            return Answer::kClosed;
+        datagram.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
+        std::optional<Message> message = ParseReply(datagram);
+        if (message && message->requestId == requestId && message->version == client.version) {
+            reply = std::move(*message);
+            return Answer::kReply;
+        }
+    }
+}
+
+} // namespace
+
+ClientSocket::~ClientSocket() {
+    if (descriptor >= 0)
+        close(descriptor);
+}
+
+std::vector<std::vector<uint8_t>> FindAddresses(const std::string& host, uint16_t port) {
+    addrinfo hints = {};
+    hints.ai_socktype = SOCK_DGRAM;
+    addrinfo* found = nullptr;
+    if (const int error = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found); error != 0)
+        throw std::runtime_error("cannot find the address of '" + host + "': " + gai_strerror(error));
+    const std::unique_ptr<addrinfo, void (*)(addrinfo*)> release(found, freeaddrinfo);
+    std::vector<std::vector<uint8_t>> addresses;
+    for (const addrinfo* next = found; next; next = next->ai_next) {
+        const auto* bytes = reinterpret_cast<const uint8_t*>(next->ai_addr);
+        addresses.emplace_back(bytes, bytes + next->ai_addrlen);
+    }
+    return addresses;
+}
+
+void Connect(SnmpClient& client, const std::vector<uint8_t>& address) {
+    sockaddr_storage storage = {};
+    std::memcpy(&storage, address.data(), std::min(address.size(), sizeof storage));
+    if (client.socket.descriptor >= 0)
+        close(client.socket.descriptor);
+    client.socket.descriptor = socket(storage.ss_family, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const auto* raw = reinterpret_cast<const sockaddr*>(&storage);
+    if (client.socket.descriptor < 0
+        || connect(client.socket.descriptor, raw, static_cast<socklen_t>(address.size())) != 0)
+        throw std::runtime_error(std::string("cannot reach the device: ") + std::strerror(errno));
+}
+
+Answer Ask(SnmpClient& client, PduType type, const Oid& name, int repetitions, int tries, Message& reply) {
+    Message request;
+    request.version = client.version;
+    request.community = client.community;
+    request.type = type;
+    request.requestId = ++client.lastRequestId;
+    request.errorIndex = type == PduType::kGetBulk ? repetitions : 0;
+    request.varBinds = {{name, {}}};
+    const Bytes datagram = BuildMessage(request);
+    Milliseconds wait = client.wait;
+    Answer answer = Answer::kNone;
+    for (int i = 0; i < tries && answer == Answer::kNone; ++i) {
+        const auto start = SteadyClock::now();
+        if (send(client.socket.descriptor, datagram.data(), datagram.size(), 0) < 0 && errno == ECONNREFUSED)
+            return Answer::kClosed;
+        answer = WaitForReply(client, request.requestId, wait, reply);
+        if (answer == Answer::kReply) {
+            const auto time = std::chrono::duration_cast<Milliseconds>(SteadyClock::now() - start);
+            client.wait = std::clamp(std::max(4 * time, client.wait * 7 / 8),
+                                     std::min(kShortestWait, client.longestWait), client.longestWait);
+        }
+        wait = std::min(2 * wait, client.longestWait);
+    }
+    return answer;
+}
