@@ -31,9 +31,10 @@ std::string RequestFor(const AskedObject& question, uint32_t requestId) {
 
 } // namespace
 
-Exchange::Exchange(uint32_t agent, std::function<void(const char* stage)> shown)
-    : handle(socket(AF_INET, SOCK_DGRAM, 0)), address(agent), firstId(GetTickCount() * kIdDistance & kIdMask),
-      start(CounterNow()), progress(std::move(shown)) {}
+Exchange::Exchange(uint32_t agentAddress, std::function<void(const char* stage)> showProgress)
+    : handle(socket(AF_INET, SOCK_DGRAM, 0)), address(agentAddress),
+      firstId(GetTickCount() * kIdDistance & kIdMask), start(CounterNow()),
+      progress(std::move(showProgress)) {}
 
 Exchange::~Exchange() {
     closesocket(handle);

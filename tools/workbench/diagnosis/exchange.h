@@ -42,8 +42,8 @@ constexpr uint16_t kAskedPort = 161;
 
 class Exchange {
 public:
-    // The address is in network order. `progress` is called with the stage while answers are awaited.
-    Exchange(uint32_t address, std::function<void(const char* stage)> progress);
+    // The address is in network order. `showProgress` is called with the stage while answers are awaited.
+    Exchange(uint32_t agentAddress, std::function<void(const char* stage)> showProgress);
     ~Exchange();
     Exchange(const Exchange&) = delete;
     Exchange& operator=(const Exchange&) = delete;
