@@ -35,6 +35,7 @@ void ServePrinters(const CommandLine& line) {
     constexpr int kTickMs = 250; // a level that changes is noticed so soon
     std::vector<Printer> printers = StartPrinters(line);
     std::vector<Endpoint> endpoints;
+    endpoints.reserve(printers.size());
     for (const Printer& printer : printers)
         endpoints.push_back({printer.address, line.port});
     const auto start = std::chrono::steady_clock::now();
