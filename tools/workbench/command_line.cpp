@@ -52,10 +52,14 @@ Run SetUpQuery(CLI::App& command) {
         ->type_name("N")
         ->needs(many)
         ->check(CLI::Range(1, 64).description(""));
-    command.add_flag("--csv", fleet->csv, "Writes the list as CSV")->needs(many);
+    command.add_flag("--csv", fleet->csv, "Writes the list as CSV")
+        ->needs(many)
+        ->excludes(command.get_option("--json"));
     const auto traces = std::make_shared<bool>(false);
     command.add_flag("--trace", *traces, "Shows every request and answer of the module first")
         ->excludes(many);
+    command.footer(
+        "Ends with 0 when the printer, or all of the list, has answered, whatever it needs; otherwise 1.");
     return [=](const FamilyFiles& family) {
         if (!*address && !fleet->list)
             throw Failure(kExitUsage, "ADDRESS is required, or --list FILE|CIDR for many printers");

@@ -3,12 +3,15 @@
 // has the words. What the printer says of itself is asked by the workbench's own requests.
 #include "workbench/commands/commands.h"
 #include "workbench/lib/option_words.h"
+#include "workbench/lib/printer_alerts.h"
 #include "workbench/lib/printer_identity.h"
 #include "workbench/lib/printer_queries.h"
 #include "workbench/lib/printer_text_ids.h"
 #include "workbench/lib/record_fields.h"
 #include "workbench/lib/supply_words.h"
 #include "workbench/lib/text_form.h"
+
+#include <functional>
 
 namespace {
 
@@ -20,7 +23,7 @@ constexpr Field kSupplyFields[] = {
 
 template <auto kField>
 Document ShowPrinterText(const void* record) {
-    return PrinterText(static_cast<const StoredResourceEntry*>(record)->*kField);
+    return OneLine(PrinterText(static_cast<const StoredResourceEntry*>(record)->*kField));
 }
 
 // Where an overlay or a profile is stored, by the module's names.
@@ -86,6 +89,18 @@ Document Profiles(const Printer& printer) {
     return lists;
 }
 
+// The alerts, asked by the workbench itself; null: not answered.
+Document Alerts(const Printer& printer) {
+    const uint32_t address = AgentAddress(printer);
+    const PrinterAlerts found = AskAlerts(address, ReadObjects(address, {kErrorStateObject})[0]);
+    if (!found.areAnswered && found.alerts.empty())
+        return {};
+    Document rows = Document::MakeList();
+    for (const PrinterAlert& alert : found.alerts)
+        rows.Add({{"alert", alert.text}, {"severity", alert.isCritical ? "critical" : "warning"}});
+    return rows;
+}
+
 // --- The page for people -----------------------------------------------------------------------------------
 
 Document SupplyRows(const Document& supplies) {
@@ -125,13 +140,23 @@ Document Page(const Document& answers) {
     for (const UINT use :
          {PRINTER_TEXT_RGB_PROFILE, PRINTER_TEXT_SIMULATION_PROFILE, PRINTER_TEXT_OUTPUT_PROFILE})
         uses.push_back(TextIn(kEnglish, use));
-    return {
-        {"printer", PrinterFacts(answers["printer"])},
-        {"options", OptionRows(answers["options"])},
-        {"supplies", SupplyRows(answers["supplies"])},
-        {"overlays", StoredRows(answers["overlays"], {})},
-        {"profiles", StoredRows(answers["profiles"], uses)},
-    };
+    Document page = {{"printer", PrinterFacts(answers["printer"])}};
+    if (answers["alerts"].IsNull())
+        page["printer"]["alerts"] = "not answered";
+    if (!answers["failure"].IsNull())
+        page["printer"]["failure"] = answers["failure"];
+    if (!answers["alerts"].Elements().empty())
+        page["alertsReadByTheWorkbench"] = answers["alerts"];
+    // What has not been read is left out: it is not known to be none.
+    if (!answers["options"].IsNull())
+        page["options"] = OptionRows(answers["options"]);
+    if (!answers["supplies"].IsNull())
+        page["supplies"] = SupplyRows(answers["supplies"]);
+    if (!answers["overlays"].IsNull())
+        page["overlays"] = StoredRows(answers["overlays"], {});
+    if (!answers["profiles"].IsNull())
+        page["profiles"] = StoredRows(answers["profiles"], uses);
+    return page;
 }
 
 } // namespace
@@ -139,19 +164,38 @@ Document Page(const Document& answers) {
 CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address) {
     const Printer printer = PrinterAt(family, address);
     CheckPrinter(printer, Transport::kSnmp);
-    const auto keys = OptionKeys(family, Transport::kSnmp);
-    const OptionAnswers options = AskOptions(printer, Transport::kSnmp, keys);
-    const Supplies supplies = AskSupplies(printer, SupplyNames(family));
+    std::string missing;
+    std::string failure;
+    // A part; null when answers are late or lost. The others are kept.
+    const auto part = [&](const char* name, const std::function<Document()>& ask) -> Document {
+        try {
+            return ask();
+        } catch (const PrinterFailure& reason) {
+            if (reason.outcome != Outcome::kSlow)
+                throw;
+            AddPart(missing, name);
+            failure = std::string(reason.what()) + " Not read: " + missing + ".";
+            return {};
+        }
+    };
     const PrinterIdentity identity = AskIdentity(printer);
-    const Document answers = {
+    Document answers = {
         {"printer",
          {{"address", printer.address},
           {"callsItself", TextOrNull(identity.name)},
           {"warning", TextOrNull(IdentityWarning(identity))}}},
-        {"options", OptionsInWords(ReadOptionFeatures(family), options)},
-        {"supplies", SuppliesDocument(supplies, identity)},
-        {"overlays", Overlays(printer)},
-        {"profiles", Profiles(printer)},
+        {"alerts", Alerts(printer)},
     };
-    return {answers, TextForm(Page(answers))};
+    answers["options"] = part("options", [&] {
+        const OptionAnswers options =
+            AskOptions(printer, Transport::kSnmp, OptionKeys(family, Transport::kSnmp));
+        return OptionsInWords(ReadOptionFeatures(family), options);
+    });
+    answers["supplies"] = part(
+        "supplies", [&] { return SuppliesDocument(AskSupplies(printer, SupplyNames(family)), identity); });
+    answers["overlays"] = part("overlays", [&] { return Overlays(printer); });
+    answers["profiles"] = part("profiles", [&] { return Profiles(printer); });
+    if (!failure.empty())
+        answers["failure"] = failure;
+    return {answers, TextForm(Page(answers)), failure.empty() ? 0 : kExitFailed};
 }

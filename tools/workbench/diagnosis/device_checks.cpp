@@ -2,6 +2,7 @@
 #include "workbench/diagnosis/checks.h"
 #include "workbench/diagnosis/samples.h"
 #include "workbench/lib/option_words.h"
+#include "workbench/lib/printer_identity.h"
 #include "workbench/lib/supply_words.h"
 #include "workbench/lib/text.h"
 
@@ -53,6 +54,14 @@ bool SupplyIsAsked(const Observations& seen, const MrkSupRequestItem& supply) {
                        [&](const ModuleObject& object) { return object.use == use; });
 }
 
+// Empty when the device has sent no text.
+std::string ModelText(const Observations& seen, const DescriptionObject& object) {
+    const Arrival* answer = object.question != SIZE_MAX ? seen.exchange->AnswerTo(object.question) : nullptr;
+    return answer != nullptr && HasValue(answer->message) && IsTextType(answer->message.valueType)
+               ? OneLine(PrinterText(answer->message.bytes))
+               : "";
+}
+
 } // namespace
 
 std::string FindWrongType(const Observations& seen) {
@@ -76,15 +85,15 @@ std::string FindOtherDevice(const Observations& seen) {
 }
 
 std::string FindOtherModel(const Observations& seen) {
-    std::string name;
-    for (const DescriptionObject& object : seen.description) {
-        const std::string text = DescriptionText(seen, object);
-        if (text.find(kModelName) != std::string::npos)
-            return {};
-        if (name.empty())
-            name = text;
-    }
-    return !name.empty() ? "The device calls itself '" + name + "', not '" + kModelName + "'." : "";
+    std::vector<std::string> texts;
+    for (const char* oid : kModelObjects)
+        for (const DescriptionObject& object : seen.description)
+            if (std::string(oid).find(object.oid) == 0)
+                texts.push_back(ModelText(seen, object));
+    const OwnModel model = ModelIn(texts);
+    return model.isModel || model.name.empty()
+               ? ""
+               : "The device calls itself '" + model.name + "', not '" + kModelName + "'.";
 }
 
 std::string FindOtherSupplies(const Observations& seen) {

@@ -6,9 +6,18 @@
 #include "workbench/lib/printer_outcomes.h"
 
 // In the order of the table: what needs attention comes first.
-enum class Attention { kNoAnswer, kOtherDevice, kEmpty, kLow, kFine };
-constexpr Attention kAttentions[] = {Attention::kNoAnswer, Attention::kOtherDevice, Attention::kEmpty,
-                                     Attention::kLow, Attention::kFine};
+enum class Attention {
+    kNoAnswer,
+    kOtherDevice,
+    kStopped, // it does not print, as its critical alerts say
+    kEmpty,
+    kLow,
+    kIncomplete, // something was not read, so it may need any of these
+    kFine,
+};
+constexpr Attention kAttentions[] = {Attention::kNoAnswer, Attention::kOtherDevice, Attention::kStopped,
+                                     Attention::kEmpty,    Attention::kLow,         Attention::kIncomplete,
+                                     Attention::kFine};
 
 // The word of a level in the output for programs, and the title of its section.
 const char* AttentionWord(Attention attention);

@@ -26,6 +26,8 @@ constexpr struct {
     {"lowestSupply", &PrinterState::lowestSupply},
     {"options", &PrinterState::options},
     {"whatToDo", &PrinterState::advice},
+    {"alerts", &PrinterState::alerts},
+    {"notRead", &PrinterState::notRead},
 };
 
 Document RowOf(const PrinterState& state) {
@@ -56,6 +58,7 @@ Document PageRow(const PrinterState& state) {
             {"emptyOrLowTrays", state.trays},
             {"lowestSupply", state.lowestSupply},
             {"options", state.attention == Attention::kFine ? state.options : ""},
+            {"notRead", state.notRead},
             {"whatToDo", state.advice}};
 }
 
@@ -64,7 +67,7 @@ size_t CountAnswered(const FleetAnswers& answers) {
                                              [](const PrinterState& state) { return state.hasAnswered; }));
 }
 
-Document SummaryOf(const FleetAnswers& answers, size_t unused) {
+Document SummaryOf(const FleetAnswers& answers) {
     size_t needAttention = 0;
     for (const PrinterState& state : answers.states)
         needAttention += state.attention != Attention::kFine ? 1 : 0;
@@ -73,9 +76,14 @@ Document SummaryOf(const FleetAnswers& answers, size_t unused) {
                         {"answered", CountAnswered(answers)},
                         {"needAttention", needAttention}};
     if (answers.isScan)
-        summary["unusedAddresses"] = unused;
-    summary["notAsked"] = answers.listed - answers.states.size() - unused;
+        for (const auto& [name, count] : {std::pair("unusedAddresses", answers.unused.silent),
+                                          {"withoutSnmp", answers.unused.refused},
+                                          {"notReachable", answers.unused.notSent}})
+            summary[name] = count;
+    summary["notAsked"] = answers.listed - answers.states.size() - answers.unused.Count();
     summary["seconds"] = answers.milliseconds / 1000.0;
+    if (answers.unused.notSent == answers.listed)
+        summary["warning"] = "No request could be sent: check the network of this computer.";
     return summary;
 }
 
@@ -86,24 +94,26 @@ void SortByAttention(std::vector<PrinterState>& states) {
                      [](const PrinterState& a, const PrinterState& b) { return a.attention < b.attention; });
 }
 
-size_t DropUnused(FleetAnswers& answers) {
-    const size_t before = answers.states.size();
-    if (answers.isScan)
-        answers.states.erase(std::remove_if(answers.states.begin(), answers.states.end(),
-                                            [](const PrinterState& state) { return !state.isPresent; }),
-                             answers.states.end());
-    return before - answers.states.size();
+void DropUnused(FleetAnswers& answers) {
+    const auto isUnused = [&](const PrinterState& state) { return answers.isScan && !state.isPresent; };
+    for (const PrinterState& state : answers.states)
+        if (isUnused(state))
+            ++(state.outcome == Outcome::kRefused   ? answers.unused.refused
+               : state.outcome == Outcome::kNotSent ? answers.unused.notSent
+                                                    : answers.unused.silent);
+    answers.states.erase(std::remove_if(answers.states.begin(), answers.states.end(), isUnused),
+                         answers.states.end());
 }
 
-Document FleetDocument(const FleetAnswers& answers, size_t unused) {
+Document FleetDocument(const FleetAnswers& answers) {
     Document rows = Document::MakeList();
     for (const PrinterState& state : answers.states)
         rows.Add(RowOf(state));
-    return {{"summary", SummaryOf(answers, unused)}, {"printers", rows}};
+    return {{"summary", SummaryOf(answers)}, {"printers", rows}};
 }
 
-std::string FleetPage(const FleetAnswers& answers, size_t unused) {
-    Document page = {{"fleet", SummaryOf(answers, unused)}};
+std::string FleetPage(const FleetAnswers& answers) {
+    Document page = {{"fleet", SummaryOf(answers)}};
     for (const Attention attention : kAttentions) {
         Document rows;
         for (const PrinterState& state : answers.states)
@@ -127,10 +137,10 @@ std::string CsvField(const std::string& text) {
 }
 
 std::string FleetCsv(const FleetAnswers& answers) {
-    std::string csv;
+    std::string names;
     for (const auto& column : kColumns)
-        csv += (csv.empty() ? "" : ",") + std::string(column.name);
-    csv += "\r\n";
+        names += (names.empty() ? "" : ",") + std::string(column.name);
+    std::string csv = "\xEF\xBB\xBF" + names + "\r\n";
     for (const PrinterState& state : answers.states) {
         std::string line;
         for (const Document::Field& field : RowOf(state).Fields())

@@ -2,6 +2,7 @@
 #include "workbench/fleet/fleet_run.h"
 
 #include "workbench/fleet/scout.h"
+#include "workbench/lib/host_address.h"
 #include "workbench/lib/running_jobs.h"
 
 #include <algorithm>
@@ -15,6 +16,10 @@
 
 namespace {
 
+constexpr size_t kMaxLookups = 16;     // at once
+constexpr uint32_t kSlowLookup = 5000; // milliseconds
+constexpr int kMaxSlowLookups = 16;    // then the name service is given up
+
 std::atomic<int> interrupts{0};
 
 BOOL WINAPI OnConsoleKey(DWORD key) {
@@ -27,7 +32,7 @@ struct FleetRun::Work {
     // A printer to be asked through the module.
     struct Task {
         size_t printer;
-        bool isKnownToAnswer;
+        std::string address;   // IPv4, at which it answers
         uint32_t milliseconds; // until it has answered
     };
 
@@ -35,6 +40,9 @@ struct FleetRun::Work {
     std::vector<ListedPrinter> printers;
     bool isScan;
     std::atomic<bool> isStopped{false};
+    std::vector<size_t> names; // positions of the printers that are listed by name
+    std::atomic<size_t> nextName{0};
+    std::atomic<int> slowLookups{0};
 
     std::mutex mutex;
     std::condition_variable changed;
@@ -72,30 +80,46 @@ struct FleetRun::Work {
 
     void AskPrinters() {
         while (const std::optional<Task> task = Next()) {
-            PrinterState state = CheckListed(files, printers[task->printer], task->isKnownToAnswer);
+            PrinterState state = CheckListed(files, printers[task->printer], task->address);
             state.milliseconds += task->milliseconds;
             Finish(task->printer, std::move(state));
         }
     }
 
-    // Addresses are tried at once. The name service makes a thread wait, so host names are left to the
-    // threads that ask.
+    // Whether the name service is silent: it may take 20 seconds for each name.
+    bool IsGivenUp() const { return slowLookups >= kMaxSlowLookups; }
+
+    // Looks up host names, each once, on threads that ask no printer.
+    void LookUpNames() {
+        for (size_t at = nextName++; at < names.size() && !isStopped; at = nextName++) {
+            const size_t printer = names[at];
+            std::string address;
+            PrinterState state = IsGivenUp() ? FailedState(printers[printer], Outcome::kUnknownHost)
+                                             : FindListed(files, printers[printer], address);
+            if (state.outcome == Outcome::kUnknownHost && state.milliseconds > kSlowLookup)
+                ++slowLookups;
+            if (address.empty())
+                Finish(printer, std::move(state));
+            else
+                Add({printer, address, state.milliseconds});
+        }
+    }
+
+    // Tries all addresses at once.
     void FindThoseThatAnswer() {
         std::vector<uint32_t> addresses;
         std::vector<size_t> positions;
         for (size_t i = 0; i < printers.size(); ++i) {
-            const uint32_t address = inet_addr(printers[i].address.c_str());
-            if (address == INADDR_NONE) {
-                Add({i, false, 0});
+            const std::optional<uint32_t> address = ParseAddress(printers[i].address);
+            if (!address)
                 continue;
-            }
-            addresses.push_back(address);
+            addresses.push_back(htonl(*address));
             positions.push_back(i);
         }
         Scout(addresses, isStopped, [&](size_t position, ProbeEnd end, uint32_t milliseconds) {
             const size_t printer = positions[position];
             if (end == ProbeEnd::kAnswered)
-                return Add({printer, true, milliseconds});
+                return Add({printer, printers[printer].address, milliseconds});
             PrinterState state = UnreachedState(files, printers[printer], end);
             state.milliseconds = milliseconds;
             Finish(printer, std::move(state));
@@ -116,6 +140,11 @@ FleetRun::FleetRun(const FamilyFiles& family, const PrinterList& list, int threa
     work->isScan = list.isScan;
     work->states.resize(list.printers.size());
     std::thread([shared = work, counted = RunningJob()] { shared->FindThoseThatAnswer(); }).detach();
+    for (size_t i = 0; i < list.printers.size(); ++i)
+        if (!ParseAddress(list.printers[i].address))
+            work->names.push_back(i);
+    for (size_t i = 0; i < std::min(work->names.size(), kMaxLookups); ++i)
+        std::thread([shared = work, counted = RunningJob()] { shared->LookUpNames(); }).detach();
     const int needed = std::min(threads, static_cast<int>(list.printers.size()));
     for (int i = 0; i < needed; ++i)
         std::thread([shared = work, counted = RunningJob()] { shared->AskPrinters(); }).detach();

@@ -1,6 +1,7 @@
 // Queries the printer, reads its trays, and puts what it needs into words.
 #include "workbench/fleet/printer_check.h"
 
+#include "workbench/lib/host_address.h"
 #include "workbench/lib/option_words.h"
 #include "workbench/lib/printer_identity.h"
 #include "workbench/lib/snmp_objects.h"
@@ -10,12 +11,14 @@
 
 #include <algorithm>
 #include <functional>
+#include <winsock2.h>
 
 namespace {
 
 constexpr int kTraysWithOption = 5; // the first inputs
 constexpr int kLargeTray = 6;       // the large-capacity tray
-constexpr int32_t kManualFeed = 5;  // prtInputType: has no stock of paper
+constexpr const char* kAskAgain = "ask again; workbench diagnose says why";
+constexpr int32_t kManualFeed = 5; // prtInputType: has no stock of paper
 
 // Columns of prtInputTable.
 enum InputColumn : size_t { kInputType, kInputCapacity, kInputLevel, kInputName, kInputColumns };
@@ -30,37 +33,51 @@ bool IsInstalled(const OptionRequestItem& answer) {
     return FieldText(answer.value).rfind("Ena", 0) == 0;
 }
 
-// The inputs that exist: trays 1 to 5 by the options, for which the module has asked the same objects.
+// Whether the printer may have this tray. The module has asked for it, unless it failed.
+bool MayHaveTray(int tray, const OptionAnswers& options) {
+    const std::string key = "OpInTray" + std::to_string(tray);
+    for (const OptionRequestItem& answer : options)
+        if (SameText(answer.key, key.c_str()))
+            return answer.value[0] == 0 || IsInstalled(answer);
+    return options.empty();
+}
+
+// The inputs that may exist.
 std::vector<int> Inputs(uint32_t address, const OptionAnswers& options) {
     std::vector<int> inputs;
     for (int tray = 1; tray <= kTraysWithOption; ++tray)
-        for (const OptionRequestItem& answer : options)
-            if (SameText(answer.key, ("OpInTray" + std::to_string(tray)).c_str()) && IsInstalled(answer))
-                inputs.push_back(tray);
-    if (ReadObjects(address, {kInputObjects[kInputType] + std::to_string(kLargeTray)})[0])
+        if (MayHaveTray(tray, options))
+            inputs.push_back(tray);
+    const ObjectValue large =
+        ReadObjects(address, {kInputObjects[kInputType] + std::to_string(kLargeTray)})[0];
+    if (large.exists || !large.isAnswered)
         inputs.push_back(kLargeTray);
     return inputs;
 }
 
-std::vector<TrayFill> ReadTrays(uint32_t address, const std::vector<int>& inputs) {
+struct TraysRead {
+    std::vector<TrayFill> trays;
+    ObjectValue errorState;
+};
+
+TraysRead ReadTrays(uint32_t address, const std::vector<int>& inputs) {
     std::vector<std::string> oids;
     for (const int input : inputs)
         for (const char* column : kInputObjects)
             oids.push_back(column + std::to_string(input));
+    oids.emplace_back(kErrorStateObject);
     const ObjectValues values = ReadObjects(address, oids);
-    std::vector<TrayFill> trays;
+    TraysRead read = {{}, values.back()};
     for (size_t i = 0; i < inputs.size(); ++i) {
         const auto* row = &values[i * kInputColumns];
-        const auto number = [&](InputColumn column) {
-            return row[column] && row[column]->number ? *row[column]->number : -1;
-        };
-        if (!row[kInputType] || number(kInputType) == kManualFeed)
+        const bool isMissing = row[kInputType].isAnswered && !row[kInputType].exists;
+        if (isMissing || row[kInputType].number == kManualFeed)
             continue;
-        const std::string name = row[kInputName] ? row[kInputName]->text : "";
-        trays.push_back({name.empty() ? "Tray " + std::to_string(inputs[i]) : name, number(kInputCapacity),
-                         number(kInputLevel)});
+        const std::string& name = row[kInputName].text;
+        read.trays.push_back({name.empty() ? "Tray " + std::to_string(inputs[i]) : name,
+                              row[kInputCapacity].number.value_or(-1), row[kInputLevel].number});
     }
-    return trays;
+    return read;
 }
 
 std::string OptionsText(const OptionAnswers& options) {
@@ -68,19 +85,17 @@ std::string OptionsText(const OptionAnswers& options) {
     std::string missing;
     for (const OptionRequestItem& answer : options)
         if (answer.value[0] == 0)
-            missing += (missing.empty() ? "" : ", ") + OptionName(answer.key);
+            AddPart(missing, OptionName(answer.key));
     return std::to_string(installed) + " installed" + (missing.empty() ? "" : "; not reported: " + missing);
 }
 
-void AddPart(std::string& text, const std::string& part) {
-    text += (text.empty() ? "" : ", ") + part;
-}
-
 Need NeedOf(const TrayFill& tray) {
+    if (!tray.level)
+        return Need::kUnknown;
     if (tray.level == 0)
         return Need::kNow;
     const bool isLow = tray.level > 0 && tray.capacity > 0
-                       && int64_t{tray.level} * 100 < int64_t{tray.capacity} * kLowPercent;
+                       && int64_t{*tray.level} * 100 < int64_t{tray.capacity} * kLowPercent;
     return isLow ? Need::kSoon : Need::kLater;
 }
 
@@ -113,40 +128,61 @@ std::string OwnName(const ShownSupply& supply, const Supplies& supplies,
 
 void NoteFailure(Outcome outcome, PrinterState& state) {
     const FailureWords words = WordsOf(outcome);
+    state.outcome = outcome;
     state.attention = words.attention;
     state.state = words.state;
     state.advice = words.advice;
 }
 
+// Runs a query. One that fails because answers are late or lost is noted, and the others may succeed.
+void Keep(const char* name, PrinterState& state, const std::function<void()>& query) {
+    try {
+        query();
+    } catch (const PrinterFailure& failure) {
+        if (failure.outcome != Outcome::kSlow)
+            throw;
+        state.hasAnswered = false;
+        AddPart(state.notRead, name);
+    }
+}
+
 void Ask(const Printer& printer, PrinterState& state) {
     CheckPrinter(printer, Transport::kSnmp);
-    const OptionAnswers options =
-        AskOptions(printer, Transport::kSnmp, OptionKeys(printer.family, Transport::kSnmp));
-    const Supplies supplies = AskSupplies(printer, SupplyNames(printer.family));
+    OptionAnswers options;
+    Supplies supplies;
+    state.hasAnswered = true;
+    Keep("options", state, [&] {
+        options = AskOptions(printer, Transport::kSnmp, OptionKeys(printer.family, Transport::kSnmp));
+        state.options = OptionsText(options);
+    });
+    Keep("supplies", state, [&] { supplies = AskSupplies(printer, SupplyNames(printer.family)); });
     const PrinterIdentity identity = AskIdentity(printer);
-    uint32_t address = 0;
-    FindHost(printer.agent, address);
     state.model = identity.name;
     state.isModel = identity.isModel;
-    state.options = OptionsText(options);
-    state.hasAnswered = true;
-    Judge(supplies, identity.otherSupplies, ReadTrays(address, Inputs(address, options)), state);
-    if (identity.isModel)
-        return;
-    NoteFailure(Outcome::kOtherModel, state);
-    if (state.model.empty())
-        state.state = "model not reported";
+    const uint32_t address = AgentAddress(printer);
+    const TraysRead read = ReadTrays(address, Inputs(address, options));
+    Judge(supplies, identity.otherSupplies, read.trays, AskAlerts(address, read.errorState), state);
+    if (!identity.isModel && identity.isNameAnswered) {
+        NoteFailure(Outcome::kOtherModel, state);
+        if (state.model.empty())
+            state.state = "model not reported";
+    } else if (state.attention >= Attention::kIncomplete && !state.hasAnswered) {
+        NoteFailure(Outcome::kSlow, state);
+    } else if (state.attention >= Attention::kIncomplete && !identity.isModel) {
+        state.attention = Attention::kIncomplete;
+        state.state = "model not answered";
+        state.advice = kAskAgain;
+    }
 }
 
 // Runs what asks the printer, and notes how it fails.
-PrinterState StateAfter(const FamilyFiles& family, const ListedPrinter& listed,
-                        const std::function<void(const Printer& printer, PrinterState& state)>& ask) {
+PrinterState StateAfter(const ListedPrinter& listed, const std::function<void(PrinterState& state)>& ask) {
     const DWORD start = GetTickCount();
     PrinterState state;
     state.address = listed.address;
     state.name = listed.name;
     try {
-        ask(PrinterAt(family, listed.address), state);
+        ask(state);
     } catch (const PrinterFailure& failure) {
         NoteFailure(failure.outcome, state);
     }
@@ -157,38 +193,68 @@ PrinterState StateAfter(const FamilyFiles& family, const ListedPrinter& listed,
 } // namespace
 
 void Judge(const Supplies& supplies, const std::vector<std::string>& otherSupplies,
-           const std::vector<TrayFill>& trays, PrinterState& state) {
+           const std::vector<TrayFill>& trays, const PrinterAlerts& alerts, PrinterState& state) {
     Needs needs;
     for (const TrayFill& tray : trays) {
         const Need need = NeedOf(tray);
+        if (need == Need::kUnknown) {
+            AddPart(state.notRead, tray.name);
+            continue;
+        }
         needs.Add(need, need == Need::kNow ? "load " + tray.name : "order paper for " + tray.name);
         if (need < Need::kLater)
             AddPart(state.trays, tray.name + (need == Need::kNow ? " empty" : " low"));
     }
     for (const ShownSupply& supply : ShownSupplies(supplies, {}, kEnglish)) {
+        const std::string name = OwnName(supply, supplies, otherSupplies);
+        if (supply.answer.state == TELMAR_STATE_UNKNOWN)
+            AddPart(state.notRead, name);
         if (supply.need == Need::kUnknown)
             continue;
-        const std::string name = OwnName(supply, supplies, otherSupplies);
         needs.Add(supply.need, (supply.need == Need::kNow ? "replace " : "order ") + name);
         if (state.lowestSupply.empty())
             state.lowestSupply = name + " " + supply.level;
     }
+    if (!alerts.areAnswered)
+        AddPart(state.notRead, "alerts");
+    state.alerts = CriticalAlerts(alerts);
     state.attention = AttentionFor(needs.most);
     state.state = AttentionWord(state.attention);
     state.advice = needs.advice;
+    if (!state.alerts.empty()) {
+        state.attention = Attention::kStopped;
+        state.state = state.alerts;
+        if (needs.most != Need::kNow)
+            state.advice = "see its display";
+    } else if (state.attention == Attention::kFine && !state.notRead.empty()) {
+        state.attention = Attention::kIncomplete;
+        state.state = AttentionWord(state.attention);
+        state.advice = kAskAgain;
+    }
 }
 
-PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, bool isKnownToAnswer) {
-    return StateAfter(family, listed, [&](const Printer& printer, PrinterState& state) {
-        if (!isKnownToAnswer)
-            CheckAnswer(printer);
-        Ask(printer, state);
+PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, const std::string& address) {
+    return StateAfter(listed, [&](PrinterState& state) { Ask(PrinterAt(family, address), state); });
+}
+
+PrinterState FindListed(const FamilyFiles& family, const ListedPrinter& listed, std::string& address) {
+    return StateAfter(listed, [&](PrinterState&) {
+        const Printer printer = PrinterAt(family, listed.address);
+        const uint32_t found = AgentAddress(printer);
+        const ProbeEnd end = ProbeObject(found, kAgentObject).end;
+        if (end != ProbeEnd::kAnswered)
+            FailAsProbed(printer, end);
+        address = AddressText(ntohl(found));
     });
 }
 
 PrinterState UnreachedState(const FamilyFiles& family, const ListedPrinter& listed, ProbeEnd end) {
-    return StateAfter(family, listed, [&](const Printer& printer, PrinterState& state) {
+    return StateAfter(listed, [&](PrinterState& state) {
         state.isPresent = end == ProbeEnd::kMalformed || end == ProbeEnd::kOtherRequests;
-        FailAsProbed(printer, end);
+        FailAsProbed(PrinterAt(family, listed.address), end);
     });
+}
+
+PrinterState FailedState(const ListedPrinter& listed, Outcome outcome) {
+    return StateAfter(listed, [&](PrinterState& state) { NoteFailure(outcome, state); });
 }

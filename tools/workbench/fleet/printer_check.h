@@ -5,6 +5,7 @@
 
 #include "workbench/fleet/attention.h"
 #include "workbench/fleet/printer_list.h"
+#include "workbench/lib/printer_alerts.h"
 #include "workbench/lib/printer_queries.h"
 
 enum class ProbeEnd;
@@ -13,7 +14,8 @@ enum class ProbeEnd;
 struct TrayFill {
     std::string name;
     int32_t capacity; // sheets; 0 and less: unknown
-    int32_t level;    // sheets; below 0: unknown, or some
+    // Sheets; below 0: the printer does not know, or knows only that there are some. None: not read.
+    std::optional<int32_t> level;
 };
 
 struct PrinterState {
@@ -23,24 +25,34 @@ struct PrinterState {
     bool isModel = false;
     bool isPresent = true;    // something is at this address
     bool hasAnswered = false; // all that the module was asked
+    Outcome outcome = Outcome::kAnswered;
     Attention attention = Attention::kFine;
     std::string state;        // in words
     std::string trays;        // those that are empty or low
     std::string lowestSupply; // with its level
     std::string options;
     std::string advice;
+    std::string alerts;        // the critical ones
+    std::string notRead;       // trays and supplies
     uint32_t milliseconds = 0; // from the first request on
 };
 
-// Asks a printer that is known to answer, or not known yet: a host name. Never throws PrinterFailure.
-PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, bool isKnownToAnswer);
+// Asks a printer that is known to answer at this IPv4 address. Never throws PrinterFailure.
+PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, const std::string& address);
+
+// Looks up a host name and requests one object there. `address` is the IPv4 address if that was answered,
+// otherwise empty, and the state says why.
+PrinterState FindListed(const FamilyFiles& family, const ListedPrinter& listed, std::string& address);
 
 // The state of a printer that a request of the workbench has not reached.
 PrinterState UnreachedState(const FamilyFiles& family, const ListedPrinter& listed, ProbeEnd end);
 
-// Judges supplies and trays of a printer: attention, state, trays, the lowest supply and the advice.
+// The state of a printer that can't be asked for this reason.
+PrinterState FailedState(const ListedPrinter& listed, Outcome outcome);
+
+// Judges a printer: attention, state, trays, the lowest supply, what was not read, and the advice.
 // `otherSupplies` as in PrinterIdentity.
 void Judge(const Supplies& supplies, const std::vector<std::string>& otherSupplies,
-           const std::vector<TrayFill>& trays, PrinterState& state);
+           const std::vector<TrayFill>& trays, const PrinterAlerts& alerts, PrinterState& state);
 
 #endif

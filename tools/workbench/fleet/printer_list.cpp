@@ -4,68 +4,22 @@
 #include "common/encoding.h"
 #include "workbench/lib/document.h"
 #include "workbench/lib/files.h"
+#include "workbench/lib/host_address.h"
 #include "workbench/lib/text.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
 #include <optional>
 
 namespace {
 
-constexpr size_t kMaxHostName = 253; // bytes
 constexpr int kAddressBits = 32;
 constexpr int kLeastPrefix = 20; // of kMaxListed addresses
 constexpr const char* kListBlanks = " \t\r";
-constexpr const char* kExpected = "expected an IPv4 address, such as 192.0.2.10, or a host name";
 
 bool HasOnly(const std::string& text, const char* characters) {
     return !text.empty() && text.find_first_not_of(characters) == std::string::npos;
-}
-
-// Four numbers from 0 to 255; none for any other text.
-std::optional<uint32_t> ParseAddress(const std::string& text) {
-    uint32_t address = 0;
-    size_t at = 0;
-    for (int part = 0; part < 4; ++part) {
-        const size_t end = part < 3 ? text.find('.', at) : text.size();
-        const int number = end == std::string::npos ? -1 : ParseNumber(text.substr(at, end - at), 3);
-        if (number < 0 || number > UINT8_MAX)
-            return std::nullopt;
-        address = address << 8 | static_cast<uint32_t>(number);
-        at = end + 1;
-    }
-    return address;
-}
-
-std::string AddressText(uint32_t address) {
-    std::string text;
-    for (int shift = kAddressBits - 8; shift >= 0; shift -= 8)
-        text += (text.empty() ? "" : ".") + std::to_string(address >> shift & UINT8_MAX);
-    return text;
-}
-
-bool IsHostCharacter(char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte > 0x7F || std::isalnum(byte) != 0 || c == '-' || c == '.' || c == '_';
-}
-
-// What is wrong with an address, and at which of its bytes; empty: nothing.
-std::string AddressFault(const std::string& address, size_t& at) {
-    at = 0;
-    if (address.find(':') != std::string::npos)
-        return "'" + address + "' is an IPv6 address, or has a port; neither is supported: " + kExpected;
-    if (address.find('/') != std::string::npos)
-        return "'" + address + "' is a range, which only --list itself can be: " + kExpected;
-    if (HasOnly(address, "0123456789.") && !ParseAddress(address))
-        return "'" + address
-               + "' is no IPv4 address: expected four numbers from 0 to 255, such as 192.0.2.10";
-    if (address.size() > kMaxHostName)
-        return "a host name of more than " + std::to_string(kMaxHostName) + " bytes; " + kExpected;
-    const auto bad = std::find_if_not(address.begin(), address.end(), IsHostCharacter);
-    if (bad == address.end())
-        return "";
-    at = static_cast<size_t>(bad - address.begin());
-    return "a host name can't have the character '" + std::string(1, *bad) + "'; " + kExpected;
 }
 
 // Characters up to this byte, from 1.
@@ -81,6 +35,24 @@ std::string WithoutListComment(const std::string& line) {
         if (at == 0 || line[at - 1] == ' ' || line[at - 1] == '\t')
             return line.substr(0, at);
     return line;
+}
+
+// Where the text is not UTF-8, as LINE:COLUMN: what is wrong; empty: nowhere.
+std::string Utf8Fault(const std::string& text) {
+    size_t number = 1;
+    for (size_t at = 0; at < text.size(); ++number) {
+        const size_t end = std::min(text.find('\n', at), text.size());
+        const std::string line = text.substr(at, end - at);
+        if (!IsUtf8(line)) {
+            size_t valid = line.size() - 1; // the longest start of the line that is UTF-8
+            while (!IsUtf8(line.substr(0, valid)))
+                --valid;
+            return std::to_string(number) + ":" + ColumnOf(line, valid)
+                   + ": not UTF-8: save the file as UTF-8";
+        }
+        at = end + 1;
+    }
+    return {};
 }
 
 // Collects the printers and the faults of a text.
@@ -127,6 +99,20 @@ std::string StandardInput() {
     return text;
 }
 
+// Why there is no file of this name; empty: there is one.
+std::string ListFault(const std::string& from) {
+    constexpr const char* kExpectedList = "expected a file, or a range of addresses such as 192.0.2.0/24";
+    std::error_code error;
+    const std::filesystem::path path = std::filesystem::u8path(from);
+    if (std::filesystem::is_directory(path, error))
+        return "'" + from + "' is a folder; " + kExpectedList;
+    if (std::filesystem::exists(path, error))
+        return {};
+    if (ParseAddress(from))
+        return "'" + from + "' is one address: leave out --list, or ask for " + from + "/32";
+    return "'" + from + "' is no file; " + kExpectedList;
+}
+
 bool IsRange(const std::string& text) {
     return text.find('/') != std::string::npos && HasOnly(text, "0123456789./");
 }
@@ -136,6 +122,8 @@ bool IsRange(const std::string& text) {
 std::vector<ListedPrinter> ParsePrinterList(const std::string& text, const std::string& name) {
     if (const char* fault = WideTextFault(text))
         throw Failure(kExitUsage, name + ": " + fault);
+    if (const std::string fault = Utf8Fault(text); !fault.empty())
+        throw Failure(kExitUsage, name + ":" + fault);
     ListReader reader = {name, {}, {}, {}};
     size_t number = 1;
     for (size_t at = 0; at < text.size(); ++number) {
@@ -146,7 +134,7 @@ std::vector<ListedPrinter> ParsePrinterList(const std::string& text, const std::
     if (!reader.faults.empty())
         throw Failure(kExitUsage, reader.faults);
     if (reader.printers.empty())
-        throw Failure(kExitUsage, name + ": has no printer; " + kExpected + " in each line");
+        throw Failure(kExitUsage, name + ": has no printer; " + kExpectedAddress + " in each line");
     return reader.printers;
 }
 
@@ -171,7 +159,9 @@ std::vector<ListedPrinter> AddressesOfRange(const std::string& range) {
 PrinterList ReadPrinterList(const std::string& from) {
     if (IsRange(from))
         return {AddressesOfRange(from), true};
-    if (from != "-")
-        return {ParsePrinterList(ReadTextFile(from, "--list"), from), false};
-    return {ParsePrinterList(std::string(WithoutUtf8Mark(StandardInput())), "standard input"), false};
+    if (from == "-")
+        return {ParsePrinterList(std::string(WithoutUtf8Mark(StandardInput())), "standard input"), false};
+    if (const std::string fault = ListFault(from); !fault.empty())
+        throw Failure(kExitUsage, "--list: " + fault);
+    return {ParsePrinterList(ReadTextFile(from, "--list"), from), false};
 }

@@ -8,14 +8,8 @@
 
 namespace {
 
-constexpr u_short kScoutPort = 161;
 constexpr size_t kMaxOnTheWay = 256;
-constexpr int kScoutSends = 2;
-constexpr DWORD kScoutWait = 500; // milliseconds, for each datagram
-constexpr int kScoutPoll = 50;    // milliseconds until time-outs are looked at
-constexpr int kMaxOtherAnswers = 5;
-constexpr uint32_t kScoutRequestId = 0x2000;               // and one for each position
-constexpr const char* kScoutObject = ".1.3.6.1.2.1.1.2.0"; // sysObjectID: of every agent
+constexpr int kScoutPoll = 50; // milliseconds until time-outs are looked at
 
 // A request that is on the way.
 struct ScoutRequest {
@@ -40,7 +34,7 @@ SOCKET Connected(uint32_t address) {
     const SOCKET handle = socket(AF_INET, SOCK_DGRAM, 0);
     sockaddr_in agent = {};
     agent.sin_family = AF_INET;
-    agent.sin_port = htons(kScoutPort);
+    agent.sin_port = htons(kSnmpPort);
     agent.sin_addr.s_addr = address;
     u_long isNonBlocking = 1;
     ioctlsocket(handle, static_cast<long>(FIONBIO), &isNonBlocking);
@@ -74,10 +68,10 @@ bool Receive(ScoutRequest& request, ProbeEnd& end) {
 
 // The same when it is time to send again or to give up.
 bool Expire(ScoutRequest& request, ProbeEnd& end) {
-    if (GetTickCount() - request.sent < kScoutWait)
+    if (GetTickCount() - request.sent < kProbeWait)
         return false;
     end = request.others > 0 ? ProbeEnd::kOtherRequests : ProbeEnd::kNoAnswer;
-    if (request.sends >= kScoutSends)
+    if (request.sends >= kProbeSends)
         return true;
     if (Send(request))
         return false;
@@ -98,9 +92,9 @@ void Scout(const std::vector<uint32_t>& addresses, const std::atomic<bool>& isSt
     size_t next = 0;
     while (!isStopped && (next < addresses.size() || !requests.empty())) {
         for (; next < addresses.size() && requests.size() < kMaxOnTheWay; ++next) {
-            const uint32_t id = kScoutRequestId + static_cast<uint32_t>(next);
+            const uint32_t id = NextRequestId();
             ScoutRequest request = {
-                next, Connected(addresses[next]), SnmpRequest(kScoutObject, id), id, GetTickCount(), 0, 0, 0};
+                next, Connected(addresses[next]), SnmpRequest(kAgentObject, id), id, GetTickCount(), 0, 0, 0};
             if (Send(request))
                 requests.push_back(std::move(request));
             else

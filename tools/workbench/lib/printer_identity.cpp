@@ -11,13 +11,7 @@
 
 namespace {
 
-// The texts in which devices name their model, the most specific one first.
-constexpr const char* kNameObjects[] = {
-    ".1.3.6.1.2.1.25.3.2.1.3.1", // hrDeviceDescr of device 1
-    ".1.3.6.1.2.1.1.1.0",        // sysDescr
-    ".1.3.6.1.2.1.43.5.1.1.16.1" // prtGeneralPrinterName, often a name that an administrator gives
-};
-constexpr size_t kNameCount = std::size(kNameObjects);
+constexpr size_t kTextCount = std::size(kModelObjects);
 
 constexpr const char* kSupplyDescription = ".1.3.6.1.2.1.43.11.1.1.6"; // prtMarkerSuppliesDescription
 
@@ -52,11 +46,12 @@ std::string LowerCase(std::string text) {
 
 // Whether the text has the model's name, not as part of a longer one such as R8800.
 bool NamesModel(const std::string& text) {
-    const size_t at = text.find(kModelName);
-    if (at == std::string::npos)
-        return false;
-    const size_t end = at + std::string(kModelName).size();
-    return end == text.size() || std::isalnum(static_cast<unsigned char>(text[end])) == 0;
+    const std::string name = kModelName;
+    for (size_t at = text.find(name); at != std::string::npos; at = text.find(name, at + 1))
+        if (const size_t end = at + name.size();
+            end == text.size() || std::isalnum(static_cast<unsigned char>(text[end])) == 0)
+            return true;
+    return false;
 }
 
 struct DescribedSupply {
@@ -88,8 +83,18 @@ bool IsOtherSupply(const char* key, const std::string& description) {
     return isOther;
 }
 
+OwnModel ModelIn(const std::vector<std::string>& texts) {
+    OwnModel model;
+    for (const std::string& text : texts) {
+        model.isModel = model.isModel || NamesModel(text);
+        if (model.name.empty())
+            model.name = text;
+    }
+    return model;
+}
+
 PrinterIdentity AskIdentity(const Printer& printer) {
-    std::vector<std::string> oids(std::begin(kNameObjects), std::end(kNameObjects));
+    std::vector<std::string> oids(std::begin(kModelObjects), std::end(kModelObjects));
     const std::vector<DescribedSupply> described = DescribedSupplies(printer.family);
     for (const DescribedSupply& supply : described)
         oids.push_back(supply.oid);
@@ -97,20 +102,22 @@ PrinterIdentity AskIdentity(const Printer& printer) {
     FindHost(printer.agent, address);
     const ObjectValues values = ReadObjects(address, oids);
 
-    PrinterIdentity identity = {};
-    for (size_t i = 0; i < kNameCount; ++i) {
-        const std::string text = values[i] ? values[i]->text : "";
-        identity.isModel = identity.isModel || NamesModel(text);
-        if (identity.name.empty())
-            identity.name = text;
+    std::vector<std::string> texts;
+    bool areAnswered = true;
+    for (size_t i = 0; i < kTextCount; ++i) {
+        texts.push_back(values[i].text);
+        areAnswered = areAnswered && values[i].isAnswered;
     }
+    PrinterIdentity identity;
+    static_cast<OwnModel&>(identity) = ModelIn(texts);
+    identity.isNameAnswered = areAnswered || identity.isModel;
     const std::vector<std::string> keys = SupplyNames(printer.family);
     identity.otherSupplies.resize(keys.size());
     for (size_t i = 0; i < described.size(); ++i) {
-        const auto& value = values[kNameCount + i];
+        const std::string& text = values[kTextCount + i].text;
         const size_t at = described[i].position;
-        if (value && IsOtherSupply(keys[at].c_str(), value->text))
-            identity.otherSupplies[at] = value->text;
+        if (IsOtherSupply(keys[at].c_str(), text))
+            identity.otherSupplies[at] = text;
     }
     return identity;
 }
@@ -118,6 +125,9 @@ PrinterIdentity AskIdentity(const Printer& printer) {
 std::string IdentityWarning(const PrinterIdentity& identity, LANGID language) {
     if (identity.isModel)
         return {};
-    return TextIn(language, identity.name.empty() ? PRINTER_TEXT_NO_OWN_NAME : PRINTER_TEXT_CALLS_ITSELF,
+    return TextIn(language,
+                  !identity.isNameAnswered ? PRINTER_TEXT_NAME_NOT_ANSWERED
+                  : identity.name.empty()  ? PRINTER_TEXT_NO_OWN_NAME
+                                           : PRINTER_TEXT_CALLS_ITSELF,
                   {identity.name, kModelName});
 }

@@ -6,9 +6,21 @@
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/printer_queries.h"
 
-struct PrinterIdentity {
-    std::string name; // the model that the device says it is, or another text about it; may be empty
-    bool isModel;     // it names the driver's model
+// The texts in which devices name their model, the most specific one first: hrDeviceDescr of device 1,
+// sysDescr and prtGeneralPrinterName, which is often a name that an administrator gives.
+inline constexpr const char* kModelObjects[] = {".1.3.6.1.2.1.25.3.2.1.3.1", ".1.3.6.1.2.1.1.1.0",
+                                                ".1.3.6.1.2.1.43.5.1.1.16.1"};
+
+struct OwnModel {
+    std::string name;     // the model that the device says it is, or another text about it; may be empty
+    bool isModel = false; // one of the texts names the driver's model
+};
+
+// What the device says in these texts, of which any may be empty.
+OwnModel ModelIn(const std::vector<std::string>& texts);
+
+struct PrinterIdentity : OwnModel {
+    bool isNameAnswered = false; // otherwise a text that may name the model was not answered
     // What the device calls a supply of the module's list that is another one there; empty: nothing to say.
     // In the order of the list.
     std::vector<std::string> otherSupplies;

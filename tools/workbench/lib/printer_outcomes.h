@@ -12,6 +12,7 @@ enum class Outcome : uint8_t {
     // The address is not one.
     kNoAddress,
     kUnfitAddress, // a character that the system's code page lacks
+    kBadAddress,   // neither an IPv4 address nor a host name
     kIpv6Address,  // the module takes IPv4 only
     // Nothing has answered.
     kUnknownHost,
@@ -20,11 +21,13 @@ enum class Outcome : uint8_t {
     kRefused,
     kNoAnswer,
     kInterrupted, // it has answered before
+    kSlow,        // the module gives up, but the device answers the workbench
     // Something has answered, but not as a printer of this model.
     kOtherRequests,
     kMalformedAnswer,
     kErrorStatus,
     kNotAPrinter,
+    kOtherNumber, // the printer is not device 1 of its host
     kOtherModel,
 };
 

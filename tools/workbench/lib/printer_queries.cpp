@@ -1,7 +1,9 @@
 // Queries a printer through the module's exports, and finds out why a query has failed.
 #include "workbench/lib/printer_queries.h"
 
+#include "workbench/lib/host_address.h"
 #include "workbench/lib/record_fields.h"
+#include "workbench/lib/snmp_objects.h"
 #include "workbench/lib/snmp_probe.h"
 
 #include <algorithm>
@@ -21,16 +23,15 @@ constexpr Field kAnswerFields[] = {
     {"answer", Show<&OptionRequestItem::value>},
 };
 
-// Shows that the device is a printer. The module reads the same table of the Printer MIB, also for device 1
-// only.
-constexpr const char* kFirstTrayObject = ".1.3.6.1.2.1.43.8.2.1.2.1.1"; // prtInputType
+constexpr const char* kInputTypeColumn = ".1.3.6.1.2.1.43.8.2.1.2"; // of all devices of the host
 
 [[noreturn]] void Fail(Outcome outcome, const Printer& printer, const std::string& detail = {}) {
     throw PrinterFailure(outcome, printer.address, detail);
 }
 
-// Fails when there is no IPv4 address, without which the module can't send anything.
-uint32_t FindAddress(const Printer& printer) {
+} // namespace
+
+uint32_t AgentAddress(const Printer& printer) {
     uint32_t address = 0;
     switch (FindHost(printer.agent, address)) {
     case HostKind::kUnknown:
@@ -43,14 +44,23 @@ uint32_t FindAddress(const Printer& printer) {
     return address;
 }
 
+namespace {
+
 // Fails when the device answers with an error, or is no printer. The module accepts any answer to its check,
 // and takes an option that is answered by an error as not installed.
 void CheckKind(const Printer& printer, uint32_t address) {
     const ProbeAnswer agent = ProbeObject(address, kAgentObject);
     if (agent.end == ProbeEnd::kAnswered && agent.reply.errorStatus != 0)
         Fail(Outcome::kErrorStatus, printer, std::to_string(agent.reply.errorStatus));
-    const ProbeAnswer tray = ProbeObject(address, kFirstTrayObject);
-    if (tray.end == ProbeEnd::kAnswered && tray.reply.errorStatus != 0)
+    const ProbeAnswer tray = ProbeObject(address, kPrinterObject);
+    if (tray.end != ProbeEnd::kAnswered || tray.reply.errorStatus == 0)
+        return;
+    bool isAnswered = false;
+    ObjectId index; // device and input
+    const ObjectValues next = ReadNextObjects(address, {kInputTypeColumn}, isAnswered);
+    if (!next.empty() && IsInColumn(next[0].oid, kInputTypeColumn, index) && index[0] > 1)
+        Fail(Outcome::kOtherNumber, printer, std::to_string(index[0]));
+    if (isAnswered)
         Fail(Outcome::kNotAPrinter, printer);
 }
 
@@ -61,7 +71,13 @@ void CheckKind(const Printer& printer, uint32_t address) {
     if (end != ProbeEnd::kAnswered)
         FailAsProbed(printer, end);
     CheckKind(printer, address);
-    Fail(Outcome::kInterrupted, printer);
+    Fail(Outcome::kSlow, printer);
+}
+
+// Fails with the reason why a query has failed of a printer that was reached.
+[[noreturn]] void FailToQuery(const Printer& printer) {
+    const ProbeEnd end = ProbeObject(AgentAddress(printer), kAgentObject).end;
+    Fail(end == ProbeEnd::kAnswered ? Outcome::kSlow : Outcome::kInterrupted, printer);
 }
 
 void CheckByLibrary(const Printer& printer, uint32_t address) {
@@ -96,7 +112,7 @@ std::vector<Item> ItemsFor(const std::vector<std::string>& keys, QueryKey Item::
 template <typename Item>
 void Ask(BOOL(WINAPI* ask)(const char*, DWORD, Item*), const Printer& printer, std::vector<Item>& items) {
     if (!ask(printer.agent.c_str(), static_cast<DWORD>(items.size()), items.data()))
-        Fail(Outcome::kInterrupted, printer);
+        FailToQuery(printer);
 }
 
 StoredResources Copied(const StoredResourceList& list) {
@@ -109,6 +125,9 @@ Printer PrinterAt(const FamilyFiles& family, const std::string& address) {
     Printer printer = {family, Trimmed(address), {}};
     if (printer.address.empty())
         Fail(Outcome::kNoAddress, printer);
+    size_t at = 0;
+    if (!AddressFault(printer.address, at).empty())
+        Fail(Outcome::kBadAddress, printer);
     const std::optional<std::string> agent = ToCodePage(printer.address);
     if (!agent)
         Fail(Outcome::kUnfitAddress, printer);
@@ -139,17 +158,11 @@ void FailAsProbed(const Printer& printer, ProbeEnd end) {
     case ProbeEnd::kAnswered:
         break;
     }
-    Fail(Outcome::kInterrupted, printer);
-}
-
-void CheckAnswer(const Printer& printer) {
-    const ProbeEnd end = ProbeObject(FindAddress(printer), kAgentObject).end;
-    if (end != ProbeEnd::kAnswered)
-        FailAsProbed(printer, end);
+    Fail(Outcome::kInterrupted, printer); // it answers the probe only
 }
 
 void CheckPrinter(const Printer& printer, Transport transport) {
-    const uint32_t address = FindAddress(printer);
+    const uint32_t address = AgentAddress(printer);
     transport == Transport::kLibrary ? CheckByLibrary(printer, address) : CheckBySnmp(printer, address);
 }
 
@@ -204,7 +217,7 @@ Supplies AskSupplies(const Printer& printer, const std::vector<std::string>& nam
 StoredResources AskOverlays(const Printer& printer, int32_t storage) {
     OverlayInfo* info = EXPORT(printer.family, MIB_OverlayRequest)(printer.agent.c_str(), storage);
     if (info == nullptr)
-        Fail(Outcome::kInterrupted, printer);
+        FailToQuery(printer);
     const StoredResources overlays = Copied(info->list);
     EXPORT(printer.family, MIB_FreeOverlayInfo)(info);
     return overlays;
@@ -213,7 +226,7 @@ StoredResources AskOverlays(const Printer& printer, int32_t storage) {
 StoredProfiles AskProfiles(const Printer& printer) {
     ProfileInfo* info = EXPORT(printer.family, MIB_ProfileRequest)(printer.agent.c_str());
     if (info == nullptr)
-        Fail(Outcome::kInterrupted, printer);
+        FailToQuery(printer);
     StoredProfiles profiles;
     for (size_t i = 0; i < profiles.size(); ++i)
         profiles[i] = Copied(info->lists[i]);

@@ -27,13 +27,13 @@ Printer PrinterAt(const FamilyFiles& family, const std::string& address);
 enum class Transport { kLibrary, kSnmp };
 Transport TransportOf(const FamilyFiles& family);
 
+// The printer's IPv4 address, in network order. Throws PrinterFailure without one: the module can't send
+// anything.
+uint32_t AgentAddress(const Printer& printer);
+
 // Whether the printer answers over this transport and is of this model. Throws PrinterFailure when not. By
 // SNMP another model is not recognised; a device that is no printer is.
 void CheckPrinter(const Printer& printer, Transport transport);
-
-// Whether anything answers at the printer's address, by the workbench's own request, which waits a second at
-// most and takes no time of the processor. The module's own check polls. Throws PrinterFailure when not.
-void CheckAnswer(const Printer& printer);
 
 // Fails with what a request of the workbench has found instead of an answer.
 enum class ProbeEnd;

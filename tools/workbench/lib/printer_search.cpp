@@ -9,15 +9,13 @@
 
 namespace {
 
-constexpr u_short kAgentPort = 161;
-
 // What devices are asked; the request-id tells the answers apart. Everything is asked of device 1, which is
 // the printer in a printer.
 enum SearchQuestion : size_t { kModel, kName, kTray };
 constexpr const char* kSearchObjects[] = {
-    ".1.3.6.1.2.1.25.3.2.1.3.1",   // hrDeviceDescr
-    ".1.3.6.1.2.1.1.5.0",          // sysName
-    ".1.3.6.1.2.1.43.8.2.1.2.1.1", // prtInputType: exists in printers only
+    ".1.3.6.1.2.1.25.3.2.1.3.1", // hrDeviceDescr
+    ".1.3.6.1.2.1.1.5.0",        // sysName
+    kPrinterObject,
 };
 constexpr uint32_t kFirstRequestId = 0x1000;
 
@@ -74,7 +72,7 @@ PrinterSearch::~PrinterSearch() {
 bool PrinterSearch::Send(uint32_t address, size_t question) const {
     sockaddr_in to = {};
     to.sin_family = AF_INET;
-    to.sin_port = htons(kAgentPort);
+    to.sin_port = htons(kSnmpPort);
     to.sin_addr.s_addr = address;
     const std::string request =
         SnmpRequest(kSearchObjects[question], kFirstRequestId + static_cast<uint32_t>(question));

@@ -118,9 +118,18 @@
 #define PRINTER_TEXT_LEVEL_NOT_REPORTED 2294
 
 // What a device says that it is. {1}: the name that it gives, {2}: the driver's model.
-#define PRINTER_TEXT_CALLS_ITSELF 2295
-#define PRINTER_TEXT_NO_OWN_NAME  2296
+#define PRINTER_TEXT_CALLS_ITSELF      2295
+#define PRINTER_TEXT_NO_OWN_NAME       2296
+#define PRINTER_TEXT_NAME_NOT_ANSWERED 2297
 
-#define PRINTER_TEXT_END 2297
+// More ends of asking a printer.
+#define PRINTER_TEXT_BAD_ADDRESS     2298
+#define PRINTER_TEXT_BAD_ADDRESS_DO  2299
+#define PRINTER_TEXT_SLOW            2300
+#define PRINTER_TEXT_SLOW_DO         2301
+#define PRINTER_TEXT_OTHER_NUMBER    2302
+#define PRINTER_TEXT_OTHER_NUMBER_DO 2303
+
+#define PRINTER_TEXT_END 2304
 
 #endif

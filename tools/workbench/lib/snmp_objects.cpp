@@ -5,19 +5,21 @@
 #include "workbench/lib/snmp_probe.h"
 #include "workbench/lib/text.h"
 
-#include <atomic>
+#include <algorithm>
 
 namespace {
 
+constexpr int kMaxUnanswered = 3; // objects, then the device is given up
+
 // Empty when one of the OIDs is not one.
-std::string RequestFor(const std::vector<std::string>& oids, uint32_t requestId) {
+std::string RequestFor(uint8_t pduType, const std::vector<std::string>& oids, uint32_t requestId) {
     std::vector<SnmpVarBind> objects(oids.size());
     bool isValid = true;
     for (size_t i = 0; i < oids.size(); ++i) {
         objects[i].value.asnType = ASN_NULL;
         isValid = ClientStrToOid(oids[i].c_str(), &objects[i].name) && isValid;
     }
-    BerBuffer message = SnmpBuildRequest(SNMP_PDU_GET, kCommunity, requestId,
+    BerBuffer message = SnmpBuildRequest(pduType, kCommunity, requestId,
                                          SnmpVarBindList{objects.data(), static_cast<UINT>(objects.size())});
     const std::string datagram(reinterpret_cast<const char*>(message.octets), message.count);
     BerFree(message);
@@ -28,19 +30,34 @@ std::string RequestFor(const std::vector<std::string>& oids, uint32_t requestId)
 
 ObjectValue ValueOf(uint8_t type, BerReader contents) {
     ObjectValue value;
-    const auto size = static_cast<size_t>(contents.end - contents.at);
-    if (type == ASN_OCTETSTRING)
-        value.text = OneLine(PrinterText({reinterpret_cast<const char*>(contents.at), size}));
-    const int32_t number = type == ASN_INTEGER ? BerInteger(contents) : 0;
-    if (type == ASN_INTEGER && !contents.failed)
+    value.isAnswered = true;
+    value.exists = true;
+    if (type == ASN_OCTETSTRING) {
+        value.bytes.assign(reinterpret_cast<const char*>(contents.at),
+                           static_cast<size_t>(contents.end - contents.at));
+        value.text = OneLine(PrinterText(value.bytes));
+    }
+    const int32_t number = IsNumberType(type) ? BerInteger(contents) : 0;
+    if (IsNumberType(type) && !contents.failed)
         value.number = number;
     return value;
 }
 
-// Unlike those of all other requests of this process.
-uint32_t NextRequestId() {
-    static std::atomic<uint32_t> last{GetTickCount()};
-    return ++last & INT32_MAX;
+ProbeAnswer Request(uint32_t address, uint8_t pduType, const std::vector<std::string>& oids) {
+    const uint32_t requestId = NextRequestId();
+    return ProbeRequest(address, RequestFor(pduType, oids, requestId), requestId);
+}
+
+// A single object. The errors other than the one for a missing object do not say whether it exists.
+ObjectValue ReadObject(uint32_t address, const std::string& oid, bool& isReplied) {
+    const ProbeAnswer answer = Request(address, SNMP_PDU_GET, {oid});
+    isReplied = answer.end == ProbeEnd::kAnswered;
+    ObjectValue value;
+    if (isReplied && answer.reply.errorStatus == 0)
+        if (const ObjectValues read = ReadSnmpValues(answer.datagram); !read.empty())
+            return read[0];
+    value.isAnswered = isReplied && answer.reply.errorStatus == SNMP_ERRORSTATUS_NOSUCHNAME;
+    return value;
 }
 
 } // namespace
@@ -55,34 +72,49 @@ ObjectValues ReadSnmpValues(std::string_view datagram) {
     BerReader varBinds = BerOpen(reply.rest, ASN_SEQUENCE);
     while (varBinds.at != varBinds.end) {
         BerReader varBind = BerOpen(varBinds, ASN_SEQUENCE);
-        BerOpen(varBind, ASN_OBJECTIDENTIFIER);
+        BerReader name = BerOpen(varBind, ASN_OBJECTIDENTIFIER);
+        uint32_t ids[128];
+        const uint32_t count = BerReadSubIdentifiers(name, ids, std::size(ids));
         BerReader contents = {};
         const uint8_t type = BerOpenAny(varBind, contents);
         if (contents.failed)
             break;
         values.push_back(ValueOf(type, contents));
+        if (!name.failed)
+            values.back().oid.assign(ids, ids + count);
     }
     return values;
 }
 
 ObjectValues ReadObjects(uint32_t address, const std::vector<std::string>& oids) {
     ObjectValues values;
-    if (oids.empty())
+    if (oids.size() > 1) {
+        const ProbeAnswer answer = Request(address, SNMP_PDU_GET, oids);
+        if (answer.end == ProbeEnd::kAnswered && answer.reply.errorStatus == 0)
+            values = ReadSnmpValues(answer.datagram);
+    }
+    if (values.size() >= oids.size())
         return values;
-    const uint32_t requestId = NextRequestId();
-    const ProbeAnswer answer = ProbeRequest(address, RequestFor(oids, requestId), requestId);
-    if (answer.end == ProbeEnd::kAnswered && answer.reply.errorStatus == 0)
-        values = ReadSnmpValues(answer.datagram);
-    else if (answer.end == ProbeEnd::kAnswered && oids.size() > 1)
-        for (const std::string& oid : oids) {
-            const uint32_t id = NextRequestId();
-            const ProbeAnswer single = ProbeRequest(address, RequestFor({oid}, id), id);
-            if (single.end != ProbeEnd::kAnswered)
-                break;
-            const ObjectValues read = ReadSnmpValues(single.datagram);
-            const bool isPresent = single.reply.errorStatus == 0 && !read.empty();
-            values.push_back(isPresent ? read[0] : std::nullopt);
-        }
-    values.resize(oids.size());
+    values.assign(oids.size(), {});
+    int unanswered = 0;
+    for (size_t i = 0; i < oids.size() && unanswered < kMaxUnanswered; ++i) {
+        bool isReplied = false;
+        values[i] = ReadObject(address, oids[i], isReplied);
+        unanswered += isReplied ? 0 : 1;
+    }
     return values;
+}
+
+ObjectValues ReadNextObjects(uint32_t address, const std::vector<std::string>& oids, bool& isAnswered) {
+    const ProbeAnswer answer = Request(address, SNMP_PDU_GETNEXT, oids);
+    isAnswered = answer.end == ProbeEnd::kAnswered;
+    return isAnswered && answer.reply.errorStatus == 0 ? ReadSnmpValues(answer.datagram) : ObjectValues();
+}
+
+bool IsInColumn(const ObjectId& oid, const std::string& column, ObjectId& index) {
+    const ObjectId prefix = OidOf(column);
+    if (oid.size() <= prefix.size() || !std::equal(prefix.begin(), prefix.end(), oid.begin()))
+        return false;
+    index.assign(oid.begin() + static_cast<std::ptrdiff_t>(prefix.size()), oid.end());
+    return true;
 }

@@ -3,25 +3,34 @@
 #ifndef WORKBENCH_LIB_SNMP_OBJECTS_H
 #define WORKBENCH_LIB_SNMP_OBJECTS_H
 
-#include <cstdint>
+#include "workbench/lib/snmp_text.h"
+
 #include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
 
 struct ObjectValue {
-    std::string text;              // decoded, on one line; empty for other types
-    std::optional<int32_t> number; // of an INTEGER
+    bool isAnswered = false; // otherwise it is unknown whether the device has the object
+    bool exists = false;
+    ObjectId oid;                  // as the reply names it
+    std::string bytes;             // of an OCTET STRING, as sent
+    std::string text;              // the same decoded, on one line
+    std::optional<int32_t> number; // of any type of numbers
 };
-using ObjectValues = std::vector<std::optional<ObjectValue>>; // none: the device does not have the object
+using ObjectValues = std::vector<ObjectValue>;
 
 // The values in a reply, in the order of the request, after ReadSnmpReply has accepted it. Ends where the
 // reply is malformed.
 ObjectValues ReadSnmpValues(std::string_view datagram);
 
-// Requests the objects from the agent at this address (in network order), in one datagram; if the device
-// refuses that, one by one, since SNMPv1 answers nothing when one object is missing. Ends when the device no
-// longer answers: waits about a second at most.
+// Requests the objects from the agent at this address (in network order), in one datagram; without an answer
+// that has all of them, one by one, since SNMPv1 answers nothing when one object is missing. Ends when three
+// of them were not answered, so it waits about four seconds at most. Has an element for each object.
 ObjectValues ReadObjects(uint32_t address, const std::vector<std::string>& oids);
+
+// The same for what follows each of the objects in the device. Empty at the end of the device's objects.
+// `isAnswered` is false when the device has not answered.
+ObjectValues ReadNextObjects(uint32_t address, const std::vector<std::string>& oids, bool& isAnswered);
+
+// Whether an object is in a column of a table. `index` is the rest of its OID.
+bool IsInColumn(const ObjectId& oid, const std::string& column, ObjectId& index);
 
 #endif

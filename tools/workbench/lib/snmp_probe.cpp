@@ -4,6 +4,7 @@
 #include "workbench/lib/module_parts.h"
 #include "workbench/lib/text.h"
 
+#include <atomic>
 #include <cstring>
 
 #include <winsock2.h>
@@ -11,11 +12,6 @@
 #include <ws2tcpip.h> // after winsock2.h
 
 namespace {
-
-constexpr u_short kSnmpPort = 161;
-constexpr int kProbeSends = 2;
-constexpr DWORD kProbeWait = 500; // milliseconds, for each datagram
-constexpr int kMaxOthers = 5;     // answers to other requests
 
 // A UDP socket that is connected to an agent, so that refusals are reported.
 struct ProbeSocket {
@@ -44,7 +40,7 @@ bool IsRefusal(int error) {
 
 // Receives until the answer to this request arrives, or nothing does in time.
 ProbeAnswer ReceiveAnswer(SOCKET handle, uint32_t requestId) {
-    for (int others = 0; others < kMaxOthers; ++others) {
+    for (int others = 0; others < kMaxOtherAnswers; ++others) {
         char datagram[4096];
         const int size = recv(handle, datagram, sizeof(datagram), 0);
         if (size < 0)
@@ -79,6 +75,11 @@ SocketsStart::SocketsStart() {
 
 SocketsStart::~SocketsStart() {
     WSACleanup();
+}
+
+uint32_t NextRequestId() {
+    static std::atomic<uint32_t> last{GetTickCount()};
+    return ++last & INT32_MAX;
 }
 
 HostKind FindHost(const std::string& host, uint32_t& address) {
@@ -145,6 +146,6 @@ ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t 
 }
 
 ProbeAnswer ProbeObject(uint32_t address, const char* oid) {
-    const uint32_t requestId = GetTickCount() & INT32_MAX; // unlike those of the last probes
+    const uint32_t requestId = NextRequestId();
     return ProbeRequest(address, SnmpRequest(oid, requestId), requestId);
 }

@@ -23,8 +23,22 @@ enum class HostKind { kIpv4, kIpv6, kUnknown };
 // kIpv4; kIpv6 means that the host has no other. Waits for the name service.
 HostKind FindHost(const std::string& host, uint32_t& address);
 
+// How a request of the workbench is sent: to this port, this often, with so much time for each answer, until
+// so many answers to other requests have arrived.
+constexpr uint16_t kSnmpPort = 161;
+constexpr int kProbeSends = 2;
+constexpr uint32_t kProbeWait = 500; // milliseconds
+constexpr int kMaxOtherAnswers = 5;
+
+// Differs from those of all other requests of this process.
+uint32_t NextRequestId();
+
 // The object by which the module finds out whether a device answers: sysObjectID, which every agent has.
 constexpr const char* kAgentObject = ".1.3.6.1.2.1.1.2.0";
+
+// Shows that the device is a printer: prtInputType of the first input of device 1, the only one that the
+// module asks.
+constexpr const char* kPrinterObject = ".1.3.6.1.2.1.43.8.2.1.2.1.1";
 
 // A request for one object (or the next one), as a datagram, with the module's community unless there is
 // another. Empty when the OID is not one.

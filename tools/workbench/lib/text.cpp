@@ -5,13 +5,6 @@
 
 namespace {
 
-bool IsValidUtf8(std::string_view bytes) {
-    return bytes.empty()
-           || MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), static_cast<int>(bytes.size()),
-                                  nullptr, 0)
-                  != 0;
-}
-
 bool IsAscii(std::string_view bytes) {
     for (const char byte : bytes)
         if (static_cast<uint8_t>(byte) > 0x7F)
@@ -29,6 +22,13 @@ std::string_view WithoutCutCharacter(std::string_view utf8) {
 }
 
 } // namespace
+
+bool IsUtf8(std::string_view bytes) {
+    return bytes.empty()
+           || MultiByteToWideChar(CP_UTF8, MB_ERR_INVALID_CHARS, bytes.data(), static_cast<int>(bytes.size()),
+                                  nullptr, 0)
+                  != 0;
+}
 
 std::wstring Wide(std::string_view text, UINT codePage) {
     const int bytes = static_cast<int>(text.size());
@@ -52,18 +52,18 @@ std::string Utf8(std::string_view text, UINT codePage) {
 }
 
 std::string PrinterText(std::string_view bytes) {
-    if (IsValidUtf8(bytes))
+    if (IsUtf8(bytes))
         return std::string(bytes);
     // A single letter with an accent at the end of a text in a code page looks like a cut character, too. So
     // only a text that has other such characters counts as UTF-8.
     const std::string_view whole = WithoutCutCharacter(bytes);
-    const bool isCutUtf8 = !IsAscii(whole) && IsValidUtf8(whole);
+    const bool isCutUtf8 = !IsAscii(whole) && IsUtf8(whole);
     return isCutUtf8 ? std::string(whole) : Utf8(bytes, CP_ACP);
 }
 
 std::optional<std::string> ToCodePage(const std::string& utf8) {
     if (GetACP() == CP_UTF8)
-        return IsValidUtf8(utf8) ? std::optional(utf8) : std::nullopt;
+        return IsUtf8(utf8) ? std::optional(utf8) : std::nullopt;
     const std::wstring wide = Wide(utf8);
     std::string text(wide.size() * 2, '\0'); // no code page has characters of more bytes per unit
     BOOL hasDefault = FALSE;
@@ -80,10 +80,20 @@ std::string Trimmed(const std::string& text) {
 }
 
 std::string OneLine(std::string text) {
-    for (char& c : text)
-        if (static_cast<unsigned char>(c) < ' ')
-            c = ' ';
+    for (size_t i = 0; i < text.size(); ++i) {
+        const auto unit = static_cast<unsigned char>(text[i]);
+        const bool isC1 =
+            unit == 0xC2 && i + 1 < text.size() && static_cast<unsigned char>(text[i + 1]) < 0xA0;
+        if (unit < ' ' || unit == 0x7F)
+            text[i] = ' ';
+        if (isC1) // U+0080 to U+009F, in UTF-8
+            text.replace(i, 2, " ");
+    }
     return Trimmed(text);
+}
+
+void AddPart(std::string& list, const std::string& part) {
+    list += (list.empty() ? "" : ", ") + part;
 }
 
 std::string Base64(std::string_view bytes) {

@@ -33,14 +33,20 @@ std::string PrinterText(const char (&field)[N]) {
     return PrinterText(std::string_view(field, TextLength(field)));
 }
 
+bool IsUtf8(std::string_view bytes);
+
 // In the system's code page; none when the text has a character that the code page lacks.
 std::optional<std::string> ToCodePage(const std::string& utf8);
 
 // Without spaces, tabs and line breaks at both ends.
 std::string Trimmed(const std::string& text);
 
-// The same on one line: blanks instead of line breaks and other control characters.
+// The same on one line: blanks instead of line breaks and all other control characters, which would control
+// the terminal.
 std::string OneLine(std::string text);
+
+// Appends to a list in words, after a comma.
+void AddPart(std::string& list, const std::string& part);
 
 // The bytes in base 64, as data URIs contain them.
 std::string Base64(std::string_view bytes);
