@@ -5,9 +5,11 @@
 #include "workbench/fleet/fleet_forms.h"
 #include "workbench/fleet/fleet_run.h"
 #include "workbench/lib/files.h"
+#include "workbench/lib/printer_alerts.h"
 #include "workbench/lib/printer_identity.h"
 #include "workbench/lib/running_jobs.h"
 #include "workbench/lib/supply_words.h"
+#include "workbench/lib/text.h"
 
 #include <thread>
 
@@ -65,6 +67,37 @@ TEST(WorkbenchFleet, DeviceOfAnotherModelIsNamed) {
     EXPECT_TRUE(IsOtherSupply("Consumable5", "Imaging drum"));
     EXPECT_FALSE(IsOtherSupply("Consumable5", "Black drum")) << "it names the supply, too";
     EXPECT_FALSE(IsOtherSupply("Consumable2", "TN-400 cartridge"));
+
+    EXPECT_TRUE(ModelIn({"", "R8800 and QUORVANE lumora R880; 512 MB"}).isModel);
+    EXPECT_TRUE(ModelIn({"no QUORVANE lumora R8800", "QUORVANE lumora R880"}).isModel);
+    EXPECT_FALSE(ModelIn({"QUORVANE lumora R8800"}).isModel);
+    const std::string diagnosis = RunWorkbench(L"diagnose 127.0.163.7").output;
+    EXPECT_NE(diagnosis.find("calls itself 'QUORVANE lumora R8800"), std::string::npos) << diagnosis;
+}
+
+TEST(WorkbenchFleet, AlertsAreReported) {
+    using Words = std::vector<std::string>;
+    EXPECT_EQ(StoppingConditions({"\x08", 1}), Words{"door open"});
+    EXPECT_EQ(StoppingConditions({"\xA6\x20", 2}), (Words{"paper jam", "offline", "a supply is missing"}));
+    EXPECT_EQ(RunForJson(L"query 127.0.163.2")["alerts"],
+              Json::parse(R"([{"alert": "Front door is open", "severity": "critical"}])"));
+    EXPECT_NE(RunWorkbench(L"query 127.0.163.2").output.find("Alerts read by the workbench (1)"), std::string::npos);
+}
+
+// Of 127.0.162.5, which does not answer for its overlays.
+TEST(WorkbenchFleet, QueryKeepsWhatWasRead) {
+    const Result result = RunWorkbench(L"query 127.0.162.5 --json");
+    EXPECT_EQ(result.exitCode, 1) << result.errors;
+    const Json answers = Json::parse(result.output);
+    EXPECT_EQ(answers["overlays"], nullptr);
+    EXPECT_EQ(answers["supplies"][1]["level"], "83 %");
+    EXPECT_NE(answers["failure"].dump().find("too slowly, or not every request"), std::string::npos);
+    EXPECT_NE(answers["failure"].dump().find("Not read: overlays."), std::string::npos);
+    ExpectFailure(L"query 127.0.163.8", 1, "device 3 of its host");
+    ExpectFailure(L"query 127.0.162.010", 2, "without leading zeros");
+    EXPECT_EQ(OneLine("a\x1B[31m\x07\xC2\x9B"
+                      "b\x7F\u00E4"),
+              "a [31m  b \u00E4");
 }
 
 TEST(WorkbenchFleet, ListFaultsAreReportedTogether) {
@@ -75,17 +108,28 @@ TEST(WorkbenchFleet, ListFaultsAreReportedTogether) {
     EXPECT_EQ(printers[1].address + "|" + printers[1].name, "prn-2.example.com|");
     EXPECT_EQ(printers[2].name, "B#2") << "not a comment";
     try {
-        ParsePrinterList("10.0.0.1\n  10.0.0.300\nfe80::1\n\u00FC;a\nprn;2 x\n10.0.0.1\n10.0.0.0/24\n", "f");
+        ParsePrinterList("10.0.0.1\n  10.0.0.300\nfe80::1\n\u00FC;a\nprn;2 x\n10.0.0.1\n10.0.0.0/24\n10.0.0.010\n"
+                         "10.0.0.1-9\n-x\na\u00A0b\nhttp://prn/\n0x7f.1",
+                         "f");
         FAIL() << "accepted";
     } catch (const Failure& failure) {
         EXPECT_EQ(failure.exitCode, kExitUsage);
         const std::string faults = failure.what();
         for (const char* fault :
              {"f:2:3: '10.0.0.300' is no IPv4 address: expected four numbers from 0 to 255",
-              "f:3:1: 'fe80::1' is an IPv6", "f:4:2: ", "f:5:4: a host name can't have the character ';'",
-              "f:6:1: 10.0.0.1 is already in line 1", "f:7:1: '10.0.0.0/24' is a range"})
+              "f:3:1: 'fe80::1' is an IPv6", "f:4:2: ", "f:5:4: a host name can't have ';'; a blank separates",
+              "f:6:1: 10.0.0.1 is already in line 1", "f:7:1: '10.0.0.0/24' is a range",
+              "f:8:1: '10.0.0.010' is no IPv4 address", "f:9:1: '10.0.0.1-9' is a range",
+              "f:10:1: a host name can't begin", "f:11:2: a host name can't have a no-break space",
+              "f:12:1: 'http://prn/' is the address of a web page", "f:13:1: '0x7f.1' is no IPv4 address"})
             EXPECT_NE(faults.find(fault), std::string::npos) << fault << "\n" << faults;
-        EXPECT_EQ(std::count(faults.begin(), faults.end(), '\n'), 5) << faults;
+        EXPECT_EQ(std::count(faults.begin(), faults.end(), '\n'), 11) << faults;
+    }
+    try {
+        ParsePrinterList("10.0.0.1\n10.0.0.2 B\u00FCro\n10.0.0.3 B\u00FCr\xFCo\n", "f");
+        FAIL() << "accepted";
+    } catch (const Failure& failure) {
+        EXPECT_STREQ(failure.what(), "f:3:13: not UTF-8: save the file as UTF-8");
     }
     EXPECT_THROW(ParsePrinterList("# none\n", "f"), Failure);
     EXPECT_THROW(ParsePrinterList({"1\0.\0", 4}, "f"), Failure) << "UTF-16";
@@ -115,24 +159,33 @@ TEST(WorkbenchFleet, MostUrgentNeedDecides) {
     const Supplies low = {Supply("Consumable2", TELMAR_STATE_PERCENT, 3), Supply("Consumable9", TELMAR_STATE_FIXED, 0)};
     const Supplies empty = {Supply("Consumable4", TELMAR_STATE_PERCENT, 0),
                             Supply("Consumable2", TELMAR_STATE_PERCENT, 3)};
+    const std::string again = "ask again; workbench diagnose says why";
     const Supplies full = {Supply("Consumable11", TELMAR_STATE_LEVEL, TELMAR_LEVEL_FULL)};
     const struct {
-        const Supplies& supplies;
+        Supplies supplies;
         std::vector<TrayFill> trays;
-        const char* words; // attention, trays, lowest supply, what to do
+        std::string words; // attention, trays, lowest supply, what was not read, what to do
+        PrinterAlerts alerts = {true, {{false, "Tray A is low"}}};
     } kCases[] = {
-        {good, {{"A", 500, 50}, {"B", 500, -3}, {"C", -2, 3}}, "fine||Cyan toner 40 %|"},
-        {good, {{"A", 500, 49}}, "low|A low|Cyan toner 40 %|order paper for A"},
-        {good, {{"A", 500, 0}, {"B", 500, 1}}, "empty|A empty, B low|Cyan toner 40 %|load A"},
-        {low, {}, "low||Cyan toner 3 %, low|order Cyan toner"},
-        {empty, {}, "empty||Yellow toner 0 %, empty|replace Yellow toner"},
-        {full, {}, "empty||Waste toner box full|replace Waste toner box"},
-        {{}, {}, "fine|||"},
+        {good, {{"A", 500, 50}, {"B", 500, -3}, {"C", -2, 3}}, "fine||Cyan toner 40 %||"},
+        {good, {{"A", 500, 49}}, "low|A low|Cyan toner 40 %||order paper for A"},
+        {good, {{"A", 500, 0}, {"B", 500, 1}}, "empty|A empty, B low|Cyan toner 40 %||load A"},
+        {low, {}, "low||Cyan toner 3 %, low||order Cyan toner"},
+        {empty, {}, "empty||Yellow toner 0 %, empty||replace Yellow toner"},
+        {full, {}, "empty||Waste toner box full||replace Waste toner box"},
+        {{}, {}, "fine||||"},
+        {good, {{"A", 500, {}}}, "incomplete||Cyan toner 40 %|A|" + again},
+        {full, {{"A", 500, {}}}, "empty||Waste toner box full|A|replace Waste toner box"},
+        {{Supply("Consumable4", TELMAR_STATE_UNKNOWN, 0)}, {}, "incomplete|||Yellow toner|" + again},
+        {good, {}, "incomplete||Cyan toner 40 %|alerts|" + again, {false, {}}},
+        {good, {}, "stopped||Cyan toner 40 %||see its display", {true, {{true, "jam"}}}},
+        {good, {{"A", 500, 0}}, "stopped|A empty|Cyan toner 40 %||load A", {true, {{true, "jam"}}}},
     };
     for (const auto& row : kCases) {
         PrinterState state;
-        Judge(row.supplies, {}, row.trays, state);
-        EXPECT_EQ(AttentionWord(state.attention) + ("|" + state.trays) + "|" + state.lowestSupply + "|" + state.advice,
+        Judge(row.supplies, {}, row.trays, row.alerts, state);
+        EXPECT_EQ(AttentionWord(state.attention) + ("|" + state.trays) + "|" + state.lowestSupply + "|" + state.notRead
+                      + "|" + state.advice,
                   row.words);
     }
     for (auto i = static_cast<int>(Outcome::kNoAddress); i <= static_cast<int>(Outcome::kOtherModel); ++i)
@@ -158,7 +211,7 @@ TEST(WorkbenchFleet, OutputIsSortedAndCsvIsQuoted) {
         order += state.address;
     EXPECT_EQ(order, "365241");
     const std::string csv = FleetCsv(answers);
-    EXPECT_EQ(csv.find("address,name,model,attention,"), 0);
+    EXPECT_EQ(csv.find("\uFEFFaddress,name,model,attention,"), 0) << "a byte order mark, then the columns";
     EXPECT_NE(csv.find("\r\n3,\"M\u00FCller, \"\"left\"\"\",,no answer,"), std::string::npos) << csv;
     EXPECT_EQ(CsvField("a\nb"), "\"a\nb\"");
 }
@@ -169,32 +222,51 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
     const fs::path list = folder.path / "fleet.txt";
     WriteOutputFile(list,
                     "127.0.162.1 print shop\n127.0.162.2\n127.0.162.3\n127.0.162.5\n127.0.162.6\n127.0.162.7\n"
-                    "127.0.162.8\n127.0.162.9\n127.0.162.10\n127.0.162.11\n127.0.162.12\n127.0.163.1\nno.sh.host\n",
+                    "127.0.162.8\n127.0.162.9\n127.0.162.10\n127.0.162.11\n127.0.162.12\n127.0.163.1\nno.sh.host\n"
+                    "127.0.163.2\n127.0.163.3\n127.0.163.4\n127.0.163.5\n127.0.163.6\n127.0.163.7\n127.0.163.8\n"
+                    "localhost\n",
                     "");
     const std::wstring query = L"query --list \"" + list.wstring() + L"\" ";
     const Result result = RunWorkbench(query + L"--json --threads 4");
     EXPECT_EQ(result.exitCode, 1) << result.errors;
     const Json answers = Json::parse(result.output);
-    EXPECT_EQ(answers["summary"]["answered"], 6);
+    EXPECT_EQ(answers["summary"]["answered"], 12);
     EXPECT_EQ(answers["summary"]["notAsked"], 0);
     std::string states;
     for (const Json& row : answers["printers"])
         states += row["address"].get<std::string>().substr(6) + ":" + row["state"].get<std::string>() + " ";
     EXPECT_EQ(states, "162.6:damaged answer 162.7:SNMP error 162.9:SNMP refused 162.10:no answer "
-                      "162.11:other answers only host:unknown name 162.3:other model 162.8:not a printer "
-                      "163.1:other model 162.2:empty 162.1:fine 162.5:fine 162.12:fine ");
-    EXPECT_EQ(answers["printers"][8]["lowestSupply"], "Black Toner 40 %");
-    EXPECT_EQ(answers["printers"][8]["trays"], "Large-capacity tray empty");
-    EXPECT_EQ(answers["printers"][9]["trays"], "Tray 1 low, Tray 2 empty");
-    EXPECT_EQ(answers["printers"][10]["name"], "print shop");
-    EXPECT_EQ(RunWorkbench(query + L"--csv").output.find("address,name,"), 0);
+                      "162.11:other answers only host:unknown name ost:SNMP refused 162.3:other model "
+                      "162.8:not a printer 163.1:other model 163.7:other model 163.8:not device 1 of its host "
+                      "162.2:Yellow toner is empty 163.2:Front door is open 163.3:Yellow toner is empty "
+                      "163.4:Yellow toner is empty 163.5:model not answered "
+                      "162.1:fine 162.5:fine 162.12:fine 163.6:fine ");
+    const auto printer = [&](const std::string& address) {
+        for (const Json& row : answers["printers"])
+            if (row["address"] == address)
+                return row;
+        return Json();
+    };
+    EXPECT_EQ(printer("127.0.163.1")["lowestSupply"], "Black Toner 40 %");
+    EXPECT_EQ(printer("127.0.163.1")["trays"], "Large-capacity tray empty");
+    EXPECT_EQ(printer("127.0.162.2")["trays"], "Tray 1 low, Tray 2 empty");
+    EXPECT_EQ(printer("127.0.163.3")["trays"], "Tray 1 low, Tray 2 empty") << "as Counter32";
+    EXPECT_EQ(printer("127.0.163.4")["notRead"], "Tray 1, Tray 2");
+    EXPECT_EQ(printer("127.0.162.1")["name"], "print shop");
+    EXPECT_EQ(RunWorkbench(query + L"--csv").output.find("\uFEFFaddress,name,"), 0);
 
     const Result scan = RunWorkbench(L"query --list 127.0.162.8/29 --json");
-    EXPECT_EQ(Json::parse(scan.output)["summary"]["unusedAddresses"], 4) << "9, 10, 13 and 14";
+    EXPECT_EQ(Json::parse(scan.output)["summary"]["unusedAddresses"], 1) << "10";
+    EXPECT_EQ(Json::parse(scan.output)["summary"]["refused"], 3) << "9, 13 and 14";
+    const Result unreachable = RunWorkbench(L"query --list 192.0.2.0/30");
+    EXPECT_NE(unreachable.output.find("No request could be sent"), std::string::npos) << unreachable.output;
     EXPECT_EQ(RunWorkbench(L"query --list 127.0.163.1/32").exitCode, 0) << "all have answered";
     ExpectFailure(L"query --list 127.0.0.0/8", 2, "127.0.0.0/8.*from /20");
     ExpectFailure(L"query --list x --threads 0", 2, "--threads");
-    ExpectFailure(L"query --list nowhere.txt", 1, "nowhere.txt.*--list");
+    ExpectFailure(L"query --list nowhere.txt", 2, "--list.*nowhere.txt.*range");
+    ExpectFailure(L"query --list 127.0.162.1", 2, "is one address.*127.0.162.1/32");
+    ExpectFailure(L"query --list \"" + folder.path.wstring() + L"\"", 2, "is a folder");
+    ExpectFailure(query + L"--csv --json", 2, "--json");
 }
 
 // Ctrl+C while the second printer, which is slow, is being asked.

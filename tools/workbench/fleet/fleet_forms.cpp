@@ -77,7 +77,7 @@ Document SummaryOf(const FleetAnswers& answers) {
                         {"needAttention", needAttention}};
     if (answers.isScan)
         for (const auto& [name, count] : {std::pair("unusedAddresses", answers.unused.silent),
-                                          {"withoutSnmp", answers.unused.refused},
+                                          {"refused", answers.unused.refused},
                                           {"notReachable", answers.unused.notSent}})
             summary[name] = count;
     summary["notAsked"] = answers.listed - answers.states.size() - answers.unused.Count();
@@ -123,7 +123,7 @@ std::string FleetPage(const FleetAnswers& answers) {
             page[AttentionTitle(attention)] = rows;
     }
     return TextForm(page)
-           + "\nOptions and supplies are what the driver reports; model and trays are what the printer says of "
+           + "\nOptions and supplies are what the driver reports; model, trays and alerts are what the printer says of "
              "itself.\n";
 }
 

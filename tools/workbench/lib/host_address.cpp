@@ -44,6 +44,11 @@ std::optional<uint32_t> ParseAddress(const std::string& text) {
     return address;
 }
 
+bool IsIpv6Text(const std::string& text) {
+    return std::count(text.begin(), text.end(), ':') > 1
+           && text.find_first_not_of("0123456789abcdefABCDEF:.") == std::string::npos;
+}
+
 std::string AddressText(uint32_t address) {
     std::string text;
     for (int shift = 24; shift >= 0; shift -= 8)

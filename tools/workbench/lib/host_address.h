@@ -10,6 +10,9 @@
 // text. The first number is in the highest byte.
 std::optional<uint32_t> ParseAddress(const std::string& text);
 
+// Whether the text looks like an IPv6 address.
+bool IsIpv6Text(const std::string& text);
+
 std::string AddressText(uint32_t address);
 
 // What is wrong with the address or the host name, with what is expected, and at which of its bytes; empty:

@@ -126,7 +126,8 @@ Printer PrinterAt(const FamilyFiles& family, const std::string& address) {
     if (printer.address.empty())
         Fail(Outcome::kNoAddress, printer);
     size_t at = 0;
-    if (!AddressFault(printer.address, at).empty())
+    // The failure of an IPv6 address is that of its name's look-up.
+    if (!IsIpv6Text(printer.address) && !AddressFault(printer.address, at).empty())
         Fail(Outcome::kBadAddress, printer);
     const std::optional<std::string> agent = ToCodePage(printer.address);
     if (!agent)
