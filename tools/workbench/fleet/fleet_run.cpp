@@ -139,15 +139,22 @@ FleetRun::FleetRun(const FamilyFiles& family, const PrinterList& list, int threa
     work->printers = list.printers;
     work->isScan = list.isScan;
     work->states.resize(list.printers.size());
-    std::thread([shared = work, counted = RunningJob()] { shared->FindThoseThatAnswer(); }).detach();
     for (size_t i = 0; i < list.printers.size(); ++i)
         if (!ParseAddress(list.printers[i].address))
             work->names.push_back(i);
+    // The work is released before the thread counts as ended.
+    const auto start = [this](void (Work::*step)()) {
+        std::thread([shared = work, step, counted = RunningJob()]() mutable {
+            ((*shared).*step)();
+            shared.reset();
+        }).detach();
+    };
+    start(&Work::FindThoseThatAnswer);
     for (size_t i = 0; i < std::min(work->names.size(), kMaxLookups); ++i)
-        std::thread([shared = work, counted = RunningJob()] { shared->LookUpNames(); }).detach();
+        start(&Work::LookUpNames);
     const int needed = std::min(threads, static_cast<int>(list.printers.size()));
     for (int i = 0; i < needed; ++i)
-        std::thread([shared = work, counted = RunningJob()] { shared->AskPrinters(); }).detach();
+        start(&Work::AskPrinters);
 }
 
 FleetRun::~FleetRun() {
