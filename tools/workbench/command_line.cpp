@@ -6,6 +6,7 @@
 #include "workbench/lib/dialog_script.h"
 #include "workbench/lib/model_dialogs.h"
 #include "workbench/lib/printer_scene.h"
+#include "workbench/lib/text.h"
 
 #include <algorithm>
 #include <CLI/CLI.hpp>
@@ -130,8 +131,7 @@ Run SetUpMontage(CLI::App& command) {
 std::string DialogHelp() {
     std::string kinds[2]; // colours, trays
     for (const ModelDialog& dialog : AllDialogs()) {
-        std::string& ids = kinds[dialog.isForTrays ? 1 : 0];
-        ids += (ids.empty() ? "" : ", ") + std::to_string(dialog.id);
+        AddPart(kinds[dialog.isForTrays ? 1 : 0], std::to_string(dialog.id));
     }
     return "The dialog: " + kinds[0] + " (colours) or " + kinds[1] + " (trays)";
 }

@@ -101,8 +101,7 @@ std::string FindOtherSupplies(const Observations& seen) {
     const DriverObservation& driver = seen.driver;
     for (size_t i = 0; i < driver.otherSupplies.size() && i < driver.supplies.size(); ++i)
         if (!driver.otherSupplies[i].empty())
-            list += (list.empty() ? "" : ", ") + SupplyName(driver.supplies[i].name) + " is '"
-                    + driver.otherSupplies[i] + "'";
+            AddPart(list, SupplyName(driver.supplies[i].name) + " is '" + driver.otherSupplies[i] + "'");
     return !list.empty() ? "The device has other supplies than the driver takes them for: " + list + "." : "";
 }
 
@@ -111,10 +110,10 @@ std::string FindNoAnswers(const Observations& seen) {
     const DriverObservation& driver = seen.driver;
     for (const OptionRequestItem& option : driver.options)
         if (option.value[0] == 0)
-            names += (names.empty() ? "" : ", ") + OptionName(option.key);
+            AddPart(names, OptionName(option.key));
     for (const MrkSupRequestItem& supply : driver.supplies)
         if (supply.state == TELMAR_STATE_UNKNOWN && SupplyIsAsked(seen, supply))
-            names += (names.empty() ? "" : ", ") + SupplyName(supply.name);
+            AddPart(names, SupplyName(supply.name));
     return !names.empty() ? "The driver can't use what the printer reports about " + names + "." : "";
 }
 
@@ -124,7 +123,7 @@ std::string FindDriverFailed(const Observations& seen) {
         return {};
     std::string failed;
     for (const std::string& query : driver.failed)
-        failed += (failed.empty() ? "" : ", ") + query;
+        AddPart(failed, query);
     if (!driver.isEnded)
         return "The driver's query for " + driver.query + " has not ended within "
                + std::to_string(static_cast<int>(kDriverLimit / 1000)) + " s.";

@@ -80,7 +80,7 @@ std::string FindIpv6Only(const Observations& seen) {
         return {};
     std::string list;
     for (const std::string& address : seen.host.addresses)
-        list += (list.empty() ? "" : ", ") + address;
+        AddPart(list, address);
     return seen.address + " leads to IPv6 addresses only: " + list + ".";
 }
 

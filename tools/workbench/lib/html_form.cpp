@@ -3,6 +3,7 @@
 #include "workbench/lib/html_form.h"
 
 #include "workbench/lib/table_text.h"
+#include "workbench/lib/text.h"
 
 #include <algorithm>
 
@@ -86,7 +87,7 @@ std::string HtmlForm(const Document& document) {
         if (HasContents(table))
             text += HtmlTable(table.name, table.contents);
         else
-            empty += (empty.empty() ? "" : ", ") + HtmlText(table.name);
+            AddPart(empty, HtmlText(table.name));
     }
     if (!empty.empty())
         text += "<p class=\"none\">Without contents: " + empty + ".</p>\n";

@@ -43,7 +43,7 @@ std::string DateText(const std::string& text) {
 std::string ListText(const std::vector<UINT>& texts) {
     std::string list;
     for (const UINT text : texts)
-        list += (list.empty() ? "" : ", ") + LocalizedText(text);
+        AddPart(list, LocalizedText(text));
     return list;
 }
 

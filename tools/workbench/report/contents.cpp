@@ -29,7 +29,7 @@ Document WithoutFiles(const Document& document) {
 std::string Joined(const Document& rows, const char* field) {
     std::string text;
     for (const Document& row : rows.Elements())
-        text += (text.empty() ? "" : ", ") + row[field].Text();
+        AddPart(text, row[field].Text());
     return text;
 }
 

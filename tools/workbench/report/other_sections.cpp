@@ -2,6 +2,7 @@
 #include "workbench/lib/html_form.h"
 #include "workbench/lib/json_form.h"
 #include "workbench/lib/table_text.h"
+#include "workbench/lib/text.h"
 #include "workbench/report/differences.h"
 #include "workbench/report/page_sections.h"
 
@@ -128,7 +129,7 @@ std::string DialogPicture(const Document& dialog) {
     std::string shows;
     for (const Document& control : dialog["controls"].Elements()) {
         const std::string text = CellText(control["label"]) + " " + CellText(control["shows"]);
-        shows += (shows.empty() ? "" : ", ") + text.substr(0, text.find_last_not_of(' ') + 1);
+        AddPart(shows, text.substr(0, text.find_last_not_of(' ') + 1));
     }
     const std::string width =
         std::to_string(dialog["width"].Integer() * kUsualResolution / dialog["dpi"].Integer());

@@ -4,6 +4,7 @@
 #include "workbench/report/page_sections.h"
 
 #include "workbench/lib/table_text.h"
+#include "workbench/lib/text.h"
 
 #include <set>
 
@@ -16,7 +17,7 @@ std::string MarkName(const Document& printer, const Document& mark) {
 std::string JoinedNames(const std::vector<std::string>& names) {
     std::string text;
     for (const std::string& name : names)
-        text += (text.empty() ? "" : ", ") + name;
+        AddPart(text, name);
     return text;
 }
 
