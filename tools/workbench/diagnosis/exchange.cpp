@@ -13,6 +13,8 @@ namespace {
 constexpr uint32_t kIdDistance = 4096;
 constexpr uint32_t kIdMask = 0x0FFFFFFF;
 
+constexpr double kWaits[] = {700, 700, 2600}; // milliseconds, after each round of requests
+
 // Between two requests, unless the answer comes earlier.
 constexpr double kSpacing = 20;
 constexpr int kDamagedToSettle = 2;
@@ -31,9 +33,13 @@ std::string RequestFor(const AskedObject& question, uint32_t requestId) {
 
 } // namespace
 
-Exchange::Exchange(uint32_t agentAddress, std::function<void(const char* stage)> showProgress)
+bool Arrival::IsOtherMessage() const {
+    return message.damage == Damage::kNone && message.pduType != SNMP_PDU_RESPONSE;
+}
+
+Exchange::Exchange(uint32_t agentAddress, double limit, std::function<void(const char* stage)> showProgress)
     : handle(socket(AF_INET, SOCK_DGRAM, 0)), address(agentAddress),
-      firstId(GetTickCount() * kIdDistance & kIdMask), start(CounterNow()),
+      firstId(GetTickCount() * kIdDistance & kIdMask), start(CounterNow()), end(limit),
       progress(std::move(showProgress)) {}
 
 Exchange::~Exchange() {
@@ -57,7 +63,7 @@ void Exchange::Send(size_t question) {
 // Takes one datagram; false when none arrives until then. Some systems report here that a datagram was
 // refused.
 bool Exchange::Receive(double until) {
-    const double left = until - Now();
+    const double left = std::min(until, end) - Now();
     if (left <= 0)
         return false;
     timeval limit = {static_cast<long>(left / 1000), static_cast<long>(left * 1000) % 1000000};
@@ -81,6 +87,8 @@ bool Exchange::Receive(double until) {
 }
 
 void Exchange::Match(Arrival& arrival) {
+    if (arrival.IsOtherMessage())
+        return;
     const SnmpMessage& message = arrival.message;
     const auto asked = std::find_if(requests.begin(), requests.end(), [&](const SentRequest& request) {
         return message.hasRequestId && request.requestId == message.requestId;
@@ -94,7 +102,7 @@ void Exchange::Match(Arrival& arrival) {
     Outcome& outcome = outcomes[requests[arrival.request].question];
     if (message.damage != Damage::kNone)
         ++outcome.damaged;
-    else if (message.pduType == SNMP_PDU_RESPONSE && outcome.answer == Arrival::kNone)
+    else if (outcome.answer == Arrival::kNone)
         outcome.answer = arrivals.size();
 }
 
@@ -106,15 +114,15 @@ bool Exchange::IsSettled(size_t question) const {
     return outcomes[question].answer != Arrival::kNone || outcomes[question].damaged >= kDamagedToSettle;
 }
 
-bool Exchange::AreSettled(size_t first, size_t end) const {
-    for (; first < end; ++first)
+bool Exchange::AreSettled(size_t first, size_t last) const {
+    for (; first < last; ++first)
         if (!IsSettled(first))
             return false;
     return true;
 }
 
-void Exchange::SendMissing(size_t first, size_t end) {
-    for (; first < end; ++first) {
+void Exchange::SendMissing(size_t first, size_t last) {
+    for (; first < last && Now() < end; ++first) {
         if (IsSettled(first))
             continue;
         Send(first);
@@ -130,7 +138,9 @@ size_t Exchange::Ask(const std::vector<AskedObject>& asked) {
     outcomes.resize(questions.size());
     for (const double wait : kWaits) {
         SendMissing(first, questions.size());
-        const double until = Now() + wait;
+        if (!isSent)
+            break;
+        const double until = std::min(Now() + wait, end);
         while (!AreSettled(first, questions.size()) && Now() < until) {
             progress(stage);
             Receive(std::min(until, Now() + kSlice));
@@ -144,7 +154,7 @@ const Arrival* Exchange::AskOne(const AskedObject& question) {
 }
 
 void Exchange::Listen(double milliseconds) {
-    const double until = Now() + milliseconds;
+    const double until = std::min(Now() + milliseconds, end);
     while (Now() < until)
         Receive(until);
 }

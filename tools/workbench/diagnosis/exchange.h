@@ -36,14 +36,16 @@ struct Arrival {
     SnmpMessage message;
     static constexpr size_t kNone = SIZE_MAX;
     size_t request = kNone; // the request with this request-id; of a damaged datagram without one, the last
+    bool IsOtherMessage() const; // intact, but no response; belongs to no request
 };
 
 constexpr uint16_t kAskedPort = 161;
 
 class Exchange {
 public:
-    // The address is in network order. `showProgress` is called with the stage while answers are awaited.
-    Exchange(uint32_t agentAddress, std::function<void(const char* stage)> showProgress);
+    // The address is in network order. Nothing is sent or awaited once `limit` milliseconds have passed.
+    // `showProgress` is called with the stage while answers are awaited.
+    Exchange(uint32_t agentAddress, double limit, std::function<void(const char* stage)> showProgress);
     ~Exchange();
     Exchange(const Exchange&) = delete;
     Exchange& operator=(const Exchange&) = delete;
@@ -51,8 +53,8 @@ public:
     void SetStage(const char* name) { stage = name; }
 
     // Asks the questions in order, and again those that are not settled: by an answer, or by two damaged
-    // ones. Ends when all are, or after kLongestAsk milliseconds and 60 for each question. Returns the number
-    // of the first of them.
+    // ones. Ends when all are, when nothing can be sent, or after the waits and 60 milliseconds for each
+    // question. Returns the number of the first of them.
     size_t Ask(const std::vector<AskedObject>& asked);
     // The same for one question; its answer, or null.
     const Arrival* AskOne(const AskedObject& question);
@@ -78,17 +80,18 @@ private:
     };
 
     void Send(size_t question);
-    void SendMissing(size_t first, size_t end);
+    void SendMissing(size_t first, size_t last);
     bool Receive(double until);
     void Match(Arrival& arrival);
     bool IsSettled(size_t question) const;
-    bool AreSettled(size_t first, size_t end) const;
+    bool AreSettled(size_t first, size_t last) const;
 
     const SocketsStart sockets;
     const uintptr_t handle; // of the socket
     const uint32_t address;
     const uint32_t firstId;
     const int64_t start;
+    const double end; // of the exchange
     const std::function<void(const char* stage)> progress;
     const char* stage = "";
     bool isSent = false;
@@ -97,9 +100,5 @@ private:
     std::vector<SentRequest> requests;
     std::vector<Arrival> arrivals;
 };
-
-// The waits of Ask in milliseconds, and their sum.
-constexpr double kWaits[] = {700, 700, 2600};
-constexpr double kLongestAsk = kWaits[0] + kWaits[1] + kWaits[2];
 
 #endif

@@ -95,9 +95,8 @@ void Keep(DriverWork& work, Answer& to, Answer answer) {
     to = std::move(answer);
 }
 
-void Reach(DriverWork& work) {
+void Reach(DriverWork& work, const TrafficTrace& trace) {
     Query(work, "access", [&](const Printer& printer) {
-        const TrafficTrace trace(work.files.module.get());
         const int64_t start = CounterNow();
         const bool isReached = EXPORT(printer.family, MIB_IsAccessOK)(printer.agent.c_str()) != FALSE;
         const double time = MillisecondsSince(start);
@@ -112,7 +111,8 @@ void Reach(DriverWork& work) {
 
 void AskDriver(DriverWork& work) {
     DriverObservation& seen = work.seen;
-    Reach(work);
+    const TrafficTrace trace(work.files.module.get());
+    Reach(work, trace);
     if (seen.isReached) {
         Query(work, "options", [&](const Printer& printer) {
             Keep(work, seen.options,
@@ -132,6 +132,7 @@ void AskDriver(DriverWork& work) {
               [&](const Printer& printer) { Keep(work, seen.profiles, AskProfiles(printer)); });
     }
     const std::lock_guard lock(work.access);
+    seen.repeats = RepeatsIn(trace.Messages());
     seen.isEnded = true;
 }
 
@@ -148,6 +149,7 @@ DriverObservation ObserveDriver(const Printer& printer, const std::function<void
 
 // --- The exchange
 
+// Also by damaged answers.
 bool IsAnswered(const Exchange& exchange, size_t question) {
     const auto& arrivals = exchange.Arrivals();
     return std::any_of(arrivals.begin(), arrivals.end(), [&](const Arrival& arrival) {
@@ -175,7 +177,7 @@ void FindAccess(Observations& seen) {
     const ObjectId agent = OidOf(kAgentObject);
     exchange.Ask(std::vector<AskedObject>(kReachRequests, {DriverAccess(), agent}));
     seen.answered = AnsweredAccess(exchange);
-    if (!seen.answered.empty())
+    if (!seen.answered.empty() || !exchange.IsSent())
         return;
     seen.isRefused = ProbeObject(seen.host.ipv4, kAgentObject).end == ProbeEnd::kRefused;
     if (seen.isRefused)
@@ -266,7 +268,7 @@ Observations ObservePrinter(const Printer& printer, const Stage& stage) {
     seen.host = ObserveHost(printer.agent, [&] { stage("name"); });
     if (!seen.host.isFound || seen.host.kind != HostKind::kIpv4)
         return seen;
-    seen.exchange = std::make_unique<Exchange>(seen.host.ipv4, stage);
+    seen.exchange = std::make_unique<Exchange>(seen.host.ipv4, kExchangeLimit, stage);
     seen.exchange->SetStage("access");
     FindAccess(seen);
     if (!seen.answered.empty()) {
@@ -301,5 +303,5 @@ std::string DescriptionText(const Observations& seen, const DescriptionObject& o
     if (answer == nullptr || !HasValue(answer->message))
         return {};
     return IsNumberType(answer->message.valueType) ? ValueText(answer->message)
-                                                   : PrinterText(answer->message.bytes);
+                                                   : OneLine(PrinterText(answer->message.bytes));
 }

@@ -9,12 +9,16 @@
 
 #include <memory>
 
-// Limits of time in milliseconds. With what the exchange takes a diagnosis ends within kDiagnosisLimit.
+// Limits of time in milliseconds, of the parts of a diagnosis and of the whole.
 constexpr double kNameLimit = 15000;
+constexpr double kExchangeLimit = 45000;
 constexpr double kDriverLimit = 30000;
-constexpr double kDiagnosisLimit = 90000;
+constexpr double kDiagnosisLimit = kNameLimit + kExchangeLimit + kDriverLimit;
 
-constexpr double kSlow = 50; // milliseconds; a printer in a local network answers in a few
+// Milliseconds; a printer in a local network answers in a few. A slow answer can make the driver repeat its
+// request. If most answers are very slow, that is worth a finding even where the driver has got along.
+constexpr double kSlow = 50;
+constexpr double kVerySlow = 200;
 
 struct HostObservation {
     bool isFound = false; // within the limit
@@ -31,6 +35,7 @@ struct DriverObservation {
     bool isReached = false;
     double reachTime = 0; // milliseconds
     int reachSends = 0;
+    size_t repeats = 0; // requests of all queries that were sent again; unseen in the system's libraries
     OptionAnswers options;
     Supplies supplies;
     StoredResources overlays[2];

@@ -139,6 +139,18 @@ bool Replace(void** slot, void* function) {
 
 } // namespace
 
+size_t RepeatsIn(const std::vector<TracedMessage>& messages) {
+    const TracedMessage* last = nullptr;
+    size_t repeats = 0;
+    for (const TracedMessage& message : messages) {
+        if (!message.isSent || !message.isDatagram)
+            continue;
+        repeats += last != nullptr && last->bytes == message.bytes ? 1 : 0;
+        last = &message;
+    }
+    return repeats;
+}
+
 bool UsesSystemSnmp() {
     return GetModuleHandleW(L"MGMTAPI.DLL") != nullptr && GetModuleHandleW(L"SNMPAPI.DLL") != nullptr;
 }
