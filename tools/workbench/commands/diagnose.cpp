@@ -50,5 +50,5 @@ CommandResult DiagnosePrinter(const FamilyFiles& family, const std::string& addr
         findings = FindingsOf(seen);
         document = DiagnosisDocument(family, seen, findings);
     }
-    return {document, DiagnosisText(document), findings.empty() ? 0 : kExitFailed};
+    return {document, DiagnosisText(document), HasFault(findings) ? kExitFailed : 0};
 }

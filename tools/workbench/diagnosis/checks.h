@@ -11,6 +11,7 @@ std::string FindUnknownHost(const Observations& seen);
 std::string FindIpv6Only(const Observations& seen);
 std::string FindNoRoute(const Observations& seen);
 std::string FindClosed(const Observations& seen);
+std::string FindOtherMessages(const Observations& seen);
 std::string FindSilent(const Observations& seen);
 std::string FindOtherVersion(const Observations& seen);
 std::string FindOtherCommunity(const Observations& seen);
@@ -36,10 +37,11 @@ std::string FindNotAPrinter(const Observations& seen);
 std::string FindOtherDevice(const Observations& seen);
 std::string FindOtherModel(const Observations& seen);
 std::string FindOtherSupplies(const Observations& seen);
-std::string FindNoAnswers(const Observations& seen);
+std::string FindUnusableValues(const Observations& seen);
+std::string FindMissingValues(const Observations& seen);
 std::string FindDriverFailed(const Observations& seen);
 
-// Whether the agent answers the version, or the community, that the driver uses.
+// Whether the agent answers the version, or the community, that the driver uses, or even the driver itself.
 bool HasDriversVersion(const Observations& seen);
 bool HasDriversCommunity(const Observations& seen);
 

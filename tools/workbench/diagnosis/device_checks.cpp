@@ -32,26 +32,53 @@ std::string FindTypes(const Observations& seen, bool isUsable, const std::string
     return objects.empty() ? "" : sentence + type + " (" + ObjectsText(objects) + ").";
 }
 
-// Whether the agent says that an object of the Printer MIB does not exist.
+// Whether the agent says of the objects of the Printer MIB that they do not exist: of most, since one answer
+// says nothing where the others are lost.
 bool LacksPrinterMib(const Observations& seen) {
-    bool isAnswered = false;
+    size_t asked = 0;
+    size_t missing = 0;
     const ObjectId printerMib = OidOf(".1.3.6.1.2.1.43");
     for (size_t i = 0; i < seen.objects.size(); ++i) {
         const ObjectId& oid = seen.objects[i].oid;
+        if (oid.size() < printerMib.size() || !std::equal(printerMib.begin(), printerMib.end(), oid.begin()))
+            continue;
+        ++asked;
         const Arrival* answer = AnswerTo(seen, i);
-        if (answer == nullptr || !std::equal(printerMib.begin(), printerMib.end(), oid.begin()))
+        if (answer == nullptr)
             continue;
         if (HasValue(answer->message) || answer->message.errorStatus > kNoSuchName)
             return false;
-        isAnswered = true;
+        ++missing;
     }
-    return isAnswered;
+    return missing > asked / 2;
 }
 
-bool SupplyIsAsked(const Observations& seen, const MrkSupRequestItem& supply) {
-    const std::string use = "supply " + FieldText(supply.name);
-    return std::any_of(seen.objects.begin(), seen.objects.end(),
-                       [&](const ModuleObject& object) { return object.use == use; });
+// What the printer has answered for the objects that a query of the driver uses.
+enum class Reported { kNotAsked, kValue, kNothing };
+Reported ReportedFor(const Observations& seen, const std::string& use) {
+    Reported reported = Reported::kNotAsked;
+    for (size_t i = 0; i < seen.objects.size(); ++i) {
+        const Arrival* answer = seen.objects[i].use == use ? AnswerTo(seen, i) : nullptr;
+        if (answer == nullptr)
+            continue;
+        if (HasValue(answer->message))
+            return Reported::kValue;
+        reported = Reported::kNothing;
+    }
+    return reported;
+}
+
+// The options and supplies that the driver shows as not reported, and for which the printer answers this.
+std::string NotReported(const Observations& seen, Reported reported) {
+    std::string names;
+    for (const OptionRequestItem& option : seen.driver.options)
+        if (option.value[0] == 0 && ReportedFor(seen, "option " + FieldText(option.key)) == reported)
+            AddPart(names, OptionName(option.key));
+    for (const MrkSupRequestItem& supply : seen.driver.supplies)
+        if (supply.state == TELMAR_STATE_UNKNOWN
+            && ReportedFor(seen, "supply " + FieldText(supply.name)) == reported)
+            AddPart(names, SupplyName(supply.name));
+    return names;
 }
 
 // Empty when the device has sent no text.
@@ -105,16 +132,16 @@ std::string FindOtherSupplies(const Observations& seen) {
     return !list.empty() ? "The device has other supplies than the driver takes them for: " + list + "." : "";
 }
 
-std::string FindNoAnswers(const Observations& seen) {
-    std::string names;
-    const DriverObservation& driver = seen.driver;
-    for (const OptionRequestItem& option : driver.options)
-        if (option.value[0] == 0)
-            AddPart(names, OptionName(option.key));
-    for (const MrkSupRequestItem& supply : driver.supplies)
-        if (supply.state == TELMAR_STATE_UNKNOWN && SupplyIsAsked(seen, supply))
-            AddPart(names, SupplyName(supply.name));
+std::string FindUnusableValues(const Observations& seen) {
+    const std::string names = NotReported(seen, Reported::kValue);
     return !names.empty() ? "The driver can't use what the printer reports about " + names + "." : "";
+}
+
+// A printer that is not device 1 has these objects under another number.
+std::string FindMissingValues(const Observations& seen) {
+    const std::string names = seen.printerNumber <= 1 ? NotReported(seen, Reported::kNothing) : "";
+    return !names.empty() ? "The printer reports nothing about " + names + ": it does not have these objects."
+                          : "";
 }
 
 std::string FindDriverFailed(const Observations& seen) {

@@ -16,7 +16,8 @@ enum class Wanted : uint8_t {
 struct ModuleObject {
     ObjectId oid;
     Wanted wanted;
-    std::string use; // "option OpHDD": the query that needs it, as the module names it
+    std::string use;     // "option OpHDD": the query that needs it, as the module names it
+    std::string usedFor; // "Hard disk": the same for people
 };
 
 // In the order of the tables, each object once. Of stored overlays and profiles only the first one's objects.

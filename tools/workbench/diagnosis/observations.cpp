@@ -89,8 +89,8 @@ void Query(DriverWork& work, const char* name, const std::function<void(const Pr
 }
 
 // Asks, then keeps the answer.
-template <typename Answer>
-void Keep(DriverWork& work, Answer& to, Answer answer) {
+template <typename Kept, typename Answer>
+void Keep(DriverWork& work, Kept& to, Answer answer) {
     const std::lock_guard lock(work.access);
     to = std::move(answer);
 }
@@ -125,8 +125,7 @@ void AskDriver(DriverWork& work) {
             Keep(work, seen.otherSupplies, AskIdentity(printer).otherSupplies);
         });
         Query(work, "overlays", [&](const Printer& printer) {
-            for (const int32_t storage : {0, 1})
-                Keep(work, seen.overlays[storage], AskOverlays(printer, storage));
+            Keep(work, seen.overlays, std::array{AskOverlays(printer, 0), AskOverlays(printer, 1)});
         });
         Query(work, "profiles",
               [&](const Printer& printer) { Keep(work, seen.profiles, AskProfiles(printer)); });
@@ -298,10 +297,16 @@ const Arrival* AnswerTo(const Observations& seen, size_t object) {
     return nullptr;
 }
 
+const Arrival* AnswerTo(const Observations& seen, const DescriptionObject& object) {
+    return object.question != SIZE_MAX ? seen.exchange->AnswerTo(object.question) : nullptr;
+}
+
 std::string DescriptionText(const Observations& seen, const DescriptionObject& object) {
-    const Arrival* answer = object.question != SIZE_MAX ? seen.exchange->AnswerTo(object.question) : nullptr;
+    const Arrival* answer = AnswerTo(seen, object);
     if (answer == nullptr || !HasValue(answer->message))
         return {};
-    return IsNumberType(answer->message.valueType) ? ValueText(answer->message)
-                                                   : OneLine(PrinterText(answer->message.bytes));
+    const SnmpMessage& message = answer->message;
+    return message.valueType == ASN_TIMETICKS ? DurationText(message.number)
+           : IsNumberType(message.valueType)  ? ValueText(message)
+                                              : OneLine(PrinterText(message.bytes));
 }

@@ -7,7 +7,9 @@
 #include "workbench/diagnosis/module_objects.h"
 #include "workbench/lib/printer_queries.h"
 
+#include <array>
 #include <memory>
+#include <optional>
 
 // Limits of time in milliseconds, of the parts of a diagnosis and of the whole.
 constexpr double kNameLimit = 15000;
@@ -38,8 +40,8 @@ struct DriverObservation {
     size_t repeats = 0; // requests of all queries that were sent again; unseen in the system's libraries
     OptionAnswers options;
     Supplies supplies;
-    StoredResources overlays[2];
-    StoredProfiles profiles;
+    std::optional<std::array<StoredResources, 2>> overlays; // none: not answered
+    std::optional<StoredProfiles> profiles;                 // the same
     std::vector<std::string>
         otherSupplies; // what the device calls supplies that it uses otherwise; empty: as the driver
     std::vector<std::string> failed; // queries
@@ -78,7 +80,10 @@ Observations ObservePrinter(const Printer& printer, const std::function<void(con
 // The answer to an object of the module; null: none.
 const Arrival* AnswerTo(const Observations& seen, size_t object);
 
-// Text or number of a description; empty when there is none.
+// The answer to an object of the description; null: none.
+const Arrival* AnswerTo(const Observations& seen, const DescriptionObject& object);
+
+// Text or time of a description, on one line; empty when there is none.
 std::string DescriptionText(const Observations& seen, const DescriptionObject& object);
 
 #endif

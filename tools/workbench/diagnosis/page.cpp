@@ -13,7 +13,8 @@
 
 namespace {
 
-constexpr size_t kTextWidth = 100; // of the sentences
+constexpr const char* kUpTimeSeconds = "upTimeSeconds"; // for programs
+constexpr size_t kTextWidth = 100;                      // of the sentences
 
 double Rounded(double milliseconds) {
     return std::round(milliseconds * 10) / 10;
@@ -28,7 +29,7 @@ std::string TimeText() {
     return text;
 }
 
-Document Printed(const Observations& seen) {
+Document PrinterSection(const Observations& seen) {
     in_addr shown = {};
     shown.s_addr = seen.host.ipv4;
     const bool hasIpv4 = seen.host.isFound && seen.host.kind == HostKind::kIpv4;
@@ -41,14 +42,18 @@ Document Printed(const Observations& seen) {
             {"time", TimeText()}};
 }
 
-Document Network(const Observations& seen) {
+Document NetworkSection(const Observations& seen) {
     if (!seen.exchange)
         return nullptr;
     const Samples samples = SamplesOf(seen);
-    Document network = {{"port", seen.isAddressed ? "open" : seen.isRefused ? "closed" : "silent"}};
+    const bool isSent = seen.exchange->IsSent();
+    Document network = {{"port", seen.isAddressed ? "open"
+                                 : seen.isRefused ? "closed"
+                                 : isSent         ? "silent"
+                                                  : "unreachable: nothing could be sent"}};
     for (const Access& access : seen.answered)
         network["answers"].Add(VersionText(access.version) + " with community " + access.community);
-    network["requests"] = seen.isAddressed ? samples.requests : seen.exchange->Requests().size();
+    network["requests"] = seen.isAddressed ? samples.requests : isSent ? seen.exchange->Requests().size() : 0;
     network["answered"] = samples.answered;
     if (samples.answered != 0) {
         network["medianMs"] = Rounded(samples.median);
@@ -57,7 +62,8 @@ Document Network(const Observations& seen) {
     return network;
 }
 
-Document Device(const Observations& seen) {
+// A text is empty where the device has none, and null where it has not answered.
+Document DeviceSection(const Observations& seen) {
     if (!seen.isAddressed)
         return nullptr;
     Document device = {
@@ -66,8 +72,10 @@ Document Device(const Observations& seen) {
                             : seen.hasDeviceList ? Document("no")
                                                  : Document("unknown: the list of devices is not answered")}};
     for (const DescriptionObject& object : seen.description) {
-        const std::string text = DescriptionText(seen, object);
-        device[object.label] = text.empty() ? Document() : Document(text);
+        const Arrival* answer = AnswerTo(seen, object);
+        device[object.label] = answer != nullptr ? Document(DescriptionText(seen, object)) : Document();
+        if (answer != nullptr && answer->message.valueType == ASN_TIMETICKS)
+            device[kUpTimeSeconds] = answer->message.number / kTicksPerSecond;
     }
     device["model"] = "decided by these texts only: the driver can't tell the model by SNMP";
     return device;
@@ -81,6 +89,7 @@ Document Objects(const Observations& seen) {
         rows.Add({{"object", ObjectName(seen.objects[i].oid)},
                   {"oid", OidText(seen.objects[i].oid)},
                   {"use", seen.objects[i].use},
+                  {"usedFor", seen.objects[i].usedFor},
                   {"answer", answer != nullptr ? AnswerText(answer->message)
                              : time < 0        ? "no answer"
                                                : "damaged"},
@@ -102,26 +111,34 @@ Document SupplyLevels(const DriverObservation& driver) {
     return rows;
 }
 
-Document Driver(const Observations& seen) {
+template <typename Lists>
+size_t StoredCount(const Lists& lists) {
+    size_t rows = 0;
+    for (const StoredResources& list : lists)
+        rows += list.size();
+    return rows;
+}
+
+// A number is null where the query has not been answered.
+Document DriverSection(const Observations& seen) {
     const DriverObservation& driver = seen.driver;
     if (!driver.isAsked)
         return nullptr;
-    std::string failed;
+    Document failed = Document::MakeList();
     for (const std::string& query : driver.failed)
-        failed += (failed.empty() ? "" : ", ") + query;
+        failed.Add(query);
     if (!driver.isEnded)
-        failed += (failed.empty() ? "" : ", ") + driver.query + " (not ended)";
+        failed.Add(driver.query + " (not ended)");
     Document shown = {
         {"reached", driver.isReached},
-        {"snmpBy", UsesSystemSnmp() ? "the system's SNMP libraries" : "the driver itself"},
+        {"requestsSentBy", UsesSystemSnmp() ? "the system's SNMP libraries" : "the driver itself"},
         {"requestsToReach", driver.reachSends},
         {"reachMs", Rounded(driver.reachTime)},
     };
     if (driver.isReached) {
-        shown["failedQueries"] = failed.empty() ? "none" : failed;
-        shown["overlays"] = driver.overlays[0].size() + driver.overlays[1].size();
-        shown["colorProfiles"] =
-            driver.profiles[0].size() + driver.profiles[1].size() + driver.profiles[2].size();
+        shown["failedQueries"] = std::move(failed);
+        shown["overlays"] = driver.overlays ? Document(StoredCount(*driver.overlays)) : Document();
+        shown["colorProfiles"] = driver.profiles ? Document(StoredCount(*driver.profiles)) : Document();
     }
     return shown;
 }
@@ -130,17 +147,43 @@ Document FindingRows(const std::vector<DiagnosisFinding>& findings) {
     Document rows = Document::MakeList();
     for (const DiagnosisFinding& finding : findings)
         rows.Add({{"finding", finding.kind},
+                  {"isNote", finding.isNote},
                   {"what", finding.sentence},
                   {"driver", finding.effect},
                   {"action", finding.action}});
     return rows;
 }
 
-Document WithoutField(const Document& row, const std::string& name) {
+// The row without what only programs need: OIDs, and the module's own names.
+Document RowForPeople(const Document& row) {
     Document rest;
     for (const Document::Field& field : row.Fields())
-        if (field.name != name)
+        if (field.name != "oid" && field.name != "use" && field.name != "supply")
             rest[field.name] = field.value;
+    return rest;
+}
+
+std::string ListText(const Document& texts) {
+    std::string list;
+    for (const Document& text : texts.Elements())
+        AddPart(list, text.Text());
+    return list.empty() ? "none" : list;
+}
+
+// Lists in one line, and words for what is null or empty.
+Document SectionForPeople(const Document& section) {
+    Document rest;
+    for (const Document::Field& field : section.Fields()) {
+        const bool isOneAddress = field.name == "allAddresses" && field.value.Elements().size() < 2;
+        const bool isUnresolved = field.name == "resolvedTo" && field.value.IsNull();
+        if (field.name == kUpTimeSeconds || isOneAddress || isUnresolved)
+            continue;
+        const bool isEmpty = field.value.IsText() && field.value.Text().empty();
+        rest[field.name] = field.value.IsList()   ? Document(ListText(field.value))
+                           : field.value.IsNull() ? Document("no answer")
+                           : isEmpty              ? Document("none")
+                                                  : field.value;
+    }
     return rest;
 }
 
@@ -162,50 +205,52 @@ std::string Wrapped(const std::string& first, const std::string& text) {
     return wrapped + line + "\n";
 }
 
-} // namespace
-
-Document DiagnosisDocument(const FamilyFiles& family, const Observations& seen,
-                           const std::vector<DiagnosisFinding>& findings) {
-    return {
-        {"printer", Printed(seen)},
-        {"network", Network(seen)},
-        {"device", Device(seen)},
-        {"objects", Objects(seen)},
-        {"driver", Driver(seen)},
-        {"options", OptionsInWords(ReadOptionFeatures(family), seen.driver.options)},
-        {"supplies", SupplyLevels(seen.driver)},
-        {"findings", FindingRows(findings)},
-    };
-}
-
-// Without what only programs need, such as the OIDs next to the names.
-std::string DiagnosisText(const Document& diagnosis) {
-    Document sections;
-    for (const Document::Field& field : diagnosis.Fields()) {
-        if (field.name == "findings" || field.value.IsNull())
-            continue;
-        if (field.name == "printer" && field.value["allAddresses"].Elements().size() < 2)
-            sections[field.name] = WithoutField(field.value, "allAddresses");
-        else if (!field.value.IsList())
-            sections[field.name] = field.value;
-        else if (field.name == "options" && !field.value.Elements().empty())
-            sections[field.name] = OptionRows(field.value);
-        else
-            for (const Document& row : field.value.Elements())
-                sections[field.name].Add(WithoutField(row, field.name == "supplies" ? "supply" : "oid"));
-    }
-    const Document::List& findings = diagnosis["findings"].Elements();
-    std::string text = TextForm(sections) + "\n";
-    if (findings.empty())
-        return text + "What to do\n  Nothing: no fault has been found.\n";
-    text += "What to do (" + std::to_string(findings.size()) + ")\n";
+// The notes, or all others; empty when there are none.
+std::string FindingsText(const std::string& title, const Document& findings, bool areNotes) {
+    std::string text;
     int number = 0;
-    for (const Document& finding : findings) {
+    for (const Document& finding : findings.Elements()) {
+        if (finding["isNote"].Bool() != areNotes)
+            continue;
         ++number;
         const std::string mark = (number < 10 ? "  " : " ") + std::to_string(number) + ". ";
         text += Wrapped(mark, finding["what"].Text());
         text += Wrapped("     Driver: ", finding["driver"].Text());
         text += Wrapped("     To do:  ", finding["action"].Text());
     }
-    return text;
+    return text.empty() ? "" : "\n" + title + " (" + std::to_string(number) + ")\n" + text;
+}
+
+} // namespace
+
+Document DiagnosisDocument(const FamilyFiles& family, const Observations& seen,
+                           const std::vector<DiagnosisFinding>& findings) {
+    return {
+        {"printer", PrinterSection(seen)},
+        {"network", NetworkSection(seen)},
+        {"device", DeviceSection(seen)},
+        {"objects", Objects(seen)},
+        {"driver", DriverSection(seen)},
+        {"options", OptionsInWords(ReadOptionFeatures(family), seen.driver.options)},
+        {"supplies", SupplyLevels(seen.driver)},
+        {"findings", FindingRows(findings)},
+    };
+}
+
+std::string DiagnosisText(const Document& diagnosis) {
+    Document sections;
+    for (const Document::Field& field : diagnosis.Fields()) {
+        if (field.name == "findings" || field.value.IsNull())
+            continue;
+        if (!field.value.IsList())
+            sections[field.name] = SectionForPeople(field.value);
+        else if (field.name == "options" && !field.value.Elements().empty())
+            sections[field.name] = OptionRows(field.value);
+        else
+            for (const Document& row : field.value.Elements())
+                sections[field.name].Add(RowForPeople(row));
+    }
+    const std::string toDo = FindingsText("What to do", diagnosis["findings"], false);
+    return TextForm(sections) + (toDo.empty() ? "\nWhat to do\n  Nothing: no fault has been found.\n" : toDo)
+           + FindingsText("Notes", diagnosis["findings"], true);
 }

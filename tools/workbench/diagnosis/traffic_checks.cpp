@@ -58,11 +58,13 @@ std::string Milliseconds(double time) {
 }
 
 bool HasDriversVersion(const Observations& seen) {
-    return HasAccess(seen, [](const Access& access) { return access.version == DriverAccess().version; });
+    return seen.driver.isReached
+           || HasAccess(seen, [](const Access& access) { return access.version == DriverAccess().version; });
 }
 
 bool HasDriversCommunity(const Observations& seen) {
-    return HasAccess(seen, [](const Access& access) { return access.community == kCommunity; });
+    return seen.driver.isReached
+           || HasAccess(seen, [](const Access& access) { return access.community == kCommunity; });
 }
 
 // --- The way to the printer
@@ -93,8 +95,22 @@ std::string FindClosed(const Observations& seen) {
     return seen.isRefused ? seen.address + " is on, but refuses SNMP requests: UDP port 161 is closed." : "";
 }
 
+std::string FindOtherMessages(const Observations& seen) {
+    if (!seen.exchange)
+        return {};
+    const auto& arrivals = seen.exchange->Arrivals();
+    const auto isOther = [](const Arrival& arrival) { return arrival.IsOtherMessage(); };
+    const auto first = std::find_if(arrivals.begin(), arrivals.end(), isOther);
+    if (first == arrivals.end())
+        return {};
+    const auto count = static_cast<size_t>(std::count_if(arrivals.begin(), arrivals.end(), isOther));
+    return "Messages arrive that are no answers: " + std::to_string(count) + ", the first one "
+           + RequestText(first->message) + ".";
+}
+
 std::string FindSilent(const Observations& seen) {
-    if (!seen.exchange || !seen.exchange->IsSent() || seen.isRefused || seen.isAddressed)
+    if (!seen.exchange || !seen.exchange->IsSent() || seen.isRefused || seen.isAddressed
+        || !FindOtherMessages(seen).empty())
         return {};
     return seen.address + " has answered none of " + Times(seen.exchange->Requests().size(), "request")
            + " in " + std::to_string(static_cast<int>(seen.exchange->Now() / 1000))
@@ -166,7 +182,7 @@ std::string FindStale(const Observations& seen) {
     size_t count = 0;
     std::vector<ObjectId> objects;
     for (const Arrival& arrival : seen.exchange->Arrivals()) {
-        if (arrival.request != Arrival::kNone)
+        if (arrival.request != Arrival::kNone || arrival.IsOtherMessage())
             continue;
         ++count;
         if (std::find(objects.begin(), objects.end(), arrival.message.object) == objects.end())
@@ -185,16 +201,19 @@ std::string FindSilentObjects(const Observations& seen) {
     if (!seen.areObjectsAsked || LostPercent(SamplesOf(seen)) >= kHeavyLoss)
         return {};
     std::vector<ObjectId> silent;
-    std::string uses;
+    std::vector<std::string> uses;
     for (const ModuleObject& object : seen.objects) {
         if (TimeOfObject(seen, object.oid) >= 0)
             continue;
         silent.push_back(object.oid);
-        if (uses.find(object.use) == std::string::npos)
-            uses += (uses.empty() ? "" : ", ") + object.use;
+        if (std::find(uses.begin(), uses.end(), object.usedFor) == uses.end())
+            uses.push_back(object.usedFor);
     }
+    std::string list;
+    for (const std::string& use : uses)
+        AddPart(list, use);
     return !silent.empty() ? "The device answers, but never to requests for " + ObjectsText(silent)
-                                 + ", which are needed for: " + uses + "."
+                                 + ", which are needed for: " + list + "."
                            : "";
 }
 
@@ -216,6 +235,11 @@ std::string FindLateStart(const Observations& seen) {
 
 std::string FindSlow(const Observations& seen) {
     const Samples samples = SamplesOf(seen);
+    const DriverObservation& driver = seen.driver;
+    const bool hasDriverCoped =
+        driver.isEnded && driver.isReached && driver.failed.empty() && driver.repeats == 0;
+    if (hasDriverCoped && samples.median < kVerySlow)
+        return {};
     if (samples.median >= kSlow)
         return "Answers take long: " + Milliseconds(samples.median) + " as a rule, "
                + Milliseconds(samples.slowest) + " at most.";
@@ -247,6 +271,6 @@ std::string FindChangedCommunity(const Observations& seen) {
     return concerned.arrivals.empty()
                ? ""
                : AboutAnswers(concerned, "Answers have another community than the requests: "
-                                             + PrinterText(concerned.arrivals[0]->message.community)
+                                             + OneLine(PrinterText(concerned.arrivals[0]->message.community))
                                              + " instead of " + seen.access.community);
 }

@@ -230,16 +230,6 @@ std::string WordOf(const SnmpMessage& message) {
     return word.empty() ? "" : " (" + std::string(word) + ")";
 }
 
-// " (2 d 03:04:05)" of hundredths of a second.
-std::string TicksText(int64_t ticks) {
-    const int64_t seconds = ticks / 100;
-    char text[48];
-    snprintf(text, sizeof(text), " (%lld d %02lld:%02lld:%02lld)", static_cast<long long>(seconds / 86400),
-             static_cast<long long>(seconds / 3600 % 24), static_cast<long long>(seconds / 60 % 60),
-             static_cast<long long>(seconds % 60));
-    return text;
-}
-
 std::string BytesText(const std::string& bytes) {
     const bool isText =
         std::all_of(bytes.begin(), bytes.end(), [](unsigned char c) { return c >= ' ' && c != 0x7F; });
@@ -339,7 +329,7 @@ std::string ValueText(const SnmpMessage& message) {
     if (message.valueType == ASN_INTEGER)
         return type + ' ' + std::to_string(message.number) + WordOf(message);
     if (message.valueType == ASN_TIMETICKS)
-        return type + ' ' + std::to_string(message.number) + TicksText(message.number);
+        return type + ' ' + std::to_string(message.number) + " (" + DurationText(message.number) + ')';
     if (IsNumberType(message.valueType))
         return type + ' '
                + (message.valueType == kCounter64 ? std::to_string(static_cast<uint64_t>(message.number))
@@ -347,6 +337,15 @@ std::string ValueText(const SnmpMessage& message) {
     if (IsTextType(message.valueType))
         return type + ' ' + BytesText(message.bytes);
     return message.valueType == ASN_OBJECTIDENTIFIER ? type + ' ' + ObjectName(message.objectValue) : type;
+}
+
+std::string DurationText(int64_t ticks) {
+    const int64_t seconds = ticks / kTicksPerSecond;
+    char text[48];
+    snprintf(text, sizeof(text), "%lld d %02lld:%02lld:%02lld", static_cast<long long>(seconds / 86400),
+             static_cast<long long>(seconds / 3600 % 24), static_cast<long long>(seconds / 60 % 60),
+             static_cast<long long>(seconds % 60));
+    return text;
 }
 
 std::string RequestText(const SnmpMessage& message) {

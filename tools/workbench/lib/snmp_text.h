@@ -34,6 +34,8 @@ struct SnmpMessage {
     ObjectId objectValue;
 };
 
+constexpr int64_t kTicksPerSecond = 100; // of TimeTicks
+
 SnmpMessage ReadSnmpMessage(std::string_view datagram);
 
 bool IsNumberType(uint8_t valueType);
@@ -60,6 +62,9 @@ std::string ObjectName(const ObjectId& oid);
 
 // The value with its type, on one line: INTEGER 4 (sheetFeedAutoNonRemovableTray).
 std::string ValueText(const SnmpMessage& message);
+
+// "2 d 03:04:05", of hundredths of a second.
+std::string DurationText(int64_t ticks);
 
 // "GetRequest sysObjectID.0".
 std::string RequestText(const SnmpMessage& message);

@@ -143,10 +143,9 @@ size_t RepeatsIn(const std::vector<TracedMessage>& messages) {
     const TracedMessage* last = nullptr;
     size_t repeats = 0;
     for (const TracedMessage& message : messages) {
-        if (!message.isSent || !message.isDatagram)
-            continue;
-        repeats += last != nullptr && last->bytes == message.bytes ? 1 : 0;
-        last = &message;
+        const bool isRequest = message.isSent && message.isDatagram;
+        repeats += isRequest && last != nullptr && last->bytes == message.bytes ? 1 : 0;
+        last = isRequest ? &message : nullptr;
     }
     return repeats;
 }

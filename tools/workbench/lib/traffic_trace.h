@@ -22,8 +22,7 @@ struct TracedMessage {
     SnmpMessage message; // otherwise; without version, community and request-id
 };
 
-// The datagrams that repeat the one sent before them: the module sends the same bytes again when it has no
-// answer.
+// How many requests are sent again, with the same bytes, because no answer has come.
 size_t RepeatsIn(const std::vector<TracedMessage>& messages);
 
 // Whether the module makes its requests through the system's SNMP libraries, as it does where both load.
