@@ -12,13 +12,14 @@ constexpr const char* kSystemNote =
 
 // The traffic comes first, then the answers of the query or why it has failed.
 CommandResult TraceQuery(const FamilyFiles& family, const std::string& address) {
-    const TrafficTrace trace(family.module.get());
+    const TrafficTrace trace(family.module.get(), TraceOf::kModuleAndWorkbench);
     Document document;
+    Document answers; // also when only some queries have been answered
     std::string end;
     int exitCode = 0;
     try {
         const CommandResult asked = AskBySnmp(family, address);
-        document = asked.document;
+        document = answers = asked.document;
         end = asked.text.empty() ? TextForm(asked.document) : asked.text;
         exitCode = asked.exitCode;
     } catch (const Failure& failure) {
@@ -26,7 +27,6 @@ CommandResult TraceQuery(const FamilyFiles& family, const std::string& address) 
         end = std::string("Failure\n  ") + failure.what() + "\n";
         exitCode = failure.exitCode;
     }
-    const Document answers = exitCode == 0 ? document : Document();
     document["trace"] = TraceDocument(trace.Messages(), ModuleObjects(family), answers);
     std::string text = TraceText(document["trace"]) + "\n" + end;
     if (UsesSystemSnmp()) {

@@ -3,6 +3,7 @@
 
 #include "workbench/lib/snmp_text.h"
 #include "workbench/lib/table_text.h"
+#include "workbench/lib/text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,11 +11,10 @@
 namespace {
 
 struct TracedRequest {
-    double at; // milliseconds since the start
+    std::vector<double> sends; // milliseconds since the start
+    bool isOwn;                // of the workbench
     std::string bytes;
     SnmpMessage message;
-    int sends = 1;
-    double lastSend = 0;
     bool isAnswered = false;
     SnmpMessage answer;               // the last: the one that the module has used, if any
     double took = 0;                  // milliseconds since the last send
@@ -30,14 +30,13 @@ std::vector<TracedRequest> PairedRequests(const std::vector<TracedMessage>& mess
                               && requests.back().bytes == traced.bytes;
         if (traced.isSent && !isRepeat) {
             TracedRequest request = {};
-            request.at = request.lastSend = traced.at;
+            request.sends = {traced.at};
+            request.isOwn = traced.isOwn;
             request.bytes = traced.bytes;
             request.message = std::move(message);
-            request.sends = 1;
             requests.push_back(std::move(request));
         } else if (traced.isSent) {
-            ++requests.back().sends;
-            requests.back().lastSend = traced.at;
+            requests.back().sends.push_back(traced.at);
         } else if (!requests.empty()) {
             TracedRequest& request = requests.back();
             if (message.hasRequestId && message.requestId != request.message.requestId) {
@@ -45,24 +44,24 @@ std::vector<TracedRequest> PairedRequests(const std::vector<TracedMessage>& mess
                 continue;
             }
             request.isAnswered = true;
-            request.took = traced.at - request.lastSend;
+            request.took = traced.at - request.sends.back();
             request.answer = std::move(message);
         }
     }
     return requests;
 }
 
-// What the module asks the object for. Rows after the first of a table of stored resources differ in their
-// last sub-identifier.
-std::string UseOf(const std::vector<ModuleObject>& objects, const ObjectId& oid) {
+// The object for which the module makes a request; null: another one. Rows after the first of a table of
+// stored resources differ in their last sub-identifier.
+const ModuleObject* ObjectAt(const std::vector<ModuleObject>& objects, const ObjectId& oid) {
     const ModuleObject* sameTable = nullptr;
     for (const ModuleObject& object : objects) {
         if (object.oid == oid)
-            return object.use;
+            return &object;
         if (object.oid.size() == oid.size() && std::equal(oid.begin(), oid.end() - 1, object.oid.begin()))
             sameTable = &object;
     }
-    return sameTable != nullptr ? sameTable->use : "another question";
+    return sameTable;
 }
 
 size_t RowsIn(const Document& lists) {
@@ -80,22 +79,26 @@ const Document* RowOf(const Document& rows, const std::string& name) {
     return nullptr;
 }
 
-// What the module has answered to a question: "option OpHDD".
-std::string DriverAnswer(const Document& answers, const std::string& use) {
-    const std::string name = use.substr(use.find(' ') + 1);
-    if (use == "overlays" || use == "profiles")
-        return std::to_string(RowsIn(answers[use])) + " in all lists";
-    if (const Document* option = RowOf(answers["options"], name)) {
-        const std::string answer = CellText((*option)["answer"]);
-        return answer.empty() ? "no answer" : answer;
-    }
-    if (const Document* supply = RowOf(answers["supplies"], name)) {
-        const Document& level = (*supply)["level"];
-        return level.IsText()
-                   ? level.Text()
-                   : "state " + CellText((*supply)["state"]) + ", value " + CellText((*supply)["value"]);
-    }
-    return "reached";
+constexpr const char* kFailed = "the query has failed";
+constexpr const char* kAccess = "access"; // the use of the object by which the module reaches a printer
+
+// What the module has answered to a question: "option OpHDD". Null: not known.
+Document DriverAnswer(const Document& answers, const std::string& use) {
+    const size_t blank = use.find(' ');
+    const std::string name = blank != std::string::npos ? use.substr(blank + 1) : "";
+    const std::string kind = use.substr(0, blank);
+    const std::string section = name.empty() ? use : kind == "option" ? "options" : "supplies";
+    const Document& part = answers[section];
+    if (part.IsNull())
+        return answers.IsNull() || use == kAccess ? Document() : Document(kFailed);
+    if (name.empty())
+        return std::to_string(RowsIn(part)) + " in all lists";
+    const Document* row = RowOf(part, name);
+    if (row == nullptr)
+        return {};
+    const Document& words = (*row)[kind == "option" ? "setting" : "level"];
+    return words.IsText() ? words
+                          : "state " + CellText((*row)["state"]) + ", value " + CellText((*row)["value"]);
 }
 
 double InHundredths(double milliseconds) {
@@ -104,13 +107,16 @@ double InHundredths(double milliseconds) {
 
 Document RowOfRequest(const TracedRequest& request) {
     Document row = {
-        {"ms", InHundredths(request.at)},
+        {"ms", InHundredths(request.sends.front())},
         {"request", RequestText(request.message)},
         {"oid", OidText(request.message.object)},
-        {"sends", request.sends},
+        {"sends", request.sends.size()},
         {"answer", request.isAnswered ? AnswerText(request.answer) : "no answer"},
         {"tookMs", request.isAnswered ? Document(InHundredths(request.took)) : Document()},
     };
+    row["sentAtMs"] = Document::MakeList();
+    for (const double at : request.sends)
+        row["sentAtMs"].Add(InHundredths(at));
     row["skipped"] = Document::MakeList();
     for (const std::string& skipped : request.skipped)
         row["skipped"].Add(skipped);
@@ -128,8 +134,12 @@ std::string RequestLine(const Document& row) {
         "  " + Fixed(row["ms"], 9) + " ms  " + row["request"].Text() + " -> " + row["answer"].Text();
     if (!row["tookMs"].IsNull())
         line += " (" + Fixed(row["tookMs"], 0) + " ms)";
-    if (row["sends"].Integer() > 1)
-        line += ", sent " + std::to_string(row["sends"].Integer()) + " times";
+    const Document::List& sends = row["sentAtMs"].Elements();
+    std::string repeats;
+    for (size_t i = 1; i < sends.size(); ++i)
+        AddPart(repeats, Fixed(sends[i], 0));
+    if (!repeats.empty())
+        line += ", sent " + std::to_string(sends.size()) + " times, again at " + repeats;
     const size_t skipped = row["skipped"].Elements().size();
     if (skipped != 0)
         line += ", after " + std::to_string(skipped) + " to other requests";
@@ -141,26 +151,36 @@ std::string RequestLine(const Document& row) {
 Document TraceDocument(const std::vector<TracedMessage>& messages, const std::vector<ModuleObject>& objects,
                        const Document& answers) {
     Document trace = Document::MakeList();
+    Document::List& groups = trace.Elements();
+    size_t last = SIZE_MAX; // question of the module
     for (const TracedRequest& request : PairedRequests(messages)) {
-        const std::string use = UseOf(objects, request.message.object);
-        Document::List& groups = trace.Elements();
+        const ModuleObject* object = request.isOwn ? nullptr : ObjectAt(objects, request.message.object);
+        const std::string use = request.isOwn       ? "(workbench)"
+                                : object != nullptr ? object->use
+                                                    : "another question";
         if (groups.empty() || groups.back()["question"].Text() != use)
-            groups.push_back(
-                {{"question", use},
-                 {"driver", answers.IsNull() ? Document() : Document(DriverAnswer(answers, use))},
-                 {"traffic", Document::MakeList()}});
+            groups.push_back({{"question", use},
+                              {"usedFor", object != nullptr ? object->usedFor : use},
+                              {"driver", object != nullptr ? DriverAnswer(answers, use) : Document()},
+                              {"traffic", Document::MakeList()}});
         groups.back()["traffic"].Add(RowOfRequest(request));
+        if (request.isOwn)
+            continue;
+        last = groups.size() - 1;
+        if (use == kAccess) // any intact answer will do for the module
+            groups.back()["driver"] =
+                request.isAnswered && request.answer.damage == Damage::kNone ? "reached" : "not reached";
     }
-    if (answers.IsNull() && !trace.Elements().empty())
-        trace.Elements().back()["driver"] = "the query has failed";
+    if (answers.IsNull() && last != SIZE_MAX && groups[last]["driver"].IsNull())
+        groups[last]["driver"] = kFailed;
     return trace;
 }
 
 std::string TraceText(const Document& trace) {
-    std::string text = "Traffic, in milliseconds since the start\n";
+    std::string text = "Traffic, in milliseconds since the start; (workbench): not asked by the driver\n";
     for (const Document& group : trace.Elements()) {
         const Document& driver = group["driver"];
-        text += "  " + group["question"].Text() + (driver.IsNull() ? "" : ": " + driver.Text()) + "\n";
+        text += "  " + group["usedFor"].Text() + (driver.IsNull() ? "" : ": " + driver.Text()) + "\n";
         for (const Document& row : group["traffic"].Elements())
             text += RequestLine(row);
     }

@@ -7,7 +7,8 @@
 #include "workbench/lib/traffic_trace.h"
 
 // One element for each question in order: its use of the objects, what the driver made of the answers, and
-// rows of the traffic. `answers` is the document of the query; null when it has failed.
+// rows of the traffic. `answers` is the document of the query, which may lack parts; null when it has failed.
+// The workbench's own requests are marked.
 Document TraceDocument(const std::vector<TracedMessage>& messages, const std::vector<ModuleObject>& objects,
                        const Document& answers);
 

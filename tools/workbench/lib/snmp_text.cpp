@@ -221,6 +221,8 @@ void ReadPdu(const MessageReader& reader, BerReader pdu) {
     message.object = reader.Identifier(name, "the object");
     if (!varBind.failed)
         ReadValue(reader, varBind);
+    for (BerReader contents = {}; !varBinds.failed && varBinds.at != varBinds.end; ++message.moreObjects)
+        BerOpenAny(varBinds, contents);
 }
 
 // " (name)" of an enumeration's number; empty for other numbers.
@@ -228,6 +230,10 @@ std::string WordOf(const SnmpMessage& message) {
     const std::optional<FoundObject> found = FindObjectAt(message.object);
     const std::string_view word = found ? WordOfNumber(*found->object, message.number) : std::string_view();
     return word.empty() ? "" : " (" + std::string(word) + ")";
+}
+
+std::string MoreText(const SnmpMessage& message) {
+    return message.moreObjects != 0 ? " and " + std::to_string(message.moreObjects) + " more" : "";
 }
 
 std::string BytesText(const std::string& bytes) {
@@ -350,7 +356,7 @@ std::string DurationText(int64_t ticks) {
 
 std::string RequestText(const SnmpMessage& message) {
     const std::string what = NameOf(kPduNames, message.pduType, "PDU ");
-    return message.object.empty() ? what : what + ' ' + ObjectName(message.object);
+    return message.object.empty() ? what : what + ' ' + ObjectName(message.object) + MoreText(message);
 }
 
 std::string AnswerText(const SnmpMessage& message) {
@@ -364,5 +370,6 @@ std::string AnswerText(const SnmpMessage& message) {
     }
     if (message.version < 0 || message.version > kLastReadVersion)
         return VersionText(message.version) + " message";
-    return message.errorStatus != 0 ? ErrorStatusText(message.errorStatus) : ValueText(message);
+    return message.errorStatus != 0 ? ErrorStatusText(message.errorStatus)
+                                    : ValueText(message) + MoreText(message);
 }

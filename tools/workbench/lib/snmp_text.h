@@ -28,6 +28,7 @@ struct SnmpMessage {
     int32_t errorStatus = 0;
     int32_t errorIndex = 0;
     ObjectId object;       // empty: none
+    size_t moreObjects = 0;
     uint8_t valueType = 0; // 0: not read
     int64_t number = 0;    // of a numeric type
     std::string bytes;     // of a type that consists of bytes
@@ -66,7 +67,7 @@ std::string ValueText(const SnmpMessage& message);
 // "2 d 03:04:05", of hundredths of a second.
 std::string DurationText(int64_t ticks);
 
-// "GetRequest sysObjectID.0".
+// "GetRequest sysObjectID.0", "GetRequest sysDescr.0 and 2 more".
 std::string RequestText(const SnmpMessage& message);
 
 // The value, or the error, or the damage.

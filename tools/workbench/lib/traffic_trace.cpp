@@ -10,28 +10,39 @@ namespace {
 
 TrafficTrace* activeTrace = nullptr; // set while its patches are in place
 
+// The functions of Windows Sockets, set with the first trace. Called by name they would lead to themselves
+// where the workbench's own calls are recorded.
+decltype(&send) systemSend = nullptr;
+decltype(&recv) systemReceive = nullptr;
+decltype(&sendto) systemSendTo = nullptr;
+decltype(&recvfrom) systemReceiveFrom = nullptr;
+
+template <bool kIsOwn>
 int WSAAPI SendTraced(SOCKET socket, const char* bytes, int count, int flags) {
-    const int sent = send(socket, bytes, count, flags);
-    activeTrace->Add(true, bytes, sent);
+    const int sent = systemSend(socket, bytes, count, flags);
+    activeTrace->Add(true, kIsOwn, bytes, sent);
     return sent;
 }
 
+template <bool kIsOwn>
 int WSAAPI ReceiveTraced(SOCKET socket, char* bytes, int capacity, int flags) {
-    const int received = recv(socket, bytes, capacity, flags);
-    activeTrace->Add(false, bytes, received);
+    const int received = systemReceive(socket, bytes, capacity, flags);
+    activeTrace->Add(false, kIsOwn, bytes, received);
     return received;
 }
 
+template <bool kIsOwn>
 int WSAAPI SendToTraced(SOCKET socket, const char* bytes, int count, int flags, const sockaddr* to,
                         int size) {
-    const int sent = sendto(socket, bytes, count, flags, to, size);
-    activeTrace->Add(true, bytes, sent);
+    const int sent = systemSendTo(socket, bytes, count, flags, to, size);
+    activeTrace->Add(true, kIsOwn, bytes, sent);
     return sent;
 }
 
+template <bool kIsOwn>
 int WSAAPI ReceiveFromTraced(SOCKET socket, char* bytes, int capacity, int flags, sockaddr* from, int* size) {
-    const int received = recvfrom(socket, bytes, capacity, flags, from, size);
-    activeTrace->Add(false, bytes, received);
+    const int received = systemReceiveFrom(socket, bytes, capacity, flags, from, size);
+    activeTrace->Add(false, kIsOwn, bytes, received);
     return received;
 }
 
@@ -83,14 +94,21 @@ INT WINAPI RequestTraced(void* session, BYTE requestType, SnmpVarBindList* list,
 
 struct Replacement {
     const char* name;
-    void* function;
+    void* inModule;    // for the calls of the module
+    void* inWorkbench; // for those of the workbench
 };
 const Replacement kReplacements[] = {
-    {"send", reinterpret_cast<void*>(SendTraced)},
-    {"recv", reinterpret_cast<void*>(ReceiveTraced)},
-    {"sendto", reinterpret_cast<void*>(SendToTraced)},
-    {"recvfrom", reinterpret_cast<void*>(ReceiveFromTraced)},
+    {"send", reinterpret_cast<void*>(SendTraced<false>), reinterpret_cast<void*>(SendTraced<true>)},
+    {"recv", reinterpret_cast<void*>(ReceiveTraced<false>), reinterpret_cast<void*>(ReceiveTraced<true>)},
+    {"sendto", reinterpret_cast<void*>(SendToTraced<false>), reinterpret_cast<void*>(SendToTraced<true>)},
+    {"recvfrom", reinterpret_cast<void*>(ReceiveFromTraced<false>),
+     reinterpret_cast<void*>(ReceiveFromTraced<true>)},
 };
+
+template <typename Function>
+void SetSystemFunction(Function& function, HMODULE sockets, const char* name) {
+    function = reinterpret_cast<Function>(reinterpret_cast<void (*)()>(GetProcAddress(sockets, name)));
+}
 
 const IMAGE_NT_HEADERS* HeadersOf(HMODULE library) {
     const char* const base = reinterpret_cast<char*>(library);
@@ -154,12 +172,19 @@ bool UsesSystemSnmp() {
     return GetModuleHandleW(L"MGMTAPI.DLL") != nullptr && GetModuleHandleW(L"SNMPAPI.DLL") != nullptr;
 }
 
-TrafficTrace::TrafficTrace(HMODULE library) : start(CounterNow()) {
+TrafficTrace::TrafficTrace(HMODULE library, TraceOf what) : start(CounterNow()) {
     activeTrace = this;
     const HMODULE sockets = GetModuleHandleW(L"WS2_32.DLL");
-    for (const Replacement& replacement : kReplacements)
-        Patch(FindImport(library, reinterpret_cast<void*>(GetProcAddress(sockets, replacement.name))),
-              replacement.function);
+    SetSystemFunction(systemSend, sockets, "send");
+    SetSystemFunction(systemReceive, sockets, "recv");
+    SetSystemFunction(systemSendTo, sockets, "sendto");
+    SetSystemFunction(systemReceiveFrom, sockets, "recvfrom");
+    for (const Replacement& replacement : kReplacements) {
+        void* const function = reinterpret_cast<void*>(GetProcAddress(sockets, replacement.name));
+        Patch(FindImport(library, function), replacement.inModule);
+        if (what == TraceOf::kModuleAndWorkbench)
+            Patch(FindImport(GetModuleHandleW(nullptr), function), replacement.inWorkbench);
+    }
     if (UsesSystemSnmp()) {
         const FARPROC request = GetProcAddress(GetModuleHandleW(L"MGMTAPI.DLL"), "SnmpMgrRequest");
         systemRequest = reinterpret_cast<SystemRequest>(reinterpret_cast<void (*)()>(request));
@@ -184,14 +209,15 @@ std::vector<TracedMessage> TrafficTrace::Messages() const {
     return messages;
 }
 
-void TrafficTrace::Add(bool isSent, const char* bytes, int count) {
+void TrafficTrace::Add(bool isSent, bool isOwn, const char* bytes, int count) {
     if (count < 0)
         return;
     const std::lock_guard lock(access);
-    messages.push_back({MillisecondsSince(start), isSent, true, {bytes, static_cast<size_t>(count)}, {}});
+    messages.push_back(
+        {MillisecondsSince(start), isSent, isOwn, true, {bytes, static_cast<size_t>(count)}, {}});
 }
 
 void TrafficTrace::Add(bool isSent, SnmpMessage message) {
     const std::lock_guard lock(access);
-    messages.push_back({MillisecondsSince(start), isSent, false, {}, std::move(message)});
+    messages.push_back({MillisecondsSince(start), isSent, false, false, {}, std::move(message)});
 }

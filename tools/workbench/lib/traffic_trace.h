@@ -2,7 +2,8 @@
 // Windows Sockets through the import table of its library; while a trace exists, the table leads to functions
 // that record and pass on. Where the module uses the system's SNMP libraries, the pointer to their request
 // function is replaced in the same way: then the answers are recorded as these libraries return them, without
-// the datagrams, and a request that they repeat is recorded once.
+// the datagrams, and a request that they repeat is recorded once. The workbench's own requests can be
+// recorded in the same way, by its own import table.
 #ifndef WORKBENCH_LIB_TRAFFIC_TRACE_H
 #define WORKBENCH_LIB_TRAFFIC_TRACE_H
 
@@ -17,6 +18,7 @@
 struct TracedMessage {
     double at; // milliseconds since the start of the trace
     bool isSent;
+    bool isOwn;          // of the workbench, not of the module
     bool isDatagram;     // otherwise recorded at the system's libraries
     std::string bytes;   // of a datagram
     SnmpMessage message; // otherwise; without version, community and request-id
@@ -28,11 +30,13 @@ size_t RepeatsIn(const std::vector<TracedMessage>& messages);
 // Whether the module makes its requests through the system's SNMP libraries, as it does where both load.
 bool UsesSystemSnmp();
 
+enum class TraceOf { kModule, kModuleAndWorkbench };
+
 // Only one trace exists at a time. The library must stay loaded. A query on another thread is recorded, too,
 // and must end before the trace does.
 class TrafficTrace {
 public:
-    explicit TrafficTrace(HMODULE library);
+    explicit TrafficTrace(HMODULE library, TraceOf what = TraceOf::kModule);
     ~TrafficTrace();
     TrafficTrace(const TrafficTrace&) = delete;
     TrafficTrace& operator=(const TrafficTrace&) = delete;
@@ -40,7 +44,7 @@ public:
     // What has been recorded so far.
     std::vector<TracedMessage> Messages() const;
 
-    void Add(bool isSent, const char* bytes, int count); // nothing for a negative count
+    void Add(bool isSent, bool isOwn, const char* bytes, int count); // nothing for a negative count
     void Add(bool isSent, SnmpMessage message);
 
 private:
