@@ -143,7 +143,7 @@ struct Echo {
     Echo() {
         sockaddr_in own = {};
         own.sin_family = AF_INET;
-        own.sin_port = htons(kAskedPort);
+        own.sin_port = htons(kSnmpPort);
         own.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
         EXPECT_EQ(bind(handle, reinterpret_cast<const sockaddr*>(&own), sizeof(own)), 0);
         thread = std::thread([this] {

@@ -83,10 +83,8 @@ std::string NotReported(const Observations& seen, Reported reported) {
 
 // Empty when the device has sent no text.
 std::string ModelText(const Observations& seen, const DescriptionObject& object) {
-    const Arrival* answer = object.question != SIZE_MAX ? seen.exchange->AnswerTo(object.question) : nullptr;
-    return answer != nullptr && HasValue(answer->message) && IsTextType(answer->message.valueType)
-               ? OneLine(PrinterText(answer->message.bytes))
-               : "";
+    const Arrival* answer = AnswerTo(seen, object);
+    return answer != nullptr && IsTextType(answer->message.valueType) ? DescriptionText(seen, object) : "";
 }
 
 } // namespace

@@ -51,7 +51,7 @@ void Exchange::Send(size_t question) {
     const std::string message = RequestFor(questions[question], requestId);
     sockaddr_in to = {};
     to.sin_family = AF_INET;
-    to.sin_port = htons(kAskedPort);
+    to.sin_port = htons(kSnmpPort);
     to.sin_addr.s_addr = address;
     requests.push_back({question, requestId, Now()});
     isSent = sendto(handle, message.data(), static_cast<int>(message.size()), 0,

@@ -39,8 +39,6 @@ struct Arrival {
     bool IsOtherMessage() const; // intact, but no response; belongs to no request
 };
 
-constexpr uint16_t kAskedPort = 161;
-
 class Exchange {
 public:
     // The address is in network order. Nothing is sent or awaited once `limit` milliseconds have passed.

@@ -28,8 +28,6 @@ constexpr const char* kDeviceIsPrinter = ".1.3.6.1.2.1.25.3.1.5";
 constexpr int kMaxDevices = 16;        // more are not looked at
 constexpr double kDevicesLimit = 5000; // milliseconds, then no further one
 
-constexpr const char* kFirstTrayType = ".1.3.6.1.2.1.43.8.2.1.2.1.1"; // prtInputType
-
 using Stage = std::function<void(const char* stage)>;
 
 // --- The name
@@ -183,7 +181,7 @@ void FindAccess(Observations& seen) {
         return;
     const std::vector<AskedObject> others = {
         {DriverAccess(), agent},
-        {DriverAccess(), OidOf(kFirstTrayType)},
+        {DriverAccess(), OidOf(kPrinterObject)},
         {{kVersion2c, kCommunity}, agent},
         {{kVersion1, kPublicCommunity}, agent},
         {{kVersion2c, kPublicCommunity}, agent},

@@ -143,13 +143,13 @@ std::string FindOtherAddress(const Observations& seen) {
 
 std::string FindOtherPort(const Observations& seen) {
     const Concerned concerned = ConcernedBy(seen, [&](const Arrival& arrival, const AskedObject&) {
-        return arrival.address == seen.host.ipv4 && arrival.port != kAskedPort;
+        return arrival.address == seen.host.ipv4 && arrival.port != kSnmpPort;
     });
     return concerned.arrivals.empty()
                ? ""
                : AboutAnswers(concerned, "Answers come from another port than the one asked: UDP port "
                                              + std::to_string(concerned.arrivals[0]->port) + " instead of "
-                                             + std::to_string(kAskedPort));
+                                             + std::to_string(kSnmpPort));
 }
 
 std::string FindCut(const Observations& seen) {
