@@ -105,13 +105,20 @@ double InHundredths(double milliseconds) {
     return std::round(milliseconds * 100) / 100;
 }
 
+// With the object, where the answer is about another one than the request.
+std::string AnswerTo(const TracedRequest& request) {
+    const ObjectId& object = request.answer.object;
+    const bool isOther = !object.empty() && object != request.message.object;
+    return (isOther ? ObjectName(object) + " = " : "") + AnswerText(request.answer);
+}
+
 Document RowOfRequest(const TracedRequest& request) {
     Document row = {
         {"ms", InHundredths(request.sends.front())},
         {"request", RequestText(request.message)},
         {"oid", OidText(request.message.object)},
         {"sends", request.sends.size()},
-        {"answer", request.isAnswered ? AnswerText(request.answer) : "no answer"},
+        {"answer", request.isAnswered ? AnswerTo(request) : "no answer"},
         {"tookMs", request.isAnswered ? Document(InHundredths(request.took)) : Document()},
     };
     row["sentAtMs"] = Document::MakeList();
