@@ -34,6 +34,7 @@ std::string FindChangedCommunity(const Observations& seen);
 std::string FindWrongType(const Observations& seen);
 std::string FindNumberType(const Observations& seen);
 std::string FindNotAPrinter(const Observations& seen);
+std::string FindStopped(const Observations& seen);
 std::string FindOtherDevice(const Observations& seen);
 std::string FindOtherModel(const Observations& seen);
 std::string FindOtherSupplies(const Observations& seen);

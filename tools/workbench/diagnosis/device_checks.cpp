@@ -103,6 +103,12 @@ std::string FindNotAPrinter(const Observations& seen) {
                : "";
 }
 
+std::string FindStopped(const Observations& seen) {
+    return !seen.driver.criticalAlerts.empty()
+               ? "The printer has stopped: " + seen.driver.criticalAlerts + "."
+               : "";
+}
+
 std::string FindOtherDevice(const Observations& seen) {
     return seen.printerNumber > 1
                ? "The printer is device " + std::to_string(seen.printerNumber) + " of its host, not device 1."

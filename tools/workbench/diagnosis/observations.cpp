@@ -2,6 +2,7 @@
 #include "workbench/diagnosis/observations.h"
 
 #include "workbench/diagnosis/samples.h"
+#include "workbench/lib/printer_alerts.h"
 #include "workbench/lib/printer_identity.h"
 #include "workbench/lib/stopwatch.h"
 #include "workbench/lib/text.h"
@@ -127,6 +128,11 @@ void AskDriver(DriverWork& work) {
         });
         Query(work, "profiles",
               [&](const Printer& printer) { Keep(work, seen.profiles, AskProfiles(printer)); });
+        Query(work, "alerts", [&](const Printer& printer) {
+            const uint32_t address = AgentAddress(printer);
+            const ObjectValues state = ReadObjects(address, {kErrorStateObject});
+            Keep(work, seen.criticalAlerts, CriticalAlerts(AskAlerts(address, state[0])));
+        });
     }
     const std::lock_guard lock(work.access);
     seen.repeats = RepeatsIn(trace.Messages());

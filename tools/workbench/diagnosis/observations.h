@@ -43,7 +43,8 @@ struct DriverObservation {
     std::optional<std::array<StoredResources, 2>> overlays; // none: not answered
     std::optional<StoredProfiles> profiles;                 // the same
     std::vector<std::string>
-        otherSupplies; // what the device calls supplies that it uses otherwise; empty: as the driver
+        otherSupplies;          // what the device calls supplies that it uses otherwise; empty: as the driver
+    std::string criticalAlerts; // in words; not asked by the driver, but like it
     std::vector<std::string> failed; // queries
 };
 

@@ -50,7 +50,7 @@ Document NetworkSection(const Observations& seen) {
     Document network = {{"port", seen.isAddressed ? "open"
                                  : seen.isRefused ? "closed"
                                  : isSent         ? "silent"
-                                                  : "unreachable: nothing could be sent"}};
+                                                  : "unreachable"}};
     for (const Access& access : seen.answered)
         network["answers"].Add(VersionText(access.version) + " with community " + access.community);
     network["requests"] = seen.isAddressed ? samples.requests : isSent ? seen.exchange->Requests().size() : 0;
