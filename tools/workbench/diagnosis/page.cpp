@@ -137,6 +137,7 @@ Document DriverSection(const Observations& seen) {
     };
     if (driver.isReached) {
         shown["failedQueries"] = std::move(failed);
+        shown["repeatedRequests"] = driver.repeats;
         shown["overlays"] = driver.overlays ? Document(StoredCount(*driver.overlays)) : Document();
         shown["colorProfiles"] = driver.profiles ? Document(StoredCount(*driver.profiles)) : Document();
     }

@@ -27,7 +27,7 @@ struct SnmpMessage {
     uint32_t requestId = 0;
     int32_t errorStatus = 0;
     int32_t errorIndex = 0;
-    ObjectId object;       // empty: none
+    ObjectId object; // empty: none
     size_t moreObjects = 0;
     uint8_t valueType = 0; // 0: not read
     int64_t number = 0;    // of a numeric type
