@@ -38,7 +38,7 @@ constexpr struct {
      "Turn on SNMP in the printer's network settings, and check that this is the printer's address."},
     {"otherMessages", About::kWay, FindOtherMessages,
      "The driver discards such a message and does not ask again: the query fails.",
-     "Check that this is the printer's address: another program uses UDP port 161, which may return what it receives.",
+     "Check that this is the printer's address: another program, such as an echo service, uses UDP port 161 there.",
      "The driver discards such a message, does not ask again and reports the printer as unreachable."},
     {"silent", About::kWay, FindSilent,
      "The driver reports the printer as unreachable.",
@@ -52,7 +52,7 @@ constexpr struct {
      "Allow the community tovask to read in the printer's SNMP settings."},
     {"otherAddress", About::kTraffic, FindOtherAddress,
      "The driver takes answers only from the address that it has asked; to it the printer does not answer.",
-     "If the other address is the printer's, enter it; otherwise correct the address translation (NAT, VPN) on the way.",
+     "If the other address is the printer's, enter it; if not, correct the address translation (NAT, VPN) on the way.",
      "The driver takes answers only from the address that it has asked. It gets none and reports the printer as "
      "unreachable."},
     {"otherPort", About::kTraffic, FindOtherPort,
