@@ -52,7 +52,6 @@ constexpr FaultCase kFaultCases[] = {
     {"33", "notAPrinter",      false, "not a printer"},
     {"34", "unusableValues",   true,  "can't use what the printer reports about Memory\\.$"},
     {"37", "stopped",          true,  "has stopped: Front door is open\\.$"},
-    {"36", "slow",             false, "take long: 15\\d\\d ms as a rule"},
     {"31", "otherModel otherSupplies missingValues", true, "calls itself 'Halden M410', not 'QUORVANE lumora R880'"},
     {"32", "otherModel",       true,  "calls itself 'QUORVANE Lumora R880', not 'QUORVANE lumora R880'"},
     {"nowhere.invalid", "unknownHost", false, "no device with the name nowhere\\.invalid"},
