@@ -125,14 +125,19 @@ TEST(WorkbenchFleet, ListFaultsAreReportedTogether) {
             EXPECT_NE(faults.find(fault), std::string::npos) << fault << "\n" << faults;
         EXPECT_EQ(std::count(faults.begin(), faults.end(), '\n'), 11) << faults;
     }
-    try {
-        ParsePrinterList("10.0.0.1\n10.0.0.2 B\u00FCro\n10.0.0.3 B\u00FCr\xFCo\n", "f");
-        FAIL() << "accepted";
-    } catch (const Failure& failure) {
-        EXPECT_STREQ(failure.what(), "f:3:13: not UTF-8: save the file as UTF-8");
-    }
-    EXPECT_THROW(ParsePrinterList("# none\n", "f"), Failure);
-    EXPECT_THROW(ParsePrinterList({"1\0.\0", 4}, "f"), Failure) << "UTF-16";
+    const std::pair<std::string, const char*> kFiles[] = {
+        {"10.0.0.1\n10.0.0.2 B\u00FCro\n10.0.0.3 B\u00FCr\xFCo\n", "f:3:13: not UTF-8: save the file as UTF-8"},
+        {{"1\0.\0", 4}, "f: this file is UTF-16; save it as UTF-8"},
+        {{"\0\1", 2}, "f: this file is not a text"},
+        {"# none\n", "f: has no printer; expected an IPv4 address, such as 192.0.2.10, or a host name in each line"},
+    };
+    for (const auto& [text, fault] : kFiles)
+        try {
+            ParsePrinterList(text, "f");
+            FAIL() << "accepted";
+        } catch (const Failure& failure) {
+            EXPECT_STREQ(failure.what(), fault);
+        }
 }
 
 TEST(WorkbenchFleet, RangeHasItsHosts) {
