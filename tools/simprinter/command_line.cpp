@@ -75,9 +75,20 @@ std::vector<CLI::Option*> AddPrinterOptions(CLI::App& app, PrinterOptions& print
     };
 }
 
+// The options in front of `record` are those of a simulated printer, which it does not have.
+void RefuseOptionsInFront(const CLI::App& app) {
+    for (const CLI::Option* option : app.get_options()) {
+        if (option->count() != 0)
+            throw WrongUsage(option->get_name()
+                             + " is in front of 'record', where it has no effect: write the "
+                               "options of 'record' behind it\n'simprinter record --help' lists them.");
+    }
+}
+
 void AddRecordCommand(CLI::App& app, RecordOptions& record, std::string& version) {
     CLI::App* const command =
         app.add_subcommand("record", "walk a device and write its objects to an .snmprec file");
+    command->footer("'simprinter --replay FILE' serves what was recorded.");
     command->add_option("address", record.address, "of the device, or its name")->required();
     command->add_option("-o,--output", record.file, "replaced when the walk is complete")
         ->type_name("FILE.snmprec")
@@ -121,15 +132,20 @@ bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     try {
         app.parse(argc, argv);
         if (app.got_subcommand("record")) {
+            RefuseOptionsInFront(app);
             record.version = version.empty() ? nullptr : ReadVersions({version}).front();
             line.record = record;
         }
         return true;
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0)
-            throw WrongUsage(std::string(error.what()) + "\n'simprinter --help' lists the options.");
+            throw WrongUsage(std::string(error.what()) + "\n'simprinter "
+                             + (app.got_subcommand("record") ? "record " : "")
+                             + "--help' lists the options.");
         app.exit(error);
         return false;
+    } catch (const WrongUsage&) {
+        throw;
     } catch (const std::runtime_error& error) { // a fault that can't be read
         throw WrongUsage(error.what());
     }

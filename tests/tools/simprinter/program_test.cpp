@@ -19,6 +19,8 @@ TEST(Program, ExitCodesAndMessages) {
         {"--help", 0, "A simulated printer on the network: "},
         {"--version", 0, "simprinter " PROJECT_VERSION "\n"},
         {"--prot 1", 2, "simprinter: "},
+        {"--port 1161 record 127.0.0.1 -o x", 2, "simprinter: --port is in front of 'record', where it has no effect"},
+        {"record --help | grep -c 'OID\\|control line'", 1, "0\n"}, // as of the simulated printer
         {"--fault dealy=5", 2, "simprinter: fault 'dealy=5': unknown fault; possible: silence, loss, delay, "},
         {"--fault delay", 2, "simprinter: fault 'delay': write delay=MS"},
         {"--fault loss=101", 2, "simprinter: fault 'loss=101': PERCENT must be a number from 0 to 100"},
