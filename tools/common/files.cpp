@@ -63,6 +63,28 @@ std::string ReadFile(const std::string& path, size_t most) {
     return contents;
 }
 
+std::string FileToReplace(const std::string& path) {
+    const auto refuse = [&](const char* why) {
+        throw std::runtime_error("cannot write '" + path + "': " + why);
+    };
+    std::error_code ignored;
+    const fs::file_status status = fs::status(path, ignored);
+    if (path.empty())
+        refuse("the name is empty");
+    if (fs::is_directory(status))
+        refuse("it is a folder");
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        refuse("it is not a file but a device or a pipe");
+    const bool isLink = fs::is_symlink(fs::symlink_status(path, ignored));
+    if (isLink && !fs::exists(status))
+        refuse("it is a link to a file that does not exist");
+    const std::string target = isLink ? fs::canonical(path).string() : path; // a link stays a link
+    const fs::path folder = fs::path(target).parent_path();
+    if (access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) != 0)
+        Fail("write", path, errno);
+    return target;
+}
+
 void WriteFileWhole(const std::string& path, std::string_view contents) {
     std::error_code ignored;
     const fs::file_status status = fs::status(path, ignored);
@@ -72,8 +94,7 @@ void WriteFileWhole(const std::string& path, std::string_view contents) {
             Fail("write", path, errno);
         return;
     }
-    const std::string target =
-        fs::exists(status) ? fs::canonical(path).string() : path; // a link stays a link
+    const std::string target = FileToReplace(path);
     const TemporaryFile temporary(target);
     WriteAll(temporary.descriptor, contents, path);
     const mode_t mask = umask(0);

@@ -15,4 +15,8 @@ std::string ReadFile(const std::string& path, size_t most = kMaxFileBytes);
 // as ReadFile does.
 void WriteFileWhole(const std::string& path, std::string_view contents);
 
+// The file that a new one is renamed onto to replace `path`: where its links lead. Throws std::runtime_error
+// when that is something else than a file, or its folder takes no new file.
+std::string FileToReplace(const std::string& path);
+
 #endif

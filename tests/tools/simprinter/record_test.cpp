@@ -3,12 +3,64 @@
 
 #include "common/files.h"
 
+#include <arpa/inet.h>
+#include <atomic>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <functional>
 #include <gtest/gtest.h>
 #include <regex>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
 
 namespace {
+
+// A device whose answers a function makes from the name that is asked for; it runs while the object lives.
+struct OddDevice {
+    int descriptor = socket(AF_INET, SOCK_DGRAM, 0);
+    std::string port;
+    std::atomic<bool> ends{false};
+    std::thread thread;
+
+    explicit OddDevice(const std::function<std::vector<VarBind>(const Oid& name)>& answer) {
+        sockaddr_in address = {};
+        socklen_t length = sizeof address;
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        auto* const raw = reinterpret_cast<sockaddr*>(&address);
+        const timeval limit = {0, 100000};
+        setsockopt(descriptor, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+        EXPECT_EQ(bind(descriptor, raw, length), 0);
+        getsockname(descriptor, raw, &length);
+        port = std::to_string(ntohs(address.sin_port));
+        thread = std::thread([this, answer] {
+            while (!ends) {
+                Bytes bytes(65536);
+                sockaddr_in from = {};
+                socklen_t size = sizeof from;
+                auto* const to = reinterpret_cast<sockaddr*>(&from);
+                bytes.resize(static_cast<size_t>(
+                    std::max<ssize_t>(recvfrom(descriptor, bytes.data(), bytes.size(), 0, to, &size), 0)));
+                std::string problem;
+                std::optional<Message> message = ParseRequest(bytes, problem);
+                if (!message)
+                    continue;
+                message->type = PduType::kResponse;
+                message->errorStatus = message->errorIndex = 0;
+                message->varBinds = answer(message->varBinds.at(0).name);
+                bytes = BuildMessage(*message);
+                sendto(descriptor, bytes.data(), bytes.size(), 0, to, size);
+            }
+        });
+    }
+    ~OddDevice() {
+        ends = true;
+        thread.join();
+        close(descriptor);
+    }
+};
 
 class Record : public testing::Test {
 protected:
@@ -65,24 +117,113 @@ TEST_F(Record, WhatFailsIsPassedOverAndNoted) {
 }
 
 TEST_F(Record, NothingIsWrittenWithoutAnAnswer) {
-    const RunningPrinter printer;
+    const RunningPrinter printer, damaging("--fault malformed"), elsewhere("--fault wrong-address");
     std::string closed;
     {
         const RunningPrinter other;
         closed = other.Port();
     }
     const std::tuple<std::string, std::string, std::string> cases[] = {
-        {closed, "", "simprinter: nothing listens on '127.0.0.1', UDP port " + closed + ": "},
+        {closed, "", "simprinter: nothing listens on 127.0.0.1:" + closed + ": "},
         {printer.Port(), "--community x",
-         "simprinter: no answer from '127.0.0.1', UDP port " + printer.Port()
-             + ": check the address, the community 'x'"},
+         "simprinter: no answer from 127.0.0.1:" + printer.Port() + ": check the address, the community 'x'"},
+        {damaging.Port(), "", "simprinter: no usable answer from 127.0.0.1:" + damaging.Port() + ": what came, "},
+        {elsewhere.Port(), "", ": an answer came from 127.255.255.254:"},
     };
     for (const auto& [port, options, output] : cases) {
         const CommandResult result = Run(port, options);
         EXPECT_EQ(result.exitCode, 1);
-        EXPECT_EQ(result.output.substr(0, output.size()), output);
+        EXPECT_NE(result.output.find(output), std::string::npos) << result.output;
         EXPECT_FALSE(std::filesystem::exists(file) || std::filesystem::exists(part));
     }
+}
+
+TEST_F(Record, NamesThatCannotBeWrittenAreRefusedAtOnce) {
+    const std::string gone = folder.path + "/gone", link = folder.path + "/link";
+    std::filesystem::create_symlink("nowhere", gone);
+    std::filesystem::create_symlink(folder.File("target", "old"), link);
+    const RunningPrinter printer("--replay " + device);
+    const std::pair<std::string, std::string> cases[] = {
+        {"-", "simprinter: a recording can't be written to the standard output: write the name of a file\n"},
+        {"''", "simprinter: cannot write '': the name is empty\n"},
+        {"/dev/null", "simprinter: cannot write '/dev/null': it is not a file but a device or a pipe\n"},
+        {folder.path, "simprinter: cannot write '" + folder.path + "': it is a folder\n"},
+        {gone, "simprinter: cannot write '" + gone + "': it is a link to a file that does not exist\n"},
+        {"/none/x", "simprinter: cannot write '/none/x': No such file or directory\n"},
+    };
+    for (const auto& [name, output] : cases) {
+        file = name;
+        const CommandResult result = Run(printer.Port());
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_EQ(result.output, output); // nothing is asked before
+    }
+    file = link;
+    EXPECT_EQ(Run(printer.Port()).exitCode, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(link));
+    EXPECT_GT(ReadFile(folder.path + "/target").size(), 1000U);
+}
+
+// A device that falls silent is waited for; only what it gives after that makes the recording complete.
+TEST_F(Record, SilentDeviceIsWaitedFor) {
+    const std::string pipe = folder.path + "/pipe";
+    ASSERT_EQ(RunCommand("mkfifo " + pipe).exitCode, 0);
+    const RunningPrinter printer("<>" + pipe + " --replay " + device + " --fault delay=10");
+    for (const bool returns : {false, true}) {
+        folder.File("out.snmprec", "old");
+        std::ofstream(pipe) << "clear\n" << std::flush;
+        const CommandResult result = RunCommand(
+            "{ sleep 0.6; echo fault silence; sleep 2; echo " + std::string(returns ? "clear" : "show") + "; } >" + pipe
+            + " & timeout 60 " SIMPRINTER_PROGRAM " record 127.0.0.1 --version 1 --timeout 0.06 --port "
+            + printer.Port() + " -o " + file + "; r=$?; wait; exit $r");
+        EXPECT_EQ(result.exitCode, returns ? 0 : 1) << result.output;
+        if (returns) {
+            EXPECT_EQ(WalkOfFile(), ReadFile(device));
+        } else {
+            EXPECT_NE(result.output.find("no answer for 3 seconds: the walk ends here\n"), std::string::npos);
+            EXPECT_EQ(ReadFile(file), "old");
+            EXPECT_GT(ReadFile(part).size(), 500U);
+        }
+    }
+}
+
+TEST_F(Record, WhatIsNotCompleteStaysAPart) {
+    const auto next = [](const Oid& name) { return name.size() == 5 ? name[4] + 1 : 1; };
+    const OddDevice circling([&](const Oid& name) {
+        return std::vector<VarBind>{{{1, 3, 6, 1, std::min(next(name), 7U)}, NumberValue(1)}};
+    });
+    const OddDevice large([&](const Oid& name) { // recorded as hexadecimal digits
+        return std::vector<VarBind>{{{1, 3, 6, 1, next(name)}, TextValue(std::string(50000, '\n'))}};
+    });
+    const OddDevice empty([](const Oid& name) { return std::vector<VarBind>{{name, {kEndOfMibView, 0, {}, {}}}}; });
+    const std::tuple<const OddDevice*, const char*, size_t> cases[] = {
+        {&circling, "after .1.3.6.1.7 the device gives .1.3.6.1.7, which does not come later", 7},
+        {&large, "the walk ends at the limit of 100000 objects and 8388608 bytes", 83},
+        {&empty, "the device '127.0.0.1' has answered, but gives no object", 0},
+    };
+    for (const auto& [odd, message, objects] : cases) {
+        folder.File("out.snmprec", "old");
+        const CommandResult result = Run(odd->port);
+        EXPECT_EQ(result.exitCode, 1);
+        EXPECT_NE(result.output.find(message), std::string::npos) << result.output;
+        EXPECT_EQ(ReadFile(file), "old");
+        EXPECT_EQ(std::filesystem::exists(part), objects != 0);
+        if (objects == 0)
+            continue;
+        const RunningPrinter replay("--replay " + part); // takes it
+        EXPECT_EQ(RunCommand("grep -c '^1' " + part).output, std::to_string(objects) + '\n');
+        std::filesystem::remove(part);
+    }
+}
+
+TEST_F(Record, NamesWithoutAValueAreLeftOut) {
+    const OddDevice odd([](const Oid& name) {
+        const uint32_t last = name.size() == 5 ? name[4] + 1 : 1;
+        const Tag tag = last % 3 == 0 ? kNoSuchInstance : last == 5 ? kEndOfMibView : kNull;
+        return std::vector<VarBind>{{last == 5 ? name : Oid{1, 3, 6, 1, last}, {tag, 0, {}, {}}}};
+    });
+    EXPECT_EQ(Run(odd.port).exitCode, 0);
+    EXPECT_EQ(ReadFile(file), "# 127.0.0.1, SNMPv2c\n1.3.6.1.1|5|\n1.3.6.1.2|5|\n1.3.6.1.4|5|\n"
+                              "# 1 objects are left out, as the device gives no value; the first is .1.3.6.1.3\n");
 }
 
 // What was recorded stays in the part; the old file is untouched.

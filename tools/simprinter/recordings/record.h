@@ -15,8 +15,8 @@ struct RecordOptions {
 
 // Prints what happens and what could not be read. The file gets its name when the walk is complete, except
 // for objects that the device does not give; before it has ".part" at the end, and keeps it when the walk is
-// stopped. Returns whether the walk is complete. Throws std::runtime_error when the device does not answer or
-// the file can't be written.
+// stopped or ends early. Returns whether the walk is complete. Throws std::runtime_error when the device does
+// not answer or has no object, or the file can't be written.
 bool RecordDevice(const RecordOptions& options);
 
 #endif

@@ -50,41 +50,38 @@ ClientSocket::~ClientSocket() {
         close(descriptor);
 }
 
-std::vector<std::vector<uint8_t>> FindAddresses(const std::string& host, uint16_t port) {
+std::vector<SocketAddress> FindAddresses(const std::string& host, uint16_t port) {
     addrinfo hints = {};
     hints.ai_socktype = SOCK_DGRAM;
     addrinfo* found = nullptr;
     if (const int error = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found); error != 0)
         throw std::runtime_error("cannot find the address of '" + host + "': " + gai_strerror(error));
     const std::unique_ptr<addrinfo, void (*)(addrinfo*)> release(found, freeaddrinfo);
-    std::vector<std::vector<uint8_t>> addresses;
+    std::vector<SocketAddress> addresses;
     for (const addrinfo* next = found; next; next = next->ai_next) {
-        const auto* bytes = reinterpret_cast<const uint8_t*>(next->ai_addr);
-        addresses.emplace_back(bytes, bytes + next->ai_addrlen);
+        SocketAddress& address = addresses.emplace_back();
+        std::memcpy(&address.storage, next->ai_addr, next->ai_addrlen);
+        address.length = next->ai_addrlen;
     }
     return addresses;
 }
 
-void Connect(SnmpClient& client, const std::vector<uint8_t>& address) {
-    sockaddr_storage storage = {};
-    std::memcpy(&storage, address.data(), std::min(address.size(), sizeof storage));
+bool Connect(SnmpClient& client, const SocketAddress& address) {
     if (client.socket.descriptor >= 0)
         close(client.socket.descriptor);
-    client.socket.descriptor = socket(storage.ss_family, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    const auto* raw = reinterpret_cast<const sockaddr*>(&storage);
-    if (client.socket.descriptor < 0
-        || connect(client.socket.descriptor, raw, static_cast<socklen_t>(address.size())) != 0)
-        throw std::runtime_error(std::string("cannot reach the device: ") + std::strerror(errno));
+    client.socket.descriptor = socket(address.storage.ss_family, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    return client.socket.descriptor >= 0
+           && connect(client.socket.descriptor, address.Raw(), address.length) == 0;
 }
 
 Answer Ask(SnmpClient& client, PduType type, const Oid& name, int repetitions, int tries, Message& reply) {
-    Message request;
-    request.version = client.version;
-    request.community = client.community;
-    request.type = type;
-    request.requestId = ++client.lastRequestId;
-    request.errorIndex = type == PduType::kGetBulk ? repetitions : 0;
-    request.varBinds = {{name, {}}};
+    const Message request = {client.version,
+                             client.community,
+                             type,
+                             ++client.lastRequestId,
+                             0,
+                             type == PduType::kGetBulk ? repetitions : 0,
+                             {{name, {}}}};
     const Bytes datagram = BuildMessage(request);
     Milliseconds wait = client.wait;
     Answer answer = Answer::kNone;
@@ -101,4 +98,23 @@ Answer Ask(SnmpClient& client, PduType type, const Oid& name, int repetitions, i
         wait = std::min(2 * wait, client.longestWait);
     }
     return answer;
+}
+
+std::string UnusualAnswer(const SnmpClient& client, const SocketAddress& address, const Oid& name) {
+    const bool isIpv6 = address.storage.ss_family == AF_INET6;
+    const UdpSocket socket(ResolveEndpoint({isIpv6 ? "::" : "0.0.0.0", 0})); // not connected
+    for (const Version& version : kVersions)
+        socket.Send(BuildMessage({&version, client.community, PduType::kGetNext, 1, 0, 0, {{name, {}}}}),
+                    address);
+    pollfd entry = {socket.descriptor, POLLIN, 0};
+    Bytes datagram;
+    SocketAddress from;
+    if (poll(&entry, 1, static_cast<int>(client.longestWait.count())) != 1 || !socket.Receive(datagram, from))
+        return "";
+    const std::string source = EndpointText(EndpointOf(from));
+    if (source != EndpointText(EndpointOf(address)))
+        return "an answer came from " + source + ", which was not asked";
+    return ParseReply(datagram)
+               ? "one answer came, but most are lost"
+               : "what came, " + std::to_string(datagram.size()) + " bytes, is damaged or no reply of SNMP";
 }

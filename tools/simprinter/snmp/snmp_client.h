@@ -3,6 +3,7 @@
 #define SIMPRINTER_SNMP_CLIENT_H
 
 #include "simprinter/snmp/message.h"
+#include "simprinter/udp_socket.h"
 
 #include <chrono>
 
@@ -36,12 +37,16 @@ struct SnmpClient {
 };
 
 // The socket addresses of a host name or an address. Throws std::runtime_error when there is none.
-std::vector<std::vector<uint8_t>> FindAddresses(const std::string& host, uint16_t port);
+std::vector<SocketAddress> FindAddresses(const std::string& host, uint16_t port);
 
-// Throws std::runtime_error when the address can't be reached.
-void Connect(SnmpClient& client, const std::vector<uint8_t>& address);
+// False, with errno, when the address can't be reached.
+bool Connect(SnmpClient& client, const SocketAddress& address);
 
 // Sends the request up to `tries` times; the wait doubles each time. `reply` has the variables.
 Answer Ask(SnmpClient& client, PduType type, const Oid& name, int repetitions, int tries, Message& reply);
+
+// Asks an address that gave no reply once more, in each version, and takes what comes from anywhere: says
+// what is unusual about it. Empty when nothing comes.
+std::string UnusualAnswer(const SnmpClient& client, const SocketAddress& address, const Oid& name);
 
 #endif
