@@ -251,7 +251,7 @@ void FindAgent(const RecordOptions& options, SnmpClient& client) {
         const std::string problem = FindVersion(options, address, client);
         if (problem.empty())
             return;
-        problems += (problems.empty() ? "" : "\n") + problem;
+        problems += (problems.empty() ? "" : "\nsimprinter: ") + problem;
     }
     throw std::runtime_error(problems);
 }
