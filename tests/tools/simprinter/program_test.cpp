@@ -46,6 +46,32 @@ TEST(Program, ExitCodesAndMessages) {
     }
 }
 
+// scripts/with-printers, on port 161.
+TEST(Program, CommandRunsOnlyWhilePrintersAnswer) {
+    const TemporaryFolder folder;
+    const std::string list = folder.path + "/with_printers_test.list";
+    const std::string with =
+                          "LUMORA_HOST_TOOLS=$(dirname " SIMPRINTER_PROGRAM ") timeout 20 " SCRIPTS "/with-printers ",
+                      run = with + list;
+    const char* const good = "127.0.165.1 simprinter\n";
+    const std::tuple<std::string, std::string, int, std::string> cases[] = {
+        {good, with, 2, "usage: with-printers LIST COMMAND [ARGUMENT]...\n"},
+        {good, run, 2, "usage: with-printers LIST COMMAND [ARGUMENT]...\n"},
+        {good, run + " echo runs", 0, "runs\n"},
+        {good, run + ' ' + run.substr(run.find("timeout")) + " echo runs", 1,
+         "with-printers: the printers of a list with_printers_test.list are running already"},
+        {"127.0.165.1 simprinter --bad", run + " echo runs", 1, "simprinter: "}, // after the log of a good run
+        {"127.0.165.2 snmpd tests/devcomm/queries/printers/snmpd.conf\n", run + " echo runs", 0, "runs\n"},
+    };
+    for (const auto& [lines, command, exitCode, output] : cases) {
+        folder.File("with_printers_test.list", lines);
+        const CommandResult result = RunCommand(command);
+        EXPECT_EQ(result.exitCode, exitCode) << command;
+        EXPECT_NE(result.output.find(output), std::string::npos) << result.output;
+        EXPECT_EQ(result.output.find("runs\n") == std::string::npos, exitCode != 0) << result.output;
+    }
+}
+
 TEST(Program, LogHasALineForEachDatagram) {
     const TemporaryFolder folder;
     const std::string file = folder.path + "/log";
