@@ -53,8 +53,13 @@ bool Move(Movement& movement, Thing& thing, double seconds, const UsedOf& usedOf
 }
 
 template <typename Thing>
+bool IsCounted(const Thing& thing) {
+    return thing.level >= 0 && thing.capacity > 0;
+}
+
+template <typename Thing>
 bool MoveCounted(Movement& movement, Thing& thing, double seconds) {
-    if (thing.level < 0 || thing.capacity <= 0) // nothing to count
+    if (!IsCounted(thing))
         return false;
     return Move(
         movement, thing, seconds, [&](int level) { return UsedPart(level, thing.capacity); },
@@ -72,6 +77,17 @@ double Period(double least, std::mt19937& random) {
     return least * (1 + static_cast<double>(random() % 101) / 100);
 }
 
+// Makes the fastest of the trays whose levels move take so long.
+void ScaleTrays(const Device& device, double seconds, std::vector<Movement>& trays) {
+    double fastest = 0;
+    for (size_t i = 0; i < trays.size(); ++i) {
+        if (IsCounted(device.trays[i]) && (fastest == 0 || trays[i].period < fastest))
+            fastest = trays[i].period;
+    }
+    for (Movement& tray : trays)
+        tray.period *= fastest == 0 ? 1 : seconds / fastest;
+}
+
 } // namespace
 
 Variation StartVariation(const Device& device, double seconds, std::mt19937& random) {
@@ -80,6 +96,7 @@ Variation StartVariation(const Device& device, double seconds, std::mt19937& ran
     Variation variation;
     for (size_t i = 0; i < device.trays.size(); ++i)
         variation.trays.push_back({Period(seconds, random), kNotShown});
+    ScaleTrays(device, seconds, variation.trays);
     for (size_t i = 0; i < device.supplies.size(); ++i)
         variation.supplies.push_back({Period(kSuppliesLast * seconds, random), kNotShown});
     return variation;
