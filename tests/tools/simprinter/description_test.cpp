@@ -54,6 +54,11 @@ TEST(Description, EveryErrorIsReportedAtItsPlace) {
         {"options: FAX", "1:10: 'options' must be a list of '- ' elements, or []\n"},
         {"overlays: [{title: t}]", "1:12: 'name' is missing: an overlay needs it\n"},
         {"trays:\n  - {tray: TRAY1}\n  - {tray: tray1}", "3:5: 'TRAY1' occurs twice: remove one\n"},
+        {"options: [FAX, fax, QA-110, FAX]", "1:29: 'FAX' occurs more than twice: remove one\n"},
+        {"trays: [{tray: TRAY1, level: 600, capacity: 500}]",
+         "1:30: 'level' is 600, but the capacity is 500: write at most that\n"},
+        {"supplies: [{supply: cyan, level: -7}]",
+         "1:34: 'level' is -7, which is out of range: write -3 to 2147483647\n"},
         {"trays: [{tray: TRAY1, level: much}]",
          "1:30: 'level' can't be 'much'; possible: unknown, some, or a number\n"},
     };

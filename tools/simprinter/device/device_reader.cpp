@@ -17,6 +17,7 @@ struct FieldValue {
     std::string name;
     const YAML::Node& node;
     Findings& findings;
+    bool isSetting = false; // while the printer runs; otherwise of a description
 
     void Refuse(const std::string& problem) const { findings.Error(PlaceOf(node), problem); }
 };
@@ -124,12 +125,12 @@ void ReadWord(const FieldValue& value, const Word (&words)[kCount], int& to, con
     to = word ? word->code : to;
 }
 
-// A word or a numeric code. Any number is accepted, so that unusual devices can be described.
+// A word or a numeric code. Many numbers are accepted, so that unusual devices can be described.
 template <size_t kCount>
-void ReadWordOrNumber(const FieldValue& value, const Word (&words)[kCount], int& to) {
+void ReadWordOrNumber(const FieldValue& value, const Word (&words)[kCount], int& to, int least = INT_MIN) {
     const std::string text = value.node.IsScalar() ? value.node.Scalar() : "";
     if (!text.empty() && text.find_first_not_of("-0123456789") == std::string::npos)
-        ReadInt(value, INT_MIN, to);
+        ReadInt(value, least, to);
     else
         ReadWord(value, words, to, ", or a number");
 }
@@ -178,16 +179,47 @@ void ReadUniqueThings(const FieldValue& value, const char* what, const FieldRow<
 
 // --- The tables of fields
 
-// Without a level the supply is full. The waste box, whose level is the room left, has some.
+// Sets a capacity that was read. In a description a tray or a supply without a level is full; the waste box,
+// whose level is the room left, has some.
+template <typename Thing>
+void TakeCapacity(const FieldValue& value, int capacity, Thing& thing) {
+    if (value.isSetting && capacity >= 0 && thing.level > capacity)
+        return value.Refuse(Quote(value.name) + " is " + std::to_string(capacity) + ", but the level is "
+                            + std::to_string(thing.level) + ": set a lower level first");
+    thing.capacity = capacity;
+    if (!value.isSetting && thing.level >= 0)
+        thing.level = capacity;
+}
+
+void ReadTrayCapacity(const FieldValue& value, Tray& tray) {
+    int capacity = tray.capacity;
+    ReadInt(value, 0, capacity);
+    TakeCapacity(value, capacity, tray);
+}
+
 void ReadSupplyCapacity(const FieldValue& value, Supply& supply) {
-    ReadWordOrNumber(value, kLevelWords, supply.capacity);
-    supply.level = supply.level < 0 ? supply.level : supply.capacity;
+    int capacity = supply.capacity;
+    ReadWordOrNumber(value, kLevelWords, capacity, kLevelSome);
+    TakeCapacity(value, capacity, supply);
+}
+
+template <typename Thing>
+void ReadLevel(const FieldValue& value, Thing& thing) {
+    int level = thing.level;
+    ReadWordOrNumber(value, kLevelWords, level, kLevelSome);
+    if (thing.capacity >= 0 && level > thing.capacity)
+        return value.Refuse(Quote(value.name) + " is " + std::to_string(level) + ", but the capacity is "
+                            + std::to_string(thing.capacity) + ": write at most that");
+    thing.level = level;
 }
 
 void ReadOptions(const FieldValue& value, Device& device) {
+    constexpr int kMaxOfAnOption = 2;
     ReadList(value, [&](const FieldValue& element) {
         const OptionKind* option = nullptr;
         ReadChoice(element, kOptionKinds, option);
+        if (option && std::count(device.options.begin(), device.options.end(), option) == kMaxOfAnOption)
+            element.Refuse(Quote(option->name.word) + " occurs more than twice: remove one");
         device.options.push_back(option);
     });
 }
@@ -199,15 +231,15 @@ const FieldRow<Tray> kTrayFields[] = {
     {"size",        Use::kSettable, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperSizes, t.size); }},
     {"orientation", Use::kSettable, [](const FieldValue& v, Tray& t) { ReadWord(v, kOrientations, t.orientation); }},
     {"type",        Use::kSettable, [](const FieldValue& v, Tray& t) { ReadChoice(v, kPaperTypes, t.type); }},
-    {"capacity",    Use::kSettable, [](const FieldValue& v, Tray& t) { ReadInt(v, 0, t.capacity); t.level = t.capacity; }},
-    {"level",       Use::kSettable, [](const FieldValue& v, Tray& t) { ReadWordOrNumber(v, kLevelWords, t.level); }},
+    {"capacity",    Use::kSettable, ReadTrayCapacity},
+    {"level",       Use::kSettable, ReadLevel<Tray>},
 };
 
 const FieldRow<Supply> kSupplyFields[] = {
     {"supply",      Use::kRequired, [](const FieldValue& v, Supply& s) { ReadKind(v, kSupplyKinds, UsualSupply, s); }},
     {"name",        Use::kSettable, [](const FieldValue& v, Supply& s) { ReadText(v, s.name); }},
     {"capacity",    Use::kSettable, ReadSupplyCapacity},
-    {"level",       Use::kSettable, [](const FieldValue& v, Supply& s) { ReadWordOrNumber(v, kLevelWords, s.level); }},
+    {"level",       Use::kSettable, ReadLevel<Supply>},
 };
 
 const FieldRow<Overlay> kOverlayFields[] = {
@@ -269,7 +301,7 @@ std::string SetField(const FieldRow<Thing> (&rows)[kCount], const std::string& w
             return "the value of " + Quote(name) + " is missing";
         Findings findings;
         Thing changed = thing;
-        row.read({row.name, YAML::Node(value), findings}, changed);
+        row.read({row.name, YAML::Node(value), findings, true}, changed);
         if (!findings.list.empty())
             return findings.list.front().message;
         thing = changed;
