@@ -6,6 +6,7 @@
 #include "simprinter/device/device_reader.h"
 
 #include <algorithm>
+#include <iomanip>
 #include <sstream>
 #include <stdexcept>
 
@@ -18,11 +19,14 @@ using Selected = std::vector<Printer*>;
     throw std::runtime_error(problem);
 }
 
-// A command gets the words after it, separated by one space, and returns what it did or shows. It throws
+enum class Words { kNone, kOptional, kNeeded };
+
+// A command gets the words after it, as Tidy leaves them, and returns what it did or shows. It throws
 // std::runtime_error before it changes anything.
 struct CommandKind {
     const char* name;
-    const char* usage; // of its words; empty: none
+    Words words;
+    const char* usage; // of its words
     const char* text;
     std::string (*run)(const Selected& printers, const std::string& words, UpTime upTime);
 };
@@ -53,12 +57,27 @@ std::string Set(const Selected& printers, const std::string& words, UpTime upTim
 
 std::string SetFault(const Selected& printers, const std::string& words, UpTime) {
     const Fault fault = ParseFault(words);
+    for (const Printer* printer : printers) {
+        if (const char* const problem = FaultProblem(fault, printer->address))
+            Refuse(printer->address + ": " + problem);
+    }
     for (Printer* printer : printers)
         AddFault(printer->agent.faults, fault);
     return DoneText(printers, "fault " + FaultText(fault));
 }
 
-std::string Clear(const Selected& printers, const std::string&, UpTime upTime) {
+std::string ClearFault(const Selected& printers, const std::string& words) {
+    bool isAny = false;
+    for (Printer* printer : printers)
+        isAny = RemoveFaults(printer->agent.faults, words) || isAny;
+    if (!isAny)
+        Refuse("there is no fault " + Quote(words) + " to clear; 'show' lists the faults");
+    return DoneText(printers, "clear " + words);
+}
+
+std::string Clear(const Selected& printers, const std::string& words, UpTime upTime) {
+    if (!words.empty())
+        return ClearFault(printers, words);
     for (Printer* printer : printers) {
         printer->agent.faults.faults = printer->options.faults;
         if (!printer->start)
@@ -107,11 +126,13 @@ std::string Show(const Selected& printers, const std::string&, UpTime) {
 std::string Help(const Selected& printers, const std::string& words, UpTime upTime);
 
 constexpr CommandKind kCommands[] = {
-    {"set", "[TRAY|SUPPLY] FIELD VALUE", "TRAY1 level 0, cyan level 12, cover open, online no", Set},
-    {"fault", "NAME[=VALUE][@OID]", "adds a fault, or changes one", SetFault},
-    {"clear", "", "settings and faults as at the start", Clear},
-    {"show", "", "levels, alerts and faults", Show},
-    {"help", "", "this list", Help},
+    {"set", Words::kNeeded, "[TRAY|SUPPLY] FIELD VALUE",
+     "TRAY1 level 0, cyan level 12, cover open, online no", Set},
+    {"fault", Words::kNeeded, "NAME[=VALUE][@OID]", "adds a fault, or changes one", SetFault},
+    {"clear", Words::kOptional, "[NAME[@OID]]",
+     "takes a fault away, or all: settings and faults as at the start", Clear},
+    {"show", Words::kNone, "", "levels, alerts and faults", Show},
+    {"help", Words::kNone, "", "this list", Help},
 };
 
 std::string Usage(const CommandKind& command) {
@@ -128,12 +149,15 @@ std::string Help(const Selected&, const std::string&, UpTime) {
     return text + "\nFaults:\n" + FaultHelp();
 }
 
+std::string CommandName(const CommandKind& command) {
+    return command.name;
+}
+
 const CommandKind& FindCommand(const std::string& name) {
     for (const CommandKind& command : kCommands)
         if (name == command.name)
             return command;
-    Refuse("unknown command " + Quote(name) + "; "
-           + Choices(kCommands, [](const CommandKind& command) { return command.name; }));
+    Refuse("unknown command " + Quote(name) + "; " + Choices(kCommands, CommandName));
 }
 
 // Takes the address off the line, if there is one.
@@ -155,12 +179,17 @@ Selected Select(std::vector<Printer>& printers, std::string& line) {
     return selected;
 }
 
-// With one space between words, and none at the ends.
+// With one space between words, and none at the ends. Text in double quotes loses them and stays as it is.
 std::string Tidy(const std::string& line) {
     std::istringstream words(line);
     std::string tidy;
-    for (std::string word; words >> word;)
+    for (std::string word; words >> std::ws && !words.eof();) {
+        if (words.peek() == '"')
+            words >> std::quoted(word);
+        else
+            words >> word;
         tidy += (tidy.empty() ? "" : " ") + word;
+    }
     return tidy;
 }
 
@@ -171,11 +200,15 @@ ControlReply RunControlLine(std::vector<Printer>& printers, const std::string& l
     if (rest.empty())
         return {true, ""};
     try {
+        if (const size_t bad = FindBadUtf8(rest); bad != std::string::npos)
+            Refuse("this line is not UTF-8 from byte " + std::to_string(bad + 1) + " on");
         const Selected selected = Select(printers, rest);
+        if (rest.empty())
+            Refuse("write a command after the address; " + Choices(kCommands, CommandName));
         const size_t end = std::min(rest.find(' '), rest.size());
         const CommandKind& command = FindCommand(rest.substr(0, end));
         const std::string words = rest.substr(std::min(end + 1, rest.size()));
-        if (words.empty() == (*command.usage != 0))
+        if (command.words == (words.empty() ? Words::kNeeded : Words::kNone))
             Refuse("write " + Usage(command));
         return {true, command.run(selected, words, upTime)};
     } catch (const std::runtime_error& error) {

@@ -47,6 +47,10 @@ Printer StartPrinter(const std::string& address, const PrinterOptions& options, 
     Printer printer{address, options, {options.agent, {}, {options.faults, std::mt19937(options.seed)}},
                     {},      {},      {},
                     {},      {}};
+    for (const Fault& fault : options.faults) {
+        if (const char* const problem = FaultProblem(fault, address))
+            throw std::runtime_error(problem);
+    }
     if (!options.replayFile.empty()) {
         const auto read = [](const std::string& text, Findings& findings) {
             return std::make_shared<const ObjectMap>(ReadRecording(text, findings));

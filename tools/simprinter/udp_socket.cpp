@@ -104,8 +104,6 @@ const UdpSocket& PrinterSockets::For(Source source) {
         return otherPort ? *otherPort : otherPort.emplace(ResolveEndpoint(where));
     }
     if (source == Source::kOtherAddress) {
-        if (main.Name().storage.ss_family == AF_INET6)
-            throw std::runtime_error("IPv6 has one loopback address");
         where.address = kOtherLoopback;
         return otherAddress ? *otherAddress : otherAddress.emplace(ResolveEndpoint(where));
     }

@@ -38,6 +38,14 @@ TEST(Control, LinesChangeTheSelectedPrinters) {
     EXPECT_EQ(Say(printers, "fault delay=5"), "all 2 printers: fault delay=5");
     EXPECT_EQ(Say(printers, "fault delay=7"), "all 2 printers: fault delay=7");
     EXPECT_EQ(Say(printers, " "), "");
+    EXPECT_EQ(Say(printers, "127.0.0.1 set location \"Cellar   two\""), "127.0.0.1: set location Cellar   two");
+    EXPECT_EQ(printers[0].device.location, "Cellar   two");
+    for (const char* fault : {"loss=9@.1.3.6", "loss=9@.1.3", "loss=3"})
+        Say(printers, "fault " + std::string(fault));
+    EXPECT_EQ(Say(printers, "127.0.0.2 clear loss@.1.3"), "127.0.0.2: clear loss@.1.3");
+    const std::string left = Say(printers, "127.0.0.2 show");
+    EXPECT_EQ(left.substr(left.find("faults")), "faults: delay=7, loss=9@.1.3.6, loss=3");
+    EXPECT_EQ(Say(printers, "clear loss"), "all 2 printers: clear loss");
     EXPECT_EQ(printers[0].device.trays[0].level, 500);
     EXPECT_EQ(printers[1].device.trays[0].level, 0);
     EXPECT_EQ(printers[1].device.trays[1].name, "Left tray");
@@ -67,7 +75,14 @@ TEST(Control, WrongLinesChangeNothing) {
         {"sett cover open", "unknown command 'sett'; possible: set, fault, clear, show, help"},
         {"127.0.0.3 show", "no printer has the address '127.0.0.3'; possible: 127.0.0.1, 127.0.0.2, ::1"},
         {"set", "write set [TRAY|SUPPLY] FIELD VALUE"},
-        {"clear all", "write clear"},
+        {"show all", "write show"},
+        {"127.0.0.2", "write a command after the address; possible: set, fault, clear, show, help"},
+        {"127.0.0.1 set TRAY1", "127.0.0.1: write a field and its value; possible: name, size, "},
+        {"set location Cell\xFF", "this line is not UTF-8 from byte 18 on"},
+        {"clear all", "fault 'all': unknown fault; possible: silence, "},
+        {"clear loss", "there is no fault 'loss' to clear; "},
+        {"fault delay=500 loss=20", "fault 'delay=500 loss=20': write one fault only, without blanks"},
+        {"fault wrong-address", "::1: wrong-address needs an IPv4 printer: "},
         {"127.0.0.1 set TRAY5 level 0",
          "127.0.0.1: this printer has no 'TRAY5' to be set; did you mean 'TRAY1'?; possible: "},
         {"127.0.0.1 set TRAY1 levle 0",

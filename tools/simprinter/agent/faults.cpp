@@ -176,7 +176,23 @@ std::string Usage(const FaultKind& kind) {
 
 } // namespace
 
+namespace {
+
+// The identifier after the '@' at this position; empty without one.
+Oid ParsePrefix(const std::string& text, size_t at) {
+    if (at == std::string::npos)
+        return {};
+    const std::optional<Oid> prefix = OidFromText(text.substr(at + 1));
+    if (!prefix)
+        Refuse(text, "after '@' write an object identifier such as .1.3.6.1.2.1.43");
+    return *prefix;
+}
+
+} // namespace
+
 Fault ParseFault(const std::string& text) {
+    if (text.find(' ') != std::string::npos)
+        Refuse(text, "write one fault only, without blanks");
     const size_t at = text.find('@');
     const std::string action = text.substr(0, at);
     const size_t equals = action.find('=');
@@ -194,12 +210,7 @@ Fault ParseFault(const std::string& text) {
     } else if (kind.argument == Argument::kMustHave) {
         Refuse(text, "write " + Usage(kind));
     }
-    if (at != std::string::npos) {
-        const std::optional<Oid> prefix = OidFromText(text.substr(at + 1));
-        if (!prefix)
-            Refuse(text, "after '@' write an object identifier such as .1.3.6.1.2.1.43");
-        fault.prefix = *prefix;
-    }
+    fault.prefix = ParsePrefix(text, at);
     return fault;
 }
 
@@ -214,6 +225,25 @@ void AddFault(FaultSet& set, const Fault& fault) {
     };
     set.faults.erase(std::remove_if(set.faults.begin(), set.faults.end(), isSame), set.faults.end());
     set.faults.push_back(fault);
+}
+
+bool RemoveFaults(FaultSet& set, const std::string& text) {
+    const size_t at = text.find('@');
+    const FaultKind& kind = FindKind(text, text.substr(0, at));
+    const Oid prefix = ParsePrefix(text, at);
+    const auto first = std::remove_if(set.faults.begin(), set.faults.end(), [&](const Fault& fault) {
+        return fault.kind == &kind && (at == std::string::npos || fault.prefix == prefix);
+    });
+    const bool isAny = first != set.faults.end();
+    set.faults.erase(first, set.faults.end());
+    return isAny;
+}
+
+const char* FaultProblem(const Fault& fault, const std::string& address) {
+    const bool isIpv6 = address.find(':') != std::string::npos;
+    return fault.kind->act == UseOtherAddress && isIpv6
+               ? "wrong-address needs an IPv4 printer: IPv6 has one loopback address"
+               : nullptr;
 }
 
 std::string FaultHelp() {

@@ -41,6 +41,13 @@ std::string FaultText(const Fault& fault);
 // In place of one of the same kind and prefix.
 void AddFault(FaultSet& set, const Fault& fault);
 
+// Takes away those of NAME, or NAME@OID alone. False when there is none. Throws std::runtime_error for any
+// other text.
+bool RemoveFaults(FaultSet& set, const std::string& text);
+
+// What hinders an agent of this address from having the fault; usually nothing.
+const char* FaultProblem(const Fault& fault, const std::string& address);
+
 // Help text: one line for each fault.
 std::string FaultHelp();
 

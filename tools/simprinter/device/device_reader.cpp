@@ -294,10 +294,13 @@ template <typename Thing, size_t kCount>
 std::string SetField(const FieldRow<Thing> (&rows)[kCount], const std::string& words, Thing& thing) {
     const size_t end = std::min(words.find(' '), words.size());
     const std::string name = words.substr(0, end), value = words.substr(std::min(end + 1, words.size()));
+    const std::vector<std::string> names = SettableFields(rows);
+    if (name.empty())
+        return "write a field and its value; " + Choices(names);
     for (const FieldRow<Thing>& row : rows) {
         if (row.use != Use::kSettable || !EqualNoCase(row.name, name))
             continue;
-        if (value.empty())
+        if (end == words.size())
             return "the value of " + Quote(name) + " is missing";
         Findings findings;
         Thing changed = thing;
@@ -307,7 +310,6 @@ std::string SetField(const FieldRow<Thing> (&rows)[kCount], const std::string& w
         thing = changed;
         return "";
     }
-    const std::vector<std::string> names = SettableFields(rows);
     return Quote(name) + " can't be set" + NearestHint(name, names) + "; " + Choices(names);
 }
 

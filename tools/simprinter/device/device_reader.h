@@ -11,7 +11,7 @@ Device ReadDevice(const std::string& text, Findings& findings);
 
 // Sets a field as the description gives it: "TRAY1 level 0", "cyan level 12", "cover open". Returns what is
 // wrong and what is possible, the device being unchanged; nothing when it is set. Words are separated by one
-// space.
+// space; what follows the field is the value.
 std::string SetInDevice(const std::string& words, Device& device);
 
 #endif
