@@ -106,6 +106,12 @@ void AddRecordCommand(CLI::App& app, RecordOptions& record, std::string& version
         ->capture_default_str();
 }
 
+// CLI11 lists words that it does not know from the last to the first.
+std::string ErrorText(const CLI::App& app, const CLI::ParseError& error) {
+    const std::vector<std::string> unknown = app.remaining(true);
+    return unknown.empty() ? error.what() : Quote(unknown.front()) + " is not expected here";
+}
+
 } // namespace
 
 bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
@@ -139,7 +145,7 @@ bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
         return true;
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() != 0)
-            throw WrongUsage(std::string(error.what()) + "\n'simprinter "
+            throw WrongUsage(ErrorText(app, error) + "\n'simprinter "
                              + (app.got_subcommand("record") ? "record " : "")
                              + "--help' lists the options.");
         app.exit(error);
@@ -158,6 +164,8 @@ PrinterOptions ReadPrinterOptions(const std::string& text) {
     AddPrinterOptions(app, printer);
     try {
         app.parse(text);
+    } catch (const CLI::ParseError& error) {
+        throw WrongUsage(ErrorText(app, error));
     } catch (const std::runtime_error& error) {
         throw WrongUsage(error.what());
     }

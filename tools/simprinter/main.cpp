@@ -37,7 +37,7 @@ void ServePrinters(const CommandLine& line) {
     std::vector<Endpoint> endpoints;
     endpoints.reserve(printers.size());
     for (const Printer& printer : printers)
-        endpoints.push_back({printer.address, line.port});
+        endpoints.push_back({printer.address, line.port, printer.place});
     const auto start = std::chrono::steady_clock::now();
     const auto upTime = [&] {
         return std::chrono::duration_cast<UpTime>(std::chrono::steady_clock::now() - start);

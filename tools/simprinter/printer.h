@@ -29,6 +29,7 @@ struct Printer {
     Variation variation;
     std::shared_ptr<ObjectMap> own; // the agent's objects, unless they are a recording
     bool isChanged = true;          // the objects must be built again before the next answer
+    std::string place = {};         // where a list has it, "FILE:LINE:COLUMN: "
 };
 
 // What was read from files, each of them once. Findings go to the standard error output.

@@ -1,6 +1,7 @@
 // Reads lists of printers.
 #include "simprinter/printer_list.h"
 
+#include "common/encoding.h"
 #include "common/files.h"
 #include "common/text.h"
 #include "simprinter/command_line.h"
@@ -14,10 +15,28 @@ namespace {
 constexpr size_t kMaxPrinters = 1000; // as many sockets as a process usually can have
 
 struct List {
+    std::string path;
     std::vector<Printer> printers;
     std::map<std::string, size_t> lines; // of the addresses so far
     PrinterFiles files;
 };
+
+// An error at a position of a line.
+struct LineError : std::runtime_error {
+    size_t at;
+
+    LineError(size_t where, const std::string& what) : std::runtime_error(what), at(where) {}
+};
+
+// Runs a part of the reader; its errors are those of the text at this one.
+template <typename Part>
+auto At(size_t position, const Part& part) {
+    try {
+        return part();
+    } catch (const std::runtime_error& error) {
+        throw LineError(position, error.what());
+    }
+}
 
 std::optional<uint32_t> Ipv4(const std::string& text) {
     in_addr address = {};
@@ -50,26 +69,44 @@ std::vector<std::string> AddressesOf(const std::string& text) {
     return addresses;
 }
 
+std::string PlaceOf(const List& list, size_t line, size_t at) {
+    return list.path + ':' + std::to_string(line) + ':' + std::to_string(at + 1) + ": ";
+}
+
+// Throws when the address is a name, or occurs twice; an IPv6 address can be written in several ways.
+void CheckAddress(const std::string& address, size_t line, List& list) {
+    const Endpoint endpoint = EndpointOf(ResolveEndpoint({address, 0}));
+    const auto [earlier, isNew] = list.lines.emplace(endpoint.address, line);
+    if (!isNew)
+        throw std::runtime_error(address + " occurs in line " + std::to_string(earlier->second)
+                                 + " already: remove one");
+    if (list.printers.size() == kMaxPrinters)
+        throw std::runtime_error("more than " + std::to_string(kMaxPrinters) + " printers");
+}
+
 void ReadListLine(const std::string& text, size_t line, List& list) {
-    std::istringstream words(text);
-    std::string addresses, program, options;
-    words >> addresses >> program;
-    std::getline(words, options);
-    if (addresses.empty() || addresses[0] == '#' || program == "snmpd") // an agent that is started by others
+    constexpr const char* kBlanks = " \t\r";
+    const auto wordAt = [&](size_t from) {
+        return std::min(text.find_first_not_of(kBlanks, from), text.size());
+    };
+    const auto endOf = [&](size_t word) { return std::min(text.find_first_of(kBlanks, word), text.size()); };
+    const size_t address = wordAt(0), program = wordAt(endOf(address)), options = wordAt(endOf(program));
+    const std::string agent = text.substr(program, endOf(program) - program);
+    if (address == text.size() || text[address] == '#'
+        || agent == "snmpd") // an agent that is started by others
         return;
-    if (program != "simprinter")
-        throw std::runtime_error("unknown agent " + Quote(program)
-                                 + "; write 'ADDRESS simprinter OPTIONS' ('snmpd' lines are passed over)");
-    PrinterOptions printer = ReadPrinterOptions(options);
-    for (const std::string& address : AddressesOf(addresses)) {
-        ResolveEndpoint({address, 0}); // throws for a name
-        const auto [earlier, isNew] = list.lines.emplace(address, line);
-        if (!isNew)
-            throw std::runtime_error(address + " occurs in line " + std::to_string(earlier->second)
-                                     + " already: remove one");
-        if (list.printers.size() == kMaxPrinters)
-            throw std::runtime_error("more than " + std::to_string(kMaxPrinters) + " printers");
-        list.printers.push_back(StartPrinter(address, printer, list.files));
+    if (agent != "simprinter")
+        throw LineError(program,
+                        "unknown agent " + Quote(agent)
+                            + "; write 'ADDRESS simprinter OPTIONS' ('snmpd' lines are passed over)");
+    PrinterOptions printer = At(options, [&] {
+        return ReadPrinterOptions(text.substr(options, text.find_last_not_of(kBlanks) + 1 - options));
+    });
+    const std::string addresses = text.substr(address, endOf(address) - address);
+    for (const std::string& one : At(address, [&] { return AddressesOf(addresses); })) {
+        At(address, [&] { CheckAddress(one, line, list); });
+        list.printers.push_back(At(options, [&] { return StartPrinter(one, printer, list.files); }));
+        list.printers.back().place = PlaceOf(list, line, address);
         ++printer.seed; // the printers of a range differ in losses and speeds
     }
 }
@@ -77,17 +114,23 @@ void ReadListLine(const std::string& text, size_t line, List& list) {
 } // namespace
 
 std::vector<Printer> StartListedPrinters(const std::string& path) {
-    List list;
-    std::istringstream text(ReadFile(path));
+    const std::string contents = ReadFile(path);
+    if (const char* const fault = WideTextFault(contents))
+        throw std::runtime_error(path + ": " + fault);
+    List list = {path, {}, {}, {}};
+    std::istringstream text{std::string(WithoutUtf8Mark(contents))};
+    std::string problems;
     size_t number = 0;
     for (std::string line; std::getline(text, line);) {
         ++number;
         try {
             ReadListLine(line, number, list);
-        } catch (const std::runtime_error& error) {
-            throw std::runtime_error(path + ':' + std::to_string(number) + ": " + error.what());
+        } catch (const LineError& error) {
+            problems += (problems.empty() ? "" : "\n") + PlaceOf(list, number, error.at) + error.what();
         }
     }
+    if (!problems.empty())
+        throw std::runtime_error(problems);
     if (list.printers.empty())
         throw std::runtime_error(Quote(path) + " has no printers: write lines 'ADDRESS simprinter OPTIONS'");
     return std::move(list.printers);

@@ -114,11 +114,18 @@ void Serve(const std::vector<Endpoint>& endpoints, bool logs, const ServerHandle
     SocketList sockets;
     std::vector<pollfd> entries; // those of the printers, then the standard input
     std::vector<Endpoint> opened;
+    std::string problems;
     for (const Endpoint& endpoint : endpoints) {
-        const UdpSocket& main = sockets.emplace_back(endpoint).main;
-        entries.push_back({main.descriptor, POLLIN, 0});
-        opened.push_back(EndpointOf(main.Name()));
+        try {
+            const UdpSocket& main = sockets.emplace_back(endpoint).main;
+            entries.push_back({main.descriptor, POLLIN, 0});
+            opened.push_back(EndpointOf(main.Name()));
+        } catch (const std::runtime_error& error) {
+            problems += (problems.empty() ? "" : "\n") + endpoint.place + error.what();
+        }
     }
+    if (!problems.empty())
+        throw std::runtime_error(problems);
     entries.push_back({STDIN_FILENO, POLLIN, 0});
     std::signal(SIGTTIN, SIG_IGN); // reading the terminal from the background is then an error
     const sigset_t mask = CatchStopSignals();

@@ -7,8 +7,9 @@
 #include <functional>
 
 struct Endpoint {
-    std::string address; // IPv4 or IPv6, numeric
-    uint16_t port;       // 0: any free one
+    std::string address;    // IPv4 or IPv6, numeric
+    uint16_t port;          // 0: any free one
+    std::string place = {}; // in front of errors about it: "FILE:LINE:COLUMN: "
 };
 
 // "127.0.0.1:161", "[::1]:161"
@@ -27,7 +28,7 @@ struct ServerHandlers {
 };
 
 // Opens the sockets and serves until SIGTERM or SIGINT. With `logs`, a line for each datagram goes to the
-// standard error output. Throws std::runtime_error when a socket can't be opened.
+// standard error output. Throws std::runtime_error when sockets can't be opened.
 void Serve(const std::vector<Endpoint>& endpoints, bool logs, const ServerHandlers& handlers);
 
 #endif

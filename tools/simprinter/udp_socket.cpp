@@ -22,7 +22,7 @@ std::string WhatToDo(int reason) {
     case EACCES:
         return ". Ports below 1024 need root: start as root, or choose another one with --port (0: any free port)";
     case EADDRNOTAVAIL:
-        return ". --address must be an address of this machine";
+        return ". It must be an address of this machine";
     case EMFILE:
         return ". Each printer needs one: simulate fewer, or raise the limit ('ulimit -n')";
     default:
