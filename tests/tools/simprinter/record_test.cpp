@@ -2,63 +2,45 @@
 #include "running_printer.h"
 
 #include "common/files.h"
+#include "simprinter/udp_socket.h"
 
-#include <arpa/inet.h>
 #include <atomic>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <regex>
-#include <sys/socket.h>
 #include <thread>
-#include <unistd.h>
 
 namespace {
 
 // A device whose answers a function makes from the name that is asked for; it runs while the object lives.
 struct OddDevice {
-    int descriptor = socket(AF_INET, SOCK_DGRAM, 0);
-    std::string port;
+    UdpSocket socket{ResolveEndpoint({"127.0.0.1", 0})};
+    std::string port = std::to_string(EndpointOf(socket.Name()).port);
     std::atomic<bool> ends{false};
     std::thread thread;
 
-    explicit OddDevice(const std::function<std::vector<VarBind>(const Oid& name)>& answer) {
-        sockaddr_in address = {};
-        socklen_t length = sizeof address;
-        address.sin_family = AF_INET;
-        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        auto* const raw = reinterpret_cast<sockaddr*>(&address);
-        const timeval limit = {0, 100000};
-        setsockopt(descriptor, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
-        EXPECT_EQ(bind(descriptor, raw, length), 0);
-        getsockname(descriptor, raw, &length);
-        port = std::to_string(ntohs(address.sin_port));
-        thread = std::thread([this, answer] {
-            while (!ends) {
-                Bytes bytes(65536);
-                sockaddr_in from = {};
-                socklen_t size = sizeof from;
-                auto* const to = reinterpret_cast<sockaddr*>(&from);
-                bytes.resize(static_cast<size_t>(
-                    std::max<ssize_t>(recvfrom(descriptor, bytes.data(), bytes.size(), 0, to, &size), 0)));
-                std::string problem;
-                std::optional<Message> message = ParseRequest(bytes, problem);
-                if (!message)
-                    continue;
-                message->type = PduType::kResponse;
-                message->errorStatus = message->errorIndex = 0;
-                message->varBinds = answer(message->varBinds.at(0).name);
-                bytes = BuildMessage(*message);
-                sendto(descriptor, bytes.data(), bytes.size(), 0, to, size);
-            }
-        });
-    }
+    explicit OddDevice(const std::function<VarBind(const Oid& name)>& answer)
+        : thread([this, answer] {
+              Bytes bytes;
+              std::string problem;
+              for (SocketAddress from; !ends;) {
+                  pollfd entry = {socket.descriptor, POLLIN, 0};
+                  if (poll(&entry, 1, 50) != 1 || !socket.Receive(bytes, from))
+                      continue;
+                  Message message = ParseRequest(bytes, problem).value();
+                  message.type = PduType::kResponse;
+                  message.errorIndex = 0;
+                  message.varBinds = {answer(message.varBinds.at(0).name)};
+                  socket.Send(BuildMessage(message), from);
+              }
+          }) {}
     ~OddDevice() {
         ends = true;
         thread.join();
-        close(descriptor);
     }
 };
 
@@ -189,12 +171,12 @@ TEST_F(Record, SilentDeviceIsWaitedFor) {
 TEST_F(Record, WhatIsNotCompleteStaysAPart) {
     const auto next = [](const Oid& name) { return name.size() == 5 ? name[4] + 1 : 1; };
     const OddDevice circling([&](const Oid& name) {
-        return std::vector<VarBind>{{{1, 3, 6, 1, std::min(next(name), 7U)}, NumberValue(1)}};
+        return VarBind{{1, 3, 6, 1, std::min(next(name), 7U)}, NumberValue(1)};
     });
     const OddDevice large([&](const Oid& name) { // recorded as hexadecimal digits
-        return std::vector<VarBind>{{{1, 3, 6, 1, next(name)}, TextValue(std::string(50000, '\n'))}};
+        return VarBind{{1, 3, 6, 1, next(name)}, TextValue(std::string(50000, '\n'))};
     });
-    const OddDevice empty([](const Oid& name) { return std::vector<VarBind>{{name, {kEndOfMibView, 0, {}, {}}}}; });
+    const OddDevice empty([](const Oid& name) { return VarBind{name, {kEndOfMibView, 0, {}, {}}}; });
     const std::tuple<const OddDevice*, const char*, size_t> cases[] = {
         {&circling, "after .1.3.6.1.7 the device gives .1.3.6.1.7, which does not come later", 7},
         {&large, "the walk ends at the limit of 100000 objects and 8388608 bytes", 83},
@@ -219,7 +201,7 @@ TEST_F(Record, NamesWithoutAValueAreLeftOut) {
     const OddDevice odd([](const Oid& name) {
         const uint32_t last = name.size() == 5 ? name[4] + 1 : 1;
         const Tag tag = last % 3 == 0 ? kNoSuchInstance : last == 5 ? kEndOfMibView : kNull;
-        return std::vector<VarBind>{{last == 5 ? name : Oid{1, 3, 6, 1, last}, {tag, 0, {}, {}}}};
+        return VarBind{last == 5 ? name : Oid{1, 3, 6, 1, last}, {tag, 0, {}, {}}};
     });
     EXPECT_EQ(Run(odd.port).exitCode, 0);
     EXPECT_EQ(ReadFile(file), "# 127.0.0.1, SNMPv2c\n1.3.6.1.1|5|\n1.3.6.1.2|5|\n1.3.6.1.4|5|\n"
