@@ -81,7 +81,7 @@ std::string FileToReplace(const std::string& path) {
     const std::string target = isLink ? fs::canonical(path).string() : path; // a link stays a link
     const fs::path folder = fs::path(target).parent_path();
     if (access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) != 0)
-        Fail("write", path, errno);
+        Fail("create a temporary file next to", path, errno);
     return target;
 }
 

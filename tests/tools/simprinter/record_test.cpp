@@ -131,7 +131,7 @@ TEST_F(Record, NamesThatCannotBeWrittenAreRefusedAtOnce) {
         {"/dev/null", "simprinter: cannot write '/dev/null': it is not a file but a device or a pipe\n"},
         {folder.path, "simprinter: cannot write '" + folder.path + "': it is a folder\n"},
         {gone, "simprinter: cannot write '" + gone + "': it is a link to a file that does not exist\n"},
-        {"/none/x", "simprinter: cannot write '/none/x': No such file or directory\n"},
+        {"/none/x", "simprinter: cannot create a temporary file next to '/none/x': No such file or directory\n"},
     };
     for (const auto& [name, output] : cases) {
         file = name;
