@@ -5,20 +5,29 @@
 #include <cstddef>
 #include <string_view>
 
-// What is wrong with a text in UTF-16 or UTF-32, with its byte order mark or without one, and with a file
-// that starts with other zeros; null for other texts. The files that these tools read start with an ASCII
-// character, so that the zeros around it show.
-inline const char* WideTextFault(std::string_view text) {
+// Of a file: kBytes is UTF-8 or another encoding that has ASCII in the same bytes.
+enum class Encoding { kBytes, kUtf16, kUtf32, kNotText };
+
+// With a byte order mark or without one: the files that these tools read start with an ASCII character, so
+// that the zeros around it show. A file that starts with other zeros is not a text.
+inline Encoding EncodingOf(std::string_view text) {
     const auto isZero = [text](size_t at) { return at < text.size() && text[at] == 0; };
     const bool hasMark = text.substr(0, 2) == "\xFF\xFE" || text.substr(0, 2) == "\xFE\xFF";
     if ((isZero(0) && isZero(1)) || (isZero(2) && isZero(3)))
-        return "this file is UTF-32; save it as UTF-8";
+        return Encoding::kUtf32;
     if (!hasMark && !isZero(0) && !isZero(1))
-        return nullptr;
+        return Encoding::kBytes;
     const size_t next = isZero(0) ? 1 : 0;
     const bool isCharacter =
         next < text.size() && (text[next] >= ' ' || (text[next] >= '\t' && text[next] <= '\r'));
-    return hasMark || isCharacter ? "this file is UTF-16; save it as UTF-8" : "this file is not a text";
+    return hasMark || isCharacter ? Encoding::kUtf16 : Encoding::kNotText;
+}
+
+// What is wrong with a text in UTF-16 or UTF-32, or with something else than a text; null for other texts.
+inline const char* WideTextFault(std::string_view text) {
+    constexpr const char* kFaults[] = {nullptr, "this file is UTF-16; save it as UTF-8",
+                                       "this file is UTF-32; save it as UTF-8", "this file is not a text"};
+    return kFaults[static_cast<size_t>(EncodingOf(text))];
 }
 
 // The text after the byte order mark of UTF-8, if it has one.

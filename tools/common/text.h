@@ -16,6 +16,10 @@ bool EqualNoCase(std::string_view a, std::string_view b);
 // ASCII lower case, for keys of containers that ignore case.
 std::string FoldCase(std::string_view text);
 
+inline bool HasPrefix(std::string_view text, std::string_view start) {
+    return text.substr(0, start.size()) == start;
+}
+
 // Position of the first byte that is not valid UTF-8; npos when all of it is.
 size_t FindBadUtf8(std::string_view text);
 

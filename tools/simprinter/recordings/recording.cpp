@@ -19,22 +19,25 @@ std::string TextOfUtf16(std::string_view text, Findings& findings) {
     }
     if (!units.empty() && units.front() == u'\xFEFF')
         units.erase(0, 1);
-    bool isWellFormed = text.size() % 2 == 0;
+    bool isWellFormed = false;
     const std::string utf8 = Utf8FromUtf16(units, isWellFormed);
-    if (!isWellFormed)
+    if (!isWellFormed || text.size() % 2 != 0)
         findings.Warning(AtLine(1), "this file is damaged UTF-16: some characters are lost");
     return utf8;
 }
 
 // Without a mark and in UTF-8 or an encoding that has ASCII in the same bytes.
 std::string PlainText(const std::string& text, Findings& findings) {
-    const char* const fault = WideTextFault(text);
-    if (!fault)
-        return std::string(WithoutUtf8Mark(text));
-    if (std::string_view(fault).find("UTF-16") != std::string_view::npos)
+    switch (EncodingOf(text)) {
+    case Encoding::kBytes:
+        break;
+    case Encoding::kUtf16:
         return TextOfUtf16(text, findings);
-    findings.Error(AtLine(1), fault);
-    return "";
+    case Encoding::kUtf32:
+        findings.Error(AtLine(1), WideTextFault(text));
+        return "";
+    }
+    return std::string(WithoutUtf8Mark(text));
 }
 
 } // namespace

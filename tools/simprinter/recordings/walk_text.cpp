@@ -10,12 +10,8 @@
 
 namespace {
 
-bool Begins(std::string_view text, std::string_view start) {
-    return text.substr(0, start.size()) == start;
-}
-
 bool IsAnyOf(const char* const* first, const char* const* last, std::string_view line) {
-    return std::any_of(first, last, [&](const char* start) { return Begins(line, start); });
+    return std::any_of(first, last, [&](const char* start) { return HasPrefix(line, start); });
 }
 
 // Where the recording lacks something, and what follows such a message.
@@ -59,7 +55,7 @@ std::optional<ObjectLine> SplitObject(std::string_view line, bool hasEquals) {
     ObjectLine object{ReadWalkName(line), {}};
     std::string_view rest = line.substr(object.name.length);
     const std::string_view separator = hasEquals ? " = " : " ";
-    if (object.name.length == 0 || (!Begins(rest, separator) && rest != " ="))
+    if (object.name.length == 0 || (!HasPrefix(rest, separator) && rest != " ="))
         return std::nullopt;
     object.text = rest.substr(std::min(separator.size(), rest.size()));
     const bool isSure = object.name.isSure || (hasEquals && StartsWithType(object.text));

@@ -10,10 +10,6 @@
 
 namespace {
 
-bool HasPrefix(std::string_view text, std::string_view start) {
-    return text.substr(0, start.size()) == start;
-}
-
 std::string_view Trimmed(std::string_view text) {
     constexpr const char* kBlanks = " \r\n";
     const size_t first = text.find_first_not_of(kBlanks);
