@@ -81,6 +81,7 @@ TEST(Recording, BadLinesAreWarningsAndLeftOut) {
     const std::pair<std::string, std::string> cases[] = {
         {walk + ".1.3.1.0 = No more variables left in this MIB View (It is past the end of the MIB tree)\n", ""},
         {"\n$ snmpwalk -v1 -On 10.0.0.1 .1\n" + walk + "\nEnd of MIB\nC:\\>\n", ""},
+        {"bob@host:~$ ls\n" + walk + "bob@host:~$ exit\n[bob@host ~]# exit\nC:\\>exit\n", ""},
         {walk + ".1.3.1.0 = INTEGER: 2\n", "2: warning: .1.3.1.0 occurs twice: the first value is used\n"},
         {"1: INTEGER: 3\nx\n" + walk,
          "1: warning: this line and all others before the first object are ignored, 2 in total\n"},
@@ -112,22 +113,44 @@ TEST(Recording, BadLinesAreWarningsAndLeftOut) {
     for (int i = 0; i < 60; ++i)
         many += "x\n";
     Read(many, listed);
-    EXPECT_NE(listed.find("\n61: warning: this and 9 lines before it are left out, too, for such reasons\n"),
-              std::string::npos);
-    EXPECT_EQ(Read("nothing\n", listed), "");
-    EXPECT_EQ(listed,
-              "1: no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, or '1.3.6...|TAG|VALUE'\n");
+    EXPECT_NE(listed.find("\n61: warning: up to this line, there are 10 more such warnings\n"), std::string::npos);
+    const std::string none =
+        "no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, or '1.3.6...|TAG|VALUE'";
+    const std::pair<const char*, std::string> files[] = {
+        {"\nnothing\n", "2: " + none + ", not 'nothing'\n"},
+        {"\n", "1: " + none + "; the file is empty\n"},
+        {"12: .1.3.2 = INTEGER: 5\n",
+         "1:5: " + none + "; one seems to begin here: remove what is in front of it, '12: '\n"},
+    };
+    for (const auto& [text, wanted] : files) {
+        EXPECT_EQ(Read(text, listed), "") << text;
+        EXPECT_EQ(listed, wanted);
+    }
 }
 
-// A quote that is missing does not swallow the objects after it.
-TEST(Recording, TextsOfSeveralLinesEndWhereTheyShould) {
+// A quote that is missing does not swallow the objects after it, and remarks are not taken for a text.
+TEST(Recording, TextsEndWhereTheyShould) {
+    const std::string further = ": warning: the text that starts here is read up to line ",
+                      unclear = ", as nothing shows where it ends\n";
+    const std::string five = "1.3.2|2|5\n", next = ".1.3.2 = INTEGER: 5\n";
     const std::tuple<std::string, std::string, std::string> cases[] = {
         {".1.3.1 = STRING: \"open\n.1.3.2 = INTEGER: 5\n", "1.3.2|2|5\n",
          "1: warning: the quoted text that starts here has no end\n"},
         {".1.3.1 = STRING: \"open\n.1.3.2 = STRING: \"b\"\n", "1.3.2|4|b\n",
          "1: warning: the quoted text that starts here has no end\n"},
-        {".1.3.1 = STRING: one\ntwo\n\n$ \n", "1.3.1|4x|6f6e650a74776f\n", ""},
-        {".1.3.1 = STRING: one\n\n.1.3.2 = STRING:\n", "1.3.1|4x|6f6e650a\n1.3.2|4|\n", ""},
+        {".1.3.1 = STRING: \"z\"\n\n" + next, "1.3.1|4|z\n" + five, ""},
+        {".1.3.1 = STRING: \"z\" \t\r\n\n--\nBob\n", "1.3.1|4|z\n",
+         "3: warning: expected 'NAME = TYPE: VALUE', not '--'\n4: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},
+        {".1.3.1 = STRING: \"y\nz\"  <-- here\n" + next, "1.3.1|4x|790a7a\n" + five,
+         "2: warning: '  <-- here' behind the closing quote is ignored\n"},
+        {".1.3.1 = Hex-STRING: 00 01 \n02 \nBob\n", "1.3.1|4x|000102\n",
+         "3: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},
+        {".1.3.1 = STRING: one\ntwo\n\n$ \n", "1.3.1|4x|6f6e650a74776f\n", "1" + further + "2" + unclear},
+        {".1.3.1 = STRING: one\n\nBob\n", "1.3.1|4|one\n", "3: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},
+        {".1.3.1 = STRING: one\n\n" + next, "1.3.1|4|one\n" + five, ""}, // each line is followed by a blank one
+        {".1.3.1 = STRING: one\n\n" + next + ".1.3.3 = NULL\n", "1.3.1|4x|6f6e650a\n" + five + "1.3.3|5|\n",
+         "1" + further + "2" + unclear},
+        {".1.3.1 = INTEGER: 1\nBob\n", "1.3.1|2|1\n", "2: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},
     };
     for (const auto& [text, kept, wanted] : cases) {
         std::string listed;
@@ -178,6 +201,23 @@ TEST(Recording, FilesOfWindowsAreRead) {
     }
     EXPECT_EQ(Read(std::string("\xFF\xFE\0\0.\0\0\0", 8), listed), "");
     EXPECT_EQ(listed, "1: this file is UTF-32; save it as UTF-8\n");
+}
+
+TEST(Recording, MailsTablesAndMixedLineEndsAreRead) {
+    const std::string kept = "1.3.1|4x|790a7a\n1.3.2|2|5\n";
+    const std::pair<std::string, std::string> cases[] = {
+        {"> > .1.3.1 = STRING: \"y\n> > z\"\n> >\n> > .1.3.2 = INTEGER: 5\n> >\n", kept},
+        {"\t.1.3.1\t=STRING: \"y\n\tz\"\n    .1.3.2   =  INTEGER: 5\n", kept},
+        {".1.3.1 = STRING: \"y\r\nz\"\r\n.1.3.2 = INTEGER: 5\n", kept},
+        {".1.3.1 = STRING: \"y\rz\"\r.1.3.2 = INTEGER: 5\r", kept},
+        {".1.3.1 = STRING: \"y\r\nz\"\n.1.3.2 = INTEGER: 5\r\n", "1.3.1|4x|790d0a7a\n1.3.2|2|5\n"}, // a text's own CR
+        {"1.3.1|4x|790a7a\n1.3.2|2|5\r\n", kept},
+    };
+    for (const auto& [text, wanted] : cases) {
+        std::string listed;
+        EXPECT_EQ(Read(text, listed), wanted) << text;
+        EXPECT_EQ(listed, "") << text;
+    }
 }
 
 // The first printer serves an .snmprec file to net-snmp's snmpwalk; a second one serves snmpwalk's output.

@@ -40,23 +40,38 @@ std::string PlainText(const std::string& text, Findings& findings) {
     return std::string(WithoutUtf8Mark(text));
 }
 
+void ReportNoObject(const Lines& lines, Findings& findings) {
+    constexpr size_t kMaxQuoted = 80;
+    const std::string expected =
+        "no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, or "
+        "'1.3.6...|TAG|VALUE'";
+    if (const Place place = FindObjectBehindOther(lines); place.line != 0)
+        return findings.Error(place, expected + "; one seems to begin here: remove what is in front of it, "
+                                         + Quote(lines[place.line - 1].substr(0, place.column - 1)));
+    const auto first = std::find_if(lines.begin(), lines.end(), [](std::string_view line) {
+        return line.find_first_not_of(" \t\r") != std::string_view::npos;
+    });
+    if (first == lines.end())
+        return findings.Error(AtLine(1), expected + "; the file is empty");
+    findings.Error(AtLine(static_cast<uint64_t>(first - lines.begin()) + 1),
+                   expected + ", not " + Quote(WithoutCr(*first).substr(0, kMaxQuoted)));
+}
+
 } // namespace
 
 Lines SplitLines(std::string_view text) {
     Lines lines;
-    const bool isEnded = !text.empty() && text.back() == '\n';
+    const char lineEnd = text.find('\n') == std::string_view::npos ? '\r' : '\n';
     while (!text.empty()) {
-        const size_t end = text.find('\n');
+        const size_t end = text.find(lineEnd);
         lines.push_back(text.substr(0, end));
         text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     }
-    const auto endsInCr = [](std::string_view line) { return !line.empty() && line.back() == '\r'; };
-    const auto last = lines.end() - (lines.empty() || isEnded ? 0 : 1);
-    if (std::all_of(lines.begin(), last, endsInCr)) {
-        for (std::string_view& line : lines)
-            line.remove_suffix(endsInCr(line) ? 1 : 0);
-    }
     return lines;
+}
+
+std::string_view WithoutCr(std::string_view line) {
+    return line.substr(0, line.size() - (!line.empty() && line.back() == '\r' ? 1 : 0));
 }
 
 std::optional<Value> ParseNumber(Tag tag, std::string_view text) {
@@ -115,19 +130,19 @@ std::optional<Value> ParseIpAddress(Tag tag, std::string_view text) {
 
 void Recording::Add(Place place, const Oid& name, const Value& value) {
     if (!objects.emplace(name, value).second)
-        LeaveOut(place, OidText(name) + " occurs twice: the first value is used");
+        Warn(place, OidText(name) + " occurs twice: the first value is used");
 }
 
-void Recording::LeaveOut(Place place, const std::string& why) {
+void Recording::Warn(Place place, const std::string& why) {
     lastPlace = place;
-    if (leftOut++ < kMaxListed)
+    if (warnings++ < kMaxListed)
         findings.Warning(place, why);
 }
 
-void Recording::CountWhatIsNotListed() {
-    if (leftOut > kMaxListed)
-        findings.Warning(lastPlace, "this and " + std::to_string(leftOut - kMaxListed - 1)
-                                        + " lines before it are left out, too, for such reasons");
+void Recording::CountUnlistedWarnings() {
+    if (warnings > kMaxListed)
+        findings.Warning(lastPlace, "up to this line, there are " + std::to_string(warnings - kMaxListed)
+                                        + " more such warnings");
 }
 
 ObjectMap ReadRecording(const std::string& text, Findings& findings) {
@@ -140,9 +155,8 @@ ObjectMap ReadRecording(const std::string& text, Findings& findings) {
         ReadSnmprec(lines, recording);
     else
         ReadWalk(lines, recording);
-    recording.CountWhatIsNotListed();
+    recording.CountUnlistedWarnings();
     if (recording.objects.empty())
-        findings.Error(AtLine(1), "no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, "
-                                  "or '1.3.6...|TAG|VALUE'");
+        ReportNoObject(lines, findings);
     return recording.objects;
 }

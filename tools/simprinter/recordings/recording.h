@@ -22,15 +22,15 @@ struct Recording {
     explicit Recording(Findings& where) : findings(where) {}
 
     void Add(Place place, const Oid& name, const Value& value);
-    void LeaveOut(Place place, const std::string& why); // after kMaxListed lines they are only counted
-    void CountWhatIsNotListed();                        // call after the last line
+    void Warn(Place place, const std::string& why); // after kMaxListed warnings they are only counted
+    void CountUnlistedWarnings();                   // call after the last line
 
     ObjectMap objects;
     Findings& findings;
 
 private:
     static constexpr size_t kMaxListed = 50;
-    size_t leftOut = 0;
+    size_t warnings = 0;
     Place lastPlace;
 };
 
@@ -44,8 +44,10 @@ std::optional<Value> ParseIpAddress(Tag tag, std::string_view text); // dotted
 
 using Lines = std::vector<std::string_view>;
 
-// The lines of a file. CR before LF is removed if every line has it.
+// The lines of a file, each with the CR before its LF. A file without any LF is split at each CR.
 Lines SplitLines(std::string_view text);
+
+std::string_view WithoutCr(std::string_view line);
 
 void ReadSnmprec(const Lines& lines, Recording& recording);
 void ReadWalk(const Lines& lines, Recording& recording);
@@ -53,5 +55,8 @@ void ReadWalk(const Lines& lines, Recording& recording);
 // The position of the first line that starts an object in this format; lines.size() when there is none.
 size_t FindSnmprecLine(const Lines& lines);
 size_t FindWalkLine(const Lines& lines);
+
+// Where an object begins behind something else, such as a line number; line 0 when nowhere.
+Place FindObjectBehindOther(const Lines& lines);
 
 #endif

@@ -159,30 +159,29 @@ std::optional<Value> FirstValue(const TagRow& row, std::string_view module, std:
 void ReadRecord(std::string_view line, uint64_t number, Recording& recording) {
     const std::optional<Record> record = SplitRecord(line);
     if (!record)
-        return recording.LeaveOut(AtLine(number), "expected OID|TAG|VALUE, not " + Quote(line));
+        return recording.Warn(AtLine(number), "expected OID|TAG|VALUE, not " + Quote(line));
     const std::optional<Oid> name = OidFromText(record->name);
     if (!name)
-        return recording.LeaveOut({number, 1}, Quote(record->name) + " is not a valid object identifier");
+        return recording.Warn({number, 1}, Quote(record->name) + " is not a valid object identifier");
     const auto row = std::find_if(std::begin(kTags), std::end(kTags),
                                   [&](const TagRow& r) { return record->tag == r.tagText; });
     if (row == std::end(kTags))
-        return recording.LeaveOut({number, record->tagColumn},
-                                  "unknown tag " + Quote(record->tag) + "; "
-                                      + Choices(kTags, [](const TagRow& r) { return r.tagText; })
-                                      + ", each also with x or e");
+        return recording.Warn({number, record->tagColumn},
+                              "unknown tag " + Quote(record->tag) + "; "
+                                  + Choices(kTags, [](const TagRow& r) { return r.tagText; })
+                                  + ", each also with x or e");
     const std::optional<Value> value = record->module.empty()
                                            ? ParseEncoded(*row, record->encoding, record->value)
                                            : FirstValue(*row, record->module, record->value);
     if (value)
         recording.Add(AtLine(number), *name, *value);
     else if (record->module.empty())
-        recording.LeaveOut({number, record->valueColumn},
-                           Quote(record->value) + " is not a value of its type");
+        recording.Warn({number, record->valueColumn}, Quote(record->value) + " is not a value of its type");
     else
-        recording.LeaveOut({number, record->valueColumn},
-                           "the variation " + Quote(record->module)
-                               + " gives no first value: expected value=... or, of "
-                                 "'numeric', initial=...");
+        recording.Warn({number, record->valueColumn},
+                       "the variation " + Quote(record->module)
+                           + " gives no first value: expected value=... or, of "
+                             "'numeric', initial=...");
 }
 
 bool IsPlainText(const std::string& bytes) {
@@ -203,9 +202,10 @@ size_t FindSnmprecLine(const Lines& lines) {
 
 void ReadSnmprec(const Lines& lines, Recording& recording) {
     for (size_t i = 0; i < lines.size(); ++i) {
-        const bool isBlank = lines[i].find_first_not_of(" \t\r") == std::string_view::npos;
-        if (!isBlank && lines[i].front() != '#')
-            ReadRecord(lines[i], i + 1, recording);
+        const std::string_view line = WithoutCr(lines[i]);
+        const bool isBlank = line.find_first_not_of(" \t") == std::string_view::npos;
+        if (!isBlank && line.front() != '#')
+            ReadRecord(line, i + 1, recording);
     }
 }
 

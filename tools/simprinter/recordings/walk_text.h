@@ -18,14 +18,19 @@ WalkName ReadWalkName(std::string_view line);
 // Whether the text starts with a type, such as "INTEGER: ".
 bool StartsWithType(std::string_view text);
 
-// Whether the text is a value in quotes whose end is not yet there.
-bool IsOpenQuote(std::string_view text);
+// The position of the quote that a value begins with, behind its type; npos when there is none.
+size_t FindOpeningQuote(std::string_view text);
 
 // The position of the first quote that is not escaped; npos when there is none.
 size_t FindQuote(std::string_view text);
 
-// Whether a value of several lines may begin with this text.
-bool MayContinue(std::string_view text);
+// What may follow in further lines.
+enum class Continuation { kNone, kText, kHex };
+
+// Of a value that is not in quotes and begins with this text.
+Continuation ContinuationOf(const Oid& name, std::string_view text, bool hasTypes);
+
+bool IsHexLine(std::string_view line);
 
 struct WalkValue {
     std::optional<Value> value;

@@ -129,15 +129,6 @@ std::optional<Value> ParseDouble(Tag, std::string_view text) {
     return ParseOpaqueNumber<double, uint64_t>(kOpaqueDouble, text);
 }
 
-// Whether the text ends with a quote that is not escaped.
-bool EndsWithQuote(std::string_view text) {
-    if (text.empty() || text.back() != '"')
-        return false;
-    text.remove_suffix(1);
-    const size_t lastOther = text.find_last_not_of('\\');
-    return (text.size() - (lastOther == std::string_view::npos ? 0 : lastOther + 1)) % 2 == 0;
-}
-
 struct TypeRow {
     const char* name; // between the equals sign and the value
     Tag tag;
@@ -275,6 +266,12 @@ std::optional<Value> ParseByObject(const StandardObject& object, std::string_vie
     return ParseText(&object, text);
 }
 
+// The standard object that this is an instance of; null when there is none.
+const StandardObject* ObjectWithValue(const Oid& name) {
+    const std::optional<FoundObject> found = FindObjectAt(name);
+    return found && found->object->syntax != Syntax::kNode ? found->object : nullptr;
+}
+
 std::optional<Value> Guess(std::string_view text) {
     const std::string_view trimmed = Trimmed(text);
     if (const std::optional<Value> number = ParseNumber(kInteger, trimmed))
@@ -306,23 +303,32 @@ size_t FindQuote(std::string_view text) {
     return std::string_view::npos;
 }
 
-bool IsOpenQuote(std::string_view text) {
-    text = WithoutRemark(text);
+size_t FindOpeningQuote(std::string_view text) {
     constexpr std::string_view kType = "STRING: ";
-    text.remove_prefix(HasPrefix(text, kType) ? kType.size() : 0);
-    return HasPrefix(text, "\"") && !EndsWithQuote(text.substr(1));
+    const std::string_view value = WithoutRemark(text);
+    const size_t at = text.size() - value.size() + (HasPrefix(value, kType) ? kType.size() : 0);
+    return HasPrefix(text.substr(at), "\"") ? at : std::string_view::npos;
 }
 
-bool MayContinue(std::string_view text) {
+Continuation ContinuationOf(const Oid& name, std::string_view text, bool hasTypes) {
     const TypeRow* const row = TypeAt(WithoutRemark(text));
-    return !row || row->parse == ParseString || row->parse == ParseHexLines;
+    if (row)
+        return row->parse == ParseString     ? Continuation::kText
+               : row->parse == ParseHexLines ? Continuation::kHex
+                                             : Continuation::kNone;
+    const StandardObject* const object = ObjectWithValue(name);
+    return hasTypes || (object && object->syntax != Syntax::kText) ? Continuation::kNone
+                                                                   : Continuation::kText;
+}
+
+bool IsHexLine(std::string_view line) {
+    const std::optional<Value> bytes = ParseHexLines(kOctetString, line);
+    return bytes && !bytes->bytes.empty();
 }
 
 WalkValue ReadWalkValue(const Oid& name, std::string_view text, bool hasTypes) {
     text = WithoutRemark(text);
-    const std::optional<FoundObject> found = FindObjectAt(name);
-    const StandardObject* const object =
-        found && found->object->syntax != Syntax::kNode ? found->object : nullptr;
+    const StandardObject* const object = ObjectWithValue(name);
     const bool isTicks = object && object->syntax == Syntax::kTimeTicks;
     if (const TypeRow* const row = TypeAt(text); row && (hasTypes || row->parse != ParseNull)) {
         const std::string_view value = text.substr(std::min(std::strlen(row->name), text.size()));
