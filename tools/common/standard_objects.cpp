@@ -30,6 +30,13 @@ constexpr ObjectGroup kGroups[] = {
     Group("SNMPv2-SMI", "1.3.6.1.2", kMgmt),
     Group("SNMPv2-SMI", "1.3.6.1.2.1", kMib2),
     Group("SNMPv2-MIB", "1.3.6.1.2.1.1", kSystem),
+    Group("SNMPv2-MIB", "1.3.6.1.6.3", kSnmpModules),
+    Group("SNMP-FRAMEWORK-MIB", "1.3.6.1.6.3.10.3.1", kFrameworkCompliances),
+    Group("SNMP-MPD-MIB", "1.3.6.1.6.3.11.3.1", kMessageCompliances),
+    Group("SNMP-NOTIFICATION-MIB", "1.3.6.1.6.3.13.3.1", kNotifyCompliances),
+    Group("SNMP-USER-BASED-SM-MIB", "1.3.6.1.6.3.15.2.1", kUserCompliances),
+    Group("SNMP-VIEW-BASED-ACM-MIB", "1.3.6.1.6.3.16.2.2", kViewGroups),
+    Group("NET-SNMP-MIB", "1.3.6.1.4.1.8072.3", kNetSnmp),
     Group("DISMAN-EVENT-MIB", "1.3.6.1.2.1.1.3", kSystemUpTime),
     Group("SNMPv2-MIB", "1.3.6.1.2.1.1.9.1", kObjectResources),
     Group("SNMPv2-MIB", "1.3.6.1.2.1.11", kSnmp),
@@ -192,4 +199,13 @@ std::optional<int32_t> NumberOfWord(const StandardObject& object, std::string_vi
         return next == word;
     });
     return found;
+}
+
+std::vector<std::string> WordsOf(const StandardObject& object) {
+    std::vector<std::string> words;
+    ForEachWord(object, [&](int32_t, std::string_view word) {
+        words.emplace_back(word);
+        return false;
+    });
+    return words;
 }

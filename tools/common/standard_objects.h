@@ -58,5 +58,6 @@ std::optional<FoundObject> FindObjectAt(const std::vector<uint32_t>& oid);
 // The word of an enumeration's number; empty when it has none.
 std::string_view WordOfNumber(const StandardObject& object, int64_t number);
 std::optional<int32_t> NumberOfWord(const StandardObject& object, std::string_view word);
+std::vector<std::string> WordsOf(const StandardObject& object);
 
 #endif

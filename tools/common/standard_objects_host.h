@@ -56,10 +56,39 @@ constexpr StandardObject kMgmt[] = {
 
 // SNMPv2-SMI 1.3.6.1.2.1
 constexpr StandardObject kMib2[] = {
-    {"system", 1, Syntax::kNode}, {"interfaces", 2, Syntax::kNode},    {"at", 3, Syntax::kNode},
-    {"ip", 4, Syntax::kNode},     {"icmp", 5, Syntax::kNode},          {"tcp", 6, Syntax::kNode},
-    {"udp", 7, Syntax::kNode},    {"transmission", 10, Syntax::kNode}, {"snmp", 11, Syntax::kNode},
-    {"host", 25, Syntax::kNode},  {"ifMIB", 31, Syntax::kNode},        {"printmib", 43, Syntax::kNode},
+    {"system", 1, Syntax::kNode},  {"interfaces", 2, Syntax::kNode},
+    {"at", 3, Syntax::kNode},      {"ip", 4, Syntax::kNode},
+    {"icmp", 5, Syntax::kNode},    {"tcp", 6, Syntax::kNode},
+    {"udp", 7, Syntax::kNode},     {"transmission", 10, Syntax::kNode},
+    {"snmp", 11, Syntax::kNode},   {"host", 25, Syntax::kNode},
+    {"ifMIB", 31, Syntax::kNode},  {"printmib", 43, Syntax::kNode},
+    {"ipMIB", 48, Syntax::kNode},  {"tcpMIB", 49, Syntax::kNode},
+    {"udpMIB", 50, Syntax::kNode}, {"notificationLogMIB", 92, Syntax::kNode},
+};
+
+// What sysORID and sysObjectID name, each below a module of 1.3.6.1.6.3
+constexpr StandardObject kSnmpModules[] = {
+    {"snmpMIB", 1, Syntax::kNode},
+};
+constexpr StandardObject kFrameworkCompliances[] = {
+    {"snmpFrameworkMIBCompliance", 1, Syntax::kNode},
+};
+constexpr StandardObject kMessageCompliances[] = {
+    {"snmpMPDCompliance", 1, Syntax::kNode},
+};
+constexpr StandardObject kNotifyCompliances[] = {
+    {"snmpNotifyBasicCompliance", 1, Syntax::kNode},
+    {"snmpNotifyBasicFiltersCompliance", 2, Syntax::kNode},
+    {"snmpNotifyFullCompliance", 3, Syntax::kNode},
+};
+constexpr StandardObject kUserCompliances[] = {
+    {"usmMIBCompliance", 1, Syntax::kNode},
+};
+constexpr StandardObject kViewGroups[] = {
+    {"vacmBasicGroup", 1, Syntax::kNode},
+};
+constexpr StandardObject kNetSnmp[] = {
+    {"netSnmpAgentOIDs", 2, Syntax::kNode},
 };
 
 // SNMPv2-MIB 1.3.6.1.2.1.1

@@ -170,7 +170,8 @@ constexpr StandardObject kMarker[] = {
     {"prtMarkerIndex", 1, Syntax::kInteger},
     {"prtMarkerMarkTech", 2, Syntax::kInteger,
      "1:other unknown electrophotographicLED electrophotographicLaser electrophotographicOther "
-     "12:inkjetAqueous inkjetSolid inkjetOther pen thermalTransfer thermalSensitive thermalDiffusion "
+     "impactMovingHeadDotMatrix9pin impactMovingHeadDotMatrix24pin impactMovingHeadDotMatrixOther "
+     "impactMovingHeadFullyFormed impactBand impactOther inkjetAqueous inkjetSolid inkjetOther pen thermalTransfer thermalSensitive thermalDiffusion "
      "thermalOther"},
     {"prtMarkerCounterUnit", 3, Syntax::kInteger, kCounterUnits},
     {"prtMarkerLifeCount", 4, Syntax::kCounter32},
@@ -238,7 +239,7 @@ constexpr StandardObject kChannel[] = {
     {"prtChannelType", 2, Syntax::kInteger,
      "1:other 3:chSerialPort chParallelPort chIEEE1284Port chSCSIPort 8:chLPDServer 11:chPort9100 "
      "chAppSocket chFTP chTFTP 18:chFax chIEEE1394 34:chUSB chIRDA 37:chPortTCP chBidirPortTCP "
-     "42:chPortHTTP"},
+     "42:chPortHTTP 44:chIPP chSMTP"},
     {"prtChannelProtocolVersion", 3, Syntax::kText},
     {"prtChannelCurrentJobCntlLangIndex", 4, Syntax::kInteger},
     {"prtChannelDefaultPageDescLangIndex", 5, Syntax::kInteger},

@@ -78,6 +78,10 @@ std::string Read(const std::string& text, std::string& listed) {
 
 TEST(Recording, BadLinesAreWarningsAndLeftOut) {
     const std::string good = "1.3.1.0|2|1\n", walk = ".1.3.1.0 = INTEGER: 1\n";
+    const auto integer = [](const std::string& place, const std::string& text) {
+        return place + ": warning: expected INTEGER, a whole number from -2147483648 to 2147483647, not '" + text
+               + "'\n";
+    };
     const std::pair<std::string, std::string> cases[] = {
         {walk + ".1.3.1.0 = No more variables left in this MIB View (It is past the end of the MIB tree)\n", ""},
         {"\n$ snmpwalk -v1 -On 10.0.0.1 .1\n" + walk + "\nEnd of MIB\nC:\\>\n", ""},
@@ -89,14 +93,24 @@ TEST(Recording, BadLinesAreWarningsAndLeftOut) {
          "2: warning: the walk failed here, so that objects may be missing: 'Timeout: No Response from 10.0.0.1'\n"},
         {walk + "X-MIB::xName.1 = INTEGER: 5\n",
          "2: warning: the name 'X-MIB::xName.1' is unknown or not valid: record with 'snmpwalk -On'\n"},
-        {walk + ".1.3.2 = INTEGER: x\n", "2:10: warning: 'INTEGER: x' is not a value of its type\n"},
+        {walk + ".1.3.2 = INTEGER: x\n", integer("2:10", "x")},
+        {walk + ".1.3.2 = Counter32: -1\n",
+         "2:10: warning: expected Counter32, a whole number from 0 to 4294967295, not '-1'\n"},
+        {walk + ".1.3.2 = OID: X-MIB::x\n",
+         "2:10: warning: the name 'X-MIB::x' is unknown or not valid: record with 'snmpwalk -On'\n"},
+        {walk + "hrPrinterStatus.1 = INTEGER: sleeping\n",
+         "2:21: warning: expected a number or one of other, unknown, idle, printing, warmup, not 'sleeping'\n"},
+        {".1.3.1.0 = 1\nhrPrinterStatus.1 = sleeping\n",
+         "2:21: warning: expected a number or one of other, unknown, idle, printing, warmup, not 'sleeping'\n"},
         {walk + ".1.3.2 = INTEGER: 5\ndoor open\n", "3: warning: expected 'NAME = TYPE: VALUE', not 'door open'\n"},
         {good + "1.3.2.0|3|1\n",
          "2:9: warning: unknown tag '3'; possible: 2, 4, 5, 6, 64, 65, 66, 67, 68, 70, 71, each also with x or e\n"},
-        {good + "# text\n1.3.2.0|2|2147483648\n", "3:11: warning: '2147483648' is not a value of its type\n"},
-        {good + "1.3.2.0|64|10.0.0.256\n", "2:12: warning: '10.0.0.256' is not a value of its type\n"},
-        {good + "1.3.2.0|4x|123\n", "2:12: warning: '123' is not a value of its type\n"},
-        {good + "1.3.2.0|4e|a\\q\n", "2:12: warning: 'a\\q' is not a value of its type\n"},
+        {good + "# text\n1.3.2.0|2|2147483648\n", integer("3:11", "2147483648")},
+        {good + "1.3.2.0|64|10.0.0.256\n",
+         "2:12: warning: expected IpAddress, four numbers from 0 to 255 with dots between, not '10.0.0.256'\n"},
+        {good + "1.3.2.0|4x|123\n", "2:12: warning: expected OCTET STRING, pairs of hexadecimal digits, not '123'\n"},
+        {good + "1.3.2.0|4e|a\\q\n",
+         "2:12: warning: expected OCTET STRING with escapes such as \\n, \\\\ and \\x1B, not 'a\\q'\n"},
         {good + "1.3.2.0|2:sql|x\n",
          "2:15: warning: the variation 'sql' gives no first value: expected value=... or, of "
          "'numeric', initial=...\n"},
@@ -168,6 +182,12 @@ TEST(Recording, NamesAreResolved) {
         {"PRINTER-PORT-MONITOR-MIB::ppmPrinterName.1 = STRING: a", "1.3.6.1.4.1.2699.1.2.1.2.1.1.2.1|4|a\n"},
         {"SNMPv2-SMI::enterprises.9.\"ab\".'c'.1 = INTEGER: 1", "1.3.6.1.4.1.9.2.97.98.99.1|2|1\n"},
         {"iso.3.6.1.9.1 = OID: ccitt.0", "1.3.6.1.9.1|6|0.0\n"},
+        {"Printer-MIB::prtMarkerMarkTech.1.1 = INTEGER: impactBand", "1.3.6.1.2.1.43.10.2.1.2.1.1|2|10\n"},
+        {"Printer-MIB::prtChannelType.1.1 = INTEGER: chIPP", "1.3.6.1.2.1.43.14.1.1.2.1.1|2|44\n"},
+        {"SNMPv2-MIB::sysObjectID.0 = OID: NET-SNMP-MIB::netSnmpAgentOIDs.10",
+         "1.3.6.1.2.1.1.2.0|6|1.3.6.1.4.1.8072.3.2.10\n"},
+        {"SNMPv2-MIB::sysORID.1 = OID: SNMP-FRAMEWORK-MIB::snmpFrameworkMIBCompliance",
+         "1.3.6.1.2.1.1.9.1.2.1|6|1.3.6.1.6.3.10.3.1.1\n"},
         {"IF-MIB::ifHCInOctets.1 9000000000", "1.3.6.1.2.1.31.1.1.1.6.1|70|9000000000\n"},
     };
     for (const auto& [line, kept] : cases) {
@@ -179,8 +199,12 @@ TEST(Recording, NamesAreResolved) {
 
 TEST(Recording, GuessedTypesAreReportedOnce) {
     std::string listed;
-    const std::string text = ".1.3.6.1.9.1 5\n.1.3.6.1.9.2 \"00 1A \"\n.1.3.6.1.9.3 five\n.1.3.6.1.9.4 0:0:00:01.05\n";
-    EXPECT_EQ(Read(text, listed), "1.3.6.1.9.1|2|5\n1.3.6.1.9.2|4x|001a\n1.3.6.1.9.3|4|five\n1.3.6.1.9.4|67|105\n");
+    const std::string text = ".1.3.6.1.9.1 5\n.1.3.6.1.9.2 \"00 1A \"\n.1.3.6.1.9.3 five\n.1.3.6.1.9.4 0:0:00:01.05\n"
+                             ".1.3.6.1.9.5 \"00 11 22 33 44 55 66 77 88 99 AA BB CC DD EE FF \n00 \"\n"
+                             ".1.3.6.1.9.6 \"41 00   [A.]\"\n.1.3.6.1.9.7 \"12 [b]\"\n";
+    EXPECT_EQ(Read(text, listed), "1.3.6.1.9.1|2|5\n1.3.6.1.9.2|4x|001a\n1.3.6.1.9.3|4|five\n1.3.6.1.9.4|67|105\n"
+                                  "1.3.6.1.9.5|4x|00112233445566778899aabbccddeeff00\n1.3.6.1.9.6|4x|4100\n"
+                                  "1.3.6.1.9.7|4|12 [b]\n");
     EXPECT_EQ(listed,
               "1: warning: the types are not recorded: this object and all others that are not in a standard MIB are "
               "guessed, 3 in total\n");

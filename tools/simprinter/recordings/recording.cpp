@@ -74,6 +74,25 @@ std::string_view WithoutCr(std::string_view line) {
     return line.substr(0, line.size() - (!line.empty() && line.back() == '\r' ? 1 : 0));
 }
 
+std::string TypeText(Tag tag) {
+    constexpr const char* k32Bits = "a whole number from 0 to 4294967295";
+    const std::pair<Tag, std::string> rows[] = {
+        {kInteger, "INTEGER, a whole number from -2147483648 to 2147483647"},
+        {kOctetString, "OCTET STRING, pairs of hexadecimal digits"},
+        {kObjectId, "OBJECT IDENTIFIER, numbers with dots between"},
+        {kIpAddress, "IpAddress, four numbers from 0 to 255 with dots between"},
+        {kCounter, std::string("Counter32, ") + k32Bits},
+        {kGauge, std::string("Gauge32, ") + k32Bits},
+        {kTimeTicks, std::string("TimeTicks, ") + k32Bits},
+        {kUnsigned, std::string("Unsigned32, ") + k32Bits},
+        {kCounter64, "Counter64, a whole number from 0 to 18446744073709551615"},
+        {kOpaque, "Opaque, a number or pairs of hexadecimal digits"},
+    };
+    const auto* const row =
+        std::find_if(std::begin(rows), std::end(rows), [&](const auto& r) { return r.first == tag; });
+    return row == std::end(rows) ? "NULL" : row->second;
+}
+
 std::optional<Value> ParseNumber(Tag tag, std::string_view text) {
     if (tag == kCounter64) {
         const std::optional<uint64_t> number = ParseWhole<uint64_t>(text);

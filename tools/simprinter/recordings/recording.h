@@ -34,6 +34,9 @@ private:
     Place lastPlace;
 };
 
+// The name of this type and what its values look like.
+std::string TypeText(Tag tag);
+
 // Reads a value of this tag as a format writes it; nothing when it is invalid.
 using ParseValue = std::optional<Value> (*)(Tag tag, std::string_view text);
 

@@ -156,6 +156,12 @@ std::optional<Value> FirstValue(const TagRow& row, std::string_view module, std:
     return hex ? ParseEncoded(row, 'x', *hex) : std::nullopt;
 }
 
+std::string ExpectedText(Tag tag, char encoding) {
+    if (encoding == 'e' && tag == kOctetString)
+        return "OCTET STRING with escapes such as \\n, \\\\ and \\x1B";
+    return TypeText(tag) + (encoding == 'x' && IsNumber(tag) ? ", in hexadecimal" : "");
+}
+
 void ReadRecord(std::string_view line, uint64_t number, Recording& recording) {
     const std::optional<Record> record = SplitRecord(line);
     if (!record)
@@ -176,7 +182,8 @@ void ReadRecord(std::string_view line, uint64_t number, Recording& recording) {
     if (value)
         recording.Add(AtLine(number), *name, *value);
     else if (record->module.empty())
-        recording.Warn({number, record->valueColumn}, Quote(record->value) + " is not a value of its type");
+        recording.Warn({number, record->valueColumn}, "expected " + ExpectedText(row->tag, record->encoding)
+                                                          + ", not " + Quote(record->value));
     else
         recording.Warn({number, record->valueColumn},
                        "the variation " + Quote(record->module)

@@ -107,6 +107,10 @@ struct NameReader {
 
 } // namespace
 
+std::string UnknownNameFault(std::string_view name) {
+    return "the name " + Quote(name) + " is unknown or not valid: record with 'snmpwalk -On'";
+}
+
 WalkName ReadWalkName(std::string_view line) {
     NameReader reader{line};
     const std::string_view module = TakeWhile(reader.text, IsLabelCharacter);

@@ -31,10 +31,6 @@ bool IsNoObject(std::string_view text) {
     return IsAnyOf(std::begin(kNoObject), std::end(kNoObject), text);
 }
 
-bool IsBlank(std::string_view line) {
-    return line.find_first_not_of(" \t\r") == std::string_view::npos;
-}
-
 // A prompt alone or with a command: "bob@host:~$", "[root@host ~]#", "C:\\>"; or a command line of a walk.
 bool IsPrompt(std::string_view line) {
     const size_t last = line.find_last_not_of(' ');
@@ -58,6 +54,10 @@ std::string_view MarginOf(std::string_view line) {
 std::string_view WithoutMargin(std::string_view line) {
     line = WithoutCr(line);
     return line.substr(MarginOf(line).size());
+}
+
+bool IsBlank(std::string_view line) {
+    return WithoutMargin(line).empty();
 }
 
 // A line that starts an object: margin, name, separator, text.
@@ -166,13 +166,11 @@ struct WalkReader {
             return;
         if (object.name.oid.empty())
             return recording.Warn(
-                place, "the name " + Quote(lines[at].substr(object.margin.size(), object.name.length))
-                           + " is unknown or not valid: record with "
-                             "'snmpwalk -On'");
+                place, UnknownNameFault(lines[at].substr(object.margin.size(), object.name.length)));
         const WalkValue value = ReadWalkValue(object.name.oid, text, form.hasTypes);
         if (!value.value) {
             place.column = object.textAt + 1;
-            return recording.Warn(place, Quote(text) + " is not a value of its type");
+            return recording.Warn(place, value.fault);
         }
         if (value.isGuessed && guessed++ == 0)
             firstGuessed = place;
@@ -228,8 +226,7 @@ struct WalkReader {
         while (continuation == Continuation::kText && next < lines.size() && !ObjectAt(lines[next], form)
                && !IsRemark(lines[next])) {
             const auto start = lines.begin() + static_cast<ptrdiff_t>(next);
-            const auto filled = std::find_if(
-                start, lines.end(), [](std::string_view line) { return !WithoutMargin(line).empty(); });
+            const auto filled = std::find_if_not(start, lines.end(), IsBlank);
             const bool isEnd = filled == lines.end() || form.isSpaced || !ObjectAt(*filled, form);
             if (filled != start && isEnd)
                 break;

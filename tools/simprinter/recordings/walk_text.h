@@ -15,6 +15,8 @@ struct WalkName {
 // "MODULE::name.1", "name.1"; an index also as ".\"text\"", ".'text'" and "[1]".
 WalkName ReadWalkName(std::string_view line);
 
+std::string UnknownNameFault(std::string_view name);
+
 // Whether the text starts with a type, such as "INTEGER: ".
 bool StartsWithType(std::string_view text);
 
@@ -35,6 +37,7 @@ bool IsHexLine(std::string_view line);
 struct WalkValue {
     std::optional<Value> value;
     bool isGuessed = false; // its type
+    std::string fault = {}; // why there is no value
 };
 
 // Reads "INTEGER: idle(3)" or, without a type, "idle". An object's type and words are taken from the table of

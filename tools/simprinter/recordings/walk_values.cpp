@@ -1,6 +1,7 @@
 // Reads the values in net-snmp's output, with their types or without.
 #include "simprinter/recordings/walk_text.h"
 
+#include "common/choices.h"
 #include "common/standard_objects.h"
 #include "common/text.h"
 #include "simprinter/recordings/recording.h"
@@ -231,12 +232,22 @@ std::optional<Value> ParseText(const StandardObject* object, std::string_view te
     return value ? value : ParseString(kOctetString, text);
 }
 
-// A text without type in quotes: "00 1A " is in hexadecimal, as the blank at its end shows.
+// "00 1A ", which the blank at its end distinguishes from a text, or with its characters, "00 1A   [..]".
+bool IsPrintedHex(std::string_view line) {
+    size_t bytes = 0;
+    for (; line.size() > 2 && line[2] == ' ' && ParseHex(kOctetString, line.substr(0, 2)); ++bytes)
+        line.remove_prefix(3);
+    return bytes != 0
+           && (line.empty() || (HasPrefix(line, "  [") && line.back() == ']' && line.size() == bytes + 4));
+}
+
+// A text without type in quotes, or bytes in hexadecimal.
 std::optional<Value> ParseQuoted(std::string_view text) {
     const std::string_view inside = text.substr(1, text.size() - 2);
-    const bool isHex = text.size() > 2 && inside.size() % 3 == 0 && inside.back() == ' ';
-    const std::optional<Value> bytes = isHex ? ParseHex(kOctetString, inside) : std::nullopt;
-    return bytes ? bytes : ParseString(kOctetString, text);
+    const Lines lines = SplitLines(inside);
+    return !lines.empty() && std::all_of(lines.begin(), lines.end(), IsPrintedHex)
+               ? ParseHexLines(kOctetString, inside)
+               : ParseString(kOctetString, text);
 }
 
 // A value without its type. Nothing when the text does not fit the object.
@@ -270,6 +281,28 @@ std::optional<Value> ParseByObject(const StandardObject& object, std::string_vie
 const StandardObject* ObjectWithValue(const Oid& name) {
     const std::optional<FoundObject> found = FindObjectAt(name);
     return found && found->object->syntax != Syntax::kNode ? found->object : nullptr;
+}
+
+// The words of an enumeration, or the first ones of many.
+std::string WordList(const StandardObject& object) {
+    constexpr size_t kMaxWords = 20;
+    std::vector<std::string> words = WordsOf(object);
+    const bool areAll = words.size() <= kMaxWords;
+    words.resize(std::min(words.size(), kMaxWords));
+    return Listing(words, [](const std::string& word) { return word; }) + (areAll ? "" : ", ...");
+}
+
+// A value of this type, or why there is none. `object` may be null.
+WalkValue Checked(std::optional<Value> value, Tag tag, const StandardObject* object, std::string_view text) {
+    if (value)
+        return {std::move(value)};
+    if (tag == kObjectId)
+        return {{}, false, UnknownNameFault(Trimmed(text))};
+    const bool isWord = object && object->words && text.find_first_of("-0123456789") != 0;
+    return {{},
+            false,
+            "expected " + (isWord ? "a number or one of " + WordList(*object) : TypeText(tag)) + ", not "
+                + Quote(text) + (isWord ? NearestHint(text, WordsOf(*object)) : "")};
 }
 
 std::optional<Value> Guess(std::string_view text) {
@@ -334,16 +367,18 @@ WalkValue ReadWalkValue(const Oid& name, std::string_view text, bool hasTypes) {
         const std::string_view value = text.substr(std::min(std::strlen(row->name), text.size()));
         if (row->parse == ParseString)
             return {ParseText(object, value)};
-        const std::optional<Value> number = row->parse(row->tag, value);
-        if (number || row->tag != kInteger || !object)
-            return {number};
-        return {ParseByObject(*object, value)}; // a word alone
+        const std::optional<Value> parsed = row->parse(row->tag, value);
+        return Checked(parsed || row->tag != kInteger || !object ? parsed : ParseByObject(*object, value),
+                       row->tag, object, value);
     }
     // With types only these are printed without one: a time in hundredths on request, and an unsigned number.
-    if (hasTypes)
-        return {ParseNumber(isTicks ? kTimeTicks : kUnsigned, text)};
+    if (hasTypes) {
+        const std::optional<Value> number = ParseNumber(isTicks ? kTimeTicks : kUnsigned, text);
+        return {number, false, number ? "" : "expected a type, as in 'INTEGER: 5', not " + Quote(text)};
+    }
     if (HasPrefix(text, "\"") && text.size() > 1)
         return {ParseQuoted(text)};
-    const std::optional<Value> value = object ? ParseByObject(*object, text) : std::nullopt;
-    return value ? WalkValue{value} : WalkValue{Guess(text), true};
+    if (!object)
+        return {Guess(text), true};
+    return Checked(ParseByObject(*object, text), static_cast<Tag>(object->syntax), object, text);
 }
