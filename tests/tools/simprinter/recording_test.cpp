@@ -232,6 +232,7 @@ TEST(Recording, MailsTablesAndMixedLineEndsAreRead) {
     const std::pair<std::string, std::string> cases[] = {
         {"> > .1.3.1 = STRING: \"y\n> > z\"\n> >\n> > .1.3.2 = INTEGER: 5\n> >\n", kept},
         {"\t.1.3.1\t=STRING: \"y\n\tz\"\n    .1.3.2   =  INTEGER: 5\n", kept},
+        {".1.3.1=\"\"\n.1.3.2=INTEGER: 5\n", "1.3.1|4|\n1.3.2|2|5\n"},
         {".1.3.1 = STRING: \"y\r\nz\"\r\n.1.3.2 = INTEGER: 5\n", kept},
         {".1.3.1 = STRING: \"y\rz\"\r.1.3.2 = INTEGER: 5\r", kept},
         {".1.3.1 = STRING: \"y\r\nz\"\n.1.3.2 = INTEGER: 5\r\n", "1.3.1|4x|790d0a7a\n1.3.2|2|5\n"}, // a text's own CR

@@ -85,7 +85,7 @@ size_t SeparatorSize(std::string_view rest, bool hasEquals) {
     const size_t equals = BlankSize(rest);
     if (hasEquals && HasPrefix(rest.substr(equals), "=")) {
         const size_t value = equals + 1 + BlankSize(rest.substr(equals + 1));
-        if (StartsWithType(rest.substr(value)))
+        if (StartsWithType(rest.substr(value)) || rest.substr(value) == "\"\"")
             return value;
     }
     return HasPrefix(rest, separator) || rest == " =" ? std::min(separator.size(), rest.size()) : 0;
