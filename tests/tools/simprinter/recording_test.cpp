@@ -152,6 +152,9 @@ TEST(Recording, TextsEndWhereTheyShould) {
          "1: warning: the quoted text that starts here has no end\n"},
         {".1.3.1 = STRING: \"open\n.1.3.2 = STRING: \"b\"\n", "1.3.2|4|b\n",
          "1: warning: the quoted text that starts here has no end\n"},
+        {".1.3.1 = STRING: \"open\n" + next + "say \"hi\" to Bob\n", five,
+         "1: warning: the quoted text that starts here has no end\n"
+         "3: warning: expected 'NAME = TYPE: VALUE', not 'say \"hi\" to Bob'\n"},
         {".1.3.1 = STRING: \"z\"\n\n" + next, "1.3.1|4|z\n" + five, ""},
         {".1.3.1 = STRING: \"z\" \t\r\n\n--\nBob\n", "1.3.1|4|z\n",
          "3: warning: expected 'NAME = TYPE: VALUE', not '--'\n4: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},

@@ -198,10 +198,13 @@ struct WalkReader {
         size_t last = at;
         if (FindQuote(object.text.substr(open + 1)) == std::string_view::npos) {
             last = at + 1 < lines.size() ? quotes[at + 1] : lines.size();
-            // All quotes inside are escaped, so that one within an object's line belongs to that object.
-            if (last == lines.size()
-                || (!IsBlank(lines[last].substr(FindQuote(lines[last]) + 1))
-                    && ObjectAt(lines[last], form))) {
+            // All quotes inside are escaped, so that one in an object's line, or the first of two, is
+            // another's.
+            const auto isOfOther = [this](std::string_view line) {
+                const std::string_view rest = line.substr(FindQuote(line) + 1);
+                return !IsBlank(rest) && (FindQuote(rest) != std::string_view::npos || ObjectAt(line, form));
+            };
+            if (last == lines.size() || isOfOther(lines[last])) {
                 recording.Warn(AtLine(at + 1), "the quoted text that starts here has no end");
                 return at + 1;
             }
