@@ -167,7 +167,9 @@ TEST(Recording, TextsEndWhereTheyShould) {
         {".1.3.1 = STRING: one\n\n" + next, "1.3.1|4|one\n" + five, ""}, // each line is followed by a blank one
         {".1.3.1 = STRING: one\n\n" + next + ".1.3.3 = NULL\n", "1.3.1|4x|6f6e650a\n" + five + "1.3.3|5|\n",
          "1" + further + "2" + unclear},
-        {".1.3.1 = INTEGER: 1\nBob\n", "1.3.1|2|1\n", "2: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},
+        {".1.3.1 = 9\nBob\n" + next, "1.3.1|71|9\n" + five, "2: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},
+        {"hrDeviceIndex.1 = 1\nBob\n", "1.3.6.1.2.1.25.3.2.1.1.1|2|1\n",
+         "2: warning: expected 'NAME = TYPE: VALUE', not 'Bob'\n"},
     };
     for (const auto& [text, kept, wanted] : cases) {
         std::string listed;
