@@ -30,7 +30,9 @@ TEST(Program, ExitCodesAndMessages) {
         {"--replay " + folder.path, 1, "simprinter: cannot read '" + folder.path + "': Is a directory"},
         {"--device " + bad + " 2>&1 | tail -2", 0,
          bad + ":2:9: 'duplex' must be yes or no, not 'both'\nsimprinter: '" + bad + "' has errors: "},
-        {"--strict --replay " + walk, 1, walk + ":2:10: 'INTEGER: x' is not a value of its type\nsimprinter: '" + walk},
+        {"--strict --replay " + walk, 1,
+         walk + ":2:10: expected INTEGER, a whole number from -2147483648 to 2147483647, not 'x'\nsimprinter: '"
+             + walk},
         {"--replay " + large, 1,
          "simprinter: cannot read '" + large + "': it has more than 8388608 bytes, the most that"},
         {"--address 192.0.2.1 --port 0", 1,
