@@ -133,6 +133,9 @@ TEST(Recording, BadLinesAreWarningsAndLeftOut) {
     const std::pair<const char*, std::string> files[] = {
         {"\nnothing\n", "2: " + none + ", not 'nothing'\n"},
         {"\n", "1: " + none + "; the file is empty\n"},
+        {"X-MIB::x.1 = INTEGER: 5\n",
+         "1: warning: the name 'X-MIB::x.1' is unknown or not valid: record with 'snmpwalk -On'\n"
+         "1: no object is left: none has a value that can be read\n"},
         {"12: .1.3.2 = INTEGER: 5\n",
          "1:5: " + none + "; one seems to begin here: remove what is in front of it, '12: '\n"},
     };

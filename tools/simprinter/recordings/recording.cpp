@@ -41,6 +41,8 @@ std::string PlainText(const std::string& text, Findings& findings) {
 }
 
 void ReportNoObject(const Lines& lines, Findings& findings) {
+    if (FindWalkLine(lines) != lines.size() || FindSnmprecLine(lines) != lines.size())
+        return findings.Error(AtLine(1), "no object is left: none has a value that can be read");
     constexpr size_t kMaxQuoted = 80;
     const std::string expected =
         "no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, or "
