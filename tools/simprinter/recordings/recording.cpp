@@ -34,6 +34,7 @@ std::string PlainText(const std::string& text, Findings& findings) {
     case Encoding::kUtf16:
         return TextOfUtf16(text, findings);
     case Encoding::kUtf32:
+    case Encoding::kNotText:
         findings.Error(AtLine(1), WideTextFault(text));
         return "";
     }
