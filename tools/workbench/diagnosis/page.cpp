@@ -20,15 +20,6 @@ double Rounded(double milliseconds) {
     return std::round(milliseconds * 10) / 10;
 }
 
-std::string TimeText() {
-    SYSTEMTIME now;
-    GetLocalTime(&now);
-    char text[32];
-    snprintf(text, sizeof(text), "%04d-%02d-%02d %02d:%02d", now.wYear, now.wMonth, now.wDay, now.wHour,
-             now.wMinute);
-    return text;
-}
-
 Document PrinterSection(const Observations& seen) {
     in_addr shown = {};
     shown.s_addr = seen.host.ipv4;
@@ -39,7 +30,7 @@ Document PrinterSection(const Observations& seen) {
     return {{"address", seen.address},
             {"resolvedTo", hasIpv4 ? Document(inet_ntoa(shown)) : Document()},
             {"allAddresses", std::move(addresses)},
-            {"time", TimeText()}};
+            {"time", LocalTimeText()}};
 }
 
 Document NetworkSection(const Observations& seen) {

@@ -1,4 +1,4 @@
-// Text conversion by the system's code pages, numbers and error messages.
+// Text conversion by the system's code pages, numbers, the time and error messages.
 #include "workbench/lib/text.h"
 
 #include <iterator>
@@ -125,4 +125,13 @@ std::string ErrorText(DWORD error) {
         FormatMessageW(kFlags, nullptr, error, 0, text, static_cast<DWORD>(std::size(text)), nullptr);
     const std::string message = Trimmed(Utf8(std::wstring_view(text, length)));
     return "error " + std::to_string(error) + (message.empty() ? "" : ", " + message);
+}
+
+std::string LocalTimeText() {
+    SYSTEMTIME now;
+    GetLocalTime(&now);
+    char text[32];
+    snprintf(text, sizeof(text), "%04u-%02u-%02u %02u:%02u", now.wYear, now.wMonth, now.wDay, now.wHour,
+             now.wMinute);
+    return text;
 }

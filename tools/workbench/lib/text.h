@@ -57,4 +57,7 @@ int ParseNumber(const std::string& text, size_t maxDigits);
 // A last-error value with the system's message, on one line.
 std::string ErrorText(DWORD error);
 
+// "2026-11-25 16:05", local time.
+std::string LocalTimeText();
+
 #endif

@@ -9,15 +9,6 @@ namespace {
 
 constexpr size_t kMaxAddresses = 10; // that are offered again
 
-std::string LocalTime() {
-    SYSTEMTIME now;
-    GetLocalTime(&now);
-    char text[32];
-    snprintf(text, sizeof(text), "%04u-%02u-%02u %02u:%02u", now.wYear, now.wMonth, now.wDay, now.wHour,
-             now.wMinute);
-    return text;
-}
-
 void KeepAddress(SheetState& state, const std::string& address) {
     std::vector<std::string>& kept = state.addresses;
     kept.erase(std::remove(kept.begin(), kept.end(), address), kept.end());
@@ -140,7 +131,7 @@ void ApplyReport(SheetState& state, DeviceReport report) {
     if (!report.trays.empty())
         state.papers = PapersOf(state.family, report.trays);
     state.reportedBy = report.address;
-    state.reportedOn = LocalTime();
+    state.reportedOn = LocalTimeText();
     KeepAddress(state, report.address);
     state.report = std::move(report);
     OfferedSources(state);
