@@ -129,7 +129,7 @@ TEST(Diagnosis, PageSaysWhatIsMissing) {
     const Json unanswered = Json::parse(RunWorkbench(L"diagnose --json 127.0.164.4").output)["driver"];
     EXPECT_EQ(unanswered["failedQueries"], Json({"overlays"}));
     EXPECT_EQ(unanswered["overlays"], nullptr);
-    EXPECT_EQ(unanswered["colorProfiles"], 0);
+    EXPECT_EQ(unanswered["profiles"], 0);
     const std::string hub = RunWorkbench(L"diagnose 127.0.164.33").output;
     EXPECT_TRUE(std::regex_search(hub, std::regex("\n  Serial number +none\n  System description +\\[31mHub   7\n")))
         << hub;

@@ -92,7 +92,7 @@ constexpr struct {
      "The driver has given up before the answer arrives, and reports the printer as unreachable."},
     {"stopped", About::kDevice, FindStopped,
      "The driver does not notice: it asks for no alerts.",
-     "See to it at the printer."},
+     "Resolve this at the printer."},
     {"wrongType", About::kDevice, FindWrongType,
      "The driver takes such an object as missing.",
      "Update the printer's firmware, and check that it is of this model."},

@@ -130,7 +130,7 @@ Document DriverSection(const Observations& seen) {
         shown["failedQueries"] = std::move(failed);
         shown["repeatedRequests"] = driver.repeats;
         shown["overlays"] = driver.overlays ? Document(StoredCount(*driver.overlays)) : Document();
-        shown["colorProfiles"] = driver.profiles ? Document(StoredCount(*driver.profiles)) : Document();
+        shown["profiles"] = driver.profiles ? Document(StoredCount(*driver.profiles)) : Document();
     }
     return shown;
 }
