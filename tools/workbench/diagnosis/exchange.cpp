@@ -146,6 +146,7 @@ size_t Exchange::Ask(const std::vector<AskedObject>& asked) {
             Receive(std::min(until, Now() + kSlice));
         }
     }
+    listenedUntil = Now();
     return first;
 }
 
@@ -157,6 +158,7 @@ void Exchange::Listen(double milliseconds) {
     const double until = std::min(Now() + milliseconds, end);
     while (Now() < until)
         Receive(until);
+    listenedUntil = Now();
 }
 
 const Arrival* Exchange::AnswerTo(size_t question) const {

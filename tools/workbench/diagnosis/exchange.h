@@ -67,6 +67,7 @@ public:
 
     bool IsSent() const { return isSent; } // false: there is no way to the address
     double Now() const;
+    double ListenedUntil() const { return listenedUntil; } // what arrives later is not noticed
     const std::vector<AskedObject>& Questions() const { return questions; }
     const std::vector<SentRequest>& Requests() const { return requests; }
     const std::vector<Arrival>& Arrivals() const { return arrivals; }
@@ -93,6 +94,7 @@ private:
     const std::function<void(const char* stage)> progress;
     const char* stage = "";
     bool isSent = false;
+    double listenedUntil = 0;
     std::vector<AskedObject> questions;
     std::vector<Outcome> outcomes; // of the questions
     std::vector<SentRequest> requests;

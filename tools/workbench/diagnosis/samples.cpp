@@ -76,7 +76,7 @@ Samples SamplesOf(const Observations& seen) {
         if (!IsCounted(seen, request))
             continue;
         const bool isLost = isCertain && arrivals[i].empty() && IsOneOf(answered, ObjectOf(exchange, request))
-                            && request.at + patience < exchange.Now();
+                            && request.at + patience < exchange.ListenedUntil();
         samples.lostFirst += isLost && samples.answered == 0 ? 1 : 0;
         samples.lost += isLost ? 1 : 0;
         samples.answered += arrivals[i].empty() ? 0 : 1;

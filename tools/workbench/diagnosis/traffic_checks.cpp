@@ -113,7 +113,7 @@ std::string FindSilent(const Observations& seen) {
         || !FindOtherMessages(seen).empty())
         return {};
     return seen.address + " has answered none of " + Times(seen.exchange->Requests().size(), "request")
-           + " in " + std::to_string(static_cast<int>(seen.exchange->Now() / 1000))
+           + " in " + std::to_string(static_cast<int>(seen.exchange->ListenedUntil() / 1000))
            + " s, with SNMPv1 and SNMPv2c, with the" + " communities " + kCommunity + " and public.";
 }
 
