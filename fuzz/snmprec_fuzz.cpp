@@ -1,6 +1,7 @@
 // Fuzz target: any text as an .snmprec file. What is read is served, and is read again from what is written of it.
 #include "served_walk.h"
 
+#include "simprinter/recordings/formats.h"
 #include "simprinter/recordings/recording.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* octets, size_t count) {

@@ -1,6 +1,7 @@
 // Recordings in both formats: values, names, encodings, warnings with their lines, and a walk of a replayed walk.
 #include "running_printer.h"
 
+#include "simprinter/recordings/formats.h"
 #include "simprinter/recordings/recording.h"
 
 #include <gtest/gtest.h>

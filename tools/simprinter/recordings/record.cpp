@@ -5,6 +5,7 @@
 
 #include "common/files.h"
 #include "common/text.h"
+#include "simprinter/recordings/formats.h"
 #include "simprinter/recordings/recording.h"
 #include "simprinter/snmp/snmp_client.h"
 

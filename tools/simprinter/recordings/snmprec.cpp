@@ -2,7 +2,7 @@
 // message, then an x for hexadecimal or an e for escaped values, then perhaps ":MODULE", a variation of the
 // value by time or requests. Only the first value of a variation is read. Lines that start with # are
 // comments.
-#include "simprinter/recordings/recording.h"
+#include "simprinter/recordings/formats.h"
 
 #include "common/choices.h"
 #include "common/text.h"

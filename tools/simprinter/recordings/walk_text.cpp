@@ -5,7 +5,7 @@
 #include "simprinter/recordings/walk_text.h"
 
 #include "common/text.h"
-#include "simprinter/recordings/recording.h"
+#include "simprinter/recordings/formats.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "common/choices.h"
 #include "common/standard_objects.h"
 #include "common/text.h"
-#include "simprinter/recordings/recording.h"
+#include "simprinter/recordings/recorded_values.h"
 
 #include <algorithm>
 #include <cstring>
