@@ -2,6 +2,8 @@
 #include "simprinter/device/object_table.h"
 #include "simprinter/device/objects.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kBytesInMb = 1024 * 1024;
@@ -83,5 +85,5 @@ void AddHostObjects(ObjectMap& to, const Device& device, const DeviceStatus& sta
     AddTable(to, "1.3.6.1.2.1.25.3.5.1", kPrinter, {{{1}, status}});
     to[OidFromText("1.3.6.1.2.1.25.1.1.0").value()] = NumberValue(0, kTimeTicks); // hrSystemUptime
     to[OidFromText("1.3.6.1.2.1.25.2.2.0").value()] =
-        NumberValue(int64_t{device.memory} * 1024); // hrMemorySize, KB
+        NumberValue(std::min(int64_t{device.memory} * 1024, int64_t{INT32_MAX})); // hrMemorySize, KB
 }
