@@ -54,6 +54,28 @@ void AppendUtf8(std::string& to, char32_t point) {
     }
 }
 
+// In quotes, up to this many characters; an escape has more than one.
+std::string QuoteStart(std::string_view text, size_t most) {
+    std::string quoted = "'";
+    for (size_t width = 0; !text.empty();) {
+        const Decoded next = DecodeUtf8(text);
+        const std::string_view bytes = text.substr(0, std::max<size_t>(next.bytes, 1));
+        const bool isControl = next.point < 0x20 || (next.point >= 0x7F && next.point < 0xA0);
+        std::string shown(bytes);
+        if (next.bytes == 0 || isControl) {
+            shown.clear();
+            for (const char byte : bytes)
+                shown += HexEscape(byte);
+        }
+        width += next.bytes == 0 || isControl ? shown.size() : 1;
+        if (width > most)
+            return quoted + "...'";
+        quoted += shown;
+        text.remove_prefix(bytes.size());
+    }
+    return quoted + "'";
+}
+
 // Levenshtein distance.
 size_t EditDistance(std::string_view a, std::string_view b) {
     std::vector<size_t> row(b.size() + 1);
@@ -135,14 +157,11 @@ std::string Utf8FromBytes(std::string_view bytes) {
 }
 
 std::string Quote(std::string_view text) {
-    std::string quoted = "'";
-    for (const char c : text) {
-        if (static_cast<uint8_t>(c) < 0x20 || c == 0x7F)
-            quoted += HexEscape(c);
-        else
-            quoted += c;
-    }
-    return quoted + "'";
+    return QuoteStart(text, kMaxQuoted);
+}
+
+std::string QuotePath(std::string_view path) {
+    return QuoteStart(path, std::string::npos);
 }
 
 std::string HexEscape(char c) {

@@ -32,8 +32,13 @@ std::string Utf8FromUtf16(std::u16string_view text, bool& wellFormed);
 // Reads the bytes as Latin-1.
 std::string Utf8FromBytes(std::string_view bytes);
 
-// In single quotes, control characters escaped.
+// In single quotes, for messages: control characters and bytes that are not UTF-8 are escaped. Of a text that
+// needs more than kMaxQuoted characters the start, and "...".
+constexpr size_t kMaxQuoted = 128;
 std::string Quote(std::string_view text);
+
+// The same for a path, which is never cut.
+std::string QuotePath(std::string_view path);
 
 // "0x2C"
 std::string Hex(uint64_t number);

@@ -53,7 +53,7 @@ Model ReadBase(ModelFile& read, Findings& findings, const std::string& path, con
                Place place) {
     const std::string base = (fs::path(path).parent_path() / name).string();
     if (IsRead(read, base)) {
-        findings.Error(place, "a model can't build on itself: " + Quote(name) + " builds on this file");
+        findings.Error(place, "a model can't build on itself: " + QuotePath(name) + " builds on this file");
         return {};
     }
     try {

@@ -113,7 +113,7 @@ std::string Show(const Selected& printers, const std::string&, UpTime) {
     for (const Printer* printer : printers) {
         text += (text.empty() ? "" : "\n") + printer->address + ": "
                 + (printer->start ? DeviceText(printer->device)
-                                  : "recording " + Quote(printer->options.replayFile));
+                                  : "recording " + QuotePath(printer->options.replayFile));
         const std::string alerts =
             Listing(printer->alerts.alerts, [](const Alert& alert) { return alert.condition.text; });
         const std::string faults = Listing(printer->agent.faults.faults, FaultText);

@@ -31,7 +31,7 @@ const Contents& ReadOnce(std::map<std::string, Contents>& all, const std::string
     for (const Finding& finding : findings.list)
         std::cerr << path << ':' << FindingText(finding) << '\n';
     if (findings.HasErrors())
-        throw std::runtime_error(Quote(path) + " has errors: correct them and start again");
+        throw std::runtime_error(QuotePath(path) + " has errors: correct them and start again");
     return all.emplace(path, std::move(contents)).first->second;
 }
 

@@ -132,6 +132,6 @@ std::vector<Printer> StartListedPrinters(const std::string& path) {
     if (!problems.empty())
         throw std::runtime_error(problems);
     if (list.printers.empty())
-        throw std::runtime_error(Quote(path) + " has no printers: write lines 'ADDRESS simprinter OPTIONS'");
+        throw std::runtime_error(QuotePath(path) + " has no printers: write lines 'ADDRESS simprinter OPTIONS'");
     return std::move(list.printers);
 }

@@ -112,7 +112,7 @@ struct Walk {
             return true;
         }
         if (!file.write(line.data(), static_cast<std::streamsize>(line.size())))
-            throw std::runtime_error("cannot write " + Quote(part) + ": " + std::strerror(errno));
+            throw std::runtime_error("cannot write " + QuotePath(part) + ": " + std::strerror(errno));
         bytes += line.size();
         ++objects;
         return true;
@@ -288,13 +288,13 @@ bool RecordDevice(const RecordOptions& options) {
     const std::string header = "# " + options.address + ", " + walk.client.version->name + '\n';
     walk.bytes = header.size();
     if (!(walk.file << header).flush())
-        throw std::runtime_error("cannot write " + Quote(part) + ": " + std::strerror(errno));
+        throw std::runtime_error("cannot write " + QuotePath(part) + ": " + std::strerror(errno));
     const End end = walk.Run();
     for (const std::string& note : walk.notes)
         walk.file << "# " << note << '\n';
     walk.file.close();
     if (!walk.file)
-        throw std::runtime_error("cannot write " + Quote(part) + ": " + std::strerror(errno));
+        throw std::runtime_error("cannot write " + QuotePath(part) + ": " + std::strerror(errno));
     std::cerr << (isatty(STDERR_FILENO) ? "\r\x1B[K" : "") << std::flush;
     if (walk.objects == 0) {
         std::filesystem::remove(part);
@@ -305,7 +305,7 @@ bool RecordDevice(const RecordOptions& options) {
     if (isComplete)
         std::filesystem::rename(part, target);
     std::cout << "simprinter: " << walk.objects << " objects of " << options.address << " in "
-              << Quote(isComplete ? options.file : part) << " (" << walk.client.version->name << ", "
+              << QuotePath(isComplete ? options.file : part) << " (" << walk.client.version->name << ", "
               << SecondsText(walk.Seconds()) << (isComplete ? ")" : "), not complete") << std::endl;
     return isComplete;
 }
