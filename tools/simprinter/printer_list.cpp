@@ -3,12 +3,12 @@
 
 #include "common/encoding.h"
 #include "common/files.h"
+#include "common/lines.h"
 #include "common/text.h"
 #include "simprinter/command_line.h"
 #include "simprinter/udp_socket.h"
 
 #include <arpa/inet.h>
-#include <sstream>
 
 namespace {
 
@@ -118,20 +118,22 @@ std::vector<Printer> StartListedPrinters(const std::string& path) {
     if (const char* const fault = WideTextFault(contents))
         throw std::runtime_error(path + ": " + fault);
     List list = {path, {}, {}, {}};
-    std::istringstream text{std::string(WithoutUtf8Mark(contents))};
     std::string problems;
     size_t number = 0;
-    for (std::string line; std::getline(text, line);) {
+    for (const std::string_view line : SplitLines(WithoutUtf8Mark(contents))) {
         ++number;
         try {
-            ReadListLine(line, number, list);
+            ReadListLine(std::string(line), number, list);
         } catch (const LineError& error) {
             problems += (problems.empty() ? "" : "\n") + PlaceOf(list, number, error.at) + error.what();
+            if (list.printers.size() == kMaxPrinters) // all further lines have the same error
+                break;
         }
     }
     if (!problems.empty())
         throw std::runtime_error(problems);
     if (list.printers.empty())
-        throw std::runtime_error(QuotePath(path) + " has no printers: write lines 'ADDRESS simprinter OPTIONS'");
+        throw std::runtime_error(QuotePath(path)
+                                 + " has no printers: write lines 'ADDRESS simprinter OPTIONS'");
     return std::move(list.printers);
 }

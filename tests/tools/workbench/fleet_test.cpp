@@ -107,6 +107,7 @@ TEST(WorkbenchFleet, ListFaultsAreReportedTogether) {
     EXPECT_EQ(printers[0].address + "|" + printers[0].name, "10.0.0.1|Third floor");
     EXPECT_EQ(printers[1].address + "|" + printers[1].name, "prn-2.example.com|");
     EXPECT_EQ(printers[2].name, "B#2") << "not a comment";
+    EXPECT_EQ(ParsePrinterList("10.0.0.2 a\r10.0.0.1 b\x1B[31m\a\r", "f").at(1).name, "b [31m");
     try {
         ParsePrinterList("10.0.0.1\n  10.0.0.300\nfe80::1\n\u00FC;a\nprn;2 x\n10.0.0.1\n10.0.0.0/24\n10.0.0.010\n"
                          "10.0.0.1-9\n-x\na\u00A0b\nhttp://prn/\n0x7f.1",
@@ -125,10 +126,14 @@ TEST(WorkbenchFleet, ListFaultsAreReportedTogether) {
             EXPECT_NE(faults.find(fault), std::string::npos) << fault << "\n" << faults;
         EXPECT_EQ(std::count(faults.begin(), faults.end(), '\n'), 11) << faults;
     }
+    std::string many;
+    for (int i = 0; i < 4099; ++i)
+        many += "p" + std::to_string(i) + "\n";
     const std::pair<std::string, const char*> kFiles[] = {
         {"10.0.0.1\n10.0.0.2 B\u00FCro\n10.0.0.3 B\u00FCr\xFCo\n", "f:3:13: not UTF-8: save the file as UTF-8"},
         {{"1\0.\0", 4}, "f: this file is UTF-16; save it as UTF-8"},
         {{"\0\1", 2}, "f: this file is not a text"},
+        {many, "f:4097:1: more than 4096 printers: expected fewer; split the list"},
         {"# none\n", "f: has no printer; expected an IPv4 address, such as 192.0.2.10, or a host name in each line"},
     };
     for (const auto& [text, fault] : kFiles)

@@ -1,24 +1,9 @@
-// Parts that both formats of recordings have: lines, values and the objects read so far.
+// Parts that both formats of recordings have: values and the objects read so far.
 #include "simprinter/recordings/recorded_values.h"
 
 #include "common/text.h"
 
 #include <algorithm>
-
-Lines SplitLines(std::string_view text) {
-    Lines lines;
-    const char lineEnd = text.find('\n') == std::string_view::npos ? '\r' : '\n';
-    while (!text.empty()) {
-        const size_t end = text.find(lineEnd);
-        lines.push_back(text.substr(0, end));
-        text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-    }
-    return lines;
-}
-
-std::string_view WithoutCr(std::string_view line) {
-    return line.substr(0, line.size() - (!line.empty() && line.back() == '\r' ? 1 : 0));
-}
 
 std::string TypeText(Tag tag) {
     constexpr const char* k32Bits = "a whole number from 0 to 4294967295";

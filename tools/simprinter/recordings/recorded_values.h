@@ -1,8 +1,9 @@
-// Lines, values and objects of a recording, for the readers of both formats.
+// Values and objects of a recording, for the readers of both formats.
 #ifndef SIMPRINTER_RECORDED_VALUES_H
 #define SIMPRINTER_RECORDED_VALUES_H
 
 #include "common/findings.h"
+#include "common/lines.h"
 #include "simprinter/snmp/snmp_values.h"
 
 // The objects and findings so far.
@@ -32,12 +33,5 @@ std::optional<Value> ParseNumber(Tag tag, std::string_view text); // decimal; wi
 std::optional<Value> ParseHex(Tag tag, std::string_view text);    // pairs of digits, with or without blanks
 std::optional<Value> ParseOid(Tag tag, std::string_view text);    // numbers only
 std::optional<Value> ParseIpAddress(Tag tag, std::string_view text); // dotted
-
-using Lines = std::vector<std::string_view>;
-
-// The lines of a file, each with the CR before its LF. A file without any LF is split at each CR.
-Lines SplitLines(std::string_view text);
-
-std::string_view WithoutCr(std::string_view line);
 
 #endif

@@ -2,6 +2,7 @@
 #include "workbench/fleet/printer_list.h"
 
 #include "common/encoding.h"
+#include "common/lines.h"
 #include "workbench/lib/document.h"
 #include "workbench/lib/files.h"
 #include "workbench/lib/host_address.h"
@@ -11,6 +12,7 @@
 #include <filesystem>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace {
 
@@ -38,19 +40,15 @@ std::string WithoutListComment(const std::string& line) {
 }
 
 // Where the text is not UTF-8, as LINE:COLUMN: what is wrong; empty: nowhere.
-std::string Utf8Fault(const std::string& text) {
-    size_t number = 1;
-    for (size_t at = 0; at < text.size(); ++number) {
-        const size_t end = std::min(text.find('\n', at), text.size());
-        const std::string line = text.substr(at, end - at);
-        if (!IsUtf8(line)) {
-            size_t valid = line.size() - 1; // the longest start of the line that is UTF-8
-            while (!IsUtf8(line.substr(0, valid)))
-                --valid;
-            return std::to_string(number) + ":" + ColumnOf(line, valid)
-                   + ": not UTF-8: save the file as UTF-8";
-        }
-        at = end + 1;
+std::string Utf8Fault(const Lines& lines) {
+    for (size_t i = 0; i < lines.size(); ++i) {
+        const std::string line(lines[i]);
+        if (IsUtf8(line))
+            continue;
+        size_t valid = line.size() - 1; // the longest start of the line that is UTF-8
+        while (!IsUtf8(line.substr(0, valid)))
+            --valid;
+        return std::to_string(i + 1) + ":" + ColumnOf(line, valid) + ": not UTF-8: save the file as UTF-8";
     }
     return {};
 }
@@ -61,6 +59,7 @@ struct ListReader {
     std::vector<ListedPrinter> printers;
     std::map<std::string, size_t> lines; // of each address
     std::string faults;
+    bool isFull = false; // which is a fault of the first line too many
 
     void Fault(const std::string& line, size_t number, size_t byte, const std::string& message) {
         faults += (faults.empty() ? "" : "\n") + name + ":" + std::to_string(number) + ":"
@@ -82,11 +81,11 @@ struct ListReader {
             return Fault(line, number, start,
                          address + " is already in line " + std::to_string(before->second)
                              + ": expected each printer once");
-        if (printers.size() == kMaxListed)
-            return Fault(line, number, start,
-                         "more than " + std::to_string(kMaxListed)
-                             + " printers: expected fewer; split the list");
-        printers.push_back({address, Trimmed(line.substr(end))});
+        if (printers.size() < kMaxListed)
+            printers.push_back({address, OneLine(line.substr(end))});
+        else if (!std::exchange(isFull, true))
+            Fault(line, number, start,
+                  "more than " + std::to_string(kMaxListed) + " printers: expected fewer; split the list");
     }
 };
 
@@ -122,15 +121,12 @@ bool IsRange(const std::string& text) {
 std::vector<ListedPrinter> ParsePrinterList(const std::string& text, const std::string& name) {
     if (const char* fault = WideTextFault(text))
         throw Failure(kExitUsage, name + ": " + fault);
-    if (const std::string fault = Utf8Fault(text); !fault.empty())
+    const Lines lines = SplitLines(text);
+    if (const std::string fault = Utf8Fault(lines); !fault.empty())
         throw Failure(kExitUsage, name + ":" + fault);
     ListReader reader = {name, {}, {}, {}};
-    size_t number = 1;
-    for (size_t at = 0; at < text.size(); ++number) {
-        const size_t end = std::min(text.find('\n', at), text.size());
-        reader.Read(text.substr(at, end - at), number);
-        at = end + 1;
-    }
+    for (size_t i = 0; i < lines.size(); ++i)
+        reader.Read(std::string(lines[i]), i + 1);
     if (!reader.faults.empty())
         throw Failure(kExitUsage, reader.faults);
     if (reader.printers.empty())

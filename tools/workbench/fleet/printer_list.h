@@ -9,7 +9,7 @@ constexpr size_t kMaxListed = 4096;
 
 struct ListedPrinter {
     std::string address; // IPv4 address or host name, UTF-8
-    std::string name;    // may be empty
+    std::string name;    // on one line, without control characters; may be empty
 };
 
 struct PrinterList {
@@ -22,8 +22,8 @@ struct PrinterList {
 PrinterList ReadPrinterList(const std::string& from);
 
 // A line has an address and, after blanks, an optional name; a comment begins with '#' at the start of a line
-// or after a blank. Throws Failure with all faults of the text, each as NAME:LINE:COLUMN: what is wrong, what
-// is expected.
+// or after a blank. Lines end with LF, CR LF or, in all of the text, CR. Throws Failure with all faults of
+// the text, each as NAME:LINE:COLUMN: what is wrong, what is expected.
 std::vector<ListedPrinter> ParsePrinterList(const std::string& text, const std::string& name);
 
 // The addresses of a range in CIDR notation, without those of the network and for broadcasts. Throws Failure
