@@ -83,6 +83,9 @@ TEST(Recording, BadLinesAreWarningsAndLeftOut) {
         return place + ": warning: expected INTEGER, a whole number from -2147483648 to 2147483647, not '" + text
                + "'\n";
     };
+    const std::string mail =
+        "this is a saved mail with encoded text: save its attachment, or copy the text from the mail "
+        "program\n";
     const std::pair<std::string, std::string> cases[] = {
         {walk + ".1.3.1.0 = No more variables left in this MIB View (It is past the end of the MIB tree)\n", ""},
         {"\n$ snmpwalk -v1 -On 10.0.0.1 .1\n" + walk + "\nEnd of MIB\nC:\\>\n", ""},
@@ -116,6 +119,15 @@ TEST(Recording, BadLinesAreWarningsAndLeftOut) {
          "2:15: warning: the variation 'sql' gives no first value: expected value=... or, of "
          "'numeric', initial=...\n"},
         {good + "1.40.2|2|1\n", "2:1: warning: '1.40.2' is not a valid object identifier\n"},
+        {walk + std::string(128, 'y') + '\n' + std::string(127, 'z') + "\x9B\n",
+         "2: warning: expected 'NAME = TYPE: VALUE', not '" + std::string(128, 'y')
+             + "'\n3: warning: expected 'NAME = TYPE: VALUE', not '" + std::string(127, 'z') + "...'\n"},
+        {good + "1.3.2.0|\x1B\xC2\x9B\xE4\u00E4|1\n", "2:9: warning: unknown tag '\\x1B\\xC2\\x9B\\xE4\u00E4'; "},
+        {walk + ".1.3.2 = STRING: \u201CA\u201D\n.1.3.3 = Wrong Type (should be INTEGER): STRING: &quot;A&quot;\n",
+         "2: warning: another program has changed the quotes around this text and others, 2 in total: they are part of "
+         "the values now; get the recording as a file\n"},
+        {"Content-Transfer-Encoding: quoted-printable\n" + good,
+         "1: warning: expected OID|TAG|VALUE, not 'Content-Transfer-Encoding: quoted-printable'\n1: warning: " + mail},
         {good + "Total 5\n", "2: warning: expected OID|TAG|VALUE, not 'Total 5'\n"},
     };
     for (const auto& [text, wanted] : cases) {
@@ -132,6 +144,9 @@ TEST(Recording, BadLinesAreWarningsAndLeftOut) {
     const std::string none =
         "no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, or '1.3.6...|TAG|VALUE'";
     const std::pair<const char*, std::string> files[] = {
+        {"\x1F\x8B\b", "1: this is a compressed file: unpack it first\n"},
+        {"From: Bob\n> .1.3.1 =3D STRING: \"A\"=20\n", "2: " + mail},
+        {"From: Bob\nContent-transfer-encoding: Base64\r\n\r\nLjEuMw==\n", "2: " + mail},
         {"\nnothing\n", "2: " + none + ", not 'nothing'\n"},
         {"\n", "1: " + none + "; the file is empty\n"},
         {"X-MIB::x.1 = INTEGER: 5\n",
@@ -246,6 +261,9 @@ TEST(Recording, MailsTablesAndMixedLineEndsAreRead) {
         {".1.3.1 = STRING: \"y\rz\"\r.1.3.2 = INTEGER: 5\r", kept},
         {".1.3.1 = STRING: \"y\r\nz\"\n.1.3.2 = INTEGER: 5\r\n", "1.3.1|4x|790d0a7a\n1.3.2|2|5\n"}, // a text's own CR
         {"1.3.1|4x|790a7a\n1.3.2|2|5\r\n", kept},
+        {"\u00A0.1.3.1 =\u00A0STRING:\u00A0\"y\nz\"\n.1.3.2\u00A0= INTEGER: 5\n", kept},
+        {"> \u00A0.1.3.1 = \"\"\n> .1.3.2 = STRING: \"a\u00A0b\"\n", "1.3.1|4|\n1.3.2|4|a b\n"},
+        {".1.3.1 = STRING: \"a\u00A0b\"\n.1.3.2 = INTEGER: 5\n", "1.3.1|4x|61c2a062\n1.3.2|2|5\n"}, // its own
     };
     for (const auto& [text, wanted] : cases) {
         std::string listed;

@@ -14,6 +14,14 @@ std::string SnmprecLine(const Oid& name, const Value& value);
 size_t FindSnmprecLine(const Lines& lines);
 size_t FindWalkLine(const Lines& lines);
 
+// The text, with blanks in place of all no-break spaces when they hide an object's name, equals sign or type:
+// mail programs and web pages make them of blanks.
+std::string WithoutNoBreakSpaces(const std::string& text);
+
+// The position of the first line "NAME =3D ...", as a mail has it that was saved in quoted-printable;
+// lines.size() when there is none.
+size_t FindSavedMailLine(const Lines& lines);
+
 // Where an object begins behind something else, such as a line number; line 0 when nowhere.
 Place FindObjectBehindOther(const Lines& lines);
 

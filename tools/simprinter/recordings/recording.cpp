@@ -36,16 +36,28 @@ std::string PlainText(const std::string& text, Findings& findings) {
         return TextOfUtf16(text, findings);
     case Encoding::kUtf32:
     case Encoding::kNotText:
+    case Encoding::kCompressed:
         findings.Error(AtLine(1), WideTextFault(text));
         return "";
     }
     return std::string(WithoutUtf8Mark(text));
 }
 
+constexpr const char* kSavedMail = "this is a saved mail with encoded text: save its attachment, or copy the "
+                                   "text from the mail program";
+
+// The header line of a mail, or of a part of one, whose text is encoded.
+bool IsEncodingHeader(std::string_view line) {
+    constexpr std::string_view kHeader = "Content-Transfer-Encoding: ";
+    line = WithoutCr(line);
+    const std::string_view encoding = line.substr(std::min(kHeader.size(), line.size()));
+    return EqualNoCase(line.substr(0, kHeader.size()), kHeader)
+           && (EqualNoCase(encoding, "quoted-printable") || EqualNoCase(encoding, "base64"));
+}
+
 void ReportNoObject(const Lines& lines, Findings& findings) {
     if (FindWalkLine(lines) != lines.size() || FindSnmprecLine(lines) != lines.size())
         return findings.Error(AtLine(1), "no object is left: none has a value that can be read");
-    constexpr size_t kMaxQuoted = 80;
     const std::string expected =
         "no recorded object: expected 'NAME = TYPE: VALUE' as snmpwalk prints it, or "
         "'1.3.6...|TAG|VALUE'";
@@ -58,15 +70,17 @@ void ReportNoObject(const Lines& lines, Findings& findings) {
     if (first == lines.end())
         return findings.Error(AtLine(1), expected + "; the file is empty");
     findings.Error(AtLine(static_cast<uint64_t>(first - lines.begin()) + 1),
-                   expected + ", not " + Quote(WithoutCr(*first).substr(0, kMaxQuoted)));
+                   expected + ", not " + Quote(WithoutCr(*first)));
 }
 
 } // namespace
 
 ObjectMap ReadRecording(const std::string& text, Findings& findings) {
-    const std::string plain = PlainText(text, findings);
+    const std::string plain = WithoutNoBreakSpaces(PlainText(text, findings));
     const Lines lines = SplitLines(plain);
     Recording recording(findings);
+    if (const size_t mail = FindSavedMailLine(lines); mail != lines.size())
+        findings.Error(AtLine(mail + 1), kSavedMail);
     if (findings.HasErrors())
         return {};
     if (FindSnmprecLine(lines) < FindWalkLine(lines))
@@ -74,7 +88,11 @@ ObjectMap ReadRecording(const std::string& text, Findings& findings) {
     else
         ReadWalk(lines, recording);
     recording.CountUnlistedWarnings();
-    if (recording.objects.empty())
+    if (const auto header = std::find_if(lines.begin(), lines.end(), IsEncodingHeader); header != lines.end())
+        findings.list.push_back({AtLine(static_cast<uint64_t>(header - lines.begin()) + 1),
+                                 recording.objects.empty() ? Severity::kError : Severity::kWarning,
+                                 kSavedMail});
+    else if (recording.objects.empty())
         ReportNoObject(lines, findings);
     return recording.objects;
 }

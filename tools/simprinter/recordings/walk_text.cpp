@@ -131,15 +131,36 @@ Form FormOf(const Lines& lines) {
     return form;
 }
 
+// With blanks in place of no-break spaces.
+std::string WithBlanks(std::string_view text) {
+    constexpr std::string_view kNoBreakSpace = "\u00A0";
+    std::string plain;
+    for (size_t at; (at = text.find(kNoBreakSpace)) != std::string_view::npos;) {
+        plain.append(text.substr(0, at)).push_back(' ');
+        text.remove_prefix(at + kNoBreakSpace.size());
+    }
+    return plain.append(text);
+}
+
+// Something that many objects may have, and that is reported once.
+struct Occurrences {
+    size_t count = 0;
+    Place first = {};
+
+    void Add(Place place) {
+        if (count++ == 0)
+            first = place;
+    }
+};
+
 struct WalkReader {
     const Lines& lines;
     Form form;
     Recording& recording;
     std::vector<size_t> quotes = {}; // for each line, itself or the next one that has a quote
-    size_t ignored = 0;              // lines before the first object
-    Place firstIgnored = {};
-    size_t guessed = 0;
-    Place firstGuessed = {};
+    Occurrences ignored = {};        // lines before the first object
+    Occurrences guessed = {};        // types
+    Occurrences changed = {};        // quotes
 
     static bool IsRemark(std::string_view line) {
         line = WithoutMargin(line);
@@ -156,8 +177,7 @@ struct WalkReader {
             return;
         if (!recording.objects.empty())
             return recording.Warn(AtLine(at + 1), "expected 'NAME = TYPE: VALUE', not " + Quote(line));
-        if (ignored++ == 0)
-            firstIgnored = AtLine(at + 1);
+        ignored.Add(AtLine(at + 1));
     }
 
     void Store(size_t at, const ObjectLine& object, const std::string& text) {
@@ -172,8 +192,10 @@ struct WalkReader {
             place.column = object.textAt + 1;
             return recording.Warn(place, value.fault);
         }
-        if (value.isGuessed && guessed++ == 0)
-            firstGuessed = place;
+        if (value.isGuessed)
+            guessed.Add(place);
+        if (HasChangedQuote(text))
+            changed.Add(place);
         recording.Add(place, object.name.oid, *value.value);
     }
 
@@ -253,6 +275,12 @@ struct WalkReader {
         return next;
     }
 
+    void ReportOnce(const Occurrences& occurrences, const std::string& what, const char* advice = "") {
+        if (occurrences.count != 0)
+            recording.findings.Warning(occurrences.first, what + ", " + std::to_string(occurrences.count)
+                                                              + " in total" + advice);
+    }
+
     void ReadAll() {
         quotes.assign(lines.size(), lines.size());
         for (size_t i = lines.size(); i-- > 0;) {
@@ -265,15 +293,12 @@ struct WalkReader {
                 ReadOther(i);
             i = object ? ReadObject(i, *object) : i + 1;
         }
-        if (ignored != 0 && !recording.objects.empty())
-            recording.findings.Warning(firstIgnored,
-                                       "this line and all others before the first object are ignored, "
-                                           + std::to_string(ignored) + " in total");
-        if (guessed != 0)
-            recording.findings.Warning(firstGuessed,
-                                       "the types are not recorded: this object and all others that are "
-                                       "not in a standard MIB are guessed, "
-                                           + std::to_string(guessed) + " in total");
+        if (!recording.objects.empty())
+            ReportOnce(ignored, "this line and all others before the first object are ignored");
+        ReportOnce(guessed, "the types are not recorded: this object and all others that are not in a "
+                            "standard MIB are guessed");
+        ReportOnce(changed, "another program has changed the quotes around this text and others",
+                   ": they are part of the values now; get the recording as a file");
     }
 };
 
@@ -284,6 +309,30 @@ size_t FindWalkLine(const Lines& lines) {
     const auto first = std::find_if(lines.begin(), lines.end(),
                                     [&](std::string_view line) { return ObjectAt(line, form).has_value(); });
     return static_cast<size_t>(first - lines.begin());
+}
+
+std::string WithoutNoBreakSpaces(const std::string& text) {
+    const auto isHidden = [](std::string_view line) {
+        const std::string plain = WithBlanks(line);
+        if (plain.size() == line.size())
+            return false;
+        const std::optional<ObjectLine> read = SplitObject(line, true), meant = SplitObject(plain, true);
+        return meant ? !read || StartsWithType(read->text) != StartsWithType(meant->text)
+                     : SplitObject(plain, false) && !SplitObject(line, false);
+    };
+    const Lines lines = SplitLines(text);
+    return std::any_of(lines.begin(), lines.end(), isHidden) ? WithBlanks(text) : text;
+}
+
+size_t FindSavedMailLine(const Lines& lines) {
+    const auto isSavedMail = [](std::string_view line) {
+        line = WithoutMargin(line);
+        const WalkName name = ReadWalkName(line);
+        const std::string_view rest = line.substr(name.length);
+        const std::string_view sign = rest.substr(BlankSize(rest));
+        return name.isSure && HasPrefix(sign, "=3D ");
+    };
+    return static_cast<size_t>(std::find_if(lines.begin(), lines.end(), isSavedMail) - lines.begin());
 }
 
 Place FindObjectBehindOther(const Lines& lines) {

@@ -20,6 +20,9 @@ std::string UnknownNameFault(std::string_view name);
 // Whether the text starts with a type, such as "INTEGER: ".
 bool StartsWithType(std::string_view text);
 
+// Whether a text begins with what other programs make of its quote: a typographic one, or "&quot;".
+bool HasChangedQuote(std::string_view text);
+
 // The position of the quote that a value begins with, behind its type; npos when there is none.
 size_t FindOpeningQuote(std::string_view text);
 

@@ -170,6 +170,13 @@ std::string_view WithoutRemark(std::string_view text) {
     return end == std::string_view::npos ? text : text.substr(end + 3);
 }
 
+// Where a text begins, behind its type.
+size_t StringStart(std::string_view text) {
+    constexpr std::string_view kType = "STRING: ";
+    const std::string_view value = WithoutRemark(text);
+    return text.size() - value.size() + (HasPrefix(value, kType) ? kType.size() : 0);
+}
+
 // Decimal numbers separated by any of the characters; nothing when something else is in the text.
 std::optional<std::vector<uint32_t>> Numbers(std::string_view text, const char* separators, int base) {
     std::vector<uint32_t> numbers;
@@ -336,10 +343,14 @@ size_t FindQuote(std::string_view text) {
     return std::string_view::npos;
 }
 
+bool HasChangedQuote(std::string_view text) {
+    const std::string_view value = text.substr(StringStart(text));
+    return HasPrefix(value, "\u201C") || HasPrefix(value, "\u201D") || HasPrefix(value, "\u201E")
+           || HasPrefix(value, "&quot;");
+}
+
 size_t FindOpeningQuote(std::string_view text) {
-    constexpr std::string_view kType = "STRING: ";
-    const std::string_view value = WithoutRemark(text);
-    const size_t at = text.size() - value.size() + (HasPrefix(value, kType) ? kType.size() : 0);
+    const size_t at = StringStart(text);
     return HasPrefix(text.substr(at), "\"") ? at : std::string_view::npos;
 }
 
