@@ -64,7 +64,7 @@ std::string ReadFile(const std::string& path, size_t most) {
 }
 
 std::string FileToReplace(const std::string& path) {
-    const auto refuse = [&](const char* why) {
+    const auto refuse = [&](const std::string& why) {
         throw std::runtime_error("cannot write '" + path + "': " + why);
     };
     std::error_code ignored;
@@ -79,8 +79,10 @@ std::string FileToReplace(const std::string& path) {
     if (isLink && !fs::exists(status))
         refuse("it is a link to a file that does not exist");
     const std::string target = isLink ? fs::canonical(path).string() : path; // a link stays a link
-    const fs::path folder = fs::path(target).parent_path();
-    if (access(folder.empty() ? "." : folder.c_str(), W_OK | X_OK) != 0)
+    const fs::path parent = fs::path(target).parent_path(), folder = parent.empty() ? "." : parent;
+    if (!fs::is_directory(folder, ignored))
+        refuse("there is no folder '" + folder.string() + "'");
+    if (access(folder.c_str(), W_OK | X_OK) != 0)
         Fail("create a temporary file next to", path, errno);
     return target;
 }

@@ -48,7 +48,7 @@ TEST_F(Program, ExitCodesAndOutput) {
         {"build good.yaml -o new.PRM", 0, "", ""},
         {"build bad.yaml -o new.PRM", 1, "", "bad.yaml:1:1: unknown entry 'Countri'"},
         {"build none.yaml -o new.PRM", 2, "", "prmc: cannot read 'none.yaml': No such file or directory"},
-        {"build good.yaml -o none/new.PRM", 2, "", "prmc: cannot create a temporary file next to 'none/new.PRM': "},
+        {"build good.yaml -o none/new.PRM", 2, "", "prmc: cannot write 'none/new.PRM': there is no folder 'none'"},
         {"build good.yaml", 2, "", "prmc: --output is required"},
         {"build good.PRM -o new.PRM", 2, "", "prmc: 'good.PRM' is a binary file; this command takes a model"},
         {"dump good.PRM", 0, "Copies: {min: 1, max: 999, default: 5}\n", ""},

@@ -127,11 +127,11 @@ TEST_F(Record, NamesThatCannotBeWrittenAreRefusedAtOnce) {
     const RunningPrinter printer("--replay " + device);
     const std::pair<std::string, std::string> cases[] = {
         {"-", "simprinter: a recording can't be written to the standard output: write the name of a file\n"},
-        {"''", "simprinter: cannot write '': the name is empty\n"},
         {"/dev/null", "simprinter: cannot write '/dev/null': it is not a file but a device or a pipe\n"},
         {folder.path, "simprinter: cannot write '" + folder.path + "': it is a folder\n"},
         {gone, "simprinter: cannot write '" + gone + "': it is a link to a file that does not exist\n"},
-        {"/none/x", "simprinter: cannot create a temporary file next to '/none/x': No such file or directory\n"},
+        {"/none/x", "simprinter: cannot write '/none/x': there is no folder '/none'\n"},
+        {link + "/x", "simprinter: cannot write '" + link + "/x': there is no folder '" + link + "'\n"},
     };
     for (const auto& [name, output] : cases) {
         file = name;
@@ -208,13 +208,18 @@ TEST_F(Record, NamesWithoutAValueAreLeftOut) {
                               "# 1 objects are left out, as the device gives no value; the first is .1.3.6.1.3\n");
 }
 
-// What was recorded stays in the part; the old file is untouched.
+// What was recorded stays in the part, which no other recorder touches; the old file is untouched.
 TEST_F(Record, StoppedWalkKeepsItsPart) {
     const RunningPrinter printer("--replay " + device + " --versions 1 --fault delay=30");
     folder.File("out.snmprec", "old");
+    const std::string record =
+        SIMPRINTER_PROGRAM " record 127.0.0.1 --version 1 --port " + printer.Port() + " -o " + file;
     const CommandResult result =
-        RunCommand("timeout -s INT 2 " SIMPRINTER_PROGRAM " record 127.0.0.1 --version 1 --port " + printer.Port()
-                   + " -o " + file);
+        RunCommand("{ sleep 1; " + record + "; echo second $?; } & timeout -s INT 2 " + record + "; wait");
+    EXPECT_NE(result.output.find("'" + part + "' is in use by another 'simprinter record', of '127.0.0.1, SNMPv1': "),
+              std::string::npos)
+        << result.output;
+    EXPECT_NE(result.output.find("\nsecond 1\n"), std::string::npos) << result.output;
     EXPECT_NE(result.output.find("simprinter: stopped\n"), std::string::npos) << result.output;
     EXPECT_NE(result.output.find("'" + part + "' (SNMPv1, "), std::string::npos) << result.output;
     EXPECT_EQ(ReadFile(file), "old");

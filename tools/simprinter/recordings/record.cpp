@@ -15,10 +15,13 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -218,6 +221,35 @@ struct Walk {
     }
 };
 
+// The lock that keeps other recorders off a part. It is that of the file, which keeps it when it is renamed.
+struct PartLock {
+    int descriptor = -1;
+
+    // Throws when another recorder has the lock. On a file system without locks there is none.
+    explicit PartLock(const std::string& part) {
+        struct stat locked = {}, named = {};
+        do { // until the name is that of the locked file: its recorder may just have renamed it
+            if (descriptor >= 0)
+                close(descriptor);
+            descriptor = open(part.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+            if (descriptor < 0)
+                throw std::runtime_error("cannot write " + QuotePath(part) + ": " + std::strerror(errno));
+            if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
+                std::string header;
+                std::getline(std::ifstream(part), header);
+                close(descriptor);
+                throw std::runtime_error(QuotePath(part) + " is in use by another 'simprinter record', of "
+                                         + Quote(header.substr(std::min<size_t>(2, header.size())))
+                                         + ": wait until it ends, or choose another file");
+            }
+        } while (fstat(descriptor, &locked) != 0 || stat(part.c_str(), &named) != 0
+                 || locked.st_ino != named.st_ino || locked.st_dev != named.st_dev);
+    }
+    PartLock(const PartLock&) = delete;
+    PartLock& operator=(const PartLock&) = delete;
+    ~PartLock() { close(descriptor); }
+};
+
 // Connects with the first version that the address answers. Returns why there is none, or nothing.
 std::string FindVersion(const RecordOptions& options, const SocketAddress& address, SnmpClient& client) {
     const std::string where = EndpointText(EndpointOf(address));
@@ -284,6 +316,7 @@ bool RecordDevice(const RecordOptions& options) {
     walk.client.wait = std::min(walk.client.longestWait, Milliseconds(500));
     walk.client.stop = &isStopped;
     FindAgent(options, walk.client);
+    const PartLock lock(part);
     walk.file.open(part, std::ios::binary | std::ios::trunc);
     const std::string header = "# " + options.address + ", " + walk.client.version->name + '\n';
     walk.bytes = header.size();
@@ -302,8 +335,9 @@ bool RecordDevice(const RecordOptions& options) {
                                  + " has answered, but gives no object");
     }
     const bool isComplete = end == End::kComplete;
-    if (isComplete)
-        std::filesystem::rename(part, target);
+    if (isComplete && std::rename(part.c_str(), target.c_str()) != 0)
+        throw std::runtime_error("cannot rename " + QuotePath(part) + " to " + QuotePath(target) + ": "
+                                 + std::strerror(errno));
     std::cout << "simprinter: " << walk.objects << " objects of " << options.address << " in "
               << QuotePath(isComplete ? options.file : part) << " (" << walk.client.version->name << ", "
               << SecondsText(walk.Seconds()) << (isComplete ? ")" : "), not complete") << std::endl;
