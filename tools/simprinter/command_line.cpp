@@ -75,6 +75,17 @@ std::vector<CLI::Option*> AddPrinterOptions(CLI::App& app, PrinterOptions& print
     };
 }
 
+// An empty value is that of a variable that a script has not set. After "--option=", CLI11 takes the next
+// word for the value.
+void RefuseEmptyValues(const std::vector<std::string>& words) {
+    for (size_t i = 0; i < words.size(); ++i) {
+        const bool isEmpty = i + 1 < words.size() && words[i + 1].empty();
+        if (isEmpty || (HasPrefix(words[i], "--") && words[i].find('=') == words[i].size() - 1))
+            throw WrongUsage("the value after " + Quote(words[i])
+                             + " is empty: write one, or leave the option out");
+    }
+}
+
 // The options in front of `record` are those of a simulated printer, which it does not have.
 void RefuseOptionsInFront(const CLI::App& app) {
     for (const CLI::Option* option : app.get_options()) {
@@ -136,6 +147,7 @@ bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     std::string version;
     AddRecordCommand(app, record, version);
     try {
+        RefuseEmptyValues({argv, argv + argc});
         app.parse(argc, argv);
         if (app.got_subcommand("record")) {
             RefuseOptionsInFront(app);
@@ -163,6 +175,7 @@ PrinterOptions ReadPrinterOptions(const std::string& text) {
     app.set_help_flag();
     AddPrinterOptions(app, printer);
     try {
+        RefuseEmptyValues(CLI::detail::split_up(text));
         app.parse(text);
     } catch (const CLI::ParseError& error) {
         throw WrongUsage(ErrorText(app, error));

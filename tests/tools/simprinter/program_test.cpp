@@ -26,6 +26,10 @@ TEST(Program, ExitCodesAndMessages) {
         {"--fault loss=101", 2, "simprinter: fault 'loss=101': PERCENT must be a number from 0 to 100"},
         {"--fault counter=1", 2, "simprinter: fault 'counter=1': counter takes no value"},
         {"--fault silence@system", 2, "simprinter: fault 'silence@system': after '@' write an object identifier"},
+        {"--replay ''", 2, "simprinter: the value after '--replay' is empty: write one, or leave the option out\n"},
+        {"record --community= -o x 127.0.0.1", 2, "simprinter: the value after '--community=' is empty"},
+        {"record '[::1]:1161' -o x", 1,
+         "simprinter: '[::1]:1161' is not an address or a name: write ::1 --port 1161\n"},
         {"--device " + bad + " --replay " + walk, 2, "simprinter: --device excludes --replay"},
         {"--replay " + folder.path, 1, "simprinter: cannot read '" + folder.path + "': Is a directory"},
         {"--device " + bad + " 2>&1 | tail -2", 0,
@@ -60,6 +64,9 @@ TEST(Program, CommandRunsOnlyWhilePrintersAnswer) {
         {good, with, 2, "usage: with-printers LIST COMMAND [ARGUMENT]...\n"},
         {good, run, 2, "usage: with-printers LIST COMMAND [ARGUMENT]...\n"},
         {good, run + " echo runs", 0, "runs\n"},
+        {good,
+         "out=$(" + with + "gone.list echo 2>&1); [ \"$out\" != 'with-printers: cannot read the list gone.list' ]", 1,
+         ""}, // and nothing else
         {good, run + ' ' + run.substr(run.find("timeout")) + " echo runs", 1,
          "with-printers: the printers of a list with_printers_test.list are running already"},
         {"127.0.165.1 simprinter --bad", run + " echo runs", 1, "simprinter: "}, // after the log of a good run

@@ -1,6 +1,8 @@
 // Sends requests to an agent and waits for the answers.
 #include "simprinter/snmp/snmp_client.h"
 
+#include "common/text.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -43,6 +45,18 @@ Answer WaitForReply(SnmpClient& client, long requestId, Milliseconds wait, Messa
     }
 }
 
+// What to write in place of "127.0.0.1:161", "[::1]" or "[::1]:161"; empty for other texts.
+std::string WithPortOption(const std::string& host) {
+    const size_t close = HasPrefix(host, "[") ? host.find(']') : std::string::npos;
+    const bool isBracketed = close != std::string::npos;
+    const size_t end = isBracketed ? close + 1 : std::min(host.find(':'), host.size());
+    const std::string address = isBracketed ? host.substr(1, close - 1) : host.substr(0, end);
+    if (end == host.size())
+        return isBracketed ? address : "";
+    const bool isPort = host[end] == ':' && host.find(':', end + 1) == std::string::npos;
+    return isPort ? address + " --port " + host.substr(end + 1) : "";
+}
+
 } // namespace
 
 ClientSocket::~ClientSocket() {
@@ -51,11 +65,13 @@ ClientSocket::~ClientSocket() {
 }
 
 std::vector<SocketAddress> FindAddresses(const std::string& host, uint16_t port) {
+    if (const std::string instead = WithPortOption(host); !instead.empty())
+        throw std::runtime_error(Quote(host) + " is not an address or a name: write " + instead);
     addrinfo hints = {};
     hints.ai_socktype = SOCK_DGRAM;
     addrinfo* found = nullptr;
     if (const int error = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found); error != 0)
-        throw std::runtime_error("cannot find the address of '" + host + "': " + gai_strerror(error));
+        throw std::runtime_error("cannot find the address of " + Quote(host) + ": " + gai_strerror(error));
     const std::unique_ptr<addrinfo, void (*)(addrinfo*)> release(found, freeaddrinfo);
     std::vector<SocketAddress> addresses;
     for (const addrinfo* next = found; next; next = next->ai_next) {
