@@ -178,6 +178,11 @@ Place PlaceOf(const YAML::Node& node) {
     return PlaceOf(node.Mark());
 }
 
+void PlaceAtName(const YAML::Node& name, const YAML::Node& value, size_t first, Findings& findings) {
+    for (size_t i = first; value.IsNull() && i < findings.list.size(); ++i)
+        findings.list[i].place = PlaceOf(name);
+}
+
 bool ReadScalar(const std::string& name, const YAML::Node& node, std::string& text, Findings& findings) {
     if (node.IsScalar()) {
         text = node.Scalar();

@@ -34,9 +34,12 @@ bool ReadFlag(const std::string& name, const YAML::Node& node, int64_t& number, 
 std::string UnknownName(const std::string& sentence, const std::string& name, const YAML::Node& value,
                         const std::vector<std::string>& known);
 
+// Gives the findings from `first` on, about a value, the place of its name if the value is missing: yaml-cpp
+// gives such a value the place of whatever follows.
+void PlaceAtName(const YAML::Node& name, const YAML::Node& value, size_t first, Findings& findings);
+
 // Calls `use` with the name, its node and the value's node of each member. Names that are no scalar or that
-// occur again are findings. What `use` finds about a value that is missing has the place of the name:
-// yaml-cpp gives it that of whatever follows.
+// occur again are findings. What `use` finds about a value that is missing has the place of the name.
 template <typename Use>
 void ForEachMember(const YAML::Node& map, const std::string& shape, Findings& findings, const Use& use) {
     if (!map.IsMap()) {
@@ -53,8 +56,7 @@ void ForEachMember(const YAML::Node& map, const std::string& shape, Findings& fi
         else {
             const size_t before = findings.list.size();
             use(member.first.Scalar(), member.first, member.second);
-            for (size_t i = before; member.second.IsNull() && i < findings.list.size(); ++i)
-                findings.list[i].place = PlaceOf(member.first);
+            PlaceAtName(member.first, member.second, before, findings);
         }
     }
 }

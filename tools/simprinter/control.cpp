@@ -184,10 +184,10 @@ std::string Tidy(const std::string& line) {
     std::istringstream words(line);
     std::string tidy;
     for (std::string word; words >> std::ws && !words.eof();) {
-        if (words.peek() == '"')
-            words >> std::quoted(word);
-        else
+        if (words.peek() != '"')
             words >> word;
+        else if (!(words >> std::quoted(word)))
+            Refuse("a double quote is not closed: write another at the end of the text");
         tidy += (tidy.empty() ? "" : " ") + word;
     }
     return tidy;
@@ -196,10 +196,10 @@ std::string Tidy(const std::string& line) {
 } // namespace
 
 ControlReply RunControlLine(std::vector<Printer>& printers, const std::string& line, UpTime upTime) {
-    std::string rest = Tidy(line);
-    if (rest.empty())
-        return {true, ""};
     try {
+        std::string rest = Tidy(line);
+        if (rest.empty())
+            return {true, ""};
         if (const size_t bad = FindBadUtf8(rest); bad != std::string::npos)
             Refuse("this line is not UTF-8 from byte " + std::to_string(bad + 1) + " on");
         const Selected selected = Select(printers, rest);

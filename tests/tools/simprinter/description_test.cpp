@@ -49,6 +49,7 @@ TEST(Description, LevelsSetTheDetectedErrors) {
 TEST(Description, EveryErrorIsReportedAtItsPlace) {
     const std::pair<std::string, const char*> cases[] = {
         {"name: " + std::string(256, 't'), "1:7: 'name' has 256 bytes, but at most 255 fit: shorten it\n"},
+        {"memory: 5\nname:\nduplex: yes", "2:1: 'name' has no value; write \"\" for an empty text\n"},
         {"memory: -1", "1:9: 'memory' is -1, which is out of range: write 0 to 2147483647\n"},
         {"punching: 4", "1:11: 'punching' can't be '4'; possible: 2, 2-3, 2-4\n"},
         {"options: FAX", "1:10: 'options' must be a list of '- ' elements, or []\n"},

@@ -81,6 +81,8 @@ TEST(Control, WrongLinesChangeNothing) {
         {"set location Cell\xFF", "this line is not UTF-8 from byte 18 on"},
         {"clear all", "fault 'all': unknown fault; possible: silence, "},
         {"clear loss", "there is no fault 'loss' to clear; "},
+        {"clear loss=30@.1.3", "fault 'loss=30@.1.3': write clear loss@.1.3, without the value"},
+        {"set location \"Cellar two", "a double quote is not closed"},
         {"fault delay=500 loss=20", "fault 'delay=500 loss=20': write one fault only, without blanks"},
         {"fault wrong-address", "::1: wrong-address needs an IPv4 printer: "},
         {"127.0.0.1 set TRAY5 level 0",

@@ -229,8 +229,13 @@ void AddFault(FaultSet& set, const Fault& fault) {
 
 bool RemoveFaults(FaultSet& set, const std::string& text) {
     const size_t at = text.find('@');
-    const FaultKind& kind = FindKind(text, text.substr(0, at));
+    const std::string name = text.substr(0, at);
+    const size_t equals = name.find('=');
+    const FaultKind& kind = FindKind(text, name.substr(0, equals));
     const Oid prefix = ParsePrefix(text, at);
+    if (equals != std::string::npos)
+        Refuse(text, std::string("write clear ") + kind.name
+                         + (at == std::string::npos ? "" : text.substr(at)) + ", without the value");
     const auto first = std::remove_if(set.faults.begin(), set.faults.end(), [&](const Fault& fault) {
         return fault.kind == &kind && (at == std::string::npos || fault.prefix == prefix);
     });

@@ -43,20 +43,23 @@ void ReadFields(const FieldRow<Thing> (&rows)[kCount], const char* what, const Y
     std::vector<std::string> known;
     for (const FieldRow<Thing>& row : rows)
         known.emplace_back(row.name);
-    std::map<std::string, YAML::Node> given;
+    std::map<std::string, std::pair<YAML::Node, YAML::Node>> given; // names and values
     ForEachMember(node, std::string(what) + ": {FIELD: VALUE, ...}", findings,
                   [&](const std::string& name, const YAML::Node& nameNode, const YAML::Node& valueNode) {
                       if (std::find(known.begin(), known.end(), name) != known.end())
-                          given[name].reset(valueNode);
+                          given.emplace(name, std::pair(nameNode, valueNode));
                       else
                           findings.Error(PlaceOf(nameNode), std::string(what) + " has no field " + Quote(name)
                                                                 + NearestHint(name, known) + "; "
                                                                 + Choices(known));
                   });
     for (const FieldRow<Thing>& row : rows) {
-        if (const auto value = given.find(row.name); value != given.end())
-            row.read({row.name, value->second, findings}, thing);
-        else if (node.IsMap() && row.use == Use::kRequired)
+        if (const auto field = given.find(row.name); field != given.end()) {
+            const auto& [name, value] = field->second;
+            const size_t before = findings.list.size();
+            row.read({row.name, value, findings}, thing);
+            PlaceAtName(name, value, before, findings);
+        } else if (node.IsMap() && row.use == Use::kRequired)
             findings.Error(PlaceOf(node), Quote(row.name) + " is missing: " + what + " needs it");
     }
 }
