@@ -54,8 +54,9 @@ constexpr FaultCase kFaultCases[] = {
     {"37", "stopped",          true,  "has stopped: Front door is open\\.$"},
     {"31", "otherModel otherSupplies missingValues", true, "calls itself 'Halden M410', not 'QUORVANE lumora R880'"},
     {"32", "otherModel",       true,  "calls itself 'QUORVANE Lumora R880', not 'QUORVANE lumora R880'"},
-    {"nowhere.invalid", "unknownHost", false, "no device with the name nowhere\\.invalid"},
+    {"nowhere..invalid", "unknownHost", false, "no device with the name nowhere\\.\\.invalid"},
     {"::1", "ipv6Only",        false, "IPv6 addresses only: ::1"},
+    {"[fe80::1%9]", "ipv6Only", false, "IPv6 addresses only"},
     {"127.255.255.255", "noRoute", false, "No request could be sent"},
 };
 // clang-format on

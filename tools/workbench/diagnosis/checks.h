@@ -8,6 +8,7 @@
 
 // The name, and whether and how the device is addressed.
 std::string FindUnknownHost(const Observations& seen);
+std::string FindNoNameService(const Observations& seen);
 std::string FindIpv6Only(const Observations& seen);
 std::string FindNoRoute(const Observations& seen);
 std::string FindClosed(const Observations& seen);

@@ -56,7 +56,8 @@ HostObservation ObserveHost(const std::string& agent, const std::function<void()
     const auto work = [seen, agent] {
         const SocketsStart sockets;
         seen->kind = FindHost(agent, seen->ipv4);
-        seen->addresses = AddressesOf(agent);
+        if (seen->kind == HostKind::kIpv4 || seen->kind == HostKind::kIpv6)
+            seen->addresses = AddressesOf(agent);
     };
     if (!EndsWithin(kNameLimit, work, meanwhile))
         return {};

@@ -70,11 +70,18 @@ bool HasDriversCommunity(const Observations& seen) {
 // --- The way to the printer
 
 std::string FindUnknownHost(const Observations& seen) {
+    return seen.host.isFound && seen.host.kind == HostKind::kUnknown
+               ? "There is no device with the name " + seen.address + "."
+               : "";
+}
+
+std::string FindNoNameService(const Observations& seen) {
     if (!seen.host.isFound)
         return "The name service has not answered for " + seen.address + " within "
                + std::to_string(static_cast<int>(kNameLimit / 1000)) + " s.";
-    return seen.host.kind == HostKind::kUnknown ? "There is no device with the name " + seen.address + "."
-                                                : "";
+    return seen.host.kind == HostKind::kNoNameService
+               ? "The name service does not answer for " + seen.address + "."
+               : "";
 }
 
 std::string FindIpv6Only(const Observations& seen) {
@@ -83,7 +90,7 @@ std::string FindIpv6Only(const Observations& seen) {
     std::string list;
     for (const std::string& address : seen.host.addresses)
         AddPart(list, address);
-    return seen.address + " leads to IPv6 addresses only: " + list + ".";
+    return seen.address + " leads to IPv6 addresses only" + (list.empty() ? "." : ": " + list + ".");
 }
 
 std::string FindNoRoute(const Observations& seen) {

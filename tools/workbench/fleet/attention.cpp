@@ -27,6 +27,8 @@ constexpr struct {
     {Outcome::kIpv6Address, {Attention::kNoAnswer, "IPv6 only", "list its IPv4 address"}},
     {Outcome::kUnknownHost,
      {Attention::kNoAnswer, "unknown name", "check the spelling, or list its IPv4 address"}},
+    {Outcome::kNoNameService,
+     {Attention::kNoAnswer, "name service silent", "ask again later, or list its IPv4 address"}},
     {Outcome::kNoLibrary, {Attention::kNoAnswer, "not queried", "install the bidirectional library"}},
     {Outcome::kNotSent, {Attention::kNoAnswer, "not reachable", "check the network of this computer"}},
     {Outcome::kRefused, {Attention::kNoAnswer, "SNMP refused", "turn on SNMP, or check the address"}},

@@ -18,7 +18,7 @@ namespace {
 
 constexpr size_t kMaxLookups = 16;     // at once
 constexpr uint32_t kSlowLookup = 5000; // milliseconds
-constexpr int kMaxSlowLookups = 16;    // then the name service is given up
+constexpr int kMaxSlowLookups = 16;    // in succession, then the name service is given up
 
 std::atomic<int> interrupts{0};
 
@@ -89,15 +89,24 @@ struct FleetRun::Work {
     // Whether the name service is silent: it may take 20 seconds for each name.
     bool IsGivenUp() const { return slowLookups >= kMaxSlowLookups; }
 
+    // A name that was found shows that the service answers.
+    void NoteLookup(const PrinterState& state) {
+        const bool isNotFound =
+            state.outcome == Outcome::kUnknownHost || state.outcome == Outcome::kNoNameService;
+        if (!isNotFound)
+            slowLookups = 0;
+        else if (state.milliseconds > kSlowLookup)
+            ++slowLookups;
+    }
+
     // Looks up host names, each once, on threads that ask no printer.
     void LookUpNames() {
         for (size_t at = nextName++; at < names.size() && !isStopped; at = nextName++) {
             const size_t printer = names[at];
             std::string address;
-            PrinterState state = IsGivenUp() ? FailedState(printers[printer], Outcome::kUnknownHost)
+            PrinterState state = IsGivenUp() ? FailedState(printers[printer], Outcome::kNoNameService)
                                              : FindListed(files, printers[printer], address);
-            if (state.outcome == Outcome::kUnknownHost && state.milliseconds > kSlowLookup)
-                ++slowLookups;
+            NoteLookup(state);
             if (address.empty())
                 Finish(printer, std::move(state));
             else

@@ -7,6 +7,8 @@
 #include <cctype>
 #include <winsock2.h>
 
+#include <ws2tcpip.h> // after winsock2.h
+
 namespace {
 
 constexpr size_t kMaxHostName = 253; // bytes
@@ -45,8 +47,10 @@ std::optional<uint32_t> ParseAddress(const std::string& text) {
 }
 
 bool IsIpv6Text(const std::string& text) {
-    return std::count(text.begin(), text.end(), ':') > 1
-           && text.find_first_not_of("0123456789abcdefABCDEF:.") == std::string::npos;
+    const bool isInBrackets = text.size() > 2 && text.front() == '[' && text.back() == ']';
+    const std::string bare = isInBrackets ? text.substr(1, text.size() - 2) : text;
+    in6_addr address = {};
+    return inet_pton(AF_INET6, bare.substr(0, bare.find('%')).c_str(), &address) == 1;
 }
 
 std::string AddressText(uint32_t address) {

@@ -10,7 +10,7 @@
 // text. The first number is in the highest byte.
 std::optional<uint32_t> ParseAddress(const std::string& text);
 
-// Whether the text looks like an IPv6 address.
+// Whether the text is an IPv6 address: also with a zone, such as fe80::1%4, or in square brackets.
 bool IsIpv6Text(const std::string& text);
 
 std::string AddressText(uint32_t address);

@@ -20,6 +20,7 @@ constexpr OutcomeRow kOutcomes[] = {
     {Outcome::kBadAddress, kExitUsage, PRINTER_TEXT_BAD_ADDRESS, PRINTER_TEXT_BAD_ADDRESS_DO},
     {Outcome::kIpv6Address, kExitUsage, PRINTER_TEXT_IPV6_ADDRESS, PRINTER_TEXT_USE_IPV4_DO},
     {Outcome::kUnknownHost, kExitFailed, PRINTER_TEXT_UNKNOWN_HOST, PRINTER_TEXT_UNKNOWN_HOST_DO},
+    {Outcome::kNoNameService, kExitFailed, PRINTER_TEXT_NO_NAME_SERVICE, PRINTER_TEXT_NO_NAME_SERVICE_DO},
     {Outcome::kNoLibrary, kExitFailed, PRINTER_TEXT_NO_LIBRARY, PRINTER_TEXT_NO_LIBRARY_DO},
     {Outcome::kNotSent, kExitFailed, PRINTER_TEXT_NOT_SENT, PRINTER_TEXT_NOT_SENT_DO},
     {Outcome::kRefused, kExitFailed, PRINTER_TEXT_REFUSED, PRINTER_TEXT_REFUSED_DO},

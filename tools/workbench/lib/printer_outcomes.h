@@ -16,6 +16,7 @@ enum class Outcome : uint8_t {
     kIpv6Address,  // the module takes IPv4 only
     // Nothing has answered.
     kUnknownHost,
+    kNoNameService, // it is unknown whether there is such a host
     kNoLibrary,
     kNotSent,
     kRefused,

@@ -36,6 +36,8 @@ uint32_t AgentAddress(const Printer& printer) {
     switch (FindHost(printer.agent, address)) {
     case HostKind::kUnknown:
         Fail(Outcome::kUnknownHost, printer);
+    case HostKind::kNoNameService:
+        Fail(Outcome::kNoNameService, printer);
     case HostKind::kIpv6:
         Fail(Outcome::kIpv6Address, printer);
     case HostKind::kIpv4:

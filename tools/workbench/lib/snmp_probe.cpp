@@ -1,6 +1,7 @@
 // Sends SNMP requests and reads the replies.
 #include "workbench/lib/snmp_probe.h"
 
+#include "workbench/lib/host_address.h"
 #include "workbench/lib/module_parts.h"
 #include "workbench/lib/text.h"
 
@@ -54,16 +55,22 @@ ProbeAnswer ReceiveAnswer(SOCKET handle, uint32_t requestId) {
     return {ProbeEnd::kOtherRequests, {}, {}};
 }
 
-// The first address of this family; none when the host has no such address.
-bool HasAddress(const std::string& host, int family, sockaddr_storage& address) {
+// Finds the first address of this family. 0, or an error of Windows Sockets.
+int FindAddress(const std::string& host, int family, sockaddr_storage& address) {
     addrinfo wanted = {};
     wanted.ai_family = family;
     addrinfo* found = nullptr;
-    if (getaddrinfo(host.c_str(), nullptr, &wanted, &found) != 0 || found == nullptr)
-        return false;
+    const int error = getaddrinfo(host.c_str(), nullptr, &wanted, &found);
+    if (error != 0 || found == nullptr)
+        return error != 0 ? error : WSAHOST_NOT_FOUND;
     memcpy(&address, found->ai_addr, found->ai_addrlen);
     freeaddrinfo(found);
-    return true;
+    return 0;
+}
+
+// Whether it is not known if the name exists: no answer, or one that says that the service has failed.
+bool IsOfNameService(int error) {
+    return error == WSATRY_AGAIN || error == WSANO_RECOVERY;
 }
 
 } // namespace
@@ -87,12 +94,21 @@ HostKind FindHost(const std::string& host, uint32_t& address) {
     address = inet_addr(host.c_str()); // first, as the module does
     if (address != INADDR_NONE)
         return HostKind::kIpv4;
+    if (IsIpv6Text(host))
+        return HostKind::kIpv6;
     sockaddr_storage found = {};
-    if (HasAddress(host, AF_INET, found)) {
+    const int error = FindAddress(host, AF_INET, found);
+    if (error == 0) {
         address = reinterpret_cast<const sockaddr_in&>(found).sin_addr.s_addr;
         return HostKind::kIpv4;
     }
-    return HasAddress(host, AF_INET6, found) ? HostKind::kIpv6 : HostKind::kUnknown;
+    // Only an address of the other kind would be of use now, and a silent service takes as long again.
+    if (IsOfNameService(error))
+        return HostKind::kNoNameService;
+    const int ipv6Error = FindAddress(host, AF_INET6, found);
+    return ipv6Error == 0               ? HostKind::kIpv6
+           : IsOfNameService(ipv6Error) ? HostKind::kNoNameService
+                                        : HostKind::kUnknown;
 }
 
 std::string SnmpRequest(const char* oid, uint32_t requestId, bool isForNext, const char* community) {

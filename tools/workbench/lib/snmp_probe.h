@@ -17,10 +17,15 @@ struct SocketsStart {
     SocketsStart& operator=(const SocketsStart&) = delete;
 };
 
-enum class HostKind { kIpv4, kIpv6, kUnknown };
+enum class HostKind {
+    kIpv4,
+    kIpv6,          // the host has no other address
+    kUnknown,       // the name service says that there is no such name
+    kNoNameService, // it does not answer, or can't tell
+};
 
 // Looks up an address or a host name in the system's code page. `address` (in network order) is set for
-// kIpv4; kIpv6 means that the host has no other. Waits for the name service.
+// kIpv4. Waits for the name service, which can take 20 seconds.
 HostKind FindHost(const std::string& host, uint32_t& address);
 
 // How a request of the workbench is sent: to this port, this often, with so much time for each answer, until
