@@ -38,6 +38,8 @@ std::string FindNotAPrinter(const Observations& seen);
 std::string FindStopped(const Observations& seen);
 std::string FindOtherDevice(const Observations& seen);
 std::string FindOtherModel(const Observations& seen);
+std::string FindUnknownModel(const Observations& seen);
+std::string FindUnreadAlerts(const Observations& seen);
 std::string FindOtherSupplies(const Observations& seen);
 std::string FindUnusableValues(const Observations& seen);
 std::string FindMissingValues(const Observations& seen);

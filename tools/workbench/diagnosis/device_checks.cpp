@@ -32,27 +32,6 @@ std::string FindTypes(const Observations& seen, bool isUsable, const std::string
     return objects.empty() ? "" : sentence + type + " (" + ObjectsText(objects) + ").";
 }
 
-// Whether the agent says of the objects of the Printer MIB that they do not exist: of most, since one answer
-// says nothing where the others are lost.
-bool LacksPrinterMib(const Observations& seen) {
-    size_t asked = 0;
-    size_t missing = 0;
-    const ObjectId printerMib = OidOf(".1.3.6.1.2.1.43");
-    for (size_t i = 0; i < seen.objects.size(); ++i) {
-        const ObjectId& oid = seen.objects[i].oid;
-        if (oid.size() < printerMib.size() || !std::equal(printerMib.begin(), printerMib.end(), oid.begin()))
-            continue;
-        ++asked;
-        const Arrival* answer = AnswerTo(seen, i);
-        if (answer == nullptr)
-            continue;
-        if (HasValue(answer->message) || answer->message.errorStatus > kNoSuchName)
-            return false;
-        ++missing;
-    }
-    return missing > asked / 2;
-}
-
 // What the printer has answered for the objects that a query of the driver uses.
 enum class Reported { kNotAsked, kValue, kNothing };
 Reported ReportedFor(const Observations& seen, const std::string& use) {
@@ -87,6 +66,19 @@ std::string ModelText(const Observations& seen, const DescriptionObject& object)
     return answer != nullptr && IsTextType(answer->message.valueType) ? DescriptionText(seen, object) : "";
 }
 
+// What the device says that it is. `isAnswered` is false when another text may name the model.
+OwnModel ModelOf(const Observations& seen, bool& isAnswered) {
+    std::vector<std::string> texts;
+    isAnswered = true;
+    for (const char* oid : kModelObjects)
+        for (const DescriptionObject& object : seen.description)
+            if (std::string(oid).find(object.oid) == 0) {
+                texts.push_back(ModelText(seen, object));
+                isAnswered = isAnswered && AnswerTo(seen, object) != nullptr;
+            }
+    return ModelIn(texts);
+}
+
 } // namespace
 
 std::string FindWrongType(const Observations& seen) {
@@ -98,33 +90,43 @@ std::string FindNumberType(const Observations& seen) {
 }
 
 std::string FindNotAPrinter(const Observations& seen) {
-    return LacksPrinterMib(seen) && seen.printerNumber == 0 && AgentObjectError(seen) == 0
-               ? "The device is not a printer: it has no object of the Printer MIB that the driver asks for."
+    return seen.place.isAnswered && seen.place.device == 0 && AgentObjectError(seen) == 0
+               ? "The device is not a printer: it has no paper input and no supply, and lists no printer."
                : "";
 }
 
 std::string FindStopped(const Observations& seen) {
-    return !seen.driver.criticalAlerts.empty()
-               ? "The printer has stopped: " + seen.driver.criticalAlerts + "."
-               : "";
+    const std::string alerts = CriticalAlerts(seen.alerts);
+    return !alerts.empty() ? "The printer has stopped: " + alerts + "." : "";
 }
 
 std::string FindOtherDevice(const Observations& seen) {
-    return seen.printerNumber > 1
-               ? "The printer is device " + std::to_string(seen.printerNumber) + " of its host, not device 1."
+    return seen.place.device > 1
+               ? "The printer is device " + std::to_string(seen.place.device) + " of its host, not device 1."
                : "";
 }
 
 std::string FindOtherModel(const Observations& seen) {
-    std::vector<std::string> texts;
-    for (const char* oid : kModelObjects)
-        for (const DescriptionObject& object : seen.description)
-            if (std::string(oid).find(object.oid) == 0)
-                texts.push_back(ModelText(seen, object));
-    const OwnModel model = ModelIn(texts);
-    return model.isModel || model.name.empty()
+    bool isAnswered = false;
+    const OwnModel model = ModelOf(seen, isAnswered);
+    return model.isModel || model.name.empty() || !isAnswered
                ? ""
                : "The device calls itself '" + model.name + "', not '" + kModelName + "'.";
+}
+
+std::string FindUnknownModel(const Observations& seen) {
+    bool isAnswered = false;
+    const OwnModel model = ModelOf(seen, isAnswered);
+    if (!seen.isAddressed || model.isModel)
+        return {};
+    return !isAnswered          ? "The device has not answered what model it is."
+           : model.name.empty() ? "The device does not say what model it is."
+                                : "";
+}
+
+std::string FindUnreadAlerts(const Observations& seen) {
+    return seen.isAddressed && !seen.alerts.areAnswered ? "The device's alerts were not read completely."
+                                                        : "";
 }
 
 std::string FindOtherSupplies(const Observations& seen) {
@@ -143,7 +145,7 @@ std::string FindUnusableValues(const Observations& seen) {
 
 // A printer that is not device 1 has these objects under another number.
 std::string FindMissingValues(const Observations& seen) {
-    const std::string names = seen.printerNumber <= 1 ? NotReported(seen, Reported::kNothing) : "";
+    const std::string names = seen.place.device <= 1 ? NotReported(seen, Reported::kNothing) : "";
     return !names.empty() ? "The printer reports nothing about " + names + ": it does not have these objects."
                           : "";
 }

@@ -7,9 +7,9 @@
 
 namespace {
 
-// What the sentence is about. kWrongDevice makes the rest of the table meaningless; kNote is nothing wrong
-// for the driver.
-enum class About { kWrongDevice, kWay, kTraffic, kDevice, kDriver, kNote };
+// What the sentence is about. kWrongDevice makes the rest of the table meaningless; kTraffic and kWay explain
+// what the driver does, and what was not read. kNote is nothing wrong for the driver, nor is kUnread.
+enum class About { kWrongDevice, kWay, kTraffic, kDevice, kDriver, kNote, kUnread };
 
 // clang-format off
 constexpr struct {
@@ -96,7 +96,7 @@ constexpr struct {
     {"stopped", About::kDevice, FindStopped,
      "The driver does not notice: it asks for no alerts.",
      "Resolve this at the printer."},
-    {"wrongType", About::kDevice, FindWrongType,
+    {"wrongType", About::kTraffic, FindWrongType,
      "The driver takes such an object as missing.",
      "Update the printer's firmware, and check that it is of this model."},
     {"otherDevice", About::kDevice, FindOtherDevice,
@@ -128,6 +128,12 @@ constexpr struct {
     {"numberType", About::kNote, FindNumberType,
      "None: the driver accepts all types of numbers.",
      "Update the printer's firmware if other programs can't read these numbers."},
+    {"unknownModel", About::kUnread, FindUnknownModel,
+     "The driver does not ask: it takes every device for its own model.",
+     "Check at the device that it is of this model, and that this is its address."},
+    {"unreadAlerts", About::kUnread, FindUnreadAlerts,
+     "None: it asks for no alerts.",
+     "Look at the printer's display: it may have stopped."},
 };
 // clang-format on
 
@@ -138,15 +144,16 @@ std::vector<DiagnosisFinding> FindingsOf(const Observations& seen) {
     std::vector<DiagnosisFinding> findings;
     bool isExplained = false;
     for (const auto& row : kFindings) {
-        if (row.about == About::kDriver && isExplained)
+        if ((row.about == About::kDriver || row.about == About::kUnread) && isExplained)
             continue;
         const std::string sentence = row.find(seen);
         if (sentence.empty())
             continue;
         const bool isUnreached = seen.driver.isAsked && !seen.driver.isReached;
         const bool hasOther = isUnreached && row.effectIfUnreached != nullptr;
-        findings.push_back({row.kind, row.about == About::kNote, sentence,
-                            hasOther ? row.effectIfUnreached : row.effect, row.action});
+        const bool isNote = row.about == About::kNote || row.about == About::kUnread;
+        findings.push_back(
+            {row.kind, isNote, sentence, hasOther ? row.effectIfUnreached : row.effect, row.action});
         if (row.about == About::kWrongDevice)
             break;
         isExplained = isExplained || row.about == About::kWay || row.about == About::kTraffic;

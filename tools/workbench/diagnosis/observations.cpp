@@ -23,12 +23,6 @@ constexpr const char* kPublicCommunity = "public"; // the usual one of new devic
 constexpr int kReachRequests = 4;
 constexpr double kLastListen = 1000; // for answers that are late
 
-// hrDeviceType of the host's devices, and its value for a printer.
-constexpr const char* kDeviceType = ".1.3.6.1.2.1.25.3.2.1.2";
-constexpr const char* kDeviceIsPrinter = ".1.3.6.1.2.1.25.3.1.5";
-constexpr int kMaxDevices = 16;        // more are not looked at
-constexpr double kDevicesLimit = 5000; // milliseconds, then no further one
-
 using Stage = std::function<void(const char* stage)>;
 
 // --- The name
@@ -121,23 +115,21 @@ void AskDriver(DriverWork& work) {
         Query(work, "supplies", [&](const Printer& printer) {
             Keep(work, seen.supplies, AskSupplies(printer, SupplyNames(printer.family)));
         });
-        Query(work, "names of supplies", [&](const Printer& printer) {
-            Keep(work, seen.otherSupplies, AskIdentity(printer).otherSupplies);
-        });
         Query(work, "overlays", [&](const Printer& printer) {
             Keep(work, seen.overlays, std::array{AskOverlays(printer, 0), AskOverlays(printer, 1)});
         });
         Query(work, "profiles",
               [&](const Printer& printer) { Keep(work, seen.profiles, AskProfiles(printer)); });
-        Query(work, "alerts", [&](const Printer& printer) {
-            const uint32_t address = AgentAddress(printer);
-            const ObjectValues state = ReadObjects(address, {kErrorStateObject});
-            Keep(work, seen.criticalAlerts, CriticalAlerts(AskAlerts(address, state[0])));
-        });
     }
     const std::lock_guard lock(work.access);
     seen.repeats = RepeatsIn(trace.Messages());
     seen.isEnded = true;
+}
+
+// Within the driver's limit, but no query of it.
+void AskNamesOfSupplies(DriverWork& work) {
+    if (work.seen.isReached)
+        Keep(work, work.seen.otherSupplies, AskIdentity(PrinterAt(work.files, work.address)).otherSupplies);
 }
 
 DriverObservation ObserveDriver(const Printer& printer, const std::function<void()>& meanwhile) {
@@ -145,8 +137,11 @@ DriverObservation ObserveDriver(const Printer& printer, const std::function<void
     work->files = ModuleOf(printer.family);
     work->address = printer.address;
     work->seen.isAsked = true;
-    EndsWithin(
-        kDriverLimit, [work] { AskDriver(*work); }, meanwhile);
+    const auto ask = [work] {
+        AskDriver(*work);
+        AskNamesOfSupplies(*work);
+    };
+    EndsWithin(kDriverLimit, ask, meanwhile);
     const std::lock_guard lock(work->access);
     return work->seen;
 }
@@ -197,23 +192,22 @@ void FindAccess(Observations& seen) {
     seen.answered = AnsweredAccess(exchange);
 }
 
-void FindPrinter(Observations& seen) {
-    const ObjectId column = OidOf(kDeviceType);
-    ObjectId next = column;
-    const double end = seen.exchange->Now() + kDevicesLimit;
-    for (int i = 0; i < kMaxDevices && seen.printerNumber == 0 && seen.exchange->Now() < end; ++i) {
-        const Arrival* answer = seen.exchange->AskOne({seen.access, next, true});
-        if (answer == nullptr)
-            return;
-        const ObjectId& object = answer->message.object;
-        seen.hasDeviceList = true;
-        if (object.size() <= column.size() || !std::equal(column.begin(), column.end(), object.begin())
-            || !HasValue(answer->message) || object <= next)
-            return;
-        if (answer->message.objectValue == OidOf(kDeviceIsPrinter))
-            seen.printerNumber = static_cast<int32_t>(object.back());
-        next = object;
-    }
+// Asks in the way that the agent answers.
+NextObjects NextObjectsOf(const Observations& seen) {
+    return [&seen](const std::vector<std::string>& oids, bool& isAnswered) {
+        std::vector<AskedObject> questions;
+        for (const std::string& oid : oids)
+            questions.push_back({seen.access, OidOf(oid), true});
+        const size_t first = seen.exchange->Ask(questions);
+        ObjectValues values;
+        isAnswered = true;
+        for (size_t i = 0; i < oids.size(); ++i) {
+            const Arrival* answer = seen.exchange->AnswerTo(first + i);
+            values.push_back(answer != nullptr ? ValueIn(answer->message) : ObjectValue());
+            isAnswered = isAnswered && values.back().isAnswered;
+        }
+        return values;
+    };
 }
 
 void Describe(Observations& seen) {
@@ -231,7 +225,7 @@ void Describe(Observations& seen) {
     for (const DescriptionObject& object : seen.description) {
         ObjectId oid = OidOf(object.oid);
         if (object.isOfDevice)
-            oid.push_back(static_cast<uint32_t>(std::max(seen.printerNumber, 1)));
+            oid.push_back(static_cast<uint32_t>(std::max(seen.place.device, 1)));
         questions.push_back({seen.access, oid});
     }
     const size_t first = seen.exchange->Ask(questions);
@@ -279,10 +273,14 @@ Observations ObservePrinter(const Printer& printer, const Stage& stage) {
         seen.isAddressed = true;
         seen.access = seen.answered.front();
         seen.exchange->SetStage("description");
-        FindPrinter(seen);
+        const NextObjects next = NextObjectsOf(seen);
+        seen.place = FindPrinterPlace(next);
         Describe(seen);
         seen.exchange->SetStage("objects");
         AskAllObjects(seen);
+        seen.exchange->SetStage("alerts");
+        const Arrival* state = seen.exchange->AskOne({seen.access, OidOf(kErrorStateObject)});
+        seen.alerts = ReadAlerts(next, state != nullptr ? ValueIn(state->message) : ObjectValue());
         seen.exchange->Listen(kLastListen);
     }
     seen.driver = ObserveDriver(printer, [&] { stage("the driver's queries"); });

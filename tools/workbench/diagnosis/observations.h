@@ -5,6 +5,8 @@
 
 #include "workbench/diagnosis/exchange.h"
 #include "workbench/diagnosis/module_objects.h"
+#include "workbench/lib/printer_alerts.h"
+#include "workbench/lib/printer_place.h"
 #include "workbench/lib/printer_queries.h"
 
 #include <array>
@@ -42,9 +44,8 @@ struct DriverObservation {
     Supplies supplies;
     std::optional<std::array<StoredResources, 2>> overlays; // none: not answered
     std::optional<StoredProfiles> profiles;                 // the same
-    std::vector<std::string>
-        otherSupplies;          // what the device calls supplies that it uses otherwise; empty: as the driver
-    std::string criticalAlerts; // in words; not asked by the driver, but like it
+    // What the device calls supplies that it uses otherwise; empty: as the driver. Asked by the workbench.
+    std::vector<std::string> otherSupplies;
     std::vector<std::string> failed; // queries
 };
 
@@ -66,8 +67,8 @@ struct Observations {
     Access access;
     std::vector<ModuleObject> objects;
     bool areObjectsAsked = false;
-    int32_t printerNumber = 0;  // among the host's devices; 0: none is a printer
-    bool hasDeviceList = false; // the list of the host's devices was answered
+    PrinterPlace place;
+    PrinterAlerts alerts;
     std::vector<DescriptionObject> description;
     DriverObservation driver;
 };

@@ -57,11 +57,11 @@ Document NetworkSection(const Observations& seen) {
 Document DeviceSection(const Observations& seen) {
     if (!seen.isAddressed)
         return nullptr;
-    Document device = {
-        {"listedAsPrinter", seen.printerNumber > 0
-                                ? Document("yes, as device " + std::to_string(seen.printerNumber))
-                            : seen.hasDeviceList ? Document("no")
-                                                 : Document("unknown: the list of devices is not answered")}};
+    Document device = {{"listedAsPrinter",
+                        seen.place.device > 0
+                            ? Document("yes, as device " + std::to_string(seen.place.device))
+                        : seen.place.isAnswered ? Document("no")
+                                                : Document("unknown: the list of devices is not answered")}};
     for (const DescriptionObject& object : seen.description) {
         const Arrival* answer = AnswerTo(seen, object);
         device[object.label] = answer != nullptr ? Document(DescriptionText(seen, object)) : Document();

@@ -17,7 +17,7 @@ struct TracedRequest {
     SnmpMessage message;
     bool isAnswered = false;
     SnmpMessage answer;               // the last: the one that the module has used, if any
-    double took = 0;                  // milliseconds since the last send
+    double took = 0;                  // milliseconds since the first send
     std::vector<std::string> skipped; // answers to other requests
 };
 
@@ -44,7 +44,7 @@ std::vector<TracedRequest> PairedRequests(const std::vector<TracedMessage>& mess
                 continue;
             }
             request.isAnswered = true;
-            request.took = traced.at - request.sends.back();
+            request.took = traced.at - request.sends.front();
             request.answer = std::move(message);
         }
     }

@@ -1,11 +1,13 @@
 // Reads the table of alerts row by row, and the bits of the printer's conditions.
 #include "workbench/lib/printer_alerts.h"
 
+#include "workbench/lib/stopwatch.h"
 #include "workbench/lib/text.h"
 
 namespace {
 
-constexpr int kMaxAlerts = 16;
+constexpr size_t kMaxAlerts = 200;
+constexpr double kAlertsLimit = 10000;                              // milliseconds
 constexpr const char* kSeverityColumn = ".1.3.6.1.2.1.43.18.1.1.2"; // prtAlertSeverityLevel
 constexpr const char* kTextColumn = ".1.3.6.1.2.1.43.18.1.1.8";     // prtAlertDescription
 constexpr int32_t kCriticalSeverity = 3;
@@ -28,26 +30,35 @@ std::string RowOid(const char* column, const ObjectId& index) {
 
 } // namespace
 
-PrinterAlerts AskAlerts(uint32_t address, const ObjectValue& errorState) {
+PrinterAlerts ReadAlerts(const NextObjects& next, const ObjectValue& errorState) {
     PrinterAlerts found;
+    const int64_t start = CounterNow();
+    bool isAtEnd = false;
     std::vector<std::string> row = {kSeverityColumn, kTextColumn};
-    for (int i = 0; i < kMaxAlerts; ++i) {
-        const ObjectValues next = ReadNextObjects(address, row, found.areAnswered);
+    while (!isAtEnd && found.alerts.size() < kMaxAlerts && MillisecondsSince(start) < kAlertsLimit) {
+        bool isAnswered = false;
+        const ObjectValues values = next(row, isAnswered);
         ObjectId index; // device and alert
         ObjectId textIndex;
-        if (next.size() < row.size() || !IsInColumn(next[0].oid, kSeverityColumn, index) || index[0] != 1)
+        if (!IsInColumn(values[0].oid, kSeverityColumn, index) || index[0] != 1) {
+            isAtEnd = isAnswered;
             break;
-        const bool hasText =
-            IsInColumn(next[1].oid, kTextColumn, textIndex) && textIndex == index && !next[1].text.empty();
+        }
+        const bool hasText = IsInColumn(values[1].oid, kTextColumn, textIndex) && textIndex == index
+                             && !values[1].text.empty();
         found.alerts.push_back(
-            {next[0].number == kCriticalSeverity, hasText ? next[1].text : "alert without a text"});
+            {values[0].number == kCriticalSeverity, hasText ? values[1].text : "alert without a text"});
         row = {RowOid(kSeverityColumn, index), RowOid(kTextColumn, index)};
     }
-    found.areAnswered = found.areAnswered && errorState.isAnswered;
+    found.areAnswered = isAtEnd && errorState.isAnswered;
     if (CriticalAlerts(found).empty())
         for (const std::string& words : StoppingConditions(errorState.bytes))
             found.alerts.push_back({true, words});
     return found;
+}
+
+PrinterAlerts AskAlerts(uint32_t address, const ObjectValue& errorState) {
+    return ReadAlerts(NextObjectsAt(address), errorState);
 }
 
 std::string CriticalAlerts(const PrinterAlerts& alerts) {

@@ -11,15 +11,18 @@ struct PrinterAlert {
 };
 
 struct PrinterAlerts {
-    bool areAnswered = false; // all of them
+    bool areAnswered = false; // all of them; otherwise there may be more
     std::vector<PrinterAlert> alerts;
 };
 
 // The object with the conditions of device 1: hrPrinterDetectedErrorState.
 constexpr const char* kErrorStateObject = ".1.3.6.1.2.1.25.3.5.1.2.1";
 
-// Reads the alerts of device 1, at most 16. The conditions that stop a printer count where it has no critical
-// alert.
+// Reads the alerts of device 1, row by row: at most 200 rows, for 10 seconds; then they are not answered
+// completely. The conditions that stop a printer count where it has no critical alert.
+PrinterAlerts ReadAlerts(const NextObjects& next, const ObjectValue& errorState);
+
+// The same with the module's way of asking.
 PrinterAlerts AskAlerts(uint32_t address, const ObjectValue& errorState);
 
 // The critical ones, in words.

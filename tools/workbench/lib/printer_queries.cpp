@@ -2,8 +2,8 @@
 #include "workbench/lib/printer_queries.h"
 
 #include "workbench/lib/host_address.h"
+#include "workbench/lib/printer_place.h"
 #include "workbench/lib/record_fields.h"
-#include "workbench/lib/snmp_objects.h"
 #include "workbench/lib/snmp_probe.h"
 
 #include <algorithm>
@@ -22,8 +22,6 @@ constexpr Field kAnswerFields[] = {
     {"option", Show<&OptionRequestItem::key>},
     {"answer", Show<&OptionRequestItem::value>},
 };
-
-constexpr const char* kInputTypeColumn = ".1.3.6.1.2.1.43.8.2.1.2"; // of all devices of the host
 
 [[noreturn]] void Fail(Outcome outcome, const Printer& printer, const std::string& detail = {}) {
     throw PrinterFailure(outcome, printer.address, detail);
@@ -57,12 +55,10 @@ void CheckKind(const Printer& printer, uint32_t address) {
     const ProbeAnswer tray = ProbeObject(address, kPrinterObject);
     if (tray.end != ProbeEnd::kAnswered || tray.reply.errorStatus == 0)
         return;
-    bool isAnswered = false;
-    ObjectId index; // device and input
-    const ObjectValues next = ReadNextObjects(address, {kInputTypeColumn}, isAnswered);
-    if (!next.empty() && IsInColumn(next[0].oid, kInputTypeColumn, index) && index[0] > 1)
-        Fail(Outcome::kOtherNumber, printer, std::to_string(index[0]));
-    if (isAnswered)
+    const PrinterPlace place = FindPrinterPlace(NextObjectsAt(address));
+    if (place.device > 1)
+        Fail(Outcome::kOtherNumber, printer, std::to_string(place.device));
+    if (place.isAnswered && place.device == 0)
         Fail(Outcome::kNotAPrinter, printer);
 }
 
@@ -76,9 +72,10 @@ void CheckKind(const Printer& printer, uint32_t address) {
     Fail(Outcome::kSlow, printer);
 }
 
-// Fails with the reason why a query has failed of a printer that was reached.
+// Fails with the reason why a query has failed of a printer that was reached. It has answered before, so it
+// gets as many requests as the module sends.
 [[noreturn]] void FailToQuery(const Printer& printer) {
-    const ProbeEnd end = ProbeObject(AgentAddress(printer), kAgentObject).end;
+    const ProbeEnd end = ProbeObject(AgentAddress(printer), kAgentObject, kPatientSends).end;
     Fail(end == ProbeEnd::kAnswered ? Outcome::kSlow : Outcome::kInterrupted, printer);
 }
 

@@ -28,6 +28,13 @@ std::string RequestFor(uint8_t pduType, const std::vector<std::string>& oids, ui
     return isValid ? datagram : "";
 }
 
+// Empty when they are malformed.
+ObjectId SubIdentifiers(BerReader& contents) {
+    uint32_t ids[128];
+    const uint32_t count = BerReadSubIdentifiers(contents, ids, std::size(ids));
+    return contents.failed ? ObjectId() : ObjectId(ids, ids + count);
+}
+
 ObjectValue ValueOf(uint8_t type, BerReader contents) {
     ObjectValue value;
     value.isAnswered = true;
@@ -37,6 +44,8 @@ ObjectValue ValueOf(uint8_t type, BerReader contents) {
                            static_cast<size_t>(contents.end - contents.at));
         value.text = OneLine(PrinterText(value.bytes));
     }
+    if (type == ASN_OBJECTIDENTIFIER)
+        value.objectId = SubIdentifiers(contents);
     const int32_t number = IsNumberType(type) ? BerInteger(contents) : 0;
     if (IsNumberType(type) && !contents.failed)
         value.number = number;
@@ -73,15 +82,13 @@ ObjectValues ReadSnmpValues(std::string_view datagram) {
     while (varBinds.at != varBinds.end) {
         BerReader varBind = BerOpen(varBinds, ASN_SEQUENCE);
         BerReader name = BerOpen(varBind, ASN_OBJECTIDENTIFIER);
-        uint32_t ids[128];
-        const uint32_t count = BerReadSubIdentifiers(name, ids, std::size(ids));
+        ObjectId oid = SubIdentifiers(name);
         BerReader contents = {};
         const uint8_t type = BerOpenAny(varBind, contents);
         if (contents.failed)
             break;
         values.push_back(ValueOf(type, contents));
-        if (!name.failed)
-            values.back().oid.assign(ids, ids + count);
+        values.back().oid = std::move(oid);
     }
     return values;
 }
@@ -107,8 +114,41 @@ ObjectValues ReadObjects(uint32_t address, const std::vector<std::string>& oids)
 
 ObjectValues ReadNextObjects(uint32_t address, const std::vector<std::string>& oids, bool& isAnswered) {
     const ProbeAnswer answer = Request(address, SNMP_PDU_GETNEXT, oids);
-    isAnswered = answer.end == ProbeEnd::kAnswered;
-    return isAnswered && answer.reply.errorStatus == 0 ? ReadSnmpValues(answer.datagram) : ObjectValues();
+    const bool hasValues = answer.end == ProbeEnd::kAnswered && answer.reply.errorStatus == 0;
+    const bool isAtEnd =
+        answer.end == ProbeEnd::kAnswered && answer.reply.errorStatus == SNMP_ERRORSTATUS_NOSUCHNAME;
+    isAnswered = hasValues || isAtEnd;
+    ObjectValues values = hasValues ? ReadSnmpValues(answer.datagram) : ObjectValues();
+    for (size_t i = 0; isAtEnd && oids.size() > 1 && i < oids.size() && isAnswered; ++i) {
+        const ObjectValues next = ReadNextObjects(address, {oids[i]}, isAnswered);
+        values.push_back(next.empty() ? ObjectValue() : next[0]);
+    }
+    values.resize(oids.size());
+    return values;
+}
+
+NextObjects NextObjectsAt(uint32_t address) {
+    return [address](const std::vector<std::string>& oids, bool& isAnswered) {
+        return ReadNextObjects(address, oids, isAnswered);
+    };
+}
+
+ObjectValue ValueIn(const SnmpMessage& answer) {
+    ObjectValue value;
+    value.isAnswered = HasValue(answer) || answer.errorStatus == SNMP_ERRORSTATUS_NOSUCHNAME
+                       || answer.errorStatus == 0; // in later versions an exception instead of the value
+    value.exists = HasValue(answer);
+    if (!value.exists)
+        return value;
+    value.oid = answer.object;
+    value.objectId = answer.objectValue;
+    if (answer.valueType == ASN_OCTETSTRING) {
+        value.bytes = answer.bytes;
+        value.text = OneLine(PrinterText(answer.bytes));
+    }
+    if (IsNumberType(answer.valueType))
+        value.number = static_cast<int32_t>(answer.number);
+    return value;
 }
 
 bool IsInColumn(const ObjectId& oid, const std::string& column, ObjectId& index) {

@@ -5,6 +5,7 @@
 
 #include "workbench/lib/snmp_text.h"
 
+#include <functional>
 #include <optional>
 
 struct ObjectValue {
@@ -14,8 +15,12 @@ struct ObjectValue {
     std::string bytes;             // of an OCTET STRING, as sent
     std::string text;              // the same decoded, on one line
     std::optional<int32_t> number; // of any type of numbers
+    ObjectId objectId;             // of an OBJECT IDENTIFIER
 };
 using ObjectValues = std::vector<ObjectValue>;
+
+// The same of a message that answers a request for one object.
+ObjectValue ValueIn(const SnmpMessage& answer);
 
 // The values in a reply, in the order of the request, after ReadSnmpReply has accepted it. Ends where the
 // reply is malformed.
@@ -26,9 +31,13 @@ ObjectValues ReadSnmpValues(std::string_view datagram);
 // of them were not answered, so it waits about four seconds at most. Has an element for each object.
 ObjectValues ReadObjects(uint32_t address, const std::vector<std::string>& oids);
 
-// The same for what follows each of the objects in the device. Empty at the end of the device's objects.
-// `isAnswered` is false when the device has not answered.
+// The same for what follows each of the objects in the device, in one datagram or, at the end of the device's
+// objects, one by one. `isAnswered` is false when the device has not answered, or with another error.
 ObjectValues ReadNextObjects(uint32_t address, const std::vector<std::string>& oids, bool& isAnswered);
+
+// This, or another way to find out the same.
+using NextObjects = std::function<ObjectValues(const std::vector<std::string>& oids, bool& isAnswered)>;
+NextObjects NextObjectsAt(uint32_t address);
 
 // Whether an object is in a column of a table. `index` is the rest of its OID.
 bool IsInColumn(const ObjectId& oid, const std::string& column, ObjectId& index);

@@ -147,11 +147,11 @@ ProbeEnd ProbeEndOf(int error) {
                                  : ProbeEnd::kNotSent;
 }
 
-ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t requestId) {
+ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t requestId, int maxSends) {
     const SocketsStart sockets;
     const ProbeSocket socket(address);
     ProbeAnswer answer = {ProbeEnd::kNotSent, {}, {}};
-    for (int sends = 0; sends < kProbeSends && socket.isReady; ++sends) {
+    for (int sends = 0; sends < maxSends && socket.isReady; ++sends) {
         if (send(socket.handle, request.data(), static_cast<int>(request.size()), 0) < 0)
             return {ProbeEndOf(WSAGetLastError()), {}, {}};
         answer = ReceiveAnswer(socket.handle, requestId);
@@ -161,7 +161,7 @@ ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t 
     return answer;
 }
 
-ProbeAnswer ProbeObject(uint32_t address, const char* oid) {
+ProbeAnswer ProbeObject(uint32_t address, const char* oid, int maxSends) {
     const uint32_t requestId = NextRequestId();
-    return ProbeRequest(address, SnmpRequest(oid, requestId), requestId);
+    return ProbeRequest(address, SnmpRequest(oid, requestId), requestId, maxSends);
 }

@@ -32,6 +32,7 @@ HostKind FindHost(const std::string& host, uint32_t& address);
 // so many answers to other requests have arrived.
 constexpr uint16_t kSnmpPort = 161;
 constexpr int kProbeSends = 2;
+constexpr int kPatientSends = 5;     // as often as the module
 constexpr uint32_t kProbeWait = 500; // milliseconds
 constexpr int kMaxOtherAnswers = 5;
 
@@ -76,11 +77,12 @@ struct ProbeAnswer {
 // How a receive from a connected socket has ended that failed with this error of Windows Sockets.
 ProbeEnd ProbeEndOf(int error);
 
-// Sends this request to the agent at this address (in network order). Sends twice and waits about a second at
-// most.
-ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t requestId);
+// Sends this request to the agent at this address (in network order), so often, and waits about half a second
+// for an answer each time.
+ProbeAnswer ProbeRequest(uint32_t address, const std::string& request, uint32_t requestId,
+                         int maxSends = kProbeSends);
 
 // Requests the object from the agent at this address (in network order) in the same way.
-ProbeAnswer ProbeObject(uint32_t address, const char* oid);
+ProbeAnswer ProbeObject(uint32_t address, const char* oid, int maxSends = kProbeSends);
 
 #endif
