@@ -35,6 +35,11 @@ Run WithOut(CLI::App& command) {
     return [out](const FamilyFiles& family) { return kCommand(family, *out); };
 }
 
+Run SetUpDiagnose(CLI::App& command) {
+    command.footer("Ends with 0 when it finds nothing that is wrong, or notes only; otherwise 1.");
+    return WithAddress<DiagnosePrinter>(command);
+}
+
 // One printer, or many.
 Run SetUpQuery(CLI::App& command) {
     const auto address = std::make_shared<std::optional<std::string>>();
@@ -60,13 +65,14 @@ Run SetUpQuery(CLI::App& command) {
     command.add_flag("--trace", *traces, "Shows every request and answer of the module first")
         ->excludes(many);
     command.footer(
-        "Ends with 0 when the printer, or all of the list, has answered, whatever it needs; otherwise 1.");
+        "Ends with 0 when the printer, or each of the list, has answered everything, whatever it needs; otherwise "
+        "1.");
     return [=](const FamilyFiles& family) {
         if (!*address && !fleet->list)
             throw Failure(kExitUsage, "ADDRESS is required, or --list FILE|CIDR for many printers");
         if (fleet->list)
             return AskFleet(family, *fleet);
-        return (*traces ? TraceQuery : AskBySnmp)(family, **address);
+        return *traces ? TraceQuery(family, **address) : AskBySnmp(family, **address);
     };
 }
 
@@ -221,7 +227,7 @@ constexpr struct {
     {"defaults", "Shows the default settings, field by field", WithoutOptions<ShowDefaults>},
     {"query", "Queries a printer by SNMP for options, supplies, overlays and profiles", SetUpQuery},
     {"diagnose", "Finds out what is wrong with a printer on the network and what to do about it",
-     WithAddress<DiagnosePrinter>},
+     SetUpDiagnose},
     {"status", "Queries a printer through the bidirectional library for options and trays",
      WithAddress<AskByLibrary>},
     {"texts", "Shows the dialogs' texts, colour lists and media type lists", WithoutOptions<ShowTexts>},

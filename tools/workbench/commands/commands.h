@@ -35,6 +35,10 @@ Document AskCapabilities(const FamilyFiles& family, const std::vector<std::strin
 // What a printer answers to SNMP requests: options, supplies, overlays and colour profiles.
 CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address);
 
+// The same with this trace, which has recorded nothing before.
+class TrafficTrace;
+CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address, const TrafficTrace& trace);
+
 // The same of many printers, what needs attention first.
 constexpr int kDefaultThreads = 16;
 struct FleetOptions {

@@ -2,6 +2,7 @@
 // and colour profiles. The document has the module's answers and what they mean in words; the page for people
 // has the words. What the printer says of itself is asked by the workbench's own requests.
 #include "workbench/commands/commands.h"
+#include "workbench/diagnosis/traced_requests.h"
 #include "workbench/lib/option_words.h"
 #include "workbench/lib/printer_alerts.h"
 #include "workbench/lib/printer_identity.h"
@@ -14,6 +15,9 @@
 #include <functional>
 
 namespace {
+
+// Then no further part is asked: the printer seems to be off.
+constexpr int kMaxInterruptions = 2;
 
 constexpr Field kSupplyFields[] = {
     {"supply", Show<&MrkSupRequestItem::name>},
@@ -89,10 +93,8 @@ Document Profiles(const Printer& printer) {
     return lists;
 }
 
-// The alerts, asked by the workbench itself; null: not answered.
-Document Alerts(const Printer& printer) {
-    const uint32_t address = AgentAddress(printer);
-    const PrinterAlerts found = AskAlerts(address, ReadObjects(address, {kErrorStateObject})[0]);
+// Null: not answered.
+Document AlertsDocument(const PrinterAlerts& found) {
     if (!found.areAnswered && found.alerts.empty())
         return {};
     Document rows = Document::MakeList();
@@ -141,8 +143,8 @@ Document Page(const Document& answers) {
          {PRINTER_TEXT_RGB_PROFILE, PRINTER_TEXT_SIMULATION_PROFILE, PRINTER_TEXT_OUTPUT_PROFILE})
         uses.push_back(TextIn(kEnglish, use));
     Document page = {{"printer", PrinterFacts(answers["printer"])}};
-    if (answers["alerts"].IsNull())
-        page["printer"]["alerts"] = "not answered";
+    if (!answers["alertsAreComplete"].Bool())
+        page["printer"]["alerts"] = answers["alerts"].IsNull() ? "not answered" : "not read completely";
     if (!answers["failure"].IsNull())
         page["printer"]["failure"] = answers["failure"];
     if (!answers["alerts"].Elements().empty())
@@ -162,40 +164,72 @@ Document Page(const Document& answers) {
 } // namespace
 
 CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address) {
+    return AskBySnmp(family, address, TrafficTrace(family.module.get()));
+}
+
+CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address, const TrafficTrace& trace) {
     const Printer printer = PrinterAt(family, address);
     CheckPrinter(printer, Transport::kSnmp);
     std::string missing;
-    std::string failure;
+    int interruptions = 0;
     // A part; null when answers are late or lost. The others are kept.
     const auto part = [&](const char* name, const std::function<Document()>& ask) -> Document {
         try {
-            return ask();
+            if (interruptions < kMaxInterruptions)
+                return ask();
         } catch (const PrinterFailure& reason) {
-            if (reason.outcome != Outcome::kSlow)
+            if (reason.outcome != Outcome::kSlow && reason.outcome != Outcome::kInterrupted)
                 throw;
-            AddPart(missing, name);
-            failure = std::string(reason.what()) + " Not read: " + missing + ".";
-            return {};
+            interruptions += reason.outcome == Outcome::kInterrupted ? 1 : 0;
+        }
+        AddPart(missing, name);
+        return {};
+    };
+    // What the module reports nothing about because it had no answer.
+    const auto markUnanswered = [&](const auto& items, Document& rows, const char* key, const char* words) {
+        const std::vector<std::string> uses = UnansweredUses(trace.Messages(), ModuleObjects(family));
+        for (size_t i = 0; i < items.size(); ++i) {
+            Document& row = rows.Elements()[i];
+            if (!IsUnanswered(uses, items[i]) || row["name"].IsNull())
+                continue;
+            row[key] = words;
+            AddPart(missing, row["name"].Text());
         }
     };
     const PrinterIdentity identity = AskIdentity(printer);
+    if (!identity.isNameAnswered)
+        AddPart(missing, "model");
+    const uint32_t agent = AgentAddress(printer);
+    const PrinterAlerts alerts = AskAlerts(agent, ReadObjects(agent, {kErrorStateObject})[0]);
+    if (!alerts.areAnswered)
+        AddPart(missing, "alerts");
     Document answers = {
         {"printer",
          {{"address", printer.address},
           {"callsItself", TextOrNull(identity.name)},
           {"warning", TextOrNull(IdentityWarning(identity))}}},
-        {"alerts", Alerts(printer)},
+        {"alerts", AlertsDocument(alerts)},
+        {"alertsAreComplete", alerts.areAnswered},
     };
     answers["options"] = part("options", [&] {
         const OptionAnswers options =
             AskOptions(printer, Transport::kSnmp, OptionKeys(family, Transport::kSnmp));
-        return OptionsInWords(ReadOptionFeatures(family), options);
+        Document rows = OptionsInWords(ReadOptionFeatures(family), options);
+        markUnanswered(options, rows, "setting", "No answer");
+        return rows;
     });
-    answers["supplies"] = part(
-        "supplies", [&] { return SuppliesDocument(AskSupplies(printer, SupplyNames(family)), identity); });
+    answers["supplies"] = part("supplies", [&] {
+        const Supplies supplies = AskSupplies(printer, SupplyNames(family));
+        Document rows = SuppliesDocument(supplies, identity);
+        markUnanswered(supplies, rows, "level", "no answer");
+        return rows;
+    });
     answers["overlays"] = part("overlays", [&] { return Overlays(printer); });
     answers["profiles"] = part("profiles", [&] { return Profiles(printer); });
-    if (!failure.empty())
-        answers["failure"] = failure;
-    return {answers, TextForm(Page(answers)), failure.empty() ? 0 : kExitFailed};
+    if (!missing.empty()) {
+        const Outcome end = interruptions < kMaxInterruptions ? Outcome::kSlow : Outcome::kInterrupted;
+        answers["failure"] =
+            std::string(PrinterFailure(end, printer.address).what()) + " Not read: " + missing + ".";
+    }
+    return {answers, TextForm(Page(answers)), missing.empty() ? 0 : kExitFailed};
 }

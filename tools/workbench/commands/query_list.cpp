@@ -36,7 +36,7 @@ CommandResult AskFleet(const FamilyFiles& family, const FleetOptions& options) {
                                     + " printers were not asked, or not completely\n");
     bool haveAllAnswered = asked == answers.listed && !answers.states.empty();
     for (const PrinterState& state : answers.states)
-        haveAllAnswered = haveAllAnswered && state.hasAnswered;
+        haveAllAnswered = haveAllAnswered && state.hasAnswered && state.isComplete;
     return {FleetDocument(answers), options.csv ? FleetCsv(answers) : FleetPage(answers),
             haveAllAnswered ? 0 : kExitFailed};
 }

@@ -18,7 +18,7 @@ CommandResult TraceQuery(const FamilyFiles& family, const std::string& address) 
     std::string end;
     int exitCode = 0;
     try {
-        const CommandResult asked = AskBySnmp(family, address);
+        const CommandResult asked = AskBySnmp(family, address, trace);
         document = answers = asked.document;
         end = asked.text.empty() ? TextForm(asked.document) : asked.text;
         exitCode = asked.exitCode;

@@ -1,6 +1,7 @@
 // Pairs requests with answers, and writes them as a document or as text.
 #include "workbench/diagnosis/trace_page.h"
 
+#include "workbench/diagnosis/traced_requests.h"
 #include "workbench/lib/snmp_text.h"
 #include "workbench/lib/table_text.h"
 #include "workbench/lib/text.h"
@@ -9,60 +10,6 @@
 #include <cmath>
 
 namespace {
-
-struct TracedRequest {
-    std::vector<double> sends; // milliseconds since the start
-    bool isOwn;                // of the workbench
-    std::string bytes;
-    SnmpMessage message;
-    bool isAnswered = false;
-    SnmpMessage answer;               // the last: the one that the module has used, if any
-    double took = 0;                  // milliseconds since the first send
-    std::vector<std::string> skipped; // answers to other requests
-};
-
-// The module makes one request after the other, and repeats one by sending the same bytes.
-std::vector<TracedRequest> PairedRequests(const std::vector<TracedMessage>& messages) {
-    std::vector<TracedRequest> requests;
-    for (const TracedMessage& traced : messages) {
-        SnmpMessage message = traced.isDatagram ? ReadSnmpMessage(traced.bytes) : traced.message;
-        const bool isRepeat = !requests.empty() && !requests.back().isAnswered && traced.isDatagram
-                              && requests.back().bytes == traced.bytes;
-        if (traced.isSent && !isRepeat) {
-            TracedRequest request = {};
-            request.sends = {traced.at};
-            request.isOwn = traced.isOwn;
-            request.bytes = traced.bytes;
-            request.message = std::move(message);
-            requests.push_back(std::move(request));
-        } else if (traced.isSent) {
-            requests.back().sends.push_back(traced.at);
-        } else if (!requests.empty()) {
-            TracedRequest& request = requests.back();
-            if (message.hasRequestId && message.requestId != request.message.requestId) {
-                request.skipped.push_back(AnswerText(message));
-                continue;
-            }
-            request.isAnswered = true;
-            request.took = traced.at - request.sends.front();
-            request.answer = std::move(message);
-        }
-    }
-    return requests;
-}
-
-// The object for which the module makes a request; null: another one. Rows after the first of a table of
-// stored resources differ in their last sub-identifier.
-const ModuleObject* ObjectAt(const std::vector<ModuleObject>& objects, const ObjectId& oid) {
-    const ModuleObject* sameTable = nullptr;
-    for (const ModuleObject& object : objects) {
-        if (object.oid == oid)
-            return &object;
-        if (object.oid.size() == oid.size() && std::equal(oid.begin(), oid.end() - 1, object.oid.begin()))
-            sameTable = &object;
-    }
-    return sameTable;
-}
 
 size_t RowsIn(const Document& lists) {
     size_t rows = 0;
@@ -175,8 +122,7 @@ Document TraceDocument(const std::vector<TracedMessage>& messages, const std::ve
             continue;
         last = groups.size() - 1;
         if (use == kAccess) // any intact answer will do for the module
-            groups.back()["driver"] =
-                request.isAnswered && request.answer.damage == Damage::kNone ? "reached" : "not reached";
+            groups.back()["driver"] = request.HasUsableAnswer() ? "reached" : "not reached";
     }
     if (answers.IsNull() && last != SIZE_MAX && groups[last]["driver"].IsNull())
         groups[last]["driver"] = kFailed;

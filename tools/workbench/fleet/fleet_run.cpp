@@ -4,6 +4,7 @@
 #include "workbench/fleet/scout.h"
 #include "workbench/lib/host_address.h"
 #include "workbench/lib/running_jobs.h"
+#include "workbench/lib/traffic_trace.h"
 
 #include <algorithm>
 #include <chrono>
@@ -22,8 +23,14 @@ constexpr int kMaxSlowLookups = 16;    // in succession, then the name service i
 
 std::atomic<int> interrupts{0};
 
+// The second key ends the process here, and not in the system's handler, whose exit code differs. ExitProcess
+// would wait for locks that threads inside the name service may hold.
 BOOL WINAPI OnConsoleKey(DWORD key) {
-    return (key == CTRL_C_EVENT || key == CTRL_BREAK_EVENT) && NoteInterrupt() ? TRUE : FALSE;
+    if (key != CTRL_C_EVENT && key != CTRL_BREAK_EVENT)
+        return FALSE;
+    if (!NoteInterrupt())
+        TerminateProcess(GetCurrentProcess(), kExitFailed);
+    return TRUE;
 }
 
 } // namespace
@@ -37,6 +44,7 @@ struct FleetRun::Work {
     };
 
     FamilyFiles files;
+    std::optional<TrafficTrace> trace; // of all threads
     std::vector<ListedPrinter> printers;
     bool isScan;
     std::atomic<bool> isStopped{false};
@@ -80,7 +88,7 @@ struct FleetRun::Work {
 
     void AskPrinters() {
         while (const std::optional<Task> task = Next()) {
-            PrinterState state = CheckListed(files, printers[task->printer], task->address);
+            PrinterState state = CheckListed(files, printers[task->printer], task->address, *trace);
             state.milliseconds += task->milliseconds;
             Finish(task->printer, std::move(state));
         }
@@ -125,14 +133,16 @@ struct FleetRun::Work {
             addresses.push_back(htonl(*address));
             positions.push_back(i);
         }
-        Scout(addresses, isStopped, [&](size_t position, ProbeEnd end, uint32_t milliseconds) {
-            const size_t printer = positions[position];
-            if (end == ProbeEnd::kAnswered)
-                return Add({printer, printers[printer].address, milliseconds});
-            PrinterState state = UnreachedState(files, printers[printer], end);
-            state.milliseconds = milliseconds;
-            Finish(printer, std::move(state));
-        });
+        // Most addresses of a range are silent; those of a list are expected to answer.
+        Scout(addresses, isScan ? kProbeSends : kPatientSends, isStopped,
+              [&](size_t position, ProbeEnd end, uint32_t milliseconds) {
+                  const size_t printer = positions[position];
+                  if (end == ProbeEnd::kAnswered)
+                      return Add({printer, printers[printer].address, milliseconds});
+                  PrinterState state = UnreachedState(files, printers[printer], end);
+                  state.milliseconds = milliseconds;
+                  Finish(printer, std::move(state));
+              });
     }
 
     void Stop() {
@@ -145,6 +155,7 @@ struct FleetRun::Work {
 FleetRun::FleetRun(const FamilyFiles& family, const PrinterList& list, int threads)
     : work(std::make_shared<Work>()) {
     work->files = ModuleOf(family);
+    work->trace.emplace(work->files.module.get());
     work->printers = list.printers;
     work->isScan = list.isScan;
     work->states.resize(list.printers.size());

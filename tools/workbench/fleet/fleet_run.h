@@ -36,8 +36,8 @@ private:
     std::shared_ptr<Work> work; // shared with the threads
 };
 
-// Ctrl+C and Ctrl+Break, as long as this exists. The first one is noted; after it the system ends the
-// program.
+// Ctrl+C and Ctrl+Break, as long as this exists. The first one is noted, the second ends the process with
+// kExitFailed.
 class InterruptWatch {
 public:
     InterruptWatch();
@@ -48,7 +48,7 @@ public:
     static bool IsInterrupted();
 };
 
-// What the system calls for such a key. Whether it is handled here.
+// Notes such a key. Whether it is the first.
 bool NoteInterrupt();
 
 #endif

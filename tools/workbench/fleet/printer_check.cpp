@@ -1,6 +1,7 @@
 // Queries the printer, reads its trays, and puts what it needs into words.
 #include "workbench/fleet/printer_check.h"
 
+#include "workbench/diagnosis/traced_requests.h"
 #include "workbench/lib/host_address.h"
 #include "workbench/lib/option_words.h"
 #include "workbench/lib/printer_identity.h"
@@ -16,7 +17,7 @@
 namespace {
 
 constexpr int kTraysWithOption = 5; // the first inputs
-constexpr int kLargeTray = 6;       // the large-capacity tray
+constexpr int kLargeTray = 6;       // the large-capacity tray, of which the driver does not ask
 constexpr const char* kAskAgain = "ask again; workbench diagnose says why";
 constexpr int32_t kManualFeed = 5; // prtInputType: has no stock of paper
 
@@ -55,6 +56,15 @@ std::vector<int> Inputs(uint32_t address, const OptionAnswers& options) {
     return inputs;
 }
 
+// By the printer, or by its number. Whether there is a large-capacity tray is unknown without an answer.
+std::string TrayName(int input, const ObjectValue* row) {
+    if (!row[kInputName].text.empty())
+        return row[kInputName].text;
+    if (input == kLargeTray && !row[kInputType].isAnswered)
+        return "large-capacity tray, if it has one";
+    return "Tray " + std::to_string(input);
+}
+
 struct TraysRead {
     std::vector<TrayFill> trays;
     ObjectValue errorState;
@@ -73,18 +83,18 @@ TraysRead ReadTrays(uint32_t address, const std::vector<int>& inputs) {
         const bool isMissing = row[kInputType].isAnswered && !row[kInputType].exists;
         if (isMissing || row[kInputType].number == kManualFeed)
             continue;
-        const std::string& name = row[kInputName].text;
-        read.trays.push_back({name.empty() ? "Tray " + std::to_string(inputs[i]) : name,
-                              row[kInputCapacity].number.value_or(-1), row[kInputLevel].number});
+        read.trays.push_back(
+            {TrayName(inputs[i], row), row[kInputCapacity].number.value_or(-1), row[kInputLevel].number});
     }
     return read;
 }
 
-std::string OptionsText(const OptionAnswers& options) {
+// `unanswered` as in UnansweredUses; these are listed elsewhere.
+std::string OptionsText(const OptionAnswers& options, const std::vector<std::string>& unanswered) {
     const auto installed = std::count_if(options.begin(), options.end(), IsInstalled);
     std::string missing;
     for (const OptionRequestItem& answer : options)
-        if (answer.value[0] == 0)
+        if (answer.value[0] == 0 && !IsUnanswered(unanswered, answer))
             AddPart(missing, OptionName(answer.key));
     return std::to_string(installed) + " installed" + (missing.empty() ? "" : "; not reported: " + missing);
 }
@@ -134,34 +144,60 @@ void NoteFailure(Outcome outcome, PrinterState& state) {
     state.advice = words.advice;
 }
 
-// Runs a query. One that fails because answers are late or lost is noted, and the others may succeed.
+// Runs a query. One that fails because answers are late or lost is noted, and the others may succeed, unless
+// it seems that the printer was turned off.
 void Keep(const char* name, PrinterState& state, const std::function<void()>& query) {
     try {
         query();
     } catch (const PrinterFailure& failure) {
-        if (failure.outcome != Outcome::kSlow)
+        const bool isSecond = !state.hasAnswered;
+        if (failure.outcome != Outcome::kSlow && (failure.outcome != Outcome::kInterrupted || isSecond))
             throw;
         state.hasAnswered = false;
         AddPart(state.notRead, name);
     }
 }
 
-void Ask(const Printer& printer, PrinterState& state) {
+// Notes options that the module reports nothing about because it had no answer. Supplies that it does not
+// report are noted in any case.
+void NoteUnanswered(const OptionAnswers& options, const std::vector<std::string>& unanswered,
+                    PrinterState& state) {
+    for (const OptionRequestItem& option : options)
+        if (IsUnanswered(unanswered, option))
+            AddPart(state.notRead, OptionName(option.key));
+}
+
+void Ask(const Printer& printer, TrafficTrace& trace, PrinterState& state) {
     CheckPrinter(printer, Transport::kSnmp);
+    const std::vector<ModuleObject> objects = ModuleObjects(printer.family);
+    std::vector<std::string> unanswered;
     OptionAnswers options;
     Supplies supplies;
     state.hasAnswered = true;
     Keep("options", state, [&] {
         options = AskOptions(printer, Transport::kSnmp, OptionKeys(printer.family, Transport::kSnmp));
-        state.options = OptionsText(options);
+        unanswered = UnansweredUses(trace.TakeOfThisThread(), objects);
+        state.options = OptionsText(options, unanswered);
+        NoteUnanswered(options, unanswered, state);
     });
-    Keep("supplies", state, [&] { supplies = AskSupplies(printer, SupplyNames(printer.family)); });
+    Keep("supplies", state, [&] {
+        supplies = AskSupplies(printer, SupplyNames(printer.family));
+        for (std::string& use : UnansweredUses(trace.TakeOfThisThread(), objects))
+            unanswered.push_back(std::move(use));
+    });
     const PrinterIdentity identity = AskIdentity(printer);
     state.model = identity.name;
     state.isModel = identity.isModel;
     const uint32_t address = AgentAddress(printer);
     const TraysRead read = ReadTrays(address, Inputs(address, options));
-    Judge(supplies, identity.otherSupplies, read.trays, AskAlerts(address, read.errorState), state);
+    const PrinterAlerts alerts = AskAlerts(address, read.errorState);
+    Judge(supplies, identity.otherSupplies, read.trays, alerts, state);
+    const auto isUnanswered = [&](const auto& item) { return IsUnanswered(unanswered, item); };
+    state.isComplete = state.hasAnswered && identity.isNameAnswered && alerts.areAnswered
+                       && std::none_of(options.begin(), options.end(), isUnanswered)
+                       && std::none_of(supplies.begin(), supplies.end(), isUnanswered)
+                       && std::all_of(read.trays.begin(), read.trays.end(),
+                                      [](const TrayFill& tray) { return tray.level.has_value(); });
     if (!identity.isModel && identity.isNameAnswered) {
         NoteFailure(Outcome::kOtherModel, state);
         if (state.model.empty())
@@ -233,8 +269,12 @@ void Judge(const Supplies& supplies, const std::vector<std::string>& otherSuppli
     }
 }
 
-PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, const std::string& address) {
-    return StateAfter(listed, [&](PrinterState& state) { Ask(PrinterAt(family, address), state); });
+PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, const std::string& address,
+                         TrafficTrace& trace) {
+    const PrinterState state =
+        StateAfter(listed, [&](PrinterState& asked) { Ask(PrinterAt(family, address), trace, asked); });
+    trace.TakeOfThisThread();
+    return state;
 }
 
 PrinterState FindListed(const FamilyFiles& family, const ListedPrinter& listed, std::string& address) {

@@ -24,7 +24,8 @@ struct PrinterState {
     std::string model; // as the printer calls itself
     bool isModel = false;
     bool isPresent = true;    // something is at this address
-    bool hasAnswered = false; // all that the module was asked
+    bool hasAnswered = false; // all queries of the module
+    bool isComplete = true;   // nothing is missing because it was not answered
     Outcome outcome = Outcome::kAnswered;
     Attention attention = Attention::kFine;
     std::string state;        // in words
@@ -37,8 +38,11 @@ struct PrinterState {
     uint32_t milliseconds = 0; // from the first request on
 };
 
-// Asks a printer that is known to answer at this IPv4 address. Never throws PrinterFailure.
-PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, const std::string& address);
+// Asks a printer that is known to answer at this IPv4 address. The trace records the module's traffic, and is
+// left without that of this thread. Never throws PrinterFailure.
+class TrafficTrace;
+PrinterState CheckListed(const FamilyFiles& family, const ListedPrinter& listed, const std::string& address,
+                         TrafficTrace& trace);
 
 // Looks up a host name and requests one object there. `address` is the IPv4 address if that was answered,
 // otherwise empty, and the state says why.

@@ -67,11 +67,11 @@ bool Receive(ScoutRequest& request, ProbeEnd& end) {
 }
 
 // The same when it is time to send again or to give up.
-bool Expire(ScoutRequest& request, ProbeEnd& end) {
+bool Expire(ScoutRequest& request, int maxSends, ProbeEnd& end) {
     if (GetTickCount() - request.sent < kProbeWait)
         return false;
     end = request.others > 0 ? ProbeEnd::kOtherRequests : ProbeEnd::kNoAnswer;
-    if (request.sends >= kProbeSends)
+    if (request.sends >= maxSends)
         return true;
     if (Send(request))
         return false;
@@ -81,7 +81,7 @@ bool Expire(ScoutRequest& request, ProbeEnd& end) {
 
 } // namespace
 
-void Scout(const std::vector<uint32_t>& addresses, const std::atomic<bool>& isStopped,
+void Scout(const std::vector<uint32_t>& addresses, int maxSends, const std::atomic<bool>& isStopped,
            const std::function<void(size_t position, ProbeEnd end, uint32_t milliseconds)>& onEnd) {
     const SocketsStart sockets;
     std::vector<ScoutRequest> requests;
@@ -109,7 +109,7 @@ void Scout(const std::vector<uint32_t>& addresses, const std::atomic<bool>& isSt
         std::vector<ScoutRequest> onTheWay;
         for (size_t i = 0; i < requests.size(); ++i) {
             ProbeEnd end = ProbeEnd::kNoAnswer;
-            if ((polled[i].revents != 0 && Receive(requests[i], end)) || Expire(requests[i], end))
+            if ((polled[i].revents != 0 && Receive(requests[i], end)) || Expire(requests[i], maxSends, end))
                 finish(requests[i], end);
             else
                 onTheWay.push_back(std::move(requests[i]));

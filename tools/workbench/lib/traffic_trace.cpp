@@ -3,6 +3,8 @@
 
 #include "workbench/lib/stopwatch.h"
 
+#include <algorithm>
+#include <iterator>
 #include <snmp.h>
 #include <winsock2.h>
 
@@ -209,15 +211,32 @@ std::vector<TracedMessage> TrafficTrace::Messages() const {
     return messages;
 }
 
+std::vector<TracedMessage> TrafficTrace::TakeOfThisThread() {
+    const std::lock_guard lock(access);
+    const auto first =
+        std::stable_partition(messages.begin(), messages.end(), [](const TracedMessage& message) {
+            return message.thread != GetCurrentThreadId();
+        });
+    std::vector<TracedMessage> taken(std::make_move_iterator(first), std::make_move_iterator(messages.end()));
+    messages.erase(first, messages.end());
+    return taken;
+}
+
 void TrafficTrace::Add(bool isSent, bool isOwn, const char* bytes, int count) {
     if (count < 0)
         return;
     const std::lock_guard lock(access);
-    messages.push_back(
-        {MillisecondsSince(start), isSent, isOwn, true, {bytes, static_cast<size_t>(count)}, {}});
+    messages.push_back({MillisecondsSince(start),
+                        isSent,
+                        isOwn,
+                        true,
+                        {bytes, static_cast<size_t>(count)},
+                        {},
+                        GetCurrentThreadId()});
 }
 
 void TrafficTrace::Add(bool isSent, SnmpMessage message) {
     const std::lock_guard lock(access);
-    messages.push_back({MillisecondsSince(start), isSent, false, false, {}, std::move(message)});
+    messages.push_back(
+        {MillisecondsSince(start), isSent, false, false, {}, std::move(message), GetCurrentThreadId()});
 }

@@ -22,6 +22,7 @@ struct TracedMessage {
     bool isDatagram;     // otherwise recorded at the system's libraries
     std::string bytes;   // of a datagram
     SnmpMessage message; // otherwise; without version, community and request-id
+    DWORD thread;        // that has sent or received it
 };
 
 // How many requests are sent again, with the same bytes, because no answer has come.
@@ -43,6 +44,9 @@ public:
 
     // What has been recorded so far.
     std::vector<TracedMessage> Messages() const;
+
+    // Removes what the calling thread has sent and received so far, and returns it.
+    std::vector<TracedMessage> TakeOfThisThread();
 
     void Add(bool isSent, bool isOwn, const char* bytes, int count); // nothing for a negative count
     void Add(bool isSent, SnmpMessage message);
