@@ -54,6 +54,11 @@ constexpr FaultCase kFaultCases[] = {
     {"37", "stopped",          true,  "has stopped: Front door is open\\.$"},
     {"31", "otherModel otherSupplies missingValues", true, "calls itself 'Halden M410', not 'QUORVANE lumora R880'"},
     {"32", "otherModel",       true,  "calls itself 'QUORVANE Lumora R880', not 'QUORVANE lumora R880'"},
+    {"38", "otherDevice otherModel", true, "is device 3 of its host"},
+    {"39", "unknownModel",     true,  "has not answered what model it is"},
+    {"40", "wrongType",        true,  "type that the driver can't use: NULL"},
+    {"41", "otherVersion otherCommunity stopped", false, "SNMPv2c only"},
+    {"42", "unreadAlerts",     true,  "alerts were not read"},
     {"nowhere..invalid", "unknownHost", false, "no device with the name nowhere\\.\\.invalid"},
     {"::1", "ipv6Only",        false, "IPv6 addresses only: ::1"},
     {"[fe80::1%9]", "ipv6Only", false, "IPv6 addresses only"},
@@ -61,7 +66,8 @@ constexpr FaultCase kFaultCases[] = {
 };
 // clang-format on
 
-constexpr const char* kNotes = "|duplicates|changedCommunity|numberType"; // with these the driver is fine
+constexpr const char* kNotes =
+    "|duplicates|changedCommunity|numberType|unknownModel|unreadAlerts"; // with these the driver is fine
 
 std::wstring AddressOf(const std::string& printer) {
     const std::string address = printer.size() < 3 ? "127.0.164." + printer : printer;

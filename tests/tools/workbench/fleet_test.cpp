@@ -85,6 +85,35 @@ TEST(WorkbenchFleet, AlertsAreReported) {
     EXPECT_NE(RunWorkbench(L"query 127.0.163.2").output.find("Alerts read by the workbench (1)"), std::string::npos);
 }
 
+// A table of this many alerts, of which only the last one is critical.
+PrinterAlerts ReadAlertsOf(uint32_t count) {
+    const auto next = [count](const std::vector<std::string>& oids, bool& isAnswered) {
+        ObjectValues values(oids.size());
+        for (size_t i = 0; i < oids.size(); ++i) {
+            ObjectId oid = OidOf(oids[i]);
+            if (oid.size() == 11) // the column itself
+                oid.insert(oid.end(), {1, 0});
+            if (++oid.back() > count)
+                oid[10] += 1; // the next column
+            values[i].oid = oid;
+            values[i].number = oid.back() == count ? 3 : 4;
+        }
+        isAnswered = true;
+        return values;
+    };
+    ObjectValue errorState;
+    errorState.isAnswered = true;
+    return ReadAlerts(next, errorState);
+}
+
+TEST(WorkbenchFleet, AlertBehindManyWarningsIsRead) {
+    const PrinterAlerts many = ReadAlertsOf(20);
+    EXPECT_TRUE(many.areAnswered);
+    EXPECT_EQ(many.alerts.size(), 20u);
+    EXPECT_NE(CriticalAlerts(many), "");
+    EXPECT_FALSE(ReadAlertsOf(201).areAnswered) << "there may be more";
+}
+
 // Of 127.0.162.5, which does not answer for its overlays.
 TEST(WorkbenchFleet, QueryKeepsWhatWasRead) {
     const Result result = RunWorkbench(L"query 127.0.162.5 --json");
@@ -94,6 +123,14 @@ TEST(WorkbenchFleet, QueryKeepsWhatWasRead) {
     EXPECT_EQ(answers["supplies"][1]["level"], "83 %");
     EXPECT_NE(answers["failure"].dump().find("too slowly, or not every request"), std::string::npos);
     EXPECT_NE(answers["failure"].dump().find("Not read: overlays."), std::string::npos);
+    const Result unanswered = RunWorkbench(L"query 127.0.163.9");
+    EXPECT_EQ(unanswered.exitCode, 1);
+    for (const char* words : {"Not read: alerts, Duplex unit, Magenta toner.", "Duplex unit    No answer",
+                              "Magenta toner    no answer", "Alerts        not answered"})
+        EXPECT_NE(unanswered.output.find(words), std::string::npos) << words << unanswered.output;
+    const Json lossy = Json::parse(RunWorkbench(L"query 127.0.163.10 --json").output);
+    EXPECT_NE(lossy["failure"].dump().find("Not read: "), std::string::npos);
+    EXPECT_EQ(lossy["options"].size(), 13) << "although overlays and profiles are not answered";
     ExpectFailure(L"query 127.0.163.8", 1, "device 3 of its host");
     ExpectFailure(L"query [fe80::1%1]", 2, "IPv6");
     ExpectFailure(L"query no..host", 1, "no device with this name.*spelling");
@@ -237,13 +274,13 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
                     "127.0.162.1 print shop\n127.0.162.2\n127.0.162.3\n127.0.162.5\n127.0.162.6\n127.0.162.7\n"
                     "127.0.162.8\n127.0.162.9\n127.0.162.10\n127.0.162.11\n127.0.162.12\n127.0.163.1\nno.sh.host\n"
                     "127.0.163.2\n127.0.163.3\n127.0.163.4\n127.0.163.5\n127.0.163.6\n127.0.163.7\n127.0.163.8\n"
-                    "localhost\nno..host\n",
+                    "localhost\nno..host\n127.0.163.11\n",
                     "");
     const std::wstring query = L"query --list \"" + list.wstring() + L"\" ";
     const Result result = RunWorkbench(query + L"--json --threads 4");
     EXPECT_EQ(result.exitCode, 1) << result.errors;
     const Json answers = Json::parse(result.output);
-    EXPECT_EQ(answers["summary"]["answered"], 12);
+    EXPECT_EQ(answers["summary"]["answered"], 13);
     EXPECT_EQ(answers["summary"]["notAsked"], 0);
     // Without a network there is no name service. A name that is not well-formed is not sent to it.
     uint32_t found = 0;
@@ -258,7 +295,7 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
                             "162.8:not a printer 163.1:other model 163.7:other model 163.8:not device 1 of its host "
                             "162.2:Yellow toner is empty 163.2:Front door is open 163.3:Yellow toner is empty "
                             "163.4:Yellow toner is empty 163.5:model not answered "
-                            "162.1:fine 162.5:fine 162.12:fine 163.6:fine ");
+                            "163.11:incomplete 162.1:fine 162.5:fine 162.12:fine 163.6:fine ");
     const auto printer = [&](const std::string& address) {
         for (const Json& row : answers["printers"])
             if (row["address"] == address)
@@ -270,6 +307,7 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
     EXPECT_EQ(printer("127.0.162.2")["trays"], "Tray 1 low, Tray 2 empty");
     EXPECT_EQ(printer("127.0.163.3")["trays"], "Tray 1 low, Tray 2 empty") << "as Counter32";
     EXPECT_EQ(printer("127.0.163.4")["notRead"], "Tray 1, Tray 2");
+    EXPECT_EQ(printer("127.0.163.11")["notRead"], "Duplex unit, large-capacity tray, if it has one");
     EXPECT_EQ(printer("127.0.162.1")["name"], "print shop");
     EXPECT_EQ(RunWorkbench(query + L"--csv").output.find("\uFEFFaddress,name,"), 0);
 
@@ -279,6 +317,7 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
     const Result unreachable = RunWorkbench(L"query --list 192.0.2.0/30");
     EXPECT_NE(unreachable.output.find("No request could be sent"), std::string::npos) << unreachable.output;
     EXPECT_EQ(RunWorkbench(L"query --list 127.0.163.1/32").exitCode, 0) << "all have answered";
+    EXPECT_EQ(RunWorkbench(L"query --list 127.0.163.11/32").exitCode, 1) << "not everything was answered";
     ExpectFailure(L"query --list 127.0.0.0/8", 2, "127.0.0.0/8.*from /20");
     ExpectFailure(L"query --list x --threads 0", 2, "--threads");
     ExpectFailure(L"query --list nowhere.txt", 2, "--list.*nowhere.txt.*range");

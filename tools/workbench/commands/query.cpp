@@ -201,7 +201,7 @@ CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address, c
         AddPart(missing, "model");
     const uint32_t agent = AgentAddress(printer);
     const PrinterAlerts alerts = AskAlerts(agent, ReadObjects(agent, {kErrorStateObject})[0]);
-    if (!alerts.areAnswered)
+    if (!alerts.areAnswered && alerts.alerts.size() < kMaxAlerts)
         AddPart(missing, "alerts");
     Document answers = {
         {"printer",
@@ -231,5 +231,5 @@ CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address, c
         answers["failure"] =
             std::string(PrinterFailure(end, printer.address).what()) + " Not read: " + missing + ".";
     }
-    return {answers, TextForm(Page(answers)), missing.empty() ? 0 : kExitFailed};
+    return {answers, TextForm(Page(answers)), missing.empty() && alerts.areAnswered ? 0 : kExitFailed};
 }

@@ -205,6 +205,7 @@ NextObjects NextObjectsOf(const Observations& seen) {
             const Arrival* answer = seen.exchange->AnswerTo(first + i);
             values.push_back(answer != nullptr ? ValueIn(answer->message) : ObjectValue());
             isAnswered = isAnswered && values.back().isAnswered;
+            CheckOrder(oids[i], values.back(), isAnswered);
         }
         return values;
     };

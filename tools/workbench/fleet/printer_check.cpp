@@ -99,6 +99,12 @@ std::string OptionsText(const OptionAnswers& options, const std::vector<std::str
     return std::to_string(installed) + " installed" + (missing.empty() ? "" : "; not reported: " + missing);
 }
 
+// An option and a tray can have the same name.
+void AddUnread(PrinterState& state, const std::string& name) {
+    if ((", " + state.notRead + ", ").find(", " + name + ", ") == std::string::npos)
+        AddPart(state.notRead, name);
+}
+
 Need NeedOf(const TrayFill& tray) {
     if (!tray.level)
         return Need::kUnknown;
@@ -234,7 +240,7 @@ void Judge(const Supplies& supplies, const std::vector<std::string>& otherSuppli
     for (const TrayFill& tray : trays) {
         const Need need = NeedOf(tray);
         if (need == Need::kUnknown) {
-            AddPart(state.notRead, tray.name);
+            AddUnread(state, tray.name);
             continue;
         }
         needs.Add(need, need == Need::kNow ? "load " + tray.name : "order paper for " + tray.name);

@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr size_t kMaxAlerts = 200;
 constexpr double kAlertsLimit = 10000;                              // milliseconds
 constexpr const char* kSeverityColumn = ".1.3.6.1.2.1.43.18.1.1.2"; // prtAlertSeverityLevel
 constexpr const char* kTextColumn = ".1.3.6.1.2.1.43.18.1.1.8";     // prtAlertDescription

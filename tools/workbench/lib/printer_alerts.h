@@ -18,8 +18,10 @@ struct PrinterAlerts {
 // The object with the conditions of device 1: hrPrinterDetectedErrorState.
 constexpr const char* kErrorStateObject = ".1.3.6.1.2.1.25.3.5.1.2.1";
 
-// Reads the alerts of device 1, row by row: at most 200 rows, for 10 seconds; then they are not answered
-// completely. The conditions that stop a printer count where it has no critical alert.
+constexpr size_t kMaxAlerts = 200;
+
+// Reads the alerts of device 1, row by row: at most kMaxAlerts rows, for 10 seconds; then they are not
+// answered completely. The conditions that stop a printer count where it has no critical alert.
 PrinterAlerts ReadAlerts(const NextObjects& next, const ObjectValue& errorState);
 
 // The same with the module's way of asking.

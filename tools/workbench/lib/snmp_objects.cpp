@@ -124,7 +124,16 @@ ObjectValues ReadNextObjects(uint32_t address, const std::vector<std::string>& o
         values.push_back(next.empty() ? ObjectValue() : next[0]);
     }
     values.resize(oids.size());
+    for (size_t i = 0; i < oids.size(); ++i)
+        CheckOrder(oids[i], values[i], isAnswered);
     return values;
+}
+
+void CheckOrder(const std::string& oid, ObjectValue& next, bool& isAnswered) {
+    if (next.oid.empty() || next.oid > OidOf(oid))
+        return;
+    next = {};
+    isAnswered = false;
 }
 
 NextObjects NextObjectsAt(uint32_t address) {

@@ -39,6 +39,9 @@ ObjectValues ReadNextObjects(uint32_t address, const std::vector<std::string>& o
 using NextObjects = std::function<ObjectValues(const std::vector<std::string>& oids, bool& isAnswered)>;
 NextObjects NextObjectsAt(uint32_t address);
 
+// Takes a reply that does not go on from the object, as an agent with a fault sends it, for none.
+void CheckOrder(const std::string& oid, ObjectValue& next, bool& isAnswered);
+
 // Whether an object is in a column of a table. `index` is the rest of its OID.
 bool IsInColumn(const ObjectId& oid, const std::string& column, ObjectId& index);
 
