@@ -132,7 +132,7 @@ TEST(Workbench, QueriesSayWhyTheyFail) {
     ExpectFailure(L"query 127.0.162.10", 1, "127.0.162.10 does not answer.*community tovask");
     ExpectFailure(L"query 127.0.162.11", 1, "127.0.162.11 .*other requests only");
     ExpectFailure(L"status 127.0.162.3", 1, "127.0.162.3 is of another model.*QUORVANE lumora R880");
-    ExpectFailure(L"status no.such.host", 1, "no.such.host: there is no device.*spelling");
+    ExpectFailure(L"status no..host", 1, "no..host: there is no device.*spelling");
     ExpectFailure(view + L"::1", 2, "::1 leads to an IPv6 address");
     ExpectFailure(L"query \u6771\u4EAC.local", 2, "\u6771\u4EAC.local: a host name can't have all");
     ExpectFailure(L"query \" \"", 2, "address is missing");

@@ -94,7 +94,7 @@ struct FleetRun::Work {
         }
     }
 
-    // Whether the name service is silent: it may take 20 seconds for each name.
+    // Whether the name service is silent: it may take 10 seconds for each name.
     bool IsGivenUp() const { return slowLookups >= kMaxSlowLookups; }
 
     // A name that was found shows that the service answers.

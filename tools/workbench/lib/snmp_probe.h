@@ -25,7 +25,7 @@ enum class HostKind {
 };
 
 // Looks up an address or a host name in the system's code page. `address` (in network order) is set for
-// kIpv4. Waits for the name service, which can take 20 seconds.
+// kIpv4. Waits for the name service, which can take 10 seconds and more.
 HostKind FindHost(const std::string& host, uint32_t& address);
 
 // How a request of the workbench is sent: to this port, this often, with so much time for each answer, until
