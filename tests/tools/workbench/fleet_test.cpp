@@ -13,6 +13,9 @@
 #include "workbench/lib/text.h"
 
 #include <thread>
+#include <winsock2.h>
+
+#include <ws2tcpip.h> // after winsock2.h
 
 namespace {
 
@@ -283,8 +286,9 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
     EXPECT_EQ(answers["summary"]["answered"], 13);
     EXPECT_EQ(answers["summary"]["notAsked"], 0);
     // Without a network there is no name service. A name that is not well-formed is not sent to it.
-    uint32_t found = 0;
-    const bool hasNames = FindHost("no.sh.host", found) == HostKind::kUnknown;
+    const SocketsStart sockets;
+    addrinfo* found = nullptr;
+    const bool hasNames = getaddrinfo("no.sh.host", nullptr, nullptr, &found) != WSATRY_AGAIN;
     std::string states;
     for (const Json& row : answers["printers"])
         states += row["address"].get<std::string>().substr(6) + ":" + row["state"].get<std::string>() + " ";

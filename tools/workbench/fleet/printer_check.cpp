@@ -68,6 +68,7 @@ std::string TrayName(int input, const ObjectValue* row) {
 struct TraysRead {
     std::vector<TrayFill> trays;
     ObjectValue errorState;
+    bool areLevelsAnswered = true; // otherwise it is unknown whether the printer reports them
 };
 
 TraysRead ReadTrays(uint32_t address, const std::vector<int>& inputs) {
@@ -77,7 +78,7 @@ TraysRead ReadTrays(uint32_t address, const std::vector<int>& inputs) {
             oids.push_back(column + std::to_string(input));
     oids.emplace_back(kErrorStateObject);
     const ObjectValues values = ReadObjects(address, oids);
-    TraysRead read = {{}, values.back()};
+    TraysRead read = {{}, values.back(), true};
     for (size_t i = 0; i < inputs.size(); ++i) {
         const auto* row = &values[i * kInputColumns];
         const bool isMissing = row[kInputType].isAnswered && !row[kInputType].exists;
@@ -85,6 +86,7 @@ TraysRead ReadTrays(uint32_t address, const std::vector<int>& inputs) {
             continue;
         read.trays.push_back(
             {TrayName(inputs[i], row), row[kInputCapacity].number.value_or(-1), row[kInputLevel].number});
+        read.areLevelsAnswered = read.areLevelsAnswered && row[kInputLevel].isAnswered;
     }
     return read;
 }
@@ -198,12 +200,14 @@ void Ask(const Printer& printer, TrafficTrace& trace, PrinterState& state) {
     const TraysRead read = ReadTrays(address, Inputs(address, options));
     const PrinterAlerts alerts = AskAlerts(address, read.errorState);
     Judge(supplies, identity.otherSupplies, read.trays, alerts, state);
-    const auto isUnanswered = [&](const auto& item) { return IsUnanswered(unanswered, item); };
+    const auto isOptionUnanswered = [&](const auto& option) { return IsUnanswered(unanswered, option); };
+    const auto isSupplyUnanswered = [&](const auto& supply) {
+        return IsUnanswered(unanswered, supply) && !SupplyName(supply.name).empty();
+    };
     state.isComplete = state.hasAnswered && identity.isNameAnswered && alerts.areAnswered
-                       && std::none_of(options.begin(), options.end(), isUnanswered)
-                       && std::none_of(supplies.begin(), supplies.end(), isUnanswered)
-                       && std::all_of(read.trays.begin(), read.trays.end(),
-                                      [](const TrayFill& tray) { return tray.level.has_value(); });
+                       && std::none_of(options.begin(), options.end(), isOptionUnanswered)
+                       && std::none_of(supplies.begin(), supplies.end(), isSupplyUnanswered)
+                       && read.areLevelsAnswered;
     if (!identity.isModel && identity.isNameAnswered) {
         NoteFailure(Outcome::kOtherModel, state);
         if (state.model.empty())
