@@ -2,7 +2,6 @@
 // and colour profiles. The document has the module's answers and what they mean in words; the page for people
 // has the words. What the printer says of itself is asked by the workbench's own requests.
 #include "workbench/commands/commands.h"
-#include "workbench/diagnosis/traced_requests.h"
 #include "workbench/lib/option_words.h"
 #include "workbench/lib/printer_alerts.h"
 #include "workbench/lib/printer_identity.h"
@@ -11,6 +10,7 @@
 #include "workbench/lib/record_fields.h"
 #include "workbench/lib/supply_words.h"
 #include "workbench/lib/text_form.h"
+#include "workbench/lib/traced_requests.h"
 
 #include <functional>
 

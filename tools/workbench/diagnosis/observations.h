@@ -4,7 +4,7 @@
 #define WORKBENCH_DIAGNOSIS_OBSERVATIONS_H
 
 #include "workbench/diagnosis/exchange.h"
-#include "workbench/diagnosis/module_objects.h"
+#include "workbench/lib/module_objects.h"
 #include "workbench/lib/printer_alerts.h"
 #include "workbench/lib/printer_place.h"
 #include "workbench/lib/printer_queries.h"

@@ -1,10 +1,10 @@
 // Pairs requests with answers, and writes them as a document or as text.
 #include "workbench/diagnosis/trace_page.h"
 
-#include "workbench/diagnosis/traced_requests.h"
 #include "workbench/lib/snmp_text.h"
 #include "workbench/lib/table_text.h"
 #include "workbench/lib/text.h"
+#include "workbench/lib/traced_requests.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,7 @@
 #ifndef WORKBENCH_DIAGNOSIS_TRACE_PAGE_H
 #define WORKBENCH_DIAGNOSIS_TRACE_PAGE_H
 
-#include "workbench/diagnosis/module_objects.h"
+#include "workbench/lib/module_objects.h"
 #include "workbench/lib/traffic_trace.h"
 
 // One element for each question in order: its use of the objects, what the driver made of the answers, and

@@ -1,7 +1,6 @@
 // Queries the printer, reads its trays, and puts what it needs into words.
 #include "workbench/fleet/printer_check.h"
 
-#include "workbench/diagnosis/traced_requests.h"
 #include "workbench/lib/host_address.h"
 #include "workbench/lib/option_words.h"
 #include "workbench/lib/printer_identity.h"
@@ -9,6 +8,7 @@
 #include "workbench/lib/snmp_probe.h"
 #include "workbench/lib/supply_words.h"
 #include "workbench/lib/text.h"
+#include "workbench/lib/traced_requests.h"
 
 #include <algorithm>
 #include <functional>

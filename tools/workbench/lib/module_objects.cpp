@@ -1,5 +1,5 @@
 // Collects the objects of the module's tables.
-#include "workbench/diagnosis/module_objects.h"
+#include "workbench/lib/module_objects.h"
 
 #include "workbench/lib/option_words.h"
 #include "workbench/lib/snmp_probe.h"

@@ -1,5 +1,5 @@
 // Pairs requests with answers.
-#include "workbench/diagnosis/traced_requests.h"
+#include "workbench/lib/traced_requests.h"
 
 #include "workbench/lib/text.h"
 

@@ -1,6 +1,6 @@
 // The objects that the module requests of a printer, from the tables that it exports.
-#ifndef WORKBENCH_DIAGNOSIS_MODULE_OBJECTS_H
-#define WORKBENCH_DIAGNOSIS_MODULE_OBJECTS_H
+#ifndef WORKBENCH_LIB_MODULE_OBJECTS_H
+#define WORKBENCH_LIB_MODULE_OBJECTS_H
 
 #include "workbench/lib/family_files.h"
 #include "workbench/lib/snmp_text.h"

@@ -1,8 +1,8 @@
 // The requests in a recorded traffic, each with its answer, and what the module wants to know by them.
-#ifndef WORKBENCH_DIAGNOSIS_TRACED_REQUESTS_H
-#define WORKBENCH_DIAGNOSIS_TRACED_REQUESTS_H
+#ifndef WORKBENCH_LIB_TRACED_REQUESTS_H
+#define WORKBENCH_LIB_TRACED_REQUESTS_H
 
-#include "workbench/diagnosis/module_objects.h"
+#include "workbench/lib/module_objects.h"
 #include "workbench/lib/traffic_trace.h"
 
 struct TracedRequest {
