@@ -76,17 +76,19 @@ void ReportNoObject(const Lines& lines, Findings& findings) {
 } // namespace
 
 ObjectMap ReadRecording(const std::string& text, Findings& findings) {
-    const std::string plain = WithoutNoBreakSpaces(PlainText(text, findings));
-    const Lines lines = SplitLines(plain);
-    Recording recording(findings);
-    if (const size_t mail = FindSavedMailLine(lines); mail != lines.size())
-        findings.Error(AtLine(mail + 1), kSavedMail);
+    std::string plain = PlainText(text, findings);
+    Lines lines = SplitLines(plain);
+    const bool isSnmprec = FindSnmprecLine(lines) < FindWalkLine(lines);
+    if (!isSnmprec) { // perhaps from a mail
+        plain = WithoutNoBreakSpaces(plain);
+        lines = SplitLines(plain);
+        if (const size_t mail = FindSavedMailLine(lines); mail != lines.size())
+            findings.Error(AtLine(mail + 1), kSavedMail);
+    }
     if (findings.HasErrors())
         return {};
-    if (FindSnmprecLine(lines) < FindWalkLine(lines))
-        ReadSnmprec(lines, recording);
-    else
-        ReadWalk(lines, recording);
+    Recording recording(findings);
+    (isSnmprec ? ReadSnmprec : ReadWalk)(lines, recording);
     recording.CountUnlistedWarnings();
     if (const auto header = std::find_if(lines.begin(), lines.end(), IsEncodingHeader); header != lines.end())
         findings.list.push_back({AtLine(static_cast<uint64_t>(header - lines.begin()) + 1),
