@@ -196,6 +196,7 @@ void FindAccess(Observations& seen) {
 NextObjects NextObjectsOf(const Observations& seen) {
     return [&seen](const std::vector<std::string>& oids, bool& isAnswered) {
         std::vector<AskedObject> questions;
+        questions.reserve(oids.size());
         for (const std::string& oid : oids)
             questions.push_back({seen.access, OidOf(oid), true});
         const size_t first = seen.exchange->Ask(questions);
