@@ -28,8 +28,8 @@ inline Encoding EncodingOf(std::string_view text) {
     return hasMark || isCharacter ? Encoding::kUtf16 : Encoding::kNotText;
 }
 
-// What is wrong with a text in UTF-16 or UTF-32, or with something else than a text; null for other texts.
-inline const char* WideTextFault(std::string_view text) {
+// Why a file can't be read as UTF-8: another encoding, or no text. Null when it can.
+inline const char* TextFileFault(std::string_view text) {
     constexpr const char* kFaults[] = {nullptr, "this file is UTF-16; save it as UTF-8",
                                        "this file is UTF-32; save it as UTF-8", "this file is not a text",
                                        "this is a compressed file: unpack it first"};

@@ -14,7 +14,7 @@ namespace {
 
 // yaml-cpp accepts bytes that are not text, and takes some control characters for the end of the file.
 bool CheckIsText(const std::string& text, Findings& findings) {
-    if (const char* fault = WideTextFault(text)) {
+    if (const char* fault = TextFileFault(text)) {
         findings.Error({1, 1}, fault);
         return false;
     }

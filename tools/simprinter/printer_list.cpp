@@ -115,7 +115,7 @@ void ReadListLine(const std::string& text, size_t line, List& list) {
 
 std::vector<Printer> StartListedPrinters(const std::string& path) {
     const std::string contents = ReadFile(path);
-    if (const char* const fault = WideTextFault(contents))
+    if (const char* const fault = TextFileFault(contents))
         throw std::runtime_error(path + ": " + fault);
     List list = {path, {}, {}, {}};
     std::string problems;

@@ -37,7 +37,7 @@ std::string PlainText(const std::string& text, Findings& findings) {
     case Encoding::kUtf32:
     case Encoding::kNotText:
     case Encoding::kCompressed:
-        findings.Error(AtLine(1), WideTextFault(text));
+        findings.Error(AtLine(1), TextFileFault(text));
         return "";
     }
     return std::string(WithoutUtf8Mark(text));

@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+class TrafficTrace;
+
 // What a command answers. Most have only a document.
 struct CommandResult {
     CommandResult(Document answers, std::string forPeople = {}, int code = 0)
@@ -36,7 +38,6 @@ Document AskCapabilities(const FamilyFiles& family, const std::vector<std::strin
 CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address);
 
 // The same with this trace, which has recorded nothing before.
-class TrafficTrace;
 CommandResult AskBySnmp(const FamilyFiles& family, const std::string& address, const TrafficTrace& trace);
 
 // The same of many printers, what needs attention first.

@@ -119,7 +119,7 @@ bool IsRange(const std::string& text) {
 } // namespace
 
 std::vector<ListedPrinter> ParsePrinterList(const std::string& text, const std::string& name) {
-    if (const char* fault = WideTextFault(text))
+    if (const char* fault = TextFileFault(text))
         throw Failure(kExitUsage, name + ": " + fault);
     const Lines lines = SplitLines(text);
     if (const std::string fault = Utf8Fault(lines); !fault.empty())

@@ -64,7 +64,7 @@ std::string JsonForm(const Document& document, int indent) {
 }
 
 Document ParseJson(const std::string& text, const std::string& name) {
-    if (const char* fault = WideTextFault(text))
+    if (const char* fault = TextFileFault(text))
         throw Failure(kExitFailed, name + ": " + fault);
     try {
         return FromJson(Json::parse(text));
