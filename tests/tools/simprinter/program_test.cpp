@@ -39,8 +39,8 @@ TEST(Program, ExitCodesAndMessages) {
              + walk},
         {"--replay " + large, 1,
          "simprinter: cannot read '" + large + "': it has more than 8388608 bytes, the most that"},
-        {"--address 192.0.2.1 --port 0", 1,
-         "simprinter: cannot listen on 192.0.2.1:0: Cannot assign requested address. It must be an address of this machine"},
+        {"--address 240.0.0.1 --port 0", 1,
+         "simprinter: cannot listen on 240.0.0.1:0: Cannot assign requested address. It must be an address of this machine"},
         {"--port " + other.Port(), 1,
          "simprinter: cannot listen on 127.0.0.1:" + other.Port()
              + ": Address already in use. Another program uses that port: stop it, or choose another one with --port"},

@@ -139,9 +139,9 @@ TEST(Serving, ErrorsOfAListHaveTheirLine) {
         {"\xFF\xFE"
          "1",
          ": this file is UTF-16; save it as UTF-8"},
-        {"192.0.2.1 simprinter\n192.0.2.2 simprinter",
-         ":1:1: cannot listen on 192.0.2.1:0: Cannot assign requested address. It must be an address of this machine\n"
-         "LIST:2:1: cannot listen on 192.0.2.2:0: "},
+        {"240.0.0.1 simprinter\n240.0.0.2 simprinter",
+         ":1:1: cannot listen on 240.0.0.1:0: Cannot assign requested address. It must be an address of this machine\n"
+         "LIST:2:1: cannot listen on 240.0.0.2:0: "},
     };
     const TemporaryFolder folder;
     for (const auto& [lines, message] : cases) {

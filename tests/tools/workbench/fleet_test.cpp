@@ -318,7 +318,7 @@ TEST(WorkbenchFleet, ListShowsWhatNeedsAttentionFirst) {
     const Result scan = RunWorkbench(L"query --list 127.0.162.8/29 --json");
     EXPECT_EQ(Json::parse(scan.output)["summary"]["unusedAddresses"], 1) << "10";
     EXPECT_EQ(Json::parse(scan.output)["summary"]["refused"], 3) << "9, 13 and 14";
-    const Result unreachable = RunWorkbench(L"query --list 192.0.2.0/30");
+    const Result unreachable = RunWorkbench(L"query --list 255.255.255.255/32");
     EXPECT_NE(unreachable.output.find("No request could be sent"), std::string::npos) << unreachable.output;
     EXPECT_EQ(RunWorkbench(L"query --list 127.0.163.1/32").exitCode, 0) << "all have answered";
     EXPECT_EQ(RunWorkbench(L"query --list 127.0.163.11/32").exitCode, 1) << "not everything was answered";
