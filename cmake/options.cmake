@@ -28,8 +28,20 @@ if(CCACHE AND EXISTS "${CCACHE}" AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
         "${CCACHE}")
 endif()
 
-# Products contain no path of the machine, so that they are the same wherever they are built.
-add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
+# Products contain no path of the machine, so that they are the same wherever they are built: places in messages are relative to the
+# project, and in the debug symbols of Windows the project is the folder C:\\telmar_d. ccache makes paths relative to the build.
+set(folder_in_symbols .)
+if(WIN32)
+    set(folder_in_symbols C:/telmar_d)
+    add_compile_options(-ffile-compilation-dir=.)
+endif()
+file(RELATIVE_PATH source_folder "${CMAKE_BINARY_DIR}" "${CMAKE_SOURCE_DIR}")
+string(REGEX REPLACE "/$" "" source_folder "${source_folder}")
+foreach(folder "${CMAKE_SOURCE_DIR}" ${source_folder})
+    add_compile_options(-fmacro-prefix-map=${folder}=. -fdebug-prefix-map=${folder}=${folder_in_symbols})
+endforeach()
+add_compile_options(-ffile-prefix-map=${CMAKE_BINARY_DIR}/=)
+
 if(SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
@@ -37,9 +49,10 @@ endif()
 if(WIN32)
     add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX WINVER=0x0601 _WIN32_WINNT=0x0601)
     add_link_options(-static -Wl,--no-insert-timestamp)
+    link_libraries(pthread) # of the C++ library
 endif()
 
-# Warnings for the project's own code, all of them errors.
+# Warnings for the project's own code, all of them errors. clang's -Wconversion has -Wsign-conversion in it, g++'s does not.
 add_library(project_warnings INTERFACE)
 target_compile_options(project_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast
-                                                  -Wnon-virtual-dtor -Werror)
+                                                  -Wnon-virtual-dtor -Wno-sign-conversion -Werror)

@@ -85,7 +85,7 @@ void CheckAddress(const std::string& address, size_t line, List& list) {
 }
 
 void ReadListLine(const std::string& text, size_t line, List& list) {
-    constexpr const char* kBlanks = " \t\r";
+    static constexpr char kBlanks[] = " \t\r";
     const auto wordAt = [&](size_t from) {
         return std::min(text.find_first_not_of(kBlanks, from), text.size());
     };

@@ -70,11 +70,11 @@ inline const ColorDialogCase kColorDialogs[] = {
     {"BasicB", 123, L"type3", 6600, false, BASIC_COLUMNS},
 };
 
-inline const std::string kBuiltInRgb =
+const std::string kBuiltInRgb =
     "Device RGB=0|sRGB=1|Adobe RGB (1998)=128|Apple RGB=129|CIE RGB=130|ColorMatch RGB=131|NTSC (1953)=132|PAL=133|"
     "SMPTE-C=134|sRGB (monitor)=135|Wide gamut RGB=136|SMPTE-240M=137|Print server RGB=138|sRGB (standard)=139|"
     "ProPhoto RGB=140|sRGB (blue adjusted)=141";
-inline const std::string
+const std::string
     kRgb          = kBuiltInRgb + "|Camera Hard disk=256|Scanner (Office) Memory=257",
     kMatch        = "Vivid=0|Photographic=1|Proof=2|Exact match=3",
     kGray         = "Four-colour black=0|Black and grey=1|Black toner only=2",
@@ -84,7 +84,7 @@ inline const std::string
     kSimuItems    = "None=0|SWOP=1|Euroscale=2|Commercial press=3|TOYO=4|DIC=5",
     kSimulations  = kSimuItems + "|Sim A Flash memory=128|Sim B (Q) =129"; // no such location
 
-inline const RawBytes
+const RawBytes
     kCamera = Profile(L"", L"Camera", 4), kScanner = Profile(L"Office", L"Scanner", 3),
     kSimA = Profile(L"", L"Sim A", 5), kSimB = Profile(L"Q", L"Sim B", 99),
     kPressA = Profile(L"", L"Press A", 1), kPressB = Profile(L"Coated", L"Press B", 2), kNone = RawBytes(kProfileSize);

@@ -124,7 +124,7 @@ TEST(WorkbenchReport, UnusableInputIsRefused) {
     Json row = Json::parse(R"({"dialog": 128, "kind": "colours", "opens": true, "title": "T", "dpi": 96, "width": 8,
                                "height": 4, "file": "gone.png"})");
     const auto expectRefused = [&](const char* message) {
-        write("dialogs-96.json", Json({row}).dump().c_str());
+        write("dialogs-96.json", Json::array({row}).dump().c_str());
         ExpectFailure(out + L" --dialogs \"" + folder.path.wstring() + L"\"", 1, message);
     };
     expectRefused("gone.png: cannot be read");
