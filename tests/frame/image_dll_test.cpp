@@ -1,5 +1,6 @@
 // The image of the built DLL: export directory, exports that share an entry point, imports, version
-// information, and nothing of the machine that built it. Read where the system has loaded it.
+// information, what protects it, its size, and nothing of the machine that built it. Read where the system has
+// loaded it.
 #include "support/product.h"
 
 #include <algorithm>
@@ -34,6 +35,12 @@ const std::set<std::string> kSystemLibraries = {"advapi32.dll", "comctl32.dll", 
                                                 "kernel32.dll", "msvcrt.dll",   "user32.dll",
                                                 "version.dll",  "winspool.drv", "ws2_32.dll"};
 
+// Kinds of debug entries and a flag, which mingw-w64 does not name.
+constexpr DWORD kReproducible = 16, kExtendedCharacteristics = 20;
+constexpr DWORD kShadowStackCompatible = 1;
+
+constexpr uintmax_t kSizeBudget = 1'600'000; // bytes of the file; the bitmaps take 1.3 million
+
 struct Image : testing::Test {
     template <typename Part>
     const Part* At(DWORD offset) const {
@@ -47,6 +54,35 @@ struct Image : testing::Test {
     template <typename Directory>
     const Directory* DirectoryAt(size_t index) const {
         return At<Directory>(Headers().OptionalHeader.DataDirectory[index].VirtualAddress);
+    }
+
+    // The address relative to the image of something that the image points to.
+    DWORD Relative(uint64_t address) const {
+        return static_cast<DWORD>(address - reinterpret_cast<uintptr_t>(module.handle));
+    }
+
+    const IMAGE_DEBUG_DIRECTORY* DebugEntry(DWORD type) const {
+        const IMAGE_DATA_DIRECTORY& entries = Headers().OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_DEBUG];
+        const auto* const first = At<IMAGE_DEBUG_DIRECTORY>(entries.VirtualAddress);
+        const auto* const end = first + entries.Size / sizeof *first;
+        const auto* const found = std::find_if(first, end, [&](const auto& entry) { return entry.Type == type; });
+        return found == end ? nullptr : found;
+    }
+
+    // The section at an address relative to the image, or nullptr.
+    const IMAGE_SECTION_HEADER* SectionAt(DWORD offset) const {
+        const IMAGE_SECTION_HEADER* const first = IMAGE_FIRST_SECTION(&Headers());
+        const auto* const end = first + Headers().FileHeader.NumberOfSections;
+        const auto* const found = std::find_if(first, end, [&](const auto& section) {
+            return offset - section.VirtualAddress < section.Misc.VirtualSize;
+        });
+        return found == end ? nullptr : found;
+    }
+    DWORD AccessAt(DWORD offset) const {
+        const IMAGE_SECTION_HEADER* const section = SectionAt(offset);
+        return section == nullptr
+                   ? 0
+                   : section->Characteristics & (IMAGE_SCN_MEM_READ | IMAGE_SCN_MEM_WRITE | IMAGE_SCN_MEM_EXECUTE);
     }
 
     LoadedModule module;
@@ -125,19 +161,111 @@ TEST_F(Image, VersionIsThatOfTheProjectForAPrinterDriver) {
         EXPECT_EQ(low, static_cast<DWORD>(PROJECT_VERSION_PATCH << 16));
 }
 
-TEST_F(Image, HasNoTraceOfTimeAndPlaceOfTheBuild) {
-    EXPECT_EQ(Headers().FileHeader.TimeDateStamp, 0u);
-    EXPECT_EQ(DirectoryAt<IMAGE_EXPORT_DIRECTORY>(IMAGE_DIRECTORY_ENTRY_EXPORT)->TimeDateStamp, 0u);
+TEST_F(Image, VersionTextsNameTheFileAndTheProduct) {
+    const std::wstring path = LoadedPath(L"TELMAR_D.DLL").wstring();
+    std::vector<BYTE> info(GetFileVersionInfoSizeW(path.c_str(), nullptr));
+    ASSERT_TRUE(GetFileVersionInfoW(path.c_str(), 0, static_cast<DWORD>(info.size()), info.data()));
+    const std::wstring version = std::to_wstring(PROJECT_VERSION_MAJOR) + L'.' + std::to_wstring(PROJECT_VERSION_MINOR)
+                                 + L'.' + std::to_wstring(PROJECT_VERSION_PATCH);
+    const std::map<std::wstring, std::wstring> texts = {
+        {L"FileVersion", version},      {L"ProductVersion", version},
+        {L"InternalName", L"TELMAR_D"}, {L"OriginalFilename", L"TELMAR_D.DLL"},
+        {L"CompanyName", L"QUORVANE"},  {L"ProductName", L"QUORVANE lumora R880 printer driver"},
+    };
+    for (const auto& [name, text] : texts) {
+        void* found = nullptr;
+        UINT length = 0;
+        ASSERT_TRUE(VerQueryValueW(info.data(), (L"\\StringFileInfo\\040904B0\\" + name).c_str(), &found, &length));
+        EXPECT_EQ(static_cast<const wchar_t*>(found), text);
+    }
+}
 
-    std::ifstream stream(ProductFolder() / L"TELMAR_D.DLL", std::ios::binary);
-    const std::string file((std::istreambuf_iterator<char>(stream)), {});
-    ASSERT_EQ(file.compare(0, 2, "MZ"), 0);
-    for (const std::string folder : {SOURCE_FOLDER, BUILD_FOLDER}) {
-        std::string wide; // as UTF-16; the folder's name is ASCII or not found this way
-        for (const char c : folder)
-            wide.append({c, '\0'});
-        EXPECT_EQ(file.find(folder), std::string::npos) << folder;
-        EXPECT_EQ(file.find(wide), std::string::npos) << folder << " in UTF-16";
+TEST_F(Image, AllowsWhatTheSystemDoesAgainstExploits) {
+    const WORD flags = Headers().OptionalHeader.DllCharacteristics;
+    for (const auto& [flag, name] :
+         std::map<WORD, std::string>{{IMAGE_DLLCHARACTERISTICS_DYNAMIC_BASE, "ASLR"},
+                                     {IMAGE_DLLCHARACTERISTICS_HIGH_ENTROPY_VA, "high-entropy ASLR"},
+                                     {IMAGE_DLLCHARACTERISTICS_NX_COMPAT, "NX"},
+                                     {IMAGE_DLLCHARACTERISTICS_GUARD_CF, "control flow guard"}})
+        EXPECT_NE(flags & flag, 0) << name;
+    EXPECT_EQ(Headers().FileHeader.Characteristics & IMAGE_FILE_RELOCS_STRIPPED, 0);
+    EXPECT_NE(Headers().OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_BASERELOC].Size, 0u);
+
+    const IMAGE_DEBUG_DIRECTORY* const extended = DebugEntry(kExtendedCharacteristics);
+    ASSERT_NE(extended, nullptr);
+    EXPECT_NE(*At<DWORD>(extended->AddressOfRawData) & kShadowStackCompatible, 0u) << "CET";
+}
+
+TEST_F(Image, GuardsIndirectCalls) {
+    const IMAGE_DATA_DIRECTORY& directory = Headers().OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_LOAD_CONFIG];
+    const auto* const configuration = At<BYTE>(directory.VirtualAddress); // fields by offset: mingw-w64 lacks them
+    ASSERT_GE(*reinterpret_cast<const DWORD*>(configuration), 148u) << "of bytes";
+    const auto* const fields = reinterpret_cast<const uint64_t*>(configuration + 112);
+    const DWORD check = Relative(fields[0]), dispatch = Relative(fields[1]), table = Relative(fields[2]);
+    const std::set<DWORD> targets(At<DWORD>(table), At<DWORD>(table) + fields[3]);
+    const DWORD guardFlags = *reinterpret_cast<const DWORD*>(configuration + 144);
+    EXPECT_EQ(guardFlags & 0x500, 0x500u) << "instrumented, with a table of functions";
+    EXPECT_EQ(guardFlags >> 28, 0u) << "bytes for each function beyond its address";
+    for (const auto& [ordinal, name] : kExports)
+        EXPECT_EQ(targets.count(Relative(reinterpret_cast<uintptr_t>(module.Export<void()>(name.c_str())))), 1u)
+            << name;
+    for (const DWORD target : targets)
+        EXPECT_EQ(AccessAt(target), static_cast<DWORD>(IMAGE_SCN_MEM_READ | IMAGE_SCN_MEM_EXECUTE)) << target;
+    for (const DWORD pointer : {check, dispatch})
+        EXPECT_EQ(AccessAt(pointer), static_cast<DWORD>(IMAGE_SCN_MEM_READ)) << pointer;
+
+    const IMAGE_SECTION_HEADER* const code = SectionAt(Headers().OptionalHeader.BaseOfCode);
+    ASSERT_NE(code, nullptr);
+    size_t guarded = 0; // call [rip + distance]
+    for (DWORD at = code->VirtualAddress; at + 6 <= code->VirtualAddress + code->Misc.VirtualSize; ++at) {
+        DWORD distance = 0;
+        memcpy(&distance, At<BYTE>(at + 2), sizeof distance);
+        guarded += *At<BYTE>(at) == 0xFF && *At<BYTE>(at + 1) == 0x15 && at + 6 + distance == dispatch;
+    }
+    EXPECT_GT(guarded, 20u) << "calls through the guard";
+}
+
+TEST_F(Image, OnlyItsDataIsWritable) {
+    const IMAGE_SECTION_HEADER* section = IMAGE_FIRST_SECTION(&Headers());
+    for (WORD i = 0; i < Headers().FileHeader.NumberOfSections; ++i, ++section) {
+        const std::string name(reinterpret_cast<const char*>(section->Name),
+                               strnlen(reinterpret_cast<const char*>(section->Name), sizeof section->Name));
+        EXPECT_EQ((section->Characteristics & IMAGE_SCN_MEM_WRITE) != 0, name == ".data") << name;
+        EXPECT_EQ((section->Characteristics & IMAGE_SCN_MEM_EXECUTE) != 0, name == ".text") << name;
+    }
+    const IMAGE_DATA_DIRECTORY& imported = Headers().OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IAT];
+    EXPECT_EQ(AccessAt(imported.VirtualAddress), static_cast<DWORD>(IMAGE_SCN_MEM_READ)) << "imported addresses";
+}
+
+// Of a manifest the system would take versions of libraries for the whole process that loads the module.
+TEST_F(Image, HasBitmapsAndAVersionAndNothingElseAsResources) {
+    std::set<uintptr_t> types;
+    EnumResourceTypesW(
+        module.handle,
+        [](HMODULE, wchar_t* type, LONG_PTR to) -> BOOL {
+            reinterpret_cast<std::set<uintptr_t>*>(to)->insert(reinterpret_cast<uintptr_t>(type));
+            return TRUE;
+        },
+        reinterpret_cast<LONG_PTR>(&types));
+    EXPECT_EQ(types,
+              (std::set<uintptr_t>{reinterpret_cast<uintptr_t>(RT_BITMAP), reinterpret_cast<uintptr_t>(RT_VERSION)}));
+    EXPECT_LE(std::filesystem::file_size(ProductFolder() / L"TELMAR_D.DLL"), kSizeBudget);
+}
+
+TEST_F(Image, HasNoTraceOfTimeAndPlaceOfTheBuild) {
+    EXPECT_NE(DebugEntry(kReproducible), nullptr) << "times in the image are not hashes of its contents";
+
+    for (const auto& [name, start] : {std::pair("TELMAR_D.DLL", "MZ"), std::pair("TELMAR_D.pdb", "Microsoft C/C++")}) {
+        std::ifstream stream(ProductFolder() / name, std::ios::binary);
+        const std::string file((std::istreambuf_iterator<char>(stream)), {});
+        ASSERT_EQ(file.rfind(start, 0), 0u) << name;
+        for (const std::string folder : {SOURCE_FOLDER, BUILD_FOLDER}) {
+            std::string wide; // as UTF-16; the folder's name is ASCII or not found this way
+            for (const char c : folder)
+                wide.append({c, '\0'});
+            EXPECT_EQ(file.find(folder), std::string::npos) << folder << " in " << name;
+            EXPECT_EQ(file.find(wide), std::string::npos) << folder << " in " << name << ", in UTF-16";
+        }
     }
 }
 
