@@ -1,0 +1,36 @@
+# TELMAR_D.DLL for CMake, as it lies in the unpacked package:
+#
+#   find_package(telmar_d CONFIG REQUIRED PATHS <package folder>)
+#   target_link_libraries(program PRIVATE telmar_d::telmar_d)
+#
+# telmar_d_RUNTIME_FILES are the files that lie next to a program that links the module: the module, its parameter file, and
+# stand-ins for the other files of the family.
+get_filename_component(telmar_d_folder "${CMAKE_CURRENT_LIST_DIR}" DIRECTORY)
+
+if(NOT WIN32 OR NOT CMAKE_SIZEOF_VOID_P EQUAL 8 OR NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|amd64)$"
+   OR CMAKE_GENERATOR_PLATFORM MATCHES "^(Win32|ARM)")
+    set(telmar_d_FOUND FALSE)
+    set(telmar_d_NOT_FOUND_MESSAGE "TELMAR_D.DLL is for Windows x86-64 only, but this build is for ${CMAKE_SYSTEM_NAME} \
+'${CMAKE_SYSTEM_PROCESSOR}'. Configure for Windows x86-64: with '-A x64' for Visual Studio, from its 'x64 Native Tools' prompt \
+for Ninja, or with a toolchain file that sets CMAKE_SYSTEM_NAME to Windows and CMAKE_SYSTEM_PROCESSOR to x86_64. The build needs a \
+language of the project (C or CXX) enabled first.")
+    return()
+endif()
+
+foreach(telmar_d_file TELMAR_D.DLL lib/TELMAR_D.lib include/telmar_d.h)
+    if(NOT EXISTS "${telmar_d_folder}/${telmar_d_file}")
+        set(telmar_d_FOUND FALSE)
+        set(telmar_d_NOT_FOUND_MESSAGE "${telmar_d_folder} lacks ${telmar_d_file}. Unpack the whole package again.")
+        return()
+    endif()
+endforeach()
+
+if(NOT TARGET telmar_d::telmar_d)
+    add_library(telmar_d::telmar_d SHARED IMPORTED)
+    set_target_properties(telmar_d::telmar_d PROPERTIES
+        IMPORTED_LOCATION "${telmar_d_folder}/TELMAR_D.DLL"
+        IMPORTED_IMPLIB "${telmar_d_folder}/lib/TELMAR_D.lib"
+        INTERFACE_INCLUDE_DIRECTORIES "${telmar_d_folder}/include")
+endif()
+file(GLOB telmar_d_RUNTIME_FILES "${telmar_d_folder}/TELMAR_D.DLL" "${telmar_d_folder}/TELMAR_D.PRM"
+    "${telmar_d_folder}/workbench/TELMAR_[SUB].DLL")
