@@ -7,13 +7,20 @@
 # stand-ins for the other files of the family.
 get_filename_component(telmar_d_folder "${CMAKE_CURRENT_LIST_DIR}" DIRECTORY)
 
-if(NOT WIN32 OR NOT CMAKE_SIZEOF_VOID_P EQUAL 8 OR NOT CMAKE_SYSTEM_PROCESSOR MATCHES "^(x86_64|AMD64|amd64)$"
-   OR CMAKE_GENERATOR_PLATFORM MATCHES "^(Win32|ARM)")
+# Visual C++ names its target. With other compilers it is that of the toolchain file, which may leave the processor out.
+set(telmar_d_target "${CMAKE_C_COMPILER_ARCHITECTURE_ID}")
+if(NOT telmar_d_target)
+    set(telmar_d_target "${CMAKE_CXX_COMPILER_ARCHITECTURE_ID}")
+endif()
+if(NOT telmar_d_target)
+    set(telmar_d_target "${CMAKE_SYSTEM_PROCESSOR}")
+endif()
+if(NOT WIN32 OR NOT CMAKE_SIZEOF_VOID_P EQUAL 8 OR NOT "${telmar_d_target}" MATCHES "^(x64|x86_64|AMD64|amd64|)$")
     set(telmar_d_FOUND FALSE)
     set(telmar_d_NOT_FOUND_MESSAGE "TELMAR_D.DLL is for Windows x86-64 only, but this build is for ${CMAKE_SYSTEM_NAME} \
-'${CMAKE_SYSTEM_PROCESSOR}'. Configure for Windows x86-64: with '-A x64' for Visual Studio, from its 'x64 Native Tools' prompt \
-for Ninja, or with a toolchain file that sets CMAKE_SYSTEM_NAME to Windows and CMAKE_SYSTEM_PROCESSOR to x86_64. The build needs a \
-language of the project (C or CXX) enabled first.")
+'${telmar_d_target}' with pointers of '${CMAKE_SIZEOF_VOID_P}' bytes. Configure for Windows x86-64: with '-A x64' for Visual Studio, \
+from its 'x64 Native Tools' prompt for Ninja, or with a toolchain file that sets CMAKE_SYSTEM_NAME to Windows. project() must \
+enable C or C++ before find_package(telmar_d).")
     return()
 endif()
 
