@@ -3,12 +3,17 @@
 // functions of TELMAR_U.DLL that the module's dialogs call, and the two messages that go with the dialogs. It
 // stands alone: C11, C++11 and later, for Windows x86-64.
 //
-// What holds for every export unless its comment says otherwise:
-// - Thread: any, and several at once. Each export finishes its work within the call.
+// The comment of an export says what it does, then has a line for each argument, then result, last error,
+// thread, time (at worst) and cost where they differ from those of its section or from these, which hold for
+// every export:
+// - Result: FALSE, 0 or null says no.
+// - Last error: not defined.
+// - Thread: any, and several at once. The work is done when the call returns.
+// - Time: the call waits for nothing outside the process.
+// - Cost: no request, block of memory, library or graphics object.
 // - Memory: what the caller passes stays the caller's and is not kept beyond the call. Constant tables that
 //   an export returns belong to the module and are valid as long as it is loaded.
-// - Errors: FALSE, 0 or null says no. The last error is defined only where a comment gives it.
-// - Texts of type char are 8-bit, those of type wchar_t UTF-16. Both end with a NUL.
+// - Texts: those of type char are 8-bit, those of type wchar_t UTF-16. Both end with a NUL.
 //
 // A key names a feature, an item or a tray, such as "OpHDD" or "InTray1". Keys are compared without regard to
 // ASCII case. A list of records ends at the first record whose key is empty.
@@ -687,21 +692,34 @@ extern "C" {
 
 // --- Exports: picture and capabilities
 
-// Draws the picture of the printer and its installed units, on white, as large as the rectangle (logical
-// units of the target). Left and top of the rectangle are to be 0: the picture is composed off-screen and
-// copied to the target's origin, and a rectangle elsewhere is cropped. Without memory for that it is drawn on
-// the target itself, within the rectangle. A null rectangle or request draws nothing. Every graphics object
-// made is released.
+// Draws the picture of the printer and its installed units, on white. It is composed off-screen and copied to
+// the target; without memory for that it is drawn on the target itself. A null rectangle or request draws
+// nothing.
+// - target: the context to draw into. Its resolution sets the size of the caption.
+// - rectangle: in logical units of the target. Left and top are to be 0: the picture goes to the target's
+//   origin and is cropped by a rectangle elsewhere.
+// - request: the options, the paper source and the outputs to show.
+// - Thread: any that may draw into the target.
+// - Cost: one bitmap as large as the rectangle, a memory context and at most one font. Up to ten bitmaps of
+//   the module are loaded and drawn one after the other. All are released.
 void WINAPI DrawPrinterView(HDC target, const RECT* rectangle, const TelmarPrinterViewRequest* request);
 
-// Draws the logo above control 1074 of the page, a dialog, right edges aligned; the context has the page's
-// client coordinates. On a page of kind 6 control 1301 is first moved above control 1007. Does nothing unless
-// the module holds both logo and mask; as delivered it holds neither. `reserved` is not read. Thread: the
-// page's.
+// Draws the logo above control 1074 of a property page, right edges aligned. Does nothing unless the module
+// has both logo and mask; as delivered it has neither.
+// - context: it has the page's client coordinates.
+// - page: a dialog.
+// - reserved: not read.
+// - pageKind: 6 first moves control 1301 of the page above control 1007; any other moves nothing.
+// - Thread: the page's.
+// - Cost: two bitmaps and a memory context, which are released.
 void WINAPI DrawLogoImage(HDC context, HWND page, const void* reserved, WORD pageKind);
 
-// Draws the logo of the version page around this centre (logical units): through its mask when the module
-// holds one, otherwise as it is. `reserved` is not read.
+// Draws the logo of the version page: through its mask when the module has one, otherwise as it is.
+// - context: the context to draw into.
+// - reserved: not read.
+// - x, y: the centre, in logical units.
+// - Thread: any that may draw into the context.
+// - Cost: two bitmaps and a memory context, which are released.
 void WINAPI DrawLogoVersionTab(HDC context, const void* reserved, LONG x, LONG y);
 
 // Characters of a bin name, UTF-16. A name that fills them all has no NUL.
@@ -711,15 +729,18 @@ void WINAPI DrawLogoVersionTab(HDC context, const void* reserved, LONG x, LONG y
 // installed.
 // - device: its input trays are listed; null: there are none.
 // - features, settings: the installed options; null: none.
-// - output: an element for each usable paper source, a WORD for DC_BINS, TELMAR_BIN_NAME_LENGTH characters
-//   for DC_BINNAMES; null asks for the count alone.
-// - answer: the count, or 1 for yes and 0 for no; may be null. `reserved` is not read.
-// FALSE for any other capability, with nothing written.
+// - reserved: not read.
+// - capability: one of the four above.
+// - output: gets an element for each usable paper source, a WORD for DC_BINS, TELMAR_BIN_NAME_LENGTH
+//   characters for DC_BINNAMES; null asks for the count alone. It must have room: ask for the count first.
+// - answer: gets the count, or 1 for yes and 0 for no; may be null.
+// - Result: TRUE; FALSE for any other capability, with nothing written.
 BOOL WINAPI DDProc_DeviceCapabilities(const TelmarDeviceTable* device, const TelmarFeatureRecord* features,
                                       const void* reserved, const TelmarFeatureSettings* settings,
                                       WORD capability, void* output, DWORD* answer);
 
-// Two names of one function. Null, whatever is passed.
+// Two names of one function, for a table that this model does not have.
+// - Result: null, whatever is passed.
 void* WINAPI DDProc_FeatureNameItemTable(void);
 void* WINAPI DDProc_FeatureNameValuePtr(void);
 
@@ -737,28 +758,28 @@ void* WINAPI DDProc_FeatureNameValuePtr(void);
 // is the page.
 #define TELMAR_WM_TRAYS_CHANGED (WM_USER + 104)
 
-// Handles one message of the model's dialogs: 122 to 125 and 128 (colours) and 156 (the page with the
-// tray-settings button). Returns the dialog procedure's result; 0, with nothing handled, for other dialogs.
-// - Context: a colour dialog gets its TelmarDialogContext as the parameter of WM_INITDIALOG and keeps the
-//   pointer in DWLP_USER of its window. For page 156 the caller has put it there; without it the button does
-//   nothing.
+// Handles one message of the model's dialogs. A colour dialog gets its TelmarDialogContext as the parameter
+// of WM_INITDIALOG and keeps the pointer in DWLP_USER of its window. For page 156 the caller has put it
+// there; without it the button does nothing.
+// - dialogId: 122 to 125 and 128 (colours), or 156 (the page with the tray-settings button). For any other
+//   nothing is done.
+// - window: the dialog, or the page.
+// - message, wParam, lParam: as the dialog procedure has got them.
 // - handled: set to 1 when a colour dialog has handled the message, otherwise unchanged, so clear it before
 //   the call. Page 156 never sets it. It may be null; the entries of lists are then not drawn.
+// - Result: that of the dialog procedure for this message; 0 when it is not handled.
 // - Thread: the dialog's. One dialog may be open at a time: the module keeps the state of the open one.
+// - Time: the button of page 156 returns after the user has closed the tray dialog. Help returns when WinHelp
+//   does. The button for the defaults waits for the spooler.
+// - Cost: WM_INITDIALOG of a colour dialog loads TELMAR_U.DLL, WM_DESTROY frees it. Each press of the button
+//   of page 156 loads it twice and leaves it loaded. A drawn entry of a list makes a brush and releases it.
 int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                               int32_t* handled);
 
-// --- Exports: queries by SNMP
-//
-// An agent is a dotted IPv4 address or a host name. No argument may be null: the last error is then 87
-// (ERROR_INVALID_PARAMETER). Each query opens a session of its own and closes it. Without the SNMP functions,
-// of the system or built in, a query fails with the last error unchanged.
-//
-// A query blocks the calling thread until the printer has answered for each object. The built-in client gives
-// up an unresponsive printer after five attempts for each object, and an answer that comes after its polls
-// counts as none; where the system's SNMP libraries are installed, their limits apply.
+// --- Exports: the tables of the queries
 
-// The tables that the queries follow. Never null.
+// The tables that the queries by SNMP follow. Constant.
+// - Result: the table; never null.
 const TelmarModelCheckInfo* WINAPI MIB_ModelCheckInfo(void);
 const TelmarOptionReqInfo* WINAPI MIB_OptionReqInfo(void);
 const TelmarMrkSupReqInfo* WINAPI MIB_MrkSupReqInfo(void);
@@ -766,73 +787,151 @@ const TelmarOverlayReqInfo* WINAPI MIB_OvlReqInfo(void);
 const TelmarProfileReqInfo* WINAPI MIB_CMProfReqInfo(void);
 const TelmarMrkSupItem* WINAPI GET_MrkSupItemList(void);
 
-// Whether the agent answers at all. An empty agent is refused as a null one.
+// --- Exports: queries by SNMP
+//
+// Each query opens a session of its own and closes it. It requests one object after the other and blocks its
+// thread until each has been answered or given up. Without SNMP functions, of the system or built in, it
+// fails with the last error unchanged.
+//
+// The built-in client sends a request up to five times and polls the socket 10,000 times after each, without
+// regard to the clock; an answer that comes after its polls counts as none. When answers to other requests
+// come instead, it waits up to 8 s more (four times 2 s). The system's SNMP libraries, which are used where
+// they are installed, take up to 8 s for an object (2 s and three retries).
+// - agent: a dotted IPv4 address or a host name, in the system's ANSI code page. Not null.
+// - Last error: 87 (ERROR_INVALID_PARAMETER) for a null argument, the reason when no session can be opened,
+//   otherwise unchanged.
+// - Time: the host name's resolution, and at most the time above for each object.
+// - Cost: a socket and a block of memory for the session. For each object a request and a few blocks. All are
+//   released.
+
+// Checks whether the agent answers at all. It is the cheapest query.
+// - agent: as for all queries; an empty one is refused as a null one.
+// - Result: TRUE when any answer has come.
+// - Last error: 87 for a null or empty agent; what the session or the request has set when it failed.
+// - Time: the host name's resolution and one object; through the system's libraries 2 s (1 s and one retry).
+// - Cost: a session and one object.
 BOOL WINAPI MIB_IsAccessOK(const char* agent);
 
-// Whether the device is this model. TRUE without a request while the model check is off.
+// Checks whether the device is this model.
+// - Result: TRUE without a request while the model check is off, as in this model.
+// - Last error: 87 for a null agent; otherwise unchanged.
+// - Time: none while the model check is off; otherwise the host name's resolution and one object.
+// - Cost: none while the model check is off; otherwise a session and one object.
 BOOL WINAPI MIB_IsModelOK(const char* agent);
 
-// Sets the value of each item to the key of the installed option's item; empty when the option is unknown or
-// the device does not answer. FALSE, with the items unchanged and the reason as the last error, when no
-// session can be opened.
+// Asks for installed options.
+// - count: of the items.
+// - items: the value of each gets the key of the installed option's item; empty when the option is unknown or
+//   the device does not answer.
+// - Result: TRUE when a session was opened, also when no item was answered; otherwise FALSE, with the items
+//   unchanged.
+// - Time: the host name's resolution, and at most 15 objects for the 13 options of the table; eight when the
+//   printer answers none.
+// - Cost: a session. "OpMemory" takes up to eight requests, one for each size until one matches;
+//   "OpManualFeed" and the output trays none; any other option one.
 BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, TelmarOptionRequestItem* items);
 
-// Sets state, value and colour of each item; all 0 when they are not available. FALSE when no session can be
-// opened, as above, and at the first name that is not in the list: that item is cleared, those after it are
-// unchanged.
+// Asks for the levels of supplies.
+// - count: of the items.
+// - items: each gets state, value and colour; all 0 when they are not available.
+// - Result: FALSE when no session was opened, with the items unchanged, and at the first name that is not in
+//   the list: that item is cleared, those after it are unchanged. Otherwise TRUE.
+// - Time: the host name's resolution, and at most ten objects for the 12 supplies of the list; five when the
+//   printer answers none.
+// - Cost: a session, and two objects for each of the five supplies that printers are asked for.
 BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, TelmarMrkSupRequestItem* items);
 
-// The overlays or the colour profiles that the printer stores, in one block that the caller releases by
-// MIB_FreeOverlayInfo or MIB_FreeProfileInfo. `storage`, 0 or 1, is the number of the overlay table's
-// selector that chooses the overlays. Null, with the reason as the last error, when no session can be opened,
-// when a request fails, and for any other storage (87); null without memory.
+// Reads the overlays that the printer stores.
+// - storage: 0 or 1, the number of the overlay table's selector that chooses the overlays.
+// - Result: one block, which the caller releases by MIB_FreeOverlayInfo; null when no session was opened, a
+//   request failed, the storage is any other, or memory is missing.
+// - Last error: 87 for a null agent or another storage; what the session or the request has set when it
+//   failed.
+// - Time: the host name's resolution and the answers; it ends with the first object that is not answered. At
+//   most 32,767 overlays are read.
+// - Cost: a session, up to three objects for each overlay of the printer and one more, a block that doubles
+//   while it is filled, and the result.
 TelmarOverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage);
+
+// Reads the colour profiles that the printer stores.
+// - Result: one block, which the caller releases by MIB_FreeProfileInfo; null when no session was opened, a
+//   request failed, or memory is missing.
+// - Last error: 87 for a null agent; what the session or the request has set when it failed.
+// - Time: the host name's resolution and the answers; it ends with the first object that is not answered. At
+//   most 32,767 profiles are read.
+// - Cost: a session, up to seven objects for each profile of the printer and one more, a block that doubles
+//   while it is filled, and the result.
 TelmarProfileInfo* WINAPI MIB_ProfileRequest(const char* agent);
 
-// Two names of one function: releases a block of the two requests above. Null is accepted.
+// Two names of one function: releases a block of the two requests above.
+// - block: null is accepted.
+// - Last error: unchanged.
+// - Time: none.
+// - Cost: none; it frees the block.
 void WINAPI MIB_FreeOverlayInfo(void* block);
 void WINAPI MIB_FreeProfileInfo(void* block);
 
 // --- Exports: queries through the bidirectional library
 //
 // Each loads TELMAR_B.DLL and frees it before it returns: first by its bare name, in the system's search
-// order, then from the module's folder. An agent is a dotted IPv4 address or a host name of at most 63 bytes.
-// Each call blocks the calling thread until the library has answered.
+// order, then from the module's folder. Each call blocks its thread until the library has answered.
+// - agent: a dotted IPv4 address or a host name of at most 63 bytes, in the system's ANSI code page.
+// - Time: that of the loads and of the library's calls. The module has no limit of its own.
+// - Cost: the library is loaded and freed. Up to eight blocks of memory, which are released.
 
-// Whether the library, with all its functions, and the system's libraries that it needs can be loaded.
+// Checks whether the library, with all its functions, and the system's libraries that it needs can be loaded.
+// - Result: TRUE when all can.
+// - Time: that of the loads. No printer is asked.
+// - Cost: up to five loads and one block of memory, which are released.
 BOOL WINAPI DDProc_IsEnableBdcLib(void);
 
-// Whether the device answers. `modelAnswer`, which may be null, is set to 1 for a device of exactly this
-// model, else 0. A null agent is answered by FALSE.
+// Checks whether the device answers.
+// - agent: as for all queries; null is answered by FALSE.
+// - modelAnswer: set to 1 for a device of exactly this model, else 0; may be null.
+// - Result: TRUE when the library has reported the device's name.
+// - Cost: the library and one block. Three calls of the library, two of which ask the device.
 BOOL WINAPI DDProc_IsCommunicateDevice(const char* agent, int32_t* modelAnswer);
 
-// Sets the value of each item to the key of the installed option's item; empty when the library does not
-// report the option. FALSE, with the items unchanged: a null argument (last error 87), no library, no memory,
-// or a device of another model.
+// Asks for installed options.
+// - count: of the items.
+// - items: the value of each gets the key of the installed option's item; empty when the library does not
+//   report the option. Not null.
+// - Result: FALSE, with the items unchanged, for a null argument, without the library or memory, and for a
+//   device of another model or that does not answer. Otherwise TRUE.
+// - Last error: 87 for a null argument; otherwise not defined.
+// - Cost: the library and up to eight blocks. Up to 16 calls of the library, whatever the items are.
 BOOL WINAPI DDProc_OptionRequest(const char* agent, DWORD count, TelmarOptionRequestItem* items);
 
-// Sets the keys of each item to the paper in the tray, empty where there is no key for it, and the level. A
-// tray that the device lacks or does not report gets the keys for unknown and level 0. FALSE as for the
-// options.
+// Asks for the paper in input trays.
+// - count: of the items.
+// - items: the keys of each are set to the paper in the tray, empty where there is no key for it, and the
+//   level. A tray that the device lacks or does not report gets the keys for unknown and level 0. Not null.
+// - Result: as for DDProc_OptionRequest.
+// - Last error: 87 for a null argument; otherwise not defined.
+// - Cost: as for DDProc_OptionRequest.
 BOOL WINAPI DDProc_InputTrayStatus(const char* agent, DWORD count, TelmarInputTrayStatusItem* items);
 
 // --- Exports: the printer's address
 
-// Finds the network address of the printer behind a print queue, as text in the system's ANSI code page.
-// `printerName` is as for OpenPrinterW. `bufferSize` and `*neededSize` are in bytes and include the NUL;
-// `neededSize` may be null.
-//
-// When `settings` holds an address: TRUE when it has been stored. FALSE when it is empty, can't be converted,
-// or the buffer is null or too small; `*neededSize` is set when it exceeds `bufferSize`. The last error is
+// Finds the network address of the printer behind a print queue, as text in the system's ANSI code page. When
+// the settings have an address, it is that; otherwise the queue's port is asked. What is not mentioned stays
 // unchanged.
-//
-// Otherwise the queue's port is asked: TRUE with `*neededSize` set when the address has been stored, and
-// also, with the last error 122 (ERROR_INSUFFICIENT_BUFFER), when the buffer is null or too small. An address
-// in the registry that can't be converted to the code page gives TRUE with a needed size of 0 and nothing
-// stored: check the size. FALSE when the printer can't be opened, its port can't be read or the port has no
-// known address; the last error is then as the system left it.
-//
-// FALSE when `settings` is null. What is not mentioned stays unchanged.
+// - printerName: as for OpenPrinterW. Not read when the settings have an address.
+// - settings: the caller's. Not null.
+// - buffer: gets the address with its NUL. Null asks for the size of a queue's address alone.
+// - bufferSize: in bytes, with the NUL.
+// - neededSize: in bytes, with the NUL; may be null. Set for a queue's address, and for the settings' when it
+//   exceeds the buffer's size.
+// - Result: from the settings: TRUE when the address has been stored; FALSE when it is empty, can't be
+//   converted, or the buffer is null or too small. From the queue: TRUE when the address has been stored, and
+//   also when the buffer is null or too small; an address in the registry that can't be converted gives TRUE
+//   with a needed size of 0 and nothing stored, so check the size. FALSE when the printer can't be opened,
+//   its port can't be read or has no known address, and when the settings are null.
+// - Last error: from the settings: unchanged. From the queue: 122 (ERROR_INSUFFICIENT_BUFFER) with TRUE when
+//   nothing has been stored; after FALSE as the system left it.
+// - Time: none from the settings. From the queue as long as the spooler takes, which may ask a print server.
+// - Cost: none from the settings. From the queue up to two printer handles, three blocks of memory, one load
+//   of WINSPOOL.DRV and the registry keys of seven port monitors, all released.
 BOOL WINAPI DDProc_GetPrinterIPAddress(const wchar_t* printerName, const TelmarAddressSettings* settings,
                                        char* buffer, DWORD bufferSize, DWORD* neededSize);
 
@@ -847,6 +946,7 @@ BOOL WINAPI DDProc_GetPrinterIPAddress(const wchar_t* printerName, const TelmarA
 #define TELMAR_CHANGE_REFUSED_ALSO 101
 
 // Put the texts of common items, then those of the model, into the dialog's title and controls.
+// - dialogId: 0 from the colour dialogs, 155 from the tray dialogs.
 typedef void WINAPI TelmarReplaceDlgDispStringCmnItem(HWND dialog, const TelmarControlTextRecord* texts,
                                                       uint32_t dialogId, TelmarDialogContext* context);
 typedef void WINAPI TelmarReplaceDlgDispString(HWND dialog, const TelmarControlTextRecord* texts);
@@ -857,22 +957,34 @@ typedef HWND WINAPI TelmarCreateToolWnd(HWND dialog);
 // Records the stop icons of the dialog.
 typedef void WINAPI TelmarStoreStopIconRect(HWND dialog, const TelmarStopIconTable* table);
 
-// Checks the settings after this control has changed, or all of them (control 0). `all` is -1, the two
-// reserved are null.
+// Checks the settings after a control has changed, or all of them.
+// - reserved1, reserved2: null.
+// - hintWindow: what CreateToolWnd has returned.
+// - control: the one that has changed; 0: all settings are checked, and nothing is refused.
+// - all: -1.
+// - Result: one of the two above when the change is refused; the dialog then undoes it.
 typedef int32_t WINAPI TelmarDoConstraints(const void* reserved1, HWND dialog, HWND hintWindow,
                                            uint32_t control, int32_t all, const void* reserved2);
 
 // Refreshes the hints on display.
+// - dialogId: the dialog's; of the tray dialogs 155, and 156 after a change.
 typedef void WINAPI TelmarDispHintControl(HWND dialog, TelmarDialogContext* context, uint16_t dialogId);
 
-// 0 when the download manager is not installed.
+// Asked when a colour dialog opens that lists profiles.
+// - Result: 0 when the download manager is not installed; its button is then disabled.
 typedef int32_t WINAPI TelmarIsInstalledDLManager(void);
 
 // Draws an icon control from its WM_DRAWITEM record.
 typedef void WINAPI TelmarReqDrawStopInfoIcon(HWND dialog, uint32_t control, const DRAWITEMSTRUCT* item,
                                               const TelmarStopIconTable* table);
 
-// Runs a dialog modally and returns its end code; 1 means OK.
+// Runs a dialog modally.
+// - resources: TELMAR_S.DLL, as the module has loaded it.
+// - owner: the page with the tray-settings button.
+// - templateId: 155, 165 or 166.
+// - procedure: the module's own.
+// - parameter: the dialog's TelmarDialogContext.
+// - Result: the dialog's end code; 1 means OK.
 typedef INT_PTR WINAPI TelmarMyDialogBox(HINSTANCE resources, HWND owner, uint32_t templateId,
                                          DLGPROC procedure, LPARAM parameter);
 
