@@ -789,9 +789,9 @@ const TelmarMrkSupItem* WINAPI GET_MrkSupItemList(void);
 
 // --- Exports: queries by SNMP
 //
-// Each query opens a session of its own and closes it. It requests one object after the other and blocks its
-// thread until each has been answered or given up. Without SNMP functions, of the system or built in, it
-// fails with the last error unchanged.
+// Each query opens a session of its own, a socket and a block of memory, and closes it. It requests one
+// object after the other and blocks its thread until each has been answered or given up. Without SNMP
+// functions, of the system or built in, it fails with the last error unchanged.
 //
 // The built-in client sends a request up to five times and polls the socket 10,000 times after each, without
 // regard to the clock; an answer that comes after its polls counts as none. When answers to other requests
@@ -801,11 +801,10 @@ const TelmarMrkSupItem* WINAPI GET_MrkSupItemList(void);
 // - Last error: 87 (ERROR_INVALID_PARAMETER) for a null argument, the reason when no session can be opened,
 //   otherwise unchanged.
 // - Time: the host name's resolution, and at most the time above for each object.
-// - Cost: a socket and a block of memory for the session. For each object a request and a few blocks. All are
-//   released.
+// - Cost: a session. For each object a request and a few blocks of memory, which are released.
 
 // Checks whether the agent answers at all. It is the cheapest query.
-// - agent: as for all queries; an empty one is refused as a null one.
+// - agent: a dotted IPv4 address or a host name, in the system's ANSI code page. Neither null nor empty.
 // - Result: TRUE when any answer has come.
 // - Last error: 87 for a null or empty agent; what the session or the request has set when it failed.
 // - Time: the host name's resolution and one object; through the system's libraries 2 s (1 s and one retry).
@@ -886,7 +885,8 @@ void WINAPI MIB_FreeProfileInfo(void* block);
 BOOL WINAPI DDProc_IsEnableBdcLib(void);
 
 // Checks whether the device answers.
-// - agent: as for all queries; null is answered by FALSE.
+// - agent: a dotted IPv4 address or a host name of at most 63 bytes, in the system's ANSI code page. Null is
+//   answered by FALSE.
 // - modelAnswer: set to 1 for a device of exactly this model, else 0; may be null.
 // - Result: TRUE when the library has reported the device's name.
 // - Cost: the library and one block. Three calls of the library, two of which ask the device.
