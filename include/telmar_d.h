@@ -1,7 +1,7 @@
 // telmar_d.h: the public interface of TELMAR_D.DLL, the device-dependent procedure module of the QUORVANE
 // lumora R880. It declares the module's 26 exports, the records that they exchange with their callers, the
 // functions of TELMAR_U.DLL that the module's dialogs call, and the two messages that go with the dialogs. It
-// stands alone: C11, C++11 and later, for Windows x86-64.
+// needs no other header of the project: C11, C++11 and later, for Windows x86-64.
 //
 // The comment of an export says what it does, then has a line for each argument, then result, last error,
 // thread, time (at worst) and cost where they differ from those of its section or from these, which hold for

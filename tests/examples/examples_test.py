@@ -1,5 +1,5 @@
-"""examples_test.py gcc|clang SOURCE BUILD WORK: builds the examples with the files that the package has for clients, runs them, and
-compares what they print with docs/using_the_module.md. Checks the import library and the messages of the CMake package, too."""
+"""examples_test.py gcc|clang SOURCE BUILD WORK: builds the examples with the files that the package has for clients, runs
+them, and compares what they print with docs/using_the_module.md. Checks the import library and what find_package says."""
 import pathlib
 import re
 import shutil
@@ -17,7 +17,7 @@ TOOLCHAINS = {
     "clang": ["--toolchain", source / "cmake/mingw-w64.cmake", "-DCMAKE_CXX_STANDARD_LIBRARIES=-lpthread -lkernel32"],
 }
 WARNINGS = "-Wall -Wextra -pedantic -Werror"
-LIST, POSITION, OK, CANCEL = "1354", "2", "1", "2"  # the list of colour matching for images; its third entry; the buttons
+MATCHING, POSITION, OK, CANCEL = "1354", "2", "1", "2"  # the list of matching for images, its third entry, the buttons
 failures = []
 
 
@@ -89,17 +89,17 @@ def compare(printed, *commands):
 
 
 def ask_printer(address, code=0):
-    return run([source / "scripts/with-printers", source / "tests/examples/examples.list", source / "scripts/run-under-wine",
-                programs / "options.exe", address], code=code)
+    return run([source / "scripts/with-printers", source / "tests/examples/examples.list",
+                source / "scripts/run-under-wine", programs / "options.exe", address], code=code)
 
 
 def check_picture():
     printed = run([source / "scripts/run-under-wine", programs / "picture.exe"], programs)
     compare(printed, "picture")
     bitmap = (programs / "picture.bmp").read_bytes()
-    start, width, height, depth = *struct.unpack_from("<I", bitmap, 10), *struct.unpack_from("<ii", bitmap, 18), bitmap[28]
-    pixels = bitmap[start:]
-    expect(bitmap[:2] == b"BM" and (width, height, depth, len(pixels)) == (200, 200, 32, 160000), "picture.bmp is damaged")
+    pixels = bitmap[struct.unpack_from("<I", bitmap, 10)[0]:]
+    header = (*struct.unpack_from("<2sI", bitmap), *struct.unpack_from("<ii", bitmap, 18), bitmap[28], len(pixels))
+    expect(header == (b"BM", len(bitmap), 200, 200, 32, 160000), f"picture.bmp is damaged: {header}")
     drawn = sum(pixels[at:at + 3] != b"\xff\xff\xff" for at in range(0, len(pixels), 4))
     expect(f": {drawn} of 40000 " in printed, f"picture.bmp has {drawn} pixels that are not white")
 
@@ -109,7 +109,7 @@ def check_dialog():
     script = '"$1" "$2" >printed & "$1" "$3" $4 $5 $6 || kill $!; wait $!'
     for button in (OK, CANCEL):
         run([source / "scripts/run-with-display", "sh", "-c", script, "sh", source / "scripts/run-under-wine",
-             programs / "color_dialog.exe", build / "bin/press_button.exe", LIST, POSITION, button], programs)
+             programs / "color_dialog.exe", build / "bin/press_button.exe", MATCHING, POSITION, button], programs)
         printed = (programs / "printed").read_text()
         if button == OK:
             compare(printed, "color_dialog")
@@ -127,12 +127,12 @@ for sibling in "SUB":
 check_import_library()
 if compiler == "gcc":  # the same with either
     check_messages()
-configure(programs, *TOOLCHAINS[compiler], f"-DCMAKE_C_FLAGS_RELEASE=-O2 {WARNINGS}", "-DCMAKE_EXE_LINKER_FLAGS_RELEASE=-static",
-          f"-DCMAKE_CXX_FLAGS_RELEASE=-O2 {WARNINGS}", "-DCMAKE_BUILD_TYPE=Release")
+configure(programs, *TOOLCHAINS[compiler], "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_EXE_LINKER_FLAGS_RELEASE=-static",
+          f"-DCMAKE_C_FLAGS_RELEASE=-O2 {WARNINGS}", f"-DCMAKE_CXX_FLAGS_RELEASE=-O2 {WARNINGS}")
 run(["cmake", "--build", programs])
 
 shown = re.search(r"^```c\n(.*?)^```$", document, re.M | re.S)
-expect(shown and shown[1] == (source / "examples/options.c").read_text(), "the document does not begin with examples/options.c")
+expect(shown and shown[1] == (source / "examples/options.c").read_text(), "the document's client is not options.c")
 compare(ask_printer("127.0.164.1"), "options 127.0.164.1")
 (programs / "TELMAR_B.DLL").unlink()
 compare(ask_printer("127.0.164.1"), "del TELMAR_B.DLL", "options 127.0.164.1")
