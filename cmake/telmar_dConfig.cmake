@@ -39,5 +39,9 @@ if(NOT TARGET telmar_d::telmar_d)
         IMPORTED_IMPLIB "${telmar_d_folder}/lib/TELMAR_D.lib"
         INTERFACE_INCLUDE_DIRECTORIES "${telmar_d_folder}/include")
 endif()
-file(GLOB telmar_d_RUNTIME_FILES "${telmar_d_folder}/TELMAR_D.DLL" "${telmar_d_folder}/TELMAR_D.PRM"
-    "${telmar_d_folder}/workbench/TELMAR_[SUB].DLL")
+set(telmar_d_RUNTIME_FILES)
+foreach(telmar_d_file TELMAR_D.DLL TELMAR_D.PRM workbench/TELMAR_S.DLL workbench/TELMAR_U.DLL workbench/TELMAR_B.DLL)
+    if(EXISTS "${telmar_d_folder}/${telmar_d_file}")
+        list(APPEND telmar_d_RUNTIME_FILES "${telmar_d_folder}/${telmar_d_file}")
+    endif()
+endforeach()

@@ -2,6 +2,7 @@
 // SNMP. TELMAR_D.DLL and its siblings are in the program's folder.
 #include "telmar_d.h"
 #include <stdio.h>
+#include <string.h>
 #include <wchar.h>
 
 typedef BOOL WINAPI UsableFunction(void);
@@ -9,7 +10,6 @@ typedef BOOL WINAPI ReachFunction(const char* agent);
 typedef BOOL WINAPI OptionFunction(const char* agent, DWORD count, TelmarOptionRequestItem* items);
 typedef void AnyFunction(void); // between FARPROC and the type of an export
 #define EXPORT(module, type, name) ((type*)(AnyFunction*)GetProcAddress(module, #name))
-
 enum { kItemCount = 6 };
 static TelmarOptionRequestItem items[kItemCount] = {{"OpHDD", ""},         {"OpMemory", ""},
                                                     {"OpDuplex", ""},      {"OpInTrayUnit", ""},
@@ -27,7 +27,7 @@ static HMODULE LoadDriver(void) {
     const DWORD length = GetModuleFileNameW(NULL, path, MAX_PATH);
     if (length == 0 || length == MAX_PATH)
         return NULL;
-    wcscpy(wcsrchr(path, L'\\') + 1, name);
+    memcpy(wcsrchr(path, L'\\') + 1, name, sizeof(name));
     return LoadLibraryW(path);
 }
 

@@ -1,5 +1,6 @@
-"""examples_test.py gcc|clang SOURCE BUILD WORK: builds the examples with the files that the package has for clients, runs
-them, and compares what they print with docs/using_the_module.md. Checks the import library and what find_package says."""
+"""examples_test.py gcc|clang SOURCE BUILD WORK: builds the examples with the files that the package has for clients,
+runs them, and compares what they print with docs/using_the_module.md. Checks the import library and what find_package
+says, too."""
 import pathlib
 import re
 import shutil
