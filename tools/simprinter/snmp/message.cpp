@@ -15,17 +15,6 @@ static_assert(kMaxSubIds == MAX_OID_LEN);
 
 namespace {
 
-struct PduRelease {
-    void operator()(netsnmp_pdu* pdu) const { snmp_free_pdu(pdu); }
-};
-using PduPointer = std::unique_ptr<netsnmp_pdu, PduRelease>;
-
-// Turns off net-snmp's messages about bad datagrams; the agent's log reports them.
-void QuietLibrary() {
-    static const auto* handler = netsnmp_register_loghandler(NETSNMP_LOGHANDLER_NONE, LOG_DEBUG);
-    static_cast<void>(handler);
-}
-
 struct PduRow {
     int type;
     const char* name;
@@ -78,9 +67,8 @@ std::string NoPduProblem(long version) {
                  : "a message with the unknown SNMP version number " + std::to_string(version);
 }
 
-bool ReadOid(const oid* subIds, size_t count, Oid& to) {
-    to.assign(subIds, subIds + count);
-    return std::equal(to.begin(), to.end(), subIds); // false for one of more than 32 bits
+Oid ToOid(const oid* subIds, size_t count) {
+    return Oid(subIds, subIds + count);
 }
 
 template <typename Bits, typename Number>
@@ -91,43 +79,180 @@ Value OpaqueValue(char kind, Number number) {
     return OpaqueNumberValue(kind, bits, sizeof bits);
 }
 
-// The value of a SetRequest, which an error returns; other requests have NULL. Unknown types become NULL.
-Value ReadValue(const netsnmp_variable_list& from) {
-    const auto tag = static_cast<Tag>(from.type);
-    switch (tag) {
-    case kInteger:
-    case kCounter:
-    case kGauge:
-    case kTimeTicks:
-    case kUnsigned:
-        return NumberValue(*from.val.integer, tag);
-    case kCounter64:
-        return Counter64Value(uint64_t{from.val.counter64->high} << 32
-                              | (from.val.counter64->low & UINT32_MAX));
-    case kOctetString:
-    case kIpAddress:
-    case kOpaque:
-        return TextValue({reinterpret_cast<const char*>(from.val.string), from.val_len}, tag);
-    case kObjectId:
-        return OidValue(Oid(from.val.objid, from.val.objid + from.val_len / sizeof(oid)));
-    case kNoSuchObject:
-    case kNoSuchInstance:
-    case kEndOfMibView:
-        return {tag, 0, {}, {}};
+// Reads the value of a SetRequest, which an error returns; other requests have NULL. `at` is its header,
+// which has been read: `type`, then `length` bytes of contents; `left` bytes follow. Types that no answer has
+// become NULL. False when the value is damaged, or of an unknown type.
+bool ReadValue(u_char* at, size_t left, u_char type, size_t length, Value& value) {
+    const auto tag = static_cast<Tag>(type);
+    switch (type) {
+    case ASN_INTEGER: {
+        long number = 0;
+        const bool isRead = asn_parse_int(at, &left, &type, &number, sizeof number) != nullptr;
+        value = NumberValue(number, tag);
+        return isRead;
+    }
+    case ASN_COUNTER:
+    case ASN_GAUGE:
+    case ASN_TIMETICKS:
+    case ASN_UINTEGER: {
+        u_long number = 0;
+        const bool isRead = asn_parse_unsigned_int(at, &left, &type, &number, sizeof number) != nullptr;
+        value = NumberValue(static_cast<int64_t>(number), tag);
+        return isRead;
+    }
+    case ASN_COUNTER64: {
+        counter64 halves = {};
+        const bool isRead = asn_parse_unsigned_int64(at, &left, &type, &halves, sizeof halves) != nullptr;
+        value = Counter64Value(uint64_t{halves.high} << 32 | (halves.low & UINT32_MAX));
+        return isRead;
+    }
+    case ASN_OPAQUE_FLOAT: {
+        float number = 0;
+        const bool isRead = asn_parse_float(at, &left, &type, &number, sizeof number) != nullptr;
+        value = OpaqueValue<uint32_t>(kOpaqueFloat, number);
+        return isRead;
+    }
+    case ASN_OPAQUE_DOUBLE: {
+        double number = 0;
+        const bool isRead = asn_parse_double(at, &left, &type, &number, sizeof number) != nullptr;
+        value = OpaqueValue<uint64_t>(kOpaqueDouble, number);
+        return isRead;
+    }
+    case ASN_IPADDRESS:
+    case ASN_OCTET_STR:
+    case ASN_OPAQUE: {
+        std::string bytes(length + 1, '\0');
+        const bool isRead =
+            asn_parse_string(at, &left, &type, reinterpret_cast<u_char*>(bytes.data()), &length)
+            && (tag != kIpAddress || length == 4);
+        bytes.resize(length);
+        value = TextValue(std::move(bytes), tag);
+        return isRead;
+    }
+    case ASN_OBJECT_ID: {
+        oid subIds[MAX_OID_LEN];
+        size_t count = std::size(subIds);
+        if (!asn_parse_objid(at, &left, &type, subIds, &count))
+            return false;
+        value = OidValue(ToOid(subIds, count));
+        return true;
+    }
+    case SNMP_NOSUCHOBJECT:
+    case SNMP_NOSUCHINSTANCE:
+    case SNMP_ENDOFMIBVIEW:
+        value = {tag, 0, {}, {}};
+        return true;
+    case ASN_NULL:
+    case ASN_NSAP:
+    case ASN_BIT_STR:
+    case ASN_OPAQUE_COUNTER64:
+    case ASN_OPAQUE_U64:
+    case ASN_OPAQUE_I64:
+        value = {};
+        return true;
     default:
-        return from.type == ASN_OPAQUE_FLOAT    ? OpaqueValue<uint32_t>(kOpaqueFloat, *from.val.floatVal)
-               : from.type == ASN_OPAQUE_DOUBLE ? OpaqueValue<uint64_t>(kOpaqueDouble, *from.val.doubleVal)
-                                                : Value();
+        return false;
     }
 }
 
-int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
+// Reads what is in front of the PDU, which the result points at; nullptr when that is damaged.
+u_char* ReadHeader(u_char* at, size_t& left, long& version, std::string& community) {
+    u_char type, bytes[SNMP_MAX_MSG_SIZE];
+    size_t length = sizeof bytes;
+    at = asn_parse_sequence(at, &left, &type, ASN_SEQUENCE | ASN_CONSTRUCTOR, "message");
+    if (at)
+        at = asn_parse_int(at, &left, &type, &version, sizeof version);
+    if (at)
+        at = asn_parse_string(at, &left, &type, bytes, &length);
+    if (at)
+        community.assign(reinterpret_cast<const char*>(bytes), length);
+    return at;
+}
+
+// Reads the PDU of a request or a response; false when it is damaged.
+bool ReadPdu(u_char* at, size_t left, Message& message) {
+    u_char type;
+    at = asn_parse_header(at, &left, &type);
+    message.type = static_cast<PduType>(type);
+    for (long* number : {&message.requestId, &message.errorStatus, &message.errorIndex}) {
+        if (at)
+            at = asn_parse_int(at, &left, &type, number, sizeof *number);
+    }
+    if (at)
+        at = asn_parse_sequence(at, &left, &type, ASN_SEQUENCE | ASN_CONSTRUCTOR, "variables");
+    // Numbers of more than 32 bits are read, too, where a long has them.
+    if (!at || message.requestId != static_cast<int32_t>(message.requestId))
+        return false;
+    while (left > 0) {
+        oid name[MAX_OID_LEN];
+        size_t count = std::size(name), length;
+        u_char* value;
+        at = snmp_parse_var_op(at, name, &count, &type, &length, &value, &left);
+        VarBind varBind;
+        if (!at || !ReadValue(value, static_cast<size_t>(at - value), type, length, varBind.value))
+            return false;
+        varBind.name = ToOid(name, count);
+        message.varBinds.push_back(std::move(varBind));
+    }
+    return true;
+}
+
+// Nothing when the datagram is not such a message of a known version; `problem` then says what it is.
+std::optional<Message> ParseMessage(const Bytes& datagram, bool isRequest, std::string& problem) {
+    Bytes bytes = datagram; // net-snmp's functions want them writable
+    bytes.push_back(0);     // and may read one byte beyond the end
+    size_t left = datagram.size();
+    long number = kNoVersion;
+    Message message;
+    u_char* const pdu = ReadHeader(bytes.data(), left, number, message.community);
+    message.version = FindVersion(number);
+    problem = NoPduProblem(pdu ? number : VersionOf(datagram));
+    if (!pdu || !message.version || left == 0)
+        return std::nullopt;
+    const PduRow* const kind = FindPdu(*pdu);
+    if (!kind || kind->isRequest != isRequest
+        || (kind->type == SNMP_MSG_GETBULK && !message.version->hasGetBulk)) {
+        problem =
+            "an "
+            + (std::string(message.version->name) + ' ' + (kind ? kind->name : "message of an unknown type"));
+        return std::nullopt;
+    }
+    problem = std::string("a damaged ") + message.version->name + ' ' + kind->name;
+    if (!ReadPdu(pdu, left, message))
+        return std::nullopt;
+    if (isRequest && message.type != PduType::kGetBulk)
+        message.errorStatus = message.errorIndex = kNoError;
+    return message;
+}
+
+// A message grows from back to front in a block that grows as needed; the functions return 0 on failure.
+struct Block {
+    u_char* bytes = nullptr;
+    size_t size = 0, used = 0;
+
+    Block() = default;
+    Block(const Block&) = delete;
+    Block& operator=(const Block&) = delete;
+    ~Block() { std::free(bytes); }
+
+    bool AddNumber(long number) {
+        return asn_realloc_rbuild_int(&bytes, &size, &used, 1, ASN_INTEGER, &number, sizeof number) != 0;
+    }
+    // The header of all that is there.
+    bool AddHeader(int type) {
+        return asn_realloc_rbuild_sequence(&bytes, &size, &used, 1, static_cast<u_char>(type), used) != 0;
+    }
+};
+
+bool AddVarBind(Block& block, const VarBind& varBind) {
     const std::vector<oid> name(varBind.name.begin(), varBind.name.end());
-    const std::vector<oid> subIds(varBind.value.oid.begin(), varBind.value.oid.end());
-    const long number = static_cast<long>(varBind.value.number);
-    const void* contents = varBind.value.bytes.data();
-    size_t length = varBind.value.bytes.size();
-    counter64 halves = {static_cast<uint64_t>(number) >> 32, static_cast<uint64_t>(number) & UINT32_MAX};
+    std::vector<oid> subIds(varBind.value.oid.begin(), varBind.value.oid.end());
+    std::string bytes = varBind.value.bytes;
+    long number = static_cast<long>(varBind.value.number);
+    const auto bits = static_cast<uint64_t>(varBind.value.number);
+    counter64 halves = {static_cast<u_long>(bits >> 32), static_cast<u_long>(bits & UINT32_MAX)};
+    void* contents = bytes.data();
+    size_t length = bytes.size(), count = name.size();
     if (varBind.value.tag == kCounter64) {
         contents = &halves;
         length = sizeof halves;
@@ -138,51 +263,9 @@ int AddVarBind(netsnmp_pdu& pdu, const VarBind& varBind) {
         contents = subIds.data();
         length = subIds.size() * sizeof(oid);
     }
-    return snmp_pdu_add_variable(&pdu, name.data(), name.size(), varBind.value.tag, contents, length)
-           != nullptr;
-}
-
-// Nothing when the datagram is not such a message of a known version; `problem` then says what it is.
-std::optional<Message> ParseMessage(const Bytes& datagram, bool isRequest, std::string& problem) {
-    QuietLibrary();
-    Bytes bytes = datagram; // net-snmp's functions want them writable
-    bytes.push_back(0);     // and may read one byte beyond the end
-    size_t left = datagram.size();
-    u_char community[SNMP_MAX_MSG_SIZE];
-    size_t communityLength = sizeof community;
-    long number = kNoVersion;
-    u_char* at = snmp_comstr_parse(bytes.data(), &left, community, &communityLength, &number);
-    const Version* const version = FindVersion(number);
-    problem = NoPduProblem(at ? number : VersionOf(datagram));
-    if (!at || !version || left == 0)
-        return std::nullopt;
-    const PduRow* const kind = FindPdu(*at);
-    if (!kind || kind->isRequest != isRequest || (kind->type == SNMP_MSG_GETBULK && !version->hasGetBulk)) {
-        problem =
-            "an " + (std::string(version->name) + ' ' + (kind ? kind->name : "message of an unknown type"));
-        return std::nullopt;
-    }
-    const PduPointer pdu(snmp_pdu_create(*at));
-    problem = std::string("a damaged ") + version->name + ' ' + kind->name;
-    if (!pdu || snmp_pdu_parse(pdu.get(), at, &left) != 0 || pdu->reqid != static_cast<int32_t>(pdu->reqid))
-        return std::nullopt; // net-snmp reads numbers of more than 32 bits, too
-    Message message;
-    message.version = version;
-    message.community.assign(reinterpret_cast<const char*>(community), communityLength);
-    message.type = static_cast<PduType>(pdu->command);
-    message.requestId = pdu->reqid;
-    if (message.type == PduType::kGetBulk || !isRequest) {
-        message.errorStatus = pdu->errstat;
-        message.errorIndex = pdu->errindex;
-    }
-    for (const netsnmp_variable_list* from = pdu->variables; from; from = from->next_variable) {
-        VarBind varBind;
-        if (!ReadOid(from->name, from->name_length, varBind.name))
-            return std::nullopt;
-        varBind.value = ReadValue(*from);
-        message.varBinds.push_back(std::move(varBind));
-    }
-    return message;
+    return snmp_realloc_rbuild_var_op(&block.bytes, &block.size, &block.used, 1, name.data(), &count,
+                                      varBind.value.tag, static_cast<u_char*>(contents), length)
+           != 0;
 }
 
 } // namespace
@@ -198,32 +281,20 @@ std::optional<Message> ParseReply(const Bytes& datagram) {
 }
 
 Bytes BuildMessage(const Message& message) {
-    const PduPointer pdu(snmp_pdu_create(static_cast<int>(message.type)));
-    if (!pdu)
-        return {};
-    pdu->reqid = message.requestId;
-    pdu->errstat = message.errorStatus;
-    pdu->errindex = message.errorIndex;
-    for (const VarBind& varBind : message.varBinds) {
-        if (!AddVarBind(*pdu, varBind))
-            return {};
-    }
-    // Built from back to front in a block that grows as needed.
-    u_char* block = nullptr;
-    size_t size = 0, used = 0;
-    const long version = message.version->number;
+    Block block;
+    const bool areAdded = std::all_of(message.varBinds.rbegin(), message.varBinds.rend(),
+                                      [&](const VarBind& varBind) { return AddVarBind(block, varBind); });
     const auto* community = reinterpret_cast<const u_char*>(message.community.data());
-    const bool built =
-        snmp_pdu_realloc_rbuild(&block, &size, &used, pdu.get()) != 0
-        && asn_realloc_rbuild_string(&block, &size, &used, 1, ASN_OCTET_STR, community,
+    const bool isBuilt =
+        areAdded && block.AddHeader(ASN_SEQUENCE | ASN_CONSTRUCTOR) && block.AddNumber(message.errorIndex)
+        && block.AddNumber(message.errorStatus) && block.AddNumber(message.requestId)
+        && block.AddHeader(static_cast<int>(message.type))
+        && asn_realloc_rbuild_string(&block.bytes, &block.size, &block.used, 1, ASN_OCTET_STR, community,
                                      message.community.size())
-        && asn_realloc_rbuild_int(&block, &size, &used, 1, ASN_INTEGER, &version, sizeof version)
-        && asn_realloc_rbuild_sequence(&block, &size, &used, 1, ASN_SEQUENCE | ASN_CONSTRUCTOR, used);
-    Bytes bytes;
-    if (built)
-        bytes.assign(block + size - used, block + size);
-    std::free(block);
-    return bytes;
+        && block.AddNumber(message.version->number) && block.AddHeader(ASN_SEQUENCE | ASN_CONSTRUCTOR);
+    if (!isBuilt)
+        return {};
+    return Bytes(block.bytes + block.size - block.used, block.bytes + block.size);
 }
 
 const char* PduName(int type) {
