@@ -2,11 +2,17 @@
 #ifndef COMMON_FILES_H
 #define COMMON_FILES_H
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
 // Larger than nearly all files these tools read; limits the cost of a wrong one.
 constexpr size_t kMaxFileBytes = size_t{4} << 20;
+
+// These tools have the names of files in UTF-8, whatever the system has.
+inline std::filesystem::path FilePath(const std::string& name) {
+    return std::filesystem::u8path(name);
+}
 
 // Throws std::runtime_error with the file's name and the reason, also for a file of more bytes than `most`.
 std::string ReadFile(const std::string& path, size_t most = kMaxFileBytes);

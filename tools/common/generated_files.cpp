@@ -15,7 +15,7 @@ int UpdateFiles(const std::string& folder, const std::vector<GeneratedFile>& fil
     int changed = 0;
     for (const GeneratedFile& file : files) {
         const std::string path = folder + "/" + file.name;
-        if (std::filesystem::exists(path) && ReadFile(path) == file.bytes)
+        if (std::filesystem::exists(FilePath(path)) && ReadFile(path) == file.bytes)
             continue;
         ++changed;
         std::cout << path << (isCheck ? ": differs from what would be drawn" : ": written") << "\n";

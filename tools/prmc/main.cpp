@@ -1,5 +1,6 @@
 // prmc, the compiler of parameter data files: the command line.
 #include "common/choices.h"
+#include "common/program.h"
 #include "common/text.h"
 #include "prmc/commands/commands.h"
 
@@ -29,6 +30,7 @@ ExitCode Run(int argc, char** argv) {
         "Compiles a printer model's parameter data from YAML to the binary file that the driver reads.",
         "prmc"};
     app.set_version_flag("--version", "prmc " PROJECT_VERSION);
+    app.allow_windows_style_options(false); // "/x" is a file there, too
     app.require_subcommand(1);
     std::string first, second, report;
     CheckOptions options;
@@ -91,6 +93,7 @@ ExitCode Run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    StartProgram(argc, argv);
     try {
         return Run(argc, argv);
     } catch (const std::exception& error) {

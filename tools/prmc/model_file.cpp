@@ -41,7 +41,7 @@ void SetFiles(Model& model, size_t file) {
 bool IsRead(const ModelFile& read, const std::string& path) {
     std::error_code ignored; // a file that is not there is no other's equal
     for (const std::string& file : read.files)
-        if (fs::equivalent(file, path, ignored))
+        if (fs::equivalent(FilePath(file), FilePath(path), ignored))
             return true;
     return false;
 }
@@ -51,7 +51,7 @@ Model ReadForm(ModelFile& read, const std::string& path);
 // The model that the one in `path` builds on.
 Model ReadBase(ModelFile& read, Findings& findings, const std::string& path, const std::string& name,
                Place place) {
-    const std::string base = (fs::path(path).parent_path() / name).string();
+    const std::string base = (FilePath(path).parent_path() / FilePath(name)).u8string();
     if (IsRead(read, base)) {
         findings.Error(place, "a model can't build on itself: " + QuotePath(name) + " builds on this file");
         return {};
@@ -86,7 +86,7 @@ Model ReadForm(ModelFile& read, const std::string& path) {
 } // namespace
 
 bool IsYaml(const std::string& path) {
-    const std::string extension = fs::path(path).extension().string();
+    const std::string extension = FilePath(path).extension().u8string();
     if (EqualNoCase(extension, ".yaml") || EqualNoCase(extension, ".yml"))
         return true;
     if (!EqualNoCase(extension, ".prm"))

@@ -1,5 +1,6 @@
 // The command watch. Files are compared by time and size a few times a second, which works on any file
 // system.
+#include "common/files.h"
 #include "prmc/commands/output.h"
 
 #include <algorithm>
@@ -11,8 +12,10 @@
 #include <iostream>
 #include <map>
 #include <stdexcept>
-#include <sys/wait.h>
 #include <thread>
+#ifndef _WIN32
+#include <sys/wait.h>
+#endif
 
 namespace fs = std::filesystem;
 
@@ -31,7 +34,8 @@ struct FileState {
 
 FileState StateOf(const std::string& path) {
     std::error_code isMissing;
-    FileState state = {fs::last_write_time(path, isMissing), fs::file_size(path, isMissing)};
+    FileState state = {fs::last_write_time(FilePath(path), isMissing),
+                       fs::file_size(FilePath(path), isMissing)};
     return isMissing ? FileState() : state;
 }
 
@@ -47,12 +51,23 @@ void Say(const std::string& what, const CheckOptions& options) {
         Print(line);
 }
 
-void RunCommand(const std::string& command, const CheckOptions& options) {
+// The exit status of a shell command; nonzero when it failed. Ctrl+C ends this program, too.
+#ifdef _WIN32
+int RunInShell(const std::string& command) {
+    return _wsystem(FilePath(command).c_str());
+}
+#else
+int RunInShell(const std::string& command) {
     constexpr int kInterrupted = 128 + SIGINT; // as a shell reports it
     const int status = std::system(command.c_str());
     if ((WIFSIGNALED(status) && WTERMSIG(status) == SIGINT) || WEXITSTATUS(status) == kInterrupted)
         std::raise(SIGINT); // Ctrl+C has ended only the command
-    if (status != 0)
+    return status;
+}
+#endif
+
+void RunCommand(const std::string& command, const CheckOptions& options) {
+    if (RunInShell(command) != 0)
         Say("the command failed: " + command, options);
 }
 
