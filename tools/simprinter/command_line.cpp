@@ -128,6 +128,7 @@ std::string ErrorText(const CLI::App& app, const CLI::ParseError& error) {
 bool ReadCommandLine(int argc, char** argv, CommandLine& line) {
     CLI::App app{"A simulated printer on the network: answers SNMP requests as a device would.",
                  "simprinter"};
+    app.allow_windows_style_options(false); // "/x" is a file there, too
     app.set_version_flag("--version", "simprinter " PROJECT_VERSION);
     CLI::Option* const address =
         app.add_option("--address", line.address, "to listen on, IPv4 or IPv6")->capture_default_str();
@@ -173,6 +174,7 @@ PrinterOptions ReadPrinterOptions(const std::string& text) {
     PrinterOptions printer;
     CLI::App app;
     app.set_help_flag();
+    app.allow_windows_style_options(false);
     AddPrinterOptions(app, printer);
     try {
         RefuseEmptyValues(CLI::detail::split_up(text));

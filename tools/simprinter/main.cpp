@@ -1,9 +1,11 @@
 // simprinter, a simulated printer on the network: messages and exit codes.
 // Exit codes: 0 stopped by SIGTERM or SIGINT, recorded, --help or --version; 1 failure; 2 wrong usage.
+#include "common/program.h"
 #include "simprinter/command_line.h"
 #include "simprinter/control.h"
 #include "simprinter/printer_list.h"
 #include "simprinter/server.h"
+#include "simprinter/sockets.h"
 
 #include <algorithm>
 #include <exception>
@@ -75,7 +77,9 @@ ExitCode Run(int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    StartProgram(argc, argv);
     try {
+        StartSockets();
         return Run(argc, argv);
     } catch (const WrongUsage& error) {
         std::cerr << "simprinter: " << error.what() << "\n";

@@ -7,8 +7,9 @@
 #include "common/text.h"
 #include "simprinter/command_line.h"
 #include "simprinter/udp_socket.h"
-
+#ifndef _WIN32
 #include <arpa/inet.h>
+#endif
 
 namespace {
 
@@ -46,7 +47,8 @@ std::optional<uint32_t> Ipv4(const std::string& text) {
 }
 
 std::string Ipv4Text(uint32_t number) {
-    const in_addr address = {htonl(number)};
+    in_addr address = {};
+    address.s_addr = htonl(number);
     char text[INET_ADDRSTRLEN] = "";
     inet_ntop(AF_INET, &address, text, sizeof text);
     return text;

@@ -4,12 +4,8 @@
 #include "common/text.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
-#include <netdb.h>
-#include <netinet/in.h>
 #include <stdexcept>
-#include <unistd.h>
 
 namespace {
 
@@ -17,13 +13,17 @@ constexpr const char* kOtherLoopback = "127.255.255.254"; // unlikely to be in u
 
 std::string WhatToDo(int reason) {
     switch (reason) {
-    case EADDRINUSE:
+    case kAddressInUse:
         return ". Another program uses that port: stop it, or choose another one with --port (0: any free port)";
-    case EACCES:
+    case kNotAllowed:
+#ifdef _WIN32
+        return ". Windows or another program has that port for itself: choose another one with --port (0: any free port)";
+#else
         return ". Ports below 1024 need root: start as root, or choose another one with --port (0: any free port)";
-    case EADDRNOTAVAIL:
+#endif
+    case kNoSuchAddress:
         return ". It must be an address of this machine";
-    case EMFILE:
+    case kTooManySockets:
         return ". Each printer needs one: simulate fewer, or raise the limit ('ulimit -n')";
     default:
         return "";
@@ -46,7 +46,7 @@ SocketAddress ResolveEndpoint(const Endpoint& endpoint) {
         throw std::runtime_error(Quote(endpoint.address) + " is not an address such as 127.0.0.1 or ::1");
     SocketAddress address;
     std::memcpy(&address.storage, found->ai_addr, found->ai_addrlen);
-    address.length = found->ai_addrlen;
+    address.length = static_cast<socklen_t>(found->ai_addrlen);
     freeaddrinfo(found);
     return address;
 }
@@ -58,43 +58,45 @@ Endpoint EndpointOf(const SocketAddress& address) {
     return {host, static_cast<uint16_t>(std::atoi(port))};
 }
 
-UdpSocket::UdpSocket(const SocketAddress& where)
-    : descriptor(socket(where.storage.ss_family, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0)) {
-    int reason = errno;
-    if (descriptor >= 0) {
+UdpSocket::UdpSocket(const SocketAddress& where) : handle(OpenSocket(where.storage.ss_family)) {
+    int reason = SocketError();
+    if (handle != kNoSocket) {
+        MakeNonBlocking(handle);
         const int only = 1; // "::" leaves IPv4 to "0.0.0.0"
         if (where.storage.ss_family == AF_INET6)
-            setsockopt(descriptor, IPPROTO_IPV6, IPV6_V6ONLY, &only, sizeof only);
-        if (bind(descriptor, where.Raw(), where.length) == 0)
+            setsockopt(handle, IPPROTO_IPV6, IPV6_V6ONLY, reinterpret_cast<const char*>(&only), sizeof only);
+        if (bind(handle, where.Raw(), where.length) == 0)
             return;
-        reason = errno;
-        close(descriptor);
+        reason = SocketError();
+        CloseSocket(handle);
     }
     throw std::runtime_error("cannot listen on " + EndpointText(EndpointOf(where)) + ": "
-                             + std::strerror(reason) + WhatToDo(reason));
+                             + SocketErrorText(reason) + WhatToDo(reason));
 }
 
 UdpSocket::~UdpSocket() {
-    close(descriptor);
+    CloseSocket(handle);
 }
 
 SocketAddress UdpSocket::Name() const {
     SocketAddress name;
-    getsockname(descriptor, name.Raw(), &name.length);
+    getsockname(handle, name.Raw(), &name.length);
     return name;
 }
 
 bool UdpSocket::Receive(Bytes& datagram, SocketAddress& from) const {
-    constexpr size_t kLargestDatagram = 65536;
+    constexpr int kLargestDatagram = 65536;
     datagram.resize(kLargestDatagram);
     from.length = sizeof from.storage;
-    const ssize_t size = recvfrom(descriptor, datagram.data(), datagram.size(), 0, from.Raw(), &from.length);
-    datagram.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
+    const auto size = recvfrom(handle, reinterpret_cast<char*>(datagram.data()), kLargestDatagram, 0,
+                               from.Raw(), &from.length);
+    datagram.resize(static_cast<size_t>(std::max<int64_t>(size, 0)));
     return size >= 0;
 }
 
 void UdpSocket::Send(const Bytes& datagram, const SocketAddress& to) const {
-    sendto(descriptor, datagram.data(), datagram.size(), 0, to.Raw(), to.length);
+    sendto(handle, reinterpret_cast<const char*>(datagram.data()), static_cast<int>(datagram.size()), 0,
+           to.Raw(), to.length);
 }
 
 const UdpSocket& PrinterSockets::For(Source source) {

@@ -3,9 +3,9 @@
 #define SIMPRINTER_UDP_SOCKET_H
 
 #include "simprinter/server.h"
+#include "simprinter/sockets.h"
 
 #include <optional>
-#include <sys/socket.h>
 
 // A socket address of either family.
 struct SocketAddress {
@@ -22,7 +22,7 @@ Endpoint EndpointOf(const SocketAddress& address);
 
 // Non-blocking; closed with the object.
 struct UdpSocket {
-    int descriptor;
+    SocketHandle handle;
 
     // Throws std::runtime_error with what to do.
     explicit UdpSocket(const SocketAddress& where);

@@ -28,7 +28,7 @@ struct OddDevice {
               Bytes bytes;
               std::string problem;
               for (SocketAddress from; !ends;) {
-                  pollfd entry = {socket.descriptor, POLLIN, 0};
+                  pollfd entry = {socket.handle, POLLIN, 0};
                   if (poll(&entry, 1, 50) != 1 || !socket.Receive(bytes, from))
                       continue;
                   Message message = ParseRequest(bytes, problem).value();

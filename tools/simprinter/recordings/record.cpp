@@ -6,6 +6,7 @@
 #include "common/files.h"
 #include "common/text.h"
 #include "simprinter/recordings/formats.h"
+#include "simprinter/recordings/part_lock.h"
 #include "simprinter/recordings/recording.h"
 #include "simprinter/snmp/snmp_client.h"
 
@@ -15,13 +16,9 @@
 #include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <fcntl.h>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -35,10 +32,23 @@ constexpr size_t kLastNotes = 8192; // bytes of the file that are kept for what 
 constexpr int kMaxSilence = 60;     // longest waits for one answer, without any
 const Oid kFirst = {1, 3};          // what is asked for first, and whenever the device seems to be gone
 
+#ifdef _WIN32
+constexpr int kStopSignals[] = {SIGTERM, SIGINT, SIGBREAK};
+const std::string kClearLine = '\r' + std::string(79, ' ') + '\r'; // any console can do that
+#else
+constexpr int kStopSignals[] = {SIGTERM, SIGINT};
+const std::string kClearLine = "\r\x1B[K";
+#endif
+
 volatile int isStopped = 0;
 
 void StopRecording(int) {
     isStopped = 1;
+}
+
+void ClearProgress() {
+    if (isatty(STDERR_FILENO))
+        std::cerr << kClearLine << std::flush;
 }
 
 enum class End { kNotYet, kComplete, kIncomplete };
@@ -65,7 +75,8 @@ struct Walk {
     }
 
     void Note(const std::string& text) {
-        std::cerr << (isatty(STDERR_FILENO) ? "\r\x1B[K" : "") << "simprinter: " << text << std::endl;
+        ClearProgress();
+        std::cerr << "simprinter: " << text << std::endl;
         notes.push_back(text);
         bytes += text.size() + 3; // as a line of the file
     }
@@ -75,8 +86,9 @@ struct Walk {
         if (!isatty(STDERR_FILENO) || now - lastProgress < Milliseconds(200))
             return;
         lastProgress = now;
-        std::cerr << '\r' << objects << " objects, " << static_cast<int>(Seconds()) << " s, at "
-                  << OidText(position) << "\x1B[K" << std::flush;
+        std::cerr << kClearLine + std::to_string(objects) + " objects, "
+                         + std::to_string(std::lround(Seconds())) + " s, at " + OidText(position)
+                  << std::flush;
     }
 
     // Goes on behind what fails.
@@ -221,35 +233,6 @@ struct Walk {
     }
 };
 
-// The lock that keeps other recorders off a part. It is that of the file, which keeps it when it is renamed.
-struct PartLock {
-    int descriptor = -1;
-
-    // Throws when another recorder has the lock. On a file system without locks there is none.
-    explicit PartLock(const std::string& part) {
-        struct stat locked = {}, named = {};
-        do { // until the name is that of the locked file: its recorder may just have renamed it
-            if (descriptor >= 0)
-                close(descriptor);
-            descriptor = open(part.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
-            if (descriptor < 0)
-                throw std::runtime_error("cannot write " + QuotePath(part) + ": " + std::strerror(errno));
-            if (flock(descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
-                std::string header;
-                std::getline(std::ifstream(part), header);
-                close(descriptor);
-                throw std::runtime_error(QuotePath(part) + " is in use by another 'simprinter record', of "
-                                         + Quote(header.substr(std::min<size_t>(2, header.size())))
-                                         + ": wait until it ends, or choose another file");
-            }
-        } while (fstat(descriptor, &locked) != 0 || stat(part.c_str(), &named) != 0
-                 || locked.st_ino != named.st_ino || locked.st_dev != named.st_dev);
-    }
-    PartLock(const PartLock&) = delete;
-    PartLock& operator=(const PartLock&) = delete;
-    ~PartLock() { close(descriptor); }
-};
-
 // Connects with the first version that the address answers. Returns why there is none, or nothing.
 std::string FindVersion(const RecordOptions& options, const SocketAddress& address, SnmpClient& client) {
     const std::string where = EndpointText(EndpointOf(address));
@@ -258,7 +241,7 @@ std::string FindVersion(const RecordOptions& options, const SocketAddress& addre
         if (options.version && version != options.version)
             continue;
         if (!Connect(client, address))
-            return "cannot reach " + where + ": " + std::strerror(errno);
+            return "cannot reach " + where + ": " + SocketErrorText(SocketError());
         client.version = version;
         std::cerr << "simprinter: asking " << where << " with " << version->name << std::endl;
         Message reply;
@@ -289,13 +272,6 @@ void FindAgent(const RecordOptions& options, SnmpClient& client) {
     throw std::runtime_error(problems);
 }
 
-void CatchStop() {
-    struct sigaction action = {};
-    action.sa_handler = StopRecording;
-    for (const int signal : {SIGTERM, SIGINT})
-        sigaction(signal, &action, nullptr);
-}
-
 std::string SecondsText(double seconds) {
     char text[32];
     std::snprintf(text, sizeof text, "%.1f s", seconds);
@@ -304,8 +280,17 @@ std::string SecondsText(double seconds) {
 
 } // namespace
 
+std::string InUseText(const std::string& part) {
+    std::string header;
+    std::getline(std::ifstream(FilePath(part)), header);
+    return QuotePath(part) + " is in use by another 'simprinter record', of "
+           + Quote(header.substr(std::min<size_t>(2, header.size())))
+           + ": wait until it ends, or choose another file";
+}
+
 bool RecordDevice(const RecordOptions& options) {
-    CatchStop();
+    for (const int signal : kStopSignals)
+        std::signal(signal, StopRecording);
     if (options.file == "-")
         throw std::runtime_error(
             "a recording can't be written to the standard output: write the name of a file");
@@ -317,7 +302,7 @@ bool RecordDevice(const RecordOptions& options) {
     walk.client.stop = &isStopped;
     FindAgent(options, walk.client);
     const PartLock lock(part);
-    walk.file.open(part, std::ios::binary | std::ios::trunc);
+    walk.file.open(FilePath(part), std::ios::binary | std::ios::trunc);
     const std::string header = "# " + options.address + ", " + walk.client.version->name + '\n';
     walk.bytes = header.size();
     if (!(walk.file << header).flush())
@@ -328,16 +313,19 @@ bool RecordDevice(const RecordOptions& options) {
     walk.file.close();
     if (!walk.file)
         throw std::runtime_error("cannot write " + QuotePath(part) + ": " + std::strerror(errno));
-    std::cerr << (isatty(STDERR_FILENO) ? "\r\x1B[K" : "") << std::flush;
+    ClearProgress();
     if (walk.objects == 0) {
-        std::filesystem::remove(part);
+        std::filesystem::remove(FilePath(part));
         throw std::runtime_error("the device " + Quote(options.address)
                                  + " has answered, but gives no object");
     }
     const bool isComplete = end == End::kComplete;
-    if (isComplete && std::rename(part.c_str(), target.c_str()) != 0)
+    std::error_code error;
+    if (isComplete)
+        std::filesystem::rename(FilePath(part), FilePath(target), error);
+    if (error)
         throw std::runtime_error("cannot rename " + QuotePath(part) + " to " + QuotePath(target) + ": "
-                                 + std::strerror(errno));
+                                 + error.default_error_condition().message());
     std::cout << "simprinter: " << walk.objects << " objects of " << options.address << " in "
               << QuotePath(isComplete ? options.file : part) << " (" << walk.client.version->name << ", "
               << SecondsText(walk.Seconds()) << (isComplete ? ")" : "), not complete") << std::endl;

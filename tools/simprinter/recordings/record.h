@@ -19,4 +19,7 @@ struct RecordOptions {
 // not answer or has no object, or the file can't be written.
 bool RecordDevice(const RecordOptions& options);
 
+// What to say when another recorder writes the file.
+std::string InUseText(const std::string& part);
+
 #endif

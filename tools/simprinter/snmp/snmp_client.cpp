@@ -4,20 +4,16 @@
 #include "common/text.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <memory>
-#include <netdb.h>
-#include <poll.h>
 #include <stdexcept>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace {
 
 using SteadyClock = std::chrono::steady_clock;
 
 constexpr Milliseconds kShortestWait{100};
+constexpr Milliseconds kStopInterval{200}; // in which `stop` is looked at, where no signal ends a wait
 
 // Waits for a reply to the request with this number. Late answers to others are dropped.
 Answer WaitForReply(SnmpClient& client, long requestId, Milliseconds wait, Message& reply) {
@@ -26,17 +22,17 @@ Answer WaitForReply(SnmpClient& client, long requestId, Milliseconds wait, Messa
         const auto left = std::chrono::duration_cast<Milliseconds>(end - SteadyClock::now());
         if (client.stop && *client.stop)
             return Answer::kStopped;
-        pollfd entry = {client.socket.descriptor, POLLIN, 0};
-        const int ready = left.count() > 0 ? poll(&entry, 1, static_cast<int>(left.count())) : 0;
-        if (ready < 0) // a signal
-            continue;
-        if (ready == 0)
+        if (left.count() <= 0)
             return Answer::kNone;
-        Bytes datagram(65536);
-        const ssize_t size = recv(client.socket.descriptor, datagram.data(), datagram.size(), 0);
-        if (size < 0 && errno == ECONNREFUSED)
+        pollfd entry = {client.socket.handle, POLLIN, 0};
+        if (Poll(&entry, 1, static_cast<int>(std::min(left, kStopInterval).count())) <= 0)
+            continue;
+        constexpr int kLargest = 65536;
+        Bytes datagram(kLargest);
+        const auto size = recv(client.socket.handle, reinterpret_cast<char*>(datagram.data()), kLargest, 0);
+        if (size < 0 && IsRefused(SocketError()))
             return Answer::kClosed;
-        datagram.resize(static_cast<size_t>(std::max<ssize_t>(size, 0)));
+        datagram.resize(static_cast<size_t>(std::max<int64_t>(size, 0)));
         std::optional<Message> message = ParseReply(datagram);
         if (message && message->requestId == requestId && message->version == client.version) {
             reply = std::move(*message);
@@ -60,8 +56,8 @@ std::string WithPortOption(const std::string& host) {
 } // namespace
 
 ClientSocket::~ClientSocket() {
-    if (descriptor >= 0)
-        close(descriptor);
+    if (handle != kNoSocket)
+        CloseSocket(handle);
 }
 
 std::vector<SocketAddress> FindAddresses(const std::string& host, uint16_t port) {
@@ -71,23 +67,24 @@ std::vector<SocketAddress> FindAddresses(const std::string& host, uint16_t port)
     hints.ai_socktype = SOCK_DGRAM;
     addrinfo* found = nullptr;
     if (const int error = getaddrinfo(host.c_str(), std::to_string(port).c_str(), &hints, &found); error != 0)
-        throw std::runtime_error("cannot find the address of " + Quote(host) + ": " + gai_strerror(error));
+        throw std::runtime_error("cannot find the address of " + Quote(host) + ": "
+                                 + AddressErrorText(error));
     const std::unique_ptr<addrinfo, void (*)(addrinfo*)> release(found, freeaddrinfo);
     std::vector<SocketAddress> addresses;
     for (const addrinfo* next = found; next; next = next->ai_next) {
         SocketAddress& address = addresses.emplace_back();
         std::memcpy(&address.storage, next->ai_addr, next->ai_addrlen);
-        address.length = next->ai_addrlen;
+        address.length = static_cast<socklen_t>(next->ai_addrlen);
     }
     return addresses;
 }
 
 bool Connect(SnmpClient& client, const SocketAddress& address) {
-    if (client.socket.descriptor >= 0)
-        close(client.socket.descriptor);
-    client.socket.descriptor = socket(address.storage.ss_family, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-    return client.socket.descriptor >= 0
-           && connect(client.socket.descriptor, address.Raw(), address.length) == 0;
+    if (client.socket.handle != kNoSocket)
+        CloseSocket(client.socket.handle);
+    client.socket.handle = OpenSocket(address.storage.ss_family);
+    return client.socket.handle != kNoSocket
+           && connect(client.socket.handle, address.Raw(), address.length) == 0;
 }
 
 Answer Ask(SnmpClient& client, PduType type, const Oid& name, int repetitions, int tries, Message& reply) {
@@ -103,7 +100,10 @@ Answer Ask(SnmpClient& client, PduType type, const Oid& name, int repetitions, i
     Answer answer = Answer::kNone;
     for (int i = 0; i < tries && answer == Answer::kNone; ++i) {
         const auto start = SteadyClock::now();
-        if (send(client.socket.descriptor, datagram.data(), datagram.size(), 0) < 0 && errno == ECONNREFUSED)
+        if (send(client.socket.handle, reinterpret_cast<const char*>(datagram.data()),
+                 static_cast<int>(datagram.size()), 0)
+                < 0
+            && IsRefused(SocketError()))
             return Answer::kClosed;
         answer = WaitForReply(client, request.requestId, wait, reply);
         if (answer == Answer::kReply) {
@@ -122,10 +122,10 @@ std::string UnusualAnswer(const SnmpClient& client, const SocketAddress& address
     for (const Version& version : kVersions)
         socket.Send(BuildMessage({&version, client.community, PduType::kGetNext, 1, 0, 0, {{name, {}}}}),
                     address);
-    pollfd entry = {socket.descriptor, POLLIN, 0};
+    pollfd entry = {socket.handle, POLLIN, 0};
     Bytes datagram;
     SocketAddress from;
-    if (poll(&entry, 1, static_cast<int>(client.longestWait.count())) != 1 || !socket.Receive(datagram, from))
+    if (Poll(&entry, 1, static_cast<int>(client.longestWait.count())) != 1 || !socket.Receive(datagram, from))
         return "";
     const std::string source = EndpointText(EndpointOf(from));
     if (source != EndpointText(EndpointOf(address)))

@@ -11,7 +11,7 @@ using Milliseconds = std::chrono::milliseconds;
 
 // A UDP socket that is connected to one address, so that it notices that a port is closed.
 struct ClientSocket {
-    int descriptor = -1;
+    SocketHandle handle = kNoSocket;
 
     ClientSocket() = default;
     ClientSocket(const ClientSocket&) = delete;
@@ -39,7 +39,7 @@ struct SnmpClient {
 // The socket addresses of a host name or an address. Throws std::runtime_error when there is none.
 std::vector<SocketAddress> FindAddresses(const std::string& host, uint16_t port);
 
-// False, with errno, when the address can't be reached.
+// False, with SocketError, when the address can't be reached.
 bool Connect(SnmpClient& client, const SocketAddress& address);
 
 // Sends the request up to `tries` times; the wait doubles each time. `reply` has the variables.
