@@ -125,6 +125,11 @@ std::string Show(const Selected& printers, const std::string&, UpTime) {
 
 std::string Help(const Selected& printers, const std::string& words, UpTime upTime);
 
+// The program stops once its caller has the reply.
+std::string Stop(const Selected&, const std::string&, UpTime) {
+    return "stopped";
+}
+
 constexpr CommandKind kCommands[] = {
     {"set", Words::kNeeded, "[TRAY|SUPPLY] FIELD VALUE",
      "TRAY1 level 0, cyan level 12, cover open, online no", Set},
@@ -132,6 +137,7 @@ constexpr CommandKind kCommands[] = {
     {"clear", Words::kOptional, "[NAME[@OID]]",
      "takes a fault away, or all: settings and faults as at the start", Clear},
     {"show", Words::kNone, "", "levels, alerts and faults", Show},
+    {"stop", Words::kNone, "", "ends the program, all printers", Stop},
     {"help", Words::kNone, "", "this list", Help},
 };
 
@@ -199,7 +205,7 @@ ControlReply RunControlLine(std::vector<Printer>& printers, const std::string& l
     try {
         std::string rest = Tidy(line);
         if (rest.empty())
-            return {true, ""};
+            return {true, "", false};
         if (const size_t bad = FindBadUtf8(rest); bad != std::string::npos)
             Refuse("this line is not UTF-8 from byte " + std::to_string(bad + 1) + " on");
         const Selected selected = Select(printers, rest);
@@ -210,8 +216,11 @@ ControlReply RunControlLine(std::vector<Printer>& printers, const std::string& l
         const std::string words = rest.substr(std::min(end + 1, rest.size()));
         if (command.words == (words.empty() ? Words::kNeeded : Words::kNone))
             Refuse("write " + Usage(command));
-        return {true, command.run(selected, words, upTime)};
+        const bool stops = command.run == Stop;
+        if (stops && selected.size() != printers.size())
+            Refuse("all printers are of one program: write stop without an address");
+        return {true, command.run(selected, words, upTime), stops};
     } catch (const std::runtime_error& error) {
-        return {false, error.what()};
+        return {false, error.what(), false};
     }
 }

@@ -5,8 +5,9 @@
 #include "simprinter/printer.h"
 
 struct ControlReply {
-    bool isDone;      // otherwise nothing has changed
-    std::string text; // what was done, or what is wrong and what is possible; without a line end
+    bool isDone;        // otherwise nothing has changed
+    std::string text;   // what was done, or what is wrong and what is possible; without a line end
+    bool stops = false; // the program
 };
 
 // Runs a line: a command of the table, for the printer whose address is in front, or for all.

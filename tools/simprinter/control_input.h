@@ -21,6 +21,7 @@ std::string ReadControlInput(bool& isOpen);
 // From now on SIGTERM, SIGINT and their like on Windows (Ctrl+C, Ctrl+Break) only request that the program
 // stops.
 void CatchStopSignals();
+void RequestStop();
 bool IsStopRequested();
 
 // Waits for one of the entries, until the given time, or a stop signal. When none is ready, no entry has

@@ -11,7 +11,7 @@ namespace {
 volatile std::sig_atomic_t stopRequested = 0;
 sigset_t maskOfWaits; // blocks no stop signal, as all else does
 
-void RequestStop(int) {
+void TakeStopSignal(int) {
     stopRequested = 1;
 }
 
@@ -38,7 +38,7 @@ std::string ReadControlInput(bool& isOpen) {
 void CatchStopSignals() {
     std::signal(SIGTTIN, SIG_IGN); // reading the terminal from the background is then an error
     struct sigaction action = {};
-    action.sa_handler = RequestStop;
+    action.sa_handler = TakeStopSignal;
     sigset_t stopSignals;
     sigemptyset(&stopSignals);
     for (const int signal : {SIGTERM, SIGINT}) {
@@ -48,6 +48,10 @@ void CatchStopSignals() {
     sigprocmask(SIG_BLOCK, &stopSignals, &maskOfWaits);
     sigdelset(&maskOfWaits, SIGTERM);
     sigdelset(&maskOfWaits, SIGINT);
+}
+
+void RequestStop() {
+    stopRequested = 1;
 }
 
 // Waiting does not deliver a signal while there is always something to read: it stays pending.

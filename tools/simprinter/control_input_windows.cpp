@@ -54,11 +54,10 @@ void ReadAll(HANDLE handle) {
     }
 }
 
-BOOL WINAPI RequestStop(DWORD event) {
+BOOL WINAPI TakeConsoleEvent(DWORD event) {
     if (event != CTRL_C_EVENT && event != CTRL_BREAK_EVENT)
         return FALSE;
-    stopRequested = true;
-    WakeServer();
+    RequestStop();
     return TRUE;
 }
 
@@ -87,7 +86,12 @@ std::string ReadControlInput(bool& isOpen) {
 }
 
 void CatchStopSignals() {
-    SetConsoleCtrlHandler(RequestStop, TRUE);
+    SetConsoleCtrlHandler(TakeConsoleEvent, TRUE);
+}
+
+void RequestStop() {
+    stopRequested = true;
+    WakeServer();
 }
 
 bool IsStopRequested() {

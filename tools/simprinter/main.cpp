@@ -1,8 +1,10 @@
 // simprinter, a simulated printer on the network: messages and exit codes.
-// Exit codes: 0 stopped by SIGTERM or SIGINT, recorded, --help or --version; 1 failure; 2 wrong usage.
+// Exit codes: 0 stopped by a signal or a control line, recorded, --help or --version; 1 failure; 2 wrong
+// usage.
 #include "common/program.h"
 #include "simprinter/command_line.h"
 #include "simprinter/control.h"
+#include "simprinter/control_input.h"
 #include "simprinter/printer_list.h"
 #include "simprinter/server.h"
 #include "simprinter/sockets.h"
@@ -56,6 +58,8 @@ void ServePrinters(const CommandLine& line) {
                const ControlReply reply = RunControlLine(printers, text, upTime());
                if (!reply.text.empty())
                    (reply.isDone ? std::cout : std::cerr << "simprinter: ") << reply.text << std::endl;
+               if (reply.stops)
+                   RequestStop();
            },
            [&] {
                for (Printer& printer : printers)

@@ -27,8 +27,8 @@ struct ServerHandlers {
     int tickMs = 0; // how often `tick` is called; 0: never
 };
 
-// Opens the sockets and serves until SIGTERM or SIGINT. With `logs`, a line for each datagram goes to the
-// standard error output. Throws std::runtime_error when sockets can't be opened.
+// Opens the sockets and serves until SIGTERM, SIGINT or RequestStop. With `logs`, a line for each datagram
+// goes to the standard error output. Throws std::runtime_error when sockets can't be opened.
 void Serve(const std::vector<Endpoint>& endpoints, bool logs, const ServerHandlers& handlers);
 
 #endif

@@ -72,11 +72,12 @@ TEST(Control, WrongLinesChangeNothing) {
     printers.push_back(StartPrinter("::1", recorded, files));
     const std::string before = Say(printers, "show");
     const std::pair<const char*, const char*> cases[] = {
-        {"sett cover open", "unknown command 'sett'; possible: set, fault, clear, show, help"},
+        {"sett cover open", "unknown command 'sett'; possible: set, fault, clear, show, stop, help"},
         {"127.0.0.3 show", "no printer has the address '127.0.0.3'; possible: 127.0.0.1, 127.0.0.2, ::1"},
         {"set", "write set [TRAY|SUPPLY] FIELD VALUE"},
         {"show all", "write show"},
-        {"127.0.0.2", "write a command after the address; possible: set, fault, clear, show, help"},
+        {"127.0.0.2", "write a command after the address; possible: set, fault, clear, show, stop, help"},
+        {"127.0.0.1 stop", "all printers are of one program: write stop without an address"},
         {"127.0.0.1 set TRAY1", "127.0.0.1: write a field and its value; possible: name, size, "},
         {"set location Cell\xFF", "this line is not UTF-8 from byte 18 on"},
         {"clear all", "fault 'all': unknown fault; possible: silence, "},
@@ -110,11 +111,14 @@ TEST(Control, LinesOfTheStandardInputAreRun) {
     const TemporaryFolder folder;
     const std::string pipe = folder.path + "/pipe", name = ".1.3.6.1.2.1.43.8.2.1.10.1.1";
     ASSERT_EQ(RunCommand("mkfifo " + pipe).exitCode, 0);
-    const RunningPrinter printer("<>" + pipe + " 2>&1");
+    RunningPrinter printer("<>" + pipe + " 2>&1");
     std::ofstream(pipe) << "set TRAY1 le" << std::flush << "vel 7\nbogus\n" << std::flush;
     EXPECT_EQ(printer.Line(), "127.0.0.1: set TRAY1 level 7\n");
     EXPECT_EQ(printer.Line().substr(0, 35), "simprinter: unknown command 'bogus'");
     EXPECT_EQ(printer.Ask("snmpget", name).output, name + " = INTEGER: 7\n");
+    std::ofstream(pipe) << "stop\n" << std::flush;
+    EXPECT_EQ(printer.Line(), "stopped\n");
+    EXPECT_EQ(printer.Stop(0), 0);
 
     const RunningPrinter busy("</dev/zero"); // always has something to read, and still stops
 
