@@ -29,9 +29,8 @@ constexpr int kAddressInUse = EADDRINUSE, kNotAllowed = EACCES, kNoSuchAddress =
 // Call before all others.
 void StartSockets();
 
-// A UDP socket, which programs that are started do not inherit.
+// A UDP socket whose functions never wait: also after Poll a datagram may turn out not to be there.
 SocketHandle OpenSocket(int family);
-void MakeNonBlocking(SocketHandle socket);
 void CloseSocket(SocketHandle socket);
 
 int SocketError();

@@ -2,17 +2,12 @@
 #include "simprinter/sockets.h"
 
 #include <cstring>
-#include <fcntl.h>
 #include <unistd.h>
 
 void StartSockets() {}
 
 SocketHandle OpenSocket(int family) {
-    return socket(family, SOCK_DGRAM | SOCK_CLOEXEC, 0);
-}
-
-void MakeNonBlocking(SocketHandle socket) {
-    fcntl(socket, F_SETFL, O_NONBLOCK);
+    return socket(family, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
 }
 
 void CloseSocket(SocketHandle socket) {

@@ -12,13 +12,11 @@ void StartSockets() {
 }
 
 SocketHandle OpenSocket(int family) {
-    return WSASocketW(family, SOCK_DGRAM, IPPROTO_UDP, nullptr, 0,
-                      WSA_FLAG_OVERLAPPED | WSA_FLAG_NO_HANDLE_INHERIT);
-}
-
-void MakeNonBlocking(SocketHandle socket) {
+    const SocketHandle handle = socket(family, SOCK_DGRAM, IPPROTO_UDP);
     u_long yes = 1;
-    ioctlsocket(socket, static_cast<long>(FIONBIO), &yes);
+    if (handle != kNoSocket)
+        ioctlsocket(handle, static_cast<long>(FIONBIO), &yes);
+    return handle;
 }
 
 void CloseSocket(SocketHandle socket) {

@@ -61,7 +61,6 @@ Endpoint EndpointOf(const SocketAddress& address) {
 UdpSocket::UdpSocket(const SocketAddress& where) : handle(OpenSocket(where.storage.ss_family)) {
     int reason = SocketError();
     if (handle != kNoSocket) {
-        MakeNonBlocking(handle);
         const int only = 1; // "::" leaves IPv4 to "0.0.0.0"
         if (where.storage.ss_family == AF_INET6)
             setsockopt(handle, IPPROTO_IPV6, IPV6_V6ONLY, reinterpret_cast<const char*>(&only), sizeof only);
