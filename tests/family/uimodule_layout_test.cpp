@@ -102,7 +102,7 @@ TEST_F(UiModuleLayout, CutCellBelowThePointerIsInAToolTip) {
         SetCursorPos(at.x, at.y);
         Pump(1000); // the pointer comes to rest
         std::wstring shown;
-        for (HWND tip = nullptr; (tip = FindWindowExW(nullptr, tip, TOOLTIPS_CLASSW, nullptr)) != nullptr;)
+        for (HWND tip = nullptr; (tip = NextOwnWindow(tip, TOOLTIPS_CLASSW)) != nullptr;)
             if (IsWindowVisible(tip))
                 shown += TextOf(tip);
         EXPECT_EQ(shown, text);
@@ -127,14 +127,16 @@ TEST_F(UiModuleLayout, StopSignOfACheckBoxIsNextToItsText) {
 }
 
 TEST_F(UiModuleLayout, DialogsOpenOverTheirOwner) {
+    // Near the middle of the screen, so that the dialog has room on all sides.
+    const int left = GetSystemMetrics(SM_CXSCREEN) / 2 + 30, top = GetSystemMetrics(SM_CYSCREEN) / 2 - 40;
     const HWND owner =
-        CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, 700, 500, 40, 30, nullptr, nullptr, nullptr, nullptr);
+        CreateWindowW(L"Static", L"", WS_POPUP | WS_VISIBLE, left, top, 40, 30, nullptr, nullptr, nullptr, nullptr);
     const HWND between =
         CreateWindowW(L"Static", L"", WS_POPUP, 0, 0, 0, 0, owner, nullptr, nullptr, nullptr); // invisible
     const auto middle = [](const RECT& frame) { return std::pair(frame.left + frame.right, frame.top + frame.bottom); };
     OpenModel(123, between);
     const auto [x, y] = middle(FrameOf(dialog));
-    EXPECT_LE(abs(x - 1440) + abs(y - 1030), 2);
+    EXPECT_LE(abs(x - (2 * left + 40)) + abs(y - (2 * top + 30)), 2);
     SetWindowPos(owner, nullptr, -300, -300, 0, 0, SWP_NOSIZE);
     OpenModel(123, between);
     EXPECT_EQ(std::pair(FrameOf(dialog).left, FrameOf(dialog).top), std::pair(0L, 0L)) << "within the screen";

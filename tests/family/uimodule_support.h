@@ -48,6 +48,17 @@ inline std::wstring TextOf(HWND window) {
     return text;
 }
 
+// The next window of this process behind another one (null: the first). On a desktop other programs have windows of the
+// same classes.
+inline HWND NextOwnWindow(HWND before, const wchar_t* className) {
+    DWORD process = 0;
+    do {
+        before = FindWindowExW(nullptr, before, className, nullptr);
+        GetWindowThreadProcessId(before, &process);
+    } while (before != nullptr && process != GetCurrentProcessId());
+    return before;
+}
+
 // The dialog, bound to the library.
 struct UiModule : testing::Test {
     UiModule() : library(LoadLibraryW(L"TELMAR_U.DLL")) {
@@ -116,7 +127,7 @@ struct UiModule : testing::Test {
 
     // The text of the library's window; "-" when it is not open.
     std::wstring WindowText() const {
-        const HWND window = FindWindowW(L"#32770", nullptr);
+        const HWND window = NextOwnWindow(nullptr, L"#32770");
         const HWND found = window != nullptr && GetDlgItem(window, IDC_TEXT) != nullptr ? window : nullptr;
         return found != nullptr && IsWindowVisible(found) ? TextOf(GetDlgItem(found, IDC_TEXT)) : L"-";
     }

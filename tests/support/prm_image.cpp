@@ -86,10 +86,11 @@ uint32_t PrmImage::StringValue(const std::string& name, const std::string& value
     return Entry(name, {}, 0, Put(RawBytes(16).U32(0, key)));
 }
 
-// Test programs may run at the same time, and one test may use several files.
+// Test programs may run at the same time, and one test may use several files. The name is relative: it is the same in
+// every code page, whatever the letters of the folder are.
 TemporaryFile::TemporaryFile(const std::vector<uint8_t>& bytes) {
     static unsigned number = 0;
-    path = testing::TempDir() + "lumora_" + std::to_string(getpid()) + "_" + std::to_string(++number) + ".prm";
+    path = "lumora_" + std::to_string(getpid()) + "_" + std::to_string(++number) + ".prm";
     widePath = Widened(path);
     std::ofstream file(path, std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));

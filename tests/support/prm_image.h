@@ -69,7 +69,7 @@ struct PrmImage {
     uint32_t lastEntry = 0;
 };
 
-// A file of its own in the folder for temporary files; removed at the end.
+// A file of its own in the current folder; removed at the end.
 struct TemporaryFile {
     explicit TemporaryFile(const std::vector<uint8_t>& bytes);
     ~TemporaryFile() { remove(path.c_str()); }

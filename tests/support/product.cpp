@@ -1,6 +1,8 @@
 // Loads the built module and counts what the process has.
 #include "support/product.h"
 
+#include "support/wine.h"
+
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
@@ -38,19 +40,37 @@ TemporaryFolder::TemporaryFolder(const std::wstring& name, const std::vector<std
 
 TemporaryFolder::~TemporaryFolder() {
     std::error_code error;
-    fs::remove_all(path, error);
+    for (int tries = 0; fs::remove_all(path, error), error && tries < 50; ++tries)
+        Sleep(100); // a virus scanner may still look at its files
     EXPECT_FALSE(error) << error.message();
 }
 
 Holdings CountHoldings() {
     Holdings held = {};
     PROCESS_HEAP_ENTRY entry = {};
+    HeapLock(GetProcessHeap()); // other threads of the system use it, too
     while (HeapWalk(GetProcessHeap(), &entry))
         held.heapBlocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
-    EXPECT_EQ(GetLastError(), static_cast<DWORD>(ERROR_NO_MORE_ITEMS));
+    const DWORD end = GetLastError();
+    HeapUnlock(GetProcessHeap());
+    EXPECT_EQ(end, static_cast<DWORD>(ERROR_NO_MORE_ITEMS));
+    DWORD count = 0;
+    if (!IsWine() && GetProcessHandleCount(GetCurrentProcess(), &count)) {
+        held.handles = count;
+        return held;
+    }
     constexpr uintptr_t kMaxHandles = 0x400; // wine does not count them, but knows which are valid
     DWORD flags = 0;
     for (uintptr_t i = 1; i < kMaxHandles; ++i)
         held.handles += GetHandleInformation(reinterpret_cast<HANDLE>(4 * i), &flags) != FALSE;
     return held;
+}
+
+testing::AssertionResult HasNoMoreThan(const Holdings& before, size_t others) {
+    const Holdings now = CountHoldings();
+    const size_t accepted = IsWine() ? 0 : others;
+    if (now.heapBlocks <= before.heapBlocks + accepted && now.handles <= before.handles + accepted)
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << static_cast<int>(now.heapBlocks - before.heapBlocks) << " more blocks, "
+                                       << static_cast<int>(now.handles - before.handles) << " more handles";
 }

@@ -4,6 +4,7 @@
 #define SUPPORT_PRODUCT_H
 
 #include <filesystem>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 #include <windows.h>
@@ -46,5 +47,9 @@ struct Holdings {
     size_t handles;
 };
 Holdings CountHoldings();
+
+// Fails when the process has more than before. On Windows other threads, such as those that load libraries, also have
+// blocks and handles: there up to `others` more of each are accepted.
+testing::AssertionResult HasNoMoreThan(const Holdings& before, size_t others);
 
 #endif

@@ -300,13 +300,14 @@ TEST_F(TrayDialog, HasBothIconsOrNone) {
         if (call == 6)
             before = CountLiveObjects();
     }
-    EXPECT_EQ(CountLiveObjects(), *before);
+    EXPECT_TRUE(HasLeftNothing(*before, 5));
 }
 
 TEST_F(TrayDialog, LeavesNothingBehind) {
     usesOwnCallbacks = true;
     std::optional<LiveObjects> before;
-    for (int i = 0, rounds = Rounds(23, 203); i < rounds; ++i) {
+    const int rounds = Rounds(23, 203);
+    for (int i = 0; i < rounds; ++i) {
         PressButton();
         const HWND list = Control(kList);
         ShowWindow(window, i < 5 ? SW_SHOWNOACTIVATE : SW_HIDE);
@@ -322,7 +323,7 @@ TEST_F(TrayDialog, LeavesNothingBehind) {
         if (i == 4) // the system keeps objects of the first dialogs and of the first hint that are shown
             before = CountLiveObjects();
     }
-    EXPECT_EQ(CountLiveObjects(), *before);
+    EXPECT_TRUE(HasLeftNothing(*before, rounds - 5));
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 // and ports are put into the registry, where the spooler finds them, and a port monitor is installed.
 #include "product.h"
 #include "support/print_queue.h"
+#include "support/wine.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -36,7 +37,12 @@ struct PrinterAddress : testing::Test {
     DWORD lastError = 0;
 };
 
+TEST_F(PrinterAddress, FromTheRecord) {
+    EXPECT_EQ(Ask(L"10.1.1.1", 9), "10.1.1.1") << "without asking for the queue, which does not exist";
+}
+
 TEST_F(PrinterAddress, FromThePortMonitorsTransceiver) {
+    SKIP_WITHOUT_OWN_SPOOLER();
     const Queue queue(kQueue, L"IP_10.1.2.3");
     Monitor monitor(L"Tarn Port", L"IP_10.1.2.3", L"IPAddress", L"10.9.9.9");
     monitor.Text(L"Driver", (ProductFolder() / L"test_port_monitor.dll").wstring());
@@ -51,6 +57,7 @@ TEST_F(PrinterAddress, FromThePortMonitorsTransceiver) {
 }
 
 TEST_F(PrinterAddress, FromTheRegistryWhenTheTransceiverRefuses) {
+    SKIP_WITHOUT_OWN_SPOOLER();
     const Queue queue(kQueue, L"LUMORA_1");
     Monitor monitor(L"Tarn Port", L"LUMORA_1", L"IPAddress", L"10.9.9.9");
     monitor.Text(L"Driver", (ProductFolder() / L"test_port_monitor.dll").wstring());

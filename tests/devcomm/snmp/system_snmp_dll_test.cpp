@@ -1,7 +1,8 @@
 // The module with the system's SNMP libraries: stand-ins for them (snmp_stub.cpp) are in the system directory
-// while this program runs. Under wine only, whose prefix is the build's own, and with both loaded as native
-// libraries: ctest sets WINEDLLOVERRIDES for it.
+// while this program runs. Only under wine, whose prefix is the build's own, with both loaded as native libraries:
+// ctest sets WINEDLLOVERRIDES for it.
 #include "product.h"
+#include "support/wine.h"
 #include "workbench/lib/traffic_trace.h"
 
 #include <gtest/gtest.h>
@@ -44,9 +45,12 @@ struct SystemFile {
     fs::path kept;
 };
 
-bool IsWine() {
-    return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
-}
+struct SystemSnmp : testing::Test {
+    void SetUp() override {
+        if (!IsWine() || IsPacked())
+            GTEST_SKIP() << "replaces the SNMP libraries of the system";
+    }
+};
 
 template <typename Function>
 Function* EntryPoint(const wchar_t* library, const char* name) {
@@ -56,7 +60,7 @@ Function* EntryPoint(const wchar_t* library, const char* name) {
 
 // Both stay loaded from attach to detach. The answer is in another list than the request's, in memory that is not
 // cleared.
-TEST(SystemSnmp, QueriesGoThroughThemAlone) {
+TEST_F(SystemSnmp, QueriesGoThroughThemAlone) {
     const SystemFile mgmt(kMgmt, L"stub_mgmtapi.dll"), snmp(kSnmp, L"stub_snmpapi.dll");
     std::optional<LoadedModule> module(std::in_place);
     ASSERT_NE(EntryPoint<int()>(kMgmt, "StubBlocks"), nullptr) << "start it with WINEDLLOVERRIDES=mgmtapi,snmpapi=n";
@@ -87,7 +91,7 @@ TEST(SystemSnmp, QueriesGoThroughThemAlone) {
 }
 
 // The answers of the stand-ins do not contain the value that was asked for, only a number of 640.
-TEST(SystemSnmp, TraceRecordsRequestsUntilItsEnd) {
+TEST_F(SystemSnmp, TraceRecordsRequestsUntilItsEnd) {
     const SystemFile mgmt(kMgmt, L"stub_mgmtapi.dll"), snmp(kSnmp, L"stub_snmpapi.dll");
     const LoadedModule module;
     auto* const isAccessOk = module.Export<int WINAPI(const char*)>("MIB_IsAccessOK");
@@ -105,11 +109,3 @@ TEST(SystemSnmp, TraceRecordsRequestsUntilItsEnd) {
 }
 
 } // namespace
-
-int main(int count, char** arguments) {
-    testing::InitGoogleTest(&count, arguments);
-    if (IsWine())
-        return RUN_ALL_TESTS();
-    printf("Not run: it would replace libraries of the system.\n");
-    return 0;
-}

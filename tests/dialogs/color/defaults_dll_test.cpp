@@ -3,6 +3,7 @@
 #include "dialogs/color/default_devmode.h"
 #include "paramdata/default_settings.h"
 #include "support/print_queue.h"
+#include "support/wine.h"
 
 #include <winspool.h>
 
@@ -100,6 +101,7 @@ BOOL WINAPI NoteClosing(HANDLE printer) {
 }
 
 TEST(DefaultSettings, PrintersAreOpenedByNameAndClosed) {
+    SKIP_WITHOUT_OWN_SPOOLER();
     constexpr wchar_t kQueue[] = L"Lumora mono test";
     Queue queue(kQueue, L"LPT1:");
     EXPECT_FALSE(IsMonoDriver(nullptr, kQueue));

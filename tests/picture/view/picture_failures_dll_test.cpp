@@ -71,10 +71,10 @@ TEST_F(PictureFailures, ManyDrawingsLeaveNothingBehind) {
         records.Draw(module, got.dc, isFull ? kRectangle : RECT{0, 0, 30, 20});
         ASSERT_EQ(recorder.Errors(), "") << i;
         if (i == 0)
-            before = CountFreeObjects(); // without what the system caches
+            before = CountGraphicsObjects(); // without what the system caches
     }
-    EXPECT_GT(before, 10000u);
-    EXPECT_EQ(CountFreeObjects(), before);
+    EXPECT_GT(before, 0u);
+    EXPECT_LE(CountGraphicsObjects(), before + (IsWine() ? 0 : 100)) << "one for each drawing would be thousands";
 }
 
 } // namespace

@@ -62,7 +62,7 @@ constexpr FaultCase kFaultCases[] = {
     {"nowhere..invalid", "unknownHost", false, "no device with the name nowhere\\.\\.invalid"},
     {"::1", "ipv6Only",        false, "IPv6 addresses only: ::1"},
     {"[fe80::1%9]", "ipv6Only", false, "IPv6 addresses only"},
-    {"127.255.255.255", "noRoute", false, "No request could be sent"},
+    {"255.255.255.255", "noRoute", false, "No request could be sent"},
 };
 // clang-format on
 
@@ -115,19 +115,28 @@ TEST(Diagnosis, FaultIsNamed) {
     }
 }
 
+// Whether a text has all these parts in this order. A regular expression that skips as much would need more stack than
+// a program has.
+bool HasInOrder(const std::string& text, const std::vector<const char*>& parts) {
+    size_t at = 0;
+    for (const char* part : parts)
+        if ((at = text.find(part, at)) == std::string::npos)
+            return false;
+    return true;
+}
+
 TEST(Diagnosis, PageGoesFromThePrinterToWhatToDo) {
     const Result inOrder = RunWorkbench(L"diagnose 127.0.164.1");
     EXPECT_EQ(inOrder.errors, "");
-    EXPECT_TRUE(
-        std::regex_search(inOrder.output, std::regex("^Printer\n[^]*\nNetwork\n[^]*\nDevice\n[^]*\nObjects [^]*"
-                                                     "\nDriver\n[^]*\nOptions [^]*\nSupplies [^]*\nWhat to do\n")))
+    EXPECT_TRUE(HasInOrder(inOrder.output, {"Printer\n", "\nNetwork\n", "\nDevice\n", "\nObjects ", "\nDriver\n",
+                                            "\nOptions ", "\nSupplies ", "\nWhat to do\n"}))
         << inOrder.output;
+    EXPECT_EQ(inOrder.output.find("Printer\n"), 0u);
     EXPECT_TRUE(std::regex_search(inOrder.output, std::regex("\n  hrStorageSize\\.2 +Hard disk +INTEGER 250000 +\\d")));
     EXPECT_TRUE(std::regex_search(inOrder.output, std::regex("\n  Cyan toner +83 %\n")));
     const Result faulty = RunWorkbench(L"diagnose 127.0.164.13");
-    EXPECT_TRUE(
-        std::regex_search(faulty.output, std::regex("no fault has been found\\.\n\nNotes \\(1\\)\n  1\\. Answers "
-                                                    "have [^]*\n     Driver: None: [^]*\n     To do:  ")))
+    EXPECT_TRUE(HasInOrder(faulty.output, {"no fault has been found.\n\nNotes (1)\n  1. Answers have ",
+                                           "\n     Driver: None: ", "\n     To do:  "}))
         << faulty.output;
 }
 
@@ -140,7 +149,7 @@ TEST(Diagnosis, PageSaysWhatIsMissing) {
     const std::string hub = RunWorkbench(L"diagnose 127.0.164.33").output;
     EXPECT_TRUE(std::regex_search(hub, std::regex("\n  Serial number +none\n  System description +\\[31mHub   7\n")))
         << hub;
-    const Json unsent = Json::parse(RunWorkbench(L"diagnose --json 127.255.255.255").output)["network"];
+    const Json unsent = Json::parse(RunWorkbench(L"diagnose --json 255.255.255.255").output)["network"];
     EXPECT_EQ(unsent["requests"], 0);
 }
 
@@ -151,7 +160,7 @@ TEST(Diagnosis, SlownessIsAFindingOnlyIfTheDriverRepeats) {
     EXPECT_EQ(diagnosis["findings"].empty(), diagnosis["driver"]["repeatedRequests"] == 0) << diagnosis;
 }
 
-// Answers each request with the request itself. Wine binds no other single loopback address than 127.0.0.1.
+// Answers each request with the request itself. Wine binds no loopback address but 127.0.0.1.
 struct Echo {
     Echo() {
         sockaddr_in own = {};

@@ -1,5 +1,6 @@
 // The Printer page in this process, on a screen and with simulated printers: keys, the course of a query, what it
 // shows afterwards and what is kept.
+#include "support/wine.h"
 #include "tools/workbench/workbench_run.h"
 #include "workbench/lib/localized_text.h"
 #include "workbench/lib/picture.h"
@@ -400,6 +401,7 @@ TEST_F(PrinterSheet, SearchListsPrintersOnly) {
 
 // As in high contrast: black toner on a black window.
 TEST_F(PrinterSheet, BarOfBlackTonerIsSeenOnBlack) {
+    SKIP_ON_WINDOWS("changes the colours of the whole desktop");
     const INT parts[] = {COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_BTNFACE};
     const COLORREF before[] = {GetSysColor(parts[0]), GetSysColor(parts[1]), GetSysColor(parts[2])};
     const COLORREF dark[] = {RGB(0, 0, 0), RGB(255, 255, 255), RGB(0, 0, 0)};

@@ -149,23 +149,27 @@ TEST(WorkbenchSheet, PlaceIsKeptAndSettingsOnlyAfterOk) {
     const Json cancelled = RunForPerson(file, IDCANCEL, [&](HWND sheet) {
         RECT frame = {};
         GetWindowRect(sheet, &frame);
-        EXPECT_EQ(frame.left + frame.right, GetSystemMetrics(SM_CXSCREEN)) << "not in the middle";
-        SetWindowPos(sheet, nullptr, 310, 205, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        RECT area = {}; // without the task bar
+        SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+        EXPECT_NEAR(frame.left + frame.right, area.left + area.right, 1) << "not in the middle";
+        SetWindowPos(sheet, nullptr, 110, 75, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
         change(sheet);
     });
     EXPECT_EQ(cancelled, Json({{"saved", false}, {"keptIn", nullptr}}));
-    EXPECT_EQ(Json::parse(Contents(file)), Json({{"place", {{"x", 310}, {"y", 205}}}}));
+    EXPECT_EQ(Json::parse(Contents(file)), Json({{"place", {{"x", 110}, {"y", 75}}}}));
 
     const Json saved = RunForPerson(file, IDOK, [&](HWND sheet) {
-        EXPECT_EQ(CornerOf(sheet).x, 310);
-        EXPECT_EQ(CornerOf(sheet).y, 205);
-        SetWindowPos(sheet, nullptr, 5000, 100, 0, 0, SWP_NOSIZE | SWP_NOZORDER);
+        EXPECT_EQ(CornerOf(sheet).x, 110);
+        EXPECT_EQ(CornerOf(sheet).y, 75);
+        SetWindowPos(sheet, nullptr, GetSystemMetrics(SM_XVIRTUALSCREEN) + GetSystemMetrics(SM_CXVIRTUALSCREEN), 100, 0,
+                     0, SWP_NOSIZE | SWP_NOZORDER);
         change(sheet);
     });
     EXPECT_EQ(saved, Json({{"saved", true}, {"keptIn", file.u8string()}}));
     EXPECT_TRUE(Json::parse(Contents(file))["settings"].is_string());
 
-    RunForPerson(file, IDCANCEL, [](HWND sheet) { EXPECT_LT(CornerOf(sheet).x, GetSystemMetrics(SM_CXSCREEN)); });
+    RunForPerson(file, IDCANCEL,
+                 [](HWND sheet) { EXPECT_NE(MonitorFromPoint(CornerOf(sheet), MONITOR_DEFAULTTONULL), nullptr); });
     EXPECT_TRUE(Json::parse(Contents(file))["settings"].is_string()) << "lost by saving the place";
 }
 
