@@ -44,6 +44,8 @@ void StartProgram(int& argc, char**& argv) {
     static std::vector<std::string> arguments;
     static std::vector<char*> pointers;
     wchar_t** const wide = CommandLineToArgvW(GetCommandLineW(), &argc);
+    arguments.reserve(static_cast<size_t>(argc));
+    pointers.reserve(static_cast<size_t>(argc) + 1);
     for (int i = 0; i < argc; ++i)
         arguments.push_back(Utf8FromWide(wide[i]));
     LocalFree(wide);
