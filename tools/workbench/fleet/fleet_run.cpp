@@ -12,7 +12,6 @@
 #include <deque>
 #include <mutex>
 #include <optional>
-#include <thread>
 #include <winsock2.h>
 
 namespace {
@@ -162,12 +161,8 @@ FleetRun::FleetRun(const FamilyFiles& family, const PrinterList& list, int threa
     for (size_t i = 0; i < list.printers.size(); ++i)
         if (!ParseAddress(list.printers[i].address))
             work->names.push_back(i);
-    // The work is released before the thread counts as ended.
     const auto start = [this](void (Work::*step)()) {
-        std::thread([shared = work, step, counted = RunningJob()]() mutable {
-            ((*shared).*step)();
-            shared.reset();
-        }).detach();
+        StartJob([shared = work, step] { ((*shared).*step)(); });
     };
     start(&Work::FindThoseThatAnswer);
     for (size_t i = 0; i < std::min(work->names.size(), kMaxLookups); ++i)

@@ -1,20 +1,15 @@
-// Counts the threads that query printers, since the program may end while some still wait for an answer.
+// Starts and counts the threads that query printers, since the program may end while some still wait for an
+// answer.
 #ifndef WORKBENCH_LIB_RUNNING_JOBS_H
 #define WORKBENCH_LIB_RUNNING_JOBS_H
 
-#include <atomic>
+#include <functional>
 
-// Counts as a running job as long as it, or a copy, exists. A thread keeps one until its end.
-struct RunningJob {
-    RunningJob() { ++count; }
-    RunningJob(const RunningJob& /*other*/) { ++count; }
-    ~RunningJob() { --count; }
-    RunningJob& operator=(const RunningJob&) = default;
+// Runs work on a thread of its own that nobody waits for. It counts as running until the work and what it has
+// captured are released. Throws std::runtime_error when the system has no more threads.
+void StartJob(std::function<void()> work);
 
-    static inline std::atomic<int> count{0};
-};
-
-// Whether the thread of any job, also of a cancelled one, still runs.
+// Whether any job, also a cancelled one, still runs.
 bool IsAnyJobRunning();
 
 // To be called last. Ends the process at once if a thread still waits for its printer; an unresponsive one

@@ -6,17 +6,16 @@
 
 #include <future>
 #include <memory>
-#include <thread>
 
 bool EndsWithin(double limit, std::function<void()> work, const std::function<void()>& meanwhile) {
     constexpr std::chrono::milliseconds kMeanwhile(200);
     const auto end = std::make_shared<std::promise<void>>();
     const std::future<void> ended = end->get_future();
-    std::thread([end, counted = RunningJob(), work = std::move(work)]() mutable {
+    StartJob([end, work = std::move(work)]() mutable {
         work();
         work = nullptr; // releases what it shares
         end->set_value();
-    }).detach();
+    });
     const int64_t start = CounterNow();
     while (ended.wait_for(kMeanwhile) != std::future_status::ready) {
         if (MillisecondsSince(start) > limit)

@@ -8,7 +8,6 @@
 #include <atomic>
 #include <cstring>
 #include <functional>
-#include <thread>
 
 namespace {
 
@@ -137,10 +136,7 @@ DeviceJob::DeviceJob(const FamilyFiles& family, const std::string& address, HWND
     work->address = address;
     work->page = page;
     work->number = jobNumber;
-    std::thread([shared = work, counted = RunningJob()]() mutable {
-        shared->Run();
-        shared.reset();
-    }).detach();
+    StartJob([shared = work] { shared->Run(); });
 }
 
 DeviceJob::~DeviceJob() {
