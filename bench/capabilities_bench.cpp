@@ -11,7 +11,7 @@ namespace {
 constexpr size_t kMaxTrays = 64;
 
 // The installable options of the model's trays, all installed.
-constexpr ItemRecord kInstalled[] = {{{sizeof(ItemRecord), "EnaOpInTray", 1, 0, 0, 0}, L""}, {}};
+constexpr ItemRecord kInstalled[] = {{{sizeof(ItemRecord), "EnaOpInTray", 1, 0, 0, {}}, L""}, {}};
 constexpr FeatureRecord TrayOption(const char* key) {
     FeatureRecord feature = {};
     CopyText(feature.feature.head.key, key);

@@ -32,9 +32,7 @@ void AddSolid(Scene& scene, const Solid& solid, const Material& material) {
 }
 
 void AddPlate(Scene& scene, const Plate& plate, const Material& material) {
-    const auto corner = [&plate](const Point& end, double z, double drop) {
-        return At(end.x, end.y + drop, z);
-    };
+    const auto corner = [](const Point& end, double z, double drop) { return At(end.x, end.y + drop, z); };
     const double front = plate.z.from;
     const double back = plate.z.to;
     scene.Polygon({corner(plate.left, front, 0), corner(plate.left, back, 0), corner(plate.right, back, 0),
