@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
     const HMODULE module = LoadDriver();
     if (module == NULL)
         return Fail("TELMAR_D.DLL can't be loaded from the program's folder");
-    const int result = argc == 2 ? Ask(module, argv[1]) : Fail("name one printer: options ADDRESS");
+    const int result = argc == 2 ? Ask(module, argv[1]) : (fputs("usage: options ADDRESS\n", stderr), 2);
     FreeLibrary(module);
     return result;
 }
