@@ -16,7 +16,7 @@ static TelmarOptionRequestItem items[kItemCount] = {{"OpHDD", ""},         {"OpM
                                                     {"OpOutTrayUnit", ""}, {"OpFAXUnit", ""}};
 
 static int Fail(const char* text) {
-    fprintf(stderr, "options: %s (last error %lu)\n", text, GetLastError());
+    fprintf(stderr, "options: %s\n", text);
     return 1;
 }
 
@@ -37,13 +37,13 @@ static int Ask(HMODULE module, const char* agent) {
     ReachFunction* isReached = EXPORT(module, ReachFunction, MIB_IsAccessOK);
     OptionFunction* bySnmp = EXPORT(module, OptionFunction, MIB_OptionRequest);
     if (isUsable == NULL || byLibrary == NULL || isReached == NULL || bySnmp == NULL)
-        return Fail("TELMAR_D.DLL lacks an export");
+        return Fail("TELMAR_D.DLL lacks an export. Replace it by that of the package.");
     const BOOL isByLibrary = isUsable();
     if (isByLibrary && !byLibrary(agent, kItemCount, items))
-        return Fail("the printer does not answer the bidirectional library, or is another model");
+        return Fail("no answer through the bidirectional library. Check address and model.");
     // By SNMP a query succeeds also when nothing answers, so check that first.
     if (!isByLibrary && (!isReached(agent) || !bySnmp(agent, kItemCount, items)))
-        return Fail("the printer does not answer by SNMP");
+        return Fail("no answer by SNMP. Check the address, and that the printer is on.");
     printf("%s, %s\n", agent, isByLibrary ? "bidirectional library" : "SNMP");
     for (int i = 0; i < kItemCount; ++i)
         printf("  %-14s %s\n", items[i].key, items[i].value[0] != 0 ? items[i].value : "(not reported)");
@@ -53,7 +53,7 @@ static int Ask(HMODULE module, const char* agent) {
 int main(int argc, char** argv) {
     const HMODULE module = LoadDriver();
     if (module == NULL)
-        return Fail("TELMAR_D.DLL can't be loaded from the program's folder");
+        return fprintf(stderr, "options: TELMAR_D.DLL can't be loaded (last error %lu)\n", GetLastError()), 1;
     const int result = argc == 2 ? Ask(module, argv[1]) : (fputs("usage: options ADDRESS\n", stderr), 2);
     FreeLibrary(module);
     return result;

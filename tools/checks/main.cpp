@@ -178,7 +178,9 @@ int RunChecks(const Folders& folders, const std::vector<std::wstring>& options) 
         else if (std::any_of(checks.begin(), checks.end(), hasName))
             names.push_back(name);
         else
-            throw std::runtime_error("there is no check '" + name + "'. data\\checks.list has their names.");
+            throw std::runtime_error(
+                "there is no check '" + name
+                + "'. Usage: run-checks.cmd [CHECK]...; data\\checks.list has their names.");
     }
     if (!names.empty())
         checks.erase(std::remove_if(checks.begin(), checks.end(),
