@@ -1,6 +1,7 @@
 // The symbols of the built DLL, read by the system's debug help library: addresses lead to functions, files and lines,
 // and so does the minidump of a crash in the module. Lines are compared with the sources where those are at hand.
 #include "support/product.h"
+#include "support/wine.h"
 
 #include <algorithm>
 #include <windows.h>
@@ -65,6 +66,7 @@ std::vector<std::string> LinesOf(const std::string& file) {
         lines.push_back(line);
     if (lines.size() == 1)
         lines.clear();
+    EXPECT_TRUE(!IsWine() || IsPacked() || !lines.empty()) << file;
     return lines;
 }
 

@@ -9,7 +9,8 @@ std::string CheckRunner::StartPrinters(const std::string& list) {
     constexpr DWORD kMaxStart = 20000, kStep = 50; // milliseconds
     if (list.empty() || hasOtherPrinters)
         return "";
-    if (list == simulated)
+    const bool areRunning = printers && WaitForSingleObject(printers->process, 0) == WAIT_TIMEOUT;
+    if (list == simulated && (areRunning || !refusal.empty()))
         return refusal;
     simulated = list;
     refusal.clear();

@@ -57,7 +57,10 @@ fs::path PackageFolder() {
 // keeps a second run away.
 HANDLE PrepareLogs(const Folders& folders) {
     std::error_code error;
-    fs::create_directory(folders.Logs(), error);
+    if (!fs::create_directory(folders.Logs(), error) && error)
+        throw std::runtime_error("cannot make the folder " + folders.Logs().u8string() + " ("
+                                 + ErrorText(static_cast<DWORD>(error.value()))
+                                 + "). Unpack the package into a folder of your own.");
     HANDLE lock = CreateFileW((folders.Logs() / "running").c_str(), GENERIC_WRITE | DELETE, 0, nullptr,
                               CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     if (lock == INVALID_HANDLE_VALUE && GetLastError() == ERROR_SHARING_VIOLATION)

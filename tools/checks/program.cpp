@@ -28,6 +28,11 @@ Program::Program(const std::filesystem::path& file, const std::string& arguments
     : job(MakeJob()) {
     HANDLE output = OpenInheritable(log.c_str(), FILE_APPEND_DATA, CREATE_ALWAYS);
     HANDLE input = OpenInheritable(L"NUL", GENERIC_READ, OPEN_EXISTING);
+    if (output == INVALID_HANDLE_VALUE) {
+        startError = GetLastError();
+        CloseHandle(input);
+        return;
+    }
     STARTUPINFOW start = {};
     start.cb = sizeof(start);
     start.dwFlags = STARTF_USESTDHANDLES;
@@ -39,10 +44,16 @@ Program::Program(const std::filesystem::path& file, const std::string& arguments
     if (CreateProcessW(file.c_str(), line.data(), nullptr, nullptr, TRUE,
                        CREATE_SUSPENDED | CREATE_NEW_PROCESS_GROUP, nullptr, folder.c_str(), &start,
                        &started)) {
-        AssignProcessToJobObject(job, started.hProcess);
-        ResumeThread(started.hThread);
-        CloseHandle(started.hThread);
         process = started.hProcess;
+        if (AssignProcessToJobObject(job, process)) {
+            ResumeThread(started.hThread);
+        } else { // it could not be ended with what it starts
+            startError = GetLastError();
+            TerminateProcess(process, 1);
+            CloseHandle(process);
+            process = nullptr;
+        }
+        CloseHandle(started.hThread);
     } else {
         startError = GetLastError();
     }

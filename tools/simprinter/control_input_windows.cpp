@@ -68,7 +68,7 @@ bool OpenControlInput() {
     if (handle == nullptr || handle == INVALID_HANDLE_VALUE)
         return false;
     standardInput = new StandardInput;
-    std::thread(ReadAll, handle).detach();
+    std::thread(ReadAll, handle).detach(); // the only one of the program
     return true;
 }
 

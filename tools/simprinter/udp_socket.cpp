@@ -24,7 +24,11 @@ std::string WhatToDo(int reason) {
     case kNoSuchAddress:
         return ". It must be an address of this machine";
     case kTooManySockets:
+#ifdef _WIN32
+        return ". Each printer needs one: simulate fewer";
+#else
         return ". Each printer needs one: simulate fewer, or raise the limit ('ulimit -n')";
+#endif
     default:
         return "";
     }

@@ -39,7 +39,8 @@ PartLock::PartLock(const std::string& part) {
                                      + SystemErrorText(GetLastError()));
         OVERLAPPED last = {};
         last.OffsetHigh = 1;
-        if (!LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &last)) {
+        if (!LockFileEx(handle, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0, &last)
+            && GetLastError() == ERROR_LOCK_VIOLATION) {
             CloseHandle(handle);
             throw std::runtime_error(InUseText(part));
         }

@@ -67,6 +67,22 @@ std::string NoPduProblem(long version) {
                  : "a message with the unknown SNMP version number " + std::to_string(version);
 }
 
+// Whether the object identifier at `at` has a sub-identifier of more than 32 bits. net-snmp's functions do
+// not notice it where a long has 32.
+bool HasWideSubId(u_char* at, size_t left) {
+    u_char type;
+    const u_char* const contents = asn_parse_header(at, &left, &type);
+    uint64_t subId = 0;
+    for (size_t i = 0; contents && i < left; ++i) {
+        subId = subId << 7 | (contents[i] & 0x7Fu);
+        if (subId > UINT32_MAX)
+            return true;
+        if ((contents[i] & 0x80u) == 0)
+            subId = 0;
+    }
+    return false;
+}
+
 Oid ToOid(const oid* subIds, size_t count) {
     return Oid(subIds, subIds + count);
 }
@@ -132,7 +148,7 @@ bool ReadValue(u_char* at, size_t left, u_char type, size_t length, Value& value
     case ASN_OBJECT_ID: {
         oid subIds[MAX_OID_LEN];
         size_t count = std::size(subIds);
-        if (!asn_parse_objid(at, &left, &type, subIds, &count))
+        if (HasWideSubId(at, left) || !asn_parse_objid(at, &left, &type, subIds, &count))
             return false;
         value = OidValue(ToOid(subIds, count));
         return true;
@@ -187,6 +203,11 @@ bool ReadPdu(u_char* at, size_t left, Message& message) {
         oid name[MAX_OID_LEN];
         size_t count = std::size(name), length;
         u_char* value;
+        size_t inner = left;
+        u_char* const first =
+            asn_parse_sequence(at, &inner, &type, ASN_SEQUENCE | ASN_CONSTRUCTOR, "variable");
+        if (!first || HasWideSubId(first, inner))
+            return false;
         at = snmp_parse_var_op(at, name, &count, &type, &length, &value, &left);
         VarBind varBind;
         if (!at || !ReadValue(value, static_cast<size_t>(at - value), type, length, varBind.value))

@@ -1,6 +1,7 @@
 // The load configuration of the DLL, which the system reads when it loads the module. It says where the
-// checks of control flow guard are: before each indirect call the compiler has put a call through a pointer
-// that the system replaces by its own check. Other programs that link the module's code are not guarded.
+// checks of control flow guard are: the compiler makes each indirect call a call through a pointer, with the
+// target in RAX; the system replaces the pointer by that of its own check. Other programs that link the
+// module's code are not guarded.
 #include <cstddef>
 #include <cstdint>
 
