@@ -6,7 +6,7 @@
 // The comment of an export says what it does, then has a line for each argument, then result, last error,
 // thread, time (at worst) and cost where they differ from those of its section or from these, which hold for
 // every export:
-// - Result: FALSE, 0 or null says no.
+// - Result: FALSE, 0 or null means no, or failure.
 // - Last error: not defined.
 // - Thread: any, and several at once. The work is done when the call returns.
 // - Time: the call waits for nothing outside the process.
@@ -29,8 +29,8 @@
 // Every record has a fixed layout without padding, checked when this header is compiled. A record is a table,
 // NAME(R, FIELD, GAP), with a row for each field: R is the record's type, then the offset in bytes, the type,
 // the name and the dimensions. A gap, from one offset to another, belongs to other modules or is unused: this
-// module neither reads nor changes it. The tables can be used to list the fields of a record by other macros
-// than those below.
+// module neither reads nor changes it. To list the fields of a record, expand its table with macros of your
+// own.
 
 #ifdef __cplusplus
 #define TELMAR_CHECK(condition, text) static_assert(condition, text);
@@ -126,21 +126,21 @@ TELMAR_RECORD(TelmarTrayRowRecord, 112, TELMAR_TRAY_ROW_RECORD)
     FIELD(R, 118, uint16_t,       number,) /* from the key's sixth character on */
 TELMAR_RECORD(TelmarResolutionRecord, 120, TELMAR_RESOLUTION_RECORD)
 
-// The meaning of the values is unknown; they are carried through.
+// The values are not interpreted; they are copied from the parameter file.
 #define TELMAR_TAB_PAPER_RECORD(R, FIELD, GAP) \
     FIELD(R,   0, TelmarItemHead, head,) \
     FIELD(R,  48, wchar_t,        display, [48]) \
     FIELD(R, 144, uint32_t,       values,  [3])
 TELMAR_RECORD(TelmarTabPaperRecord, 156, TELMAR_TAB_PAPER_RECORD)
 
-// The meaning of the extra value is unknown; it is carried through.
+// The extra value is not interpreted; it is copied from the parameter file.
 #define TELMAR_COLLATE_RECORD(R, FIELD, GAP) \
     FIELD(R,  0, TelmarItemHead, head,) \
     FIELD(R, 48, uint32_t,       extra,) \
     FIELD(R, 52, char,           texts, [2][64])
 TELMAR_RECORD(TelmarCollateRecord, 180, TELMAR_COLLATE_RECORD)
 
-// The meaning of the values is unknown; they are carried through.
+// The values are not interpreted; they are copied from the parameter file.
 #define TELMAR_OUTPUT_PAPER_SIZE_RECORD(R, FIELD, GAP) \
     FIELD(R,   0, TelmarItemHead, head,) \
     FIELD(R,  48, wchar_t,        display,            [48]) \
@@ -150,8 +150,8 @@ TELMAR_RECORD(TelmarCollateRecord, 180, TELMAR_COLLATE_RECORD)
     FIELD(R, 432, uint32_t,       values,             [2])
 TELMAR_RECORD(TelmarOutputPaperSizeRecord, 440, TELMAR_OUTPUT_PAPER_SIZE_RECORD)
 
-// Lengths are tenths of a millimetre: A4 is 2100 by 2970. Geometry sets and values have no meaning here; they are carried
-// through. A geometry set, and the margins, are 0 where their flag is 0.
+// Lengths are tenths of a millimetre: A4 is 2100 by 2970. Geometry sets and values are not interpreted; they are copied
+// from the parameter file. A geometry set, and the margins, are 0 where their flag is 0.
 #define TELMAR_PAPER_SIZE_RECORD(R, FIELD, GAP) \
     FIELD(R,   0, TelmarItemHead, head,) \
     FIELD(R,  48, wchar_t,        display,            [48]) \
@@ -178,7 +178,7 @@ TELMAR_RECORD(TelmarOutputPaperSizeRecord, 440, TELMAR_OUTPUT_PAPER_SIZE_RECORD)
     FIELD(R, 876, char,           longText,           [128])
 TELMAR_RECORD(TelmarPaperSizeRecord, 1004, TELMAR_PAPER_SIZE_RECORD)
 
-// The meaning of the texts is unknown; they are carried through.
+// The texts are not interpreted; they are copied from the parameter file.
 #define TELMAR_MACHINE_DETAIL_RECORD(R, FIELD, GAP) \
     FIELD(R, 0, char, texts, [2][16])
 TELMAR_RECORD(TelmarMachineDetailRecord, 32, TELMAR_MACHINE_DETAIL_RECORD)
@@ -484,13 +484,13 @@ TELMAR_RECORD(TelmarProfileLists, 36, TELMAR_PROFILE_LISTS)
 // stay the caller's, and stay valid until the dialog has ended.
 #define TELMAR_DIALOG_CONTEXT(R, FIELD, GAP) \
     FIELD(R,  0, TelmarOemDevmode*,         settings,)       /* edited in place */ \
-    FIELD(R,  8, TelmarOemDevmode*,         saveArea,)       /* from opening to end: the settings as they were at opening */ \
-    FIELD(R, 16, TelmarOemDevmode*,         scratch,)        /* for the default settings */ \
+    FIELD(R,  8, TelmarOemDevmode*,         saveArea,)       /* what Cancel restores: the settings after the first check by DoConstraints */ \
+    FIELD(R, 16, TelmarOemDevmode*,         scratch,)        /* for the button "Defaults"; null: it does nothing */ \
     FIELD(R, 24, const TelmarProfileLists*, profiles,)       /* of the printer; may be null */ \
-    FIELD(R, 32, HANDLE,                    printer,)        /* of the spooler */ \
+    FIELD(R, 32, HANDLE,                    printer,)        /* of the spooler, for "Defaults"; may be null */ \
     FIELD(R, 40, uint32_t,                  changesAllowed,) /* 0: the user may look but not change */ \
     FIELD(R, 44, uint32_t,                  shortRgbLists,)  /* not 0: only the RGB sources device RGB and sRGB */ \
-    FIELD(R, 48, TelmarTrayPaperSetting*,   trays,)          /* TELMAR_TRAY_COUNT records, of the tray-setting dialogs */
+    FIELD(R, 48, TelmarTrayPaperSetting*,   trays,)          /* TELMAR_TRAY_COUNT records, for the tray-setting dialogs alone */
 TELMAR_RECORD(TelmarDialogContext, 56, TELMAR_DIALOG_CONTEXT)
 
 // The text of one control.
@@ -529,7 +529,7 @@ TELMAR_RECORD(TelmarStopIconTable, 990032, TELMAR_STOP_ICON_TABLE)
 #define TELMAR_SUPPLY_FIXED      3
 #define TELMAR_SUPPLY_END        999 // the closing record of the list
 
-// What is known of a supply, and so what its value is. Only a percentage has a colour.
+// The state of a supply says how to read its value. Only a percentage has a colour.
 #define TELMAR_STATE_UNKNOWN 0 // value 0
 #define TELMAR_STATE_PERCENT 1 // value in % of its capacity, 0 to 100
 #define TELMAR_STATE_LEVEL   2 // value one of the levels below
@@ -678,7 +678,7 @@ TELMAR_RECORD(TelmarInputTrayStatusItem, 228, TELMAR_INPUT_TRAY_STATUS_ITEM)
 // The part of the caller's settings that DDProc_GetPrinterIPAddress reads. The rest belongs to the user-interface module.
 #define TELMAR_ADDRESS_SETTINGS(R, FIELD, GAP) \
     GAP(R,   0, 562) \
-    FIELD(R, 562, uint8_t, hasAddress,)     /* not 0: `address` holds, and the queue is not asked */ \
+    FIELD(R, 562, uint8_t, hasAddress,)     /* not 0: `address` is valid, and the queue is not asked */ \
     GAP(R, 563, 564) \
     FIELD(R, 564, wchar_t, address,    [1]) /* as long as it needs to be */
 TELMAR_RECORD(TelmarAddressSettings, 566, TELMAR_ADDRESS_SETTINGS)
@@ -696,7 +696,7 @@ extern "C" {
 // the target; without memory for that it is drawn on the target itself. A null rectangle or request draws
 // nothing.
 // - target: the context to draw into. Its resolution sets the size of the caption.
-// - rectangle: in logical units of the target. Left and top are to be 0: the picture goes to the target's
+// - rectangle: in logical units of the target. Left and top must be 0: the picture goes to the target's
 //   origin and is cropped by a rectangle elsewhere.
 // - request: the options, the paper source and the outputs to show.
 // - Thread: any that may draw into the target.
@@ -722,13 +722,16 @@ void WINAPI DrawLogoImage(HDC context, HWND page, const void* reserved, WORD pag
 // - Cost: two bitmaps and a memory context, which are released.
 void WINAPI DrawLogoVersionTab(HDC context, const void* reserved, LONG x, LONG y);
 
-// Characters of a bin name, UTF-16. A name that fills them all has no NUL.
+// Characters of a bin name, UTF-16, with its NUL. The rest is 0.
 #define TELMAR_BIN_NAME_LENGTH 24
 
-// Answers DC_BINS, DC_BINNAMES, DC_DUPLEX and DC_STAPLE of the system's DeviceCapabilities for what is
-// installed.
-// - device: its input trays are listed; null: there are none.
-// - features, settings: the installed options; null: none.
+// Answers DC_BINS, DC_BINNAMES, DC_DUPLEX and DC_STAPLE of the system's DeviceCapabilities. A paper source is
+// listed unless there is an option feature "Op" with its key whose selected item does not begin with
+// "EnaOpInTray". Duplex is always 1. Staples are 1 when the selected item of "OpOutTrayUnit" is another than
+// "DisOpOutTrayUnit".
+// - device: its input trays are the paper sources; null: there are none.
+// - features, settings: the options and their selected items. Without features all paper sources are listed;
+//   without settings no item is selected.
 // - reserved: not read.
 // - capability: one of the four above.
 // - output: gets an element for each usable paper source, a WORD for DC_BINS, TELMAR_BIN_NAME_LENGTH
@@ -750,8 +753,8 @@ void* WINAPI DDProc_FeatureNameValuePtr(void);
 #define TELMAR_TRAY_BUTTON_PAGE 156
 #define TELMAR_TRAY_BUTTON      1847
 
-// Send it to a colour dialog that lists the printer's profiles when the settings or the lists have changed;
-// the dialog shows them again. No parameters.
+// Send it to dialog 122, 124 or 128, which list the printer's profiles, when the settings or the profiles
+// have changed. The dialog shows them again. No parameters.
 #define TELMAR_WM_REFRESH (WM_USER + 100)
 
 // The page with the tray-settings button sends it to its parent after the tray dialog has ended by OK; wParam
@@ -764,7 +767,7 @@ void* WINAPI DDProc_FeatureNameValuePtr(void);
 // - dialogId: 122 to 125 and 128 (colours), or 156 (the page with the tray-settings button). For any other
 //   nothing is done.
 // - window: the dialog, or the page.
-// - message, wParam, lParam: as the dialog procedure has got them.
+// - message, wParam, lParam: as received by the dialog procedure.
 // - handled: set to 1 when a colour dialog has handled the message, otherwise unchanged, so clear it before
 //   the call. Page 156 never sets it. It may be null; the entries of lists are then not drawn.
 // - Result: that of the dialog procedure for this message; 0 when it is not handled.
@@ -772,7 +775,8 @@ void* WINAPI DDProc_FeatureNameValuePtr(void);
 // - Time: the button of page 156 returns after the user has closed the tray dialog. Help returns when WinHelp
 //   does. The button for the defaults waits for the spooler.
 // - Cost: WM_INITDIALOG of a colour dialog loads TELMAR_U.DLL, WM_DESTROY frees it. Each press of the button
-//   of page 156 loads it twice and leaves it loaded. A drawn entry of a list makes a brush and releases it.
+//   of page 156 loads it, and the dialog that it opens once more; both leave it loaded. A drawn entry of a
+//   list makes a brush and releases it.
 int32_t WINAPI DDProc_DlgProc(uint32_t dialogId, HWND window, UINT message, WPARAM wParam, LPARAM lParam,
                               int32_t* handled);
 
@@ -793,70 +797,77 @@ const TelmarMrkSupItem* WINAPI GET_MrkSupItemList(void);
 // object after the other and blocks its thread until each has been answered or given up. Without SNMP
 // functions, of the system or built in, it fails with the last error unchanged.
 //
-// The built-in client sends a request up to five times and polls the socket 10,000 times after each, without
-// regard to the clock; an answer that comes after its polls counts as none. When answers to other requests
-// come instead, it waits up to 8 s more (four times 2 s). The system's SNMP libraries, which are used where
-// they are installed, take up to 8 s for an object (2 s and three retries).
+// Printers are asked on UDP port 161 by SNMPv1 with the community "tovask"; none of these can be set.
+//
+// The time for one object: the built-in client sends a request up to five times and polls the socket 10,000
+// times after each, without regard to the clock; an answer that comes after its polls counts as none. If
+// replies to earlier requests arrive first, it waits up to 8 s more (four times 2 s), and after five of them
+// gives the object up. The system's SNMP libraries, which are used where they are installed, take up to 8 s
+// for an object (2 s and three retries).
 // - agent: a dotted IPv4 address or a host name, in the system's ANSI code page. Not null.
 // - Last error: 87 (ERROR_INVALID_PARAMETER) for a null argument, the reason when no session can be opened,
 //   otherwise unchanged.
-// - Time: the host name's resolution, and at most the time above for each object.
+// - Time: resolving the host name, and at most the time above for each object.
 // - Cost: a session. For each object a request and a few blocks of memory, which are released.
 
 // Checks whether the agent answers at all. It is the cheapest query.
 // - agent: a dotted IPv4 address or a host name, in the system's ANSI code page. Neither null nor empty.
 // - Result: TRUE when any answer has come.
 // - Last error: 87 for a null or empty agent; what the session or the request has set when it failed.
-// - Time: the host name's resolution and one object; through the system's libraries 2 s (1 s and one retry).
+// - Time: resolving the host name and one object; through the system's libraries 2 s (1 s and one retry).
 // - Cost: a session and one object.
 BOOL WINAPI MIB_IsAccessOK(const char* agent);
 
 // Checks whether the device is this model.
 // - Result: TRUE without a request while the model check is off, as in this model.
 // - Last error: 87 for a null agent; otherwise unchanged.
-// - Time: none while the model check is off; otherwise the host name's resolution and one object.
+// - Time: none while the model check is off; otherwise resolving the host name and one object.
 // - Cost: none while the model check is off; otherwise a session and one object.
 BOOL WINAPI MIB_IsModelOK(const char* agent);
 
 // Asks for installed options.
 // - count: of the items.
 // - items: the value of each gets the key of the installed option's item; empty when the option is unknown or
-//   the device does not answer.
-// - Result: TRUE when a session was opened, also when no item was answered; otherwise FALSE, with the items
-//   unchanged.
-// - Time: the host name's resolution, and at most 15 objects for the 13 options of the table; eight when the
-//   printer answers none.
+//   the device does not answer. "OpManualFeed" and the output trays have a value without a request, whatever
+//   the device answers.
+// - Result: TRUE when a session was opened, also when the device has not answered; otherwise FALSE, with the
+//   items unchanged.
+// - Time: resolving the host name, and at most 15 objects for the 13 options of the table; eight when the
+//   printer answers none. The time for an object is above.
 // - Cost: a session. "OpMemory" takes up to eight requests, one for each size until one matches;
 //   "OpManualFeed" and the output trays none; any other option one.
 BOOL WINAPI MIB_OptionRequest(const char* agent, DWORD count, TelmarOptionRequestItem* items);
 
 // Asks for the levels of supplies.
 // - count: of the items.
-// - items: each gets state, value and colour; all 0 when they are not available.
+// - items: each gets state, value and colour; all 0 when they are not available. A supply that printers are
+//   not asked for has state 3.
 // - Result: FALSE when no session was opened, with the items unchanged, and at the first name that is not in
 //   the list: that item is cleared, those after it are unchanged. Otherwise TRUE.
-// - Time: the host name's resolution, and at most ten objects for the 12 supplies of the list; five when the
+// - Time: resolving the host name, and at most ten objects for the 12 supplies of the list; five when the
 //   printer answers none.
 // - Cost: a session, and two objects for each of the five supplies that printers are asked for.
 BOOL WINAPI MIB_MrkSupRequest(const char* agent, DWORD count, TelmarMrkSupRequestItem* items);
 
-// Reads the overlays that the printer stores.
+// Reads the overlays that the printer stores, up to the first whose object at `firstOid` of the table is
+// empty or missing. Texts are cut at 127 bytes.
 // - storage: 0 or 1, the number of the overlay table's selector that chooses the overlays.
 // - Result: one block, which the caller releases by MIB_FreeOverlayInfo; null when no session was opened, a
 //   request failed, the storage is any other, or memory is missing.
 // - Last error: 87 for a null agent or another storage; what the session or the request has set when it
 //   failed.
-// - Time: the host name's resolution and the answers; it ends with the first object that is not answered. At
+// - Time: resolving the host name and the answers; it ends with the first object that is not answered. At
 //   most 32,767 overlays are read.
 // - Cost: a session, up to three objects for each overlay of the printer and one more, a block that doubles
 //   while it is filled, and the result.
 TelmarOverlayInfo* WINAPI MIB_OverlayRequest(const char* agent, int32_t storage);
 
-// Reads the colour profiles that the printer stores.
+// Reads the colour profiles that the printer stores, up to the first whose object at `secondOid` of the table
+// is empty or missing. Texts are cut at 127 bytes. A profile whose storage has an unknown number is left out.
 // - Result: one block, which the caller releases by MIB_FreeProfileInfo; null when no session was opened, a
 //   request failed, or memory is missing.
 // - Last error: 87 for a null agent; what the session or the request has set when it failed.
-// - Time: the host name's resolution and the answers; it ends with the first object that is not answered. At
+// - Time: resolving the host name and the answers; it ends with the first object that is not answered. At
 //   most 32,767 profiles are read.
 // - Cost: a session, up to seven objects for each profile of the printer and one more, a block that doubles
 //   while it is filled, and the result.
@@ -914,8 +925,8 @@ BOOL WINAPI DDProc_InputTrayStatus(const char* agent, DWORD count, TelmarInputTr
 // --- Exports: the printer's address
 
 // Finds the network address of the printer behind a print queue, as text in the system's ANSI code page. When
-// the settings have an address, it is that; otherwise the queue's port is asked. What is not mentioned stays
-// unchanged.
+// the settings have an address, it is that; otherwise the queue's port is asked. Outputs that are not
+// mentioned below are left unchanged.
 // - printerName: as for OpenPrinterW. Not read when the settings have an address.
 // - settings: the caller's. Not null.
 // - buffer: gets the address with its NUL. Null asks for the size of a queue's address alone.
@@ -959,7 +970,8 @@ typedef void WINAPI TelmarStoreStopIconRect(HWND dialog, const TelmarStopIconTab
 
 // Checks the settings after a control has changed, or all of them.
 // - reserved1, reserved2: null.
-// - hintWindow: what CreateToolWnd has returned.
+// - hintWindow: what CreateToolWnd has returned. In a tray dialog with control 0 it is that of the last
+//   colour dialog, which may be null or gone.
 // - control: the one that has changed; 0: all settings are checked, and nothing is refused.
 // - all: -1.
 // - Result: one of the two above when the change is refused; the dialog then undoes it.
