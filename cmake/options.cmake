@@ -28,8 +28,9 @@ if(CCACHE AND EXISTS "${CCACHE}" AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
         "${CCACHE}")
 endif()
 
-# Products contain neither the folder of the sources nor that of the build, so that they are the same wherever they are built: places in messages are relative to the
-# project, and in the debug symbols of Windows the project is the folder C:\\telmar_d. ccache makes paths relative to the build.
+# Products contain neither the folder of the sources nor that of the build, so that they are the same wherever they are built: places
+# in messages are relative to the project, and in the debug symbols of Windows the project is the folder C:\\telmar_d. ccache makes
+# paths relative to the build.
 set(folder_in_symbols .)
 if(WIN32)
     set(folder_in_symbols C:/telmar_d)

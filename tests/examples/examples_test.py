@@ -64,24 +64,28 @@ def check_import_library():
 
 
 def check_messages():
-    """What find_package says on the wrong target, of a damaged package, and of a version that it does not have."""
+    """What find_package says on the wrong target, of a damaged package, and of what a project asks for."""
     text = " ".join(configure(work / "host", code=1).split())
     expect("TELMAR_D.DLL is for Windows x86-64 only" in text and "Configure for Windows x86-64" in text, text)
-    library = package / "lib/TELMAR_D.lib"
-    library.rename(work / "kept")
-    text = " ".join(configure(work / "damaged", *TOOLCHAINS[compiler], code=1).split())
-    expect("lacks lib/TELMAR_D.lib. Unpack the whole package again." in text, text)
-    (work / "kept").rename(library)
+    for file in ("lib/TELMAR_D.lib", "TELMAR_D.PRM"):
+        (package / file).rename(work / "kept")
+        text = " ".join(configure(work / "damaged", *TOOLCHAINS[compiler], code=1).split())
+        expect(f"lacks {file}. Unpack the whole package again." in text, text)
+        (work / "kept").rename(package / file)
     version = re.search(r"^project\(.* VERSION ([\d.]+)", (source / "CMakeLists.txt").read_text(), re.M)[1]
-    (work / "version").mkdir()
-    for wanted, is_found in ((f"{version} EXACT", True), (version.split(".")[0], True), ("99", False)):
-        (work / "version/CMakeLists.txt").write_text(
-            f'cmake_minimum_required(VERSION 3.20)\nproject(versions C)\n'
+    (work / "client").mkdir()
+    for language, wanted, refusal in (
+            ("C", f"{version} EXACT", ""), ("C", version.split(".")[0], ""), ("C", "99", 'requested version "99"'),
+            ("NONE", "", "No language is enabled. project() must enable C or C++"),
+            ("C", "COMPONENTS extra", "telmar_d has no components. Leave out COMPONENTS extra.")):
+        (work / "client/CMakeLists.txt").write_text(
+            f'cmake_minimum_required(VERSION 3.20)\nproject(client {language})\n'
             f'find_package(telmar_d {wanted} CONFIG REQUIRED PATHS "{package}" NO_DEFAULT_PATH '
             'NO_CMAKE_FIND_ROOT_PATH)\n')
-        shutil.rmtree(work / "version/build", ignore_errors=True)
-        run(["cmake", "-G", "Ninja", "-S", work / "version", "-B", work / "version/build", *TOOLCHAINS[compiler]],
-            code=0 if is_found else 1)
+        shutil.rmtree(work / "client/build", ignore_errors=True)
+        text = run(["cmake", "-G", "Ninja", "-S", work / "client", "-B", work / "client/build", *TOOLCHAINS[compiler]],
+                   code=1 if refusal else 0)
+        expect(refusal in " ".join(text.split()), text)
 
 
 def compare(printed, *commands):

@@ -53,22 +53,23 @@ fs::path PackageFolder() {
     return fs::path(path).parent_path().parent_path();
 }
 
+std::runtime_error CannotWrite(const fs::path& folder, DWORD error) {
+    return std::runtime_error("cannot write into " + folder.u8string() + " (" + ErrorText(error)
+                              + "). Unpack the package into a folder of your own.");
+}
+
 // An empty folder for the logs, without what the run before has left. The lock, which ends with the program,
 // keeps a second run away.
 HANDLE PrepareLogs(const Folders& folders) {
     std::error_code error;
     if (!fs::create_directory(folders.Logs(), error) && error)
-        throw std::runtime_error("cannot make the folder " + folders.Logs().u8string() + " ("
-                                 + ErrorText(static_cast<DWORD>(error.value()))
-                                 + "). Unpack the package into a folder of your own.");
+        throw CannotWrite(folders.root, static_cast<DWORD>(error.value()));
     HANDLE lock = CreateFileW((folders.Logs() / "running").c_str(), GENERIC_WRITE | DELETE, 0, nullptr,
                               CREATE_ALWAYS, FILE_FLAG_DELETE_ON_CLOSE, nullptr);
     if (lock == INVALID_HANDLE_VALUE && GetLastError() == ERROR_SHARING_VIOLATION)
         throw std::runtime_error("the checks of this folder are running already. Wait for their end.");
     if (lock == INVALID_HANDLE_VALUE)
-        throw std::runtime_error("cannot write into " + folders.Logs().u8string() + " ("
-                                 + ErrorText(GetLastError())
-                                 + "). Unpack the package into a folder of your own.");
+        throw CannotWrite(folders.Logs(), GetLastError());
     for (const fs::directory_entry& entry : fs::directory_iterator(folders.Logs()))
         if (entry.path().filename() != "running")
             fs::remove_all(entry.path(), error);
